@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: MIT
+#include "platform/Files.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+namespace Files {
+namespace {
+
+FaultHook& Hook() {
+    static FaultHook hook;
+    return hook;
+}
+
+bool Allowed(Operation operation, const QString& sPath, QString& sError) {
+    if (!Hook()) return true;
+    const std::optional<QString> fault = Hook()(operation, sPath);
+    if (fault) sError = *fault;
+    return !fault;
+}
+
+bool Failed(const QFileDevice& file, QString& sError) {
+    sError = file.errorString();
+    return false;
+}
+
+} // namespace
+
+FaultHook SetFaultHook(FaultHook hook) {
+    std::swap(Hook(), hook);
+    return hook;
+}
+
+bool Exists(const QString& sPath) { return !sPath.isEmpty() && QFileInfo(sPath).isFile(); }
+
+bool IsDirectory(const QString& sPath) { return !sPath.isEmpty() && QFileInfo(sPath).isDir(); }
+
+QString InDiskSpelling(const QString& sPath) {
+    const QFileInfo info(sPath);
+    if (sPath.isEmpty() || info.exists()) return sPath;
+    const QString wanted = info.fileName();
+    QString found;
+    const QStringList names = info.dir().entryList(QDir::Files | QDir::Hidden);
+    for (const QString& name : names) {
+        if (name.compare(wanted, Qt::CaseInsensitive) != 0) continue;
+        if (!found.isEmpty()) return sPath;
+        found = name;
+    }
+    if (found.isEmpty()) return sPath;
+    return sPath.left(sPath.size() - wanted.size()) + found;
+}
+
+qint64 Size(const QString& sPath) { return QFileInfo(sPath).size(); }
+
+Stamp StampOf(const QString& sPath) {
+    const QFileInfo info(sPath);
+    if (!info.isFile()) return {};
+    return {info.lastModified().toMSecsSinceEpoch(), info.size()};
+}
+
+std::optional<QByteArray> ReadAll(const QString& sPath, QString& sError) {
+    if (!Allowed(Operation::OpenRead, sPath, sError)) return std::nullopt;
+    if (IsDirectory(sPath)) {
+        sError = QStringLiteral("It is a folder, not a file");
+        return std::nullopt;
+    }
+    QFile file(sPath);
+    if (!file.open(QIODevice::ReadOnly)) {
+        Failed(file, sError);
+        return std::nullopt;
+    }
+    if (!Allowed(Operation::Read, sPath, sError)) return std::nullopt;
+    QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError) {
+        Failed(file, sError);
+        return std::nullopt;
+    }
+    return bytes;
+}
+
+bool WriteWhole(const QString& sPath, const QByteArray& bytes, QString& sError) {
+    if (!Allowed(Operation::OpenWrite, sPath, sError)) return false;
+    QSaveFile file(sPath);
+    file.setDirectWriteFallback(true);
+    if (!file.open(QIODevice::WriteOnly)) return Failed(file, sError);
+    if (!Allowed(Operation::Write, sPath, sError)) {
+        file.cancelWriting();
+        return false;
+    }
+    if (file.write(bytes) != bytes.size()) {
+        Failed(file, sError);
+        file.cancelWriting();
+        return false;
+    }
+    if (!Allowed(Operation::Commit, sPath, sError)) {
+        file.cancelWriting();
+        return false;
+    }
+    return file.commit() || Failed(file, sError);
+}
+
+bool Append(const QString& sPath, const QByteArray& bytes, QString& sError) {
+    if (!Allowed(Operation::OpenAppend, sPath, sError)) return false;
+    QFile file(sPath);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Append)) return Failed(file, sError);
+    if (!Allowed(Operation::Append, sPath, sError)) return false;
+    if (file.write(bytes) != bytes.size()) return Failed(file, sError);
+    file.close();
+    return file.error() == QFileDevice::NoError || Failed(file, sError);
+}
+
+bool Remove(const QString& sPath, QString& sError) {
+    if (!Allowed(Operation::Remove, sPath, sError)) return false;
+    QFile file(sPath);
+    return !file.exists() || file.remove() || Failed(file, sError);
+}
+
+bool Rename(const QString& sFrom, const QString& sTo, QString& sError) {
+    if (!Allowed(Operation::Rename, sFrom, sError)) return false;
+    QFile file(sFrom);
+    return file.rename(sTo) || Failed(file, sError);
+}
+
+bool Copy(const QString& sFrom, const QString& sTo, QString& sError) {
+    if (!Allowed(Operation::Copy, sTo, sError)) return false;
+    const std::optional<QByteArray> bytes = ReadAll(sFrom, sError);
+    return bytes && WriteWhole(sTo, *bytes, sError);
+}
+
+bool MakeDirectory(const QString& sPath, QString& sError) {
+    if (!Allowed(Operation::MakeDirectory, sPath, sError)) return false;
+    if (IsDirectory(sPath) || QDir().mkdir(sPath)) return true;
+    sError = QStringLiteral("The folder '%1' can't be created").arg(sPath);
+    return false;
+}
+
+bool MoveToTrash(const QString& sPath, QString& sError) {
+    if (!Allowed(Operation::Remove, sPath, sError)) return false;
+    QFile file(sPath);
+    return !file.exists() || file.moveToTrash() || file.remove() || Failed(file, sError);
+}
+
+} // namespace Files

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <functional>
+#include <optional>
+
+/// Every operation on the disk that can lose or keep a user's work goes through here, so that a test can
+/// make any single one of them fail, or end the program at it.
+namespace Files {
+
+enum class Operation { OpenRead, Read, OpenWrite, Write, Commit, OpenAppend, Append, Remove, Rename, Copy, MakeDirectory };
+
+/// Asked before each operation; a text is the reason for which the operation fails without being tried.
+using FaultHook = std::function<std::optional<QString>(Operation operation, const QString& sPath)>;
+/// Puts a hook in force (an empty one takes it away) and returns the one it replaces.
+FaultHook SetFaultHook(FaultHook hook);
+
+/// True for a file, not for a directory. The case of letters counts.
+bool Exists(const QString& sPath);
+bool IsDirectory(const QString& sPath);
+/// The path in the spelling that the disk has: the exact name goes first; if just one name in the folder
+/// differs only in case, that one is meant. Unchanged when there is no such file.
+QString InDiskSpelling(const QString& sPath);
+qint64 Size(const QString& sPath);
+/// Seconds since 1970 with milliseconds kept, and the size: enough to tell that a file was changed. -1, -1
+/// when it isn't there.
+struct Stamp {
+    qint64 modifiedMs = -1;
+    qint64 size = -1;
+    friend bool operator==(const Stamp&, const Stamp&) = default;
+};
+Stamp StampOf(const QString& sPath);
+
+/// The whole file, or nothing and a sentence in sError.
+std::optional<QByteArray> ReadAll(const QString& sPath, QString& sError);
+
+/// Replaces the file by these bytes so that either the old or the new content stands there whole, whatever
+/// happens: written beside, flushed to the disk, then renamed over. In a folder that takes no new file it
+/// is written in place. False and a sentence in sError on failure; the old file then stands.
+bool WriteWhole(const QString& sPath, const QByteArray& bytes, QString& sError);
+
+bool Append(const QString& sPath, const QByteArray& bytes, QString& sError);
+/// True as well when there was no such file.
+bool Remove(const QString& sPath, QString& sError);
+/// Fails when sTo exists.
+bool Rename(const QString& sFrom, const QString& sTo, QString& sError);
+/// Copies the content; replaces sTo safely when it exists.
+bool Copy(const QString& sFrom, const QString& sTo, QString& sError);
+/// Creates one folder whose parent exists; true as well when it is there.
+bool MakeDirectory(const QString& sPath, QString& sError);
+/// Moves a user's file to the trash where there is one, and removes it only if that fails.
+bool MoveToTrash(const QString& sPath, QString& sError);
+
+} // namespace Files

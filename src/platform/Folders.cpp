@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#include "platform/Folders.h"
+
+#include "platform/ProgramSettings.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
+#include <QStorageInfo>
+
+namespace Folders {
+namespace {
+
+// A file that every installation of the program has; its presence tells a data folder.
+const char* const kDataMark = "GamePlay_US.dat";
+
+bool HoldsData(const QString& sFolder) { return QFileInfo(QDir(sFolder).filePath(QString::fromLatin1(kDataMark))).isFile(); }
+
+QString NearestExisting(const QString& sPath) {
+    QFileInfo info(sPath);
+    while (!info.exists() && info.absolutePath() != info.absoluteFilePath()) info.setFile(info.absolutePath());
+    return info.absoluteFilePath();
+}
+
+// Volumes that the system mounts for itself.
+bool IsForPeople(const QStorageInfo& volume) {
+    if (!volume.isValid() || !volume.isReady()) return false;
+    if (volume.isRoot()) return true;
+    const QString root = volume.rootPath();
+    const QByteArray kind = volume.fileSystemType();
+    const bool network = kind.startsWith("nfs") || kind == "cifs" || kind.startsWith("smb") || kind == "fuse.sshfs";
+#ifdef Q_OS_UNIX
+    return network || root.startsWith(u"/media/") || root.startsWith(u"/run/media/") || root.startsWith(u"/mnt/") ||
+           root.startsWith(u"/Volumes/");
+#else
+    return true;
+#endif
+}
+
+} // namespace
+
+QString Documents() { return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation); }
+QString Home() { return QDir::homePath(); }
+QString Pictures() { return QStandardPaths::writableLocation(QStandardPaths::PicturesLocation); }
+
+QString ProgramDirectory() {
+    if (!Settings().sProgramDirectory.isEmpty()) return Settings().sProgramDirectory;
+    const QString own = QCoreApplication::applicationDirPath();
+    if (HoldsData(own)) return own;
+    const QString shared = QDir::cleanPath(own + QStringLiteral("/../share/tavlora"));
+    if (HoldsData(shared)) return shared;
+    return QStringLiteral(TAVLORA_BUILD_DATA_DIR);
+}
+
+QList<Volume> Volumes() {
+    QList<Volume> volumes{{Home(), QStringLiteral("Home")}};
+    for (const QStorageInfo& volume : QStorageInfo::mountedVolumes()) {
+        if (IsForPeople(volume)) volumes.append({volume.rootPath(), volume.displayName()});
+    }
+    return volumes;
+}
+
+bool OnSameVolume(const QString& sPathA, const QString& sPathB) {
+    return QStorageInfo(NearestExisting(sPathA)).rootPath() == QStorageInfo(NearestExisting(sPathB)).rootPath();
+}
+
+double FreeBytes(const QString& sPath) {
+    const QStorageInfo volume(NearestExisting(sPath));
+    return volume.isValid() ? double(volume.bytesAvailable()) : 0.0;
+}
+
+} // namespace Folders

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QList>
+
+/// Where things lie on this machine.
+namespace Folders {
+
+/// The user's documents folder, without a trailing separator.
+QString Documents();
+QString Home();
+QString Pictures();
+/// Folder of the program's own data files: Settings().sProgramDirectory if set; else the folder of the
+/// program if its data lie there, else share/tavlora beside it, else the build's data folder.
+QString ProgramDirectory();
+
+struct Volume {
+    QString sRoot;
+    QString sName;
+};
+/// Home, root, removable and network volumes: those that a person would know.
+QList<Volume> Volumes();
+/// True when both paths lie on the same mounted volume.
+bool OnSameVolume(const QString& sPathA, const QString& sPathB);
+/// Bytes that the user may still write on the volume holding sPath; 0 when it can't be told.
+double FreeBytes(const QString& sPath);
+
+} // namespace Folders

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#include "platform/FontFace.h"
+
+#include <QFontMetricsF>
+#include <QHash>
+#include <QPainter>
+
+#include <array>
+#include <memory>
+
+namespace {
+
+struct LetterWeight {
+    char letter;
+    int perMille;
+};
+
+// How often each letter occurs in a thousand of running text.
+constexpr std::array<LetterWeight, 27> kLetterWeights = {{
+    {'a', 64}, {'b', 14}, {'c', 27}, {'d', 35}, {'e', 100}, {'f', 20}, {'g', 14}, {'h', 42}, {'i', 63},
+    {'j', 3},  {'k', 6},  {'l', 35}, {'m', 20}, {'n', 56},  {'o', 56}, {'p', 17}, {'q', 4},  {'r', 49},
+    {'s', 56}, {'t', 71}, {'u', 31}, {'v', 10}, {'w', 18},  {'x', 3},  {'y', 18}, {'z', 2},  {' ', 166},
+}};
+
+// The toolkit joins letters into ligatures unless they are spaced; this is too little to be seen or to
+// change a width, and enough to keep f and i apart.
+constexpr double kNoLigatures = 1.0 / 64;
+
+QFont LargeFont(const QString& sFamily, bool bBold, bool bItalic) {
+    QFont font(sFamily.isEmpty() ? QStringLiteral("Arial") : sFamily);
+    font.setPixelSize(int(FontFace::kUnitsPerEm));
+    font.setBold(bBold);
+    font.setItalic(bItalic);
+    font.setKerning(false);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    font.setStyleStrategy(QFont::StyleStrategy(QFont::PreferAntialias | QFont::PreferOutline));
+    font.setLetterSpacing(QFont::AbsoluteSpacing, kNoLigatures);
+    return font;
+}
+
+} // namespace
+
+const FontFace& FontFace::Get(const QString& sFamily, bool bBold, bool bItalic) {
+    static QHash<QString, std::shared_ptr<const FontFace>> faces;
+    const QString key = QStringLiteral("%1|%2%3").arg(sFamily).arg(int(bBold)).arg(int(bItalic));
+    std::shared_ptr<const FontFace>& face = faces[key];
+    if (!face) face.reset(new FontFace(sFamily, bBold, bItalic));
+    return *face;
+}
+
+FontFace::FontFace(const QString& sFamily, bool bBold, bool bItalic) : m_font(LargeFont(sFamily, bBold, bItalic)) {
+    const QFontMetricsF metrics(m_font);
+    m_ascent = metrics.ascent();
+    m_descent = metrics.descent();
+    for (const LetterWeight& weight : kLetterWeights) {
+        m_averageWidth += Advance(QString(QLatin1Char(weight.letter))) * weight.perMille / 1000.0;
+    }
+}
+
+double FontFace::Advance(const QString& sText) const { return QFontMetricsF(m_font).horizontalAdvance(sText); }
+
+void FontFace::Draw(QPainter& painter, const QString& sText, bool bUnderline) const {
+    QFont font = m_font;
+    font.setUnderline(bUnderline);
+    painter.setFont(font);
+    painter.drawText(QPointF(0, 0), sText);
+}

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QFont>
+#include <QString>
+
+class QPainter;
+
+/// One typeface in one style, measured once in units of 1/2048 of the em. Layout is computed from these
+/// unhinted measures, so it comes out the same at every size, scale and device; kerning and ligatures are
+/// off, as a width is the sum of the advances.
+class FontFace {
+public:
+    static constexpr double kUnitsPerEm = 2048.0;
+
+    /// A family that this machine lacks is replaced by the nearest one; an empty family means Arial.
+    static const FontFace& Get(const QString& sFamily, bool bBold, bool bItalic);
+
+    double Ascent() const { return m_ascent; }
+    double Descent() const { return m_descent; }
+    double CellHeight() const { return m_ascent + m_descent; }
+    /// Average advance of a to z and the blank, weighted by how often each occurs in text; 0 for a symbol
+    /// font. Taken from the advances and not from the font's own table, where stand-ins for Arial and Times
+    /// New Roman carry another average that would draw their text a quarter too narrow.
+    double AverageWidth() const { return m_averageWidth; }
+    /// Sum of the advances of a text.
+    double Advance(const QString& sText) const;
+
+    /// Draws with the left end of the baseline in the origin, in these units: 2048 to the em.
+    void Draw(QPainter& painter, const QString& sText, bool bUnderline) const;
+
+private:
+    FontFace(const QString& sFamily, bool bBold, bool bItalic);
+
+    QFont m_font;
+    double m_ascent = 0;
+    double m_descent = 0;
+    double m_averageWidth = 0;
+};

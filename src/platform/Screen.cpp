@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#include "platform/Screen.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QWidget>
+
+namespace Screen {
+namespace {
+
+struct State {
+    QSize surfaceLimit{3840, 2160};
+    int pretendedBits = 0;
+};
+
+State& TheState() {
+    static State state;
+    return state;
+}
+
+const QScreen* Primary() { return QGuiApplication::primaryScreen(); }
+
+} // namespace
+
+QSize Size() { return Primary() ? Primary()->size() : QSize(1280, 1024); }
+
+QRect FreeArea() { return Primary() ? Primary()->availableGeometry() : QRect(QPoint(0, 0), Size()); }
+
+int BitsPerPixel() {
+    if (TheState().pretendedBits > 0) return TheState().pretendedBits;
+    return Primary() ? Primary()->depth() : 32;
+}
+
+QSize SurfaceLimit() { return TheState().surfaceLimit; }
+void SetSurfaceLimit(QSize limit) { TheState().surfaceLimit = limit.expandedTo(QSize(1, 1)); }
+void PretendBitsPerPixel(int bits) { TheState().pretendedBits = bits; }
+
+void PlaceWindow(QWidget& window, QRect wanted) {
+    const QRect area = FreeArea();
+    wanted.setSize(wanted.size().boundedTo(area.size()));
+    if (wanted.right() > area.right()) wanted.moveRight(area.right());
+    if (wanted.bottom() > area.bottom()) wanted.moveBottom(area.bottom());
+    if (wanted.left() < area.left()) wanted.moveLeft(area.left());
+    if (wanted.top() < area.top()) wanted.moveTop(area.top());
+    window.resize(wanted.size());
+    window.move(wanted.topLeft());
+}
+
+} // namespace Screen

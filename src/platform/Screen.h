@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QRect>
+#include <QSize>
+
+class QWidget;
+
+/// The display. Layout is told in twips, of which 15 make a pixel; pixels are the toolkit's
+/// device-independent ones.
+namespace Screen {
+
+constexpr int kTwipsPerPixel = 15;
+
+constexpr int TwipsToPixels(int twips) { return twips / kTwipsPerPixel; }
+
+/// Width and height of the whole screen in pixels.
+QSize Size();
+/// The part of the screen that windows may cover.
+QRect FreeArea();
+int BitsPerPixel();
+
+/// Largest size, in pixels, that a hidden drawing surface may take. The same on every display, so that
+/// what is printed never depends on the monitor.
+QSize SurfaceLimit();
+void SetSurfaceLimit(QSize limit);
+/// Tests say what the display is: 0 gives the true depth again.
+void PretendBitsPerPixel(int bits);
+
+/// Sizes and places a window, never larger than the free area nor left of or above it. Pixels.
+void PlaceWindow(QWidget& window, QRect wanted);
+
+} // namespace Screen

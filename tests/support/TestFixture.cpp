@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#include "support/TestFixture.h"
+
+#include "platform/Files.h"
+#include "platform/ProgramSettings.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+TavloraTest::TavloraTest() {
+    Settings() = ProgramSettings{};
+    Settings().sMyGamesDirectory = folder.path();
+    Settings().sProgramDirectory = QStringLiteral(TAVLORA_DATA_DIR);
+}
+
+TavloraTest::~TavloraTest() {
+    Files::SetFaultHook({});
+    Settings() = ProgramSettings{};
+}
+
+QString TavloraTest::PathOf(const QString& sName) const { return folder.filePath(sName); }
+
+QString TavloraTest::WriteFile(const QString& sName, const QByteArray& bytes) const {
+    const QString path = PathOf(sName);
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly)) << qPrintable(path);
+    file.write(bytes);
+    return path;
+}
+
+QByteArray TavloraTest::ReadFile(const QString& sPath) {
+    QFile file(sPath);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QString SharedPath(const QString& sName) {
+    const QString root = qEnvironmentVariable("TAVLORA_SHARED", QStringLiteral(TAVLORA_SHARED_DIR));
+    const QFileInfo info(root + u'/' + sName);
+    return info.exists() ? info.absoluteFilePath() : QString();
+}
