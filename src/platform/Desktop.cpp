@@ -52,8 +52,10 @@ int ConsoleDesktop::MsgBox(const QString& sText, int iStyle, const QString& sTit
     std::fprintf(stderr, "%s: %s\n", qUtf8Printable(sTitle), qUtf8Printable(line));
     switch (iStyle & 0xF) {
         case vbYesNo:
-        case vbYesNoCancel: return vbYes;
-        default: return vbOK;
+        case vbYesNoCancel:
+            return vbYes;
+        default:
+            return vbOK;
     }
 }
 

@@ -18,11 +18,16 @@ Qt::PenStyle ToQtStyle(const Pen& pen) {
     // A broken line wider than one unit comes out solid, as it always did.
     if (PenWidth(pen) > 1) return Qt::SolidLine;
     switch (pen.style) {
-        case PenStyle::Dash: return Qt::DashLine;
-        case PenStyle::Dot: return Qt::DotLine;
-        case PenStyle::DashDot: return Qt::DashDotLine;
-        case PenStyle::DashDotDot: return Qt::DashDotDotLine;
-        default: return Qt::SolidLine;
+        case PenStyle::Dash:
+            return Qt::DashLine;
+        case PenStyle::Dot:
+            return Qt::DotLine;
+        case PenStyle::DashDot:
+            return Qt::DashDotLine;
+        case PenStyle::DashDotDot:
+            return Qt::DashDotDotLine;
+        default:
+            return Qt::SolidLine;
     }
 }
 
@@ -35,10 +40,14 @@ QPen ToQPen(const Pen& pen) {
 
 QPainter::CompositionMode ToCompositionMode(RasterOp operation) {
     switch (operation) {
-        case RasterOp::SourceAnd: return QPainter::RasterOp_SourceAndDestination;
-        case RasterOp::SourcePaint: return QPainter::RasterOp_SourceOrDestination;
-        case RasterOp::SourceInvert: return QPainter::RasterOp_SourceXorDestination;
-        case RasterOp::SourceCopy: break;
+        case RasterOp::SourceAnd:
+            return QPainter::RasterOp_SourceAndDestination;
+        case RasterOp::SourcePaint:
+            return QPainter::RasterOp_SourceOrDestination;
+        case RasterOp::SourceInvert:
+            return QPainter::RasterOp_SourceXorDestination;
+        case RasterOp::SourceCopy:
+            break;
     }
     return QPainter::CompositionMode_SourceOver;
 }
@@ -84,7 +93,9 @@ BrushHandle DeviceContext::HollowBrush() {
 }
 
 PenHandle DeviceContext::SelectPen(PenHandle pen) { return std::exchange(m_state.pen, std::move(pen)); }
-BrushHandle DeviceContext::SelectBrush(BrushHandle brush) { return std::exchange(m_state.brush, std::move(brush)); }
+BrushHandle DeviceContext::SelectBrush(BrushHandle brush) {
+    return std::exchange(m_state.brush, std::move(brush));
+}
 FontHandle DeviceContext::SelectFont(FontHandle font) { return std::exchange(m_state.font, std::move(font)); }
 Color DeviceContext::SetTextColor(Color color) { return std::exchange(m_state.textColor, color); }
 Color DeviceContext::SetBkColor(Color color) { return std::exchange(m_state.bkColor, color); }
@@ -147,7 +158,12 @@ void DeviceContext::LineTo(int x, int y) {
         return;
     }
     // From the outer edge of the first pixel to the inner edge of the last, which stays unpainted.
-    const QPointF along(to.x() > from.x() ? 1 : to.x() < from.x() ? -1 : 0, to.y() > from.y() ? 1 : to.y() < from.y() ? -1 : 0);
+    const QPointF along(to.x() > from.x()   ? 1
+                        : to.x() < from.x() ? -1
+                                            : 0,
+                        to.y() > from.y()   ? 1
+                        : to.y() < from.y() ? -1
+                                            : 0);
     const QPointF middle(0.5, 0.5);
     painter.drawLine(QPointF(from) + middle - along * 0.5, QPointF(to) + middle - along * 0.5);
 }
@@ -164,7 +180,8 @@ QRectF DeviceContext::OutlineRect(const QRect& shape) const {
 }
 
 void DeviceContext::Rectangle(int left, int top, int right, int bottom) {
-    const QRect shape(QPoint(std::min(left, right), std::min(top, bottom)), QSize(std::abs(right - left), std::abs(bottom - top)));
+    const QRect shape(QPoint(std::min(left, right), std::min(top, bottom)),
+                      QSize(std::abs(right - left), std::abs(bottom - top)));
     if (shape.isEmpty()) return;
     ApplyPenAndBrush();
     QPainter& painter = Painter();
@@ -176,12 +193,14 @@ void DeviceContext::Rectangle(int left, int top, int right, int bottom) {
     if (PenWidth(*m_state.pen) == 1 && shape.size() == QSize(1, 1)) return;
     const QRectF outline = OutlineRect(shape);
     // A polygon, because a rectangle without height or width would not be stroked.
-    const QPointF corners[] = {outline.topLeft(), outline.topRight(), outline.bottomRight(), outline.bottomLeft()};
+    const QPointF corners[] = {outline.topLeft(), outline.topRight(), outline.bottomRight(),
+                               outline.bottomLeft()};
     painter.drawPolygon(corners, 4);
 }
 
 void DeviceContext::Ellipse(int left, int top, int right, int bottom) {
-    const QRect shape(QPoint(std::min(left, right), std::min(top, bottom)), QSize(std::abs(right - left), std::abs(bottom - top)));
+    const QRect shape(QPoint(std::min(left, right), std::min(top, bottom)),
+                      QSize(std::abs(right - left), std::abs(bottom - top)));
     if (shape.isEmpty()) return;
     ApplyPenAndBrush();
     if (!HasPen()) {
@@ -197,7 +216,8 @@ void DeviceContext::Polygon(std::span<const QPoint> points) {
     const double offset = HasPen() ? PenOffset(*m_state.pen) : 0.0;
     QPolygonF outline;
     outline.reserve(qsizetype(points.size()));
-    for (const QPoint& point : points) outline << QPointF(point) + QPointF(offset, offset);
+    for (const QPoint& point : points)
+        outline << QPointF(point) + QPointF(offset, offset);
     ApplyPenAndBrush();
     Painter().drawPolygon(outline);
 }
@@ -209,7 +229,8 @@ void DeviceContext::FillRect(int left, int top, int right, int bottom, Color col
 
 bool DeviceContext::GetTextExtentPoint(const QString& sText, QSize& size) {
     if (!m_state.font) return false;
-    size = sText.isEmpty() ? QSize(0, 0) : QSize(CLng(m_state.font->Width(sText)), CLng(m_state.font->CellHeight()));
+    size = sText.isEmpty() ? QSize(0, 0)
+                           : QSize(CLng(m_state.font->Width(sText)), CLng(m_state.font->CellHeight()));
     return true;
 }
 
@@ -231,7 +252,8 @@ void DeviceContext::TextOut(int x, int y, const QString& sText) {
     painter.restore();
 }
 
-void DeviceContext::DrawImage(const QRectF& destination, const QImage& image, const QRectF& source, RasterOp operation) {
+void DeviceContext::DrawImage(const QRectF& destination, const QImage& image, const QRectF& source,
+                              RasterOp operation) {
     if (destination.isEmpty() || source.isEmpty() || image.isNull()) return;
     const QRectF inside = source & QRectF(image.rect());
     if (inside.isEmpty()) return;

@@ -80,7 +80,8 @@ using FontHandle = std::shared_ptr<const Font>;
 /// units; on a dense screen one unit covers several pixels and everything stays sharp.
 class DeviceContext {
 public:
-    /// Draws on a picture that the caller keeps alive; its device pixel ratio says how many pixels make a unit.
+    /// Draws on a picture that the caller keeps alive; its device pixel ratio says how many pixels make a
+    /// unit.
     explicit DeviceContext(QImage& image);
     /// Draws through a painter that the caller keeps open, as on a printer's page.
     explicit DeviceContext(QPainter& painter);

@@ -11,7 +11,19 @@
 /// make any single one of them fail, or end the program at it.
 namespace Files {
 
-enum class Operation { OpenRead, Read, OpenWrite, Write, Commit, OpenAppend, Append, Remove, Rename, Copy, MakeDirectory };
+enum class Operation {
+    OpenRead,
+    Read,
+    OpenWrite,
+    Write,
+    Commit,
+    OpenAppend,
+    Append,
+    Remove,
+    Rename,
+    Copy,
+    MakeDirectory
+};
 
 /// Asked before each operation; a text is the reason for which the operation fails without being tried.
 using FaultHook = std::function<std::optional<QString>(Operation operation, const QString& sPath)>;

@@ -15,11 +15,14 @@ namespace {
 // A file that every installation of the program has; its presence tells a data folder.
 const char* const kDataMark = "GamePlay_US.dat";
 
-bool HoldsData(const QString& sFolder) { return QFileInfo(QDir(sFolder).filePath(QString::fromLatin1(kDataMark))).isFile(); }
+bool HoldsData(const QString& sFolder) {
+    return QFileInfo(QDir(sFolder).filePath(QString::fromLatin1(kDataMark))).isFile();
+}
 
 QString NearestExisting(const QString& sPath) {
     QFileInfo info(sPath);
-    while (!info.exists() && info.absolutePath() != info.absoluteFilePath()) info.setFile(info.absolutePath());
+    while (!info.exists() && info.absolutePath() != info.absoluteFilePath())
+        info.setFile(info.absolutePath());
     return info.absoluteFilePath();
 }
 
@@ -29,10 +32,11 @@ bool IsForPeople(const QStorageInfo& volume) {
     if (volume.isRoot()) return true;
     const QString root = volume.rootPath();
     const QByteArray kind = volume.fileSystemType();
-    const bool network = kind.startsWith("nfs") || kind == "cifs" || kind.startsWith("smb") || kind == "fuse.sshfs";
+    const bool network =
+        kind.startsWith("nfs") || kind == "cifs" || kind.startsWith("smb") || kind == "fuse.sshfs";
 #ifdef Q_OS_UNIX
-    return network || root.startsWith(u"/media/") || root.startsWith(u"/run/media/") || root.startsWith(u"/mnt/") ||
-           root.startsWith(u"/Volumes/");
+    return network || root.startsWith(u"/media/") || root.startsWith(u"/run/media/") ||
+           root.startsWith(u"/mnt/") || root.startsWith(u"/Volumes/");
 #else
     return true;
 #endif
@@ -62,7 +66,8 @@ QList<Volume> Volumes() {
 }
 
 bool OnSameVolume(const QString& sPathA, const QString& sPathB) {
-    return QStorageInfo(NearestExisting(sPathA)).rootPath() == QStorageInfo(NearestExisting(sPathB)).rootPath();
+    return QStorageInfo(NearestExisting(sPathA)).rootPath() ==
+           QStorageInfo(NearestExisting(sPathB)).rootPath();
 }
 
 double FreeBytes(const QString& sPath) {

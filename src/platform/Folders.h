@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QString>
 #include <QList>
+#include <QString>
 
 /// Where things lie on this machine.
 namespace Folders {

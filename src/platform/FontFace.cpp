@@ -48,7 +48,8 @@ const FontFace& FontFace::Get(const QString& sFamily, bool bBold, bool bItalic) 
     return *face;
 }
 
-FontFace::FontFace(const QString& sFamily, bool bBold, bool bItalic) : m_font(LargeFont(sFamily, bBold, bItalic)) {
+FontFace::FontFace(const QString& sFamily, bool bBold, bool bItalic)
+    : m_font(LargeFont(sFamily, bBold, bItalic)) {
     const QFontMetricsF metrics(m_font);
     m_ascent = metrics.ascent();
     m_descent = metrics.descent();
@@ -57,7 +58,9 @@ FontFace::FontFace(const QString& sFamily, bool bBold, bool bItalic) : m_font(La
     }
 }
 
-double FontFace::Advance(const QString& sText) const { return QFontMetricsF(m_font).horizontalAdvance(sText); }
+double FontFace::Advance(const QString& sText) const {
+    return QFontMetricsF(m_font).horizontalAdvance(sText);
+}
 
 void FontFace::Draw(QPainter& painter, const QString& sText, bool bUnderline) const {
     QFont font = m_font;

@@ -26,7 +26,8 @@ bool IsDecimalNumber(QStringView text) {
     qsizetype at = 0;
     const auto skipDigits = [&] {
         const qsizetype from = at;
-        while (at < text.size() && text[at] >= u'0' && text[at] <= u'9') ++at;
+        while (at < text.size() && text[at] >= u'0' && text[at] <= u'9')
+            ++at;
         return at - from;
     };
     const auto skipSign = [&] {
@@ -82,14 +83,16 @@ QString FloatToText(float value) {
     std::array<char, 64> text{};
     const float size = std::abs(value);
     const bool plain = size == 0 || (size >= 1e-4F && size < 1e9F);
-    const std::to_chars_result end = std::to_chars(text.data(), text.data() + text.size(), value,
-                                                   plain ? std::chars_format::fixed : std::chars_format::scientific);
+    const std::to_chars_result end =
+        std::to_chars(text.data(), text.data() + text.size(), value,
+                      plain ? std::chars_format::fixed : std::chars_format::scientific);
     return QString::fromLatin1(text.data(), end.ptr - text.data());
 }
 
 QString WithThousands(qint64 value) {
     QString digits = QString::number(value);
     const int first = value < 0 ? 1 : 0;
-    for (qsizetype at = digits.size() - 3; at > first; at -= 3) digits.insert(at, u',');
+    for (qsizetype at = digits.size() - 3; at > first; at -= 3)
+        digits.insert(at, u',');
     return digits;
 }

@@ -47,7 +47,8 @@ void PdfPrinter::OpenPage() {
         QMarginsF(margin, margin, margin, margin), QPageLayout::Point));
     if (first) {
         m_painter = std::make_unique<QPainter>(m_writer.get());
-        m_painter->setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::LosslessImageRendering);
+        m_painter->setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
+                                  QPainter::LosslessImageRendering);
         m_context = std::make_unique<DeviceContext>(*m_painter);
     } else {
         m_writer->newPage();
@@ -62,7 +63,8 @@ DeviceContext& PdfPrinter::hDC() {
 QSize PdfPrinter::SizeInPixels() const {
     QSizeF inches = m_paper.size(QPageSize::Inch);
     if (m_orientation == PageOrientation::Landscape) inches.transpose();
-    return QSize(int((inches.width() - 2 * kMarginInches) * m_dpi), int((inches.height() - 2 * kMarginInches) * m_dpi));
+    return QSize(int((inches.width() - 2 * kMarginInches) * m_dpi),
+                 int((inches.height() - 2 * kMarginInches) * m_dpi));
 }
 
 void PdfPrinter::KillDoc() {

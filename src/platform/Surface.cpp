@@ -12,10 +12,14 @@ constexpr double kPointsPerInch = 72.0;
 
 PenStyle ToPenStyle(int drawStyle) {
     switch (drawStyle) {
-        case 1: return PenStyle::Dash;
-        case 2: return PenStyle::Dot;
-        case 5: return PenStyle::Null;
-        default: return PenStyle::Solid;
+        case 1:
+            return PenStyle::Dash;
+        case 2:
+            return PenStyle::Dot;
+        case 5:
+            return PenStyle::Null;
+        default:
+            return PenStyle::Solid;
     }
 }
 
@@ -66,7 +70,8 @@ void Surface::Print(const QString& sText) {
     painter.save();
     painter.translate(ToPixels(CurrentX), ToPixels(CurrentY));
     if (!FontTransparent) {
-        painter.fillRect(QRectF(0, 0, face.Advance(sText) * unit, face.CellHeight() * unit), ToQColor(m_backColor));
+        painter.fillRect(QRectF(0, 0, face.Advance(sText) * unit, face.CellHeight() * unit),
+                         ToQColor(m_backColor));
     }
     painter.translate(0, face.Ascent() * unit);
     painter.scale(unit, unit);
@@ -86,14 +91,16 @@ void Surface::Line(double x1, double y1, double x2, double y2, Color color, Line
     CurrentX = x2;
     CurrentY = y2;
     if (form == LineForm::FilledBox) {
-        context.FillRect(std::min(left, right), std::min(top, bottom), std::max(left, right) + 1, std::max(top, bottom) + 1, color);
+        context.FillRect(std::min(left, right), std::min(top, bottom), std::max(left, right) + 1,
+                         std::max(top, bottom) + 1, color);
         return;
     }
     const int depth = context.SaveDC();
     context.SelectPen(std::make_shared<const Pen>(Pen{ToPenStyle(DrawStyle), DrawWidth, color}));
     context.SelectBrush(DeviceContext::HollowBrush());
     if (form == LineForm::Box) {
-        context.Rectangle(std::min(left, right), std::min(top, bottom), std::max(left, right) + 1, std::max(top, bottom) + 1);
+        context.Rectangle(std::min(left, right), std::min(top, bottom), std::max(left, right) + 1,
+                          std::max(top, bottom) + 1);
     } else {
         context.MoveTo(left, top);
         context.LineTo(right, bottom);
@@ -109,17 +116,20 @@ void Surface::Circle(double x, double y, double radius, Color color) {
     painter.drawEllipse(QPointF(ToPixels(x), ToPixels(y)), r, r);
 }
 
-void Surface::PaintPicture(const Picture& picture, double x, double y, double width, double height, RasterOp operation) {
+void Surface::PaintPicture(const Picture& picture, double x, double y, double width, double height,
+                           RasterOp operation) {
     PaintPicture(picture, x, y, width, height, QRectF(0, 0, picture.Width(), picture.Height()), operation);
 }
 
-void Surface::PaintPicture(const Picture& picture, double x, double y, double width, double height, const QRectF& source,
-                           RasterOp operation) {
-    hDC().DrawImage(QRectF(ToPixels(x), ToPixels(y), ToPixels(width), ToPixels(height)), picture.Image(), source, operation);
+void Surface::PaintPicture(const Picture& picture, double x, double y, double width, double height,
+                           const QRectF& source, RasterOp operation) {
+    hDC().DrawImage(QRectF(ToPixels(x), ToPixels(y), ToPixels(width), ToPixels(height)), picture.Image(),
+                    source, operation);
 }
 
 ScratchForm::ScratchForm(QSize sizeInPixels, double devicePixelRatio)
-    : m_size(sizeInPixels), m_image(sizeInPixels * devicePixelRatio, QImage::Format_RGB32), m_context(m_image) {
+    : m_size(sizeInPixels), m_image(sizeInPixels * devicePixelRatio, QImage::Format_RGB32),
+      m_context(m_image) {
     m_image.setDevicePixelRatio(devicePixelRatio);
     m_image.fill(Qt::white);
 }

@@ -14,8 +14,9 @@ const QByteArray kMark("\xEF\xBB\xBF");
 
 // What the bytes 0x80 to 0x9F of Windows-1252 stand for; not every build of the toolkit knows the table.
 constexpr std::array<char16_t, 32> kUpperControls = {
-    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
-    0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,
 };
 
 QChar FromAnsi(uchar byte) {
@@ -34,7 +35,8 @@ std::optional<char> ToAnsi(QChar c) {
 // The text when the bytes are valid UTF-8 with at least one multi-byte character.
 std::optional<QString> AsMultiByteUtf8(const QByteArray& bytes) {
     bool multiByte = false;
-    for (const char byte : bytes) multiByte = multiByte || uchar(byte) >= 0x80;
+    for (const char byte : bytes)
+        multiByte = multiByte || uchar(byte) >= 0x80;
     if (!multiByte) return std::nullopt;
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     QString text = decoder(bytes);
@@ -48,7 +50,8 @@ QString Decode(const QByteArray& bytes) {
     if (bytes.startsWith(kMark)) return QString::fromUtf8(bytes.mid(kMark.size()));
     if (std::optional<QString> text = AsMultiByteUtf8(bytes)) return *text;
     QString text(bytes.size(), Qt::Uninitialized);
-    for (qsizetype i = 0; i < bytes.size(); ++i) text[i] = FromAnsi(uchar(bytes[i]));
+    for (qsizetype i = 0; i < bytes.size(); ++i)
+        text[i] = FromAnsi(uchar(bytes[i]));
     return text;
 }
 
@@ -67,7 +70,8 @@ QByteArray Encode(const QString& sText) {
 QByteArray ToAnsi(const QString& sText) {
     QByteArray bytes;
     bytes.reserve(sText.size());
-    for (const QChar c : sText) bytes.append(ToAnsi(c).value_or('?'));
+    for (const QChar c : sText)
+        bytes.append(ToAnsi(c).value_or('?'));
     return bytes;
 }
 
@@ -87,7 +91,8 @@ QStringList SplitLines(const QString& sText) {
 
 QString JoinLines(const QStringList& lines) {
     QString text;
-    for (const QString& line : lines) text += line + QStringLiteral("\r\n");
+    for (const QString& line : lines)
+        text += line + QStringLiteral("\r\n");
     return text;
 }
 

@@ -23,6 +23,7 @@ void TestDesktop::EndProgram(int iStatus) {
 
 QStringList TestDesktop::Texts() const {
     QStringList texts;
-    for (const Box& box : boxes) texts.append(box.sText);
+    for (const Box& box : boxes)
+        texts.append(box.sText);
     return texts;
 }
