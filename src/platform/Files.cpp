@@ -67,7 +67,7 @@ std::optional<QByteArray> ReadAll(const QString& sPath, QString& sError) {
         sError = QStringLiteral("It is a folder, not a file");
         return std::nullopt;
     }
-    QFile file(sPath);
+    QFile file(InDiskSpelling(sPath));
     if (!file.open(QIODevice::ReadOnly)) {
         Failed(file, sError);
         return std::nullopt;

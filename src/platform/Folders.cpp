@@ -15,6 +15,11 @@ namespace {
 // A file that every installation of the program has; its presence tells a data folder.
 const char* const kDataMark = "GamePlay_US.dat";
 
+int& PretendedMajor() {
+    static int major = 0;
+    return major;
+}
+
 bool HoldsData(const QString& sFolder) {
     return QFileInfo(QDir(sFolder).filePath(QString::fromLatin1(kDataMark))).isFile();
 }
@@ -69,6 +74,25 @@ bool OnSameVolume(const QString& sPathA, const QString& sPathB) {
     return QStorageInfo(NearestExisting(sPathA)).rootPath() ==
            QStorageInfo(NearestExisting(sPathB)).rootPath();
 }
+
+bool HasDrives() {
+#ifdef Q_OS_WIN
+    return true;
+#else
+    return false;
+#endif
+}
+
+SystemVersion System() {
+    const QStringList parts = QSysInfo::kernelVersion().split(u'.');
+    const auto part = [&](qsizetype at) {
+        return at < parts.size() ? parts[at].section(u'-', 0, 0).toInt() : 0;
+    };
+    return {part(0), part(1), part(2), HasDrives() ? 2 : 3};
+}
+
+int SystemMajorVersion() { return PretendedMajor() > 0 ? PretendedMajor() : System().major; }
+void PretendSystemMajorVersion(int major) { PretendedMajor() = major; }
 
 double FreeBytes(const QString& sPath) {
     const QStorageInfo volume(NearestExisting(sPath));

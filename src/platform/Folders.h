@@ -23,7 +23,21 @@ struct Volume {
 QList<Volume> Volumes();
 /// True when both paths lie on the same mounted volume.
 bool OnSameVolume(const QString& sPathA, const QString& sPathB);
+/// True on a system whose volumes are named by drive letters.
+bool HasDrives();
 /// Bytes that the user may still write on the volume holding sPath; 0 when it can't be told.
 double FreeBytes(const QString& sPath);
+
+struct SystemVersion {
+    int major = 0;
+    int minor = 0;
+    int build = 0;
+    /// 1 old Windows, 2 Windows, 3 anything else.
+    int platform = 0;
+};
+SystemVersion System();
+/// Major version of the operating system, unless a test has said another; 0 gives the true one again.
+int SystemMajorVersion();
+void PretendSystemMajorVersion(int major);
 
 } // namespace Folders

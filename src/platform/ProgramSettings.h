@@ -15,6 +15,10 @@ struct ProgramSettings {
     QString sRelativePictureBase;
     /// Folder of the game file in use, where relative pictures are looked for next.
     QString sGameDirectory;
+    /// Folder of the settings file; empty means the My Games directory.
+    QString sIniDirectory;
+    /// Settings are read and never written.
+    bool bIniReadOnly = false;
     /// Folder of the program's own data files; empty means it is found beside the program.
     QString sProgramDirectory;
     /// Game kit variant: "2", "2A", "5" or "8".

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/Screen.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QScreen>
+#include <QStyle>
 #include <QWidget>
 
 namespace Screen {
@@ -31,6 +32,11 @@ int BitsPerPixel() {
     return Primary() ? Primary()->depth() : 32;
 }
 
+QSize FrameBorder() {
+    const int width = QApplication::style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
+    return QSize(width, width);
+}
+
 QSize SurfaceLimit() { return TheState().surfaceLimit; }
 void SetSurfaceLimit(QSize limit) { TheState().surfaceLimit = limit.expandedTo(QSize(1, 1)); }
 void PretendBitsPerPixel(int bits) { TheState().pretendedBits = bits; }
@@ -44,6 +50,14 @@ void PlaceWindow(QWidget& window, QRect wanted) {
     if (wanted.top() < area.top()) wanted.moveTop(area.top());
     window.resize(wanted.size());
     window.move(wanted.topLeft());
+}
+
+void PlaceAtFraction(QWidget& window, double ofFreeWidth, double ofFreeHeight) {
+    const QRect area = FreeArea();
+    const QSize size = window.frameGeometry().size();
+    const QPoint at(area.left() + int((area.width() - size.width()) * ofFreeWidth),
+                    area.top() + int((area.height() - size.height()) * ofFreeHeight));
+    PlaceWindow(window, QRect(at, window.size()));
 }
 
 } // namespace Screen

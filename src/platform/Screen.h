@@ -19,6 +19,8 @@ QSize Size();
 /// The part of the screen that windows may cover.
 QRect FreeArea();
 int BitsPerPixel();
+/// Thickness of a sizable window's frame.
+QSize FrameBorder();
 
 /// Largest size, in pixels, that a hidden drawing surface may take. The same on every display, so that
 /// what is printed never depends on the monitor.
@@ -29,5 +31,8 @@ void PretendBitsPerPixel(int bits);
 
 /// Sizes and places a window, never larger than the free area nor left of or above it. Pixels.
 void PlaceWindow(QWidget& window, QRect wanted);
+
+/// Places a window at these fractions of the width and height that it leaves free.
+void PlaceAtFraction(QWidget& window, double ofFreeWidth, double ofFreeHeight);
 
 } // namespace Screen
