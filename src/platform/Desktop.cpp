@@ -64,9 +64,7 @@ bool ConsoleDesktop::ShowSave(CommonDialog&) { return false; }
 bool ConsoleDesktop::ShowFont(CommonDialog&) { return false; }
 bool ConsoleDesktop::ShowPrinter(CommonDialog&) { return false; }
 
-void ConsoleDesktop::Sleep(int milliseconds) {
-    QThread::msleep(static_cast<unsigned long>(std::max(milliseconds, 0)));
-}
+void ConsoleDesktop::Sleep(int milliseconds) { QThread::msleep(static_cast<unsigned long>(std::max(milliseconds, 0))); }
 
 void ConsoleDesktop::DoEvents() { QCoreApplication::processEvents(); }
 

@@ -93,9 +93,7 @@ BrushHandle DeviceContext::HollowBrush() {
 }
 
 PenHandle DeviceContext::SelectPen(PenHandle pen) { return std::exchange(m_state.pen, std::move(pen)); }
-BrushHandle DeviceContext::SelectBrush(BrushHandle brush) {
-    return std::exchange(m_state.brush, std::move(brush));
-}
+BrushHandle DeviceContext::SelectBrush(BrushHandle brush) { return std::exchange(m_state.brush, std::move(brush)); }
 FontHandle DeviceContext::SelectFont(FontHandle font) { return std::exchange(m_state.font, std::move(font)); }
 Color DeviceContext::SetTextColor(Color color) { return std::exchange(m_state.textColor, color); }
 Color DeviceContext::SetBkColor(Color color) { return std::exchange(m_state.bkColor, color); }
@@ -193,8 +191,7 @@ void DeviceContext::Rectangle(int left, int top, int right, int bottom) {
     if (PenWidth(*m_state.pen) == 1 && shape.size() == QSize(1, 1)) return;
     const QRectF outline = OutlineRect(shape);
     // A polygon, because a rectangle without height or width would not be stroked.
-    const QPointF corners[] = {outline.topLeft(), outline.topRight(), outline.bottomRight(),
-                               outline.bottomLeft()};
+    const QPointF corners[] = {outline.topLeft(), outline.topRight(), outline.bottomRight(), outline.bottomLeft()};
     painter.drawPolygon(corners, 4);
 }
 
@@ -229,8 +226,7 @@ void DeviceContext::FillRect(int left, int top, int right, int bottom, Color col
 
 bool DeviceContext::GetTextExtentPoint(const QString& sText, QSize& size) {
     if (!m_state.font) return false;
-    size = sText.isEmpty() ? QSize(0, 0)
-                           : QSize(CLng(m_state.font->Width(sText)), CLng(m_state.font->CellHeight()));
+    size = sText.isEmpty() ? QSize(0, 0) : QSize(CLng(m_state.font->Width(sText)), CLng(m_state.font->CellHeight()));
     return true;
 }
 

@@ -37,11 +37,10 @@ bool IsForPeople(const QStorageInfo& volume) {
     if (volume.isRoot()) return true;
     const QString root = volume.rootPath();
     const QByteArray kind = volume.fileSystemType();
-    const bool network =
-        kind.startsWith("nfs") || kind == "cifs" || kind.startsWith("smb") || kind == "fuse.sshfs";
+    const bool network = kind.startsWith("nfs") || kind == "cifs" || kind.startsWith("smb") || kind == "fuse.sshfs";
 #ifdef Q_OS_UNIX
-    return network || root.startsWith(u"/media/") || root.startsWith(u"/run/media/") ||
-           root.startsWith(u"/mnt/") || root.startsWith(u"/Volumes/");
+    return network || root.startsWith(u"/media/") || root.startsWith(u"/run/media/") || root.startsWith(u"/mnt/") ||
+           root.startsWith(u"/Volumes/");
 #else
     return true;
 #endif
@@ -71,8 +70,7 @@ QList<Volume> Volumes() {
 }
 
 bool OnSameVolume(const QString& sPathA, const QString& sPathB) {
-    return QStorageInfo(NearestExisting(sPathA)).rootPath() ==
-           QStorageInfo(NearestExisting(sPathB)).rootPath();
+    return QStorageInfo(NearestExisting(sPathA)).rootPath() == QStorageInfo(NearestExisting(sPathB)).rootPath();
 }
 
 bool HasDrives() {
@@ -85,9 +83,7 @@ bool HasDrives() {
 
 SystemVersion System() {
     const QStringList parts = QSysInfo::kernelVersion().split(u'.');
-    const auto part = [&](qsizetype at) {
-        return at < parts.size() ? parts[at].section(u'-', 0, 0).toInt() : 0;
-    };
+    const auto part = [&](qsizetype at) { return at < parts.size() ? parts[at].section(u'-', 0, 0).toInt() : 0; };
     return {part(0), part(1), part(2), HasDrives() ? 2 : 3};
 }
 

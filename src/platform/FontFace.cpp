@@ -48,8 +48,7 @@ const FontFace& FontFace::Get(const QString& sFamily, bool bBold, bool bItalic) 
     return *face;
 }
 
-FontFace::FontFace(const QString& sFamily, bool bBold, bool bItalic)
-    : m_font(LargeFont(sFamily, bBold, bItalic)) {
+FontFace::FontFace(const QString& sFamily, bool bBold, bool bItalic) : m_font(LargeFont(sFamily, bBold, bItalic)) {
     const QFontMetricsF metrics(m_font);
     m_ascent = metrics.ascent();
     m_descent = metrics.descent();
@@ -58,9 +57,7 @@ FontFace::FontFace(const QString& sFamily, bool bBold, bool bItalic)
     }
 }
 
-double FontFace::Advance(const QString& sText) const {
-    return QFontMetricsF(m_font).horizontalAdvance(sText);
-}
+double FontFace::Advance(const QString& sText) const { return QFontMetricsF(m_font).horizontalAdvance(sText); }
 
 void FontFace::Draw(QPainter& painter, const QString& sText, bool bUnderline) const {
     QFont font = m_font;

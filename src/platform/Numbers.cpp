@@ -65,9 +65,7 @@ QString LeftStr(const QString& text, int count) { return count <= 0 ? QString() 
 
 QString RightStr(const QString& text, int count) { return count <= 0 ? QString() : text.right(count); }
 
-QString MidStr(const QString& text, int start, int count) {
-    return start < 1 ? QString() : text.mid(start - 1, count);
-}
+QString MidStr(const QString& text, int start, int count) { return start < 1 ? QString() : text.mid(start - 1, count); }
 
 std::optional<double> ParseNumber(const QString& text) {
     const QString trimmed = text.trimmed();
@@ -83,9 +81,8 @@ QString FloatToText(float value) {
     std::array<char, 64> text{};
     const float size = std::abs(value);
     const bool plain = size == 0 || (size >= 1e-4F && size < 1e9F);
-    const std::to_chars_result end =
-        std::to_chars(text.data(), text.data() + text.size(), value,
-                      plain ? std::chars_format::fixed : std::chars_format::scientific);
+    const std::to_chars_result end = std::to_chars(text.data(), text.data() + text.size(), value,
+                                                   plain ? std::chars_format::fixed : std::chars_format::scientific);
     return QString::fromLatin1(text.data(), end.ptr - text.data());
 }
 

@@ -63,8 +63,7 @@ DeviceContext& PdfPrinter::hDC() {
 QSize PdfPrinter::SizeInPixels() const {
     QSizeF inches = m_paper.size(QPageSize::Inch);
     if (m_orientation == PageOrientation::Landscape) inches.transpose();
-    return QSize(int((inches.width() - 2 * kMarginInches) * m_dpi),
-                 int((inches.height() - 2 * kMarginInches) * m_dpi));
+    return QSize(int((inches.width() - 2 * kMarginInches) * m_dpi), int((inches.height() - 2 * kMarginInches) * m_dpi));
 }
 
 void PdfPrinter::KillDoc() {

@@ -44,14 +44,12 @@ QString Read(const QString& sPath, const QString& sSection, const QString& sKey)
 bool Write(const QString& sPath, const QString& sSection, const QString& sKey, const QString& sValue) {
     CSimpleIniA ini;
     Load(ini, sPath);
-    ini.SetValue(sSection.toUtf8().constData(), sKey.toUtf8().constData(),
-                 OneLine(sValue).toUtf8().constData());
+    ini.SetValue(sSection.toUtf8().constData(), sKey.toUtf8().constData(), OneLine(sValue).toUtf8().constData());
     std::string text;
     if (ini.Save(text) < 0) return false;
     QString error;
     QString lines = QString::fromStdString(text);
-    lines.replace(QStringLiteral("\r\n"), QStringLiteral("\n"))
-        .replace(QStringLiteral("\n"), QStringLiteral("\r\n"));
+    lines.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(QStringLiteral("\n"), QStringLiteral("\r\n"));
     return Files::WriteWhole(sPath, TextFile::Encode(lines), error);
 }
 

@@ -70,8 +70,7 @@ void Surface::Print(const QString& sText) {
     painter.save();
     painter.translate(ToPixels(CurrentX), ToPixels(CurrentY));
     if (!FontTransparent) {
-        painter.fillRect(QRectF(0, 0, face.Advance(sText) * unit, face.CellHeight() * unit),
-                         ToQColor(m_backColor));
+        painter.fillRect(QRectF(0, 0, face.Advance(sText) * unit, face.CellHeight() * unit), ToQColor(m_backColor));
     }
     painter.translate(0, face.Ascent() * unit);
     painter.scale(unit, unit);
@@ -123,13 +122,12 @@ void Surface::PaintPicture(const Picture& picture, double x, double y, double wi
 
 void Surface::PaintPicture(const Picture& picture, double x, double y, double width, double height,
                            const QRectF& source, RasterOp operation) {
-    hDC().DrawImage(QRectF(ToPixels(x), ToPixels(y), ToPixels(width), ToPixels(height)), picture.Image(),
-                    source, operation);
+    hDC().DrawImage(QRectF(ToPixels(x), ToPixels(y), ToPixels(width), ToPixels(height)), picture.Image(), source,
+                    operation);
 }
 
 ScratchForm::ScratchForm(QSize sizeInPixels, double devicePixelRatio)
-    : m_size(sizeInPixels), m_image(sizeInPixels * devicePixelRatio, QImage::Format_RGB32),
-      m_context(m_image) {
+    : m_size(sizeInPixels), m_image(sizeInPixels * devicePixelRatio, QImage::Format_RGB32), m_context(m_image) {
     m_image.setDevicePixelRatio(devicePixelRatio);
     m_image.fill(Qt::white);
 }

@@ -56,8 +56,8 @@ public:
     void PaintPicture(const Picture& picture, double x, double y, double width, double height,
                       RasterOp operation = RasterOp::SourceCopy);
     /// Paints a part of the picture, given in the picture's own pixels.
-    void PaintPicture(const Picture& picture, double x, double y, double width, double height,
-                      const QRectF& source, RasterOp operation = RasterOp::SourceCopy);
+    void PaintPicture(const Picture& picture, double x, double y, double width, double height, const QRectF& source,
+                      RasterOp operation = RasterOp::SourceCopy);
     /// Clears to the back colour.
     virtual void Cls();
 

@@ -42,8 +42,7 @@ TEST(Numbers, ReadsNumbersTheSameOnEveryDesktop) {
     EXPECT_EQ(ParseNumber(QStringLiteral("+.5e1")), 5.0);
     EXPECT_EQ(ParseNumber(QStringLiteral("&H0A0A0A")), 657930.0);
     EXPECT_EQ(ParseNumber(QStringLiteral("&hff")), 255.0);
-    for (const char* text :
-         {"", "  ", "1,5", "12a", "inf", "nan", "&H", "&HG", "1e", ".", "-", "1 2", "0x10"}) {
+    for (const char* text : {"", "  ", "1,5", "12a", "inf", "nan", "&H", "&HG", "1e", ".", "-", "1 2", "0x10"}) {
         EXPECT_FALSE(IsNumeric(QString::fromLatin1(text))) << text;
     }
 }

@@ -30,6 +30,4 @@ protected:
 /// so that a test can skip itself with a word.
 QString SharedPath(const QString& sName);
 
-inline void PrintTo(const QString& text, std::ostream* stream) {
-    *stream << '"' << text.toStdString() << '"';
-}
+inline void PrintTo(const QString& text, std::ostream* stream) { *stream << '"' << text.toStdString() << '"'; }

@@ -33,8 +33,7 @@ const QString kNewLine = QStringLiteral("\r\n");
 const QString kStars = QStringLiteral("**********");
 
 QString TimeStampLine() {
-    const QString now =
-        QLocale::c().toString(QDateTime::currentDateTime(), QStringLiteral("M/d/yyyy h:mm:ss AP"));
+    const QString now = QLocale::c().toString(QDateTime::currentDateTime(), QStringLiteral("M/d/yyyy h:mm:ss AP"));
     return kStars + now + kStars + kNewLine;
 }
 
@@ -61,8 +60,8 @@ void GoOn() { ErrLogToFile(QStringLiteral("Continuing"), true); }
 int Show(const QString& sText, int iStyle) { return Module().m_bQuiet ? vbOK : MsgBox(sText, iStyle); }
 
 QString LookIntoTheLog() {
-    return QStringLiteral("For additional information, look at the end of the log file named '") +
-           Module().m_sLogPath + QStringLiteral("'. ") + kNewLine + kNewLine;
+    return QStringLiteral("For additional information, look at the end of the log file named '") + Module().m_sLogPath +
+           QStringLiteral("'. ") + kNewLine + kNewLine;
 }
 
 QString DateText(const QDateTime& moment) {
@@ -71,26 +70,22 @@ QString DateText(const QDateTime& moment) {
 }
 
 QString DateText(QDate day) {
-    return day.isValid() ? QLocale::c().toString(day, QStringLiteral("MM/dd/yyyy"))
-                         : QStringLiteral("NOT_DATE");
+    return day.isValid() ? QLocale::c().toString(day, QStringLiteral("MM/dd/yyyy")) : QStringLiteral("NOT_DATE");
 }
 
 QString DateText(QTime time) {
-    return time.isValid() ? QLocale::c().toString(time, QStringLiteral("hh:mm:ss ap"))
-                          : QStringLiteral("NOT_DATE");
+    return time.isValid() ? QLocale::c().toString(time, QStringLiteral("hh:mm:ss ap")) : QStringLiteral("NOT_DATE");
 }
 
 QString NumberText(double value) {
-    return qIsNaN(value) ? QStringLiteral("NULL")
-                         : QString::number(value, 'g', QLocale::FloatingPointShortest);
+    return qIsNaN(value) ? QStringLiteral("NULL") : QString::number(value, 'g', QLocale::FloatingPointShortest);
 }
 
 // Objects, errors and what else is no plain value; empty when the kind isn't known.
 QString OtherText(const QVariant& vValue) {
     if (vValue.canConvert<QMimeData*>() && vValue.value<QMimeData*>()) return QStringLiteral("DATA_OBJECT");
     if (vValue.canConvert<QObject*>()) return QStringLiteral("OBJECT");
-    if (vValue.metaType() == QMetaType::fromType<TavloraError*>())
-        return vValue.value<TavloraError*>()->Description();
+    if (vValue.metaType() == QMetaType::fromType<TavloraError*>()) return vValue.value<TavloraError*>()->Description();
     return {};
 }
 
@@ -101,8 +96,7 @@ int ErrInit(qint64 lMaxSize, const QString& sFileName, bool bDeleteIfLarge) {
     module.m_bFirstEntry = true;
     const QString name = sFileName.isEmpty() ? Settings().sProgramName + QStringLiteral(".log") : sFileName;
     module.m_sLogPath = basCommon::JoinPath(basCommon::GetMyGamesDirectory(), name);
-    const bool large =
-        Files::Exists(module.m_sLogPath) && Files::Size(module.m_sLogPath) > std::abs(lMaxSize);
+    const bool large = Files::Exists(module.m_sLogPath) && Files::Size(module.m_sLogPath) > std::abs(lMaxSize);
     if (!large || !(lMaxSize > 0 || bDeleteIfLarge)) return 0;
     QString error;
     return Files::Remove(module.m_sLogPath, error) ? 0 : -int(ErrNumber::kFileAccess);
@@ -133,14 +127,13 @@ QString ErrAddToStack(const QString& sModule, const QString& sRoutine, const QSt
         if (first) {
             const QString now =
                 QLocale::c().toString(QDateTime::currentDateTime(), QStringLiteral("MM/dd/yy hh:mm:ss"));
-            ErrLogToFile(QStringLiteral("The following error occurred at ") + now + kNewLine +
-                             QStringLiteral("***") + sDescription + QStringLiteral("***") + kNewLine +
+            ErrLogToFile(QStringLiteral("The following error occurred at ") + now + kNewLine + QStringLiteral("***") +
+                             sDescription + QStringLiteral("***") + kNewLine +
                              QStringLiteral("See the call stack below"),
                          false);
         }
         const QString arguments = ErrAny2String(vArguments);
-        const QString sCall =
-            sModule + sRoutine + (arguments.isEmpty() ? QString() : u'(' + arguments + u')');
+        const QString sCall = sModule + sRoutine + (arguments.isEmpty() ? QString() : u'(' + arguments + u')');
         ErrLogToFile(QStringLiteral("--->") + sCall, false);
         module.m_sErrStack = sCall + kNewLine + (first ? kNewLine : QString()) + sDescription;
         return module.m_sErrStack;
@@ -149,9 +142,8 @@ QString ErrAddToStack(const QString& sModule, const QString& sRoutine, const QSt
     } catch (const std::exception& error) {
         const QStringList arguments{ErrArgument(sModule), ErrArgument(sRoutine), ErrArgument(vArguments),
                                     ErrArgument(sDescription)};
-        const QString text =
-            ErrAddToStack(QStringLiteral("basErrLog!"), QStringLiteral("ErrAddToStack"),
-                          arguments.join(QStringLiteral(", ")), QString::fromUtf8(error.what()));
+        const QString text = ErrAddToStack(QStringLiteral("basErrLog!"), QStringLiteral("ErrAddToStack"),
+                                           arguments.join(QStringLiteral(", ")), QString::fromUtf8(error.what()));
         ErrRaise(ErrNumber::kInvalidCall, text);
     }
 }
@@ -159,8 +151,8 @@ QString ErrAddToStack(const QString& sModule, const QString& sRoutine, const QSt
 void ErrReport(quint32 /*lNumber*/, const QString& sDescription, int iCritical) {
     const qsizetype behindStack = sDescription.indexOf(kNewLine + kNewLine);
     const QString sShort = behindStack < 0 ? sDescription : sDescription.mid(behindStack + 4);
-    const QString head = QStringLiteral(" error has occurred in your application: ") + kNewLine + kNewLine +
-                         sShort + kNewLine + kNewLine;
+    const QString head = QStringLiteral(" error has occurred in your application: ") + kNewLine + kNewLine + sShort +
+                         kNewLine + kNewLine;
     const auto tell = [](const QString& sText, int iStyle) {
         ErrLogToFile(sText, true);
         return Show(sText, iStyle);
@@ -172,14 +164,14 @@ void ErrReport(quint32 /*lNumber*/, const QString& sDescription, int iCritical) 
                  vbCritical);
             Terminate();
         case vbExclamation: {
-            const int answer = tell(
-                QStringLiteral("The following") + head +
-                    QStringLiteral("You may be able to continue using the program anyway, ") +
-                    QStringLiteral("even though you are apparently unable to use this particular feature at "
-                                   "this time. ") +
-                    LookIntoTheLog() +
-                    QStringLiteral("Click 'OK' below if you would like to keep going or 'Cancel' if not. "),
-                vbOKCancel | vbExclamation);
+            const int answer =
+                tell(QStringLiteral("The following") + head +
+                         QStringLiteral("You may be able to continue using the program anyway, ") +
+                         QStringLiteral("even though you are apparently unable to use this particular feature at "
+                                        "this time. ") +
+                         LookIntoTheLog() +
+                         QStringLiteral("Click 'OK' below if you would like to keep going or 'Cancel' if not. "),
+                     vbOKCancel | vbExclamation);
             if (answer != vbOK) Terminate();
             GoOn();
             break;
@@ -241,8 +233,7 @@ QString ErrAny2String(const QVariant& vValue) try {
     }
     const QString text = OtherText(vValue);
     if (text.isNull()) {
-        ErrReport(ErrNumber::kIllegalValue, QStringLiteral("Unexpected Case in basErrLog!ErrAny2String"),
-                  vbCritical);
+        ErrReport(ErrNumber::kIllegalValue, QStringLiteral("Unexpected Case in basErrLog!ErrAny2String"), vbCritical);
     }
     return text;
 } catch (...) {
@@ -257,9 +248,9 @@ void ErrAssert(bool bCondition, const QString& sMessage) {
 }
 
 void ErrUnexVal(const QString& sVariableName, const QVariant& vValue) {
-    const QString sMessage = QStringLiteral("Internal variable not within expected range") +
-                             QStringLiteral(": '") + sVariableName +
-                             QStringLiteral("' held the following value: '") + ErrAny2String(vValue) + u'\'';
+    const QString sMessage = QStringLiteral("Internal variable not within expected range") + QStringLiteral(": '") +
+                             sVariableName + QStringLiteral("' held the following value: '") + ErrAny2String(vValue) +
+                             u'\'';
     ErrLogToFile(sMessage, true);
     ErrRaise(ErrNumber::kOutOfRange, sMessage);
 }

@@ -84,8 +84,8 @@ template <typename... Arguments>
 template <typename... Arguments>
 void ErrTop(const char* sModule, const char* sRoutine, const Arguments&... arguments) {
     const QStringList texts{basErrLog::ErrArgument(arguments)...};
-    const TavloraError error = basErrLog::AddCurrentToStack(
-        QString::fromLatin1(sModule), QString::fromLatin1(sRoutine), texts.join(QStringLiteral(", ")));
+    const TavloraError error = basErrLog::AddCurrentToStack(QString::fromLatin1(sModule), QString::fromLatin1(sRoutine),
+                                                            texts.join(QStringLiteral(", ")));
     constexpr int kAskWhetherToGoOn = 48;
     basErrLog::ErrReport(error.Number(), error.Description(), kAskWhetherToGoOn);
 }

@@ -84,8 +84,7 @@ QString JoinPath(const QString& sFolder, const QString& sName) {
 
 void Assert(bool bCondition, const QString& sMessage, const QString& sPlace) {
     if (bCondition) return;
-    MsgBox(QStringLiteral("Assertion Failure: \r\n\r\n") + sMessage + QStringLiteral(" in ") + sPlace,
-           vbCritical);
+    MsgBox(QStringLiteral("Assertion Failure: \r\n\r\n") + sMessage + QStringLiteral(" in ") + sPlace, vbCritical);
     EndProgram();
 }
 
