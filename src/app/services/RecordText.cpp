@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#include "app/services/RecordText.h"
+
+#include "app/services/basCommon.h"
+#include "app/services/TavloraError.h"
+#include "platform/Numbers.h"
+
+#include <limits>
+
+namespace basTAVL {
+namespace {
+
+QString TakeBareField(QString& sLine) {
+    const qsizetype comma = sLine.indexOf(u',');
+    const QString field = comma < 0 ? sLine : sLine.left(comma).trimmed();
+    sLine = comma < 0 ? QString() : sLine.mid(comma + 1).trimmed();
+    return field;
+}
+
+// What lies between the quotes, with the closing one taken off too; an unclosed field is all that is left.
+QString TakeQuotedContent(QString& sLine) {
+    const qsizetype close = sLine.indexOf(u'"', 1);
+    const QString content = close < 0 ? sLine.mid(1) : sLine.mid(1, close - 1);
+    sLine = close < 0 ? QString() : sLine.mid(close + 1);
+    return content;
+}
+
+} // namespace
+
+QString Quote(const QString& sText) {
+    QString text = sText;
+    text.replace(QStringLiteral("\\"), QStringLiteral("\\\\"));
+    text.replace(QStringLiteral("\""), QStringLiteral("\\q"));
+    text.replace(QStringLiteral("\r\n"), QStringLiteral("\\n"));
+    return u'"' + text + u'"';
+}
+
+QString GetQuotedField(QString& sLine) {
+    sLine = sLine.trimmed();
+    if (sLine.isEmpty()) return {};
+    if (!sLine.startsWith(u'"')) return TakeBareField(sLine);
+    QString content = TakeQuotedContent(sLine);
+    // Backslashes are halved here and again by InsertLineBreaks. So a path with "\n" in it comes back
+    // changed, but files of all these years were written and read this way: the order is the format.
+    content.replace(QStringLiteral("\\\\"), QStringLiteral("\\"));
+    const QString value = basCommon::InsertLineBreaks(content);
+    // Stray text behind the closing quote goes with the comma that follows it, or stays if there is none.
+    const qsizetype comma = sLine.indexOf(u',');
+    sLine = (comma < 0 ? sLine : sLine.mid(comma + 1)).trimmed();
+    return value;
+}
+
+qint16 CInt(double dblValue) {
+    const qint32 whole = CLng(dblValue);
+    if (whole < std::numeric_limits<qint16>::min() || whole > std::numeric_limits<qint16>::max())
+        ErrRaise(ErrNumber::kOverflow, QStringLiteral("Overflow"));
+    return qint16(whole);
+}
+
+qint16 IntegerOrZero(const QString& sField) { return CInt(ParseNumber(sField).value_or(0)); }
+
+} // namespace basTAVL
