@@ -4,6 +4,8 @@
 #include "platform/Files.h"
 #include "platform/TextFile.h"
 
+// Debian keeps the bodies of the header behind this word; elsewhere it means nothing.
+#define SI_IMPLEMENTATION
 #define SI_CONVERT_ICU
 #include <SimpleIni.h>
 
