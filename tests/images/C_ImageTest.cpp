@@ -47,7 +47,9 @@ TEST_F(C_ImageTest, Edge_CentreIsRoundedWithHalvesToEven) {
 
 TEST_F(C_ImageTest, Edge_CornerThreeOfKitEightHoldsFateWhateverTheRecordSays) {
     QDir(folder.path()).mkdir(QStringLiteral("program"));
+    QDir(folder.path()).mkdir(QStringLiteral("games"));
     Settings().sProgramDirectory = PathOf(QStringLiteral("program"));
+    Settings().sMyGamesDirectory = PathOf(QStringLiteral("games"));
     WriteFile(QStringLiteral("program/fate.dat"), "picture");
     Settings().sGameVersion = QStringLiteral("8");
     image.SetQuotedString(QStringLiteral("\"mine.bmp\",3,4,5"), QStringLiteral("Corner"), 3);
