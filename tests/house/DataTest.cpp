@@ -1,0 +1,166 @@
+// SPDX-License-Identifier: MIT
+// The data that ships with the program: what every part of it counts on.
+#include "support/TestFixture.h"
+
+#include <QImage>
+#include <QImageReader>
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+QString DataPath(const QString& sName) { return QStringLiteral(TAVLORA_DATA_DIR "/") + sName; }
+
+/// The picture, whatever its name ends in; null if it is missing or broken.
+QImage Load(const QString& sName) {
+    QImageReader reader(DataPath(sName));
+    reader.setDecideFormatFromContent(true);
+    return reader.read();
+}
+
+/// The lines of a file; a failure if one of them does not end in CR LF.
+QList<QByteArray> Lines(const QByteArray& bytes) {
+    EXPECT_TRUE(bytes.endsWith("\r\n"));
+    EXPECT_EQ(bytes.count('\n'), bytes.count("\r\n"));
+    QList<QByteArray> lines = bytes.split('\n');
+    lines.removeLast();
+    for (QByteArray& line : lines)
+        line.chop(1);
+    return lines;
+}
+
+/// The largest difference of a channel between the pixels of a box and the pixel in its middle.
+int Unevenness(const QImage& picture, const QRect& box) {
+    const QColor middle = picture.pixelColor(box.center());
+    int worst = 0;
+    for (int y = box.top(); y <= box.bottom(); ++y) {
+        for (int x = box.left(); x <= box.right(); ++x) {
+            const QColor here = picture.pixelColor(x, y);
+            worst = std::max({worst, std::abs(here.red() - middle.red()), std::abs(here.green() - middle.green()),
+                              std::abs(here.blue() - middle.blue())});
+        }
+    }
+    return worst;
+}
+
+} // namespace
+
+class ShippedData : public TavloraTest {};
+
+TEST_F(ShippedData, EveryPictureLoadsAtItsSize) {
+    const struct {
+        const char* name;
+        QSize size;
+    } pictures[] = {
+        {"BLNK100.dat", {2100, 1050}},  {"BLNK500.dat", {2100, 1050}},  {"BLNK1000.dat", {2100, 1050}},
+        {"BLNK5000.dat", {2100, 1050}}, {"$$$ellipse.dat", {656, 760}}, {"MoneyBg_US.bmp", {656, 760}},
+        {"fate.dat", {800, 800}},       {"uparrow.bmp", {128, 128}},    {"downarrow.bmp", {128, 128}},
+        {"leftarrow.bmp", {128, 128}},  {"rightarrow.bmp", {128, 128}}, {"deco_ul.dat", {300, 300}},
+        {"deco_ur.dat", {300, 300}},    {"deco_ll.dat", {300, 300}},    {"deco_lr.dat", {300, 300}},
+        {"deco2_ul.bmp", {300, 300}},   {"deco2_ur.bmp", {300, 300}},   {"deco2_ll.bmp", {300, 300}},
+        {"deco2_lr.bmp", {300, 300}},   {"toolbar.dat", {1320, 104}},   {"tavlora.png", {256, 256}},
+    };
+    for (const auto& picture : pictures) {
+        EXPECT_EQ(Load(QString::fromLatin1(picture.name)).size(), picture.size) << picture.name;
+    }
+}
+
+TEST_F(ShippedData, BlankNotesAreClearWhereTextAndPictureGo) {
+    for (const int amount : {100, 500, 1000, 5000}) {
+        const QImage note = Load(QStringLiteral("BLNK%1.dat").arg(amount));
+        ASSERT_FALSE(note.isNull()) << amount;
+        // The note is drawn at 600 dots an inch from 0.125, 0.123 inch; text boxes are 0.875 by 0.5 inch.
+        EXPECT_LE(Unevenness(note, QRect(173, 376, 524, 300)), 8) << amount;
+        EXPECT_LE(Unevenness(note, QRect(1365, 376, 524, 300)), 8) << amount;
+        // The square inside the oval of 0.82 by 0.95 inch round 1.84, 0.995.
+        EXPECT_LE(Unevenness(note, QRect(1029 - 173, 523 - 200, 346, 400)), 8) << amount;
+    }
+}
+
+TEST_F(ShippedData, BlankNotesWearTheColourOfTheirDenomination) {
+    const struct {
+        const char* name;
+        QRgb colour;
+    } notes[] = {{"BLNK100.dat", 0xFFC7C7E8},
+                 {"BLNK500.dat", 0xFFFAD3D8},
+                 {"BLNK1000.dat", 0xFFC7E4C8},
+                 {"BLNK5000.dat", 0xFFFAD085}};
+    for (const auto& note : notes) {
+        // Outside the rounded outline, so that the panel melts into the note that the program fills.
+        EXPECT_EQ(Load(QString::fromLatin1(note.name)).pixel(0, 0), note.colour) << note.name;
+    }
+}
+
+TEST_F(ShippedData, TheEllipseLeavesTheNoteItsCorners) {
+    const QImage ellipse = Load(QStringLiteral("$$$ellipse.dat"));
+    for (const QPoint& corner : {QPoint(0, 0), QPoint(655, 0), QPoint(0, 759), QPoint(655, 759)}) {
+        EXPECT_EQ(ellipse.pixelColor(corner).alpha(), 0);
+    }
+    EXPECT_EQ(ellipse.pixelColor(328, 200).alpha(), 255);
+}
+
+TEST_F(ShippedData, ArrowsPointTheWayTheyAreNamed) {
+    // Beside the shaft there is ink on the head's side of the middle only.
+    const auto ink = [](const QImage& picture, const QRect& box) {
+        int count = 0;
+        for (int y = box.top(); y <= box.bottom(); ++y) {
+            for (int x = box.left(); x <= box.right(); ++x)
+                count += picture.pixelColor(x, y).lightness() < 128;
+        }
+        return count;
+    };
+    const QRect up(0, 48, 40, 16), down(0, 64, 40, 16), left(48, 0, 16, 40), right(64, 0, 16, 40);
+    EXPECT_GT(ink(Load(QStringLiteral("uparrow.bmp")), up), ink(Load(QStringLiteral("uparrow.bmp")), down));
+    EXPECT_GT(ink(Load(QStringLiteral("downarrow.bmp")), down), ink(Load(QStringLiteral("downarrow.bmp")), up));
+    EXPECT_GT(ink(Load(QStringLiteral("leftarrow.bmp")), left), ink(Load(QStringLiteral("leftarrow.bmp")), right));
+    EXPECT_GT(ink(Load(QStringLiteral("rightarrow.bmp")), right), ink(Load(QStringLiteral("rightarrow.bmp")), left));
+}
+
+TEST_F(ShippedData, EveryGameHoldsItsRecordsInOrder) {
+    const struct { int first, count; } runs[] = {{3, 28}, {31, 4}, {35, 12}, {47, 12}, {59, 4}, {63, 6}};
+    for (const char* name :
+         {"Default_US.dat", "Blank_US.gam", "Family_US.gam", "Generic_US.gam", "Person_US.gam", "Town_US.gam"}) {
+        const QList<QByteArray> lines = Lines(ReadFile(DataPath(QString::fromLatin1(name))));
+        ASSERT_EQ(lines.size(), 69) << name;
+        EXPECT_TRUE(lines[0].startsWith("\"TavloraGameBoard\", ")) << name;
+        for (const auto& run : runs) {
+            for (int i = 0; i < run.count; ++i) {
+                EXPECT_TRUE(lines[run.first + i].startsWith(QByteArray::number(i) + ", \"")) << name << run.first + i;
+            }
+        }
+    }
+}
+
+TEST_F(ShippedData, RentsHaveARowForEachSpaceAndAFieldLessInOlderKits) {
+    const struct {
+        const char* name;
+        int fields;
+    } files[] = {{"Rents_US.dat", 9}, {"older/Rents_US.dat", 8}};
+    for (const auto& file : files) {
+        const QList<QByteArray> rows = Lines(ReadFile(DataPath(QString::fromLatin1(file.name))));
+        ASSERT_EQ(rows.size(), 28) << file.name;
+        for (int row = 0; row < rows.size(); ++row) {
+            const QList<QByteArray> fields = rows[row].split(',');
+            ASSERT_EQ(fields.size(), file.fields) << file.name << row;
+            EXPECT_EQ(fields[0].toInt(), row) << file.name;
+            // The smallest note is a 100.
+            for (int i = 1; i < fields.size() - 1; ++i)
+                EXPECT_EQ(fields[i].toInt() % 100, 0) << file.name << row;
+        }
+    }
+}
+
+TEST_F(ShippedData, RulesBeginWithTheirHeadAndEveryLineCanBeRead) {
+    const QList<QByteArray> lines = Lines(ReadFile(DataPath(QStringLiteral("GamePlay_US.dat"))));
+    ASSERT_FALSE(lines.isEmpty());
+    EXPECT_EQ(lines.first(), "<Head>");
+    EXPECT_EQ(lines.count("<Col1>"), 1);
+    EXPECT_EQ(lines.count("<Col2>"), 1);
+    static const QRegularExpression text(QStringLiteral("^(times|arial),[0-9]+,[LCR],(R|B|I|BI):"));
+    for (const QByteArray& line : lines) {
+        if (line.isEmpty() || line == "<Head>" || line == "<Col1>" || line == "<Col2>") continue;
+        EXPECT_TRUE(text.match(QString::fromLatin1(line)).hasMatch()) << line.constData();
+    }
+}
