@@ -5,9 +5,14 @@
 #include "platform/Numbers.h"
 #include "platform/Painting.h"
 
+#include <QPainterPath>
+
 #include <cmath>
 
 namespace {
+
+// The painter draws nothing of a line without length; this much is too little to be seen.
+constexpr double kSpeck = 0.001;
 
 int PenWidth(const Pen& pen) { return std::max(pen.width, 1); }
 
@@ -189,10 +194,30 @@ void DeviceContext::Rectangle(int left, int top, int right, int bottom) {
     }
     // The measured platform draws nothing of a thin-penned shape of a single pixel.
     if (PenWidth(*m_state.pen) == 1 && shape.size() == QSize(1, 1)) return;
-    const QRectF outline = OutlineRect(shape);
-    // A polygon, because a rectangle without height or width would not be stroked.
-    const QPointF corners[] = {outline.topLeft(), outline.topRight(), outline.bottomRight(), outline.bottomLeft()};
-    painter.drawPolygon(corners, 4);
+    StrokeRectangle(OutlineRect(shape));
+}
+
+void DeviceContext::StrokeRectangle(const QRectF& outline) {
+    QPainter& painter = Painter();
+    const int width = PenWidth(*m_state.pen);
+    if (width > 2 && (outline.width() == 0 || outline.height() == 0)) {
+        painter.drawLine(outline.topLeft(), outline.bottomRight() + QPointF(kSpeck, 0));
+        return;
+    }
+    if (width > 2 || painter.pen().style() != Qt::SolidLine) {
+        painter.drawRect(outline);
+        return;
+    }
+    // Thin frames are filled between their edges: stroked, their corners would come out grey.
+    const double half = width / 2.0;
+    const QRectF inner = outline.adjusted(half, half, -half, -half);
+    const QColor penColor = painter.pen().color();
+    painter.setPen(Qt::NoPen);
+    painter.drawRect(outline);
+    QPainterPath frame;
+    frame.addRect(outline.adjusted(-half, -half, half, half));
+    if (inner.width() > 0 && inner.height() > 0) frame.addRect(inner);
+    painter.fillPath(frame, penColor);
 }
 
 void DeviceContext::Ellipse(int left, int top, int right, int bottom) {
@@ -205,7 +230,17 @@ void DeviceContext::Ellipse(int left, int top, int right, int bottom) {
         return;
     }
     if (PenWidth(*m_state.pen) == 1 && shape.size() == QSize(1, 1)) return;
-    Painter().drawEllipse(OutlineRect(shape));
+    const QRectF outline = OutlineRect(shape);
+    const double half = PenWidth(*m_state.pen) / 2.0;
+    if (std::min(outline.width(), outline.height()) > 2 * half) {
+        Painter().drawEllipse(outline);
+        return;
+    }
+    // The pen covers all of it; stroked, so small a ring would show a hole.
+    QPainter& painter = Painter();
+    painter.setBrush(painter.pen().color());
+    painter.setPen(Qt::NoPen);
+    painter.drawEllipse(outline.adjusted(-half, -half, half, half));
 }
 
 void DeviceContext::Polygon(std::span<const QPoint> points) {

@@ -165,6 +165,7 @@ private:
     bool HasPen() const { return m_state.pen && m_state.pen->style != PenStyle::Null; }
     QRectF OutlineRect(const QRect& shape) const;
     void ApplyPenAndBrush();
+    void StrokeRectangle(const QRectF& outline);
 
     QImage* m_image = nullptr;
     QPainter* m_painter = nullptr;

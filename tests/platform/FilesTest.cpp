@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#include "platform/Files.h"
+
+#include "support/TestFixture.h"
+
+#include <QDir>
+
+class FilesTest : public TavloraTest {};
+
+TEST_F(FilesTest, EachOperationCanBeMadeToFailAndLosesNothing) {
+    using Files::Operation;
+    const QString path = WriteFile(QStringLiteral("keep.txt"), "old");
+    for (const Operation operation : {Operation::OpenWrite, Operation::Write, Operation::Commit}) {
+        Files::SetFaultHook([=](Operation at, const QString&) -> std::optional<QString> {
+            if (at != operation) return std::nullopt;
+            return QStringLiteral("No space left on device");
+        });
+        QString error;
+        EXPECT_FALSE(Files::WriteWhole(path, "new", error));
+        EXPECT_EQ(error, QStringLiteral("No space left on device"));
+        EXPECT_EQ(ReadFile(path), QByteArray("old"));
+    }
+    Files::SetFaultHook({});
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{QStringLiteral("keep.txt")});
+}
+
+TEST_F(FilesTest, TheExactNameGoesFirstThenTheOnlyOneThatDiffersInCase) {
+    WriteFile(QStringLiteral("Photo.JPG"), "1");
+    EXPECT_EQ(Files::InDiskSpelling(PathOf(QStringLiteral("photo.jpg"))), PathOf(QStringLiteral("Photo.JPG")));
+    WriteFile(QStringLiteral("PHOTO.jpg"), "2");
+    EXPECT_EQ(Files::InDiskSpelling(PathOf(QStringLiteral("photo.jpg"))), PathOf(QStringLiteral("photo.jpg")));
+    EXPECT_EQ(Files::InDiskSpelling(PathOf(QStringLiteral("PHOTO.jpg"))), PathOf(QStringLiteral("PHOTO.jpg")));
+}
+
+TEST_F(FilesTest, AFolderIsNoFileAndSaysSo) {
+    QString error;
+    EXPECT_FALSE(Files::Exists(folder.path()));
+    EXPECT_FALSE(Files::ReadAll(folder.path(), error));
+    EXPECT_FALSE(error.isEmpty());
+}
