@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+#include "app/services/basCommon.h"
+
+#include "app/services/basAPI.h"
+#include "app/services/basErrLog.h"
+#include "app/services/basMsgQueue.h"
+#include "platform/ProgramSettings.h"
+#include "platform/Screen.h"
+#include "support/TestFixture.h"
+
+#include <QWidget>
+
+using namespace basCommon;
+
+class CommonTest : public TavloraTest {
+protected:
+    CommonTest() {
+        basErrLog::ResetForTest();
+        basErrLog::ErrInit(60000);
+        InitIniPath();
+    }
+    ~CommonTest() override { basCommon::ResetForTest(); }
+    QByteArray Ini() const { return ReadFile(PathOf(QStringLiteral("tavlora.ini"))); }
+};
+
+TEST_F(CommonTest, Edge_GetColorFromStringReversesRedAndBlue) {
+    const Color color = GetColorFromString(QStringLiteral("00FAD085"));
+    EXPECT_EQ(color.Blue(), 0x85);
+    EXPECT_EQ(color.Green(), 0xD0);
+    EXPECT_EQ(color.Red(), 0xFA);
+    EXPECT_EQ(color.Value(), 0x85D0FA);
+}
+
+TEST_F(CommonTest, Edge_GetColorFromStringOfAGRaises) {
+    QString text = QStringLiteral("00FG0000");
+    try {
+        GetColorFromString(text);
+        FAIL();
+    } catch (const TavloraError& error) {
+        EXPECT_EQ(error.Number(), ErrNumber::kIllegalValue);
+        EXPECT_TRUE(error.Description().endsWith(QStringLiteral("Illegal value for Color")));
+    }
+}
+
+TEST_F(CommonTest, Edge_AnIniKeyWithAnEmptyValueCountsAsAbsent) {
+    WriteFile(QStringLiteral("tavlora.ini"), "[tavlora]\r\nShowSplash=\r\n");
+    EXPECT_EQ(GetIniStringWithDefault(QStringLiteral("ShowSplash"), QStringLiteral("True")), QStringLiteral("True"));
+    EXPECT_TRUE(Ini().contains("ShowSplash=True"));
+}
+
+TEST_F(CommonTest, AColorStringIsConsumed) {
+    QString text = QStringLiteral("00ff0000");
+    EXPECT_EQ(GetColorFromString(text), Color::Rgb(255, 0, 0));
+    EXPECT_EQ(text, QString());
+    EXPECT_EQ(GetColorFromString(QString()), Color::Black());
+}
+
+TEST_F(CommonTest, IniAccessBeforeTheStartRaises) {
+    basCommon::ResetForTest();
+    try {
+        GetIniString(QStringLiteral("A"));
+        FAIL();
+    } catch (const TavloraError& error) {
+        EXPECT_EQ(error.Number(), ErrNumber::kAssertion);
+        EXPECT_TRUE(error.Description().endsWith(QStringLiteral("Program did not call InitIniPath")));
+    }
+}
+
+TEST_F(CommonTest, TheIniFileAndItsSectionAreNamedAfterTheProgram) {
+    Settings().sProgramName = QStringLiteral("tavlora2a");
+    InitIniPath();
+    EXPECT_EQ(GetIniPath(), PathOf(QStringLiteral("tavlora2a.ini")));
+    WriteIniString(QStringLiteral("GameVersion"), QStringLiteral("2A"));
+    EXPECT_TRUE(ReadFile(GetIniPath()).contains("[tavlora2a]"));
+    EXPECT_EQ(GetIniString(QStringLiteral("gameversion")), QStringLiteral("2A"));
+}
+
+TEST_F(CommonTest, ReadOnlySettingsAreNeverWritten) {
+    Settings().bIniReadOnly = true;
+    EXPECT_EQ(GetIniStringWithDefault(QStringLiteral("GameVersion"), QStringLiteral("8")), QStringLiteral("8"));
+    EXPECT_TRUE(Ini().isEmpty());
+}
+
+TEST_F(CommonTest, AColorKeyIsWrittenWithItsDefault) {
+    EXPECT_EQ(GetIniColor(QStringLiteral("PrintRedColor"), QStringLiteral("00FF0000")), Color::Rgb(255, 0, 0));
+    EXPECT_TRUE(Ini().contains("PrintRedColor=00FF0000"));
+}
+
+TEST_F(CommonTest, EscapesOfRecordTextAreUndone) {
+    EXPECT_EQ(InsertLineBreaks(QStringLiteral("a\\nb\\qc\\\\d\\x")), QStringLiteral("a\r\nb\"c\\d\\x"));
+    EXPECT_EQ(InsertLineBreaks(QStringLiteral("\\\\n")), QStringLiteral("\\n"))
+        << "scanning goes on behind the one kept";
+    EXPECT_EQ(InsertLineBreaks(QStringLiteral("end\\")), QStringLiteral("end\\"));
+}
+
+TEST_F(CommonTest, MessagesWaitUntilThePaintingIsDone) {
+    basMsgQueue::MsgQueue_Init();
+    basMsgQueue::MsgQueue_Post(QStringLiteral("first"), vbInformation);
+    basMsgQueue::MsgQueue_Post(QStringLiteral("second"), vbInformation);
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+    basMsgQueue::MsgQueue_Display();
+    EXPECT_EQ(desktop.Texts(), QStringList({QStringLiteral("first"), QStringLiteral("second")}));
+    EXPECT_FALSE(basMsgQueue::MsgQueue_IsOpen());
+    basMsgQueue::MsgQueue_Post(QStringLiteral("at once"), vbInformation);
+    EXPECT_EQ(desktop.boxes.size(), 3);
+}
+
+TEST_F(CommonTest, MoreThanThreeMessagesComeAsOneBox) {
+    basMsgQueue::MsgQueue_Init();
+    for (int i = 1; i <= 4; ++i)
+        basMsgQueue::MsgQueue_Post(QStringLiteral("m%1").arg(i), vbExclamation);
+    basMsgQueue::MsgQueue_Display();
+    EXPECT_EQ(desktop.Texts(), QStringList{QStringLiteral("m1\r\nm2\r\nm3\r\nm4")});
+}
+
+TEST_F(CommonTest, ThePlatformTellsAboutItself) {
+    int major = 0, minor = 0, build = 0, platform = 0;
+    EXPECT_TRUE(basAPI::GetOsVersion(major, minor, build, platform));
+    EXPECT_GT(major, 0);
+    EXPECT_GT(basAPI::FreeSpaceOnDisk(folder.path()), 0.0);
+    EXPECT_GT(basAPI::FreeSpaceOnDisk(QStringLiteral("C:\\")), 0.0);
+    EXPECT_GT(basAPI::ScreenBitsPerPixel(), 8);
+    EXPECT_GT(basAPI::FrameBorderThicknessX(), 0);
+    EXPECT_EQ(basAPI::FrameBorderThicknessX(), basAPI::FrameBorderThicknessY());
+}
+
+TEST_F(CommonTest, AWindowIsPlacedAQuarterFromTheLeftAndAThirdFromTheTop) {
+    QWidget window;
+    window.resize(400, 200);
+    ShowEntireForm(window);
+    const QRect area = Screen::FreeArea();
+    EXPECT_EQ(window.x(), area.left() + (area.width() - 400) / 4);
+    EXPECT_EQ(window.y(), area.top() + (area.height() - 200) / 3);
+    window.resize(5000, 5000);
+    ShowEntireForm(window);
+    EXPECT_TRUE(area.contains(window.geometry())) << "never larger than the free area";
+}
