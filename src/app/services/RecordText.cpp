@@ -32,6 +32,8 @@ QString Quote(const QString& sText) {
     text.replace(QStringLiteral("\\"), QStringLiteral("\\\\"));
     text.replace(QStringLiteral("\""), QStringLiteral("\\q"));
     text.replace(QStringLiteral("\r\n"), QStringLiteral("\\n"));
+    // Half a line break would end the record in the middle of the text.
+    text.replace(u'\r', QStringLiteral("\\n")).replace(u'\n', QStringLiteral("\\n"));
     return u'"' + text + u'"';
 }
 

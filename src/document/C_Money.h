@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "images/C_Image.h"
+#include "platform/Color.h"
+
+#include <array>
+
+/// One denomination of the play money.
+class C_Money {
+public:
+    static constexpr int kTexts = 2;
+
+    /// 0 to 3.
+    qint16 Index = 0;
+    /// The user's picture on the note.
+    C_Image FaceImage;
+    /// The blank note; set at every load, never saved.
+    C_Image BackImage;
+    /// Set at start-up, never saved.
+    Color BackColor;
+
+    /// Raise the subscript error outside 0 to 1.
+    QString Text(int iIndex) const;
+    void Let_Text(int iIndex, const QString& sText);
+
+    bool IsDifferentFrom(const C_Money& objOther) const;
+    void LoadFromObject(const C_Money& objSource);
+
+    QString GetQuotedString() const;
+    /// Reads a record off the front and returns what is left. An index that is no number leaves Index as it
+    /// was.
+    QString SetQuotedString(const QString& sLine);
+
+private:
+    std::array<QString, kTexts> m_sText;
+};

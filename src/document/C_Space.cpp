@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+#include "document/C_Space.h"
+
+#include "app/services/basCommon.h"
+#include "app/services/basErrLog.h"
+#include "app/services/RecordText.h"
+#include "document/RecordFields.h"
+
+namespace {
+
+constexpr TextBox kBoxWithoutImage{34, 51};
+constexpr TextBox kBoxWithImage{34, 25};
+
+} // namespace
+
+float C_Space::TextSize() const { return CappedTextSize(Font, m_fTextSize); }
+
+void C_Space::SetText(const QString& sTextIn) try {
+    m_lines.Split(sTextIn);
+    const TextBox box = Image.FullPath().isEmpty() ? kBoxWithoutImage : kBoxWithImage;
+    if (m_lines.NLines == 0) {
+        // Unscaled on purpose: nothing is written at this size, and the font's own size caps it.
+        m_fTextSize = float(box.lHeight);
+        return;
+    }
+    Let_TextSize(float(FitTextLine(m_lines.InUse(), Font, box) / kTextUnits));
+    basCommon::Assert(TextSize() != 0, QStringLiteral("Size set to zero"), QStringLiteral("C_SpaceSetText"));
+} catch (...) {
+    ErrTail("C_Space!", "SetText", sTextIn);
+}
+
+void C_Space::SetImagePath(const QString& sFullPath) try {
+    const bool had = !Image.FullPath().isEmpty();
+    Image.Let_FullPath(sFullPath);
+    if (had == sFullPath.isEmpty()) SetText(TextLines::kUseExisting);
+} catch (...) {
+    ErrTail("C_Space!", "SetImagePath", sFullPath);
+}
+
+bool C_Space::IsDifferentFrom(const C_Space& objOther) const {
+    return Index != objOther.Index || Cost != objOther.Cost || m_lines != objOther.m_lines ||
+           !(CostColor == objOther.CostColor) || m_fTextSize != objOther.m_fTextSize ||
+           SpaceType != objOther.SpaceType || !(SpaceColor == objOther.SpaceColor) || IsShowing != objOther.IsShowing ||
+           Font.IsDifferentFrom(objOther.Font) || Image.IsDifferentFrom(objOther.Image);
+}
+
+void C_Space::LoadFromObject(const C_Space& objSource) try {
+    Index = objSource.Index;
+    Cost = objSource.Cost;
+    m_lines = objSource.m_lines;
+    CostColor = objSource.CostColor;
+    m_fTextSize = objSource.m_fTextSize;
+    SpaceType = objSource.SpaceType;
+    SpaceColor = objSource.SpaceColor;
+    IsShowing = objSource.IsShowing;
+    Font.LoadFromObject(objSource.Font);
+    ReplaceImage(Image, objSource.Image);
+} catch (...) {
+    ErrTail("C_Space!", "LoadFromObject", objSource.Index);
+}
+
+QString C_Space::GetQuotedString() const try {
+    return QString::number(Index) + QStringLiteral(", ") + basTAVL::Quote(TextAll()) + QStringLiteral(", ") +
+           Image.GetQuotedString() + QStringLiteral(", ") + Font.GetQuotedString();
+} catch (...) {
+    ErrTail("C_Space!", "GetQuotedString");
+}
+
+QString C_Space::SetQuotedString(const QString& sLine) try {
+    QString rest = sLine;
+    const QString sSpace = basTAVL::GetQuotedField(rest);
+    QString text = basTAVL::GetQuotedField(rest);
+    Image.SpaceOrCorner = QStringLiteral("Space");
+    Index = IndexFromField(QStringLiteral("sSpace"), sSpace);
+    if (text.isEmpty()) text = kNotFilledIn;
+    rest = Image.SetQuotedString(rest, Image.SpaceOrCorner, Index);
+    rest = Font.SetQuotedString(rest);
+    SetText(text);
+    return rest;
+} catch (...) {
+    ErrTail("C_Space!", "SetQuotedString", sLine);
+}

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "document/C_FontInfo.h"
+#include "document/TextLines.h"
+#include "images/C_Image.h"
+#include "platform/Color.h"
+
+/// One of the six round tokens.
+class C_Token {
+public:
+    /// 0 to 5.
+    qint16 Index = 0;
+    /// Height of a line of text, in fractions of the board's width.
+    float m_fTextSize = 0;
+    /// Set at start-up, never saved. White where the start sets none.
+    Color BackColor = Color::White();
+    C_FontInfo Font;
+    C_Image Image;
+
+    /// A new font and image for the token of this number.
+    void Init(qint16 iIndex);
+
+    qint16 NLines() const { return m_lines.NLines; }
+    void Let_NLines(qint16 iLines) { m_lines.NLines = iLines; }
+    /// Raise the subscript error outside 0 to 9.
+    QString Text(int iLine) const { return m_lines.Line(iLine); }
+    void Let_Text(int iLine, const QString& sText) { m_lines.SetLine(iLine, sText); }
+    /// The lines in use, joined with CR LF; written, they aren't fitted.
+    QString TextAll() const { return m_lines.All(); }
+    void Let_TextAll(const QString& sText) { m_lines.SetAll(sText); }
+    QStringList TextArray() const { return m_lines.InUse(); }
+    /// Height of a line, in fractions of the board's width, never above what the font's size allows.
+    float TextSize() const;
+    void Let_TextSize(float fTextSize) { m_fTextSize = fTextSize; }
+
+    /// Splits the text into lines and fits them to the token. "UseExistingString" keeps the lines.
+    void SetText(const QString& sTextIn);
+    /// Fits the text anew when a picture comes or goes.
+    void SetImagePath(const QString& sFullPath);
+
+    bool IsDifferentFrom(const C_Token& objOther) const;
+    void LoadFromObject(const C_Token& objSource);
+
+    QString GetQuotedString() const;
+    /// Reads a record off the front and returns what is left. Raises for an index that is no number.
+    QString SetQuotedString(const QString& sLine);
+
+private:
+    TextLines m_lines;
+};

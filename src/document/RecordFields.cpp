@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#include "document/RecordFields.h"
+
+#include "app/services/basErrLog.h"
+#include "app/services/RecordText.h"
+#include "document/C_FontInfo.h"
+#include "images/C_Image.h"
+#include "platform/Numbers.h"
+
+const QString kNotFilledIn = QStringLiteral("Not Filled In");
+
+qint16 IndexFromField(const QString& sVariable, const QString& sField) {
+    const std::optional<double> number = ParseNumber(sField);
+    if (!number) basErrLog::ErrUnexVal(sVariable, sField);
+    return basTAVL::CInt(*number);
+}
+
+float CappedTextSize(const C_FontInfo& font, float fTextSize) { return std::min(font.Size / 1000.0F, fTextSize); }
+
+void ReplaceImage(C_Image& image, const C_Image& objSource) {
+    if (!image.IsDifferentFrom(objSource)) return;
+    C_Image fresh;
+    fresh.LoadFromObject(objSource, false);
+    image = fresh;
+}

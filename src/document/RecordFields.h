@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+class C_FontInfo;
+class C_Image;
+
+/// Stands for a text that nobody has written yet.
+extern const QString kNotFilledIn;
+
+/// The index of a record as its field holds it. Raises for a text that is no number, naming the variable,
+/// and the overflow error outside 16 bits.
+qint16 IndexFromField(const QString& sVariable, const QString& sField);
+
+/// The smaller of a fitted line height and the one that the font's size allows: 12 points cap it at 0.012
+/// of the board's width.
+float CappedTextSize(const C_FontInfo& font, float fTextSize);
+
+/// Puts a new object with the other image's content in place of one that differs. A new object has no owner
+/// while it is loaded, so the thumbnail that the editor's copy has just made isn't deleted.
+void ReplaceImage(C_Image& image, const C_Image& objSource);

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/services/basErrLog.h"
+#include "app/services/TavloraError.h"
+#include "board/basDraw.h"
+#include "document/basTAVL.h"
+#include "platform/DeviceContext.h"
+#include "support/TestFixture.h"
+
+#include <QImage>
+
+/// A game whose records nobody has touched, and a context to measure its texts on.
+class GameTest : public TavloraTest {
+protected:
+    GameTest() {
+        ResetModules();
+        basDraw::Draw_SetHdc(&context);
+    }
+    ~GameTest() override { ResetModules(); }
+
+    /// Number of the error that an action raises; 0 when it raises none.
+    template <typename Action>
+    static quint32 ErrorOf(Action action) {
+        try {
+            action();
+        } catch (const TavloraError& error) {
+            return error.Number();
+        }
+        return 0;
+    }
+
+    QImage canvas{100, 100, QImage::Format_RGB32};
+    DeviceContext context{canvas};
+
+private:
+    static void ResetModules() {
+        basDraw::ResetForTest();
+        basTAVL::ResetForTest();
+        basErrLog::ResetForTest();
+    }
+};
