@@ -4,6 +4,7 @@
 #include "platform/FontFace.h"
 #include "platform/Numbers.h"
 #include "platform/Painting.h"
+#include "platform/Resample.h"
 
 #include <QPainterPath>
 
@@ -45,10 +46,12 @@ QPen ToQPen(const Pen& pen) {
 
 QPainter::CompositionMode ToCompositionMode(RasterOp operation) {
     switch (operation) {
+        // Bit operations make odd colours out of the greys that smooth scaling puts between black and white.
+        // These two agree with them wherever one side is black or white, and blend in between.
         case RasterOp::SourceAnd:
-            return QPainter::RasterOp_SourceAndDestination;
+            return QPainter::CompositionMode_Multiply;
         case RasterOp::SourcePaint:
-            return QPainter::RasterOp_SourceOrDestination;
+            return QPainter::CompositionMode_Screen;
         case RasterOp::SourceInvert:
             return QPainter::RasterOp_SourceXorDestination;
         case RasterOp::SourceCopy:
@@ -288,16 +291,42 @@ void DeviceContext::DrawImage(const QRectF& destination, const QImage& image, co
     if (destination.isEmpty() || source.isEmpty() || image.isNull()) return;
     const QRectF inside = source & QRectF(image.rect());
     if (inside.isEmpty()) return;
-    // Only the part that lies in the picture is painted, at its proportional place.
-    const double scaleX = destination.width() / source.width();
-    const double scaleY = destination.height() / source.height();
-    const QRectF target(destination.x() + (inside.x() - source.x()) * scaleX,
-                        destination.y() + (inside.y() - source.y()) * scaleY, inside.width() * scaleX,
-                        inside.height() * scaleY);
     QPainter& painter = Painter();
     painter.setCompositionMode(ToCompositionMode(operation));
-    painter.drawImage(target, image, inside);
+    if (m_image && painter.worldTransform().isIdentity()) {
+        DrawOnPixels(destination, image, source);
+    } else {
+        // Only the part that lies in the picture is painted, at its proportional place.
+        const double scaleX = destination.width() / source.width();
+        const double scaleY = destination.height() / source.height();
+        const QRectF target(destination.x() + (inside.x() - source.x()) * scaleX,
+                            destination.y() + (inside.y() - source.y()) * scaleY, inside.width() * scaleX,
+                            inside.height() * scaleY);
+        painter.drawImage(target, image, inside);
+    }
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+}
+
+// The painter's own scaling skips source pixels when it shrinks; here each counts. The destination lies on
+// whole pixels, so that its edges are sharp and what touches there leaves no seam.
+void DeviceContext::DrawOnPixels(const QRectF& destination, const QImage& image, const QRectF& source) {
+    const double ratio = m_image->devicePixelRatio();
+    const QPoint topLeft(CLng(destination.left() * ratio), CLng(destination.top() * ratio));
+    const QPoint bottomRight(CLng(destination.right() * ratio), CLng(destination.bottom() * ratio));
+    const QRect whole(topLeft, bottomRight - QPoint(1, 1));
+    const QRect visible = whole & m_image->rect();
+    if (visible.isEmpty()) return;
+    const double across = source.width() / whole.width();
+    const double down = source.height() / whole.height();
+    const QRectF part(source.x() + (visible.x() - whole.x()) * across, source.y() + (visible.y() - whole.y()) * down,
+                      visible.width() * across, visible.height() * down);
+    const QImage scaled =
+        part == QRectF(image.rect()) && visible.size() == image.size() ? image : Resample(image, part, visible.size());
+    QPainter& painter = Painter();
+    painter.save();
+    painter.scale(1 / ratio, 1 / ratio);
+    painter.drawImage(visible.topLeft(), scaled);
+    painter.restore();
 }
 
 Color DeviceContext::GetPixel(int x, int y) const {

@@ -166,6 +166,7 @@ private:
     QRectF OutlineRect(const QRect& shape) const;
     void ApplyPenAndBrush();
     void StrokeRectangle(const QRectF& outline);
+    void DrawOnPixels(const QRectF& destination, const QImage& image, const QRectF& source);
 
     QImage* m_image = nullptr;
     QPainter* m_painter = nullptr;

@@ -2,23 +2,33 @@
 #pragma once
 
 #include <QImage>
-#include <QString>
+#include <QRectF>
 
-/// A loaded picture, upright, in its own pixels.
+/// A caller's way of saying that every pixel is wanted.
+constexpr int kAllPixels = 0;
+
+/// A loaded picture, upright. Width and Height are those of the file; Image may hold fewer pixels when the
+/// caller of LoadPicture said how large the picture will be drawn.
 class Picture {
 public:
     Picture() = default;
-    explicit Picture(QImage image) : m_image(std::move(image)) {}
+    explicit Picture(QImage image) : m_image(std::move(image)), m_size(m_image.size()) {}
+    Picture(QImage image, QSize fullSize) : m_image(std::move(image)), m_size(fullSize) {}
 
     bool IsNull() const { return m_image.isNull(); }
-    int Width() const { return m_image.width(); }
-    int Height() const { return m_image.height(); }
+    int Width() const { return m_size.width(); }
+    int Height() const { return m_size.height(); }
     const QImage& Image() const { return m_image; }
+
+    /// A part given in the picture's own pixels as a part of Image.
+    QRectF PartOfImage(const QRectF& part) const {
+        if (m_image.size() == m_size || m_size.isEmpty()) return part;
+        const double across = double(m_image.width()) / m_size.width();
+        const double down = double(m_image.height()) / m_size.height();
+        return {part.x() * across, part.y() * down, part.width() * across, part.height() * down};
+    }
 
 private:
     QImage m_image;
+    QSize m_size;
 };
-
-/// Loads a picture whatever its extension says: the content decides. A null picture and a sentence in
-/// sError when it can't be read.
-Picture LoadPicture(const QString& sPath, QString& sError);

@@ -122,8 +122,8 @@ void Surface::PaintPicture(const Picture& picture, double x, double y, double wi
 
 void Surface::PaintPicture(const Picture& picture, double x, double y, double width, double height,
                            const QRectF& source, RasterOp operation) {
-    hDC().DrawImage(QRectF(ToPixels(x), ToPixels(y), ToPixels(width), ToPixels(height)), picture.Image(), source,
-                    operation);
+    hDC().DrawImage(QRectF(ToPixels(x), ToPixels(y), ToPixels(width), ToPixels(height)), picture.Image(),
+                    picture.PartOfImage(source), operation);
 }
 
 ScratchForm::ScratchForm(QSize sizeInPixels, double devicePixelRatio)

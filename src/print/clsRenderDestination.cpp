@@ -6,7 +6,7 @@
 #include "board/DrawDottedBox.h"
 #include "platform/Folders.h"
 #include "platform/Numbers.h"
-#include "platform/Picture.h"
+#include "platform/LoadPicture.h"
 #include "platform/Surface.h"
 
 namespace {

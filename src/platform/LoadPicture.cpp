@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#include "platform/LoadPicture.h"
+
+#include "platform/Files.h"
+#include "platform/PictureCache.h"
+#include "platform/PictureDecoder.h"
+
+#include <QThreadPool>
+
+#include <algorithm>
+
+namespace {
+
+// Sizes wanted are kept in few steps, so that dragging a zoom slider doesn't decode at every step.
+int StepAbove(int longerSideWanted) {
+    constexpr int kSmallestStep = 128;
+    if (longerSideWanted <= 0) return kAllPixels;
+    int step = kSmallestStep;
+    while (step < longerSideWanted && step < INT_MAX / 2)
+        step *= 2;
+    return step;
+}
+
+PictureCache::Entry Decode(const PictureCache::Key& key) {
+    PictureCache::Entry entry;
+    try {
+        const std::optional<QByteArray> bytes = Files::ReadAll(key.sPath, entry.sError);
+        if (!bytes) return entry;
+        entry.picture = PictureDecoder::Decode(*bytes, key.longerSideWanted, entry.sError);
+    } catch (const std::bad_alloc&) {
+        entry.sError = QStringLiteral("There is not enough memory for the picture");
+    }
+    if (entry.picture.IsNull() && entry.sError.isEmpty())
+        entry.sError = QStringLiteral("The picture could not be decoded");
+    return entry;
+}
+
+PictureCache::Key KeyFor(const QString& sPath, int longerSideWanted) {
+    return {sPath, Files::StampOf(Files::InDiskSpelling(sPath)), StepAbove(longerSideWanted)};
+}
+
+} // namespace
+
+Picture LoadPicture(const QString& sPath, QString& sError, int longerSideWanted) {
+    const PictureCache::Key key = KeyFor(sPath, longerSideWanted);
+    const PictureCache::Entry entry = PictureCache::Instance().Get(key, Decode);
+    sError = entry.sError;
+    return entry.picture;
+}
+
+void PrefetchPicture(const QString& sPath, int longerSideWanted) {
+    const PictureCache::Key key = KeyFor(sPath, longerSideWanted);
+    // A missing file is nothing to decode; the one who asks for it will be told.
+    if (key.stamp == Files::Stamp()) return;
+    if (!PictureCache::Instance().Reserve(key)) return;
+    QThreadPool::globalInstance()->start([key] { PictureCache::Instance().Fulfil(key, Decode(key)); });
+}
+
+void ForgetPictures() {
+    QThreadPool::globalInstance()->waitForDone();
+    PictureCache::Instance().Clear();
+}

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/Picture.h"
+
+#include <QString>
+
+/// Loads a picture whatever its extension says: the content decides. A null picture and a sentence in
+/// sError when it can't be read whole. A caller who knows how large the picture will be drawn gives the
+/// longer side in device pixels, and gets at least that many (or all there are) much faster. What was
+/// decoded is kept for a while; a changed file is read again. May be called on any thread.
+Picture LoadPicture(const QString& sPath, QString& sError, int longerSideWanted = kAllPixels);
+
+/// Starts decoding on another processor; the LoadPicture of the same path and size waits for it and takes
+/// the result. Nothing else happens: errors are told by LoadPicture.
+void PrefetchPicture(const QString& sPath, int longerSideWanted = kAllPixels);
+
+/// Waits for all prefetching and drops all kept pictures.
+void ForgetPictures();

@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: MIT
+#include "platform/PictureDecoder.h"
+
+#include "platform/PictureFormat.h"
+#include "platform/Resample.h"
+
+#include <QBuffer>
+#include <QColorSpace>
+#include <QImageReader>
+
+#include <mutex>
+
+namespace PictureDecoder {
+namespace {
+
+const char* ReaderName(PictureFormat format) {
+    switch (format) {
+        case PictureFormat::Bmp:
+            return "bmp";
+        case PictureFormat::Gif:
+            return "gif";
+        case PictureFormat::Png:
+            return "png";
+        case PictureFormat::WebP:
+            return "webp";
+        case PictureFormat::Tiff:
+            return "tiff";
+        default:
+            return "";
+    }
+}
+
+QString TooLarge(QSize size) {
+    return QStringLiteral("The picture claims to be %1 by %2 pixels, which is more than can be opened")
+        .arg(size.width())
+        .arg(size.height());
+}
+
+// One of the toolkit's readers.
+QImage Read(const QByteArray& bytes, PictureFormat format, QString& sError) {
+    static std::once_flag limit;
+    std::call_once(limit, [] { QImageReader::setAllocationLimit(int(kMaxPictureBytes >> 20)); });
+    if ((format == PictureFormat::Bmp && !IsBmpWhole(bytes)) || (format == PictureFormat::Gif && !IsGifWhole(bytes))) {
+        sError = QStringLiteral("The picture file is damaged or cut short");
+        return {};
+    }
+    QBuffer buffer;
+    buffer.setData(bytes);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer, ReaderName(format));
+    reader.setAutoDetectImageFormat(false);
+    reader.setAutoTransform(true);
+    const QSize size = reader.size();
+    if (size.isValid() && !IsSizeAllowed(size)) {
+        sError = TooLarge(size);
+        return {};
+    }
+    QImage image = reader.read();
+    if (image.isNull()) sError = reader.errorString();
+    return image;
+}
+
+QImage AsPixels(const QImage& image) {
+    return image.convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
+}
+
+// Keeps no more pixels than will be drawn; formats without a fast reduced decoding come whole.
+Picture Reduced(const QImage& image, int longerSideWanted) {
+    const int reduction = ReductionFor(std::max(image.width(), image.height()), longerSideWanted);
+    if (reduction == 1) return Picture(image);
+    const QSize size((image.width() + reduction - 1) / reduction, (image.height() + reduction - 1) / reduction);
+    return Picture(Resample(image, QRectF(image.rect()), size), image.size());
+}
+
+} // namespace
+
+int ReductionFor(int longerSide, int longerSideWanted) {
+    constexpr int kMostReduction = 8;
+    if (longerSideWanted == kAllPixels) return 1;
+    int reduction = 1;
+    while (reduction < kMostReduction && longerSide / (reduction * 2) >= longerSideWanted)
+        reduction *= 2;
+    return reduction;
+}
+
+QImage InScreenColors(QImage image, const QByteArray& colorProfile) {
+    if (!colorProfile.isEmpty()) image.setColorSpace(QColorSpace::fromIccProfile(colorProfile));
+    if (image.colorSpace().isValid() && image.colorSpace() != QColorSpace(QColorSpace::SRgb))
+        image.convertToColorSpace(QColorSpace(QColorSpace::SRgb));
+    image.setColorSpace(QColorSpace());
+    return image;
+}
+
+Picture Decode(const QByteArray& bytes, int longerSideWanted, QString& sError) {
+    const PictureFormat format = PictureFormatOf(bytes);
+    switch (format) {
+        case PictureFormat::Jpeg:
+            return DecodeJpeg(bytes, longerSideWanted, sError);
+        case PictureFormat::Heif: {
+            const Picture picture = DecodeHeif(bytes, sError);
+            return picture.IsNull() ? picture : Reduced(picture.Image(), longerSideWanted);
+        }
+        case PictureFormat::Unknown:
+        case PictureFormat::Metafile:
+            sError = QStringLiteral("The file does not hold a picture of a known kind");
+            return {};
+        default:
+            break;
+    }
+    const QImage image = Read(bytes, format, sError);
+    if (image.isNull()) return {};
+    if (!IsSizeAllowed(image.size())) {
+        sError = TooLarge(image.size());
+        return {};
+    }
+    return Reduced(InScreenColors(AsPixels(image), {}), longerSideWanted);
+}
+
+} // namespace PictureDecoder

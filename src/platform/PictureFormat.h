@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArrayView>
+#include <QSize>
+
+/// Kinds of picture files that are known, told apart by their first bytes and never by their names.
+enum class PictureFormat { Unknown, Bmp, Jpeg, Gif, Png, WebP, Tiff, Heif, Metafile };
+
+PictureFormat PictureFormatOf(QByteArrayView bytes);
+
+/// No picture may need more memory than this when every pixel is decoded to 32 bits: what claims more is a
+/// trap, not a photograph (the largest phone cameras need 200 MB).
+constexpr qint64 kMaxPictureBytes = qint64(512) << 20;
+
+/// False for sizes that are empty or beyond the limit.
+bool IsSizeAllowed(QSize size);
+
+/// False when the file is shorter than its bitmap head says it must be, or when the head's size is not
+/// allowed. The declared size of the file plays no part: it is often wrong, and thumbnails of this program
+/// claim three times their length on purpose.
+bool IsBmpWhole(QByteArrayView bytes);
+
+/// False when the file ends before the data of its first frame do; the decoder would show what there is.
+bool IsGifWhole(QByteArrayView bytes);
