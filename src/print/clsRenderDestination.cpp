@@ -5,8 +5,8 @@
 #include "app/services/basPath.h"
 #include "board/DrawDottedBox.h"
 #include "platform/Folders.h"
-#include "platform/Numbers.h"
 #include "platform/LoadPicture.h"
+#include "platform/Numbers.h"
 #include "platform/Surface.h"
 
 namespace {
