@@ -15,13 +15,6 @@ FaultHook& Hook() {
     return hook;
 }
 
-bool Allowed(Operation operation, const QString& sPath, QString& sError) {
-    if (!Hook()) return true;
-    const std::optional<QString> fault = Hook()(operation, sPath);
-    if (fault) sError = *fault;
-    return !fault;
-}
-
 bool Failed(const QFileDevice& file, QString& sError) {
     sError = file.errorString();
     return false;
@@ -32,6 +25,13 @@ bool Failed(const QFileDevice& file, QString& sError) {
 FaultHook SetFaultHook(FaultHook hook) {
     std::swap(Hook(), hook);
     return hook;
+}
+
+bool IsPermitted(Operation operation, const QString& sPath, QString& sError) {
+    if (!Hook()) return true;
+    const std::optional<QString> fault = Hook()(operation, sPath);
+    if (fault) sError = *fault;
+    return !fault;
 }
 
 bool Exists(const QString& sPath) { return !sPath.isEmpty() && QFileInfo(sPath).isFile(); }
@@ -62,7 +62,7 @@ Stamp StampOf(const QString& sPath) {
 }
 
 std::optional<QByteArray> ReadAll(const QString& sPath, QString& sError) {
-    if (!Allowed(Operation::OpenRead, sPath, sError)) return std::nullopt;
+    if (!IsPermitted(Operation::OpenRead, sPath, sError)) return std::nullopt;
     if (IsDirectory(sPath)) {
         sError = QStringLiteral("It is a folder, not a file");
         return std::nullopt;
@@ -72,7 +72,7 @@ std::optional<QByteArray> ReadAll(const QString& sPath, QString& sError) {
         Failed(file, sError);
         return std::nullopt;
     }
-    if (!Allowed(Operation::Read, sPath, sError)) return std::nullopt;
+    if (!IsPermitted(Operation::Read, sPath, sError)) return std::nullopt;
     QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError) {
         Failed(file, sError);
@@ -82,11 +82,11 @@ std::optional<QByteArray> ReadAll(const QString& sPath, QString& sError) {
 }
 
 bool WriteWhole(const QString& sPath, const QByteArray& bytes, QString& sError) {
-    if (!Allowed(Operation::OpenWrite, sPath, sError)) return false;
+    if (!IsPermitted(Operation::OpenWrite, sPath, sError)) return false;
     QSaveFile file(sPath);
     file.setDirectWriteFallback(true);
     if (!file.open(QIODevice::WriteOnly)) return Failed(file, sError);
-    if (!Allowed(Operation::Write, sPath, sError)) {
+    if (!IsPermitted(Operation::Write, sPath, sError)) {
         file.cancelWriting();
         return false;
     }
@@ -95,7 +95,7 @@ bool WriteWhole(const QString& sPath, const QByteArray& bytes, QString& sError) 
         file.cancelWriting();
         return false;
     }
-    if (!Allowed(Operation::Commit, sPath, sError)) {
+    if (!IsPermitted(Operation::Commit, sPath, sError)) {
         file.cancelWriting();
         return false;
     }
@@ -103,42 +103,42 @@ bool WriteWhole(const QString& sPath, const QByteArray& bytes, QString& sError) 
 }
 
 bool Append(const QString& sPath, const QByteArray& bytes, QString& sError) {
-    if (!Allowed(Operation::OpenAppend, sPath, sError)) return false;
+    if (!IsPermitted(Operation::OpenAppend, sPath, sError)) return false;
     QFile file(sPath);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Append)) return Failed(file, sError);
-    if (!Allowed(Operation::Append, sPath, sError)) return false;
+    if (!IsPermitted(Operation::Append, sPath, sError)) return false;
     if (file.write(bytes) != bytes.size()) return Failed(file, sError);
     file.close();
     return file.error() == QFileDevice::NoError || Failed(file, sError);
 }
 
 bool Remove(const QString& sPath, QString& sError) {
-    if (!Allowed(Operation::Remove, sPath, sError)) return false;
+    if (!IsPermitted(Operation::Remove, sPath, sError)) return false;
     QFile file(sPath);
     return !file.exists() || file.remove() || Failed(file, sError);
 }
 
 bool Rename(const QString& sFrom, const QString& sTo, QString& sError) {
-    if (!Allowed(Operation::Rename, sFrom, sError)) return false;
+    if (!IsPermitted(Operation::Rename, sFrom, sError)) return false;
     QFile file(sFrom);
     return file.rename(sTo) || Failed(file, sError);
 }
 
 bool Copy(const QString& sFrom, const QString& sTo, QString& sError) {
-    if (!Allowed(Operation::Copy, sTo, sError)) return false;
+    if (!IsPermitted(Operation::Copy, sTo, sError)) return false;
     const std::optional<QByteArray> bytes = ReadAll(sFrom, sError);
     return bytes && WriteWhole(sTo, *bytes, sError);
 }
 
 bool MakeDirectory(const QString& sPath, QString& sError) {
-    if (!Allowed(Operation::MakeDirectory, sPath, sError)) return false;
+    if (!IsPermitted(Operation::MakeDirectory, sPath, sError)) return false;
     if (IsDirectory(sPath) || QDir().mkdir(sPath)) return true;
     sError = QStringLiteral("The folder '%1' can't be created").arg(sPath);
     return false;
 }
 
 bool MoveToTrash(const QString& sPath, QString& sError) {
-    if (!Allowed(Operation::Remove, sPath, sError)) return false;
+    if (!IsPermitted(Operation::Remove, sPath, sError)) return false;
     QFile file(sPath);
     return !file.exists() || file.moveToTrash() || file.remove() || Failed(file, sError);
 }

@@ -29,6 +29,8 @@ enum class Operation {
 using FaultHook = std::function<std::optional<QString>(Operation operation, const QString& sPath)>;
 /// Puts a hook in force (an empty one takes it away) and returns the one it replaces.
 FaultHook SetFaultHook(FaultHook hook);
+/// Asks the hook; for the platform's own file classes.
+bool IsPermitted(Operation operation, const QString& sPath, QString& sError);
 
 /// True for a file, not for a directory. The case of letters counts.
 bool Exists(const QString& sPath);
