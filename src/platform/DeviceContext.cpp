@@ -3,8 +3,8 @@
 
 #include "platform/FontFace.h"
 #include "platform/Numbers.h"
+#include "platform/PaintImage.h"
 #include "platform/Painting.h"
-#include "platform/Resample.h"
 
 #include <QPainterPath>
 
@@ -288,45 +288,7 @@ void DeviceContext::TextOut(int x, int y, const QString& sText) {
 
 void DeviceContext::DrawImage(const QRectF& destination, const QImage& image, const QRectF& source,
                               RasterOp operation) {
-    if (destination.isEmpty() || source.isEmpty() || image.isNull()) return;
-    const QRectF inside = source & QRectF(image.rect());
-    if (inside.isEmpty()) return;
-    QPainter& painter = Painter();
-    painter.setCompositionMode(ToCompositionMode(operation));
-    if (m_image && painter.worldTransform().isIdentity()) {
-        DrawOnPixels(destination, image, source);
-    } else {
-        // Only the part that lies in the picture is painted, at its proportional place.
-        const double scaleX = destination.width() / source.width();
-        const double scaleY = destination.height() / source.height();
-        const QRectF target(destination.x() + (inside.x() - source.x()) * scaleX,
-                            destination.y() + (inside.y() - source.y()) * scaleY, inside.width() * scaleX,
-                            inside.height() * scaleY);
-        painter.drawImage(target, image, inside);
-    }
-    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-}
-
-// The painter's own scaling skips source pixels when it shrinks; here each counts. The destination lies on
-// whole pixels, so that its edges are sharp and what touches there leaves no seam.
-void DeviceContext::DrawOnPixels(const QRectF& destination, const QImage& image, const QRectF& source) {
-    const double ratio = m_image->devicePixelRatio();
-    const QPoint topLeft(CLng(destination.left() * ratio), CLng(destination.top() * ratio));
-    const QPoint bottomRight(CLng(destination.right() * ratio), CLng(destination.bottom() * ratio));
-    const QRect whole(topLeft, bottomRight - QPoint(1, 1));
-    const QRect visible = whole & m_image->rect();
-    if (visible.isEmpty()) return;
-    const double across = source.width() / whole.width();
-    const double down = source.height() / whole.height();
-    const QRectF part(source.x() + (visible.x() - whole.x()) * across, source.y() + (visible.y() - whole.y()) * down,
-                      visible.width() * across, visible.height() * down);
-    const QImage scaled =
-        part == QRectF(image.rect()) && visible.size() == image.size() ? image : Resample(image, part, visible.size());
-    QPainter& painter = Painter();
-    painter.save();
-    painter.scale(1 / ratio, 1 / ratio);
-    painter.drawImage(visible.topLeft(), scaled);
-    painter.restore();
+    PaintImage(Painter(), destination, image, source, ToCompositionMode(operation));
 }
 
 Color DeviceContext::GetPixel(int x, int y) const {

@@ -142,6 +142,9 @@ public:
     void DrawImage(const QRectF& destination, const QImage& image, const QRectF& source,
                    RasterOp operation = RasterOp::SourceCopy);
 
+    /// Pixels that a unit takes.
+    double PixelRatio() const { return m_image ? m_image->devicePixelRatio() : 1.0; }
+
     /// Colour of a pixel; none outside the picture or where the device can't be read.
     Color GetPixel(int x, int y) const;
     void SetPixel(int x, int y, Color color) { FillRect(x, y, x + 1, y + 1, color); }
@@ -166,7 +169,6 @@ private:
     QRectF OutlineRect(const QRect& shape) const;
     void ApplyPenAndBrush();
     void StrokeRectangle(const QRectF& outline);
-    void DrawOnPixels(const QRectF& destination, const QImage& image, const QRectF& source);
 
     QImage* m_image = nullptr;
     QPainter* m_painter = nullptr;

@@ -3,6 +3,7 @@
 
 #include "platform/FontFace.h"
 #include "platform/Numbers.h"
+#include "platform/PaintImage.h"
 #include "platform/Painting.h"
 #include "platform/Picture.h"
 
@@ -124,6 +125,11 @@ void Surface::PaintPicture(const Picture& picture, double x, double y, double wi
                            const QRectF& source, RasterOp operation) {
     hDC().DrawImage(QRectF(ToPixels(x), ToPixels(y), ToPixels(width), ToPixels(height)), picture.Image(),
                     picture.PartOfImage(source), operation);
+}
+
+int Surface::PicturePixels(double length) {
+    const double worth = IsPrinter() ? std::min(1.0, kPaperDotsPerInch / DotsPerInch()) : hDC().PixelRatio();
+    return CLng(std::abs(ToPixels(length)) * worth);
 }
 
 ScratchForm::ScratchForm(QSize sizeInPixels, double devicePixelRatio)
