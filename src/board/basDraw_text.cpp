@@ -4,6 +4,7 @@
 #include "app/services/basErrLog.h"
 #include "board/basDraw_state.h"
 #include "platform/Numbers.h"
+#include "platform/TextColumns.h"
 
 #include <cmath>
 
@@ -114,22 +115,17 @@ void WriteLineShowingSelection(const QString& sLine, int row, QPoint start, cons
 
 // The column whose boundary is nearest to a distance from the line's start; a tie goes to the left.
 int NearestColumn(const QString& sLine, int distance) {
-    int column = 1;
+    int before = 0;
+    int column = TextColumns::Behind(sLine, before);
     int previous = distance;
     int rest = distance - Draw_GetWidth(LeftStr(sLine, column));
     while (rest > 0 && column < sLine.size()) {
         previous = rest;
-        ++column;
+        before = column;
+        column = TextColumns::Behind(sLine, column);
         rest = distance - Draw_GetWidth(LeftStr(sLine, column));
     }
-    return previous > -rest ? column : column - 1;
-}
-
-// A caret never stands between the halves of a surrogate pair.
-int OutOfSurrogatePair(const QString& sLine, int column) {
-    const bool inside =
-        column > 0 && column < sLine.size() && sLine[column].isLowSurrogate() && sLine[column - 1].isHighSurrogate();
-    return inside ? column - 1 : column;
+    return previous > -rest ? column : before;
 }
 
 } // namespace
@@ -213,7 +209,7 @@ void Draw_FindInsertPoint(const QStringList& sTextLines, const QString& sAlign, 
     if (u >= width) {
         iCol = int(line.size());
     } else if (u > 0) {
-        iCol = OutOfSurrogatePair(line, NearestColumn(line, u));
+        iCol = NearestColumn(line, u);
     }
 } catch (...) {
     ErrTail("basDraw!", "Draw_FindInsertPoint", sTextLines, sAlign, x0, y0, x, y, iCol, iRow);

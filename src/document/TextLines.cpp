@@ -6,25 +6,12 @@
 #include "document/C_FontInfo.h"
 #include "document/Subscript.h"
 #include "platform/Numbers.h"
-
-#include <QTextBoundaryFinder>
+#include "platform/TextColumns.h"
 
 namespace {
 
 const QString kNewLine = QStringLiteral("\r\n");
 constexpr int kMaxLastLine = 40;
-
-// Cuts a text to so many UTF-16 units, or to fewer where the cut would fall into a character.
-QString CutToCharacters(const QString& sText, qsizetype count) {
-    if (sText.size() <= count) return sText;
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, sText);
-    finder.setPosition(count);
-    if (!finder.isAtBoundary()) finder.toPreviousBoundary();
-    qsizetype end = finder.position();
-    // One character longer than the line itself is cut after all, but not into half a surrogate pair.
-    if (end <= 0) end = sText[count - 1].isHighSurrogate() ? count - 1 : count;
-    return sText.left(end);
-}
 
 } // namespace
 
@@ -62,7 +49,7 @@ void TextLines::Split(const QString& sText) {
     }
     // Only the last line is ever cut; the others go in at any length.
     const QString last = end < 0 ? sText.mid(from) : sText.mid(from, end - from);
-    SetLine(NLines++, CutToCharacters(last, kMaxLastLine));
+    SetLine(NLines++, TextColumns::LeftCharacters(last, kMaxLastLine));
     for (int i = NLines; i < kMaxLines; ++i)
         m_sText[size_t(i)].clear();
 }

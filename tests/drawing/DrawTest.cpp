@@ -66,6 +66,20 @@ protected:
     const QString L = QStringLiteral("L");
 };
 
+TEST_F(DrawTest, AClickNeverLandsWithinACharacter) {
+    UseFont(40);
+    const QString line = QStringLiteral("e\u0301\U0001F3E0");
+    const int accented = Draw_GetWidth(line.left(2));
+    int col = 0;
+    int row = 0;
+    for (int x = 0; x <= Draw_GetWidth(line); ++x) {
+        Draw_FindInsertPoint({line}, L, 0, 0, x, 3, col, row);
+        EXPECT_TRUE(col == 0 || col == 2 || col == 4) << x << " gives " << col;
+    }
+    Draw_FindInsertPoint({line}, L, 0, 0, accented / 2 + 2, 3, col, row);
+    EXPECT_EQ(col, 2);
+}
+
 TEST_F(DrawTest, Edge_AFontOfHeight1HasALinePitchOf2) {
     UseFont(1);
     EXPECT_EQ(context.CurrentFont()->Request().lHeight, 1);
