@@ -9,6 +9,8 @@
 #include <QStandardPaths>
 #include <QStorageInfo>
 
+#include <filesystem>
+
 namespace Folders {
 namespace {
 
@@ -91,8 +93,10 @@ int SystemMajorVersion() { return PretendedMajor() > 0 ? PretendedMajor() : Syst
 void PretendSystemMajorVersion(int major) { PretendedMajor() = major; }
 
 double FreeBytes(const QString& sPath) {
-    const QStorageInfo volume(NearestExisting(sPath));
-    return volume.isValid() ? double(volume.bytesAvailable()) : 0.0;
+    std::error_code error;
+    const std::filesystem::path path(NearestExisting(sPath).toStdU16String());
+    const std::filesystem::space_info space = std::filesystem::space(path, error);
+    return error ? 0.0 : double(space.available);
 }
 
 } // namespace Folders

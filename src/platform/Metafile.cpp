@@ -144,8 +144,8 @@ bool Metafile::Play(QPainter& painter, const QRectF& target) const {
         pixels = device.mapRect(target);
     } else {
         painter.scale(1 / scale.width(), 1 / scale.height());
-        pixels = QRectF(target.x() * scale.width(), target.y() * scale.height(),
-                        target.width() * scale.width(), target.height() * scale.height());
+        pixels = QRectF(target.x() * scale.width(), target.y() * scale.height(), target.width() * scale.width(),
+                        target.height() * scale.height());
     }
     const Playing playing{m_orders, !survey.floodFills, DotsPerInch(painter)};
     if (survey.readsBack) {

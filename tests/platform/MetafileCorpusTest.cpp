@@ -31,8 +31,7 @@ QList<Case> Cases(const QString& golden) {
     const QJsonObject all = QJsonDocument::fromJson(bytes.value_or(QByteArray())).object();
     for (auto entry = all.begin(); entry != all.end(); ++entry) {
         const QJsonObject values = entry.value().toObject();
-        cases.append(
-            {entry.key(), values[QLatin1String("use")].toString(), values[QLatin1String("png")].toString()});
+        cases.append({entry.key(), values[QLatin1String("use")].toString(), values[QLatin1String("png")].toString()});
     }
     return cases;
 }

@@ -36,8 +36,7 @@ double PictureComparison::DifferingPercent(const QImage& a, const QImage& b, int
         for (int x = 0; x < left.width(); ++x) {
             const QRgb p = left.pixel(x, y);
             const QRgb q = right.pixel(x, y);
-            differing += std::abs(qRed(p) - qRed(q)) > tolerance ||
-                         std::abs(qGreen(p) - qGreen(q)) > tolerance ||
+            differing += std::abs(qRed(p) - qRed(q)) > tolerance || std::abs(qGreen(p) - qGreen(q)) > tolerance ||
                          std::abs(qBlue(p) - qBlue(q)) > tolerance;
         }
     }

@@ -17,8 +17,7 @@ QRgb Ternary(quint8 code, QRgb pattern, QRgb source, QRgb target) {
     QRgb result = 0;
     for (int row = 0; row < 8; ++row) {
         if ((code >> row & 1) == 0) continue;
-        result |=
-            (row & 4 ? pattern : ~pattern) & (row & 2 ? source : ~source) & (row & 1 ? target : ~target);
+        result |= (row & 4 ? pattern : ~pattern) & (row & 2 ? source : ~source) & (row & 1 ? target : ~target);
     }
     return result | 0xFF000000;
 }
@@ -39,8 +38,7 @@ bool MetafileRop::UsesTarget(quint8 code) { return ((code ^ code >> 1) & 0x55) !
 bool MetafileRop::UsesSource(quint8 code) { return ((code ^ code >> 2) & 0x33) != 0; }
 bool MetafileRop::UsesPattern(quint8 code) { return ((code ^ code >> 4) & 0x0F) != 0; }
 
-MetafileCanvas::MetafileCanvas(QPainter& painter, const QRectF& target, double dotsPerInch,
-                               MetafileBudget& budget)
+MetafileCanvas::MetafileCanvas(QPainter& painter, const QRectF& target, double dotsPerInch, MetafileBudget& budget)
     : m_painter(&painter), m_target(target), m_bounds(target.toAlignedRect()), m_dotsPerInch(dotsPerInch),
       m_budget(budget) {
     m_painter->save();
@@ -167,6 +165,4 @@ void MetafileCanvas::FloodFill(QPoint start, QRgb colour, bool onlyOnColour, con
     m_painter->drawImage(0, 0, layer);
 }
 
-QImage MetafileCanvas::Snapshot(const QRect& area) const {
-    return m_picture ? m_picture->copy(area) : QImage();
-}
+QImage MetafileCanvas::Snapshot(const QRect& area) const { return m_picture ? m_picture->copy(area) : QImage(); }

@@ -103,8 +103,7 @@ bool IsReadable(const Head& head) {
     }
 }
 
-QList<QRgb> ReadColours(MetafileReader& reader, const Head& head, quint16 colourUse,
-                        const MetafilePalette& palette) {
+QList<QRgb> ReadColours(MetafileReader& reader, const Head& head, quint16 colourUse, const MetafilePalette& palette) {
     QList<QRgb> colours;
     if (head.bits > 8) {
         // A table in a picture of true colours is advice for displays that lack them.
@@ -154,8 +153,7 @@ void FillTrueRow(QRgb* row, int width, const uchar* bytes, int bits, const Field
         return;
     }
     for (int x = 0; x < width; ++x, bytes += bits / 8) {
-        const quint32 pixel =
-            bits == 16 ? qFromLittleEndian<quint16>(bytes) : qFromLittleEndian<quint32>(bytes);
+        const quint32 pixel = bits == 16 ? qFromLittleEndian<quint16>(bytes) : qFromLittleEndian<quint32>(bytes);
         row[x] = qRgb(fields.red.Value(pixel), fields.green.Value(pixel), fields.blue.Value(pixel));
     }
 }
@@ -287,14 +285,12 @@ QImage MetafileDib::Decode(QByteArrayView dib, quint16 colourUse, const Metafile
     return image;
 }
 
-QImage MetafileDib::DecodeDeviceBitmap(QByteArrayView bitmap, QRgb textColour, QRgb bkColour,
-                                       MetafileBudget& budget) {
+QImage MetafileDib::DecodeDeviceBitmap(QByteArrayView bitmap, QRgb textColour, QRgb bkColour, MetafileBudget& budget) {
     MetafileReader reader(bitmap);
     return ReadDeviceBitmap(reader, 0, textColour, bkColour, budget);
 }
 
-QImage MetafileDib::DecodePattern(QByteArrayView bitmap, QRgb textColour, QRgb bkColour,
-                                  MetafileBudget& budget) {
+QImage MetafileDib::DecodePattern(QByteArrayView bitmap, QRgb textColour, QRgb bkColour, MetafileBudget& budget) {
     MetafileReader reader(bitmap);
     return ReadDeviceBitmap(reader, kPatternBytesWithoutMeaning, textColour, bkColour, budget);
 }

@@ -72,10 +72,9 @@ struct MetafileRegion {
 /// An object of a kind that can't be drawn with still takes a slot, or all later numbers would be off.
 struct MetafileUnknownObject {};
 
-using MetafileObject =
-    std::variant<std::monostate, MetafileUnknownObject, std::shared_ptr<const MetafilePen>,
-                 std::shared_ptr<const MetafileBrush>, std::shared_ptr<const MetafileFont>,
-                 std::shared_ptr<const MetafilePalette>, std::shared_ptr<const MetafileRegion>>;
+using MetafileObject = std::variant<std::monostate, MetafileUnknownObject, std::shared_ptr<const MetafilePen>,
+                                    std::shared_ptr<const MetafileBrush>, std::shared_ptr<const MetafileFont>,
+                                    std::shared_ptr<const MetafilePalette>, std::shared_ptr<const MetafileRegion>>;
 
 /// The objects a metafile has created, by number.
 class MetafileObjects {

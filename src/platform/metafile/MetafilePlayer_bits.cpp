@@ -91,8 +91,7 @@ void MetafilePlayer::DrawBlit(const MetafileBlit& blit) {
     }
     if (code == kSource || code == kInvertedSource) {
         if (code == kInvertedSource) source.invertPixels();
-        m_canvas.Draw(seen, MetafileRop::kCopyPen,
-                      [&](QPainter& painter) { PaintBits(painter, blit, area, source); });
+        m_canvas.Draw(seen, MetafileRop::kCopyPen, [&](QPainter& painter) { PaintBits(painter, blit, area, source); });
         return;
     }
     const qint64 pixels = qint64(seen.width()) * seen.height();
@@ -127,10 +126,10 @@ void MetafilePlayer::PaintBits(QPainter& painter, const MetafileBlit& blit, cons
     const QPointF corner =
         m_state.mapping.ToDevice(blit.target + QPoint(blit.targetSize.width(), blit.targetSize.height()));
     const QPointF start = m_state.mapping.ToDevice(blit.target);
-    const bool mirrorX = (blit.unscaled ? blit.targetSize.width() < 0 : corner.x() < start.x()) !=
-                         (blit.sourceSize.width() < 0);
-    const bool mirrorY = (blit.unscaled ? blit.targetSize.height() < 0 : corner.y() < start.y()) !=
-                         (blit.sourceSize.height() < 0);
+    const bool mirrorX =
+        (blit.unscaled ? blit.targetSize.width() < 0 : corner.x() < start.x()) != (blit.sourceSize.width() < 0);
+    const bool mirrorY =
+        (blit.unscaled ? blit.targetSize.height() < 0 : corner.y() < start.y()) != (blit.sourceSize.height() < 0);
     const double scaleX = double(area.width()) / source.width();
     const double scaleY = double(area.height()) / source.height();
     // Only the part that lies in the picture is painted, at its proportional place.
@@ -139,8 +138,7 @@ void MetafilePlayer::PaintBits(QPainter& painter, const MetafileBlit& blit, cons
     const QRectF target(area.left() + x * scaleX, area.top() + y * scaleY, inside.width() * scaleX,
                         inside.height() * scaleY);
     QImage part = inside == image.rect() ? image : image.copy(inside);
-    if (!m_canvas.IsVector())
-        part = Shrink(part, target.size().toSize().expandedTo(QSize(1, 1)), m_state.stretchMode);
+    if (!m_canvas.IsVector()) part = Shrink(part, target.size().toSize().expandedTo(QSize(1, 1)), m_state.stretchMode);
     if (mirrorX || mirrorY) part = part.mirrored(mirrorX, mirrorY);
     painter.setRenderHint(QPainter::SmoothPixmapTransform, m_state.stretchMode == kHalftone);
     painter.drawImage(target, part);

@@ -13,8 +13,8 @@ constexpr int kTileSize = 8;
 constexpr double kSlantExtraWidth = 0.4;
 
 // Lengths of the dashes and gaps of the four broken pens, in pixels.
-const std::array<QList<qreal>, 4> kDashes = {QList<qreal>{18, 6}, QList<qreal>{3, 3},
-                                             QList<qreal>{9, 6, 3, 6}, QList<qreal>{9, 3, 3, 3, 3, 3}};
+const std::array<QList<qreal>, 4> kDashes = {QList<qreal>{18, 6}, QList<qreal>{3, 3}, QList<qreal>{9, 6, 3, 6},
+                                             QList<qreal>{9, 3, 3, 3, 3, 3}};
 
 enum BrushStyle : quint16 { kSolid = 0, kHollow = 1, kHatched = 2 };
 
@@ -61,14 +61,13 @@ bool MetafilePlayer::ObeyObjects(const MetafileRecord& record) {
         case MetafileOrder::DibCreatePatternBrush: {
             reader.Skip(2); // Of which kind the brush was; the picture stands here for all kinds.
             const quint16 colourUse = reader.U16();
-            CreatePattern(MetafileDib::Decode(reader.Rest(), colourUse, *m_state.palette, m_canvas.Budget()),
-                          false);
+            CreatePattern(MetafileDib::Decode(reader.Rest(), colourUse, *m_state.palette, m_canvas.Budget()), false);
             return true;
         }
         case MetafileOrder::CreatePatternBrush:
-            CreatePattern(MetafileDib::DecodePattern(record.parameters, qRgb(0, 0, 0), qRgb(255, 255, 255),
-                                                     m_canvas.Budget()),
-                          true);
+            CreatePattern(
+                MetafileDib::DecodePattern(record.parameters, qRgb(0, 0, 0), qRgb(255, 255, 255), m_canvas.Budget()),
+                true);
             return true;
         default:
             return false;

@@ -36,8 +36,7 @@ bool MetafilePlayer::ObeyShapes(const MetafileRecord& record) {
             DrawLineTo(reader.PointYX());
             return true;
         case MetafileOrder::Polyline:
-            if (const auto lines = MetafilePolygons::ReadOne(record.parameters))
-                DrawPolyline(lines->parts.front());
+            if (const auto lines = MetafilePolygons::ReadOne(record.parameters)) DrawPolyline(lines->parts.front());
             return true;
         case MetafileOrder::Polygon:
             if (const auto polygons = MetafilePolygons::ReadOne(record.parameters)) DrawPolygons(*polygons);
@@ -226,8 +225,7 @@ void MetafilePlayer::DrawRectangle(const DeviceBox& box) {
     // Without a pen the last column and row stay free, a habit of the old platform.
     if (!HasPen()) outline.adjust(0, 0, -1, -1);
     QPainterPath path;
-    path.addPolygon(
-        QPolygonF({outline.topLeft(), outline.topRight(), outline.bottomRight(), outline.bottomLeft()}));
+    path.addPolygon(QPolygonF({outline.topLeft(), outline.topRight(), outline.bottomRight(), outline.bottomLeft()}));
     path.closeSubpath();
     DrawPath(path, Filling::OddEven);
 }

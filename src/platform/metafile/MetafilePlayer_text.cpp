@@ -71,8 +71,7 @@ Line SetNaturally(const QList<MetafileCharset::Character>& characters, const Fon
     return line;
 }
 
-Line SetByDistances(const QList<MetafileCharset::Character>& characters, const QList<qint16>& distances,
-                    double scale) {
+Line SetByDistances(const QList<MetafileCharset::Character>& characters, const QList<qint16>& distances, double scale) {
     Line line;
     qsizetype byte = 0;
     int logical = 0;
@@ -131,11 +130,9 @@ void MetafilePlayer::DrawText(const MetafileText& text) {
     const Font font(RequestFor(*m_state.font, m_state.mapping));
     const double scale = qAbs(m_state.mapping.ScaleX());
     const auto characters = MetafileCharset::Decode(text.text, *m_state.font);
-    const double blankExtra =
-        m_state.breakCount > 0 ? double(m_state.breakExtra) / m_state.breakCount * scale : 0;
-    const Line line = text.distances.isEmpty()
-                          ? SetNaturally(characters, font, m_state.charExtra * scale, blankExtra)
-                          : SetByDistances(characters, text.distances, scale);
+    const double blankExtra = m_state.breakCount > 0 ? double(m_state.breakExtra) / m_state.breakCount * scale : 0;
+    const Line line = text.distances.isEmpty() ? SetNaturally(characters, font, m_state.charExtra * scale, blankExtra)
+                                               : SetByDistances(characters, text.distances, scale);
 
     const bool updates = m_state.textAlign & kUpdatePosition;
     const int horizontal = m_state.textAlign & kHorizontal;
@@ -148,8 +145,7 @@ void MetafilePlayer::DrawText(const MetafileText& text) {
     const QRectF cell(left, top, line.width, font.CellHeight());
     // Slanting letters reach out of their cell.
     const double margin = font.CellHeight() / 2 + 2;
-    const QRect touched =
-        turn.mapRect(cell.normalized().adjusted(-margin, -margin, margin, margin)).toAlignedRect();
+    const QRect touched = turn.mapRect(cell.normalized().adjusted(-margin, -margin, margin, margin)).toAlignedRect();
     m_canvas.Draw(touched, MetafileRop::kCopyPen, [&](QPainter& painter) {
         painter.save();
         if (clips) painter.setClipRect(box.Rect(), Qt::IntersectClip);

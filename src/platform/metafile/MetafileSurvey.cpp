@@ -55,8 +55,7 @@ MetafileSurvey MetafileSurvey::Of(QByteArrayView orders) {
             everCombined |= combines;
         } else if (record->order == MetafileOrder::RestoreDC) {
             combines = everCombined;
-        } else if (record->order == MetafileOrder::FloodFill ||
-                   record->order == MetafileOrder::ExtFloodFill) {
+        } else if (record->order == MetafileOrder::FloodFill || record->order == MetafileOrder::ExtFloodFill) {
             survey.readsBack = survey.floodFills = true;
         } else if (record->order == MetafileOrder::InvertRegion) {
             survey.readsBack = true;
