@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: MIT
+#include "board/basPositRents.h"
+
+#include "app/services/basCommon.h"
+#include "app/services/basErrLog.h"
+#include "document/basTAVL.h"
+#include "document/Locale.h"
+#include "document/Subscript.h"
+#include "platform/Desktop.h"
+#include "platform/Files.h"
+#include "platform/Folders.h"
+#include "platform/Numbers.h"
+#include "platform/SequentialInput.h"
+#include "platform/TextFile.h"
+
+#include <array>
+
+namespace basPosit {
+namespace {
+
+const QString kMainKit = QStringLiteral("8");
+const QString kNewLine = QStringLiteral("\r\n");
+const QString kBlankLine = kNewLine + kNewLine;
+// The middle space of each side has no price.
+constexpr int kMiddleOfSide = 3;
+
+using RentTable = std::array<RentRecord, basTAVL::kSpaces>;
+
+struct State {
+    RentTable rents;
+    // Which file the rents stand for; nothing while the path is empty.
+    QString sPath;
+    QString sKit;
+    Files::Stamp stamp;
+};
+
+State& Module() {
+    static State state;
+    return state;
+}
+
+QString Reinstall() {
+    return kBlankLine + QStringLiteral("To correct this problem, you may have to reinstall the software. ");
+}
+
+QString CannotDoWithout() {
+    return QStringLiteral("Since we cannot get the rent values without this file, the program is being terminated. ") +
+           Reinstall();
+}
+
+void TellMissing(const QString& sPath, const QString& sError) {
+    MsgBox(QStringLiteral("Unable to locate the file named '") + sPath + QStringLiteral(" '. ") + kBlankLine +
+               QStringLiteral("The following error was reported: ") + kNewLine + sError + kBlankLine +
+               CannotDoWithout(),
+           vbCritical);
+}
+
+void TellUnreadable(const QString& sPath, const QString& sError) {
+    MsgBox(QStringLiteral("The following error was encountered trying to read the file named '") + sPath +
+               QStringLiteral(" '. ") + kBlankLine + sError + kBlankLine + CannotDoWithout(),
+           vbCritical);
+}
+
+[[noreturn]] void EndForRow(const QString& sPath, int iRow) {
+    MsgBox(QStringLiteral("Row #") + QString::number(iRow) +
+               QStringLiteral(" was not found where expected in the file named '") + sPath + QStringLiteral("'. ") +
+               kBlankLine + QStringLiteral("Since we cannot get the rent values, the program is being terminated. ") +
+               Reinstall(),
+           vbCritical);
+    EndProgram(1);
+}
+
+bool ReadRow(SequentialInput& input, qint16& iRow, RentRecord& rent, QString& sError) {
+    const bool withAddStory = basTAVL::g_sGameVersion() == kMainKit;
+    return input.Read(iRow, sError) && input.Read(rent.Cost, sError) && input.Read(rent.RentSingle, sError) &&
+           input.Read(rent.RentTwo, sError) && input.Read(rent.RentStory1, sError) &&
+           input.Read(rent.RentStory2, sError) && (!withAddStory || input.Read(rent.RentAddStory, sError)) &&
+           input.Read(rent.Extra, sError) && input.Read(rent.DefaultName, sError);
+}
+
+// All rows of the file, or the end of the program.
+RentTable ReadTable(const QString& sPath) {
+    QString error;
+    const std::optional<QByteArray> bytes = Files::ReadAll(sPath, error);
+    if (!bytes) {
+        TellMissing(sPath, error);
+        EndForRow(sPath, 0);
+    }
+    RentTable rents = Module().rents;
+    SequentialInput input(TextFile::Decode(*bytes));
+    int iRow = 0;
+    for (; iRow < int(rents.size()) && !input.AtEnd(); ++iRow) {
+        qint16 number = -1;
+        if (!ReadRow(input, number, rents[size_t(iRow)], error)) {
+            TellUnreadable(sPath, error);
+            EndForRow(sPath, iRow);
+        }
+        if (number != iRow) EndForRow(sPath, iRow);
+    }
+    if (iRow < int(rents.size())) EndForRow(sPath, iRow);
+    return rents;
+}
+
+} // namespace
+
+const RentRecord& m_Rent(int iSpace) { return Module().rents[CheckedSubscript(iSpace, basTAVL::kSpaces)]; }
+
+QString FormatCost(int lCost) {
+    const QString sign = lCost < 0 ? QStringLiteral("-") : QString();
+    return sign + QString::fromLatin1(Locale::kCurrencySign) + WithThousands(std::abs(lCost));
+}
+
+QString RentsPath() {
+    QString folder = Folders::ProgramDirectory();
+    // The other kits' rents have a column less and lie in a folder of their own.
+    if (basTAVL::g_sGameVersion() != kMainKit) folder = basCommon::JoinPath(folder, QStringLiteral("older"));
+    const QString path = basCommon::JoinPath(folder, QStringLiteral("Rents.dat"));
+    return basCommon::DoesFileExist(path) ? path : basCommon::JoinPath(folder, QString::fromLatin1(Locale::kRents));
+}
+
+void ReadRents() try {
+    State& module = Module();
+    const QString path = RentsPath();
+    const Files::Stamp stamp = Files::StampOf(path);
+    const bool known = module.sPath == path && module.sKit == basTAVL::g_sGameVersion() && module.stamp == stamp;
+    if (!known || stamp == Files::Stamp{}) {
+        module.rents = ReadTable(path);
+        module.sPath = path;
+        module.sKit = basTAVL::g_sGameVersion();
+        module.stamp = stamp;
+    }
+    for (int iSpace = 0; iSpace < basTAVL::kSpaces; ++iSpace) {
+        if (iSpace % basTAVL::kSpacesPerSide == kMiddleOfSide) continue;
+        basTAVL::g_oSpaces(iSpace).Cost = FormatCost(m_Rent(iSpace).Cost);
+    }
+} catch (...) {
+    ErrTail("basPosit!", "ReadRents");
+}
+
+void ResetRentsForTest() { Module() = State{}; }
+
+} // namespace basPosit

@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/Color.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <array>
+
+/// Where everything lies on the board. All lengths and places are fractions of the board's width, 0 at the
+/// top and left edge; a view turns them into device units when it draws.
+namespace basPosit {
+
+constexpr int kSpacesOnBoard = 28;
+constexpr int kCornersOnBoard = 4;
+constexpr int kSidesOfBoard = 4;
+constexpr int kCornerPoints = 5;
+constexpr int kCenterBoxes = 7;
+constexpr int kCenterTexts = 17;
+constexpr int kPropColors = 8;
+constexpr int kStripCells = 32;
+constexpr int kColumnCells = 5;
+constexpr int kTextLines = 10;
+
+struct BoardRect {
+    float x1 = 0;
+    float y1 = 0;
+    float x2 = 0;
+    float y2 = 0;
+    float Width() const { return x2 - x1; }
+    float Height() const { return y2 - y1; }
+};
+
+struct BoardPoint {
+    float x = 0;
+    float y = 0;
+};
+
+/// A coloured band with the name of a side.
+struct SideRecord {
+    Color lFill;
+    Color lText;
+    QString sText;
+    BoardRect rect;
+    BoardPoint anchor;
+    float fFontHeight = 0;
+    float fFontWidth = 0;
+};
+
+/// A text of the board's centre or of the printed sheets.
+struct CenterTextRecord {
+    QString sText;
+    std::array<QString, kTextLines> sLine;
+    qint16 iNLines = 0;
+    /// Empty means "Arial".
+    QString sFamily;
+    float fFontHeight = 0;
+    float fFontWidth = 0;
+    BoardPoint anchor;
+    QString sAlign = QStringLiteral("C");
+    bool bBold = false;
+    bool bItalic = false;
+    /// Negative: the text is stretched or squeezed to exactly that width. Positive: it is squeezed down to it
+    /// at most. 0: there is no limit.
+    float fWidthLimit = 0;
+
+    QString Family() const { return sFamily.isEmpty() ? QStringLiteral("Arial") : sFamily; }
+    /// The lines in use.
+    QStringList Lines() const;
+};
+
+/// Parts of a space.
+enum class SpacePart { Whole = 0, Band = 1 };
+
+// Each raises the subscript error outside its table.
+BoardRect& m_SpaceRect(int iSpace, SpacePart part);
+SideRecord& m_SideRec(int iSide);
+/// The outline of a corner.
+std::array<BoardPoint, kCornerPoints>& m_CornerPoly(int iCorner);
+BoardRect& m_CenterRect(int iBox);
+CenterTextRecord& m_CenterText(int iIndex);
+/// The eight groups of properties.
+Color& m_lPropColor(int iGroup);
+/// Cells of the strips and columns of the title box; none where a cell stays empty.
+Color& m_lStripColor(int iCell);
+Color& m_lColumnColorA(int iCell);
+Color& m_lColumnColorB(int iCell);
+
+/// For tests: tables as at the start of the program.
+void ResetTablesForTest();
+
+} // namespace basPosit
