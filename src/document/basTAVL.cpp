@@ -38,23 +38,27 @@ State& Module() {
     return state;
 }
 
+// The record in a slot. A new one knows its number, so that a game saved before any was loaded loads again.
 template <typename Record, size_t count>
-Record& Touch(std::array<std::unique_ptr<Record>, count>& table, int index) {
-    std::unique_ptr<Record>& slot = table[CheckedSubscript(index, int(count))];
-    if (!slot) slot = std::make_unique<Record>();
+Record& Touch(std::array<std::unique_ptr<Record>, count>& table, int slotNumber, int index) {
+    std::unique_ptr<Record>& slot = table[CheckedSubscript(slotNumber, int(count))];
+    if (!slot) {
+        slot = std::make_unique<Record>();
+        slot->Index = qint16(index);
+    }
     return *slot;
 }
 
 } // namespace
 
-C_Space& g_oSpaces(int iSpace) { return Touch(Module().spaces, iSpace); }
-C_Corner& g_oCorners(int iCorner) { return Touch(Module().corners, iCorner); }
+C_Space& g_oSpaces(int iSpace) { return Touch(Module().spaces, iSpace, iSpace); }
+C_Corner& g_oCorners(int iCorner) { return Touch(Module().corners, iCorner, iCorner); }
 C_News& g_oNews(int iGoodOrBad, int iCard) {
     const int set = int(CheckedSubscript(iGoodOrBad, kNewsSets));
-    return Touch(Module().news, set * kCards + int(CheckedSubscript(iCard, kCards)));
+    return Touch(Module().news, set * kCards + int(CheckedSubscript(iCard, kCards)), iCard);
 }
-C_Money& g_oMoney(int iMoney) { return Touch(Module().money, iMoney); }
-C_Token& g_oTokens(int iToken) { return Touch(Module().tokens, iToken); }
+C_Money& g_oMoney(int iMoney) { return Touch(Module().money, iMoney, iMoney); }
+C_Token& g_oTokens(int iToken) { return Touch(Module().tokens, iToken, iToken); }
 
 QString& g_sGameVersion() { return Settings().sGameVersion; }
 QString& g_vCurrencySign() { return Module().currencySign; }

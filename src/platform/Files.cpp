@@ -81,25 +81,32 @@ std::optional<QByteArray> ReadAll(const QString& sPath, QString& sError) {
     return bytes;
 }
 
+WholeFile::WholeFile(const QString& sPath) : m_path(sPath), m_file(std::make_unique<QSaveFile>(sPath)) {
+    m_file->setDirectWriteFallback(true);
+}
+
+WholeFile::~WholeFile() {
+    if (m_file->isOpen()) m_file->cancelWriting();
+}
+
+bool WholeFile::Open(QString& sError) {
+    if (!IsPermitted(Operation::OpenWrite, m_path, sError)) return false;
+    return m_file->open(QIODevice::WriteOnly) || Failed(*m_file, sError);
+}
+
+bool WholeFile::Write(const QByteArray& bytes, QString& sError) {
+    if (!IsPermitted(Operation::Write, m_path, sError)) return false;
+    return m_file->write(bytes) == bytes.size() || Failed(*m_file, sError);
+}
+
+bool WholeFile::Commit(QString& sError) {
+    if (!IsPermitted(Operation::Commit, m_path, sError)) return false;
+    return m_file->commit() || Failed(*m_file, sError);
+}
+
 bool WriteWhole(const QString& sPath, const QByteArray& bytes, QString& sError) {
-    if (!IsPermitted(Operation::OpenWrite, sPath, sError)) return false;
-    QSaveFile file(sPath);
-    file.setDirectWriteFallback(true);
-    if (!file.open(QIODevice::WriteOnly)) return Failed(file, sError);
-    if (!IsPermitted(Operation::Write, sPath, sError)) {
-        file.cancelWriting();
-        return false;
-    }
-    if (file.write(bytes) != bytes.size()) {
-        Failed(file, sError);
-        file.cancelWriting();
-        return false;
-    }
-    if (!IsPermitted(Operation::Commit, sPath, sError)) {
-        file.cancelWriting();
-        return false;
-    }
-    return file.commit() || Failed(file, sError);
+    WholeFile file(sPath);
+    return file.Open(sError) && file.Write(bytes, sError) && file.Commit(sError);
 }
 
 bool Append(const QString& sPath, const QByteArray& bytes, QString& sError) {

@@ -5,7 +5,10 @@
 #include <QString>
 
 #include <functional>
+#include <memory>
 #include <optional>
+
+class QSaveFile;
 
 /// Every operation on the disk that can lose or keep a user's work goes through here, so that a test can
 /// make any single one of them fail, or end the program at it.
@@ -55,6 +58,22 @@ std::optional<QByteArray> ReadAll(const QString& sPath, QString& sError);
 /// happens: written beside, flushed to the disk, then renamed over. In a folder that takes no new file it
 /// is written in place. False and a sentence in sError on failure; the old file then stands.
 bool WriteWhole(const QString& sPath, const QByteArray& bytes, QString& sError);
+
+/// The same in steps, for a writer that tells at which of its parts the disk failed. What isn't committed is
+/// thrown away.
+class WholeFile {
+public:
+    explicit WholeFile(const QString& sPath);
+    ~WholeFile();
+    bool Open(QString& sError);
+    bool Write(const QByteArray& bytes, QString& sError);
+    /// Puts the file in place.
+    bool Commit(QString& sError);
+
+private:
+    QString m_path;
+    std::unique_ptr<QSaveFile> m_file;
+};
 
 bool Append(const QString& sPath, const QByteArray& bytes, QString& sError);
 /// True as well when there was no such file.

@@ -64,6 +64,12 @@ QString LookIntoTheLog() {
            QStringLiteral("'. ") + kNewLine + kNewLine;
 }
 
+// The sentence that a failure began with, without the routines it has passed since.
+QString BehindStack(const QString& sDescription) {
+    const qsizetype end = sDescription.indexOf(kNewLine + kNewLine);
+    return end < 0 ? sDescription : sDescription.mid(end + 2 * kNewLine.size());
+}
+
 QString DateText(const QDateTime& moment) {
     if (!moment.isValid()) return QStringLiteral("NOT_DATE");
     return QLocale::c().toString(moment, QStringLiteral("MM/dd/yyyy hh:mm:ss ap"));
@@ -149,8 +155,7 @@ QString ErrAddToStack(const QString& sModule, const QString& sRoutine, const QSt
 }
 
 void ErrReport(quint32 /*lNumber*/, const QString& sDescription, int iCritical) {
-    const qsizetype behindStack = sDescription.indexOf(kNewLine + kNewLine);
-    const QString sShort = behindStack < 0 ? sDescription : sDescription.mid(behindStack + 4);
+    const QString sShort = BehindStack(sDescription);
     const QString head = QStringLiteral(" error has occurred in your application: ") + kNewLine + kNewLine + sShort +
                          kNewLine + kNewLine;
     const auto tell = [](const QString& sText, int iStyle) {
@@ -192,6 +197,11 @@ void ErrReport(quint32 /*lNumber*/, const QString& sDescription, int iCritical) 
             Terminate();
     }
     Module().m_sErrStack.clear();
+}
+
+QString ErrDismiss(const QString& sDescription) {
+    Module().m_sErrStack.clear();
+    return BehindStack(sDescription);
 }
 
 QString ErrAny2String(const QVariant& vValue) try {

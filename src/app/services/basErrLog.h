@@ -33,6 +33,10 @@ QString ErrAddToStack(const QString& sModule, const QString& sRoutine, const QSt
 /// Reports a failure and ends it. iCritical: 16 ends the program, 48 asks whether to go on, 64 goes on.
 void ErrReport(quint32 lNumber, const QString& sDescription, int iCritical);
 
+/// Ends a failure whose catcher tells it in words of its own: the next one starts a new call stack. Gives
+/// the sentence that the failure began with.
+QString ErrDismiss(const QString& sDescription);
+
 /// The text of any value, for logs and messages.
 QString ErrAny2String(const QVariant& vValue);
 

@@ -1,0 +1,283 @@
+// SPDX-License-Identifier: MIT
+#include "support/FileFixture.h"
+
+#include "platform/Files.h"
+
+namespace {
+
+using basPosit::m_CenterText;
+
+class LoadTest : public GameFileTest {
+protected:
+    // Loads a game with one line changed; gives the one message that must come.
+    QString MessageFor(int line, const QString& text) {
+        QStringList lines = PlainLines();
+        lines[line] = text;
+        return MessageForLines(lines);
+    }
+    QString MessageForLines(const QStringList& lines) {
+        desktop.boxes.clear();
+        EXPECT_EQ(Load(WriteGame(lines)), -1);
+        EXPECT_EQ(desktop.boxes.size(), 1);
+        if (desktop.boxes.isEmpty()) return {};
+        EXPECT_EQ(desktop.boxes.first().iStyle, vbCritical);
+        return desktop.boxes.first().sText;
+    }
+    QString LoadError(const QString& error, const char* during) const {
+        return IOError("load", InGames(QStringLiteral("Plain.gam")), error, during);
+    }
+    static QString BadIndex(const char* variable) {
+        return QStringLiteral("Internal variable not within expected range: '") + QString::fromLatin1(variable) +
+               QStringLiteral("' held the following value: 'x'");
+    }
+    const QString pastEnd = QStringLiteral("Input past end of file");
+};
+
+TEST_F(LoadTest, Edge_SixtyThreeLinesLoadWithDefaultTokens) {
+    EXPECT_EQ(Load(WriteGame(PlainLines())), 0);
+    EXPECT_EQ(Load(WriteGame(PlainLines().mid(0, 63))), 0);
+    for (int i = 0; i < 6; ++i) {
+        EXPECT_EQ(basTAVL::g_oTokens(i).TextAll(), QString()) << i;
+        EXPECT_EQ(basTAVL::g_oTokens(i).Index, i);
+        EXPECT_EQ(basTAVL::g_oTokens(i).Font.GetQuotedString(), QStringLiteral("\"Arial\",R,12"));
+    }
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+}
+
+TEST_F(LoadTest, Edge_SixtySixLinesLoadThreeTokensAndDefaultsForTheRest) {
+    EXPECT_EQ(Load(WriteGame(PlainLines().mid(0, 66))), 0);
+    EXPECT_EQ(basTAVL::g_oTokens(2).TextAll(), QStringLiteral("Token 2"));
+    EXPECT_EQ(basTAVL::g_oTokens(2).Font.Size, 48.0F);
+    EXPECT_EQ(basTAVL::g_oTokens(3).TextAll(), QString());
+    EXPECT_EQ(basTAVL::g_oTokens(5).Font.Size, 12.0F);
+}
+
+TEST_F(LoadTest, Edge_MagicWordIsComparedInUpperCase) {
+    QStringList lines = PlainLines();
+    lines[0].replace(QStringLiteral("TavloraGameBoard"), QStringLiteral("tavlorAGameboard"));
+    EXPECT_EQ(Load(WriteGame(lines)), 0);
+}
+
+TEST_F(LoadTest, Edge_GamePathWithACommaIsCutThereInTheHeader) {
+    session.m_sGameName = InGames(QStringLiteral("Mum, Dad.gam"));
+    session.SetSomethingChanged(true);
+    QString name = autosave;
+    EXPECT_EQ(Load(name), 0);
+    EXPECT_EQ(name, InGames(QStringLiteral("Mum")));
+}
+
+TEST_F(LoadTest, Edge_AutosaveKeepsTheUnsavedStateAndBringsBackTheRealName) {
+    const QString real = WriteGame(PlainLines(), QStringLiteral("Real.gam"));
+    session.m_sGameName = real;
+    ASSERT_EQ(Load(QString(real)), 0);
+    basTAVL::g_oSpaces(0).SetText(QStringLiteral("Edited"));
+    session.SetSomethingChanged(true);
+
+    QString name = autosave;
+    ASSERT_EQ(Load(name), 0);
+    EXPECT_EQ(name, real);
+    EXPECT_TRUE(session.m_bChanged);
+    EXPECT_TRUE(Files::Exists(autosave));
+
+    EXPECT_TRUE(Save(name));
+    EXPECT_FALSE(session.m_bChanged);
+    EXPECT_FALSE(Files::Exists(autosave));
+    EXPECT_TRUE(ReadFile(real).contains("\"Edited\""));
+}
+
+TEST_F(LoadTest, Edge_AutosaveCarriesTheGamesNameInItsHeader) {
+    session.m_sGameName = QStringLiteral("/somewhere/Trip.gam");
+    session.SetSomethingChanged(true);
+    EXPECT_TRUE(ReadFile(autosave).startsWith("\"TavloraGameBoard\", 8.0.0, /somewhere/Trip.gam\r\n"));
+}
+
+TEST_F(LoadTest, Edge_CardWithTheWrongIndexAlwaysReportsNumberFour) {
+    const QString message = LoadError(QStringLiteral("Line number incorrect"), "loading good news card number 4");
+    EXPECT_EQ(MessageFor(35, QStringLiteral("3, \"Card\"")), message);
+    EXPECT_EQ(MessageFor(58, QStringLiteral("0, \"Card\"")), message);
+}
+
+TEST_F(LoadTest, EveryRecordIsRead) {
+    EXPECT_EQ(Load(WriteGame(PlainLines())), 0);
+    EXPECT_EQ(m_CenterText(0).sText, QStringLiteral("TAVLO"));
+    EXPECT_EQ(m_CenterText(1).sText, QStringLiteral("Our"));
+    EXPECT_EQ(m_CenterText(3).sText, QStringLiteral("Day"));
+    EXPECT_EQ(m_CenterText(4).sText, QStringLiteral("Good News"));
+    EXPECT_EQ(m_CenterText(5).sText, QStringLiteral("Bad News"));
+    EXPECT_EQ(basTAVL::g_oSpaces(27).TextAll(), QStringLiteral("Space\r\n27"));
+    EXPECT_EQ(basTAVL::g_oCorners(3).TextAll(1), QStringLiteral("Two"));
+    EXPECT_EQ(basTAVL::g_oNews(0, 11).Text(), QStringLiteral("Card 11"));
+    EXPECT_EQ(basTAVL::g_oNews(1, 0).Text(), QStringLiteral("Card 12"));
+    EXPECT_EQ(basTAVL::g_oMoney(3).Text(1), QStringLiteral("Note 3"));
+    EXPECT_EQ(basTAVL::g_oMoney(2).BackImage.FullPath(), PathOf(QStringLiteral("program/BLNK1000.dat")));
+    EXPECT_EQ(basTAVL::g_oTokens(5).TextAll(), QStringLiteral("Token 5"));
+    EXPECT_EQ(basPosit::m_SideRec(2).sText, QStringLiteral("The North Side"));
+    EXPECT_EQ(m_CenterText(16).sText, QStringLiteral("Labels for\r\nDeed Card Sheet #2"));
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+}
+
+TEST_F(LoadTest, BlankNotesAreTakenAsBitmapsWhereThereAreSuch) {
+    const QString bitmap = WriteFile(QStringLiteral("program/BLNK500.bmp"), "picture");
+    EXPECT_EQ(Load(WriteGame(PlainLines())), 0);
+    EXPECT_EQ(basTAVL::g_oMoney(1).BackImage.FullPath(), bitmap);
+}
+
+TEST_F(LoadTest, CaptionsOfTheSheetsCarryTheProgramsVersion) {
+    EXPECT_EQ(Load(WriteGame(PlainLines())), 0);
+    EXPECT_EQ(m_CenterText(6).Lines(), (QStringList{QStringLiteral("This is Green"), QStringLiteral("Game Box & Board"),
+                                                    QStringLiteral("Labels #1"), QStringLiteral("(Program Rev 8.0)")}));
+    EXPECT_EQ(m_CenterText(10).sText, QStringLiteral("Labels for\r\nDeed Card Sheet #1"));
+    EXPECT_EQ(m_CenterText(11).sText, m_CenterText(12).sText);
+    EXPECT_EQ(m_CenterText(13).sText, m_CenterText(14).sText);
+}
+
+TEST_F(LoadTest, LoadedGameIsUnchangedAndLeavesNoAutosave) {
+    session.SetSomethingChanged(true);
+    EXPECT_EQ(Load(WriteGame(PlainLines())), 0);
+    EXPECT_FALSE(session.m_bChanged);
+    EXPECT_FALSE(Files::Exists(autosave));
+}
+
+TEST_F(LoadTest, BothKindsOfLineEndsAndBothEncodingsAreRead) {
+    const QString text = PlainLines().join(u'\n').replace(QStringLiteral("Card 3\""), QStringLiteral("Straße\""));
+    const QList<QByteArray> files{text.toLatin1(), text.toUtf8(), "\xEF\xBB\xBF" + text.toUtf8()};
+    for (const QByteArray& bytes : files) {
+        EXPECT_EQ(Load(WriteFile(QStringLiteral("games/Plain.gam"), bytes)), 0);
+        EXPECT_EQ(basTAVL::g_oNews(0, 3).Text(), QStringLiteral("Straße"));
+    }
+}
+
+TEST_F(LoadTest, WhatIsNoGameIsNotCompatible) {
+    const QString message = LoadError(QStringLiteral("Loading File Is Not Compatible"), "checking file type");
+    const QList<QByteArray> files{
+        "", "\r\n", QByteArray(5000, '\0'), "\"SomethingElse\", 1, x\r\n", "BM6\x01\x02\x03", QByteArray(100000, '"')};
+    for (const QByteArray& bytes : files) {
+        desktop.boxes.clear();
+        EXPECT_EQ(Load(WriteFile(QStringLiteral("games/Plain.gam"), bytes)), -1);
+        EXPECT_EQ(desktop.Texts(), QStringList{message}) << bytes.left(10).toHex().toStdString();
+    }
+}
+
+TEST_F(LoadTest, MissingFileAndFolderFailWhileOpening) {
+    for (const QString& name : {InGames(QStringLiteral("gone.gam")), PathOf(QStringLiteral("games"))}) {
+        desktop.boxes.clear();
+        EXPECT_EQ(Load(QString(name)), -1);
+        ASSERT_EQ(desktop.boxes.size(), 1);
+        EXPECT_TRUE(desktop.boxes[0].sText.startsWith(
+            QStringLiteral("The following error occurred while trying to load the game to the file named '") + name));
+        EXPECT_TRUE(desktop.boxes[0].sText.contains(QStringLiteral("The problem occurred while opening the file. ")));
+    }
+}
+
+TEST_F(LoadTest, TruncatedGameTellsWhereItEnds) {
+    const struct {
+        int lines;
+        const char* during;
+    } rows[] = {{1, "getting titles"},
+                {2, "getting good news and bad news"},
+                {3, "loading line number 0"},
+                {20, "loading line number 17"},
+                {31, "loading corner number 0"},
+                {35, "loading card number 0 in set Number 0"},
+                {50, "loading card number 3 in set Number 1"},
+                {62, "loading money number 3"}};
+    for (const auto& row : rows)
+        EXPECT_EQ(MessageForLines(PlainLines().mid(0, row.lines)), LoadError(pastEnd, row.during)) << row.lines;
+}
+
+TEST_F(LoadTest, BadIndexOfABoardRecordIsToldWithItsPlace) {
+    EXPECT_EQ(MessageFor(3, QStringLiteral("x, \"t\"")), LoadError(BadIndex("sSpace"), "loading line number 0"));
+    EXPECT_EQ(MessageFor(34, QStringLiteral("x, \"t\"")), LoadError(BadIndex("sCorner"), "loading corner number 3"));
+    EXPECT_EQ(MessageFor(68, QStringLiteral("x, \"t\"")), LoadError(BadIndex("sSpace"), "loading token number 5"));
+}
+
+TEST_F(LoadTest, WrongIndexIsToldWithItsPlace) {
+    const QString wrong = QStringLiteral("Line number incorrect");
+    EXPECT_EQ(MessageFor(8, QStringLiteral("6, \"t\"")),
+              LoadError(QStringLiteral("Line Number Incorrect"), "loading line number 5"));
+    EXPECT_EQ(MessageFor(31, QStringLiteral("1, \"t\"")),
+              LoadError(QStringLiteral("Corner number incorrect"), "loading corner number 0"));
+    EXPECT_EQ(MessageFor(60, QStringLiteral("2, \"t\"")), LoadError(wrong, "loading money number 1"));
+    EXPECT_EQ(MessageFor(63, QStringLiteral("2, \"t\"")), LoadError(wrong, "loading token number 0"));
+}
+
+TEST_F(LoadTest, NumbersBeyondSixteenBitsAreToldWithTheirPlace) {
+    const QString overflow = QStringLiteral("Overflow");
+    EXPECT_EQ(MessageFor(4, QStringLiteral("1, \"t\", \"\", 99999, 0, 0")),
+              LoadError(overflow, "loading line number 1"));
+    EXPECT_EQ(MessageFor(40, QStringLiteral("99999, \"t\"")),
+              LoadError(overflow, "loading card number 5 in set Number 0"));
+    EXPECT_EQ(MessageFor(59, QStringLiteral("0, \"t\", \"u\", \"\", 0, 0, -40000")),
+              LoadError(overflow, "loading money number 0"));
+}
+
+TEST_F(LoadTest, RecordsReadBeforeAFailureStay) {
+    QStringList lines = PlainLines();
+    lines[3] = QStringLiteral("0, \"New\"");
+    lines[5] = QStringLiteral("x, \"t\"");
+    MessageForLines(lines);
+    EXPECT_EQ(basTAVL::g_oSpaces(0).TextAll(), QStringLiteral("New"));
+}
+
+TEST_F(LoadTest, FailureLeavesTheStackCleanForTheNextOne) {
+    MessageFor(3, QStringLiteral("x, \"t\""));
+    EXPECT_EQ(MessageFor(4, QStringLiteral("x, \"t\"")), LoadError(BadIndex("sSpace"), "loading line number 1"));
+}
+
+TEST_F(LoadTest, ManyMissingPicturesBringOneBox) {
+    QStringList lines = PlainLines();
+    for (int i = 0; i < 6; ++i)
+        lines[3 + i] = QStringLiteral("%1, \"t\", \"gone%1.bmp\",0,0,0").arg(i);
+    EXPECT_EQ(Load(WriteGame(lines)), 0);
+    ASSERT_EQ(desktop.boxes.size(), 1);
+    EXPECT_EQ(desktop.boxes[0].sText.split(QStringLiteral("\r\n")).size(), 6);
+    EXPECT_EQ(Load(WriteGame(lines)), 0);
+    EXPECT_EQ(desktop.boxes.size(), 1) << "told once";
+}
+
+TEST_F(LoadTest, PicturesBesideTheGameAreFound) {
+    QDir(folder.path()).mkdir(QStringLiteral("usb"));
+    const QString picture = WriteFile(QStringLiteral("usb/cat.bmp"), "picture");
+    QStringList lines = PlainLines();
+    lines[3] = QStringLiteral("0, \"t\", \"cat.bmp\",0,0,0");
+    const QString game = WriteFile(QStringLiteral("usb/Plain.gam"), lines.join(u'\n').toUtf8());
+    EXPECT_EQ(Load(QString(game)), 0);
+    EXPECT_EQ(basTAVL::g_oSpaces(0).Image.FullPath(), picture);
+}
+
+TEST_F(LoadTest, LogNamesTheGame) {
+    const QString game = WriteGame(PlainLines());
+    Load(QString(game));
+    EXPECT_TRUE(ReadFile(basErrLog::ErrLogPath()).contains("Load Game Named: " + game.toUtf8()));
+}
+
+// What the format itself changes in a text, from memory to file and back.
+TEST_F(LoadTest, TitlesAreDecodedTwice) {
+    QStringList lines = PlainLines();
+    lines[1] = QStringLiteral("\"a\\\\\\\\nb\", \"c\\\\\\\\qd\", \"e\\nf\"");
+    EXPECT_EQ(Load(WriteGame(lines)), 0);
+    // Four backslashes are halved by each of the field's two passes; the second decoding finds one left.
+    EXPECT_EQ(m_CenterText(1).sText, QStringLiteral("a\r\nb"));
+    EXPECT_EQ(m_CenterText(2).sText, QStringLiteral("c\"d"));
+    EXPECT_EQ(m_CenterText(3).sText, QStringLiteral("e\r\nf"));
+}
+
+TEST_F(LoadTest, EmptyTextOfASpaceComesBackAsNotFilledIn) {
+    ASSERT_EQ(Load(WriteGame(PlainLines())), 0);
+    basTAVL::g_oSpaces(0).SetText(QString());
+    session.m_sGameName = InGames(QStringLiteral("Saved.gam"));
+    ASSERT_TRUE(Save(session.m_sGameName));
+    ASSERT_EQ(Load(QString(session.m_sGameName)), 0);
+    EXPECT_EQ(basTAVL::g_oSpaces(0).TextAll(), QStringLiteral("Not Filled In"));
+}
+
+TEST_F(LoadTest, TokenCalledNotFilledInComesBackEmpty) {
+    ASSERT_EQ(Load(WriteGame(PlainLines())), 0);
+    basTAVL::g_oTokens(0).SetText(QStringLiteral("Not Filled In"));
+    session.m_sGameName = InGames(QStringLiteral("Saved.gam"));
+    ASSERT_TRUE(Save(session.m_sGameName));
+    ASSERT_EQ(Load(QString(session.m_sGameName)), 0);
+    EXPECT_EQ(basTAVL::g_oTokens(0).TextAll(), QString());
+}
+
+} // namespace
