@@ -29,6 +29,8 @@ constexpr Floor kFloors[] = {
     {"document/", 5},
     {"board/", 6},
     {"document/GameFile", 7},
+    {"document/GameSession", 7},
+    {"document/PrintCaptions", 7},
     {"document/GameHost", 5},
     {"print/clsRenderDestination", 8},
     {"images/frmBMP", 9},
