@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <QStandardPaths>
 
 namespace Files {
 namespace {
@@ -18,6 +19,12 @@ FaultHook& Hook() {
 bool Failed(const QFileDevice& file, QString& sError) {
     sError = file.errorString();
     return false;
+}
+
+// Where the user's data folder is missing, the toolkit would take the current folder for the trash.
+bool HasTrash() {
+    const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    return !data.isEmpty() && QDir().mkpath(data);
 }
 
 } // namespace
@@ -147,7 +154,7 @@ bool MakeDirectory(const QString& sPath, QString& sError) {
 bool MoveToTrash(const QString& sPath, QString& sError) {
     if (!IsPermitted(Operation::Remove, sPath, sError)) return false;
     QFile file(sPath);
-    return !file.exists() || file.moveToTrash() || file.remove() || Failed(file, sError);
+    return !file.exists() || (HasTrash() && file.moveToTrash()) || file.remove() || Failed(file, sError);
 }
 
 } // namespace Files

@@ -38,3 +38,15 @@ TEST_F(FilesTest, AFolderIsNoFileAndSaysSo) {
     EXPECT_FALSE(Files::ReadAll(folder.path(), error));
     EXPECT_FALSE(error.isEmpty());
 }
+
+TEST_F(FilesTest, TheTrashIsTheUsersAndNeverTheCurrentFolder) {
+    const QByteArray before = qgetenv("XDG_DATA_HOME");
+    qputenv("XDG_DATA_HOME", PathOf(QStringLiteral("not/yet/there")).toLocal8Bit());
+    const QString file = WriteFile(QStringLiteral("photo.bmp"), "x");
+    QString error;
+    EXPECT_TRUE(Files::MoveToTrash(file, error)) << qPrintable(error);
+    EXPECT_FALSE(Files::Exists(file));
+    EXPECT_TRUE(Files::Exists(PathOf(QStringLiteral("not/yet/there/Trash/files/photo.bmp"))));
+    EXPECT_FALSE(Files::IsDirectory(QStringLiteral("files")));
+    qputenv("XDG_DATA_HOME", before);
+}
