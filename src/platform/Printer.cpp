@@ -60,11 +60,13 @@ DeviceContext& PdfPrinter::hDC() {
     return *m_context;
 }
 
-QSize PdfPrinter::SizeInPixels() const {
+QSizeF PdfPrinter::PrintableInches() const {
     QSizeF inches = m_paper.size(QPageSize::Inch);
     if (m_orientation == PageOrientation::Landscape) inches.transpose();
-    return QSize(int((inches.width() - 2 * kMarginInches) * m_dpi), int((inches.height() - 2 * kMarginInches) * m_dpi));
+    return inches - QSizeF(2 * kMarginInches, 2 * kMarginInches);
 }
+
+QSize PdfPrinter::SizeInPixels() const { return (PrintableInches() * m_dpi).toSize(); }
 
 void PdfPrinter::KillDoc() {
     if (m_file->isOpen()) m_file->cancelWriting();

@@ -25,6 +25,8 @@ public:
     virtual void EndDoc() = 0;
     /// Throws the document away.
     virtual void KillDoc() = 0;
+    /// Printable width and height in inches, in the orientation that holds.
+    virtual QSizeF PrintableInches() const = 0;
 
     /// The printer that sheets go to; the caller keeps ownership. Returns the one that was in force, which
     /// is nothing before the first call.
@@ -49,6 +51,7 @@ public:
     PageOrientation Orientation() const override { return m_orientation; }
     void EndDoc() override { m_pageOpen = false; }
     void KillDoc() override;
+    QSizeF PrintableInches() const override;
 
     /// Completes the file and puts it in place. False and a sentence in sError when that fails; no part of
     /// it is then left, and a file that stood there before stands as it was.

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#include "platform/SystemPrinter.h"
+
+#include "platform/Files.h"
+
+#include <QPageLayout>
+#include <QPrinter>
+#include <QPrinterInfo>
+
+namespace {
+
+QString AsFileName(QString sName) {
+    for (QChar& c : sName) {
+        if (QStringLiteral("/\\:*?\"<>|").contains(c) || c.unicode() < 0x20) c = u'-';
+    }
+    const QString name = sName.trimmed();
+    return name.isEmpty() ? QStringLiteral("Tavlora") : name;
+}
+
+} // namespace
+
+SystemPrinter::SystemPrinter(const QString& sPdfFolder)
+    : m_pdfFolder(sPdfFolder), m_device(std::make_unique<QPrinter>(QPrinter::HighResolution)) {
+    // What the toolkit starts with follows the desktop's country; the kit's stock is US Letter unless the
+    // printer holds another paper.
+    const QPageSize paper = QPrinterInfo::defaultPrinter().defaultPageSize();
+    m_device->setPageSize(paper.isValid() && !PrintsToPdf() ? paper : QPageSize(QPageSize::Letter));
+    m_device->setFullPage(false);
+    m_device->setCreator(QStringLiteral("Tavlora"));
+}
+
+SystemPrinter::~SystemPrinter() { KillDoc(); }
+
+bool SystemPrinter::PrintsToPdf() const { return m_device->printerName().isEmpty() || !m_device->isValid(); }
+
+double SystemPrinter::DotsPerInch() const {
+    return PrintsToPdf() ? PdfPrinter::kDefaultDpi : double(m_device->resolution());
+}
+
+QString SystemPrinter::PdfPath() const {
+    return m_pdfFolder + u'/' + AsFileName(m_documentName) + QStringLiteral(".pdf");
+}
+
+void SystemPrinter::OpenJob() {
+    const bool landscape = m_orientation == PageOrientation::Landscape;
+    m_device->setPageOrientation(landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
+    m_device->setDocName(m_documentName);
+    m_painter = std::make_unique<QPainter>();
+    if (!m_painter->begin(m_device.get())) {
+        m_lastError = QStringLiteral("The printer '%1' can't be opened").arg(m_device->printerName());
+        m_painter.reset();
+        m_nowhere = QImage(1, 1, QImage::Format_RGB32);
+        m_context = std::make_unique<DeviceContext>(m_nowhere);
+        return;
+    }
+    m_painter->setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::LosslessImageRendering);
+    m_context = std::make_unique<DeviceContext>(*m_painter);
+}
+
+void SystemPrinter::OpenDocument() {
+    m_lastPdf.clear();
+    m_lastError.clear();
+    if (!PrintsToPdf()) {
+        OpenJob();
+        return;
+    }
+    QString error;
+    // A folder that can't be made shows when the file is put in place.
+    Files::MakeDirectory(m_pdfFolder, error);
+    m_pdf = std::make_unique<PdfPrinter>(PdfPath(), m_documentName);
+    m_pdf->SetOrientation(m_orientation);
+}
+
+DeviceContext& SystemPrinter::hDC() {
+    if (!m_pdf && !m_context) OpenDocument();
+    return m_pdf ? m_pdf->hDC() : *m_context;
+}
+
+QSizeF SystemPrinter::PrintableInches() const {
+    const bool landscape = m_orientation == PageOrientation::Landscape;
+    QPageLayout layout = m_device->pageLayout();
+    layout.setOrientation(landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
+    if (!PrintsToPdf()) return layout.paintRect(QPageLayout::Inch).size();
+    return layout.fullRect(QPageLayout::Inch).size() -
+           QSizeF(2 * PdfPrinter::kMarginInches, 2 * PdfPrinter::kMarginInches);
+}
+
+QSize SystemPrinter::SizeInPixels() const { return (PrintableInches() * DotsPerInch()).toSize(); }
+
+void SystemPrinter::EndDoc() {
+    hDC(); // a document without a mark on it is a page all the same
+    if (m_pdf) {
+        if (m_pdf->Close(m_lastError)) m_lastPdf = PdfPath();
+        m_pdf.reset();
+        return;
+    }
+    m_context.reset();
+    if (m_painter && !m_painter->end()) m_lastError = QStringLiteral("The printer reported a failure");
+    m_painter.reset();
+}
+
+void SystemPrinter::KillDoc() {
+    m_pdf.reset();
+    m_context.reset();
+    if (m_painter) m_device->abort();
+    m_painter.reset();
+}

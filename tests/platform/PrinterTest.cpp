@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+#include "platform/Printer.h"
+#include "platform/SystemPrinter.h"
+
+#include "platform/Files.h"
+#include "support/TestFixture.h"
+
+#include <QDir>
+#include <QProcess>
+
+namespace {
+
+// What an independent reader says of a PDF file.
+QString PdfInfo(const QString& sPath, const QStringList& options = {}) {
+    QProcess reader;
+    reader.start(QStringLiteral("pdfinfo"), options + QStringList{sPath});
+    if (!reader.waitForFinished() || reader.exitCode() != 0) return {};
+    return QString::fromUtf8(reader.readAllStandardOutput());
+}
+
+} // namespace
+
+class PrinterTest : public TavloraTest {
+protected:
+    PrinterTest() {
+        // Whatever is set up where the tests run: here there is no printer.
+        qputenv("CUPS_SERVER", "/nonexistent/cups.sock");
+    }
+};
+
+TEST_F(PrinterTest, EachEndDocIsAPageAndOrientationsMix) {
+    const QString path = PathOf(QStringLiteral("kit.pdf"));
+    PdfPrinter printer(path, QStringLiteral("Kit"));
+    for (const PageOrientation orientation : {PageOrientation::Landscape, PageOrientation::Portrait}) {
+        printer.SetOrientation(orientation);
+        printer.hDC().FillRect(0, 0, 600, 600, Color::Rgb(255, 0, 0));
+        printer.EndDoc();
+    }
+    QString error;
+    ASSERT_TRUE(printer.Close(error)) << qPrintable(error);
+    const QString info = PdfInfo(path, {QStringLiteral("-l"), QStringLiteral("2")});
+    if (info.isEmpty()) GTEST_SKIP() << "no reader of PDF files is installed";
+    EXPECT_TRUE(info.contains(QStringLiteral("Page    1 size:  792 x 612 pts"))) << qPrintable(info);
+    EXPECT_TRUE(info.contains(QStringLiteral("Page    2 size:  612 x 792 pts"))) << qPrintable(info);
+}
+
+TEST_F(PrinterTest, ThePrintableAreaIsAQuarterInchInsideThePaper) {
+    PdfPrinter printer(PathOf(QStringLiteral("x.pdf")), QStringLiteral("x"));
+    EXPECT_EQ(printer.PrintableInches(), QSizeF(8.0, 10.5));
+    EXPECT_EQ(printer.SizeInPixels(), QSize(4800, 6300));
+    printer.SetOrientation(PageOrientation::Landscape);
+    EXPECT_EQ(printer.PrintableInches(), QSizeF(10.5, 8.0));
+}
+
+TEST_F(PrinterTest, AFileThatCannotBeWrittenIsToldByCloseAndLeavesNothing) {
+    PdfPrinter printer(PathOf(QStringLiteral("no such folder/x.pdf")), QStringLiteral("x"));
+    printer.SetFontSize(12);
+    printer.Print(QStringLiteral("lost"));
+    QString error;
+    EXPECT_FALSE(printer.Close(error));
+    EXPECT_FALSE(error.isEmpty());
+}
+
+TEST_F(PrinterTest, AKilledDocumentLeavesTheOldFile) {
+    const QString path = WriteFile(QStringLiteral("x.pdf"), "old");
+    {
+        PdfPrinter printer(path, QStringLiteral("x"));
+        printer.SetFontSize(12);
+        printer.Print(QStringLiteral("thrown away"));
+        printer.KillDoc();
+    }
+    EXPECT_EQ(ReadFile(path), QByteArray("old"));
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{QStringLiteral("x.pdf")});
+}
+
+TEST_F(PrinterTest, WithoutAPrinterEachDocumentIsAPdfFileNamedAfterIt) {
+    SystemPrinter printer(PathOf(QStringLiteral("Printed")));
+    if (!printer.PrintsToPdf()) GTEST_SKIP() << "a printer is set up on this machine";
+    EXPECT_DOUBLE_EQ(printer.DotsPerInch(), 600.0);
+    EXPECT_EQ(printer.PrintableInches(), QSizeF(8.0, 10.5));
+    for (int round = 0; round < 2; ++round) {
+        printer.SetDocumentName(QStringLiteral("Family: the \"box\""));
+        printer.SetOrientation(PageOrientation::Landscape);
+        EXPECT_EQ(printer.PrintableInches(), QSizeF(10.5, 8.0));
+        printer.SetFontSize(12);
+        printer.Print(QStringLiteral("Box Top"));
+        printer.EndDoc();
+        EXPECT_EQ(printer.LastPdf(), PathOf(QStringLiteral("Printed/Family- the -box-.pdf")));
+        EXPECT_TRUE(Files::Exists(printer.LastPdf()));
+    }
+    EXPECT_EQ(QDir(PathOf(QStringLiteral("Printed"))).entryList(QDir::Files).size(), 1)
+        << "a second printing replaces it";
+}
+
+TEST_F(PrinterTest, AFolderThatCannotBeMadeIsTold) {
+    WriteFile(QStringLiteral("Printed"), "a file stands in the way");
+    SystemPrinter printer(PathOf(QStringLiteral("Printed")));
+    if (!printer.PrintsToPdf()) GTEST_SKIP() << "a printer is set up on this machine";
+    printer.EndDoc();
+    EXPECT_TRUE(printer.LastPdf().isEmpty());
+    EXPECT_FALSE(printer.LastError().isEmpty());
+}
