@@ -62,8 +62,9 @@ public:
     void TextBlock(QString& vText, int lX, int& lY, int lWidth, const QString& sFontName, int lLineHeight, bool bBold,
                    bool bItalic, const QString& sAlign);
 
-    /// Prints the rules of the game on one page from the instruction file in the program's directory.
-    void InstructionSheet(const InstructionNames& names);
+    /// Prints the rules of the game on one page from the instruction file in the program's directory. False
+    /// when it stopped early; the reason has then been told.
+    bool InstructionSheet(const InstructionNames& names);
 
     /// Every occurrence of a tag replaced; goes on behind what it put in, so that a name holding the tag
     /// can't hang the print.

@@ -130,7 +130,7 @@ bool clsRenderDestination::PrintInstructionLine(QString sLine, Cursor& cursor) {
     return true;
 }
 
-void clsRenderDestination::InstructionSheet(const InstructionNames& names) try {
+bool clsRenderDestination::InstructionSheet(const InstructionNames& names) try {
     const QString sFile = InstructionFile();
     QString error;
     const std::optional<QStringList> lines = TextFile::ReadLines(sFile, error);
@@ -140,14 +140,15 @@ void clsRenderDestination::InstructionSheet(const InstructionNames& names) try {
                    QStringLiteral("\r\n\r\n") +
                    QStringLiteral("The instruction sheet cannot be printed without this file."),
                vbInformation);
-        return;
+        return false;
     }
     Cursor cursor;
     for (const QString& raw : *lines) {
         const QString line = WithNames(raw, names);
         if (MoveToTag(line, cursor) || line.trimmed().isEmpty()) continue;
-        if (!PrintInstructionLine(line, cursor)) return;
+        if (!PrintInstructionLine(line, cursor)) return false;
     }
+    return true;
 } catch (...) {
     ErrTail("clsRenderDestination!", "InstructionSheet");
 }

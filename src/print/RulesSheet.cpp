@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#include "print/RulesSheet.h"
+
+#include "app/services/basErrLog.h"
+#include "board/basPositTables.h"
+#include "document/basTAVL.h"
+#include "platform/Printer.h"
+
+namespace {
+
+constexpr int kGoodNewsSpace = 3;
+constexpr int kBadNewsSpace = 17;
+
+QString SpaceName(int iSpace) { return basTAVL::CRLF2Space(basTAVL::g_oSpaces(iSpace).TextAll()); }
+QString CornerName(int iCorner) { return basTAVL::CRLF2Space(basTAVL::g_oCorners(iCorner).TextAll(0)); }
+
+} // namespace
+
+InstructionNames NamesOfGame() {
+    // The game's own word follows the title directly, as on the board.
+    const QString title = basPosit::m_CenterText(1).sText + basPosit::m_CenterText(0).sText;
+    return {basTAVL::CRLF2Space(title),
+            SpaceName(kGoodNewsSpace),
+            SpaceName(kBadNewsSpace),
+            CornerName(0),
+            CornerName(1),
+            CornerName(2),
+            CornerName(3)};
+}
+
+bool PrintRulesSheet(Printer& printer) try {
+    printer.SetOrientation(PageOrientation::Portrait);
+    clsRenderDestination destination;
+    destination.Init(printer, 1.0);
+    return destination.InstructionSheet(NamesOfGame());
+} catch (...) {
+    ErrTail("frmTavlPrint!", "PrintRulesSheet");
+}

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "print/clsRenderDestination.h"
+
+class Printer;
+
+/// What the printed rules call the game, its news spaces and its corners: the texts of the game in memory,
+/// each on one line.
+InstructionNames NamesOfGame();
+
+/// Prints the rules on a portrait page, without ending the document. False when they weren't printed whole;
+/// the reason has then been told.
+bool PrintRulesSheet(Printer& printer);

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+/// What tavlora-print was asked to do.
+struct PrintArguments {
+    static constexpr int kDefaultDpi = 600;
+    static constexpr int kDefaultBoardSize = 960;
+
+    bool bHelp = false;
+    bool bVersion = false;
+    bool bList = false;
+    QString sGame;
+    /// PDF file to write; empty for none.
+    QString sOutput;
+    /// Names of sheets in the order wanted; none means the whole kit.
+    QStringList sheets;
+    /// PNG file of the board; empty for none.
+    QString sBoard;
+    int iBoardSize = kDefaultBoardSize;
+    /// Folder for the made pictures; empty for none.
+    QString sPieces;
+    bool bA4 = false;
+    int iDpi = kDefaultDpi;
+    /// Kit variant; empty for the one in the settings.
+    QString sVariant;
+    /// Folder of the program's own data files; empty for the usual one.
+    QString sData;
+
+    /// Reads the words behind the program's name. Nothing, and a sentence in sError, for wrong usage.
+    static std::optional<PrintArguments> Parse(const QStringList& words, QString& sError);
+    static QString Usage();
+};

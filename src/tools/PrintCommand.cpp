@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: MIT
+#include "tools/PrintCommand.h"
+
+#include "app/services/basCommon.h"
+#include "app/services/basErrLog.h"
+#include "board/basPosit.h"
+#include "document/GameFile.h"
+#include "document/GameSession.h"
+#include "platform/Console.h"
+#include "platform/Folders.h"
+#include "platform/ProgramSettings.h"
+#include "tools/PrintArguments.h"
+#include "tools/PrintDesktop.h"
+#include "tools/PrintSheets.h"
+
+#include <QFileInfo>
+
+#include <ostream>
+
+namespace {
+
+// The program whose settings are read.
+const QString kProgramName = QStringLiteral("tavlora");
+
+QStringList AllSheets() {
+    QStringList names;
+    for (const PrintSheet& sheet : PrintSheets())
+        names.append(QString::fromLatin1(sheet.sName));
+    return names;
+}
+
+// Reads the user's settings and pictures where the window program has them, and keeps everything that is
+// written in a folder of its own.
+void PrepareSettings(const PrintArguments& arguments, const QString& sPrivateFolder) {
+    const QString userFolder = basCommon::JoinPath(Folders::Documents(), QStringLiteral("My Games"));
+    ProgramSettings& settings = Settings();
+    settings.sProgramName = kProgramName;
+    settings.sMyGamesDirectory = sPrivateFolder;
+    if (settings.sRelativePictureBase.isEmpty()) settings.sRelativePictureBase = userFolder;
+    if (settings.sIniDirectory.isEmpty()) settings.sIniDirectory = userFolder;
+    settings.bIniReadOnly = true;
+    if (!arguments.sData.isEmpty()) settings.sProgramDirectory = Console::CompletePath(arguments.sData);
+    basErrLog::ErrInit(0);
+    basCommon::InitIniPath();
+    const QString inSettings = basCommon::GetIniString(QStringLiteral("GameVersion"));
+    if (!inSettings.isEmpty()) settings.sGameVersion = inSettings;
+    if (!arguments.sVariant.isEmpty()) settings.sGameVersion = arguments.sVariant;
+}
+
+} // namespace
+
+void PrintCommand::Complain(const QString& sText) {
+    m_err << "tavlora-print: " << sText.toUtf8().constData() << std::endl;
+}
+
+void PrintCommand::Progress(int number, qsizetype count, const QString& sTitle) {
+    if (!m_showProgress) return;
+    m_err << '\r' << "\x1b[K" << qUtf8Printable(QStringLiteral("%1/%2 %3").arg(number).arg(count).arg(sTitle))
+          << std::flush;
+}
+
+void PrintCommand::List() {
+    constexpr int kNameWidth = 11;
+    constexpr int kTitleWidth = 38;
+    constexpr int kStockWidth = 20;
+    for (const PrintSheet& sheet : PrintSheets()) {
+        const bool portrait = sheet.orientation == PageOrientation::Portrait;
+        m_out << QByteArray(sheet.sName).leftJustified(kNameWidth).constData()
+              << QByteArray(sheet.sTitle).leftJustified(kTitleWidth).constData()
+              << QByteArray(sheet.sStock).leftJustified(kStockWidth).constData()
+              << (portrait ? "portrait" : "landscape") << '\n';
+    }
+}
+
+int PrintCommand::Run(const QStringList& words) {
+    QString error;
+    const std::optional<PrintArguments> arguments = PrintArguments::Parse(words, error);
+    if (!arguments) {
+        Complain(error + QStringLiteral(" (tavlora-print --help tells how)"));
+        return kWrongUsage;
+    }
+    if (arguments->bHelp) {
+        m_out << PrintArguments::Usage().toUtf8().constData();
+    } else if (arguments->bVersion) {
+        m_out << "tavlora-print " << TAVLORA_VERSION_MAJOR << '.' << TAVLORA_VERSION_MINOR << '.'
+              << TAVLORA_VERSION_REVISION << '\n';
+    } else if (arguments->bList) {
+        List();
+    } else {
+        return Carry(*arguments);
+    }
+    m_out.flush();
+    return kDone;
+}
+
+bool PrintCommand::IsPartOfThisBuild(const PrintArguments& arguments, const QStringList& sheets) {
+    QStringList missing;
+    for (const QString& name : sheets) {
+        if (!FindPrintSheet(name)->print) missing.append(name);
+    }
+    if (!arguments.sBoard.isEmpty()) missing.append(QStringLiteral("the board's picture"));
+    if (!arguments.sPieces.isEmpty()) missing.append(QStringLiteral("the made pictures"));
+    if (missing.isEmpty()) return true;
+    Complain(QStringLiteral("not part of this build yet: ") + missing.join(QStringLiteral(", ")));
+    return false;
+}
+
+int PrintCommand::Carry(const PrintArguments& arguments) {
+    for (const QString& output : {arguments.sOutput, arguments.sBoard}) {
+        if (output.isEmpty() || !Console::IsSameFile(output, arguments.sGame)) continue;
+        Complain(QStringLiteral("'%1' is the game itself and would be overwritten").arg(output));
+        return kWrongUsage;
+    }
+    const TemporaryFolder privateFolder;
+    if (privateFolder.Path().isEmpty()) {
+        Complain(QStringLiteral("no temporary folder could be made"));
+        return kFailed;
+    }
+    PrintDesktop desktop([this](const QString& sText) { Complain(sText); });
+    try {
+        PrepareSettings(arguments, privateFolder.Path());
+        return PrintGame(arguments);
+    } catch (const ProgramEnded&) {
+        // What ended it has been told.
+    } catch (const TavloraError& error) {
+        Complain(basErrLog::ErrDismiss(error.Description()).simplified());
+    }
+    return kFailed;
+}
+
+bool PrintCommand::LoadGame(const QString& sGame) {
+    QString name = Console::CompletePath(sGame);
+    int result = 0;
+    GameFile::GameLoad(name, result);
+    return result == 0;
+}
+
+int PrintCommand::PrintGame(const PrintArguments& arguments) {
+    const QStringList sheets =
+        arguments.sheets.isEmpty() && !arguments.sOutput.isEmpty() ? AllSheets() : arguments.sheets;
+    GameSession session;
+    session.m_sGameName = Console::CompletePath(arguments.sGame);
+    basPosit::PosSethDC(&session.MeasuringDevice());
+    basPosit::PosInit();
+    if (!LoadGame(arguments.sGame) || !IsPartOfThisBuild(arguments, sheets)) return kFailed;
+    return arguments.sOutput.isEmpty() ? kDone : PrintSheetsOf(arguments, sheets);
+}
+
+int PrintCommand::PrintSheetsOf(const PrintArguments& arguments, const QStringList& sheets) {
+    PdfPrinter printer(arguments.sOutput, QFileInfo(arguments.sGame).completeBaseName(),
+                       arguments.bA4 ? QPageSize::A4 : QPageSize::Letter, arguments.iDpi);
+    int number = 0;
+    for (const QString& name : sheets) {
+        const PrintSheet& sheet = *FindPrintSheet(name);
+        Progress(++number, sheets.size(), QString::fromLatin1(sheet.sTitle));
+        if (!sheet.print(printer)) return kFailed;
+        printer.EndDoc();
+    }
+    if (m_showProgress) m_err << "\r\x1b[K" << std::flush;
+    QString error;
+    if (printer.Close(error)) return kDone;
+    Complain(QStringLiteral("'%1' could not be written: %2").arg(arguments.sOutput, error));
+    return kFailed;
+}

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QStringList>
+
+#include <iosfwd>
+
+struct PrintArguments;
+
+/// The work of tavlora-print: reads a game and prints it into files. It leaves nothing of the user's changed
+/// but the files it was asked for: settings are read only, and log and temporary files go to a folder that
+/// vanishes at the end.
+class PrintCommand {
+public:
+    enum Status { kDone = 0, kFailed = 1, kWrongUsage = 2 };
+
+    /// Lists and help go to out; each thing that is wrong is a line on err.
+    PrintCommand(std::ostream& out, std::ostream& err, bool bShowProgress)
+        : m_out(out), m_err(err), m_showProgress(bShowProgress) {}
+
+    /// The words behind the program's name. Gives the exit status.
+    int Run(const QStringList& words);
+
+private:
+    int Carry(const PrintArguments& arguments);
+    int PrintGame(const PrintArguments& arguments);
+    int PrintSheetsOf(const PrintArguments& arguments, const QStringList& sheets);
+    bool IsPartOfThisBuild(const PrintArguments& arguments, const QStringList& sheets);
+    bool LoadGame(const QString& sGame);
+    void List();
+    void Complain(const QString& sText);
+    void Progress(int number, qsizetype count, const QString& sTitle);
+
+    std::ostream& m_out;
+    std::ostream& m_err;
+    bool m_showProgress;
+};

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#include "tools/PrintSheets.h"
+
+#include "print/RulesSheet.h"
+
+namespace {
+
+constexpr auto kLandscape = PageOrientation::Landscape;
+constexpr auto kPortrait = PageOrientation::Portrait;
+
+constexpr const char* kLabels = "white label paper";
+constexpr const char* kWhiteCard = "white card stock";
+constexpr const char* kColoredCard = "colored card stock";
+constexpr const char* kPaper = "white paper";
+
+constexpr PrintSheet kSheets[] = {
+    {"box", "Box Top & Token Stickers", kLabels, kLandscape, nullptr},
+    {"west", "West, South & Corner Board Stickers", kLabels, kLandscape, nullptr},
+    {"east", "East, North & Title Board Stickers", kLabels, kLandscape, nullptr},
+    {"deeds1", "Property Deed Sheet #1", kWhiteCard, kPortrait, nullptr},
+    {"deeds2", "Property Deed Sheet #2", kWhiteCard, kPortrait, nullptr},
+    {"good", "Good News Cards", kColoredCard, kPortrait, nullptr},
+    {"bad", "Bad News Cards", kColoredCard, kPortrait, nullptr},
+    {"money100", "$ 100", kPaper, kPortrait, nullptr},
+    {"money500", "$ 500", kPaper, kPortrait, nullptr},
+    {"money1000", "$ 1,000", kPaper, kPortrait, nullptr},
+    {"money5000", "$ 5,000", kPaper, kPortrait, nullptr},
+    {"rules", "Game Play Instruction Sheet", kPaper, kPortrait, PrintRulesSheet},
+};
+
+} // namespace
+
+std::span<const PrintSheet> PrintSheets() { return kSheets; }
+
+const PrintSheet* FindPrintSheet(const QString& sName) {
+    for (const PrintSheet& sheet : kSheets) {
+        if (sName == QString::fromLatin1(sheet.sName)) return &sheet;
+    }
+    return nullptr;
+}

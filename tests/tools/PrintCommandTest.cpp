@@ -1,0 +1,265 @@
+// SPDX-License-Identifier: MIT
+#include "tools/PrintCommand.h"
+
+#include "platform/Console.h"
+#include "platform/Files.h"
+#include "support/FileFixture.h"
+#include "tools/PrintArguments.h"
+#include "tools/PrintSheets.h"
+
+#include <QProcess>
+
+#include <sstream>
+
+namespace {
+
+class PrintCommandTest : public GameFileTest {
+protected:
+    PrintCommandTest() {
+        QDir(folder.path()).mkdir(QStringLiteral("out"));
+        WriteFile(QStringLiteral("program/GamePlay.dat"), "<Head>\r\ntimes,20,C,B:<TAVLORA> of <START>\r\n"
+                                                          "<Col1>\r\narial,10,L,R:<GOOD NEWS> and <BAD NEWS>\r\n");
+        Settings().sIniDirectory = PathOf(QStringLiteral("games"));
+        Settings().sRelativePictureBase = PathOf(QStringLiteral("games"));
+        game = WriteGame(PlainLines());
+    }
+    int Run(const QStringList& words) {
+        std::ostringstream outStream;
+        std::ostringstream errStream;
+        const int status = PrintCommand(outStream, errStream, false).Run(words);
+        out = QString::fromStdString(outStream.str());
+        errors = QString::fromStdString(errStream.str()).split(u'\n', Qt::SkipEmptyParts);
+        return status;
+    }
+    int PrintRules(const QString& gameFile) {
+        return Run({gameFile, QStringLiteral("--sheet"), QStringLiteral("rules"), QStringLiteral("-o"), pdf});
+    }
+    QStringList OutFolder() const { return QDir(PathOf(QStringLiteral("out"))).entryList(QDir::Files | QDir::Hidden); }
+    // All files of a folder with their content, to see that nothing has changed.
+    QMap<QString, QByteArray> Content(const QString& name) const {
+        QMap<QString, QByteArray> content;
+        const QDir dir(PathOf(name));
+        for (const QString& file : dir.entryList(QDir::Files | QDir::Hidden))
+            content[file] = ReadFile(dir.filePath(file));
+        return content;
+    }
+    static QString TextOf(const QString& pdfFile) {
+        QProcess process;
+        process.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), pdfFile, QStringLiteral("-")});
+        return process.waitForFinished() ? QString::fromUtf8(process.readAllStandardOutput()) : QString();
+    }
+    QString game;
+    const QString pdf = PathOf(QStringLiteral("out/sheet.pdf"));
+    QString out;
+    QStringList errors;
+};
+
+TEST_F(PrintCommandTest, RulesArePrintedWithTheNamesOfTheGame) {
+    EXPECT_EQ(PrintRules(game), 0);
+    EXPECT_TRUE(errors.isEmpty()) << errors.join(u'\n').toStdString();
+    EXPECT_EQ(OutFolder(), QStringList{QStringLiteral("sheet.pdf")});
+    EXPECT_TRUE(ReadFile(pdf).startsWith("%PDF-"));
+    const QString text = TextOf(pdf).simplified();
+    if (text.isEmpty()) GTEST_SKIP() << "pdftotext is not installed";
+    EXPECT_TRUE(text.contains(QStringLiteral("OurTAVLO of Corner 0"))) << text.toStdString();
+    EXPECT_TRUE(text.contains(QStringLiteral("Space 3 and Space 17"))) << text.toStdString();
+}
+
+TEST_F(PrintCommandTest, OldOutputIsReplacedOnlyByACompleteOne) {
+    WriteFile(QStringLiteral("out/sheet.pdf"), "old");
+    WriteFile(QStringLiteral("program/GamePlay.dat"), "no layout at all\r\n");
+    EXPECT_EQ(PrintRules(game), 1);
+    EXPECT_EQ(errors, QStringList{QStringLiteral(
+                          "tavlora-print: An error occurred processing one of the lines in the GamePlay.dat file.")});
+    EXPECT_EQ(ReadFile(pdf), QByteArray("old"));
+    EXPECT_EQ(OutFolder().size(), 1);
+    WriteFile(QStringLiteral("program/GamePlay.dat"), "<Head>\r\ntimes,20,C,B:x\r\n");
+    EXPECT_EQ(PrintRules(game), 0);
+    EXPECT_TRUE(ReadFile(pdf).startsWith("%PDF-"));
+}
+
+TEST_F(PrintCommandTest, DamagedInputGivesOneLineAndStatusOne) {
+    QStringList badIndex = PlainLines();
+    badIndex[9] = QStringLiteral("x, \"t\"");
+    const struct {
+        const char* tag;
+        QString path;
+        const char* words;
+    } rows[] = {
+        {"no game", WriteFile(QStringLiteral("a.gam"), "Dear diary"), "Loading File Is Not Compatible"},
+        {"zeros", WriteFile(QStringLiteral("b.gam"), QByteArray(9999, '\0')), "Loading File Is Not Compatible"},
+        {"empty", WriteFile(QStringLiteral("c.gam"), ""), "Loading File Is Not Compatible"},
+        {"cut off", WriteGame(PlainLines().mid(0, 20), QStringLiteral("d.gam")), "loading line number 17"},
+        {"bad index", WriteGame(badIndex, QStringLiteral("e.gam")), "loading line number 6"},
+        {"folder", PathOf(QStringLiteral("games")), "It is a folder"},
+        {"missing", PathOf(QStringLiteral("gone.gam")), "opening the file"},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(PrintRules(row.path), 1) << row.tag;
+        ASSERT_EQ(errors.size(), 1) << row.tag;
+        EXPECT_TRUE(errors[0].contains(QString::fromLatin1(row.words))) << errors[0].toStdString();
+        EXPECT_TRUE(errors[0].contains(row.path)) << errors[0].toStdString();
+        EXPECT_TRUE(OutFolder().isEmpty()) << row.tag;
+    }
+}
+
+TEST_F(PrintCommandTest, OutputThatCantBeWrittenGivesOneLineAndStatusOne) {
+    for (const QString& output : {PathOf(QStringLiteral("nowhere/x.pdf")), PathOf(QStringLiteral("out"))}) {
+        EXPECT_EQ(Run({game, QStringLiteral("--sheet"), QStringLiteral("rules"), QStringLiteral("-o"), output}), 1);
+        ASSERT_EQ(errors.size(), 1);
+        EXPECT_TRUE(errors[0].contains(output + QStringLiteral("' could not be written: "))) << errors[0].toStdString();
+    }
+}
+
+TEST_F(PrintCommandTest, GameIsNeverOverwrittenByItsOwnPrint) {
+    const QByteArray before = ReadFile(game);
+    EXPECT_EQ(Run({game, QStringLiteral("--sheet"), QStringLiteral("rules"), QStringLiteral("-o"), game}), 2);
+    EXPECT_EQ(ReadFile(game), before);
+}
+
+TEST_F(PrintCommandTest, UsersFolderIsLeftAsItWas) {
+    WriteFile(QStringLiteral("games/tavlora.ini"), "[tavlora]\r\nGameName=mine.gam\r\n");
+    WriteFile(QStringLiteral("games/~AutoSave.dat"), "autosave");
+    WriteFile(QStringLiteral("games/Space0.bmp"), "thumbnail");
+    WriteFile(QStringLiteral("games/cat.bmp"), "picture");
+    QStringList lines = PlainLines();
+    lines[3] = QStringLiteral("0, \"t\", \"cat.bmp\",10,20,3");
+    WriteGame(lines);
+    const auto before = Content(QStringLiteral("games"));
+    EXPECT_EQ(PrintRules(game), 0);
+    EXPECT_TRUE(errors.isEmpty());
+    EXPECT_EQ(Content(QStringLiteral("games")), before);
+    EXPECT_EQ(basTAVL::g_oSpaces(0).Image.FullPath(), InGames(QStringLiteral("cat.bmp")));
+}
+
+TEST_F(PrintCommandTest, MissingPictureIsAWarning) {
+    QStringList lines = PlainLines();
+    lines[3] = QStringLiteral("0, \"t\", \"gone.bmp\",0,0,0");
+    EXPECT_EQ(PrintRules(WriteGame(lines)), 0);
+    ASSERT_EQ(errors.size(), 1);
+    EXPECT_TRUE(errors[0].contains(QStringLiteral("gone.bmp")));
+}
+
+TEST_F(PrintCommandTest, KitVariantComesFromTheOptionThenFromTheSettings) {
+    EXPECT_EQ(PrintRules(game), 0);
+    EXPECT_EQ(basTAVL::g_sGameVersion(), QStringLiteral("8"));
+    WriteFile(QStringLiteral("games/tavlora.ini"), "[tavlora]\r\nGameVersion=5\r\n");
+    PrintRules(game);
+    EXPECT_EQ(basTAVL::g_sGameVersion(), QStringLiteral("5"));
+    Run({game, QStringLiteral("--variant"), QStringLiteral("2A"), QStringLiteral("--sheet=rules"), QStringLiteral("-o"),
+         pdf});
+    EXPECT_EQ(basTAVL::g_sGameVersion(), QStringLiteral("2A"));
+}
+
+TEST_F(PrintCommandTest, ProgramsDataMayLieElsewhere) {
+    QDir(folder.path()).mkdir(QStringLiteral("elsewhere"));
+    for (const char* name : {"Rents.dat", "GamePlay.dat"})
+        QFile::copy(PathOf(QStringLiteral("program/") + QString::fromLatin1(name)),
+                    PathOf(QStringLiteral("elsewhere/") + QString::fromLatin1(name)));
+    EXPECT_EQ(Run({game, QStringLiteral("--sheet"), QStringLiteral("rules"), QStringLiteral("-o"), pdf,
+                   QStringLiteral("--data"), PathOf(QStringLiteral("elsewhere"))}),
+              0);
+    EXPECT_EQ(Run({game, QStringLiteral("--sheet"), QStringLiteral("rules"), QStringLiteral("-o"), pdf,
+                   QStringLiteral("--data"), PathOf(QStringLiteral("nowhere"))}),
+              1);
+    EXPECT_TRUE(errors[0].contains(QStringLiteral("Rents_US.dat")));
+}
+
+TEST_F(PrintCommandTest, WrongUsageGivesOneLineAndStatusTwo) {
+    const QList<QStringList> rows{
+        {},
+        {game},
+        {QStringLiteral("-o"), pdf},
+        {game, game, QStringLiteral("-o"), pdf},
+        {game, QStringLiteral("--bogus")},
+        {game, QStringLiteral("-o")},
+        {game, QStringLiteral("--sheet"), QStringLiteral("rulez"), QStringLiteral("-o"), pdf},
+        {game, QStringLiteral("--sheet"), QStringLiteral("rules")},
+        {game, QStringLiteral("-o"), pdf, QStringLiteral("--dpi"), QStringLiteral("fine")},
+        {game, QStringLiteral("-o"), pdf, QStringLiteral("--dpi=5")},
+        {game, QStringLiteral("-o"), pdf, QStringLiteral("--paper"), QStringLiteral("a5")},
+        {game, QStringLiteral("-o"), pdf, QStringLiteral("--variant"), QStringLiteral("9")},
+        {game, QStringLiteral("--list=1")},
+    };
+    for (const QStringList& words : rows) {
+        EXPECT_EQ(Run(words), 2) << words.join(u' ').toStdString();
+        EXPECT_EQ(errors.size(), 1) << words.join(u' ').toStdString();
+    }
+    EXPECT_TRUE(OutFolder().isEmpty());
+}
+
+TEST_F(PrintCommandTest, ArgumentsAreRead) {
+    QString error;
+    const auto arguments = PrintArguments::Parse(
+        {QStringLiteral("--sheet"), QStringLiteral("good"), QStringLiteral("bad"), QStringLiteral("--paper=a4"),
+         QStringLiteral("--dpi"), QStringLiteral("300"), QStringLiteral("--size"), QStringLiteral("500"),
+         QStringLiteral("--board"), QStringLiteral("b.png"), QStringLiteral("-o"), QStringLiteral("k.pdf"),
+         QStringLiteral("--pieces"), QStringLiteral("p"), QStringLiteral("--"), QStringLiteral("-odd.gam")},
+        error);
+    ASSERT_TRUE(arguments) << error.toStdString();
+    EXPECT_EQ(arguments->sheets, (QStringList{QStringLiteral("good"), QStringLiteral("bad")}));
+    EXPECT_TRUE(arguments->bA4);
+    EXPECT_EQ(arguments->iDpi, 300);
+    EXPECT_EQ(arguments->iBoardSize, 500);
+    EXPECT_EQ(arguments->sBoard, QStringLiteral("b.png"));
+    EXPECT_EQ(arguments->sOutput, QStringLiteral("k.pdf"));
+    EXPECT_EQ(arguments->sPieces, QStringLiteral("p"));
+    EXPECT_EQ(arguments->sGame, QStringLiteral("-odd.gam"));
+}
+
+TEST_F(PrintCommandTest, ListHasALineForEachSheetOfTheKit) {
+    EXPECT_EQ(Run({QStringLiteral("--list")}), 0);
+    const QStringList lines = out.split(u'\n', Qt::SkipEmptyParts);
+    ASSERT_EQ(lines.size(), 12);
+    EXPECT_TRUE(lines[0].startsWith(QStringLiteral("box ")) && lines[0].endsWith(QStringLiteral("landscape")));
+    EXPECT_TRUE(lines[11].startsWith(QStringLiteral("rules ")) && lines[11].endsWith(QStringLiteral("portrait")));
+    EXPECT_TRUE(errors.isEmpty());
+}
+
+TEST_F(PrintCommandTest, HelpAndVersionGoToStandardOutput) {
+    EXPECT_EQ(Run({QStringLiteral("--help")}), 0);
+    EXPECT_TRUE(out.contains(QStringLiteral("--variant")));
+    EXPECT_EQ(Run({QStringLiteral("--version")}), 0);
+    EXPECT_EQ(out, QStringLiteral("tavlora-print 8.0.0\n"));
+}
+
+TEST_F(PrintCommandTest, WhatThisBuildCannotPrintIsSaidPlainly) {
+    for (const PrintSheet& sheet : PrintSheets()) {
+        if (sheet.print) continue;
+        EXPECT_EQ(Run({game, QStringLiteral("--sheet"), QString::fromLatin1(sheet.sName), QStringLiteral("-o"), pdf}),
+                  1);
+        EXPECT_EQ(errors, QStringList{QStringLiteral("tavlora-print: not part of this build yet: ") +
+                                      QString::fromLatin1(sheet.sName)});
+    }
+    EXPECT_TRUE(OutFolder().isEmpty());
+}
+
+TEST_F(PrintCommandTest, ProgramItselfRunsWithoutADisplayAndLeavesNothingBehind) {
+    QDir(folder.path()).mkdir(QStringLiteral("home"));
+    QDir(folder.path()).mkdir(QStringLiteral("tmp"));
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "XDG_RUNTIME_DIR"})
+        environment.remove(QString::fromLatin1(name));
+    environment.insert(QStringLiteral("HOME"), PathOf(QStringLiteral("home")));
+    environment.insert(QStringLiteral("TMPDIR"), PathOf(QStringLiteral("tmp")));
+    process.setProcessEnvironment(environment);
+    const QString program = QStringLiteral(TAVLORA_BIN_DIR) + QStringLiteral("/tavlora-print");
+    if (!Files::Exists(program)) GTEST_SKIP() << "tavlora-print is not built";
+    const auto run = [&](const QString& gameFile) {
+        process.start(program, {gameFile, QStringLiteral("--sheet"), QStringLiteral("rules"), QStringLiteral("-o"), pdf,
+                                QStringLiteral("--data"), PathOf(QStringLiteral("program"))});
+        EXPECT_TRUE(process.waitForFinished());
+        return process.exitCode();
+    };
+    EXPECT_EQ(run(game), 0);
+    EXPECT_EQ(process.readAllStandardError(), QByteArray());
+    EXPECT_TRUE(ReadFile(pdf).startsWith("%PDF-"));
+    EXPECT_EQ(run(PathOf(QStringLiteral("gone.gam"))), 1);
+    EXPECT_EQ(process.readAllStandardError().count('\n'), 1);
+    const QDir tmp(PathOf(QStringLiteral("tmp")));
+    EXPECT_TRUE(tmp.entryList(QDir::NoDotAndDotDot | QDir::AllEntries).filter(QStringLiteral("tavlora")).isEmpty());
+    EXPECT_FALSE(Files::IsDirectory(PathOf(QStringLiteral("home/Documents/My Games"))));
+}
+
+} // namespace
