@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: MIT
+#include "board/basPositPaint.h"
+
+#include "app/services/basErrLog.h"
+#include "board/basDraw.h"
+#include "board/basPosit.h"
+#include "document/basTAVL.h"
+#include "platform/Numbers.h"
+
+using namespace basDraw;
+
+namespace basPosit {
+namespace {
+
+constexpr float kCostHeight = 0.012F;
+// From the inner edge of a space to the top of its cost.
+constexpr float kCostGap = 0.005F;
+
+constexpr int kEscapement[kSidesOfBoard] = {0, 2700, 1800, 900};
+constexpr int kFixedCorner = 3;
+
+struct DeviceRect {
+    int x1;
+    int y1;
+    int x2;
+    int y2;
+};
+
+DeviceRect Mapped(const BoardRect& rect) { return {PosX(rect.x1), PosY(rect.y1), PosX(rect.x2), PosY(rect.y2)}; }
+
+void Draw(const DeviceRect& rect) { Draw_Rect(rect.x1, rect.y1, rect.x2, rect.y2); }
+
+// The view is square, so its width is the limit of both axes.
+bool IsInView(const DeviceRect& rect) {
+    return rect.x2 >= 0 && rect.y2 >= 0 && rect.x1 <= GetViewWidth() && rect.y1 <= GetViewWidth();
+}
+
+BoardPoint MiddleOf(const BoardRect& rect) { return {(rect.x1 + rect.x2) / 2, (rect.y1 + rect.y2) / 2}; }
+
+// Across the side the costs of all its spaces stand on one line, told by the first; along it each stands in
+// the middle of its space.
+BoardPoint CostAnchor(int iSide, const BoardRect& first, const BoardRect& space) {
+    const BoardPoint middle = MiddleOf(space);
+    switch (iSide) {
+        case 0:
+            return {middle.x, first.y1 + kCostGap};
+        case 1:
+            return {first.x2 - kCostGap, middle.y};
+        case 2:
+            return {middle.x, first.y2 - kCostGap};
+        default:
+            return {first.x1 + kCostGap, middle.y};
+    }
+}
+
+} // namespace
+
+int EscapementOfSide(int iSide, const QString& sMessage) {
+    basErrLog::ErrAssert(iSide >= 0 && iSide < kSidesOfBoard, sMessage);
+    return kEscapement[iSide];
+}
+
+bool IsFixedCorner(int iCorner) {
+    const QString& version = basTAVL::g_sGameVersion();
+    return iCorner == kFixedCorner && (version == QStringLiteral("8") || version == QStringLiteral("5"));
+}
+
+void PosDrawAll() try {
+    Pos_DrawCenter();
+    Draw_SetPen(PenStyle::Solid, CLng(PosLength(kBoardPen)), Color::Black());
+    Draw_SetBrush(basTAVL::g_lMagicColor());
+    DrawCorners();
+    DrawSides();
+    DrawSpaces();
+    PosDrawCosts();
+    for (int iSpace = 0; iSpace < kSpacesOnBoard; ++iSpace) {
+        PosDrawSpaceText(iSpace);
+        PosDrawSpaceBMP(iSpace);
+    }
+    for (int iCorner = 0; iCorner < kCornersOnBoard; ++iCorner) {
+        PosDrawCornerBMP(iCorner);
+        if (!IsFixedCorner(iCorner)) PosDrawCornerText(0, iCorner);
+    }
+    for (int iSpace = 0; iSpace < kSpacesOnBoard; ++iSpace) {
+        if (IsLotto(iSpace)) DrawLotto(iSpace);
+    }
+    Draw_ReleaseObjects();
+} catch (...) {
+    ErrTail("basPosit!", "PosDrawAll");
+}
+
+void DrawCorners() try {
+    for (int iCorner = 0; iCorner < kCornersOnBoard; ++iCorner) {
+        std::array<QPoint, kCornerPoints> outline;
+        for (size_t i = 0; i < outline.size(); ++i) {
+            const BoardPoint& point = m_CornerPoly(iCorner)[i];
+            outline[i] = QPoint(PosX(point.x), PosY(point.y));
+        }
+        Draw_Polygon(outline);
+    }
+} catch (...) {
+    ErrTail("basPosit!", "DrawCorners");
+}
+
+void DrawSides() try {
+    for (int iSide = 0; iSide < kSidesOfBoard; ++iSide) {
+        const SideRecord& side = m_SideRec(iSide);
+        Draw_SetBrush(side.lFill);
+        Draw(Mapped(side.rect));
+        Draw_SetFont(QStringLiteral("Arial"), CLng(PosLength(side.fFontHeight)), CLng(PosLength(side.fFontWidth)),
+                     EscapementOfSide(iSide, QStringLiteral("Unexpected side")), 0, true, false, false);
+        Draw_Text(side.sText, QStringLiteral("C"), PosX(side.anchor.x), PosY(side.anchor.y), side.lText);
+    }
+} catch (...) {
+    ErrTail("basPosit!", "DrawSides");
+}
+
+void DrawSpaces() try {
+    Draw_SetBrush(basTAVL::g_lMagicColor());
+    for (int iSpace = 0; iSpace < kSpacesOnBoard; ++iSpace) {
+        const DeviceRect rect = Mapped(m_SpaceRect(iSpace, SpacePart::Whole));
+        C_Space& space = basTAVL::g_oSpaces(iSpace);
+        space.IsShowing = IsInView(rect);
+        if (space.IsShowing) Draw(rect);
+    }
+    for (int iSpace = 0; iSpace < kSpacesOnBoard; ++iSpace) {
+        const C_Space& space = basTAVL::g_oSpaces(iSpace);
+        if (space.SpaceColor.IsNone() || !space.IsShowing) continue;
+        Draw_SetBrush(space.SpaceColor);
+        // One unit further out than the space itself, which closes the gap under the pen.
+        DeviceRect band = Mapped(m_SpaceRect(iSpace, SpacePart::Band));
+        Draw_Rect(band.x1, band.y1, band.x2 + 1, band.y2 + 1);
+    }
+} catch (...) {
+    ErrTail("basPosit!", "DrawSpaces");
+}
+
+void PosDrawCosts() try {
+    const int h = CLng(PosLength(kCostHeight));
+    for (int iSide = 0; iSide < kSidesOfBoard; ++iSide) {
+        Draw_SetFont(QStringLiteral("Arial"), h, CLng(h * 0.5),
+                     EscapementOfSide(iSide, QStringLiteral("Unexpected Case 2")), 0, false, false, false);
+        const int iFirst = iSide * basTAVL::kSpacesPerSide;
+        for (int iSpace = iFirst; iSpace < iFirst + basTAVL::kSpacesPerSide; ++iSpace) {
+            const C_Space& space = basTAVL::g_oSpaces(iSpace);
+            const BoardPoint anchor =
+                CostAnchor(iSide, m_SpaceRect(iFirst, SpacePart::Whole), m_SpaceRect(iSpace, SpacePart::Whole));
+            Draw_Text(space.Cost, QStringLiteral("C"), PosX(anchor.x), PosY(anchor.y), space.CostColor);
+        }
+    }
+} catch (...) {
+    ErrTail("basPosit!", "PosDrawCosts");
+}
+
+} // namespace basPosit

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+class Surface;
+
+/// Painting of the board on the drawing layer's current context, in the view that basPosit holds. Everything
+/// scales with the view, down to the pens, so the board looks the same at each zoom. The context is in
+/// transparent background mode and its surface already cleared.
+namespace basPosit {
+
+/// Width of the pen round spaces, corners, bands and boxes, as a fraction of the board's width.
+constexpr float kBoardPen = 0.0031F;
+
+/// The surface that pictures are pasted on, which is the one behind the current context; none leaves them
+/// out. The surface's scale mode is pixels while the board is painted. Corners show their pictures only while
+/// the board is on screen.
+void PosSetPicture(Surface* picBoard, bool bOnScreen = true);
+
+/// Paints everything, and gives back pens, brushes and fonts at the end. PosInit comes before it, then the
+/// view.
+void PosDrawAll();
+
+/// The panel in the middle: title box, card decks, money, tokens, and the game's titles.
+void Pos_DrawCenter();
+
+// With the pen and brush that are selected.
+void DrawCorners();
+/// Bands with the names of the sides.
+void DrawSides();
+/// Fills the spaces in view, and notes in each space whether it is: IsShowing.
+void DrawSpaces();
+void PosDrawCosts();
+
+// Each skips spaces out of view, and the two lotto spaces, which show a panel of their own.
+void PosDrawSpaceText(int iSpace);
+void PosDrawSpaceBMP(int iSpace);
+
+/// Kits "8" and "5" have a picture of their own on corner 3, whatever the game says.
+void PosDrawCornerBMP(int iCorner);
+/// The board shows block 0; block 1, in its fixed typeface, is for other output.
+void PosDrawCornerText(int iBlock, int iCorner);
+
+/// The panel of a lotto space, 10 or 24; raises for any other.
+void DrawLotto(int iSpace);
+
+/// Direction of the text on a side, tenths of a degree, so that it is read from the board's edge. Raises with
+/// the message outside 0 to 3.
+int EscapementOfSide(int iSide, const QString& sMessage);
+
+/// True for the two spaces that show the lotto's panel.
+bool IsLotto(int iSpace);
+
+/// True for the corner whose picture belongs to the kit and not to the game.
+bool IsFixedCorner(int iCorner);
+
+} // namespace basPosit

@@ -1,0 +1,166 @@
+// SPDX-License-Identifier: MIT
+#include "board/basPositPaint.h"
+
+#include "app/services/basErrLog.h"
+#include "board/basDraw.h"
+#include "board/basPosit.h"
+#include "document/basTAVL.h"
+#include "platform/Numbers.h"
+
+using namespace basDraw;
+
+namespace basPosit {
+namespace {
+
+constexpr Color kPanelColor = Color::FromValue(0xFFB000);
+constexpr Color kNewsColor = Color::FromValue(0xC08080);
+constexpr Color kMoneyColor = Color::FromValue(0x80E080);
+constexpr Color kTokensColor = Color::FromValue(0x9370DB);
+
+enum Box { kPanel, kTitleBox, kSubtitleBox, kGoodNewsBox, kBadNewsBox, kMoneyBox, kTokensBox };
+
+// What stands on the boxes that open an editor.
+struct Label {
+    Box box;
+    const char* sLine[2];
+    int iRows;
+};
+constexpr Label kLabel[] = {
+    {kGoodNewsBox, {"Good", "News"}, 2},
+    {kBadNewsBox, {"Bad", "News"}, 2},
+    {kMoneyBox, {"Money", ""}, 1},
+    {kTokensBox, {"Tokens", ""}, 1},
+};
+// Share of a row's height that its letters take.
+constexpr double kLabelFill = 0.9;
+
+// The small game board drawn round the title, in fractions of the title box's width and height.
+constexpr float kStripCell = 0.0288F;
+constexpr float kStripStart = 0.0392F;
+constexpr float kStripDepth = 0.05286F;
+constexpr float kStripInner = 0.1762F;
+constexpr float kColumnCell = 0.1295F;
+constexpr float kColumnStart = 0.1762F;
+constexpr float kColumnDepth = 0.0098F;
+constexpr float kColumnInner = 0.0392F;
+
+constexpr int kTitles = 3;
+
+// Edges of the title box, its two strips (T and B) and its two columns (L and R).
+struct TitleGrid {
+    BoardRect box = m_CenterRect(kTitleBox);
+    float W = box.Width();
+    float H = box.Height();
+    float T1 = box.y1 + kStripInner * H;
+    float T0 = T1 - kStripDepth * H;
+    float B0 = box.y2 - kStripInner * H;
+    float B1 = B0 + kStripDepth * H;
+    float L1 = box.x1 + kColumnInner * W;
+    float L0 = L1 - kColumnDepth * W;
+    float R0 = box.x2 - kColumnInner * W;
+    float R1 = R0 + kColumnDepth * W;
+
+    float StripFromLeft(int i) const { return (kStripCell * float(i) + kStripStart) * W + box.x1; }
+    float StripFromRight(int i) const { return box.x2 - (kStripCell * float(i) + kStripStart) * W; }
+    float Column(int i) const { return (kColumnCell * float(i) + kColumnStart) * H + box.y1; }
+};
+
+void DrawBoardRect(float x1, float y1, float x2, float y2) { Draw_Rect(PosX(x1), PosY(y1), PosX(x2), PosY(y2)); }
+void DrawBoardLine(float x1, float y1, float x2, float y2) { Draw_Line(PosX(x1), PosY(y1), PosX(x2), PosY(y2)); }
+
+void DrawBoxes() {
+    const Color magic = basTAVL::g_lMagicColor();
+    const Color fill[kCenterBoxes] = {kPanelColor, magic, magic, kNewsColor, kNewsColor, kMoneyColor, kTokensColor};
+    for (int i = 0; i < kCenterBoxes; ++i) {
+        const BoardRect& box = m_CenterRect(i);
+        Draw_SetBrush(fill[i]);
+        DrawBoardRect(box.x1, box.y1, box.x2, box.y2);
+    }
+}
+
+void DrawLabels() {
+    for (const Label& label : kLabel) {
+        const BoardRect& box = m_CenterRect(label.box);
+        const int height = PosY(box.y2) - PosY(box.y1);
+        Draw_SetFont(QStringLiteral("Arial"), CLng(double(height) / label.iRows * kLabelFill), 0, 0, 0, false, true,
+                     false);
+        const QStringList lines{QString::fromLatin1(label.sLine[0]), QString::fromLatin1(label.sLine[1])};
+        Draw_TextArray(lines, QStringLiteral("C"), PosX((box.x1 + box.x2) / 2), PosY(box.y1), Color::Black());
+    }
+}
+
+// The bottom strip is the top one turned by half a turn.
+void DrawStripCells(const TitleGrid& grid) {
+    for (int i = 0; i < kStripCells; ++i) {
+        const Color color = m_lStripColor(i);
+        if (color.IsNone()) continue;
+        Draw_SetPen(PenStyle::Solid, 0, color);
+        Draw_SetBrush(color);
+        const float fromLeft = grid.StripFromLeft(i);
+        const float fromRight = grid.StripFromRight(i);
+        DrawBoardRect(fromLeft, grid.T0, fromLeft + kStripCell * grid.W, grid.T1);
+        DrawBoardRect(fromRight - kStripCell * grid.W, grid.B0, fromRight, grid.B1);
+    }
+}
+
+void DrawColumnCell(Color color, float x1, float y1, float x2, float y2) {
+    Draw_SetPen(PenStyle::Solid, 0, color);
+    Draw_SetBrush(color);
+    DrawBoardRect(x1, y1, x2, y2);
+}
+
+void DrawColumnCells(const TitleGrid& grid) {
+    for (int i = 0; i < kColumnCells; ++i) {
+        if (m_lColumnColorA(i).IsNone()) continue;
+        const float from = grid.Column(i);
+        const float to = from + kColumnCell * grid.H;
+        DrawColumnCell(m_lColumnColorA(i), grid.L0, from, grid.L1, to);
+        DrawColumnCell(m_lColumnColorB(i), grid.R0, from, grid.R1, to);
+    }
+}
+
+void DrawGridLines(const TitleGrid& grid) {
+    const BoardRect& box = grid.box;
+    Draw_SetPen(PenStyle::Solid, 0, Color::Black());
+    for (int i = 1; i < kStripCells; ++i) {
+        const float x = grid.StripFromLeft(i);
+        DrawBoardLine(x, box.y1, x, grid.T1);
+        DrawBoardLine(x, grid.B0, x, box.y2);
+    }
+    for (int i = 1; i < kColumnCells; ++i) {
+        const float y = grid.Column(i);
+        DrawBoardLine(box.x1, y, grid.L1, y);
+        DrawBoardLine(grid.R0, y, box.x2, y);
+    }
+    DrawBoardLine(box.x1, grid.T1, box.x2, grid.T1);
+    DrawBoardLine(box.x1, grid.B0, box.x2, grid.B0);
+    DrawBoardLine(grid.L1, box.y1, grid.L1, box.y2);
+    DrawBoardLine(grid.R0, box.y1, grid.R0, box.y2);
+}
+
+void DrawTitles() {
+    for (int i = 0; i < kTitles; ++i) {
+        const CenterTextRecord& text = m_CenterText(i);
+        Draw_SetFont(text.Family(), CLng(PosLength(text.fFontHeight)), CLng(PosLength(text.fFontWidth)), 0, 0,
+                     text.bBold, text.bItalic, false);
+        Draw_Text(basTAVL::CRLF2Space(text.sText), text.sAlign, PosX(text.anchor.x), PosY(text.anchor.y),
+                  Color::Black());
+    }
+}
+
+} // namespace
+
+void Pos_DrawCenter() try {
+    Draw_SetPen(PenStyle::Solid, CLng(PosLength(kBoardPen)), Color::Black());
+    DrawBoxes();
+    DrawLabels();
+    const TitleGrid grid;
+    DrawStripCells(grid);
+    DrawColumnCells(grid);
+    DrawGridLines(grid);
+    DrawTitles();
+} catch (...) {
+    ErrTail("basPosit!", "Pos_DrawCenter");
+}
+
+} // namespace basPosit
