@@ -17,11 +17,9 @@ constexpr Color kNewsColor = Color::FromValue(0xC08080);
 constexpr Color kMoneyColor = Color::FromValue(0x80E080);
 constexpr Color kTokensColor = Color::FromValue(0x9370DB);
 
-enum Box { kPanel, kTitleBox, kSubtitleBox, kGoodNewsBox, kBadNewsBox, kMoneyBox, kTokensBox };
-
 // What stands on the boxes that open an editor.
 struct Label {
-    Box box;
+    CenterBox box;
     const char* sLine[2];
     int iRows;
 };

@@ -70,6 +70,9 @@ struct CenterTextRecord {
     QStringList Lines() const;
 };
 
+/// The boxes of the board's centre.
+enum CenterBox { kPanel, kTitleBox, kSubtitleBox, kGoodNewsBox, kBadNewsBox, kMoneyBox, kTokensBox };
+
 /// Parts of a space.
 enum class SpacePart { Whole = 0, Band = 1 };
 

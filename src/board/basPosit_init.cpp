@@ -104,8 +104,6 @@ constexpr CornerPlace kCornerPlace[kCornersOnBoard] = {
     {{0.8037F, 0.0279F}, 0.1684F, {0.84F, 0.16F}},
 };
 
-enum Box { kPanel, kTitleBox, kSubtitleBox, kGoodNewsBox, kBadNewsBox, kMoneyBox, kTokensBox };
-
 Color GroupColor(int iGroup) { return iGroup == kNoGroup ? Color::None() : m_lPropColor(iGroup); }
 
 BoardRect RectOfSpace(int iSide, int i) {
