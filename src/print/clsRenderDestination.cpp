@@ -3,6 +3,7 @@
 
 #include "app/services/basErrLog.h"
 #include "app/services/basPath.h"
+#include "board/basPositTables.h"
 #include "board/DrawDottedBox.h"
 #include "platform/Folders.h"
 #include "platform/LoadPicture.h"
@@ -114,18 +115,20 @@ void clsRenderDestination::OutputFromBMP(const QString& sPath, double dblX, doub
     ErrTail("clsRenderDestination!", "OutputFromBMP", sPath, dblX, dblY, dblWidth, dblHeight);
 }
 
-void clsRenderDestination::MultiLineBox(const QStringList& saLines, int iLineCount, const QString& sFontName,
-                                        bool bBold, bool bItalic, double dblX, double dblY, double dblWidth,
-                                        double dblHeight, Color lForeColor, Color lBackColor) try {
-    if (iLineCount == 0) return;
+void clsRenderDestination::MultiLineBox(int iItem, const QString& sFontName, bool bBold, bool bItalic, double dblX,
+                                        double dblY, double dblWidth, double dblHeight, Color lForeColor,
+                                        Color lBackColor) try {
+    const basPosit::CenterTextRecord& record = basPosit::m_CenterText(iItem);
+    if (record.iNLines == 0) return;
     const int lX = Pixels(dblX);
     const int lY = Pixels(dblY);
     basTAVL::DrawDottedBox(*m_oDest, lX, lY, CLng(dblWidth * dblDPI + lX), CLng(dblHeight * dblDPI + lY), 0,
                            lBackColor);
+    // The text routine leaves the colour to its caller.
     m_oDest->ForeColor = lForeColor;
-    MultiLineTextAutofit(saLines, iLineCount, sFontName, bBold, bItalic, lX, lY, Pixels(dblWidth), Pixels(dblHeight),
-                         lForeColor);
+    MultiLineTextAutofit(record.Lines(), record.iNLines, sFontName, bBold, bItalic, lX, lY, Pixels(dblWidth),
+                         Pixels(dblHeight), lForeColor);
 } catch (...) {
-    ErrTail("clsRenderDestination!", "MultiLineBox", saLines, iLineCount, sFontName, bBold, bItalic, dblX, dblY,
-            dblWidth, dblHeight, lForeColor, lBackColor);
+    ErrTail("clsRenderDestination!", "MultiLineBox", iItem, sFontName, bBold, bItalic, dblX, dblY, dblWidth, dblHeight,
+            lForeColor, lBackColor);
 }

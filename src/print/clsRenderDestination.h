@@ -42,9 +42,10 @@ public:
     /// "DOWN", "LEFT", "RIGHT" and "NONE" in any case.
     void Legend(float sngX, float sngY, const QString& sDirection, const QString& sText, Color lColor);
 
-    /// Lines centred and as large as they fit a filled box; nothing at all, not even the fill, without lines.
-    void MultiLineBox(const QStringList& saLines, int iLineCount, const QString& sFontName, bool bBold, bool bItalic,
-                      double dblX, double dblY, double dblWidth, double dblHeight, Color lForeColor, Color lBackColor);
+    /// The lines of title record iItem (0 to 16), centred and as large as they fit a filled box; nothing at
+    /// all, not even the fill, when it has none.
+    void MultiLineBox(int iItem, const QString& sFontName, bool bBold, bool bItalic, double dblX, double dblY,
+                      double dblWidth, double dblHeight, Color lForeColor, Color lBackColor);
 
     /// Lines centred and as large as they fit. The surface's own ForeColor is used; lColor isn't.
     void MultiLineTextAutofit(const QStringList& saLines, int iLineCount, const QString& sFontName, bool bBold,

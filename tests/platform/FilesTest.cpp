@@ -47,6 +47,6 @@ TEST_F(FilesTest, TheTrashIsTheUsersAndNeverTheCurrentFolder) {
     EXPECT_TRUE(Files::MoveToTrash(file, error)) << qPrintable(error);
     EXPECT_FALSE(Files::Exists(file));
     EXPECT_TRUE(Files::Exists(PathOf(QStringLiteral("not/yet/there/Trash/files/photo.bmp"))));
-    EXPECT_FALSE(Files::IsDirectory(QStringLiteral("files")));
+    EXPECT_FALSE(Files::Exists(QStringLiteral("files/photo.bmp")));
     qputenv("XDG_DATA_HOME", before);
 }

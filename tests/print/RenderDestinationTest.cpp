@@ -2,6 +2,7 @@
 #include "print/clsRenderDestination.h"
 
 #include "app/services/basErrLog.h"
+#include "board/basPositTables.h"
 #include "board/DrawDottedBox.h"
 #include "platform/Printer.h"
 #include "platform/ProgramSettings.h"
@@ -65,8 +66,20 @@ TEST_F(RenderDestinationTest, Edge_AWordWiderThanTheBlockIsSplitBetweenLetters) 
 }
 
 TEST_F(RenderDestinationTest, Edge_ABoxWithoutLinesDrawsNoBackgroundEither) {
-    destination.MultiLineBox({}, 0, sArial, false, false, 1, 1, 2, 2, Color::Black(), Color::Rgb(255, 0, 0));
+    basPosit::m_CenterText(6).iNLines = 0;
+    destination.MultiLineBox(6, sArial, false, false, 1, 1, 2, 2, Color::Black(), Color::Rgb(255, 0, 0));
     EXPECT_TRUE(Ink().isNull());
+}
+
+TEST_F(RenderDestinationTest, ABoxOfATitleRecordIsFilledAndHoldsItsLines) {
+    basPosit::CenterTextRecord& record = basPosit::m_CenterText(6);
+    record.sLine = {QStringLiteral("Our"), QStringLiteral("Town")};
+    record.iNLines = 2;
+    destination.MultiLineBox(6, sArial, true, false, 1, 1, 2, 1, Color::Black(), Color::Rgb(255, 255, 0));
+    EXPECT_EQ(form.hDC().GetPixel(97, 97), Color::Rgb(255, 255, 0));
+    EXPECT_TRUE(QRect(96, 96, 192, 96).contains(Ink()));
+    EXPECT_NEAR(Ink().center().x(), 192, 3);
+    basPosit::ResetTablesForTest();
 }
 
 TEST_F(RenderDestinationTest, Edge_ALegendWithoutAnArrowIsIndentedAllTheSame) {
