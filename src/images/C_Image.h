@@ -1,7 +1,53 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/Color.h"
+#include "platform/Picture.h"
+
 #include <QString>
+
+class C_Image;
+class PictureHolder;
+class Surface;
+enum class ScaleModeKind;
+
+/// Makes the thumbnail files of images. frmBMP does it, which stands above the image and is installed at
+/// start-up. Success is that the file exists afterwards; failures of the picture are told by the image.
+class ThumbnailMaker {
+public:
+    virtual ~ThumbnailMaker() = default;
+    virtual void CreateThumbRotatedTo90(C_Image& objImage) = 0;
+    virtual void CreateThumbRotatedTo45(C_Image& objImage) = 0;
+    virtual void CreateThumbElliptical(C_Image& objImage, bool bGray) = 0;
+    /// What the rotated thumbnail shows, lSide pixels square, without a file. Null where there is nothing.
+    virtual Picture RenderRotated(C_Image& objImage, int lSide) = 0;
+
+    /// Called when the first thumbnail is wanted.
+    using Creator = ThumbnailMaker& (*)();
+    /// Returns the creator that it replaces.
+    static Creator Install(Creator creator);
+};
+
+/// The square of a picture, in its own pixels, that a zoomed paint shows. It may reach beyond the picture.
+struct ZoomedSource {
+    int xSrc = 0;
+    int ySrc = 0;
+    int iSide = 0;
+
+    /// lW and lH are the picture's size in pixels; zoom step z shows a square of the longer side / 2^(z/10)
+    /// around the centre.
+    static ZoomedSource Of(int lW, int lH, int iZoom, double fXCenter, double fYCenter);
+};
+
+/// A picture's place in a box: as large as it fits, centred, uncropped.
+struct FittedBox {
+    double left = 0;
+    double top = 0;
+    double width = 0;
+    double height = 0;
+
+    static FittedBox Of(const Picture& picture, double xStart, double yStart, double xEnd, double yEnd);
+};
 
 /// A picture that the user chose for a space, a corner, a banknote or a token: where its file is, how that
 /// place is written into the game file, how it is zoomed and centred, and which thumbnail belongs to it.
@@ -66,8 +112,44 @@ public:
     /// Path of the thumbnail's file; empty for a free-standing image. Raises for an unknown kind.
     QString Thumbname() const;
 
+    // Painting. Boxes are in the surface's own units; what can't be painted is told once per path, and the
+    // area stays as it is.
+
+    /// The whole picture as large as it fits. The white of a one-bit drawing shows lBackColor, or with no
+    /// colour what is beneath.
+    void PaintPictureCentered(Surface& picDest, double xStart, double yStart, double xEnd, double yEnd,
+                              Color lBackColor);
+    /// The part that the user chose, stretched to the box. Centres a picture that has no centre yet.
+    /// ScaleMode says in which units picOriginal tells its size. True when it was painted.
+    bool PaintPictureZoomed(Surface& objDest, PictureHolder& picOriginal, ScaleModeKind ScaleMode, double xStart,
+                            double yStart, double xEnd, double yEnd, Color lBackColor);
+    /// Paints the thumbnail, made anew if need be, on the board; a finer rendering of the same where the
+    /// thumbnail would be enlarged. For spaces and corners; raises for tokens and money.
+    void DrawBitmapToScreen(Surface& picDest, double x, double y, double w, double h);
+    /// Path of an up-to-date thumbnail, made if need be; empty without a picture. bGrayOnly isn't looked at.
+    QString GetThumbnail(bool bGrayOnly);
+    /// Starts decoding on another processor where GetThumbnail would have to.
+    void PrepareThumbnail() const;
+
 private:
     bool HasKnownKind() const;
+    bool NeedsThumbnail() const;
+    /// In pixels.
+    int LongerThumbSide() const;
+    /// True for a corner whose picture belongs to the kit.
+    bool ShowsFate() const;
+    void PaintThumbnail(Surface& picDest, double xStart, double yStart, double xEnd, double yEnd);
+    bool PaintRendering(Surface& picDest, double xStart, double yStart, double xEnd, double yEnd);
+    static void TellMissing(const QString& sName);
+    static void TellLoadFailure(const QString& sName, const QString& sSystemText);
+    /// How large the longer side of the whole picture is drawn when the square shown fills a box of so many
+    /// pixels.
+    int LongerSideWanted(double boxPixels) const;
+    /// The picture; null, after one box per bad path, when there is none.
+    Picture LoadOrTell(int longerSideWanted);
+    bool ReloadOrTell(PictureHolder& picOriginal, int longerSideWanted) const;
+    void PaintPart(Surface& objDest, const Picture& picture, double xStart, double yStart, double xEnd, double yEnd,
+                   Color lBackColor) const;
     QString ReportText() const;
     void StoreCenter(qint16& iCenter, float fCenter);
     /// Deletes the thumbnail's file; a failure is told and passed over.
@@ -75,6 +157,8 @@ private:
 
     QString m_sFullPath;
     QString m_sBadPath;
+    /// The thumbnail last told to be bad: the picture itself may be good.
+    QString m_sBadThumb;
     qint16 m_iZoom = 0;
     qint16 m_fXCenter = 0;
     qint16 m_fYCenter = 0;

@@ -175,6 +175,15 @@ qint16 WriteColorTable(BinaryFile& file, const BitmapInfo& info, Color lColor) t
     ErrTail("basBMP!", "WriteColorTable", file, info, lColor);
 }
 
+void PackRow24(std::span<const QRgb> pixels, QByteArray& row) {
+    char* out = row.data();
+    for (const QRgb color : pixels) {
+        *out++ = char(qBlue(color));
+        *out++ = char(qGreen(color));
+        *out++ = char(qRed(color));
+    }
+}
+
 bool IsMonochromeBMP(const QString& sFile) try {
     if (!sFile.endsWith(QStringLiteral(".bmp"), Qt::CaseInsensitive)) return false;
     const Files::Stamp stamp = Files::StampOf(Files::InDiskSpelling(sFile));

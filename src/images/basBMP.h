@@ -3,9 +3,12 @@
 
 #include "platform/Color.h"
 
+#include <QByteArray>
+#include <QRgb>
 #include <QString>
 
 #include <array>
+#include <span>
 
 class BinaryFile;
 class DeviceContext;
@@ -75,6 +78,9 @@ qint16 WriteFileHead(BinaryFile& file, const FileHead& head);
 qint16 WriteInfoHead(BinaryFile& file, const BitmapInfo& info);
 /// lColor is ignored.
 qint16 WriteColorTable(BinaryFile& file, const BitmapInfo& info, Color lColor);
+
+/// Blue, green and red of each pixel, in a row whose padding stands already.
+void PackRow24(std::span<const QRgb> pixels, QByteArray& row);
 
 /// True for a .bmp file of one bit a pixel. A file that only claims to be a bitmap is told and taken off the
 /// disk; what else can't be read is told once for each state of the file.

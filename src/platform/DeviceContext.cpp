@@ -297,3 +297,18 @@ Color DeviceContext::GetPixel(int x, int y) const {
     const QPoint at(int(x * ratio), int(y * ratio));
     return m_image->valid(at) ? FromQRgb(m_image->pixel(at)) : Color::None();
 }
+
+bool DeviceContext::GetPixels(int x, int y, std::span<QRgb> row) {
+    if (!m_image) return false;
+    Flush();
+    const double ratio = m_image->devicePixelRatio();
+    std::fill(row.begin(), row.end(), qRgb(255, 255, 255));
+    const int line = int(std::floor(y * ratio));
+    if (line < 0 || line >= m_image->height()) return true;
+    const QRgb* pixels = reinterpret_cast<const QRgb*>(m_image->constScanLine(line));
+    for (size_t i = 0; i < row.size(); ++i) {
+        const int at = int(std::floor((x + int(i)) * ratio));
+        if (at >= 0 && at < m_image->width()) row[i] = pixels[at] | 0xFF000000U;
+    }
+    return true;
+}

@@ -147,6 +147,9 @@ public:
 
     /// Colour of a pixel; none outside the picture or where the device can't be read.
     Color GetPixel(int x, int y) const;
+    /// Colours of a row of pixels (units, where a unit has several), white outside the picture. False where
+    /// the device can't be read.
+    bool GetPixels(int x, int y, std::span<QRgb> row);
     void SetPixel(int x, int y, Color color) { FillRect(x, y, x + 1, y + 1, color); }
 
     /// The painter, open and without a clip of its own. For what this class has no word for.

@@ -8,6 +8,7 @@
 #include <QThreadPool>
 
 #include <algorithm>
+#include <deque>
 
 namespace {
 
@@ -39,13 +40,41 @@ PictureCache::Key KeyFor(const QString& sPath, int longerSideWanted) {
     return {sPath, Files::StampOf(Files::InDiskSpelling(sPath)), StepAbove(longerSideWanted)};
 }
 
+struct KeptRecording {
+    QString sPath;
+    Files::Stamp stamp;
+    std::shared_ptr<const Recording> recording;
+};
+
+// Those of the sheet at work and of the one before. Main thread only, as all drawing is.
+std::deque<KeptRecording>& KeptRecordings() {
+    static std::deque<KeptRecording> kept;
+    return kept;
+}
+
+void HandOnRecording(const QString& sPath, Picture& picture) {
+    for (const KeptRecording& kept : KeptRecordings()) {
+        if (kept.sPath == sPath && kept.stamp == Files::StampOf(sPath)) picture.SetRecording(kept.recording);
+    }
+}
+
 } // namespace
 
 Picture LoadPicture(const QString& sPath, QString& sError, int longerSideWanted) {
     const PictureCache::Key key = KeyFor(sPath, longerSideWanted);
     const PictureCache::Entry entry = PictureCache::Instance().Get(key, Decode);
     sError = entry.sError;
-    return entry.picture;
+    Picture picture = entry.picture;
+    if (!picture.IsNull()) HandOnRecording(sPath, picture);
+    return picture;
+}
+
+void KeepRecording(const QString& sPath, std::shared_ptr<const Recording> recording) {
+    constexpr size_t kMost = 80;
+    std::deque<KeptRecording>& all = KeptRecordings();
+    std::erase_if(all, [&sPath](const KeptRecording& kept) { return kept.sPath == sPath; });
+    if (all.size() >= kMost) all.pop_front();
+    all.push_back({sPath, Files::StampOf(sPath), std::move(recording)});
 }
 
 void PrefetchPicture(const QString& sPath, int longerSideWanted) {
@@ -59,4 +88,5 @@ void PrefetchPicture(const QString& sPath, int longerSideWanted) {
 void ForgetPictures() {
     QThreadPool::globalInstance()->waitForDone();
     PictureCache::Instance().Clear();
+    KeptRecordings().clear();
 }

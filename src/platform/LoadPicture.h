@@ -15,5 +15,9 @@ Picture LoadPicture(const QString& sPath, QString& sError, int longerSideWanted 
 /// the result. Nothing else happens: errors are told by LoadPicture.
 void PrefetchPicture(const QString& sPath, int longerSideWanted = kAllPixels);
 
+/// The file, just written, shows what was drawn here: as long as it isn't changed, LoadPicture hands the
+/// recording on with its pixels. The recordings kept last are bounded in number.
+void KeepRecording(const QString& sPath, std::shared_ptr<const Recording> recording);
+
 /// Waits for all prefetching and drops all kept pictures.
 void ForgetPictures();

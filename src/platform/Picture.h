@@ -4,6 +4,10 @@
 #include <QImage>
 #include <QRectF>
 
+#include <memory>
+
+class Recording;
+
 /// A caller's way of saying that every pixel is wanted.
 constexpr int kAllPixels = 0;
 
@@ -28,7 +32,12 @@ public:
         return {part.x() * across, part.y() * down, part.width() * across, part.height() * down};
     }
 
+    /// How the picture was drawn, where that is known; printing draws it again.
+    const std::shared_ptr<const ::Recording>& Recording() const { return m_recording; }
+    void SetRecording(std::shared_ptr<const ::Recording> recording) { m_recording = std::move(recording); }
+
 private:
     QImage m_image;
     QSize m_size;
+    std::shared_ptr<const ::Recording> m_recording;
 };

@@ -6,6 +6,7 @@
 #include "platform/PaintImage.h"
 #include "platform/Painting.h"
 #include "platform/Picture.h"
+#include "platform/Recording.h"
 
 namespace {
 
@@ -118,6 +119,11 @@ void Surface::Circle(double x, double y, double radius, Color color) {
 
 void Surface::PaintPicture(const Picture& picture, double x, double y, double width, double height,
                            RasterOp operation) {
+    if (IsPrinter() && picture.Recording() && operation == RasterOp::SourceCopy) {
+        const QRectF target(ToPixels(x), ToPixels(y), ToPixels(width), ToPixels(height));
+        picture.Recording()->Play(hDC().Painter(), target);
+        return;
+    }
     PaintPicture(picture, x, y, width, height, QRectF(0, 0, picture.Width(), picture.Height()), operation);
 }
 

@@ -1,0 +1,172 @@
+// SPDX-License-Identifier: MIT
+#include "images/frmBMP.h"
+
+#include "app/services/basErrLog.h"
+#include "app/services/basPath.h"
+#include "document/basTAVL.h"
+#include "images/basBMP.h"
+#include "images/clsBMP.h"
+#include "images/frmBMP_turning.h"
+#include "platform/BinaryFile.h"
+#include "platform/Files.h"
+#include "platform/Surface.h"
+
+#include <algorithm>
+#include <array>
+#include <span>
+
+namespace {
+
+constexpr int kFirstCornerOrient = 4;
+constexpr int kDotsPerMetre = 3780; // 96 an inch
+constexpr int kHeadSize = basBMP::FileHead::kSize + basBMP::InfoHead::kSize;
+
+// Three times the true size of the pixels. Kept on purpose: thumbnails have always claimed it, and their
+// readers go by the dimensions.
+quint32 ClaimedSize(int lWidth, int lHeight) {
+    constexpr int kTimes = 3;
+    return quint32(kTimes * basBMP::RowBytes24(lWidth) * lHeight);
+}
+
+std::span<const QRgb> RowOf(const QImage& image, int y) {
+    return {reinterpret_cast<const QRgb*>(image.constScanLine(y)), size_t(image.width())};
+}
+
+// A line drawing's paper takes the colour of the board.
+void ReplaceWhite(QImage& image, QRgb by) {
+    for (int y = 0; y < image.height(); ++y) {
+        QRgb* row = reinterpret_cast<QRgb*>(image.scanLine(y));
+        std::replace(row, row + image.width(), qRgb(255, 255, 255), by);
+    }
+}
+
+QRgb AsRgb(Color color) { return qRgb(color.Red(), color.Green(), color.Blue()); }
+
+} // namespace
+
+frmBMP& frmBMP::Instance() {
+    static frmBMP form;
+    return form;
+}
+
+void frmBMP::InstallAsThumbnailMaker() {
+    ThumbnailMaker::Install([]() -> ThumbnailMaker& { return Instance(); });
+}
+
+QImage frmBMP::Drawn(C_Image& oImage, QSize size, Color backColor) {
+    ScratchForm form(size);
+    form.SetBackColor(backColor);
+    oImage.PaintPictureZoomed(form, picOriginal, ScaleModeKind::Pixels, 0, 0, size.width(), size.height(),
+                              Color::None());
+    picOriginal.Picture = Picture();
+    return form.Image();
+}
+
+QImage frmBMP::DrawnSquare(C_Image& oImage, int lSide) {
+    QImage square = Drawn(oImage, QSize(lSide, lSide), basTAVL::g_lMagicColor());
+    if (basBMP::IsMonochromeBMP(oImage.FullPath())) ReplaceWhite(square, AsRgb(basTAVL::g_lMagicColor()));
+    return square;
+}
+
+QImage frmBMP::Rotated(C_Image& oImage, int lSide) {
+    const int orient = oImage.Orient();
+    const QImage square = DrawnSquare(oImage, lSide);
+    return orient < kFirstCornerOrient
+               ? Turning::ForSide(square, orient)
+               : Turning::ForCorner(square, orient - kFirstCornerOrient, basTAVL::g_lMagicColor());
+}
+
+void frmBMP::CreateThumbRotatedTo90(C_Image& oImage) try {
+    if (!basCommon::DoesFileExist(oImage.FullPath())) {
+        oImage.Let_BadPath(oImage.FullPath());
+        return;
+    }
+    const QImage square = DrawnSquare(oImage, kRotatedSide);
+    DeleteThumb(oImage.Thumbname());
+    WriteThumb(oImage.Thumbname(), Turning::ForSide(square, oImage.Orient()));
+} catch (...) {
+    ErrTail("frmBMP!", "CreateThumbRotatedTo90", oImage);
+}
+
+void frmBMP::CreateThumbRotatedTo45(C_Image& oImage) try {
+    if (!basCommon::DoesFileExist(oImage.FullPath())) {
+        oImage.Let_BadPath(oImage.FullPath());
+        return;
+    }
+    const QImage square = DrawnSquare(oImage, kRotatedSide);
+    DeleteThumb(oImage.Thumbname());
+    WriteThumb(oImage.Thumbname(),
+               Turning::ForCorner(square, oImage.Orient() - kFirstCornerOrient, basTAVL::g_lMagicColor()));
+} catch (...) {
+    ErrTail("frmBMP!", "CreateThumbRotatedTo45", oImage);
+}
+
+void frmBMP::CreateThumbElliptical(C_Image& oImage, bool bGray) try {
+    if (!basCommon::DoesFileExist(oImage.FullPath())) {
+        oImage.Let_BadPath(oImage.FullPath());
+        return;
+    }
+    const bool money = oImage.SpaceOrCorner == QStringLiteral("Money");
+    const Color back = money ? basTAVL::g_oMoney(oImage.Index).BackColor : basTAVL::g_lMagicColor();
+    const QImage drawn = Drawn(oImage, money ? kMoneySize : QSize(kTokenSide, kTokenSide), back);
+    DeleteThumb(oImage.Thumbname());
+    WriteThumb(oImage.Thumbname(), clsBMP::CutElliptical(drawn, bGray));
+} catch (...) {
+    ErrTail("frmBMP!", "CreateThumbElliptical", bGray);
+}
+
+Picture frmBMP::RenderRotated(C_Image& oImage, int lSide) try {
+    return basCommon::DoesFileExist(oImage.FullPath()) ? Picture(Rotated(oImage, lSide)) : Picture();
+} catch (...) {
+    ErrTail("frmBMP!", "RenderRotated", oImage, lSide);
+}
+
+void frmBMP::DeleteThumb(const QString& sThumb) {
+    QString error;
+    if (!Files::Remove(sThumb, error)) ErrRaise(ErrNumber::kFileAccess, error);
+}
+
+void frmBMP::WriteFileHead(BinaryFile& file, int lWidth, int lHeight) {
+    basBMP::FileHead head;
+    head.bfType = basBMP::FileHead::kType;
+    head.bfSize = kHeadSize + ClaimedSize(lWidth, lHeight);
+    head.bfOffBits = kHeadSize;
+    basBMP::WriteFileHead(file, head);
+}
+
+void frmBMP::WriteInfoHead(BinaryFile& file, int lWidth, int lHeight) {
+    basBMP::BitmapInfo info;
+    info.bmiHeader.biSize = basBMP::InfoHead::kSize;
+    info.bmiHeader.biWidth = lWidth;
+    info.bmiHeader.biHeight = lHeight;
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 24;
+    info.bmiHeader.biSizeImage = ClaimedSize(lWidth, lHeight);
+    info.bmiHeader.biXPelsPerMeter = kDotsPerMetre;
+    info.bmiHeader.biYPelsPerMeter = kDotsPerMetre;
+    basBMP::WriteInfoHead(file, info);
+}
+
+// Not through a file beside it and a rename: it can be made anew at any time, and a whole board of them
+// shall not wait for the disk.
+void frmBMP::WriteThumb(const QString& sThumb, const QImage& image) {
+    BinaryFile file;
+    QString error;
+    if (!file.OpenEmpty(sThumb, error)) ErrRaise(ErrNumber::kFileAccess, error);
+    WriteFileHead(file, image.width(), image.height());
+    WriteInfoHead(file, image.width(), image.height());
+    QByteArray row(basBMP::RowBytes24(image.width()), '\0');
+    for (int y = image.height() - 1; y >= 0; --y) {
+        basBMP::PackRow24(RowOf(image, y), row);
+        file.PutBytes(row);
+    }
+    if (!file.WasWritten(error)) ErrRaise(ErrNumber::kFileAccess, error);
+}
+
+void frmBMP::GetSpaceFromArrayCoordinates(int iBlock, int iRow, int iCol, int& iSpace) {
+    // The corners' neighbours 3 and 10 of each half have stickers of their own.
+    constexpr std::array<std::array<int, 6>, 2> kSpaces{{{13, 12, 11, 9, 8, 7}, {6, 5, 4, 2, 1, 0}}};
+    constexpr int kSecondHalf = 14;
+    iSpace = iCol >= 0 && iCol < 6 ? kSpaces[iRow == 0 ? 0 : 1][size_t(iCol)] : 0;
+    if (iBlock > 0) iSpace += kSecondHalf;
+}
