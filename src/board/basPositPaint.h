@@ -3,6 +3,7 @@
 
 #include <QString>
 
+class QRect;
 class Surface;
 
 /// Painting of the board on the drawing layer's current context, in the view that basPosit holds. Everything
@@ -24,6 +25,9 @@ void PosDrawAll();
 
 /// The panel in the middle: title box, card decks, money, tokens, and the game's titles.
 void Pos_DrawCenter();
+
+/// The small game board that is drawn round the title, in a rectangle of device units and whatever the view.
+void DrawTitleDecoration(const QRect& box);
 
 // With the pen and brush that are selected.
 void DrawCorners();

@@ -7,6 +7,8 @@
 #include "document/basTAVL.h"
 #include "platform/Numbers.h"
 
+#include <QRect>
+
 using namespace basDraw;
 
 namespace basPosit {
@@ -46,7 +48,7 @@ constexpr int kTitles = 3;
 
 // Edges of the title box, its two strips (T and B) and its two columns (L and R).
 struct TitleGrid {
-    BoardRect box = m_CenterRect(kTitleBox);
+    BoardRect box;
     float W = box.Width();
     float H = box.Height();
     float T1 = box.y1 + kStripInner * H;
@@ -136,6 +138,35 @@ void DrawGridLines(const TitleGrid& grid) {
     DrawBoardLine(grid.R0, box.y1, grid.R0, box.y2);
 }
 
+void DrawDecoration(const BoardRect& box) {
+    const TitleGrid grid{box};
+    DrawStripCells(grid);
+    DrawColumnCells(grid);
+    DrawGridLines(grid);
+}
+
+// A view in which the board is one device unit wide, so that places given in device units stay as they are.
+class UnitView {
+public:
+    UnitView() {
+        PosSetScale(1);
+        PosSetOffsetX(0);
+        PosSetOffsetY(0);
+    }
+    ~UnitView() {
+        PosSetScale(m_fScale);
+        PosSetOffsetX(m_lOffsetX);
+        PosSetOffsetY(m_lOffsetY);
+    }
+    UnitView(const UnitView&) = delete;
+    UnitView& operator=(const UnitView&) = delete;
+
+private:
+    float m_fScale = GetScale();
+    int m_lOffsetX = GetOffsetX();
+    int m_lOffsetY = GetOffsetY();
+};
+
 void DrawTitles() {
     for (int i = 0; i < kTitles; ++i) {
         const CenterTextRecord& text = m_CenterText(i);
@@ -152,13 +183,18 @@ void Pos_DrawCenter() try {
     Draw_SetPen(PenStyle::Solid, CLng(PosLength(kBoardPen)), Color::Black());
     DrawBoxes();
     DrawLabels();
-    const TitleGrid grid;
-    DrawStripCells(grid);
-    DrawColumnCells(grid);
-    DrawGridLines(grid);
+    DrawDecoration(m_CenterRect(kTitleBox));
     DrawTitles();
 } catch (...) {
     ErrTail("basPosit!", "Pos_DrawCenter");
+}
+
+void DrawTitleDecoration(const QRect& box) try {
+    const UnitView inDeviceUnits;
+    DrawDecoration(
+        {float(box.left()), float(box.top()), float(box.left() + box.width()), float(box.top() + box.height())});
+} catch (...) {
+    ErrTail("basPosit!", "DrawTitleDecoration");
 }
 
 } // namespace basPosit
