@@ -4,8 +4,10 @@
 #include <QFontMetricsF>
 #include <QHash>
 #include <QPainter>
+#include <QPainterPath>
 
 #include <array>
+#include <cmath>
 #include <memory>
 
 namespace {
@@ -38,6 +40,15 @@ QFont LargeFont(const QString& sFamily, bool bBold, bool bItalic) {
     return font;
 }
 
+// Letters much wider than high, or the other way round, make the toolkit's glyph pictures so large that it
+// fails; drawn as outlines they are safe.
+bool IsDistorted(const QTransform& transform) {
+    constexpr double kMostStretch = 6;
+    const double across = std::hypot(transform.m11(), transform.m12());
+    const double down = std::hypot(transform.m21(), transform.m22());
+    return across > down * kMostStretch || down > across * kMostStretch;
+}
+
 } // namespace
 
 const FontFace& FontFace::Get(const QString& sFamily, bool bBold, bool bItalic) {
@@ -61,6 +72,16 @@ double FontFace::Advance(const QString& sText) const { return QFontMetricsF(m_fo
 
 void FontFace::Draw(QPainter& painter, const QString& sText, bool bUnderline) const {
     QFont font = m_font;
+    if (IsDistorted(painter.deviceTransform())) {
+        QPainterPath outline;
+        outline.addText(0, 0, font, sText);
+        if (bUnderline) {
+            const QFontMetricsF metrics(font);
+            outline.addRect(0, metrics.underlinePos(), Advance(sText), metrics.lineWidth());
+        }
+        painter.fillPath(outline, painter.pen().color());
+        return;
+    }
     font.setUnderline(bUnderline);
     painter.setFont(font);
     painter.drawText(QPointF(0, 0), sText);

@@ -67,16 +67,17 @@ struct Playing {
     QByteArrayView orders;
     bool smooth;
     double dotsPerInch;
+    qint64 budget = MetafileBudget::kWhole;
 
     void Into(QImage& picture, const QRectF& viewport) const {
-        MetafileBudget budget;
-        MetafileCanvas canvas(picture, dotsPerInch, budget);
+        MetafileBudget units(budget);
+        MetafileCanvas canvas(picture, dotsPerInch, units);
         canvas.SetSmooth(smooth);
         MetafilePlayer(canvas, viewport).Play(orders);
     }
     void Onto(QPainter& painter, const QRectF& target) const {
-        MetafileBudget budget;
-        MetafileCanvas canvas(painter, target, dotsPerInch, budget);
+        MetafileBudget units(budget);
+        MetafileCanvas canvas(painter, target, dotsPerInch, units);
         canvas.SetSmooth(smooth);
         MetafilePlayer(canvas, target).Play(orders);
     }
@@ -95,7 +96,7 @@ void PlayThroughPicture(const Playing& playing, QPainter& painter, const QRectF&
     const QSize size = (target.size() * scale).toSize().expandedTo(QSize(1, 1));
     QImage onWhite = Ground(size, Qt::white);
     QImage onBlack = Ground(size, Qt::black);
-    const Playing scaled{playing.orders, playing.smooth, playing.dotsPerInch * scale};
+    const Playing scaled{playing.orders, playing.smooth, playing.dotsPerInch * scale, playing.budget / 2};
     scaled.Into(onWhite, onWhite.rect());
     scaled.Into(onBlack, onBlack.rect());
     painter.drawImage(target, Unground(onWhite, onBlack));

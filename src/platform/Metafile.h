@@ -29,5 +29,5 @@ public:
 
 private:
     QByteArray m_orders; ///< From the first record on.
-    QSize m_placeableSize;
+    QSize m_placeableSize{0, 0};
 };

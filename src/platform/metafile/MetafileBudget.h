@@ -3,18 +3,21 @@
 
 #include <QtGlobal>
 
-/// Work that one playing may still do, in units of about a nanosecond. What is asked for beyond it isn't
-/// done, and playing ends there: no file, however made, keeps the program busy.
+/// Work that one playing may still do, in units of about a nanosecond. What costs more than is left isn't done,
+/// so no file, however made, keeps the program busy.
 class MetafileBudget {
 public:
     static constexpr qint64 kWhole = 400'000'000;
 
     explicit MetafileBudget(qint64 units = kWhole) : m_left(units) {}
+    /// False, and nothing taken, for more than is left.
     bool Spend(qint64 units) {
-        m_left -= qBound<qint64>(0, units, kWhole + 1);
-        return m_left >= 0;
+        if (units > m_left) return false;
+        m_left -= units;
+        return true;
     }
-    bool IsSpent() const { return m_left < 0; }
+    /// For what has to be done to go on at all: ends playing where it costs more than is left.
+    void Require(qint64 units) { m_left = units > m_left ? 0 : m_left - units; }
 
 private:
     qint64 m_left;

@@ -34,7 +34,6 @@ quint8 MetafileRop::FromBinary(int rop2) {
     return quint8(code);
 }
 
-bool MetafileRop::UsesTarget(quint8 code) { return ((code ^ code >> 1) & 0x55) != 0; }
 bool MetafileRop::UsesSource(quint8 code) { return ((code ^ code >> 2) & 0x33) != 0; }
 bool MetafileRop::UsesPattern(quint8 code) { return ((code ^ code >> 4) & 0x0F) != 0; }
 

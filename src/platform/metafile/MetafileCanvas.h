@@ -71,16 +71,21 @@ private:
     bool m_smooth = true;
 };
 
-/// Which operations need what was painted before.
+/// Binary operations by number, ternary ones by code, and what they ask for.
 namespace MetafileRop {
 constexpr int kBlack = 1;
 constexpr int kNotCopyPen = 4;
 constexpr int kNop = 11;
 constexpr int kCopyPen = 13;
 constexpr int kWhite = 16;
+constexpr quint8 kBlackness = 0x00;
+constexpr quint8 kInvertedSource = 0x33;
+constexpr quint8 kInvertedTarget = 0x55;
+constexpr quint8 kSource = 0xCC;
+constexpr quint8 kPattern = 0xF0;
+constexpr quint8 kWhiteness = 0xFF;
 /// The ternary code of a binary operation with the pattern as its pen.
 quint8 FromBinary(int rop2);
-bool UsesTarget(quint8 code);
 bool UsesSource(quint8 code);
 bool UsesPattern(quint8 code);
 } // namespace MetafileRop

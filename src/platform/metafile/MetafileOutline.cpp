@@ -32,13 +32,24 @@ std::array<Side, 4> SidesOf(const QRectF& area) {
             Side{true, area.bottom(), -1}};
 }
 
+// A run to and fro along the border is one edge.
+void AppendOnBorder(QPolygonF& polygon, QPointF point, const Side& side) {
+    const qsizetype size = polygon.size();
+    const auto isOnBorder = [&](QPointF each) { return side.Coordinate(each) == side.limit; };
+    if (size >= 2 && isOnBorder(point) && isOnBorder(polygon[size - 1]) && isOnBorder(polygon[size - 2])) {
+        polygon.last() = point;
+    } else {
+        polygon.append(point);
+    }
+}
+
 QPolygonF CutPolygon(const QPolygonF& polygon, const Side& side) {
     QPolygonF cut;
     for (qsizetype i = 0; i < polygon.size(); ++i) {
         const QPointF from = polygon[i];
         const QPointF to = polygon[i + 1 < polygon.size() ? i + 1 : 0];
-        if (side.Holds(from)) cut.append(from);
-        if (side.Holds(from) != side.Holds(to)) cut.append(side.Crossing(from, to));
+        if (side.Holds(from)) AppendOnBorder(cut, from, side);
+        if (side.Holds(from) != side.Holds(to)) AppendOnBorder(cut, side.Crossing(from, to), side);
     }
     return cut;
 }
@@ -83,7 +94,7 @@ QPainterPath MetafileOutline::CutLines(const QPainterPath& path, const QRectF& a
     return result;
 }
 
-bool MetafileOutline::IsMostlySlanted(const QPainterPath& path) {
+double MetafileOutline::SlantedShare(const QPainterPath& path) {
     double straight = 0;
     double slanted = 0;
     for (int i = 1; i < path.elementCount(); ++i) {
@@ -93,7 +104,7 @@ bool MetafileOutline::IsMostlySlanted(const QPainterPath& path) {
         const bool axial = to.isLineTo() && (step.x() == 0 || step.y() == 0);
         (axial ? straight : slanted) += qAbs(step.x()) + qAbs(step.y());
     }
-    return slanted > straight;
+    return slanted > 0 ? slanted / (slanted + straight) : 0;
 }
 
 void MetafileOutline::AddDot(QPainterPath& path, QPointF at, int penWidth) {

@@ -12,8 +12,8 @@ namespace MetafileOutline {
 QPainterPath CutAreas(const QPainterPath& path, const QRectF& area);
 /// The lines of a path cut to a rectangle, in pieces where they were outside in between.
 QPainterPath CutLines(const QPainterPath& path, const QRectF& area);
-/// True when more of the path runs aslant, or in curves, than along x or y.
-bool IsMostlySlanted(const QPainterPath& path);
+/// How much of a path runs aslant or in curves, not along x or y: 0 to 1.
+double SlantedShare(const QPainterPath& path);
 /// A line without length: a round dot with a wide pen, nothing with a thin one.
 void AddDot(QPainterPath& path, QPointF at, int penWidth);
 

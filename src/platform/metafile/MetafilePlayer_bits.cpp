@@ -4,11 +4,6 @@
 
 namespace {
 
-constexpr quint8 kBlackness = 0x00;
-constexpr quint8 kInvertedSource = 0x33;
-constexpr quint8 kSource = 0xCC;
-constexpr quint8 kPattern = 0xF0;
-constexpr quint8 kWhiteness = 0xFF;
 constexpr int kKeepBlack = 1;
 constexpr int kKeepWhite = 2;
 constexpr int kHalftone = 4;
@@ -69,7 +64,10 @@ QImage MetafilePlayer::SourceOf(const MetafileBlit& blit) {
         case MetafileBlit::Bits::None:
             break;
     }
-    return {};
+    // What was painted so far, one pixel of it for each pixel of the source's place.
+    const QPoint size(blit.sourceSize.width(), blit.sourceSize.height());
+    const QRect place = ToDevice(MetafileBox{blit.source, blit.source + size}).Rect() & m_canvas.Bounds();
+    return place.isEmpty() ? QImage() : m_canvas.Snapshot(place);
 }
 
 void MetafilePlayer::DrawBlit(const MetafileBlit& blit) {
@@ -77,9 +75,10 @@ void MetafilePlayer::DrawBlit(const MetafileBlit& blit) {
     const QRect seen = area & m_canvas.Bounds();
     const quint8 code = blit.Code();
     if (seen.isEmpty()) return;
-    if (code == kBlackness || code == kWhiteness || code == kPattern) {
-        const QBrush brush =
-            code == kPattern ? MakeBrush(*m_state.brush) : QBrush(code == kBlackness ? Qt::black : Qt::white);
+    if (code == MetafileRop::kBlackness || code == MetafileRop::kWhiteness || code == MetafileRop::kPattern) {
+        const QBrush brush = code == MetafileRop::kPattern
+                                 ? MakeBrush(*m_state.brush)
+                                 : QBrush(code == MetafileRop::kBlackness ? Qt::black : Qt::white);
         m_canvas.Draw(seen, MetafileRop::kCopyPen, [&](QPainter& painter) { painter.fillRect(seen, brush); });
         return;
     }
@@ -89,8 +88,8 @@ void MetafilePlayer::DrawBlit(const MetafileBlit& blit) {
         if (source.isNull()) return;
         if (!m_canvas.Budget().Spend(qint64(source.width()) * source.height() * kUnitsPerSourcePixel)) return;
     }
-    if (code == kSource || code == kInvertedSource) {
-        if (code == kInvertedSource) source.invertPixels();
+    if (code == MetafileRop::kSource || code == MetafileRop::kInvertedSource) {
+        if (code == MetafileRop::kInvertedSource) source.invertPixels();
         m_canvas.Draw(seen, MetafileRop::kCopyPen, [&](QPainter& painter) { PaintBits(painter, blit, area, source); });
         return;
     }
@@ -117,6 +116,10 @@ void MetafilePlayer::DrawBlit(const MetafileBlit& blit) {
 
 void MetafilePlayer::PaintBits(QPainter& painter, const MetafileBlit& blit, const QRect& area,
                                const QImage& image) const {
+    if (blit.kind == MetafileBlit::Bits::None) {
+        painter.drawImage(area, image);
+        return;
+    }
     QRect source(CornerOf(blit.source.x(), blit.sourceSize.width()),
                  CornerOf(blit.source.y(), blit.sourceSize.height()), qAbs(blit.sourceSize.width()),
                  qAbs(blit.sourceSize.height()));

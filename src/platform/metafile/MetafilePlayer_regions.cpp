@@ -5,7 +5,6 @@ namespace {
 
 constexpr int kMostClipRects = 2'000;
 constexpr qint64 kUnitsPerClipRect = 200;
-constexpr quint8 kInvertTarget = 0x55;
 
 } // namespace
 
@@ -30,7 +29,7 @@ bool MetafilePlayer::ObeyRegions(const MetafileRecord& record) {
         case MetafileOrder::InvertRegion:
             if (const auto region = RegionAt(reader.U16())) {
                 for (const QRect& part : ToDevice(*region))
-                    m_canvas.Combine(part, kInvertTarget, {}, {});
+                    m_canvas.Combine(part, MetafileRop::kInvertedTarget, {}, {});
             }
             return true;
         case MetafileOrder::FillRegion: {
@@ -75,7 +74,7 @@ QRegion MetafilePlayer::ToDevice(const MetafileRegion& region) {
 }
 
 void MetafilePlayer::SetClip(std::optional<QRegion> clip) {
-    m_canvas.Budget().Spend((10 + (clip ? clip->rectCount() : 0)) * kUnitsPerClipRect);
+    m_canvas.Budget().Require((10 + (clip ? clip->rectCount() : 0)) * kUnitsPerClipRect);
     m_state.clip = std::move(clip);
     m_canvas.SetClip(m_state.clip);
 }
@@ -111,8 +110,8 @@ void MetafilePlayer::FrameRegion(const MetafileRegion& region, const MetafileBru
     const int x = qMax(1, qRound(m_state.mapping.Length(thickness.x())));
     const int y = qMax(1, qRound(qAbs(thickness.y() * m_state.mapping.ScaleY())));
     const QRegion whole = ToDevice(region);
+    if (!m_canvas.Budget().Spend(whole.rectCount() * 10 * kUnitsPerClipRect)) return;
     const QRegion inside =
         whole.translated(x, 0) & whole.translated(-x, 0) & whole.translated(0, y) & whole.translated(0, -y);
-    m_canvas.Budget().Spend(whole.rectCount() * 10 * kUnitsPerClipRect);
     FillRegion(whole - inside, brush);
 }

@@ -13,6 +13,7 @@ constexpr qint64 kUnitsPerEdge = 200;
 constexpr qint64 kUnitsPerEdgePixel = 25;
 constexpr qint64 kUnitsPerPennedEdge = 1'500;
 constexpr qint64 kUnitsPerPennedPixel = 50;
+constexpr qint64 kUnitsPerRoundJoin = 6'000;
 // Room around the picture in which outlines are still followed, so that cuts are never seen.
 constexpr double kRoom = 64;
 // Slanted and curved edges were drawn pixel by pixel and came out a little beside their true place, as found
@@ -108,6 +109,7 @@ bool MetafilePlayer::MayDrawPath(const QPainterPath& path) {
     }
     qint64 units = path.elementCount() * kUnitsPerEdge + qint64(length * kUnitsPerEdgePixel);
     if (HasPen()) units += path.elementCount() * kUnitsPerPennedEdge + qint64(length * kUnitsPerPennedPixel);
+    if (HasPen() && PenWidth() > 1) units += path.elementCount() * kUnitsPerRoundJoin;
     return m_canvas.Budget().Spend(units);
 }
 
@@ -115,7 +117,10 @@ void MetafilePlayer::DrawPath(const QPainterPath& path, Filling filling) {
     const bool fills = filling != Filling::No && m_state.brush->kind != MetafileBrush::Kind::Hollow;
     if (!fills && !HasPen()) return;
     const QRectF area = ReachableArea();
-    const bool slanted = MetafileOutline::IsMostlySlanted(path);
+    const double slantedShare = MetafileOutline::SlantedShare(path);
+    const bool slanted = slantedShare > 0.5;
+    // The painter's half tones would make the corners of thin frames grey.
+    const bool sharp = slantedShare == 0 && filling != Filling::No && (!HasPen() || PenWidth() <= 2);
     QPainterPath reachable = path;
     if (slanted) reachable.translate(SlantOffset());
     if (!area.contains(path.controlPointRect())) {
@@ -126,8 +131,12 @@ void MetafilePlayer::DrawPath(const QPainterPath& path, Filling filling) {
     reachable.setFillRule(filling == Filling::Winding ? Qt::WindingFill : Qt::OddEvenFill);
     const double margin = HasPen() ? PenWidth() + 1 : 1;
     const QRectF touched = reachable.controlPointRect().adjusted(-margin, -margin, margin, margin);
-    m_canvas.Draw(touched.toAlignedRect(), m_state.rop2,
-                  [&](QPainter& painter) { PaintPath(painter, reachable, fills, slanted); });
+    m_canvas.Draw(touched.toAlignedRect(), m_state.rop2, [&](QPainter& painter) {
+        const bool smooth = painter.testRenderHint(QPainter::Antialiasing);
+        painter.setRenderHint(QPainter::Antialiasing, smooth && !sharp);
+        PaintPath(painter, reachable, fills, slanted);
+        painter.setRenderHint(QPainter::Antialiasing, smooth);
+    });
 }
 
 void MetafilePlayer::PaintPath(QPainter& painter, const QPainterPath& path, bool fills, bool slanted) const {

@@ -19,7 +19,7 @@ constexpr int kBaseline = 24;
 constexpr int kBoldFrom = 600;
 // Letters higher than this are only seen as a blot, if at all.
 constexpr int kLargestFont = 20'000;
-constexpr qint64 kUnitsPerText = 10'000;
+constexpr qint64 kUnitsPerText = 20'000;
 constexpr qint64 kUnitsPerCharacter = 15'000;
 // Where a line through the letters runs, in parts of the em.
 constexpr double kStrikeHeight = 0.26;

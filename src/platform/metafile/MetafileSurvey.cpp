@@ -7,13 +7,20 @@
 
 namespace {
 
-// The operations that need neither old pixels nor two pictures at once are painted on any destination.
+// The operations that are painted on any destination. All others, and a source that is what was painted
+// before, need pixels that can be read.
 bool IsPlainBlit(const MetafileBlit& blit) {
-    const quint8 code = blit.Code();
-    if (MetafileRop::UsesTarget(code)) return false;
-    if (!MetafileRop::UsesSource(code)) return true;
-    // Without a picture the source is what was painted before.
-    return blit.kind != MetafileBlit::Bits::None && !MetafileRop::UsesPattern(code);
+    switch (blit.Code()) {
+        case MetafileRop::kBlackness:
+        case MetafileRop::kPattern:
+        case MetafileRop::kWhiteness:
+            return true;
+        case MetafileRop::kSource:
+        case MetafileRop::kInvertedSource:
+            return blit.kind != MetafileBlit::Bits::None;
+        default:
+            return false;
+    }
 }
 
 bool DrawsWithPen(MetafileOrder order) {

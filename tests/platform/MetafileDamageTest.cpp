@@ -1,0 +1,228 @@
+// SPDX-License-Identifier: MIT
+#include "support/MetafilePlaying.h"
+
+#include <QElapsedTimer>
+#include <QRandomGenerator>
+
+#include <functional>
+
+namespace {
+
+constexpr int kMegabyte = 1 << 20;
+constexpr int kMostMilliseconds = 1000;
+
+// Repeats what the function adds until the file is a megabyte long.
+QByteArray Megabyte(const std::function<void(MetafileBuilder&)>& add,
+                    const std::function<void(MetafileBuilder&)>& start = {}) {
+    MetafileBuilder once;
+    add(once);
+    const qsizetype size = once.Plain().size() - MetafileBuilder().Plain().size();
+    MetafileBuilder builder(1000, 1000);
+    if (start) start(builder);
+    for (qsizetype bytes = 0; bytes + size < kMegabyte; bytes += size)
+        add(builder);
+    return builder.Plain();
+}
+
+QList<QPoint> RandomPoints(int count, quint32 seed, int range) {
+    QRandomGenerator random(seed);
+    QList<QPoint> points;
+    for (int i = 0; i < count; ++i)
+        points.append({random.bounded(-range, range), random.bounded(-range, range)});
+    return points;
+}
+
+} // namespace
+
+class MetafileDamageTest : public MetafileTest {
+protected:
+    /// Milliseconds that playing takes on a picture of the given side.
+    static qint64 PlayingTime(const QByteArray& bytes, int side) {
+        QElapsedTimer timer;
+        timer.start();
+        Played(bytes, side, side);
+        return timer.elapsed();
+    }
+};
+
+TEST_F(MetafileDamageTest, WhatIsNoMetafileIsRefusedWithASentence) {
+    for (const QByteArray& bytes :
+         {QByteArray(), QByteArray("BM"), QByteArray(17, 'x'), QByteArray(400, 'x'), QByteArray::fromHex("d7cdc69a")}) {
+        QString error;
+        EXPECT_FALSE(Metafile::FromBytes(bytes, error));
+        EXPECT_TRUE(error.endsWith(u'.')) << error.toStdString();
+    }
+}
+
+TEST_F(MetafileDamageTest, AFileWithoutAnyOrderFailsToPlay) {
+    QString error;
+    const auto metafile = Metafile::FromBytes(MetafileBuilder().Plain(), error);
+    ASSERT_TRUE(metafile);
+    QImage picture(10, 10, QImage::Format_RGB32);
+    QPainter painter(&picture);
+    EXPECT_FALSE(metafile->Play(painter, QRectF(0, 0, 10, 10)));
+}
+
+TEST_F(MetafileDamageTest, AFileCutShortShowsWhatCameBefore) {
+    MetafileBuilder builder(100, 100);
+    builder.NullPen().Brush(Blue()).Polygon({{0, 0}, {100, 0}, {100, 100}, {0, 100}}).Font(20).Text(5, 5, "text");
+    const QByteArray whole = builder.Plain();
+    EXPECT_EQ(Count(Played(whole.chopped(40), 20, 20), kBlue), 400);
+    for (qsizetype size = 18; size < whole.size(); ++size) {
+        QString error;
+        const auto metafile = Metafile::FromBytes(whole.first(size), error);
+        ASSERT_TRUE(metafile);
+        QImage picture(20, 20, QImage::Format_RGB32);
+        QPainter painter(&picture);
+        metafile->Play(painter, QRectF(0, 0, 20, 20));
+    }
+}
+
+TEST_F(MetafileDamageTest, ARecordThatDoesNotGetOnEndsPlaying) {
+    for (const quint32 words : {0u, 1u, 2u}) {
+        MetafileBuilder builder(100, 100);
+        builder.NullPen().Brush(Blue()).Rectangle(0, 0, 60, 60).AddRaw(words, 0x41B, {}).Brush(Red());
+        builder.Rectangle(0, 0, 101, 101);
+        EXPECT_EQ(Count(Played(builder.Plain(), 100, 100), kRed), 0);
+        EXPECT_GT(Count(Played(builder.Plain(), 100, 100), kBlue), 3000);
+    }
+}
+
+TEST_F(MetafileDamageTest, ARecordLargerThanTheFileIsReadAsFarAsItGoes) {
+    MetafileBuilder builder(100, 100);
+    builder.NullPen().Brush(Blue()).AddRaw(0xFFFFFFFF, 0x41B, MetafileBuilder::WordBytes({101, 101, 0, 0}));
+    EXPECT_EQ(Count(Played(builder.Plain(), 20, 20), kBlue), 19 * 19);
+}
+
+TEST_F(MetafileDamageTest, RecordsThatAreTooShortAreSafe) {
+    for (int order = 0; order < 0x10000; ++order) {
+        if ((order & 0xFF) > 0x49 && (order & 0xFF) < 0xF7) continue;
+        MetafileBuilder builder(10, 10);
+        builder.AddRaw(3, quint16(order), {}).AddRaw(4, quint16(order), "\xFF\xFF");
+        builder.AddRaw(6, quint16(order), "\xFF\xFF\xFF\x7F\x00\x80");
+        QString error;
+        QImage picture(10, 10, QImage::Format_RGB32);
+        QPainter painter(&picture);
+        Metafile::FromBytes(builder.Plain(), error)->Play(painter, QRectF(0, 0, 10, 10));
+    }
+}
+
+TEST_F(MetafileDamageTest, FalseCountsOfPointsAreBounded) {
+    MetafileBuilder builder(100, 100);
+    builder.Add(MetafileOrder::Polygon, {0xFFFF, 0, 0, 100, 0, 100, 100, 0, 100});
+    builder.Add(MetafileOrder::PolyPolygon, {0xFFFF, 5, 5, 5});
+    builder.Add(MetafileOrder::PolyPolygon, {2, 0xFFFF, 0xFFFF, 1, 2, 3, 4});
+    builder.Add(MetafileOrder::ExtTextOut, {0, 0, 0x7FFF, 0}, "short");
+    builder.Add(MetafileOrder::CreateRegion, {0, 6, 0, 0, 0, 0x7FFF, 0, 0, 0, 0, 0, 0x7FFF, 0, 0});
+    builder.Add(MetafileOrder::CreatePalette, {0x300, 0x7FFF, 1, 2});
+    Played(builder.Plain(), 100, 100);
+}
+
+TEST_F(MetafileDamageTest, AWindowWithoutSizeIsPassedOver) {
+    MetafileBuilder builder(100, 100);
+    builder.Add(MetafileOrder::SetWindowExt, {0, 0}).Add(MetafileOrder::SetViewportExt, {0, 0});
+    builder.Add(MetafileOrder::ScaleWindowExt, {0, 0, 0, 0}).Add(MetafileOrder::ScaleViewportExt, {0, 1, 0, 1});
+    builder.NullPen().Brush(Blue()).Polygon({{0, 0}, {100, 0}, {100, 100}, {0, 100}});
+    EXPECT_EQ(Count(Played(builder.Plain(), 20, 20), kBlue), 400);
+}
+
+TEST_F(MetafileDamageTest, ExtremeCoordinatesAreDrawnWhereTheyAreSeen) {
+    MetafileBuilder builder;
+    builder.Add(MetafileOrder::SetWindowExt, {1, 1}).NullPen().Brush(Blue());
+    builder.Polygon({{-32768, -32768}, {32767, -32768}, {32767, 32767}, {-32768, 32767}});
+    EXPECT_EQ(Count(Played(builder.Plain(), 200, 200), kBlue), 200 * 200);
+}
+
+TEST_F(MetafileDamageTest, AMegabyteOfHugePolygonsPlaysWithinASecond) {
+    for (const int range : {1000, 32767}) {
+        const QByteArray bytes =
+            Megabyte([&](MetafileBuilder& builder) { builder.Polygon(RandomPoints(30'000, 7, range)); },
+                     [](MetafileBuilder& builder) { builder.Pen(0, 40, Color::Black()); });
+        EXPECT_LT(PlayingTime(bytes, 256), kMostMilliseconds) << range;
+        EXPECT_LT(PlayingTime(bytes, 1500), kMostMilliseconds) << range;
+    }
+}
+
+TEST_F(MetafileDamageTest, AMegabyteOfLinesPlaysWithinASecond) {
+    for (const int style : {0, 1, 2}) {
+        for (const int width : {1, 30}) {
+            const QByteArray bytes =
+                Megabyte([](MetafileBuilder& builder) { builder.Line(-30000, -30000, 30000, 31000); },
+                         [&](MetafileBuilder& builder) { builder.Pen(style, width, Color::Black()); });
+            EXPECT_LT(PlayingTime(bytes, 256), kMostMilliseconds) << style << ' ' << width;
+            EXPECT_LT(PlayingTime(bytes, 1500), kMostMilliseconds) << style << ' ' << width;
+        }
+    }
+}
+
+TEST_F(MetafileDamageTest, AMegabyteOfShapesPlaysWithinASecond) {
+    for (const int rop2 : {13, 7}) {
+        const QByteArray bytes = Megabyte(
+            [](MetafileBuilder& builder) {
+                builder.Box(MetafileOrder::Ellipse, -1000, -1000, 2000, 2000);
+                builder.Rectangle(0, 0, 1000, 1000).Add(MetafileOrder::Arc, {1, 5, 9, 700, 900, 900, 1, 1});
+            },
+            [&](MetafileBuilder& builder) {
+                builder.Add(MetafileOrder::SetRop2, {rop2}).Pen(0, 500, Color::Black()).BrushOf(2, Red(), 5);
+            });
+        EXPECT_LT(PlayingTime(bytes, 256), kMostMilliseconds) << rop2;
+        EXPECT_LT(PlayingTime(bytes, 1500), kMostMilliseconds) << rop2;
+    }
+}
+
+TEST_F(MetafileDamageTest, AMegabyteOfStretchedPicturesPlaysWithinASecond) {
+    QImage dot(1, 1, QImage::Format_RGB32);
+    dot.fill(Qt::red);
+    const QByteArray small = MetafileBuilder::Dib(dot, 24);
+    // A head that promises millions of pixels, and next to none of them.
+    const QByteArray large = MetafileBuilder::DibHead(4000, 4000, 8, 1, {0, 1}) + QByteArray(40, '\xFF');
+    for (const quint32 operation : {0x00CC0020u, 0x00660046u, 0x00B80000u}) {
+        for (const QByteArray& dib : {small, large}) {
+            const int side = dib == small ? 1 : 4000;
+            const QByteArray bytes = Megabyte([&](MetafileBuilder& builder) {
+                builder.StretchDib(QRect(0, 0, 1000, 1000), QRect(0, 0, side, side), dib, operation);
+            });
+            EXPECT_LT(PlayingTime(bytes, 256), kMostMilliseconds) << operation << ' ' << side;
+            EXPECT_LT(PlayingTime(bytes, 1500), kMostMilliseconds) << operation << ' ' << side;
+        }
+    }
+}
+
+TEST_F(MetafileDamageTest, AMegabyteOfTextPlaysWithinASecond) {
+    const QByteArray manyRecords = Megabyte([](MetafileBuilder& builder) { builder.Text(10, 10, "W"); },
+                                            [](MetafileBuilder& builder) { builder.Font(900, "Times New Roman"); });
+    EXPECT_LT(PlayingTime(manyRecords, 256), kMostMilliseconds);
+    EXPECT_LT(PlayingTime(manyRecords, 1500), kMostMilliseconds);
+    const QByteArray longTexts =
+        Megabyte([](MetafileBuilder& builder) { builder.Text(10, 10, QByteArray(20'000, 'W')); });
+    EXPECT_LT(PlayingTime(longTexts, 256), kMostMilliseconds);
+    const QByteArray manyFonts = Megabyte([number = 0](MetafileBuilder& builder) mutable {
+        ++number;
+        builder.Font(20 + number % 50, "Face " + QByteArray::number(number)).Text(1, 1, "A");
+        builder.Add(MetafileOrder::DeleteObject, {0});
+    });
+    EXPECT_LT(PlayingTime(manyFonts, 256), kMostMilliseconds);
+}
+
+TEST_F(MetafileDamageTest, AMegabyteOfStatesPlaysWithinASecond) {
+    const QByteArray saves = Megabyte([](MetafileBuilder& builder) { builder.Add(MetafileOrder::SaveDC); });
+    EXPECT_LT(PlayingTime(saves, 256), kMostMilliseconds);
+    const QByteArray turns = Megabyte(
+        [](MetafileBuilder& builder) { builder.Add(MetafileOrder::SaveDC).Add(MetafileOrder::RestoreDC, {-1}); });
+    EXPECT_LT(PlayingTime(turns, 256), kMostMilliseconds);
+    int place = 0;
+    const QByteArray clips = Megabyte([&](MetafileBuilder& builder) {
+        place = (place * 37 + 11) % 997;
+        builder.Box(MetafileOrder::ExcludeClipRect, place, place * 7 % 991, place + 2, place * 7 % 991 + 2);
+    });
+    EXPECT_LT(PlayingTime(clips, 1000), kMostMilliseconds);
+    const QByteArray objects = Megabyte([](MetafileBuilder& builder) {
+        builder.Add(MetafileOrder::CreatePen, {0, 1, 0, 0, 0});
+    });
+    EXPECT_LT(PlayingTime(objects, 256), kMostMilliseconds);
+    const QByteArray floods = Megabyte([](MetafileBuilder& builder) {
+        builder.Add(MetafileOrder::FloodFill, {1, 0, 500, 500});
+    });
+    EXPECT_LT(PlayingTime(floods, 256), kMostMilliseconds);
+    EXPECT_LT(PlayingTime(floods, 1500), kMostMilliseconds);
+}
