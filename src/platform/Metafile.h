@@ -19,8 +19,9 @@ public:
     /// sError, when they don't begin like a metafile.
     static std::optional<Metafile> FromBytes(const QByteArray& bytes, QString& sError);
 
-    /// Right minus left and bottom minus top of the placeable header, in its own units; null without one.
-    QSize PlaceableSize() const { return m_placeableSize; }
+    bool IsPlaceable() const { return m_placeableSize.has_value(); }
+    /// Right minus left and bottom minus top of the placeable header, in its own units; 0 without one.
+    QSize PlaceableSize() const { return m_placeableSize.value_or(QSize(0, 0)); }
 
     /// Plays into the target, in the painter's units, which becomes the viewport: the file's own window
     /// extents stretch to fill exactly it, and nothing is painted outside. The painter is left as it was.
@@ -29,5 +30,5 @@ public:
 
 private:
     QByteArray m_orders; ///< From the first record on.
-    QSize m_placeableSize{0, 0};
+    std::optional<QSize> m_placeableSize;
 };

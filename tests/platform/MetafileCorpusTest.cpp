@@ -6,11 +6,11 @@
 #include "platform/Metafile.h"
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QJsonDocument>
 #include <QJsonObject>
 
 #include <cstdio>
+#include <ctime>
 
 namespace {
 
@@ -80,9 +80,8 @@ TEST_F(MetafileCorpusTest, EveryRealMetafilePlaysWithinASecond) {
     if (corpus.isEmpty()) GTEST_SKIP() << "the real metafiles are not on this machine";
     const QStringList names = QDir(corpus).entryList({QStringLiteral("*.wmf")});
     for (const QString& name : names) {
-        QElapsedTimer timer;
-        timer.start();
+        const std::clock_t start = std::clock();
         Played(corpus + u'/' + name);
-        EXPECT_LT(timer.elapsed(), 1000) << qPrintable(name);
+        EXPECT_LT(double(std::clock() - start) / CLOCKS_PER_SEC, 1.0) << qPrintable(name);
     }
 }

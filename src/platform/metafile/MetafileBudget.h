@@ -7,7 +7,7 @@
 /// so no file, however made, keeps the program busy.
 class MetafileBudget {
 public:
-    static constexpr qint64 kWhole = 400'000'000;
+    static constexpr qint64 kWhole = 250'000'000;
 
     explicit MetafileBudget(qint64 units = kWhole) : m_left(units) {}
     /// False, and nothing taken, for more than is left.

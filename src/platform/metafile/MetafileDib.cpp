@@ -14,7 +14,7 @@ namespace {
 
 constexpr quint32 kCoreHeadSize = 12;
 constexpr quint32 kInfoHeadSize = 40;
-constexpr qint64 kUnitsPerPixel = 4;
+constexpr qint64 kUnitsPerPixel = 8;
 constexpr qsizetype kPatternBytesWithoutMeaning = 22;
 
 enum Compression : quint32 { kPlain = 0, kRuns8 = 1, kRuns4 = 2, kBitFields = 3 };

@@ -13,7 +13,7 @@ class MetafilePalette;
 namespace MetafileDib {
 
 /// Pixels of the largest picture that is decoded.
-constexpr qint64 kMostPixels = 32'000'000;
+constexpr qint64 kMostPixels = 20'000'000;
 
 /// A device-independent bitmap without its file head: 1, 4, 8, 16, 24 or 32 bits, bottom-up or top-down,
 /// uncompressed, run-length or with bit fields, with either head. With colourUse 1 the colour table holds
