@@ -43,6 +43,12 @@ struct CommonDialog {
     /// 1: screen fonts.
     int iFlags = 0;
 
+    /// Name of the printer chosen; empty means the system's default.
+    QString sPrinterName;
+
+    /// Why a dialog couldn't be shown; empty after a cancellation.
+    QString sError;
+
     /// False when the user cancelled; the fields are then as they were.
     bool ShowOpen();
     bool ShowSave();

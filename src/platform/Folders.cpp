@@ -54,6 +54,8 @@ QString Documents() { return QStandardPaths::writableLocation(QStandardPaths::Do
 QString Home() { return QDir::homePath(); }
 QString Pictures() { return QStandardPaths::writableLocation(QStandardPaths::PicturesLocation); }
 
+QString CompletePath(const QString& sPath) { return QFileInfo(sPath).absoluteFilePath(); }
+
 QString ProgramDirectory() {
     if (!Settings().sProgramDirectory.isEmpty()) return Settings().sProgramDirectory;
     const QString own = QCoreApplication::applicationDirPath();

@@ -15,6 +15,9 @@ QString Pictures();
 /// program if its data lie there, else share/tavlora beside it, else the build's data folder.
 QString ProgramDirectory();
 
+/// A path as a person types it, seen from the folder the program was started in, made complete.
+QString CompletePath(const QString& sPath);
+
 struct Volume {
     QString sRoot;
     QString sName;

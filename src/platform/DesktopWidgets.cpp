@@ -1,0 +1,171 @@
+// SPDX-License-Identifier: MIT
+#include "platform/DesktopWidgets.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QEventLoop>
+#include <QFileDialog>
+#include <QFontDialog>
+#include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QTimer>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+constexpr int kButtons = 0xF;
+constexpr int kIcons = 0xF0;
+
+QMessageBox::StandardButtons ButtonsOf(int iStyle) {
+    switch (iStyle & kButtons) {
+        case vbOKCancel:
+            return QMessageBox::Ok | QMessageBox::Cancel;
+        case vbYesNoCancel:
+            return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+        case vbYesNo:
+            return QMessageBox::Yes | QMessageBox::No;
+        default:
+            return QMessageBox::Ok;
+    }
+}
+
+QMessageBox::StandardButton DefaultButtonOf(int iStyle) {
+    const bool second = iStyle & vbDefaultButton2;
+    switch (iStyle & kButtons) {
+        case vbYesNoCancel:
+        case vbYesNo:
+            return second ? QMessageBox::No : QMessageBox::Yes;
+        default:
+            return second ? QMessageBox::Cancel : QMessageBox::Ok;
+    }
+}
+
+QMessageBox::Icon IconOf(int iStyle) {
+    switch (iStyle & kIcons) {
+        case vbCritical:
+            return QMessageBox::Critical;
+        case vbQuestion:
+            return QMessageBox::Question;
+        case vbExclamation:
+            return QMessageBox::Warning;
+        case vbInformation:
+            return QMessageBox::Information;
+        default:
+            return QMessageBox::NoIcon;
+    }
+}
+
+int ResultOf(int button, int iStyle) {
+    switch (button) {
+        case QMessageBox::Yes:
+            return vbYes;
+        case QMessageBox::No:
+            return vbNo;
+        case QMessageBox::Cancel:
+            return vbCancel;
+        default:
+            // The close button of a box with a way to say no means no.
+            return (iStyle & kButtons) == vbYesNo ? vbNo : vbOK;
+    }
+}
+
+QString PathInDialog(const CommonDialog& dialog) { return QDir(dialog.sInitDir).filePath(dialog.sFileName); }
+
+// The window a box belongs to, so that it stands before it and not beside.
+QWidget* Owner() {
+    QWidget* const active = QApplication::activeModalWidget();
+    return active ? active : QApplication::activeWindow();
+}
+
+bool ShowFileDialog(CommonDialog& dialog, QFileDialog::AcceptMode mode) {
+    QFileDialog window(Owner(), dialog.sDialogTitle);
+    window.setAcceptMode(mode);
+    window.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    window.setNameFilters(DesktopWidgets::NameFilters(dialog.sFilter));
+    // Before the question whether to overwrite, so that it asks about the file that is written.
+    if (!dialog.sDefaultExt.isEmpty()) window.setDefaultSuffix(dialog.sDefaultExt);
+    window.setOption(QFileDialog::DontConfirmOverwrite, !dialog.bOverwritePrompt);
+    window.setDirectory(dialog.sInitDir);
+    if (!dialog.sFileName.isEmpty()) window.selectFile(PathInDialog(dialog));
+    if (window.exec() != QDialog::Accepted || window.selectedFiles().isEmpty()) return false;
+    dialog.sFileName = window.selectedFiles().constFirst();
+    return true;
+}
+
+} // namespace
+
+QStringList DesktopWidgets::NameFilters(const QString& sFilter) {
+    const QStringList parts = sFilter.split(u'|', Qt::SkipEmptyParts);
+    QStringList filters;
+    for (int i = 0; i + 1 < parts.size(); i += 2) {
+        QStringList patterns = parts[i + 1].split(u';', Qt::SkipEmptyParts);
+        // Here a file needn't have a dot in its name.
+        patterns.replaceInStrings(QStringLiteral("*.*"), QStringLiteral("*"));
+        filters.append(parts[i] + QStringLiteral(" (") + patterns.join(u' ') + u')');
+    }
+    return filters.isEmpty() ? QStringList{QStringLiteral("All files (*)")} : filters;
+}
+
+int DesktopWidgets::MsgBox(const QString& sText, int iStyle, const QString& sTitle) {
+    QMessageBox box(Owner());
+    box.setTextFormat(Qt::PlainText);
+    box.setWindowTitle(sTitle);
+    box.setText(QString(sText).remove(u'\r'));
+    box.setIcon(IconOf(iStyle));
+    box.setStandardButtons(ButtonsOf(iStyle));
+    box.setDefaultButton(DefaultButtonOf(iStyle));
+    // The hourglass of work under way would lie over the buttons.
+    QApplication::setOverrideCursor(Qt::ArrowCursor);
+    const int button = box.exec();
+    QApplication::restoreOverrideCursor();
+    return ResultOf(button, iStyle);
+}
+
+bool DesktopWidgets::ShowOpen(CommonDialog& dialog) { return ShowFileDialog(dialog, QFileDialog::AcceptOpen); }
+
+bool DesktopWidgets::ShowSave(CommonDialog& dialog) { return ShowFileDialog(dialog, QFileDialog::AcceptSave); }
+
+bool DesktopWidgets::ShowFont(CommonDialog& dialog) {
+    QFont font(dialog.sFontName);
+    font.setPointSizeF(dialog.fFontSize);
+    font.setBold(dialog.bFontBold);
+    font.setItalic(dialog.bFontItalic);
+    QFontDialog window(font, Owner());
+    if (!dialog.sDialogTitle.isEmpty()) window.setWindowTitle(dialog.sDialogTitle);
+    if (window.exec() != QDialog::Accepted) return false;
+    const QFont chosen = window.selectedFont();
+    dialog.sFontName = chosen.family();
+    dialog.fFontSize = float(chosen.pointSizeF());
+    dialog.bFontBold = chosen.bold();
+    dialog.bFontItalic = chosen.italic();
+    return true;
+}
+
+bool DesktopWidgets::ShowPrinter(CommonDialog& dialog) {
+    QPrinter printer(QPrinter::HighResolution);
+    if (!dialog.sPrinterName.isEmpty()) printer.setPrinterName(dialog.sPrinterName);
+    QPrintDialog window(&printer, Owner());
+    window.setOptions(QAbstractPrintDialog::PrintToFile);
+    if (!dialog.sDialogTitle.isEmpty()) window.setWindowTitle(dialog.sDialogTitle);
+    if (window.exec() != QDialog::Accepted) return false;
+    dialog.sPrinterName = printer.printerName();
+    return true;
+}
+
+void DesktopWidgets::Sleep(int milliseconds) {
+    QEventLoop loop;
+    QTimer::singleShot(std::max(milliseconds, 0), &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+void DesktopWidgets::DoEvents() { QCoreApplication::processEvents(); }
+
+void DesktopWidgets::EndProgram(int iStatus) {
+    if (m_atEnd) m_atEnd();
+    std::fflush(nullptr);
+    // Destructors would run with windows half open; the work that must last is on disk by now.
+    std::_Exit(iStatus);
+}
