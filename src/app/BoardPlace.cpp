@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: MIT
+#include "app/BoardPlace.h"
+
+#include "app/services/basErrLog.h"
+#include "board/basPosit.h"
+#include "platform/Numbers.h"
+
+#include <array>
+
+namespace {
+
+// The seven-by-seven grid between the corners, and where the spaces' inner edges lie.
+constexpr float kGridStart = 0.2017F;
+constexpr float kPitch = 0.0852F;
+constexpr int kCells = 7;
+constexpr float kNearEdge = 0.1705F;
+constexpr float kFarEdge = 0.8295F;
+
+constexpr int kLottoSpaces[] = {10, 24};
+constexpr int kNewsSpaces[] = {3, 17};
+constexpr int kFateCorner = 3;
+
+// No blank behind it: on the board's tips the quoted names have always followed at once.
+const QString kClickToEdit = QStringLiteral("Click to edit");
+const QString kCrLf = QStringLiteral("\r\n");
+
+constexpr std::array<const char*, 4> kCornerNames = {"Start", "Lose Turn", "Free Space", "Fate!"};
+
+bool IsLotto(int iSpace) { return iSpace == kLottoSpaces[0] || iSpace == kLottoSpaces[1]; }
+bool IsNews(int iSpace) { return iSpace == kNewsSpaces[0] || iSpace == kNewsSpaces[1]; }
+bool OnGrid(int cell) { return cell >= 0 && cell < kCells; }
+
+int CornerAt(int iCol, int iRow) {
+    const bool left = iCol < 0;
+    const bool top = iRow < 0;
+    if (left) return top ? 2 : 1;
+    return top ? 3 : 0;
+}
+
+int SpaceAt(float fX, float fY, int iCol, int iRow) {
+    if (fY > kFarEdge) return 6 - iCol;
+    if (fX < kNearEdge) return 13 - iRow;
+    if (fY < kNearEdge) return iCol + 14;
+    if (fX > kFarEdge) return iRow + 21;
+    return -1;
+}
+
+bool Contains(int iBox, float fX, float fY) {
+    const basPosit::BoardRect& box = basPosit::m_CenterRect(iBox);
+    return fX >= box.x1 && fX <= box.x2 && fY >= box.y1 && fY <= box.y2;
+}
+
+void FindInCenter(float fX, float fY, BoardPlace& place) {
+    bool* const items[] = {&place.m_bOverTitles,  &place.m_bOverTitles, &place.m_bOverGoodNews,
+                           &place.m_bOverBadNews, &place.m_bOverMoney,  &place.m_bOverTokens};
+    for (int i = 0; i < int(std::size(items)); ++i) {
+        if (!Contains(i + 1, fX, fY)) continue;
+        *items[i] = true;
+        return;
+    }
+}
+
+QString InSingleQuotes(const QString& sText) { return u'\'' + sText + u'\''; }
+QString InDoubleQuotes(const QString& sText) { return u'"' + sText + u'"'; }
+
+QString SpaceName(int iSpace) { return basPosit::m_Rent(iSpace).DefaultName; }
+QString CornerName(int iCorner) { return QString::fromLatin1(kCornerNames.at(size_t(iCorner))); }
+
+struct CenterWords {
+    bool BoardPlace::*over;
+    const char* tip;
+    const char* box;
+};
+constexpr CenterWords kCenterWords[] = {
+    {&BoardPlace::m_bOverTitles, " Titles", "Titles"},
+    {&BoardPlace::m_bOverGoodNews, " 'Good News'", "Good News"},
+    {&BoardPlace::m_bOverBadNews, " 'Bad News'", "Bad News"},
+    {&BoardPlace::m_bOverMoney, " Money", "Money"},
+    {&BoardPlace::m_bOverTokens, " Tokens", "Tokens"},
+};
+
+} // namespace
+
+bool BoardPlace::IsEditable() const { return IsSomething() && WhyNotEditable(*this).isEmpty(); }
+
+BoardPlace PlaceAt(float fX, float fY) try {
+    BoardPlace place;
+    const int iCol = Int(double((fX - kGridStart) / kPitch));
+    const int iRow = Int(double((fY - kGridStart) / kPitch));
+    if (!OnGrid(iCol) && !OnGrid(iRow)) {
+        place.m_iOverCorner = CornerAt(iCol, iRow);
+        return place;
+    }
+    place.m_iOverSpace = SpaceAt(fX, fY, iCol, iRow);
+    if (place.m_iOverSpace < 0) FindInCenter(fX, fY, place);
+    return place;
+} catch (...) {
+    ErrTail("frmTAVL!", "PlaceAt", fX, fY);
+}
+
+QString WhyNotEditable(const BoardPlace& place) {
+    if (IsLotto(place.m_iOverSpace)) return QStringLiteral("The 'Lottery' spaces cannot be edited.");
+    if (IsNews(place.m_iOverSpace)) return QStringLiteral("The 'News' spaces cannot be edited.");
+    if (place.m_iOverCorner == kFateCorner) return QStringLiteral("The 'FATE!' space cannot be edited.");
+    return QString();
+}
+
+QString BoardTipOf(const BoardPlace& place) try {
+    const QString cannot = QStringLiteral(" cannot be edited");
+    if (IsLotto(place.m_iOverSpace)) return QStringLiteral("'Lottery'") + cannot;
+    if (IsNews(place.m_iOverSpace)) return QStringLiteral("'News'") + cannot;
+    if (place.m_iOverSpace >= 0) return kClickToEdit + InDoubleQuotes(SpaceName(place.m_iOverSpace));
+    if (place.m_iOverCorner == kFateCorner) return InSingleQuotes(CornerName(kFateCorner)) + cannot;
+    if (place.m_iOverCorner >= 0) return kClickToEdit + InSingleQuotes(CornerName(place.m_iOverCorner));
+    for (const CenterWords& words : kCenterWords) {
+        if (place.*words.over) return kClickToEdit + QString::fromLatin1(words.tip);
+    }
+    return QString();
+} catch (...) {
+    ErrTail("frmTAVL!", "BoardTipOf", place.m_iOverSpace, place.m_iOverCorner);
+}
+
+QString TipBoxTextOf(const BoardPlace& place) try {
+    if (IsLotto(place.m_iOverSpace) || IsNews(place.m_iOverSpace)) return QString();
+    const QString head = kClickToEdit + kCrLf;
+    if (place.m_iOverSpace >= 0) return head + InSingleQuotes(SpaceName(place.m_iOverSpace));
+    if (place.m_iOverCorner >= 0) return head + InDoubleQuotes(CornerName(place.m_iOverCorner));
+    for (const CenterWords& words : kCenterWords) {
+        if (place.*words.over) return head + QString::fromLatin1(words.box);
+    }
+    return QString();
+} catch (...) {
+    ErrTail("frmTAVL!", "TipBoxTextOf", place.m_iOverSpace, place.m_iOverCorner);
+}
+
+QPoint TipBoxPosition(const BoardPlace& place, float X, float Y, QSize boxSize, QSize boardSize) {
+    constexpr int kRightOfMouse = 120;
+    constexpr int kBelowMouse = 420;
+    constexpr int kBottomSideMargin = 240;
+    constexpr int kFirstOfRightSide = 21;
+    constexpr int kSpacesOfBottomSide = 7;
+    QPoint at(CLng(double(X)) + kRightOfMouse, CLng(double(Y)) + kBelowMouse);
+    if (place.m_iOverSpace >= kFirstOfRightSide || place.m_iOverCorner == 0)
+        at.setX(std::min(CLng(double(X)), boardSize.width()) - boxSize.width());
+    if (place.m_iOverSpace >= 0 && place.m_iOverSpace < kSpacesOfBottomSide)
+        at.setY(boardSize.height() - kBottomSideMargin);
+    return at;
+}

@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+#include "app/GameKit.h"
+
+#include "app/services/basCommon.h"
+#include "app/services/basErrLog.h"
+#include "document/basTAVL.h"
+#include "platform/Numbers.h"
+
+#include <array>
+
+namespace GameKit {
+namespace {
+
+constexpr int kNameLength = 8;
+const QString kPlainName = QStringLiteral("TAVLORA2");
+
+// Inches, by index of g_dblLabelSizes.
+constexpr std::array<double, basTAVL::kLabelSizes> kLabelSizes = {0.06, 1.65, 2.8125, 0.4375, 0.25, 1.65, 1.83, 2.125};
+
+// A space sticker of kit "8" covers the middle of the printed space only.
+constexpr int kStickerWidth = 5;
+constexpr int kStickerHeight = 6;
+constexpr double kStickerWidthOfKit8 = 1.36;
+constexpr double kStickerHeightOfKit8 = 2.125;
+
+constexpr std::array<const char*, basTAVL::kMoney> kMoneyColors = {"00C7C7E8", "00FAD3D8", "00C7E4C8", "00FAD085"};
+constexpr std::array<const char*, basTAVL::kTokens> kTokenColors = {"00DA251D", "000093DD", "0000923F",
+                                                                    "00FFF500", "00E77817", "00FFFFFF"};
+
+// A black that no printer makes from colours, for the plain kits.
+constexpr qint32 kPlainBlack = 0x0A0A0A;
+
+Color ColorOf(const char* sColor) { return basCommon::GetColorFromString(QString::fromLatin1(sColor)); }
+
+void SetPlainColors() {
+    for (int i = 0; i < basTAVL::kMoney; ++i)
+        basTAVL::g_oMoney(i).BackColor = Color::White();
+    basTAVL::g_lPrintYellow() = Color::White();
+    basTAVL::g_lPrintRed() = Color::White();
+    basTAVL::g_lPrintBlack() = Color::FromValue(kPlainBlack);
+    basTAVL::g_lPrintBack() = Color::White();
+}
+
+void SetFullColors() {
+    for (int i = 0; i < basTAVL::kMoney; ++i)
+        basTAVL::g_oMoney(i).BackColor = ColorOf(kMoneyColors[size_t(i)]);
+    for (int i = 0; i < basTAVL::kTokens; ++i)
+        basTAVL::g_oTokens(i).BackColor = ColorOf(kTokenColors[size_t(i)]);
+    basTAVL::g_lPrintYellow() = basCommon::GetIniColor(QStringLiteral("PrintYellowColor"), QStringLiteral("00FFFF00"));
+    basTAVL::g_lPrintRed() = basCommon::GetIniColor(QStringLiteral("PrintRedColor"), QStringLiteral("00FF0000"));
+    basTAVL::g_lPrintBlack() = basCommon::GetIniColor(QStringLiteral("PrintBlackColor"), QStringLiteral("00000000"));
+    basTAVL::g_lPrintBack() = ColorOf("00B6DDC7");
+}
+
+void SetLabelSizes(bool bKit8) {
+    for (int i = 0; i < basTAVL::kLabelSizes; ++i)
+        basTAVL::g_dblLabelSizes(i) = kLabelSizes[size_t(i)];
+    if (!bKit8) return;
+    basTAVL::g_dblLabelSizes(kStickerWidth) = kStickerWidthOfKit8;
+    basTAVL::g_dblLabelSizes(kStickerHeight) = kStickerHeightOfKit8;
+}
+
+} // namespace
+
+QString ExeName(const QString& sProgramName) { return LeftStr(sProgramName, kNameLength).toUpper(); }
+
+QString VariantOf(const QString& sProgramName) {
+    const QString exeName = ExeName(sProgramName);
+    if (exeName == kPlainName) return MidStr(sProgramName, kNameLength).toUpper();
+    return exeName == QStringLiteral("TAVLORA5") ? QStringLiteral("5") : QStringLiteral("8");
+}
+
+void SetUp(const QString& sProgramName) try {
+    const QString variant = VariantOf(sProgramName);
+    basTAVL::g_sGameVersion() = variant;
+    SetLabelSizes(variant == QStringLiteral("8"));
+    if (ExeName(sProgramName) == kPlainName) {
+        SetPlainColors();
+    } else {
+        SetFullColors();
+    }
+    // One key for both decks, on purpose: cards of both lie on the same stock.
+    for (int set = 0; set < basTAVL::kNewsSets; ++set)
+        basTAVL::g_lNewsColor(set) =
+            basCommon::GetIniColor(QStringLiteral("GoodNewsColor"), QStringLiteral("00FFFFFF"));
+} catch (...) {
+    ErrTail("frmTAVL!", "SetUpKit", sProgramName);
+}
+
+void ReadGameVersion() try {
+    basTAVL::g_sGameVersion() =
+        basCommon::GetIniStringWithDefault(QStringLiteral("GameVersion"), basTAVL::g_sGameVersion());
+} catch (...) {
+    ErrTail("frmTAVL!", "ReadGameVersion");
+}
+
+} // namespace GameKit

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#include "app/GameNames.h"
+
+#include "app/services/basErrLog.h"
+#include "app/services/basPath.h"
+#include "platform/Numbers.h"
+
+namespace GameNames {
+namespace {
+
+struct Parts {
+    QString sDrive, sDir, sBase, sExt;
+};
+
+Parts Split(const QString& sPath) {
+    Parts parts;
+    basCommon::FileNameFactor(sPath, parts.sDrive, parts.sDir, parts.sBase, parts.sExt);
+    return parts;
+}
+
+} // namespace
+
+bool IsUnnamed(const QString& sPath) try {
+    const QString mark = QStringLiteral("GAME");
+    return LeftStr(Split(sPath).sBase, int(mark.size())).toUpper() == mark;
+} catch (...) {
+    ErrTail("frmTAVL!", "IsUnnamed", sPath);
+}
+
+QString FirstFreeName(const QString& sFolder) try {
+    for (int i = 1;; ++i) {
+        const QString path = basCommon::JoinPath(sFolder, QStringLiteral("Game%1.gam").arg(i));
+        if (!basCommon::DoesFileExist(path)) return path;
+    }
+} catch (...) {
+    ErrTail("frmTAVL!", "FirstFreeName", sFolder);
+}
+
+QString FolderOf(const QString& sPath) try {
+    const Parts parts = Split(sPath);
+    return parts.sDrive + parts.sDir;
+} catch (...) {
+    ErrTail("frmTAVL!", "FolderOf", sPath);
+}
+
+QString FileNameOf(const QString& sPath) try {
+    const Parts parts = Split(sPath);
+    return parts.sExt.isEmpty() ? parts.sBase : parts.sBase + u'.' + parts.sExt;
+} catch (...) {
+    ErrTail("frmTAVL!", "FileNameOf", sPath);
+}
+
+} // namespace GameNames

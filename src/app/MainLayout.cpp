@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#include "app/MainLayout.h"
+
+#include "platform/Numbers.h"
+
+#include <algorithm>
+
+namespace {
+
+// What the window's height holds beside the board: title and menus, the row of buttons, and air.
+constexpr int kAboveBoard = 480;
+constexpr int kBelowBoard = 600;
+constexpr int kAir = 120;
+
+int BoardSide(const MainWindowSize& sizes) {
+    const int lTall = sizes.window.height() - kAboveBoard - kBelowBoard - kAir;
+    const int lWide = sizes.window.width() - MainLayout::kGap * 2;
+    // The formula knows the window's size only; what the desktop's menus and buttons really take comes on top.
+    const int tallest = sizes.client.height() - sizes.lToolBarHeight - sizes.lButtonHeight - MainLayout::kGap * 2;
+    const int widest = sizes.client.width() - MainLayout::kGap * 2;
+    return std::max(std::min({lTall, lWide, tallest, widest}), MainLayout::kSmallestBoard);
+}
+
+} // namespace
+
+MainLayout ComputeMainLayout(const MainWindowSize& sizes, float fZoom) {
+    MainLayout layout;
+    const int lSize = BoardSide(sizes);
+    const QPoint at(MainLayout::kGap, sizes.lToolBarHeight);
+    layout.bScrollBars = fZoom > 1.0F;
+    const int lBoard = layout.bScrollBars ? lSize - MainLayout::kScrollBar : lSize;
+    layout.picBoard = QRect(at, QSize(lBoard, lBoard));
+    layout.hscrl = QRect(at.x(), at.y() + lBoard, lBoard, MainLayout::kScrollBar);
+    layout.vscrl = QRect(at.x() + lBoard, at.y(), MainLayout::kScrollBar, lBoard);
+    const int lWidth = CLng((lSize - 480) / 5.0);
+    for (int i = 0; i < MainLayout::kButtons; ++i) {
+        layout.cmd[size_t(i)] = QRect((lWidth + MainLayout::kGap) * i + MainLayout::kGap,
+                                      at.y() + lSize + MainLayout::kGap, lWidth, sizes.lButtonHeight);
+    }
+    return layout;
+}
+
+QSize SmallestClient(int lToolBarHeight, int lButtonHeight) {
+    return QSize(MainLayout::kSmallestBoard + MainLayout::kGap * 2,
+                 lToolBarHeight + MainLayout::kSmallestBoard + MainLayout::kGap * 2 + lButtonHeight);
+}
+
+int ScrollOffset(int lValue, int lMax, float fZoom, int lPicture, int lTwipsPerPixel) {
+    if (!(fZoom > 1.0F) || lMax <= 0) return 0;
+    const double fHidden = 1.0 - 1.0 / double(fZoom);
+    const double fPart = lValue * fHidden / lMax;
+    return CLng(-fPart * double(fZoom) * lPicture / lTwipsPerPixel);
+}
+
+int MainWindowSizeWanted(int lScreenHeight, int lTwipsPerPixel) {
+    constexpr int kSmallScreen = 600;
+    constexpr int kSide = 960;
+    constexpr int kSmallSide = 800;
+    constexpr int kPixelsOfSmallScreen = 1024;
+    if (lScreenHeight <= kSmallScreen * lTwipsPerPixel) return 0;
+    // Twips against pixels: kept on purpose, so every real screen gets the large window.
+    const int side = lScreenHeight < kPixelsOfSmallScreen ? kSmallSide : kSide;
+    return side * lTwipsPerPixel;
+}

@@ -1,0 +1,196 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/BoardPlace.h"
+#include "app/MainLayout.h"
+#include "app/ToolBarTable.h"
+#include "document/GameSession.h"
+#include "platform/Color.h"
+#include "platform/Desktop.h"
+
+#include <QMainWindow>
+#include <QPointF>
+#include <QTimer>
+
+#include <array>
+
+class frmAbout;
+class PictureBox;
+class QAction;
+class QLabel;
+class QMenu;
+class QPushButton;
+class QScrollBar;
+
+/// The main window, and the program's start: loading it starts the program, unloading it ends it. It shows
+/// the board, on which everything is a door to an editor, and holds the commands on the game as a whole.
+class frmTAVL : public QMainWindow, public GameSession {
+    Q_OBJECT
+
+public:
+    frmTAVL();
+    ~frmTAVL() override;
+
+    /// The start in its fixed order; the window is shown by the caller afterwards.
+    void Form_Load();
+    void Form_Resize();
+    /// Sets bCancel when the user wants to go on.
+    void Form_QueryUnload(bool& bCancel);
+    /// Ends the program.
+    void Form_Unload();
+
+    /// Board view: 1.0 shows it whole.
+    float m_fZoom = 1.0F;
+    /// Of the last load: 0 good, -1 failed.
+    int m_iLoadResult = 0;
+    /// While true, Redraw returns at once.
+    bool m_bNoRedraw = false;
+    /// Printing has been done; the printer can't be changed any more.
+    bool m_bPrintedSomething = false;
+    /// A page is being printed; the program can't be closed.
+    bool bInPrint = false;
+
+    // Commands on the game.
+    void BeginNewGame(int& iResult);
+    /// The first "GameN.gam" of the My Games directory that doesn't exist.
+    void GetNewGameName(QString& sName);
+    /// Asks for a name; iResult is 0, or -1 when there is none.
+    void SetNewGameName(int& iResult);
+    void OkToEndProgram(bool& bOk);
+    void SetSomethingChanged(bool bChanged) override;
+    /// The question about unsaved changes, then this game instead of the current one.
+    void OpenGame(const QString& sPath);
+
+    void mnuFile_Click(int Index);
+    void mnuView_Click(int Index);
+    void mnuZoom_Click(int Index);
+    void mnuHelp_Click(int Index);
+    void cmd_Click(int Index);
+
+    void EditCenterText();
+    void EditCornerText(int iCorner);
+    void EditSpaceText(int iSpace);
+    void EditNews(int iGoodOrBad);
+    void EditMoney();
+    void EditToken();
+
+    void Redraw();
+    /// Keeps the toolbar button under the mouse, in twips, and frames it.
+    void WhichButton(int Button, int Shift, float X, float Y);
+    /// Finds what is at a place of picBoard, in twips.
+    void WhatIsMouseOver(float X, float Y);
+    const BoardPlace& Over() const { return m_over; }
+    bool m_bOverChanged = false;
+    bool m_bOverSomething = false;
+
+    PictureBox& Board() { return *picBoard; }
+    DeviceContext& MeasuringDevice() override;
+    /// Interval of the tool tips' timer; 0 while it is stopped.
+    int TimerInterval() const { return Timer1.isActive() ? Timer1.interval() : 0; }
+
+public Q_SLOTS:
+    void picBoard_MouseDown(int Button, int Shift, float X, float Y);
+    void picBoard_MouseMove(int Button, int Shift, float X, float Y);
+    void picBoard_Paint();
+    void imgToolBar_MouseDown(int Button, int Shift, float X, float Y);
+    void imgToolBar_MouseMove(int Button, int Shift, float X, float Y);
+    void imgToolBar_MouseUp(int Button, int Shift, float X, float Y);
+    void imgToolBar_MouseLeft();
+    void txtToolTip_MouseMove();
+    void Timer1_Timer();
+    void hscrl_Change();
+    void vscrl_Change();
+    /// Another start of the program wants this one, with a game to open or an empty text.
+    void CalledByAnotherStart(const QString& sGame);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+private Q_SLOTS:
+    void MenuTriggered();
+    void ButtonClicked();
+    void DrawToolBar();
+
+private:
+    // Building the window.
+    void MakeControls();
+    void MakeScrollBars();
+    void MakeButtons();
+    void MakeToolBar();
+    void MakeMenus();
+    QMenu* MakeMenu(QMenu* menu, const QString& sCaption, const QString& sName);
+    QSize ToolBarPictureSize() const;
+
+    // The start.
+    void SizeMainWindow();
+    void WarnOfFewColors();
+    void ShowSplash();
+    void HideSplash();
+    void Init();
+    void InitColors();
+    void InitButtonPositions();
+    bool LoadAutosave(const QString& sPath, const QString& sMessage);
+    void LoadLastGame();
+    bool m_bSplash = false;
+
+    // The game.
+    void GameLoad(QString& sFileName);
+    void SetTitle();
+    void NewGame();
+    void OpenGameFromDialog();
+    void LoadInstead(const QString& sPath);
+    void Save();
+    void SaveAs();
+    void PrinterSetup();
+    void Print();
+    void ExitWithQuestion();
+    void ChangedByEditor(bool bChanged, bool bRedraw);
+    void ShowDialogError();
+
+    // The view.
+    void SetZoom(int iZoom);
+    void ClearHitState();
+    void ApplyLayout(const MainLayout& layout);
+    int ScrollOffsetOf(const QScrollBar& bar) const;
+    void ScrollBy(int iSteps, Qt::Orientation orientation, bool bPages);
+    void ZoomAtMouse(int iZoom, QPointF position);
+
+    // Tips and toolbar.
+    void ShowTips();
+    void PlaceTipBox(float X, float Y);
+    void RestartTipTimer(bool bStart);
+    void FrameButton(int iButton, bool bPressed);
+    void HideButtonFrame();
+    void SetButtonTips(int iButton);
+    void RunToolBarButton(int iButton);
+
+    PictureBox* picBoard = nullptr;
+    PictureBox* imgToolBar = nullptr;
+    QScrollBar* hscrl = nullptr;
+    QScrollBar* vscrl = nullptr;
+    std::array<QPushButton*, MainLayout::kButtons> cmd{};
+    QWidget* linButTop = nullptr;
+    QWidget* linButLeft = nullptr;
+    QWidget* linButBottom = nullptr;
+    QWidget* linButRight = nullptr;
+    QLabel* txtToolTip = nullptr;
+    QTimer Timer1;
+    CommonDialog dlgCommon;
+    std::unique_ptr<frmAbout> m_about;
+
+    std::array<Color, 8> m_lColor{};
+    std::array<qint16, ToolBarTable::kButtons> m_iButtonLeft{};
+    int m_iButton = -1;
+    int m_iButtonState = 0;
+    BoardPlace m_over;
+    bool m_bToolTips = true;
+    QString m_sBoardTip;
+    QString m_sToolBarTip;
+    QPointF m_lastOnBoard{-1, -1};
+    QPointF m_lastOnToolBar{-1, -1};
+    int m_wheelTurn = 0;
+};

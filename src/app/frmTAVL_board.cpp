@@ -1,0 +1,204 @@
+// SPDX-License-Identifier: MIT
+#include "app/frmTAVL.h"
+
+#include "app/EditorRoutes.h"
+#include "app/services/basErrLog.h"
+#include "app/services/basMsgQueue.h"
+#include "app/services/basPath.h"
+#include "board/basPosit.h"
+#include "board/basPositPaint.h"
+#include "document/basTAVL.h"
+#include "images/basBMP.h"
+#include "platform/Numbers.h"
+#include "platform/PictureBox.h"
+#include "platform/Screen.h"
+#include "platform/WidgetLook.h"
+
+#include <QApplication>
+#include <QLabel>
+
+namespace {
+
+// A tip that isn't wanted any more goes after a second's grace and seven more.
+constexpr int kFirstInterval = 1000;
+constexpr int kSecondInterval = 7000;
+
+/// The hourglass while work is under way, whatever way it ends.
+class Hourglass {
+public:
+    Hourglass() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~Hourglass() { QApplication::restoreOverrideCursor(); }
+    Hourglass(const Hourglass&) = delete;
+    Hourglass& operator=(const Hourglass&) = delete;
+};
+
+} // namespace
+
+void frmTAVL::Redraw() try {
+    // An invisible board needn't be painted: showing it paints it.
+    if (m_bNoRedraw || !isVisible()) return;
+    const Hourglass hourglass;
+    basMsgQueue::MsgQueue_Init();
+    DeviceContext& hDC = picBoard->hDC();
+    const int depth = hDC.SaveDC();
+    picBoard->Cls();
+    basPosit::PosInit();
+    basPosit::PosSethDC(&hDC);
+    basBMP::BMP_SetHDC(&hDC);
+    basPosit::PosSetScale(float(picBoard->width()) * m_fZoom);
+    basPosit::PosSetWidth(picBoard->width());
+    const ScaleModeKind mode = picBoard->ScaleMode;
+    picBoard->ScaleMode = ScaleModeKind::Pixels;
+    basPosit::PosSetPicture(picBoard, true);
+    basPosit::PosDrawAll();
+    picBoard->ScaleMode = mode;
+    hDC.RestoreDC(depth);
+    picBoard->Refresh();
+    basMsgQueue::MsgQueue_Display();
+} catch (...) {
+    ErrTail("frmTAVL!", "Redraw");
+}
+
+void frmTAVL::picBoard_Paint() try { Redraw(); } catch (...) {
+    ErrTop("frmTAVL!", "picBoard_Paint");
+}
+
+void frmTAVL::WhatIsMouseOver(float X, float Y) try {
+    const float fSide = float(picBoard->width() * Screen::kTwipsPerPixel);
+    const float fX = (X - float(basPosit::GetOffsetX() * Screen::kTwipsPerPixel)) / fSide / m_fZoom;
+    const float fY = (Y - float(basPosit::GetOffsetY() * Screen::kTwipsPerPixel)) / fSide / m_fZoom;
+    const BoardPlace place = PlaceAt(fX, fY);
+    m_bOverChanged = place != m_over;
+    m_over = place;
+    m_bOverSomething = place.IsSomething();
+} catch (...) {
+    ErrTail("frmTAVL!", "WhatIsMouseOver", X, Y);
+}
+
+void frmTAVL::ClearHitState() {
+    m_over = BoardPlace{};
+    m_bOverChanged = false;
+    m_bOverSomething = false;
+}
+
+void frmTAVL::picBoard_MouseDown(int Button, int Shift, float X, float Y) try {
+    WhatIsMouseOver(X, Y);
+    const BoardPlace place = m_over;
+    const QString refusal = WhyNotEditable(place);
+    if (!refusal.isEmpty()) {
+        MsgBox(refusal, vbInformation);
+    } else if (place.m_iOverSpace >= 0) {
+        EditSpaceText(place.m_iOverSpace);
+    } else if (place.m_iOverCorner >= 0) {
+        EditCornerText(place.m_iOverCorner);
+    } else if (place.m_bOverTitles) {
+        EditCenterText();
+    } else if (place.m_bOverGoodNews) {
+        EditNews(0);
+    } else if (place.m_bOverBadNews) {
+        EditNews(1);
+    } else if (place.m_bOverMoney) {
+        EditMoney();
+    } else if (place.m_bOverTokens) {
+        EditToken();
+    }
+} catch (...) {
+    ErrTop("frmTAVL!", "picBoard_MouseDown", Button, Shift, X, Y);
+}
+
+void frmTAVL::picBoard_MouseMove(int Button, int Shift, float X, float Y) try {
+    const QPointF position{double(X), double(Y)};
+    if (position == m_lastOnBoard) return;
+    m_lastOnBoard = position;
+    WhatIsMouseOver(X, Y);
+    if (m_bOverSomething) {
+        ShowTips();
+        PlaceTipBox(X, Y);
+    } else {
+        txtToolTip->hide();
+        m_sBoardTip.clear();
+        WidgetLook::SetToolTip(*picBoard, m_sBoardTip);
+    }
+    picBoard->setCursor(m_over.IsEditable() ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    RestartTipTimer(m_bToolTips && m_over.IsEditable());
+} catch (...) {
+    ErrTop("frmTAVL!", "picBoard_MouseMove", Button, Shift, X, Y);
+}
+
+void frmTAVL::ShowTips() {
+    const QString text = TipBoxTextOf(m_over);
+    if (!text.isEmpty()) txtToolTip->setText(text);
+    m_sBoardTip = BoardTipOf(m_over);
+    WidgetLook::SetToolTip(*picBoard, m_sBoardTip);
+}
+
+void frmTAVL::PlaceTipBox(float X, float Y) {
+    const int twips = Screen::kTwipsPerPixel;
+    const QPoint at = TipBoxPosition(m_over, X, Y, txtToolTip->sizeHint() * twips, picBoard->size() * twips);
+    txtToolTip->move(picBoard->pos() + at / twips);
+    // The desktop's own tips say the same, so the box stays out of sight.
+    txtToolTip->hide();
+}
+
+void frmTAVL::RestartTipTimer(bool bStart) {
+    Timer1.stop();
+    if (bStart) Timer1.start(kFirstInterval);
+}
+
+void frmTAVL::Timer1_Timer() try {
+    switch (Timer1.interval()) {
+        case kFirstInterval:
+            Timer1.setInterval(kSecondInterval);
+            break;
+        case kSecondInterval:
+            txtToolTip->hide();
+            Timer1.stop();
+            WidgetLook::SetToolTip(*picBoard, QString());
+            WidgetLook::SetToolTip(*imgToolBar, QString());
+            break;
+        default:
+            basCommon::Assert(false, QStringLiteral("Unexpected Interval"), QStringLiteral("frmTAVL!Timer1_Timer"));
+    }
+} catch (...) {
+    ErrTop("frmTAVL!", "Timer1_Timer");
+}
+
+void frmTAVL::txtToolTip_MouseMove() { txtToolTip->hide(); }
+
+void frmTAVL::ChangedByEditor(bool bChanged, bool bRedraw) try {
+    if (!bChanged) return;
+    SetSomethingChanged(true);
+    if (bRedraw) Redraw();
+} catch (...) {
+    ErrTail("frmTAVL!", "ChangedByEditor", bChanged, bRedraw);
+}
+
+void frmTAVL::EditCenterText() try { ChangedByEditor(EditorRoutes::Current().EditCenter(), true); } catch (...) {
+    ErrTail("frmTAVL!", "EditCenterText");
+}
+
+void frmTAVL::EditCornerText(int iCorner) try {
+    ChangedByEditor(EditorRoutes::Current().EditCorner(iCorner), true);
+} catch (...) {
+    ErrTail("frmTAVL!", "EditCornerText", iCorner);
+}
+
+void frmTAVL::EditSpaceText(int iSpace) try {
+    ChangedByEditor(EditorRoutes::Current().EditSpace(iSpace), true);
+} catch (...) {
+    ErrTail("frmTAVL!", "EditSpaceText", iSpace);
+}
+
+void frmTAVL::EditNews(int iGoodOrBad) try {
+    ChangedByEditor(EditorRoutes::Current().ShowNews(iGoodOrBad), false);
+} catch (...) {
+    ErrTail("frmTAVL!", "EditNews", iGoodOrBad);
+}
+
+void frmTAVL::EditMoney() try { ChangedByEditor(EditorRoutes::Current().EditMoney(), false); } catch (...) {
+    ErrTail("frmTAVL!", "EditMoney");
+}
+
+void frmTAVL::EditToken() try { ChangedByEditor(EditorRoutes::Current().ShowTokens(), false); } catch (...) {
+    ErrTail("frmTAVL!", "EditToken");
+}

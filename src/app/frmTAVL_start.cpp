@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: MIT
+#include "app/frmTAVL.h"
+
+#include "app/frmAbout.h"
+#include "app/frmPrintManual.h"
+#include "app/GameKit.h"
+#include "app/services/basAPI.h"
+#include "app/services/basCommon.h"
+#include "app/services/basErrLog.h"
+#include "board/basDraw.h"
+#include "board/basPosit.h"
+#include "document/Autosave.h"
+#include "document/basTAVL.h"
+#include "document/SampleGames.h"
+#include "images/basBMP.h"
+#include "platform/PictureBox.h"
+#include "platform/ProgramSettings.h"
+#include "platform/Screen.h"
+
+namespace {
+
+constexpr qint64 kLogLimit = 60000;
+constexpr int kFewestColorBits = 9;
+constexpr int kSplashMilliseconds = 3000;
+constexpr qint32 kBoardFace = 0xE0FFE0;
+
+} // namespace
+
+void frmTAVL::Form_Load() try {
+    const QString& programName = Settings().sProgramName;
+    basErrLog::ErrInit(kLogLimit, QString(), true);
+    basCommon::InitIniPath();
+    basTAVL::CopySampleGames();
+    WarnOfFewColors();
+    basErrLog::ErrLogToFile(QStringLiteral("Starting Tavlora Version 6 running as ") + GameKit::ExeName(programName),
+                            true);
+    GameKit::SetUp(programName);
+    basTAVL::g_vCurrencySign() = QStringLiteral("$");
+    SizeMainWindow();
+    basTAVL::g_lMagicColor() = basDraw::Draw_ReverseColor(Color::FromValue(kBoardFace));
+    GameKit::ReadGameVersion();
+    ShowSplash();
+    basCommon::ShowEntireForm(*this);
+    Init();
+    HideSplash();
+} catch (...) {
+    ErrTop("frmTAVL!", "Form_Load");
+}
+
+void frmTAVL::WarnOfFewColors() try {
+    const int bits = basAPI::ScreenBitsPerPixel();
+    if (bits >= kFewestColorBits) return;
+    MsgBox(QStringLiteral("Your system is currently set to display only ") + QString::number(1LL << bits) +
+           QStringLiteral(" colors. ") +
+           QStringLiteral("Please use a display properties setting that shows more than 256 colors. ") +
+           QStringLiteral("If this is not possible, please select only monochrome images for your game. ") +
+           QStringLiteral("Even then, your printed output might be unsatisfactory."));
+} catch (...) {
+    ErrTail("frmTAVL!", "WarnOfFewColors");
+}
+
+void frmTAVL::SizeMainWindow() try {
+    if (isMinimized()) return;
+    const int side = MainWindowSizeWanted(Screen::Size().height() * Screen::kTwipsPerPixel, Screen::kTwipsPerPixel);
+    if (side > 0) Screen::PlaceWindow(*this, QRect(pos(), QSize(side, side) / Screen::kTwipsPerPixel));
+    Screen::PlaceAtFraction(*this, 1.0 / 2, 1.0 / 2);
+} catch (...) {
+    ErrTail("frmTAVL!", "SizeMainWindow");
+}
+
+void frmTAVL::ShowSplash() try {
+    const QString show = basCommon::GetIniStringWithDefault(QStringLiteral("ShowSplash"), QStringLiteral("True"));
+    m_bSplash = show.toLower() == QStringLiteral("false");
+    if (!m_bSplash) {
+        frmPrintManual().ShowForm(true);
+        return;
+    }
+    m_about->ShowAsSplash();
+    DoEvents();
+    Sleep(kSplashMilliseconds);
+} catch (...) {
+    ErrTail("frmTAVL!", "ShowSplash");
+}
+
+void frmTAVL::HideSplash() try {
+    m_bNoRedraw = true;
+    if (m_bSplash) m_about->EndSplash();
+    m_bNoRedraw = false;
+} catch (...) {
+    ErrTail("frmTAVL!", "HideSplash");
+}
+
+void frmTAVL::Init() try {
+    m_fZoom = 1.0F;
+    InitColors();
+    InitButtonPositions();
+    basPosit::PosInit();
+    basDraw::Draw_SetHdc(&picBoard->hDC());
+    basBMP::BMP_SetHDC(&picBoard->hDC());
+    basBMP::BMP_SetBackColor(basTAVL::g_lMagicColor());
+    basBMP::BMP_SetMagicColor(basTAVL::g_lMagicColor());
+    const bool recovered =
+        LoadAutosave(Autosave::DataPath(),
+                     QStringLiteral("An Autosave version of a previous game has been found on your disk. ")) ||
+        LoadAutosave(
+            Autosave::BackupPath(),
+            QStringLiteral("The backup of an autosave version of a previous game has been found on your disk. "));
+    if (!recovered) LoadLastGame();
+} catch (...) {
+    ErrTail("frmTAVL!", "Init");
+}
+
+void frmTAVL::InitColors() {
+    // Nothing reads this table; it documents the window's colours.
+    m_lColor = {Color::Rgb(0, 128, 0),   Color::Rgb(255, 0, 128), Color::Rgb(255, 128, 0),   Color::Rgb(0, 0, 255),
+                Color::Rgb(255, 255, 0), Color::Rgb(255, 0, 255), Color::Rgb(128, 128, 255), Color::Rgb(255, 0, 0)};
+}
+
+bool frmTAVL::LoadAutosave(const QString& sPath, const QString& sMessage) try {
+    if (!basCommon::DoesFileExist(sPath)) return false;
+    MsgBox(sMessage + QStringLiteral("This game is being loaded."));
+    QString name = sPath;
+    GameLoad(name);
+    if (m_iLoadResult != 0) return false;
+    m_sGameName = name;
+    m_bChanged = true;
+    SetTitle();
+    return true;
+} catch (...) {
+    ErrTail("frmTAVL!", "LoadAutosave", sPath);
+}
+
+void frmTAVL::LoadLastGame() try {
+    m_sGameName = basCommon::GetIniString(QStringLiteral("GameName"));
+    if (m_sGameName.isEmpty() || !basCommon::ResolveFullPath(m_sGameName)) {
+        BeginNewGame(m_iLoadResult);
+    } else {
+        GameLoad(m_sGameName);
+    }
+    SetTitle();
+} catch (...) {
+    ErrTail("frmTAVL!", "LoadLastGame");
+}

@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: MIT
+#include "app/frmTAVL.h"
+
+#include "app/services/basErrLog.h"
+#include "app/services/basPath.h"
+#include "platform/Folders.h"
+#include "platform/LoadPicture.h"
+#include "platform/Numbers.h"
+#include "platform/PictureBox.h"
+#include "platform/Screen.h"
+#include "platform/WidgetLook.h"
+
+#include <QLabel>
+
+namespace {
+
+const Color kShadow = Color::Rgb(128, 128, 128);
+// A face's frame lies on the edges of the button, one pixel wide.
+constexpr int kFrameHeight = ToolBarTable::kBottom - ToolBarTable::kTop;
+
+QWidget* MakeLine(QWidget* parent, const char* sName) {
+    auto* line = new QWidget(parent);
+    line->setObjectName(QString::fromLatin1(sName));
+    line->setAttribute(Qt::WA_TransparentForMouseEvents);
+    line->hide();
+    return line;
+}
+
+int Pixels(float twips) { return CLng(double(twips) / Screen::kTwipsPerPixel); }
+
+} // namespace
+
+void frmTAVL::MakeToolBar() {
+    imgToolBar = new PictureBox(centralWidget());
+    imgToolBar->setObjectName(QStringLiteral("imgToolBar"));
+    imgToolBar->setAccessibleName(QStringLiteral("Toolbar; all its commands are in the menus"));
+    imgToolBar->setGeometry(0, 0, ToolBarTable::kPictureWidth, ToolBarTable::kPictureHeight);
+    linButTop = MakeLine(imgToolBar, "linButTop");
+    linButLeft = MakeLine(imgToolBar, "linButLeft");
+    linButBottom = MakeLine(imgToolBar, "linButBottom");
+    linButRight = MakeLine(imgToolBar, "linButRight");
+    connect(imgToolBar, &PictureBox::MouseDown, this, &frmTAVL::imgToolBar_MouseDown);
+    connect(imgToolBar, &PictureBox::MouseMove, this, &frmTAVL::imgToolBar_MouseMove);
+    connect(imgToolBar, &PictureBox::MouseUp, this, &frmTAVL::imgToolBar_MouseUp);
+    connect(imgToolBar, &PictureBox::MouseLeft, this, &frmTAVL::imgToolBar_MouseLeft);
+    connect(imgToolBar, &PictureBox::BackingChanged, this, &frmTAVL::DrawToolBar);
+    DrawToolBar();
+}
+
+void frmTAVL::DrawToolBar() try {
+    QString error;
+    const Picture picture =
+        LoadPicture(basCommon::JoinPath(Folders::ProgramDirectory(), QStringLiteral("toolbar.dat")), error);
+    imgToolBar->SetBackColor(WidgetLook::FillOf(*this));
+    if (picture.IsNull()) {
+        // The menus hold the same commands, so a missing picture is no reason to disturb anybody.
+        basErrLog::ErrLogToFile(QStringLiteral("The toolbar's picture can't be shown: ") + error, true);
+        return;
+    }
+    imgToolBar->PaintPicture(picture, 0, 0, ToolBarTable::kPictureWidth, ToolBarTable::kPictureHeight);
+    imgToolBar->Refresh();
+} catch (...) {
+    ErrTop("frmTAVL!", "DrawToolBar");
+}
+
+void frmTAVL::InitButtonPositions() try {
+    for (int i = 0; i < ToolBarTable::kButtons; ++i)
+        m_iButtonLeft[size_t(i)] = qint16(ToolBarTable::kRows[size_t(i)].iLeft);
+    linButTop->move(linButTop->x(), ToolBarTable::kTop);
+    linButBottom->move(linButBottom->x(), ToolBarTable::kBottom);
+} catch (...) {
+    ErrTail("frmTAVL!", "InitButtonPositions");
+}
+
+void frmTAVL::WhichButton(int Button, int Shift, float X, float Y) try {
+    const int iButton = ToolBarTable::ButtonAt(Pixels(X), Pixels(Y));
+    if (Button == m_iButtonState && iButton == m_iButton) return;
+    if (iButton < 0) {
+        HideButtonFrame();
+        return;
+    }
+    FrameButton(iButton, Button != 0);
+    m_iButton = iButton;
+    m_iButtonState = Button;
+} catch (...) {
+    ErrTail("frmTAVL!", "WhichButton", Button, Shift, X, Y);
+}
+
+void frmTAVL::FrameButton(int iButton, bool bPressed) {
+    const int left = m_iButtonLeft[size_t(iButton)];
+    const int right = left + ToolBarTable::kButtonWidth;
+    linButTop->setGeometry(left, ToolBarTable::kTop, ToolBarTable::kButtonWidth + 1, 1);
+    linButBottom->setGeometry(left, ToolBarTable::kBottom, ToolBarTable::kButtonWidth + 1, 1);
+    linButLeft->setGeometry(left, ToolBarTable::kTop, 1, kFrameHeight);
+    linButRight->setGeometry(right, ToolBarTable::kTop, 1, kFrameHeight);
+    const Color lit = bPressed ? kShadow : Color::White();
+    const Color shaded = bPressed ? Color::White() : kShadow;
+    for (QWidget* line : {linButTop, linButLeft})
+        WidgetLook::SetFill(*line, lit);
+    for (QWidget* line : {linButBottom, linButRight})
+        WidgetLook::SetFill(*line, shaded);
+    for (QWidget* line : {linButTop, linButLeft, linButBottom, linButRight})
+        line->show();
+}
+
+void frmTAVL::HideButtonFrame() {
+    for (QWidget* line : {linButTop, linButLeft, linButBottom, linButRight})
+        line->hide();
+    m_iButton = -1;
+    m_iButtonState = 0;
+}
+
+void frmTAVL::imgToolBar_MouseMove(int Button, int Shift, float X, float Y) try {
+    const QPointF position{double(X), double(Y)};
+    if (position == m_lastOnToolBar) return;
+    m_lastOnToolBar = position;
+    txtToolTip->hide();
+    Timer1.stop();
+    WhichButton(Button, Shift, X, Y);
+    if (m_iButton < 0) {
+        WidgetLook::SetToolTip(*imgToolBar, QString());
+        return;
+    }
+    SetButtonTips(m_iButton);
+    RestartTipTimer(true);
+} catch (...) {
+    ErrTop("frmTAVL!", "imgToolBar_MouseMove", Button, Shift, X, Y);
+}
+
+void frmTAVL::SetButtonTips(int iButton) {
+    const ToolBarTable::Row& row = ToolBarTable::kRows.at(size_t(iButton));
+    txtToolTip->setText(QString::fromLatin1(row.sBoxLine1) + QStringLiteral("\r\n") +
+                        QString::fromLatin1(row.sBoxLine2));
+    m_sToolBarTip = QString::fromLatin1(row.sTip);
+    WidgetLook::SetToolTip(*imgToolBar, m_sToolBarTip);
+}
+
+void frmTAVL::imgToolBar_MouseDown(int Button, int Shift, float X, float Y) try {
+    // One twip aside, so that it counts as a movement and the pressed frame shows at once.
+    imgToolBar_MouseMove(Button, Shift, X + 1, Y);
+} catch (...) {
+    ErrTop("frmTAVL!", "imgToolBar_MouseDown", Button, Shift, X, Y);
+}
+
+void frmTAVL::imgToolBar_MouseUp(int Button, int Shift, float X, float Y) try {
+    const int iButton = m_iButton;
+    const bool pressed = m_iButtonState != 0;
+    // Raised again before the command runs: it may show a window.
+    WhichButton(0, Shift, X, Y);
+    if (pressed && iButton >= 0) RunToolBarButton(iButton);
+} catch (...) {
+    ErrTop("frmTAVL!", "imgToolBar_MouseUp", Button, Shift, X, Y);
+}
+
+void frmTAVL::imgToolBar_MouseLeft() try { HideButtonFrame(); } catch (...) {
+    ErrTop("frmTAVL!", "imgToolBar_MouseLeft");
+}
+
+void frmTAVL::RunToolBarButton(int iButton) try {
+    const ToolBarTable::Row& row = ToolBarTable::kRows.at(size_t(iButton));
+    switch (row.menu) {
+        case ToolBarTable::Menu::File:
+            mnuFile_Click(row.iItem);
+            break;
+        case ToolBarTable::Menu::View:
+            mnuView_Click(row.iItem);
+            break;
+        case ToolBarTable::Menu::Zoom:
+            mnuZoom_Click(row.iItem);
+            break;
+    }
+} catch (...) {
+    ErrTail("frmTAVL!", "RunToolBarButton", iButton);
+}
