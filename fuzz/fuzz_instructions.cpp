@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+// Prints any bytes as the rules of the game, with names that hold tags themselves.
+#include "FuzzHost.h"
+
+#include "platform/Surface.h"
+#include "print/clsRenderDestination.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    FuzzHost::Get().Write(QStringLiteral("GamePlay.dat"), data, size);
+    static ScratchForm page(QSize(64, 64));
+    clsRenderDestination destination;
+    destination.Init(page, 0.125);
+    const QString tag = QStringLiteral("a <TAVLORA> b");
+    destination.InstructionSheet({tag, tag, tag, tag, tag, tag, tag});
+    return 0;
+}
