@@ -97,6 +97,15 @@ bool GameReader::ReadRecord(Record& record, const QString& sDuring) {
     }
 }
 
+// A picture that can't be made small is told by its image, or lies in the log; the game loads all the same.
+void FetchThumbnail(C_Image& image) {
+    try {
+        image.GetThumbnail(false);
+    } catch (const TavloraError& error) {
+        basErrLog::ErrDismiss(error.Description());
+    }
+}
+
 bool GameReader::Open() {
     QString error;
     if (Files::Size(m_fileName) > kMaxGameSize)
@@ -193,6 +202,7 @@ bool GameReader::ReadMoney() {
         const QString during = QStringLiteral("loading money number ") + QString::number(i);
         if (!ReadRecord(basTAVL::g_oMoney(i), during)) return false;
         if (basTAVL::g_oMoney(i).Index != i) return Fail(QStringLiteral("Line number incorrect"), during);
+        FetchThumbnail(basTAVL::g_oMoney(i).FaceImage);
     }
     return true;
 }
@@ -209,6 +219,7 @@ bool GameReader::ReadTokens() {
         const QString during = QStringLiteral("loading token number ") + QString::number(i);
         if (!ReadRecord(token, during)) return false;
         if (token.Index != i) return Fail(QStringLiteral("Line number incorrect"), during);
+        FetchThumbnail(token.Image);
     }
     return true;
 }

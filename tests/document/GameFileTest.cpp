@@ -251,6 +251,39 @@ TEST_F(LoadTest, LogNamesTheGame) {
     EXPECT_TRUE(ReadFile(basErrLog::ErrLogPath()).contains("Load Game Named: " + game.toUtf8()));
 }
 
+// Makes no thumbnail, but keeps whose was wanted.
+class RecordingMaker : public ThumbnailMaker {
+public:
+    void CreateThumbRotatedTo90(C_Image& image) override { Note(image); }
+    void CreateThumbRotatedTo45(C_Image& image) override { Note(image); }
+    void CreateThumbElliptical(C_Image& image, bool) override { Note(image); }
+    Picture RenderRotated(C_Image&, int) override { return {}; }
+    static RecordingMaker& Instance() {
+        static RecordingMaker maker;
+        return maker;
+    }
+    QStringList wanted;
+
+private:
+    void Note(const C_Image& image) {
+        wanted.append(image.SpaceOrCorner + QString::number(image.Index));
+        if (image.Index == 1) ErrRaise(ErrNumber::kInvalidPicture, QStringLiteral("no picture"));
+    }
+};
+
+TEST_F(LoadTest, ThumbnailsOfNotesAndTokensAreFetchedAndNoneStopsTheLoad) {
+    ThumbnailMaker::Creator before =
+        ThumbnailMaker::Install([]() -> ThumbnailMaker& { return RecordingMaker::Instance(); });
+    WriteFile(QStringLiteral("games/cat.bmp"), "picture");
+    QStringList lines = PlainLines();
+    lines[3] = QStringLiteral("0, \"t\", \"cat.bmp\",0,0,0");
+    lines[60] = QStringLiteral("1, \"a\", \"b\",\"cat.bmp\",0,0,0");
+    lines[63 + 4] = QStringLiteral("4, \"t\", \"cat.bmp\",0,0,0");
+    EXPECT_EQ(Load(WriteGame(lines)), 0);
+    ThumbnailMaker::Install(before);
+    EXPECT_EQ(RecordingMaker::Instance().wanted, (QStringList{QStringLiteral("Money1"), QStringLiteral("Token4")}));
+}
+
 // What the format itself changes in a text, from memory to file and back.
 TEST_F(LoadTest, TitlesAreDecodedTwice) {
     QStringList lines = PlainLines();
