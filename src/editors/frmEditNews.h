@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "document/C_News.h"
+
+#include <QDialog>
+
+class C_FontInfo;
+class PictureBox;
+class QLabel;
+class QLayout;
+class QLineEdit;
+class QPlainTextEdit;
+class QPushButton;
+
+/// Edits one Good News or Bad News card, the title of its deck and the fonts of the deck. The card shows as
+/// it will look while its text is typed into plain boxes beside it. Nothing reaches the game before the
+/// window closes, but for "Set All Fonts".
+class frmEditNews : public QDialog {
+    Q_OBJECT
+
+public:
+    explicit frmEditNews(QWidget* parent = nullptr);
+
+    /// Edits a card (0 to 11) of a deck (0 Good News, 1 Bad News) modally; bChanged tells whether the game has
+    /// changed. Raises the subscript error for any other card.
+    void ShowForm(int iGoodOrBad, int iCard, bool& bChanged);
+
+public Q_SLOTS:
+    /// Escape and the close button do as Cancel does.
+    void reject() override;
+
+private Q_SLOTS:
+    void Redraw();
+    void txtSpace_Change();
+    void txtTitle_Change();
+    void cmdBodyFont_Click();
+    void cmdSetHeadFont_Click();
+    void cmdSetAllFonts_Click();
+    void cmdOK_Click();
+    void cmdCancel_Click();
+
+private:
+    QLayout* MakeBoxes();
+    QLayout* MakeButtons();
+    QPushButton* MakeButton(const char* sName, const QString& sCaption, void (frmEditNews::*click)());
+    void ConnectBoxes();
+    void Fill();
+    void ShowCardText();
+    bool HandBack();
+    void ChangeFont(C_FontInfo& oFont, const QString& sWhat);
+    C_News& Card() const;
+    QString TitleOfDeck() const;
+
+    int m_iGoodOrBad = 0;
+    int m_iCard = 0;
+    /// The card being edited.
+    C_News m_oNews;
+    bool m_bChanged = false;
+    /// While the boxes are filled, their change events are none of the user's.
+    bool m_bLoading = false;
+
+    /// Where the card is painted.
+    PictureBox* cmdPlaceHolder;
+    QLabel* lblTitle;
+    QLineEdit* txtTitle;
+    QPlainTextEdit* txtSpace;
+    QPushButton* cmdOK;
+};
