@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "app/EditorWindows.h"
 #include "app/frmTAVL.h"
 #include "app/services/basErrLog.h"
 #include "app/services/basPath.h"
@@ -38,6 +39,8 @@ int main(int argc, char** argv) {
     desktop.SetAtEnd(std::bind(&ProgramLock::Release, &lock));
 
     frmTAVL window;
+    EditorWindows editors(window);
+    EditorRoutes::Install(&editors);
     QObject::connect(&lock, &ProgramLock::Called, &window, &frmTAVL::CalledByAnotherStart);
     window.Form_Load();
     window.show();

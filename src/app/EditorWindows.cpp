@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#include "app/EditorWindows.h"
+
+#include "editors/frmEditCenter.h"
+#include "editors/frmShowNews.h"
+#include "platform/Desktop.h"
+
+namespace {
+
+bool SayThatItIsToCome(const QString& sWhat) {
+    MsgBox(sWhat + QStringLiteral(" is not part of the program yet."), vbInformation);
+    return false;
+}
+
+} // namespace
+
+bool EditorWindows::EditSpace(int) { return SayThatItIsToCome(QStringLiteral("The editor of spaces")); }
+
+bool EditorWindows::EditCorner(int) { return SayThatItIsToCome(QStringLiteral("The editor of corners")); }
+
+bool EditorWindows::EditCenter() {
+    if (!m_frmEditCenter) m_frmEditCenter = new frmEditCenter(&m_main);
+    bool changed = false;
+    m_frmEditCenter->ShowForm(changed);
+    return changed;
+}
+
+bool EditorWindows::ShowNews(int iGoodOrBad) {
+    if (!m_frmShowNews) m_frmShowNews = new frmShowNews(&m_main);
+    bool changed = false;
+    m_frmShowNews->ShowForm(iGoodOrBad, changed);
+    return changed;
+}
+
+bool EditorWindows::EditMoney() { return SayThatItIsToCome(QStringLiteral("The editor of money")); }
+
+bool EditorWindows::ShowTokens() { return SayThatItIsToCome(QStringLiteral("The editor of tokens")); }
+
+bool EditorWindows::Print() { return SayThatItIsToCome(QStringLiteral("The print console")); }
+
+void EditorWindows::Setup() { SayThatItIsToCome(QStringLiteral("The setup of colours")); }

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/EditorRoutes.h"
+
+class frmEditCenter;
+class frmShowNews;
+class QWidget;
+
+/// The windows behind the main window's doors. Each is made when it is first opened and serves the whole
+/// run.
+class EditorWindows : public EditorRoutes {
+public:
+    explicit EditorWindows(QWidget& main) : m_main(main) {}
+
+    bool EditSpace(int iSpace) override;
+    bool EditCorner(int iCorner) override;
+    bool EditCenter() override;
+    bool ShowNews(int iGoodOrBad) override;
+    bool EditMoney() override;
+    bool ShowTokens() override;
+    bool Print() override;
+    void Setup() override;
+
+private:
+    /// Owns the windows.
+    QWidget& m_main;
+    frmEditCenter* m_frmEditCenter = nullptr;
+    frmShowNews* m_frmShowNews = nullptr;
+};
