@@ -2,9 +2,9 @@
 #include "board/basPositFit.h"
 
 #include "app/services/basErrLog.h"
-#include "app/services/RecordText.h"
 #include "board/basDraw.h"
 #include "board/basPositTables.h"
+#include "document/basTAVL.h"
 #include "platform/Numbers.h"
 
 namespace basPosit {
@@ -72,7 +72,8 @@ void FitSpecialText(CenterTextRecord& record, bool bSubtitle) {
         int limit = CLng(std::abs(reference * double(record.fWidthLimit)));
         if (bSubtitle) limit = CLng(limit * kSubtitleLimitFactor);
         Face{record.Family(), record.bBold, record.bItalic}.Select(h, w);
-        const int measured = basDraw::Draw_GetWidth(record.sText);
+        // As the board shows it: the whole text on one line.
+        const int measured = basDraw::Draw_GetWidth(basTAVL::CRLF2Space(record.sText));
         if (measured > 0 && (record.fWidthLimit < 0 || measured > limit)) w = Scaled(w, limit, measured);
         basDraw::Draw_ReleaseObjects();
     }

@@ -13,8 +13,6 @@
 #include "tools/PrintDesktop.h"
 #include "tools/PrintSheets.h"
 
-#include <QFileInfo>
-
 #include <ostream>
 
 namespace {
@@ -27,6 +25,12 @@ QStringList AllSheets() {
     for (const PrintSheet& sheet : PrintSheets())
         names.append(QString::fromLatin1(sheet.sName));
     return names;
+}
+
+QString TitleOf(const QString& sGame) {
+    QString drive, dir, base, ext;
+    basCommon::FileNameFactor(Console::CompletePath(sGame), drive, dir, base, ext);
+    return base;
 }
 
 // Reads the user's settings and pictures where the window program has them, and keeps everything that is
@@ -147,8 +151,8 @@ int PrintCommand::PrintGame(const PrintArguments& arguments) {
 }
 
 int PrintCommand::PrintSheetsOf(const PrintArguments& arguments, const QStringList& sheets) {
-    PdfPrinter printer(arguments.sOutput, QFileInfo(arguments.sGame).completeBaseName(),
-                       arguments.bA4 ? QPageSize::A4 : QPageSize::Letter, arguments.iDpi);
+    PdfPrinter printer(arguments.sOutput, TitleOf(arguments.sGame), arguments.bA4 ? QPageSize::A4 : QPageSize::Letter,
+                       arguments.iDpi);
     int number = 0;
     for (const QString& name : sheets) {
         const PrintSheet& sheet = *FindPrintSheet(name);

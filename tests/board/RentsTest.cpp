@@ -219,6 +219,15 @@ TEST_F(RentsTest, TitleWordAlwaysSpansItsPartOfTheBox) {
     }
 }
 
+TEST_F(RentsTest, TitleOfTwoLinesIsFittedAsTheOneLineThatTheBoardShows) {
+    PosInit();
+    SetSpecialText(1, QStringLiteral("Summer at the Lake"));
+    const float width = m_CenterText(1).fFontWidth;
+    SetSpecialText(1, QStringLiteral("Summer\r\nat the Lake"));
+    EXPECT_FLOAT_EQ(m_CenterText(1).fFontWidth, width);
+    EXPECT_EQ(m_CenterText(1).iNLines, 2);
+}
+
 TEST_F(RentsTest, SubtitleKeepsItsShapeUntilItIsTooLong) {
     PosInit();
     SetSpecialText(2, QStringLiteral("Short"));
