@@ -22,6 +22,26 @@ int& PretendedMajor() {
     return major;
 }
 
+QList<Volume>& PretendedVolumes() {
+    static QList<Volume> volumes;
+    return volumes;
+}
+
+double& PretendedFreeBytes() {
+    static double bytes = -1;
+    return bytes;
+}
+
+// Root of the volume pretended to hold a path; empty for a path on none of them.
+QString PretendedRootOf(const QString& sPath) {
+    QString root;
+    for (const Volume& volume : PretendedVolumes()) {
+        const bool inside = sPath == volume.sRoot || sPath.startsWith(volume.sRoot + u'/');
+        if (inside && volume.sRoot.size() > root.size()) root = volume.sRoot;
+    }
+    return root;
+}
+
 bool HoldsData(const QString& sFolder) {
     return QFileInfo(QDir(sFolder).filePath(QString::fromLatin1(kDataMark))).isFile();
 }
@@ -66,6 +86,7 @@ QString ProgramDirectory() {
 }
 
 QList<Volume> Volumes() {
+    if (!PretendedVolumes().isEmpty()) return PretendedVolumes();
     QList<Volume> volumes{{Home(), QStringLiteral("Home")}};
     for (const QStorageInfo& volume : QStorageInfo::mountedVolumes()) {
         if (IsForPeople(volume)) volumes.append({volume.rootPath(), volume.displayName()});
@@ -73,7 +94,10 @@ QList<Volume> Volumes() {
     return volumes;
 }
 
+void PretendVolumes(const QList<Volume>& volumes) { PretendedVolumes() = volumes; }
+
 bool OnSameVolume(const QString& sPathA, const QString& sPathB) {
+    if (!PretendedVolumes().isEmpty()) return PretendedRootOf(sPathA) == PretendedRootOf(sPathB);
     return QStorageInfo(NearestExisting(sPathA)).rootPath() == QStorageInfo(NearestExisting(sPathB)).rootPath();
 }
 
@@ -94,7 +118,10 @@ SystemVersion System() {
 int SystemMajorVersion() { return PretendedMajor() > 0 ? PretendedMajor() : System().major; }
 void PretendSystemMajorVersion(int major) { PretendedMajor() = major; }
 
+void PretendFreeBytes(double bytes) { PretendedFreeBytes() = bytes; }
+
 double FreeBytes(const QString& sPath) {
+    if (PretendedFreeBytes() >= 0) return PretendedFreeBytes();
     std::error_code error;
     const std::filesystem::path path(NearestExisting(sPath).toStdU16String());
     const std::filesystem::space_info space = std::filesystem::space(path, error);

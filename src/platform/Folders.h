@@ -24,12 +24,17 @@ struct Volume {
 };
 /// Home, root, removable and network volumes: those that a person would know.
 QList<Volume> Volumes();
+/// Tests say which volumes there are, in place of the machine's; each counts as mounted on its own. An empty
+/// list gives the true ones again.
+void PretendVolumes(const QList<Volume>& volumes);
 /// True when both paths lie on the same mounted volume.
 bool OnSameVolume(const QString& sPathA, const QString& sPathB);
 /// True on a system whose volumes are named by drive letters.
 bool HasDrives();
 /// Bytes that the user may still write on the volume holding sPath; 0 when it can't be told.
 double FreeBytes(const QString& sPath);
+/// Tests say how much is free everywhere; a negative number gives the truth again.
+void PretendFreeBytes(double bytes);
 
 struct SystemVersion {
     int major = 0;
