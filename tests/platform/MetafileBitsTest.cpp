@@ -135,6 +135,8 @@ TEST_F(MetafileBitsTest, WhatCantBeReadIsNoPicture) {
     EXPECT_TRUE(Decode(MetafileBuilder::DibHead(5, 5, 24, 1, {})).isNull());
     EXPECT_TRUE(Decode(MetafileBuilder::DibHead(5, 5, 24, 4, {})).isNull());
     EXPECT_TRUE(Decode(MetafileBuilder::DibHead(30000, 30000, 24, 0, {})).isNull());
+    // Far more pixels than the bytes could mean.
+    EXPECT_TRUE(Decode(MetafileBuilder::DibHead(3000, 3000, 24, 0, {}) + QByteArray(40, 'x')).isNull());
     EXPECT_TRUE(Decode(MetafileBuilder::DibHead(5, -2147483647 - 1, 24, 0, {})).isNull());
 }
 

@@ -175,7 +175,7 @@ TEST_F(MetafileDamageTest, AMegabyteOfStretchedPicturesPlaysWithinASecond) {
     dot.fill(Qt::red);
     const QByteArray small = MetafileBuilder::Dib(dot, 24);
     // A head that promises millions of pixels, and next to none of them.
-    const QByteArray large = MetafileBuilder::DibHead(4000, 4000, 8, 1, {0, 1}) + QByteArray(40, '\xFF');
+    const QByteArray large = MetafileBuilder::DibHead(4000, 4000, 8, 1, {0, 1}) + QByteArray(16'000, '\xFF');
     for (const quint32 operation : {0x00CC0020u, 0x00660046u, 0x00B80000u}) {
         for (const QByteArray& dib : {small, large}) {
             const int side = dib == small ? 1 : 4000;

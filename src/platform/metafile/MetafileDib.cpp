@@ -15,6 +15,7 @@ namespace {
 constexpr quint32 kCoreHeadSize = 12;
 constexpr quint32 kInfoHeadSize = 40;
 constexpr qint64 kUnitsPerPixel = 8;
+constexpr qint64 kMostPixelsPerByte = 1024;
 constexpr qsizetype kPatternBytesWithoutMeaning = 22;
 
 enum Compression : quint32 { kPlain = 0, kRuns8 = 1, kRuns4 = 2, kBitFields = 3 };
@@ -45,9 +46,12 @@ struct Fields {
     BitField blue;
 };
 
-bool HasFittingSize(int width, int height, MetafileBudget& budget) {
+// Whether a picture may be decoded: of a positive size, not beyond what the bytes that follow the head could
+// mean (packed runs reach 128 pixels a byte; a picture cut short is still shown), nor beyond the budget.
+bool HasFittingSize(int width, int height, qsizetype bytes, MetafileBudget& budget) {
     if (width <= 0 || height <= 0) return false;
     const qint64 pixels = qint64(width) * height;
+    if (pixels > (bytes + 1) * kMostPixelsPerByte) return false;
     return pixels <= MetafileDib::kMostPixels && budget.Spend(pixels * kUnitsPerPixel);
 }
 
@@ -246,7 +250,7 @@ QImage ReadDeviceBitmap(MetafileReader& reader, qsizetype skip, QRgb textColour,
     const int bits = reader.U8();
     reader.Skip(skip);
     const bool known = bits == 1 || bits == 16 || bits == 24 || bits == 32;
-    if (reader.Failed() || planes != 1 || !known || !HasFittingSize(width, height, budget)) return {};
+    if (reader.Failed() || planes != 1 || !known || !HasFittingSize(width, height, reader.Left(), budget)) return {};
     if (stride < (qsizetype(width) * bits + 7) / 8) return {};
     QImage image = Blank(width, height);
     const Fields fields =
@@ -271,7 +275,7 @@ QImage MetafileDib::Decode(QByteArrayView dib, quint16 colourUse, const Metafile
     MetafileReader reader(dib);
     Head head;
     if (!ReadHead(reader, head) || !IsReadable(head)) return {};
-    if (!HasFittingSize(head.width, head.height, budget)) return {};
+    if (!HasFittingSize(head.width, head.height, reader.Left(), budget)) return {};
     const Fields fields = ReadFields(reader, head);
     const QList<QRgb> colours = ReadColours(reader, head, colourUse, palette);
     if (reader.Failed()) return {};
