@@ -108,7 +108,9 @@ bool WholeFile::Write(const QByteArray& bytes, QString& sError) {
 
 bool WholeFile::Commit(QString& sError) {
     if (!IsPermitted(Operation::Commit, m_path, sError)) return false;
-    return m_file->commit() || Failed(*m_file, sError);
+    // The toolkit's commit doesn't look whether its buffer reached the disk, and on a full one would put an
+    // empty file in place of the old one.
+    return (m_file->flush() && m_file->commit()) || Failed(*m_file, sError);
 }
 
 bool WriteWhole(const QString& sPath, const QByteArray& bytes, QString& sError) {

@@ -86,7 +86,8 @@ bool PdfPrinter::Close(QString& sError) {
         sError = m_file->errorString();
         return false;
     }
-    if (m_file->commit()) return true;
+    // The commit doesn't look whether the buffer reached the disk.
+    if (m_file->flush() && m_file->commit()) return true;
     sError = m_file->errorString();
     return false;
 }
