@@ -56,14 +56,14 @@ PictureBox::~PictureBox() = default;
 double PictureBox::DotsPerInch() const { return 1440.0 / Screen::kTwipsPerPixel; }
 
 DeviceContext& PictureBox::hDC() {
-    // The toolkit tells a hidden widget its new size only when it is shown.
-    if (m_image.size() != WantedSize()) MakeBacking();
+    KeepBackingFitting();
     // Whoever takes the context is about to draw.
     update();
     return *m_context;
 }
 
 const QImage& PictureBox::Image() {
+    KeepBackingFitting();
     m_context->Flush();
     return m_image;
 }
@@ -74,6 +74,11 @@ double PictureBox::WantedRatio() const { return PretendedRatio() > 0 ? Pretended
 
 QSize PictureBox::WantedSize() const { return (QSizeF(size().expandedTo(QSize(1, 1))) * WantedRatio()).toSize(); }
 
+void PictureBox::KeepBackingFitting() {
+    // The toolkit tells a hidden widget its new size only when it is shown.
+    if (m_image.size() != WantedSize() || m_image.devicePixelRatio() != WantedRatio()) MakeBacking();
+}
+
 void PictureBox::MakeBacking() {
     QImage fresh(WantedSize(), QImage::Format_RGB32);
     fresh.setDevicePixelRatio(WantedRatio());
@@ -81,26 +86,22 @@ void PictureBox::MakeBacking() {
     if (m_context) {
         m_context->Flush();
         QPainter(&fresh).drawImage(QPointF(0, 0), m_image);
+        // The owner draws anew for the other screen, but not from inside a paint event.
+        if (m_image.devicePixelRatio() != fresh.devicePixelRatio())
+            QMetaObject::invokeMethod(this, &PictureBox::BackingChanged, Qt::QueuedConnection);
     }
     m_image = fresh;
     if (!m_context) m_context = std::make_unique<DeviceContext>(m_image);
 }
 
 void PictureBox::paintEvent(QPaintEvent* event) {
-    if (m_image.devicePixelRatio() != WantedRatio()) {
-        MakeBacking();
-        // The owner draws anew, but not from inside a paint event.
-        QMetaObject::invokeMethod(this, &PictureBox::BackingChanged, Qt::QueuedConnection);
-    }
-    m_context->Flush();
+    const QImage& image = Image();
     QPainter painter(this);
     painter.setClipRegion(event->region());
-    painter.drawImage(QPointF(0, 0), m_image);
+    painter.drawImage(QPointF(0, 0), image);
 }
 
-void PictureBox::resizeEvent(QResizeEvent*) {
-    if (m_image.size() != WantedSize()) MakeBacking();
-}
+void PictureBox::resizeEvent(QResizeEvent*) { KeepBackingFitting(); }
 
 void PictureBox::mousePressEvent(QMouseEvent* event) {
     Q_EMIT MouseDown(ButtonNumber(event->button()), ShiftSum(event->modifiers()), Twips(event->position().x()),

@@ -53,6 +53,7 @@ protected:
 
 private:
     void MakeBacking();
+    void KeepBackingFitting();
     double WantedRatio() const;
     QSize WantedSize() const;
 

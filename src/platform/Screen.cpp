@@ -41,14 +41,27 @@ QSize SurfaceLimit() { return TheState().surfaceLimit; }
 void SetSurfaceLimit(QSize limit) { TheState().surfaceLimit = limit.expandedTo(QSize(1, 1)); }
 void PretendBitsPerPixel(int bits) { TheState().pretendedBits = bits; }
 
+namespace {
+
+// What the desktop puts round a window; an estimate until the window has been shown once.
+QSize FrameOf(const QWidget& window) {
+    const QSize known = window.frameGeometry().size() - window.size();
+    if (!known.isNull()) return known;
+    const int border = 2 * QApplication::style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
+    return QSize(border, border + QApplication::style()->pixelMetric(QStyle::PM_TitleBarHeight));
+}
+
+} // namespace
+
 void PlaceWindow(QWidget& window, QRect wanted) {
     const QRect area = FreeArea();
-    wanted.setSize(wanted.size().boundedTo(area.size()));
+    const QSize frame = FrameOf(window);
+    wanted.setSize(wanted.size().boundedTo(area.size() - frame) + frame);
     if (wanted.right() > area.right()) wanted.moveRight(area.right());
     if (wanted.bottom() > area.bottom()) wanted.moveBottom(area.bottom());
     if (wanted.left() < area.left()) wanted.moveLeft(area.left());
     if (wanted.top() < area.top()) wanted.moveTop(area.top());
-    window.resize(wanted.size());
+    window.resize(wanted.size() - frame);
     window.move(wanted.topLeft());
 }
 
