@@ -1,0 +1,511 @@
+// SPDX-License-Identifier: MIT
+// The board as a door to the editors, zoom and scrolling, tool tips, toolbar and menus.
+#include "AppFixture.h"
+
+#include "board/basPositPaint.h"
+
+#include <QLabel>
+#include <QMenuBar>
+#include <QScrollBar>
+#include <QWheelEvent>
+
+namespace {
+
+using Strings = QStringList;
+
+// The middle of a space, in fractions of the board.
+QPointF MiddleOf(int space) {
+    const basPosit::BoardRect& rect = basPosit::m_SpaceRect(space, basPosit::SpacePart::Whole);
+    return {double(rect.x1 + rect.x2) / 2, double(rect.y1 + rect.y2) / 2};
+}
+
+QPointF MiddleOfBox(int box) {
+    const basPosit::BoardRect& rect = basPosit::m_CenterRect(box);
+    return {double(rect.x1 + rect.x2) / 2, double(rect.y1 + rect.y2) / 2};
+}
+
+constexpr struct { double x, y; } kCornerMiddles[] = {{0.89, 0.89}, {0.11, 0.89}, {0.11, 0.11}, {0.89, 0.11}};
+
+class MainWindowTest : public AppTest {
+protected:
+    MainWindowTest() { Start(); }
+    /// Twips of a place in the middle of a toolbar button.
+    static float ButtonX(int button) { return float((ToolBarTable::kRows[size_t(button)].iLeft + 11) * 15); }
+    static constexpr float kButtonY = 12 * 15;
+    PictureBox& ToolBar() const { return Find<PictureBox>("imgToolBar"); }
+    QPoint OnToolBar(int button) const { return {ToolBarTable::kRows[size_t(button)].iLeft + 11, 12}; }
+    void ClickToolBar(int button) const {
+        QTest::mousePress(&ToolBar(), Qt::LeftButton, {}, OnToolBar(button));
+        QTest::mouseRelease(&ToolBar(), Qt::LeftButton, {}, OnToolBar(button));
+    }
+    QString BoardTip() const { return window->Board().toolTip(); }
+    void Wheel(int notches, Qt::KeyboardModifiers modifiers, QPoint at) const {
+        // Only turns of a real wheel climb from the board to its window.
+        const PictureBox& board = window->Board();
+        QWheelEvent event(board.mapTo(window.get(), QPointF(at)), board.mapToGlobal(QPointF(at)), QPoint(),
+                          QPoint(0, notches * 120), Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(window.get(), &event);
+    }
+    Color SeenAt(double fX, double fY) const {
+        const QPoint at = PointOnBoard(fX, fY);
+        return window->Board().hDC().GetPixel(at.x(), at.y());
+    }
+};
+
+TEST_F(MainWindowTest, Edge_VerySmallWindowKeepsTheBoardAt1800Twips) {
+    window->resize(10, 10);
+    EXPECT_EQ(window->Board().size(), QSize(120, 120));
+    // Told straight, where no desktop keeps a window from becoming too small.
+    EXPECT_EQ(ComputeMainLayout({QSize(150, 150), QSize(150, 150), 390, 375}, 1.0F).picBoard.size(), QSize(1800, 1800));
+}
+
+TEST_F(MainWindowTest, Edge_ClickOnAZoomedBoardFindsWhatIsReallyThere) {
+    ChooseMenu("mnuZoom_1");
+    Find<QScrollBar>("hscrl").setValue(32767);
+    Find<QScrollBar>("vscrl").setValue(0);
+    // At the far right and top the visible quarter begins at one half of the board's width.
+    const QPointF space = MiddleOf(22);
+    ClickBoard((space.x() - 0.5) * 2, space.y() * 2);
+    EXPECT_EQ(routes.Take(), Strings{QStringLiteral("space 22")});
+    Find<QScrollBar>("hscrl").setValue(0);
+    Find<QScrollBar>("vscrl").setValue(32767);
+    const QPointF other = MiddleOf(8);
+    ClickBoard(other.x() * 2, (other.y() - 0.5) * 2);
+    EXPECT_EQ(routes.Take(), Strings{QStringLiteral("space 8")});
+}
+
+TEST_F(MainWindowTest, Edge_MouseThatDoesNotMoveChangesNoTip) {
+    const QPointF money = MiddleOfBox(5);
+    const QPoint at = PointOnBoard(money.x(), money.y());
+    window->picBoard_MouseMove(0, 0, float(at.x() * 15), float(at.y() * 15));
+    EXPECT_EQ(BoardTip(), QStringLiteral("Click to edit Money"));
+    window->Board().setToolTip(QStringLiteral("untouched"));
+    window->picBoard_MouseMove(0, 0, float(at.x() * 15), float(at.y() * 15));
+    EXPECT_EQ(BoardTip(), QStringLiteral("untouched"));
+    window->picBoard_MouseMove(0, 0, float(at.x() * 15 + 15), float(at.y() * 15));
+    EXPECT_EQ(BoardTip(), QStringLiteral("Click to edit Money"));
+}
+
+TEST_F(MainWindowTest, Edge_BadNewsButtonOpensGoodNewsWhileToolbarAndBoardOpenBadNews) {
+    ClickButton(2);
+    EXPECT_EQ(Find<QPushButton>("cmd_2").text(), QStringLiteral("&Bad News"));
+    EXPECT_EQ(routes.Take(), Strings{QStringLiteral("news 0")});
+    ClickToolBar(6);
+    EXPECT_EQ(routes.Take(), Strings{QStringLiteral("news 1")});
+    const QPointF box = MiddleOfBox(4);
+    ClickBoard(box.x(), box.y());
+    EXPECT_EQ(routes.Take(), Strings{QStringLiteral("news 1")});
+}
+
+TEST_F(MainWindowTest, Edge_PrinterSetupRefusesAfterPrintingUntilTheNextStart) {
+    int dialogs = 0;
+    desktop.onDialog = [&](CommonDialog&) { return ++dialogs > 0; };
+    ChooseMenu("mnuFile_6");
+    EXPECT_EQ(dialogs, 1);
+    routes.onEdit = [] { return true; };
+    ClickButton(3);
+    EXPECT_EQ(routes.Take(), Strings{QStringLiteral("print")});
+    ChooseMenu("mnuFile_6");
+    EXPECT_EQ(dialogs, 1);
+    ASSERT_EQ(desktop.boxes.size(), 1);
+    EXPECT_EQ(desktop.boxes[0].iStyle, vbInformation);
+    EXPECT_EQ(desktop.boxes[0].sText,
+              QStringLiteral("Sorry, but you can't change printers once you have started the printing process.\r\n"
+                             "Please stop and restart the program before changing printers."));
+    Start();
+    ChooseMenu("mnuFile_6");
+    EXPECT_EQ(dialogs, 2);
+}
+
+TEST_F(MainWindowTest, Edge_PressOnAnEmptyPartOfTheToolbarDoesNothing) {
+    for (const QPoint at : {QPoint(73, 12), QPoint(315, 12), QPoint(10, 0), QPoint(10, 25)}) {
+        QTest::mousePress(&ToolBar(), Qt::LeftButton, {}, at);
+        QTest::mouseRelease(&ToolBar(), Qt::LeftButton, {}, at);
+    }
+    EXPECT_TRUE(routes.Take().isEmpty());
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+    EXPECT_FALSE(desktop.ended) << "the exit face is dead";
+}
+
+TEST_F(MainWindowTest, EverySpaceOpensItsEditorOrSaysWhyNot) {
+    for (int space = 0; space < basTAVL::kSpaces; ++space) {
+        desktop.boxes.clear();
+        const QPointF at = MiddleOf(space);
+        ClickBoard(at.x(), at.y());
+        const bool lotto = space == 10 || space == 24;
+        const bool news = space == 3 || space == 17;
+        if (!lotto && !news) {
+            EXPECT_EQ(routes.Take(), Strings{QStringLiteral("space %1").arg(space)});
+            continue;
+        }
+        EXPECT_TRUE(routes.Take().isEmpty()) << space;
+        ASSERT_EQ(desktop.boxes.size(), 1) << space;
+        EXPECT_EQ(desktop.boxes[0].iStyle, vbInformation);
+        EXPECT_EQ(desktop.boxes[0].sText, lotto ? QStringLiteral("The 'Lottery' spaces cannot be edited.")
+                                                : QStringLiteral("The 'News' spaces cannot be edited."));
+    }
+}
+
+TEST_F(MainWindowTest, EveryCornerAndBoxOpensItsEditor) {
+    for (int corner = 0; corner < 4; ++corner)
+        ClickBoard(kCornerMiddles[corner].x, kCornerMiddles[corner].y);
+    EXPECT_EQ(routes.Take(),
+              (Strings{QStringLiteral("corner 0"), QStringLiteral("corner 1"), QStringLiteral("corner 2")}));
+    EXPECT_EQ(desktop.Texts(), Strings{QStringLiteral("The 'FATE!' space cannot be edited.")});
+    for (int box = 1; box <= 6; ++box) {
+        const QPointF at = MiddleOfBox(box);
+        ClickBoard(at.x(), at.y());
+    }
+    EXPECT_EQ(routes.Take(), (Strings{QStringLiteral("titles"), QStringLiteral("titles"), QStringLiteral("news 0"),
+                                      QStringLiteral("news 1"), QStringLiteral("money"), QStringLiteral("tokens")}));
+    ClickBoard(0.5, 0.45);
+    EXPECT_TRUE(routes.Take().isEmpty()) << "nothing lies there";
+}
+
+TEST_F(MainWindowTest, ChangeIsAutosavedAndSpaceRepaints) {
+    routes.onEdit = [] {
+        basTAVL::g_oSpaces(4).SpaceColor = Color::Rgb(1, 2, 3);
+        basTAVL::g_oSpaces(4).SetText(QStringLiteral("XXXX"));
+        return true;
+    };
+    window->Board().SetBackColor(Color::White());
+    window->EditNews(0);
+    EXPECT_TRUE(HasAutosave());
+    EXPECT_TRUE(window->m_bChanged);
+    const QPointF panel(0.5, 0.45);
+    EXPECT_EQ(SeenAt(panel.x(), panel.y()), Color::White()) << "news don't show on the board";
+    window->EditSpaceText(4);
+    EXPECT_TRUE(HasBackup());
+    EXPECT_EQ(SeenAt(panel.x(), panel.y()), Color::FromValue(0xFFB000));
+}
+
+TEST_F(MainWindowTest, UnchangedRecordIsNotAutosaved) {
+    window->EditSpaceText(4);
+    window->EditCornerText(0);
+    window->EditCenterText();
+    window->EditMoney();
+    window->EditToken();
+    EXPECT_FALSE(HasAutosave());
+    EXPECT_EQ(routes.Take().size(), 5);
+}
+
+TEST_F(MainWindowTest, BoardShowsTheColoursOfItsTables) {
+    EXPECT_EQ(SeenAt(0.5, 0.45), Color::FromValue(0xFFB000)) << "the panel in the middle";
+    EXPECT_EQ(SeenAt(0.01, 0.5), Color::White()) << "outside the board";
+    const basPosit::BoardRect& band = basPosit::m_SpaceRect(0, basPosit::SpacePart::Band);
+    EXPECT_EQ(SeenAt(double(band.x1) + 0.01, double(band.y1 + band.y2) / 2), basPosit::m_lPropColor(0));
+}
+
+TEST_F(MainWindowTest, ZoomShowsScrollBarsAndAPartOfTheBoard) {
+    EXPECT_FALSE(Find<QScrollBar>("hscrl").isVisible());
+    const int whole = window->Board().width();
+    ChooseMenu("mnuZoom_2");
+    EXPECT_FLOAT_EQ(window->m_fZoom, 3.0F);
+    EXPECT_TRUE(Find<QScrollBar>("hscrl").isVisible());
+    EXPECT_TRUE(Find<QScrollBar>("vscrl").isVisible());
+    EXPECT_EQ(window->Board().width(), whole - 16);
+    EXPECT_EQ(Find<QScrollBar>("vscrl").geometry().left(), window->Board().geometry().right() + 1);
+    Find<QScrollBar>("hscrl").setValue(32767);
+    EXPECT_EQ(basPosit::GetOffsetX(), -2 * window->Board().width());
+    EXPECT_EQ(SeenAt(0.99, 0.5), Color::White()) << "the margin at the right of the board";
+    ChooseMenu("mnuZoom_0");
+    EXPECT_FALSE(Find<QScrollBar>("hscrl").isVisible());
+    EXPECT_EQ(basPosit::GetOffsetX(), 0);
+    window->mnuZoom_Click(3);
+    window->mnuView_Click(0);
+    EXPECT_FLOAT_EQ(window->m_fZoom, 1.0F);
+}
+
+TEST_F(MainWindowTest, WheelZoomsWithCtrlAndScrollsWithout) {
+    const QPointF at = MiddleOf(5);
+    const QPoint mouse = PointOnBoard(at.x(), at.y());
+    Wheel(1, Qt::ControlModifier, mouse);
+    EXPECT_FLOAT_EQ(window->m_fZoom, 2.0F);
+    QTest::mouseClick(&window->Board(), Qt::LeftButton, {}, mouse);
+    EXPECT_EQ(routes.Take(), Strings{QStringLiteral("space 5")}) << "what was under the mouse stays there";
+    Wheel(9, Qt::ControlModifier, mouse);
+    EXPECT_FLOAT_EQ(window->m_fZoom, 4.0F);
+    Find<QScrollBar>("vscrl").setValue(0);
+    Wheel(-1, {}, mouse);
+    EXPECT_GT(Find<QScrollBar>("vscrl").value(), 0);
+    Find<QScrollBar>("hscrl").setValue(0);
+    Wheel(-1, Qt::ShiftModifier, mouse);
+    EXPECT_GT(Find<QScrollBar>("hscrl").value(), 0);
+    Wheel(-9, Qt::ControlModifier, mouse);
+    EXPECT_FLOAT_EQ(window->m_fZoom, 1.0F);
+}
+
+TEST_F(MainWindowTest, KeysScrollAZoomedBoard) {
+    const QScrollBar& across = Find<QScrollBar>("hscrl");
+    const QScrollBar& down = Find<QScrollBar>("vscrl");
+    PictureBox& board = window->Board();
+    QTest::keyClick(&board, Qt::Key_Right);
+    EXPECT_EQ(across.value(), 0) << "nothing to scroll";
+    ChooseMenu("mnuZoom_1");
+    QTest::keyClick(&board, Qt::Key_Right);
+    QTest::keyClick(&board, Qt::Key_Down);
+    EXPECT_EQ(across.value(), across.singleStep());
+    EXPECT_EQ(down.value(), down.singleStep());
+    QTest::keyClick(&board, Qt::Key_PageDown);
+    EXPECT_EQ(down.value(), down.maximum());
+    QTest::keyClick(&board, Qt::Key_PageUp);
+    QTest::keyClick(&board, Qt::Key_Up);
+    QTest::keyClick(&board, Qt::Key_Left);
+    EXPECT_EQ(down.value(), 0);
+    EXPECT_EQ(across.value(), 0);
+    QTest::keyClick(&board, Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_EQ(across.value(), across.maximum());
+}
+
+TEST_F(MainWindowTest, TipsOfTheBoardNameWhatIsUnderTheMouse) {
+    const struct {
+        QPointF at;
+        QString tip;
+        QString box;
+    } places[] = {
+        {MiddleOf(10), QStringLiteral("'Lottery' cannot be edited"), QString()},
+        {MiddleOf(17), QStringLiteral("'News' cannot be edited"), QString()},
+        {MiddleOf(0), QStringLiteral("Click to edit\"") + basPosit::m_Rent(0).DefaultName + u'"',
+         QStringLiteral("Click to edit\r\n'") + basPosit::m_Rent(0).DefaultName + u'\''},
+        {{0.89, 0.89}, QStringLiteral("Click to edit'Start'"), QStringLiteral("Click to edit\r\n\"Start\"")},
+        {{0.11, 0.89}, QStringLiteral("Click to edit'Lose Turn'"), QStringLiteral("Click to edit\r\n\"Lose Turn\"")},
+        {{0.11, 0.11}, QStringLiteral("Click to edit'Free Space'"), QStringLiteral("Click to edit\r\n\"Free Space\"")},
+        {{0.89, 0.11}, QStringLiteral("'Fate!' cannot be edited"), QStringLiteral("Click to edit\r\n\"Fate!\"")},
+        {MiddleOfBox(1), QStringLiteral("Click to edit Titles"), QStringLiteral("Click to edit\r\nTitles")},
+        {MiddleOfBox(3), QStringLiteral("Click to edit 'Good News'"), QStringLiteral("Click to edit\r\nGood News")},
+        {MiddleOfBox(4), QStringLiteral("Click to edit 'Bad News'"), QStringLiteral("Click to edit\r\nBad News")},
+        {MiddleOfBox(5), QStringLiteral("Click to edit Money"), QStringLiteral("Click to edit\r\nMoney")},
+        {MiddleOfBox(6), QStringLiteral("Click to edit Tokens"), QStringLiteral("Click to edit\r\nTokens")},
+    };
+    auto& box = Find<QLabel>("txtToolTip");
+    for (const auto& place : places) {
+        const QString before = box.text();
+        MoveOnBoard(place.at.x(), place.at.y());
+        EXPECT_EQ(BoardTip(), place.tip);
+        EXPECT_EQ(box.text(), place.box.isEmpty() ? before : place.box);
+        EXPECT_FALSE(box.isVisible());
+    }
+    MoveOnBoard(0.5, 0.45);
+    EXPECT_EQ(BoardTip(), QString());
+}
+
+TEST_F(MainWindowTest, TipsGoAfterASecondAndSevenMore) {
+    const QPointF money = MiddleOfBox(5);
+    MoveOnBoard(money.x(), money.y());
+    EXPECT_EQ(window->TimerInterval(), 1000);
+    window->Timer1_Timer();
+    EXPECT_EQ(window->TimerInterval(), 7000);
+    EXPECT_FALSE(BoardTip().isEmpty());
+    window->Timer1_Timer();
+    EXPECT_EQ(window->TimerInterval(), 0);
+    EXPECT_TRUE(BoardTip().isEmpty());
+    const QPointF lotto = MiddleOf(10);
+    MoveOnBoard(lotto.x(), lotto.y());
+    EXPECT_EQ(window->TimerInterval(), 0) << "nothing editable";
+    ChooseMenu("mnuView_6");
+    MoveOnBoard(money.x(), money.y());
+    EXPECT_EQ(window->TimerInterval(), 0) << "switched off";
+    EXPECT_FALSE(Find<QAction>("mnuView_6").isChecked());
+    ChooseMenu("mnuView_6");
+    MoveOnBoard(money.x() + 0.01, money.y());
+    EXPECT_EQ(window->TimerInterval(), 1000);
+}
+
+TEST_F(MainWindowTest, HitTestTellsWhetherAnythingChanged) {
+    const float side = float(window->Board().width() * 15);
+    window->WhatIsMouseOver(side * 0.5F, side * 0.45F);
+    EXPECT_FALSE(window->m_bOverSomething);
+    const QPointF space = MiddleOf(4);
+    window->WhatIsMouseOver(side * float(space.x()), side * float(space.y()));
+    EXPECT_TRUE(window->m_bOverChanged);
+    EXPECT_TRUE(window->m_bOverSomething);
+    EXPECT_EQ(window->Over().m_iOverSpace, 4);
+    window->WhatIsMouseOver(side * float(space.x()) + 15, side * float(space.y()));
+    EXPECT_FALSE(window->m_bOverChanged);
+}
+
+TEST_F(MainWindowTest, ToolbarButtonsRunTheirCommands) {
+    ClickToolBar(4);
+    ClickToolBar(5);
+    ClickToolBar(7);
+    ClickToolBar(3);
+    EXPECT_EQ(routes.Take(), (Strings{QStringLiteral("money"), QStringLiteral("news 0"), QStringLiteral("tokens"),
+                                      QStringLiteral("print")}));
+    for (int zoom : {4, 3, 2, 1}) {
+        ClickToolBar(7 + zoom);
+        EXPECT_FLOAT_EQ(window->m_fZoom, float(zoom));
+    }
+    QStringList dialogs;
+    desktop.onDialog = [&](const CommonDialog& dialog) {
+        dialogs.append(dialog.sDialogTitle);
+        return false;
+    };
+    ClickToolBar(1);
+    ClickToolBar(2);
+    EXPECT_EQ(dialogs, (Strings{QStringLiteral("Open Game"), QStringLiteral("Save Game Under New Name")}));
+    window->m_sGameName = QStringLiteral("/old");
+    ClickToolBar(0);
+    EXPECT_TRUE(window->m_sGameName.endsWith(QStringLiteral("Game1.gam")));
+}
+
+TEST_F(MainWindowTest, ToolbarFramesTheButtonUnderTheMouse) {
+    auto& top = Find<QWidget>("linButTop");
+    auto& right = Find<QWidget>("linButRight");
+    EXPECT_FALSE(top.isVisible());
+    QTest::mouseMove(&ToolBar(), OnToolBar(1));
+    EXPECT_TRUE(top.isVisible());
+    EXPECT_EQ(top.geometry().topLeft(), QPoint(25, 2));
+    EXPECT_EQ(right.x(), 47);
+    EXPECT_EQ(top.palette().window().color(), QColor(Qt::white));
+    EXPECT_EQ(ToolBar().toolTip(), QStringLiteral("Open Previous Game"));
+    EXPECT_EQ(Find<QLabel>("txtToolTip").text(), QStringLiteral("Existing\r\nGame"));
+    EXPECT_EQ(window->TimerInterval(), 1000);
+    QTest::mousePress(&ToolBar(), Qt::LeftButton, {}, OnToolBar(1));
+    EXPECT_EQ(top.palette().window().color(), QColor(128, 128, 128));
+    QTest::mouseMove(&ToolBar(), QPoint(73, 12));
+    EXPECT_FALSE(top.isVisible());
+    EXPECT_EQ(ToolBar().toolTip(), QString());
+    QTest::mouseRelease(&ToolBar(), Qt::LeftButton, {}, QPoint(73, 12));
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+}
+
+TEST_F(MainWindowTest, ToolbarTableHoldsEveryTipAndItsTwoWords) {
+    const Strings tips{QStringLiteral("New Game"),
+                       QStringLiteral("Open Previous Game"),
+                       QStringLiteral("Save Current Game"),
+                       QStringLiteral("Print"),
+                       QStringLiteral("Edit Money"),
+                       QStringLiteral("Edit Good News Cards"),
+                       QStringLiteral("Edit Bad News Cards"),
+                       QStringLiteral("Edit Tokens"),
+                       QStringLiteral("Zoom 1X"),
+                       QStringLiteral("Zoom 2X"),
+                       QStringLiteral("Zoom 3x"),
+                       QStringLiteral("Zoom 4X")};
+    for (int i = 0; i < ToolBarTable::kLiveButtons; ++i) {
+        QTest::mouseMove(&ToolBar(), OnToolBar(i));
+        EXPECT_EQ(ToolBar().toolTip(), tips[i]);
+    }
+}
+
+TEST_F(MainWindowTest, MenusCarryTheirCaptionsAndShortcuts) {
+    const struct {
+        const char* name;
+        const char* caption;
+        const char* shortcut;
+        bool acts;
+    } items[] = {
+        {"mnuTop_0", "&File", "", true},
+        {"mnuFile_0", "&New...", "Ctrl+N", true},
+        {"mnuFile_1", "New Geme &Wizard", "", false},
+        {"mnuFile_2", "&Open...", "Ctrl+O", true},
+        {"mnuFile_3", "&Save", "Ctrl+S", true},
+        {"mnuFile_4", "Save &As...", "Ctrl+Shift+S", true},
+        {"mnuFile_6", "P&rinter Setup", "", true},
+        {"mnuFile_7", "&Print...", "Ctrl+P", true},
+        {"mnuFile_9", "E&xit", "Ctrl+Q", true},
+        {"mnuTop_1", "&View", "", true},
+        {"mnuView_0", "&Zoom...", "", true},
+        {"mnuZoom_0", "&1X", "Ctrl+1", true},
+        {"mnuZoom_3", "&4X", "Ctrl+4", true},
+        {"mnuView_1", "&Money", "", true},
+        {"mnuView_2", "&Good News", "", true},
+        {"mnuView_3", "&Bad News", "", true},
+        {"mnuView_4", "&Token", "", true},
+        {"mnuView_6", "&Tool Tips", "", true},
+        {"mnuView_8", "&Setup", "", true},
+        {"mnuView_9", "&About...", "", true},
+        {"mnuTop_2", "&Help", "", true},
+        {"mnuHelp_0", "&About...", "", true},
+        {"mnuHelp_1", "A&ssembly Instructions", "", true},
+        {"mnuHelp_2", "&Print Instruction Manual", "", false},
+    };
+    for (const auto& item : items) {
+        const auto& action = Find<QAction>(item.name);
+        EXPECT_EQ(action.text(), QString::fromLatin1(item.caption)) << item.name;
+        EXPECT_EQ(action.shortcut().toString(), QString::fromLatin1(item.shortcut)) << item.name;
+        EXPECT_EQ(action.isEnabled(), item.acts) << item.name;
+    }
+    for (const char* separator : {"mnuFile_5", "mnuFile_8", "mnuView_5", "mnuView_7"})
+        EXPECT_TRUE(Find<QAction>(separator).isSeparator()) << separator;
+}
+
+TEST_F(MainWindowTest, MenusRunTheirCommands) {
+    for (const char* item : {"mnuView_1", "mnuView_2", "mnuView_3", "mnuView_4", "mnuView_8", "mnuFile_7"})
+        ChooseMenu(item);
+    EXPECT_EQ(routes.Take(), (Strings{QStringLiteral("money"), QStringLiteral("news 0"), QStringLiteral("news 1"),
+                                      QStringLiteral("tokens"), QStringLiteral("setup"), QStringLiteral("print")}));
+    for (const int nothing : {1, 5, 8})
+        window->mnuFile_Click(nothing);
+    window->mnuHelp_Click(2);
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+}
+
+TEST_F(MainWindowTest, UnknownIndexEndsTheProgram) {
+    const struct {
+        void (frmTAVL::*click)(int);
+        int index;
+        const char* message;
+    } calls[] = {{&frmTAVL::mnuFile_Click, 10, "Unexpected mnu_File"},
+                 {&frmTAVL::mnuView_Click, 10, "Unexpected Case"},
+                 {&frmTAVL::mnuHelp_Click, 3, "Unexpected Case"},
+                 {&frmTAVL::cmd_Click, 5, "Unexpected Case"}};
+    for (const auto& call : calls) {
+        EXPECT_THROW((window.get()->*call.click)(call.index), ProgramEnded);
+        EXPECT_TRUE(desktop.boxes.last().sText.contains(QString::fromLatin1(call.message)));
+    }
+}
+
+TEST_F(MainWindowTest, ButtonsRunTheirCommands) {
+    ClickButton(0);
+    ClickButton(1);
+    EXPECT_EQ(routes.Take(), (Strings{QStringLiteral("money"), QStringLiteral("news 0")}));
+    EXPECT_THROW(ClickButton(4), ProgramEnded);
+    EXPECT_TRUE(desktop.boxes.isEmpty()) << "no question";
+}
+
+TEST_F(MainWindowTest, ExitOfTheMenuAsksFirst) {
+    desktop.answers = {vbNo};
+    ChooseMenu("mnuFile_9");
+    EXPECT_FALSE(desktop.ended);
+    EXPECT_EQ(desktop.Texts(), Strings{QStringLiteral("Are you certain you want to exit Tavlora at this time?")});
+    desktop.answers = {vbYes};
+    EXPECT_THROW(ChooseMenu("mnuFile_9"), ProgramEnded);
+}
+
+TEST_F(MainWindowTest, PrintIsRefusedWhileChangesAreUnsaved) {
+    Edit(QStringLiteral("One"));
+    ClickButton(3);
+    EXPECT_EQ(desktop.Texts(), Strings{QStringLiteral("Please save your changes before printing.")});
+    EXPECT_TRUE(routes.Take().isEmpty());
+}
+
+TEST_F(MainWindowTest, WindowCantBeClosedWhileAPageIsPrinted) {
+    window->bInPrint = true;
+    window->close();
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_FALSE(desktop.ended);
+}
+
+TEST_F(MainWindowTest, MessagesOfAPaintComeWhenItIsDone) {
+    basTAVL::g_oSpaces(5).Image.Let_FullPath(QString());
+    desktop.boxes.clear();
+    window->Redraw();
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+    EXPECT_FALSE(QApplication::overrideCursor()) << "the hourglass is gone";
+}
+
+TEST_F(MainWindowTest, NothingIsClippedAtTheUsualSize) {
+    for (const QSize size : {QSize(600, 600), QSize(700, 500), QSize(400, 700)}) {
+        window->resize(size);
+        const QRect inside = window->centralWidget()->rect();
+        for (int i = 0; i < MainLayout::kButtons; ++i) {
+            const auto& button = Find<QPushButton>(qPrintable(QStringLiteral("cmd_%1").arg(i)));
+            EXPECT_TRUE(inside.contains(button.geometry())) << i << " at " << size.width();
+            EXPECT_GE(button.y(), window->Board().geometry().bottom());
+        }
+        EXPECT_TRUE(inside.contains(window->Board().geometry()));
+    }
+}
+
+} // namespace

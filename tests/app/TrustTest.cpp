@@ -1,0 +1,250 @@
+// SPDX-License-Identifier: MIT
+// Nothing that anybody has done is ever lost: whatever fails on the disk, and wherever the program ends.
+#include "AppFixture.h"
+
+#include "platform/Files.h"
+
+#include <QDirIterator>
+#include <QStorageInfo>
+
+#include <cstdlib>
+
+#ifdef Q_OS_UNIX
+#include <sys/wait.h>
+#include <unistd.h>
+#endif
+
+namespace {
+
+const QString kOldText = QStringLiteral("As saved");
+const QString kFirstEdit = QStringLiteral("First edit");
+const QString kLastEdit = QStringLiteral("Last edit");
+constexpr int kStatusOfTheEnd = 7;
+
+class TrustTest : public AppTest {
+protected:
+    enum class Step { Autosave, Save };
+
+    void StartWithSavedGame() {
+        WriteGame(QStringLiteral("Mine.gam"), kOldText);
+        SetIni(QStringLiteral("GameName"), InGames(QStringLiteral("Mine.gam")));
+        Start();
+        Edit(kFirstEdit);
+    }
+    /// The step during which things go wrong. Errors that reach the top are reported there, as in a window.
+    void Do(Step step) const {
+        try {
+            if (step == Step::Autosave) {
+                Edit(kLastEdit);
+            } else {
+                basTAVL::g_oSpaces(4).SetText(kFirstEdit);
+                ChooseMenu("mnuFile_3");
+            }
+        } catch (const TavloraError&) {
+            ErrTop("TrustTest!", "Do");
+        }
+    }
+    /// How many operations on files a step takes.
+    int CountOperations(Step step) {
+        StartWithSavedGame();
+        int count = 0;
+        Files::SetFaultHook([&](Files::Operation, const QString&) {
+            ++count;
+            return std::optional<QString>();
+        });
+        Do(step);
+        Files::SetFaultHook({});
+        return count;
+    }
+    void CleanUp() {
+        ForgetTheRun();
+        QDirIterator files(PathOf(QStringLiteral("games")), QDir::Files | QDir::Hidden);
+        while (files.hasNext())
+            QFile::remove(files.next());
+        desktop.boxes.clear();
+        desktop.answers.clear();
+    }
+    /// Texts of space 4 in all games that lie whole in the My Games directory.
+    QStringList TextsOnDisk() const {
+        QStringList texts;
+        QDirIterator files(PathOf(QStringLiteral("games")),
+                           {QStringLiteral("Mine.gam"), QStringLiteral("~AutoSave.*"), QStringLiteral("Rescued*")},
+                           QDir::Files | QDir::Hidden);
+        while (files.hasNext()) {
+            const QByteArray bytes = ReadFile(files.next());
+            if (bytes.count("\r\n") != 69 || !bytes.endsWith("\r\n")) continue;
+            for (const QString& text : {kOldText, kFirstEdit, kLastEdit}) {
+                if (bytes.contains("4, \"" + text.toUtf8() + '"')) texts.append(text);
+            }
+        }
+        return texts;
+    }
+    /// What must still be there: the last saved state, or the last state that was autosaved.
+    void ExpectRecovered(Step step, const std::string& when) {
+        const QStringList onDisk = TextsOnDisk();
+        EXPECT_TRUE(onDisk.contains(kFirstEdit) || onDisk.contains(kLastEdit)) << when;
+        // And the next start finds it without help, unless it was put aside, which the log tells.
+        ForgetTheRun();
+        desktop.answers.clear();
+        Start();
+        const QString found = TextOfSpace4();
+        const bool putAside =
+            !QDir(PathOf(QStringLiteral("games"))).entryList({QStringLiteral("Rescued*")}, QDir::Files).isEmpty();
+        EXPECT_TRUE(found == kFirstEdit || (step == Step::Autosave && found == kLastEdit) || putAside)
+            << when << ": " << found.toStdString();
+        EXPECT_EQ(window->m_iLoadResult, 0) << when;
+    }
+    void FailEachOperationOf(Step step) {
+        const int count = CountOperations(step);
+        ASSERT_GT(count, 3);
+        for (const char* reason : {"No space left on device", "Permission denied", "Input/output error"}) {
+            for (int fail = 0; fail < count; ++fail) {
+                CleanUp();
+                StartWithSavedGame();
+                int at = 0;
+                Files::SetFaultHook([&](Files::Operation, const QString&) -> std::optional<QString> {
+                    if (at++ != fail) return std::nullopt;
+                    return QString::fromLatin1(reason);
+                });
+                Do(step);
+                Files::SetFaultHook({});
+                ExpectRecovered(step, std::string(reason) + " at operation " + std::to_string(fail));
+            }
+        }
+    }
+#ifdef Q_OS_UNIX
+    /// The exit status of a step done by a process of its own that ends at one of its operations, at once, as
+    /// by a power cut.
+    int StatusOfAnEndAt(int end, Step step) {
+        const pid_t child = fork();
+        if (child == 0) {
+            int at = 0;
+            Files::SetFaultHook([&](Files::Operation, const QString&) {
+                if (at++ == end) std::_Exit(kStatusOfTheEnd);
+                return std::optional<QString>();
+            });
+            Do(step);
+            std::_Exit(0);
+        }
+        int status = 0;
+        waitpid(child, &status, 0);
+        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    }
+    void EndTheProgramAtEachOperationOf(Step step) {
+        const int count = CountOperations(step);
+        ASSERT_GT(count, 3);
+        for (int end = 0; end < count; ++end) {
+            CleanUp();
+            StartWithSavedGame();
+            EXPECT_EQ(StatusOfAnEndAt(end, step), kStatusOfTheEnd);
+            ExpectRecovered(step, "ended at operation " + std::to_string(end));
+        }
+    }
+#else
+    void EndTheProgramAtEachOperationOf(Step) { GTEST_SKIP() << "needs a process of its own"; }
+#endif
+};
+
+TEST_F(TrustTest, EveryFailureOfASaveLeavesTheWorkRecoverable) { FailEachOperationOf(Step::Save); }
+TEST_F(TrustTest, EveryFailureOfAnAutosaveLeavesTheWorkRecoverable) { FailEachOperationOf(Step::Autosave); }
+TEST_F(TrustTest, EndAtAnyMomentOfASaveLeavesTheWorkRecoverable) { EndTheProgramAtEachOperationOf(Step::Save); }
+TEST_F(TrustTest, EndAtAnyMomentOfAnAutosaveLeavesTheWorkRecoverable) {
+    EndTheProgramAtEachOperationOf(Step::Autosave);
+}
+
+TEST_F(TrustTest, FailedAutosaveIsToldAndTheEditGoesOn) {
+    StartWithSavedGame();
+    Files::SetFaultHook([](Files::Operation operation, const QString&) -> std::optional<QString> {
+        if (operation == Files::Operation::OpenWrite) return QStringLiteral("No space left on device");
+        return std::nullopt;
+    });
+    Edit(kLastEdit);
+    Files::SetFaultHook({});
+    ASSERT_EQ(desktop.boxes.size(), 1);
+    EXPECT_TRUE(desktop.boxes[0].sText.contains(QStringLiteral("No space left on device")));
+    EXPECT_EQ(TextOfSpace4(), kLastEdit);
+    EXPECT_TRUE(window->m_bChanged);
+}
+
+TEST_F(TrustTest, YesAtTheExitQuestionWithAFailingSaveKeepsTheWork) {
+    StartWithSavedGame();
+    Files::SetFaultHook([this](Files::Operation operation, const QString& path) -> std::optional<QString> {
+        if (operation == Files::Operation::OpenWrite && path == InGames(QStringLiteral("Mine.gam")))
+            return QStringLiteral("Permission denied");
+        return std::nullopt;
+    });
+    desktop.answers = {vbYes};
+    bool ok = true;
+    window->OkToEndProgram(ok);
+    Files::SetFaultHook({});
+    EXPECT_FALSE(ok);
+    EXPECT_FALSE(window->m_bChanged) << "as told, whether or not the save worked";
+    EXPECT_TRUE(HasFile(QStringLiteral("Rescued Mine.gam")));
+    EXPECT_TRUE(Log().contains(QStringLiteral("Rescued Mine.gam")));
+}
+
+TEST_F(TrustTest, FullDiskLosesNothing) {
+#ifdef Q_OS_LINUX
+    if (geteuid() != 0) GTEST_SKIP() << "only root can mount a small disk";
+    QDir(folder.path()).mkdir(QStringLiteral("small"));
+    const QString disk = PathOf(QStringLiteral("small"));
+    if (std::system(qPrintable(QStringLiteral("mount -t tmpfs -o size=96k tmpfs '%1' 2>/dev/null").arg(disk))) != 0)
+        GTEST_SKIP() << "this machine mounts no small disk";
+    Settings().sMyGamesDirectory = disk;
+    ForgetTheRun();
+    Settings().sProgramName = QStringLiteral("tavlora");
+    const QString game = disk + QStringLiteral("/Mine.gam");
+    WriteGame(QStringLiteral("Mine.gam"), kOldText);
+    QFile::copy(InGames(QStringLiteral("Mine.gam")), game);
+    QFile::remove(disk + QStringLiteral("/MoneyBg.bmp"));
+    SetIni(QStringLiteral("GameName"), game);
+    Start();
+    EXPECT_EQ(TextOfSpace4(), kOldText);
+    Edit(kFirstEdit);
+    // Fill what is left.
+    QFile filler(disk + QStringLiteral("/filler"));
+    ASSERT_TRUE(filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+    while (filler.write(QByteArray(512, 'x')) == 512) {
+    }
+    filler.close();
+    desktop.boxes.clear();
+    ChooseMenu("mnuFile_3");
+    const QByteArray saved = ReadFile(game);
+    EXPECT_EQ(saved.count("\r\n"), 69) << "the old file stands whole, or the new one does";
+    QByteArray all = saved;
+    QDirIterator files(disk, QDir::Files | QDir::Hidden);
+    while (files.hasNext())
+        all += ReadFile(files.next());
+    EXPECT_TRUE(all.contains(kFirstEdit.toUtf8())) << "the work is still on the disk";
+    window.reset();
+    EXPECT_EQ(std::system(qPrintable(QStringLiteral("umount '%1'").arg(disk))), 0);
+#else
+    GTEST_SKIP() << "needs a small disk to fill";
+#endif
+}
+
+TEST_F(TrustTest, ReadOnlyGamesFolderStartsAndTellsWhenItCantSave) {
+    WriteGame(QStringLiteral("Mine.gam"), kOldText);
+    SetIni(QStringLiteral("GameName"), InGames(QStringLiteral("Mine.gam")));
+    SetIni(QStringLiteral("ShowSplash"), QStringLiteral("false"));
+    // Root may write anywhere, so the disk's refusal is played.
+    Files::SetFaultHook([this](Files::Operation operation, const QString& path) -> std::optional<QString> {
+        const bool reads = operation == Files::Operation::OpenRead || operation == Files::Operation::Read;
+        const bool removesNothing = operation == Files::Operation::Remove && !QFileInfo::exists(path);
+        if (reads || removesNothing || !path.startsWith(PathOf(QStringLiteral("games")))) return std::nullopt;
+        return QStringLiteral("Permission denied");
+    });
+    Start(QStringLiteral("tavlora"), QString());
+    EXPECT_EQ(TextOfSpace4(), kOldText);
+    EXPECT_TRUE(desktop.boxes.isEmpty()) << "starting changes nothing that anybody would miss";
+    Edit(kFirstEdit);
+    ChooseMenu("mnuFile_3");
+    ASSERT_EQ(desktop.boxes.size(), 2);
+    for (const TestDesktop::Box& box : desktop.boxes)
+        EXPECT_TRUE(box.sText.contains(QStringLiteral("Permission denied")));
+    EXPECT_TRUE(window->m_bChanged);
+    Files::SetFaultHook({});
+    EXPECT_TRUE(TextsOnDisk().contains(kOldText));
+}
+
+} // namespace
