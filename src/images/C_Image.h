@@ -134,6 +134,8 @@ public:
 private:
     bool HasKnownKind() const;
     bool NeedsThumbnail() const;
+    /// Zoom and centre, to be compared.
+    QString PartShown() const;
     /// In pixels.
     int LongerThumbSide() const;
     /// True for a corner whose picture belongs to the kit.

@@ -9,6 +9,8 @@
 #include "platform/LoadPicture.h"
 #include "platform/Surface.h"
 
+#include <QHash>
+
 #include <cmath>
 
 namespace {
@@ -27,6 +29,18 @@ ThumbnailMaker& Maker() {
     return Creator()();
 }
 
+// What each thumbnail made in this run was made of, by its path. Two images can belong to one owner, as an
+// editor's copy does, and an owner can change hands: the file's date alone doesn't prove it theirs.
+struct Origin {
+    QString sPath;
+    QString sPart;
+};
+
+QHash<QString, Origin>& MadeOf() {
+    static QHash<QString, Origin> origins;
+    return origins;
+}
+
 } // namespace
 
 ThumbnailMaker::Creator ThumbnailMaker::Install(ThumbnailMaker::Creator creator) {
@@ -42,9 +56,14 @@ int C_Image::LongerThumbSide() const {
     return SpaceOrCorner == QStringLiteral("Money") ? kMoneyHeight : kThumbSide;
 }
 
+QString C_Image::PartShown() const { return QStringLiteral("%1 %2 %3").arg(m_iZoom).arg(m_fXCenter).arg(m_fYCenter); }
+
 bool C_Image::NeedsThumbnail() const {
+    const QString sThumb = Thumbname();
+    const auto origin = MadeOf().constFind(sThumb);
+    if (origin != MadeOf().constEnd() && (origin->sPath != m_sFullPath || origin->sPart != PartShown())) return true;
     const Files::Stamp picture = Files::StampOf(Files::InDiskSpelling(m_sFullPath));
-    const Files::Stamp thumbnail = Files::StampOf(Thumbname());
+    const Files::Stamp thumbnail = Files::StampOf(sThumb);
     return thumbnail == Files::Stamp() || thumbnail.modifiedMs < picture.modifiedMs;
 }
 
@@ -70,6 +89,7 @@ QString C_Image::GetThumbnail(bool bGrayOnly) try {
     } else {
         basErrLog::ErrUnexVal(QStringLiteral("SpaceOrCorner"), SpaceOrCorner);
     }
+    MadeOf().insert(sThumb, {m_sFullPath, PartShown()});
     return sThumb;
 } catch (...) {
     ErrTail("C_Image!", "GetThumbnail", bGrayOnly);

@@ -116,9 +116,36 @@ void frmBMP::CreateThumbElliptical(C_Image& oImage, bool bGray) try {
 }
 
 Picture frmBMP::RenderRotated(C_Image& oImage, int lSide) try {
-    return basCommon::DoesFileExist(oImage.FullPath()) ? Picture(Rotated(oImage, lSide)) : Picture();
+    const Files::Stamp stamp = Files::StampOf(Files::InDiskSpelling(oImage.FullPath()));
+    if (stamp == Files::Stamp()) return {};
+    const auto look = [&oImage, lSide] {
+        return std::array<int, 5>{oImage.Zoom(), int(oImage.XCenter()), int(oImage.YCenter()), oImage.Orient(), lSide};
+    };
+    const auto kept = std::find_if(m_renderings.begin(), m_renderings.end(), [&](const Rendering& rendering) {
+        return rendering.sPath == oImage.FullPath() && rendering.stamp == stamp && rendering.look == look();
+    });
+    if (kept != m_renderings.end()) {
+        m_renderings.splice(m_renderings.begin(), m_renderings, kept);
+    } else {
+        const QImage image = Rotated(oImage, lSide);
+        // Painting may have centred the picture: the look is that of afterwards.
+        m_renderings.push_front({oImage.FullPath(), stamp, look(), image});
+        DropOldRenderings();
+    }
+    return Picture(m_renderings.front().image);
 } catch (...) {
     ErrTail("frmBMP!", "RenderRotated", oImage, lSide);
+}
+
+// Room for the 32 pictures of a board as large as a screen; at least the newest stays.
+void frmBMP::DropOldRenderings() {
+    constexpr qint64 kMaxBytes = qint64(48) << 20;
+    qint64 bytes = 0;
+    for (auto rendering = m_renderings.begin(); rendering != m_renderings.end();) {
+        bytes += rendering->image.sizeInBytes();
+        const bool drops = bytes > kMaxBytes && rendering != m_renderings.begin();
+        rendering = drops ? m_renderings.erase(rendering) : std::next(rendering);
+    }
 }
 
 void frmBMP::DeleteThumb(const QString& sThumb) {

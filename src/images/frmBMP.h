@@ -2,8 +2,10 @@
 #pragma once
 
 #include "images/C_Image.h"
+#include "platform/Files.h"
 #include "platform/PictureHolder.h"
 
+#include <array>
 #include <list>
 
 class BinaryFile;
@@ -35,15 +37,24 @@ public:
     static void GetSpaceFromArrayCoordinates(int iBlock, int iRow, int iCol, int& iSpace);
 
 private:
-    struct Rendering;
+    /// A rotated rendering kept in memory, so that a board that is painted again isn't turned again.
+    struct Rendering {
+        QString sPath;
+        Files::Stamp stamp;
+        std::array<int, 5> look; ///< Zoom, centre, orientation and side.
+        QImage image;
+    };
 
     QImage Drawn(C_Image& oImage, QSize size, Color backColor);
     QImage DrawnSquare(C_Image& oImage, int lSide);
     QImage Rotated(C_Image& oImage, int lSide);
+    void DropOldRenderings();
     static void DeleteThumb(const QString& sThumb);
     static void WriteFileHead(BinaryFile& file, int lWidth, int lHeight);
     static void WriteInfoHead(BinaryFile& file, int lWidth, int lHeight);
     static void WriteThumb(const QString& sThumb, const QImage& image);
 
     PictureHolder picOriginal;
+    /// Used last stands first.
+    std::list<Rendering> m_renderings;
 };

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "platform/PictureDecoder.h"
 
+#include "platform/Metafile.h"
 #include "platform/PictureFormat.h"
 #include "platform/Resample.h"
 
 #include <QBuffer>
 #include <QColorSpace>
 #include <QImageReader>
+#include <QPainter>
 
 #include <mutex>
 
@@ -72,6 +74,27 @@ Picture Reduced(const QImage& image, int longerSideWanted) {
     return Picture(Resample(image, QRectF(image.rect()), size), image.size());
 }
 
+// A drawing has no pixels of its own: it gets as many as are wanted, on nothing.
+Picture DecodeMetafile(const QByteArray& bytes, int longerSideWanted, QString& sError) {
+    constexpr int kLongerSide = 1200;
+    const std::optional<Metafile> metafile = Metafile::FromBytes(bytes, sError);
+    if (!metafile) return {};
+    const QSize told = metafile->PlaceableSize();
+    const QSize shape = told.isEmpty() ? QSize(1, 1) : told;
+    const int side = longerSideWanted == kAllPixels ? kLongerSide : std::min(longerSideWanted, 2 * kLongerSide);
+    QImage image(shape.scaled(side, side, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)),
+                 QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+    if (!metafile->Play(painter, QRectF(image.rect()))) {
+        sError = QStringLiteral("The metafile holds nothing that can be drawn");
+        return {};
+    }
+    painter.end();
+    return Picture(image, shape.scaled(kLongerSide, kLongerSide, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
+}
+
 } // namespace
 
 int ReductionFor(int longerSide, int longerSideWanted) {
@@ -100,8 +123,9 @@ Picture Decode(const QByteArray& bytes, int longerSideWanted, QString& sError) {
             const Picture picture = DecodeHeif(bytes, sError);
             return picture.IsNull() ? picture : Reduced(picture.Image(), longerSideWanted);
         }
-        case PictureFormat::Unknown:
         case PictureFormat::Metafile:
+            return DecodeMetafile(bytes, longerSideWanted, sError);
+        case PictureFormat::Unknown:
             sError = QStringLiteral("The file does not hold a picture of a known kind");
             return {};
         default:

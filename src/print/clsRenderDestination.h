@@ -59,6 +59,12 @@ public:
     /// A picture file stretched to a box. A missing or unreadable file draws nothing and raises nothing.
     void OutputFromBMP(const QString& sPath, double dblX, double dblY, double dblWidth, double dblHeight);
 
+    /// The text of title record iItem (0 to 16) in one line, stretched in both directions to a filled box
+    /// inside its margin, whatever the text's own proportions.
+    void SingleLine(int iItem, const QString& sFontName, bool bBold, bool bItalic, double dblX, double dblY,
+                    double dblWidth, double dblHeight, double dblFontHeight, double dblMargin, Color lForeColor,
+                    Color lBackColor);
+
     /// Text wrapped at blanks into lWidth. Consumes vText and moves lY below the block. sAlign "L", "C", "R".
     void TextBlock(QString& vText, int lX, int& lY, int lWidth, const QString& sFontName, int lLineHeight, bool bBold,
                    bool bItalic, const QString& sAlign);

@@ -206,6 +206,17 @@ TEST_F(C_ImagePaintTest, ThumbnailIsMadeWhenMissingOrOlderThanThePicture) {
     EXPECT_EQ(Files::Size(thumb), 30054) << "an older one is made anew";
 }
 
+TEST_F(C_ImagePaintTest, ThumbnailOfAnotherPictureIsNeverTakenOver) {
+    C_Image first;
+    first.Init(WriteFile(QStringLiteral("q.png"), Encoded(Quarters(300, 300), "png")), QStringLiteral("Space"), 0);
+    first.GetThumbnail(false);
+    C_Image second;
+    second.Init(Photo(QStringLiteral("p.png"), 300, 300), QStringLiteral("Space"), 0);
+    QString error;
+    EXPECT_EQ(LoadPicture(second.GetThumbnail(false), error).Image().pixel(80, 80), qRgb(255, 0, 0));
+    EXPECT_EQ(LoadPicture(first.GetThumbnail(false), error).Image().pixel(80, 80), kWhite);
+}
+
 TEST_F(C_ImagePaintTest, ThumbnailOfAnUnknownKindRaises) {
     C_Image image;
     image.Init(Photo(QStringLiteral("p.png"), 30, 20), QStringLiteral("Balloon"), 1);

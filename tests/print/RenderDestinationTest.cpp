@@ -4,9 +4,12 @@
 #include "app/services/basErrLog.h"
 #include "board/basPositTables.h"
 #include "board/DrawDottedBox.h"
+#include "platform/Files.h"
 #include "platform/Printer.h"
 #include "platform/ProgramSettings.h"
 #include "support/TestFixture.h"
+
+#include <QProcess>
 
 namespace {
 
@@ -79,6 +82,48 @@ TEST_F(RenderDestinationTest, ABoxOfATitleRecordIsFilledAndHoldsItsLines) {
     EXPECT_EQ(form.hDC().GetPixel(97, 97), Color::Rgb(255, 255, 0));
     EXPECT_TRUE(QRect(96, 96, 192, 96).contains(Ink()));
     EXPECT_NEAR(Ink().center().x(), 192, 3);
+    basPosit::ResetTablesForTest();
+}
+
+TEST_F(RenderDestinationTest, Edge_AVeryLongSingleLineIsSqueezedIntoItsBox) {
+    basPosit::m_CenterText(1).sText = QStringLiteral("MMMMMMMMMM ").repeated(20).trimmed();
+    destination.SingleLine(1, sArial, false, false, 1, 1, 2, 0.5, 0.5, 0.05, Color::Black(), Color::Rgb(255, 255, 0));
+    // 192 by 48 pixels with a margin of 5.
+    EXPECT_TRUE(QRect(96 + 5, 96 + 5, 192 - 10, 48 - 10).contains(Ink()));
+    EXPECT_GT(Ink().width(), 170);
+    EXPECT_EQ(form.hDC().GetPixel(97, 97), Color::Rgb(255, 255, 0));
+    basPosit::ResetTablesForTest();
+}
+
+TEST_F(RenderDestinationTest, ASingleLineFillsItsBoxWhateverItsProportions) {
+    basPosit::m_CenterText(0).sText = QStringLiteral("H\r\nH");
+    destination.SingleLine(0, sArial, true, false, 1, 1, 4, 1, 0.5, 0, Color::Black(), Color::White());
+    EXPECT_GT(Ink().width(), 300);
+    EXPECT_GT(Ink().height(), 60);
+    EXPECT_FALSE(Files::Exists(PathOf(QStringLiteral("TempTextBMP0.temp"))));
+    basPosit::m_CenterText(2).sText = QStringLiteral("Sub");
+    destination.SingleLine(2, sArial, true, false, 1, 1, 4, 1, 0.5, 0, Color::Black(), Color::White());
+    EXPECT_TRUE(Files::Exists(PathOf(QStringLiteral("TempBMP2.temp"))));
+    basPosit::ResetTablesForTest();
+}
+
+TEST_F(RenderDestinationTest, ASingleLineIsPrintedAsText) {
+    basPosit::m_CenterText(1).sText = QStringLiteral("Tavloton");
+    const QString path = PathOf(QStringLiteral("line.pdf"));
+    {
+        PdfPrinter printer(path, QStringLiteral("line"));
+        clsRenderDestination onPrinter;
+        onPrinter.Init(printer, 1.0);
+        onPrinter.SingleLine(1, sArial, false, false, 1, 1, 4, 1, 0.5, 0.05, Color::Black(), Color::White());
+        printer.EndDoc();
+        QString error;
+        ASSERT_TRUE(printer.Close(error)) << qPrintable(error);
+    }
+    QProcess pdftotext;
+    pdftotext.start(QStringLiteral("pdftotext"), {path, QStringLiteral("-")});
+    if (!pdftotext.waitForStarted()) GTEST_SKIP() << "pdftotext isn't installed";
+    pdftotext.waitForFinished();
+    EXPECT_TRUE(QString::fromUtf8(pdftotext.readAllStandardOutput()).contains(QStringLiteral("Tavloton")));
     basPosit::ResetTablesForTest();
 }
 
