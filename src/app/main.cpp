@@ -3,6 +3,7 @@
 #include "app/frmTAVL.h"
 #include "app/services/basErrLog.h"
 #include "app/services/basPath.h"
+#include "images/frmBMP.h"
 #include "platform/Application.h"
 #include "platform/DesktopWidgets.h"
 #include "platform/Folders.h"
@@ -38,6 +39,7 @@ int main(int argc, char** argv) {
     }
     desktop.SetAtEnd(std::bind(&ProgramLock::Release, &lock));
 
+    frmBMP::InstallAsThumbnailMaker();
     frmTAVL window;
     EditorWindows editors(window);
     EditorRoutes::Install(&editors);

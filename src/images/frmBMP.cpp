@@ -5,6 +5,7 @@
 #include "app/services/basPath.h"
 #include "document/basTAVL.h"
 #include "images/basBMP.h"
+#include "images/basBMP_metafile.h"
 #include "images/clsBMP.h"
 #include "images/frmBMP_turning.h"
 #include "platform/BinaryFile.h"
@@ -56,6 +57,11 @@ void frmBMP::InstallAsThumbnailMaker() {
 QImage frmBMP::Drawn(C_Image& oImage, QSize size, Color backColor) {
     ScratchForm form(size);
     form.SetBackColor(backColor);
+    if (oImage.IsWMF()) {
+        QString vBadPath = oImage.BadPath();
+        basBMP::BMP_DrawWMF(form.hDC(), oImage.FullPath(), vBadPath, 0, 0, size.width(), size.height());
+        return form.Image();
+    }
     oImage.PaintPictureZoomed(form, picOriginal, ScaleModeKind::Pixels, 0, 0, size.width(), size.height(),
                               Color::None());
     picOriginal.Picture = Picture();

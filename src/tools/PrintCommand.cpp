@@ -6,6 +6,7 @@
 #include "board/basPosit.h"
 #include "document/GameFile.h"
 #include "document/GameSession.h"
+#include "images/frmBMP.h"
 #include "platform/Console.h"
 #include "platform/Folders.h"
 #include "platform/ProgramSettings.h"
@@ -143,6 +144,7 @@ int PrintCommand::PrintGame(const PrintArguments& arguments) {
     const QStringList sheets =
         arguments.sheets.isEmpty() && !arguments.sOutput.isEmpty() ? AllSheets() : arguments.sheets;
     GameSession session;
+    frmBMP::InstallAsThumbnailMaker();
     session.m_sGameName = Console::CompletePath(arguments.sGame);
     basPosit::PosSethDC(&session.MeasuringDevice());
     basPosit::PosInit();

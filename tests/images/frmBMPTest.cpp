@@ -7,6 +7,7 @@
 #include "images/frmBMP_turning.h"
 #include "platform/Files.h"
 #include "platform/LoadPicture.h"
+#include "support/MetafileBuilder.h"
 #include "support/PictureFiles.h"
 #include "support/TestFixture.h"
 
@@ -212,6 +213,17 @@ TEST_F(frmBMPTest, GreyOvalIsTheMeanOfTheColours) {
     frmBMP::Instance().CreateThumbElliptical(image, true);
     QString error;
     EXPECT_EQ(LoadPicture(image.Thumbname(), error).Image().pixel(100, 100), qRgb(30, 30, 30));
+}
+
+TEST_F(frmBMPTest, MetafileFillsTheWholeThumbnail) {
+    MetafileBuilder drawing(50, 50);
+    drawing.NullPen().Brush(Color::Rgb(255, 0, 0)).Rectangle(0, 0, 26, 26);
+    const QImage thumb = Thumb(drawing.Placeable(), QStringLiteral("a.wmf"), QStringLiteral("Space"), 14);
+    EXPECT_EQ(thumb.pixel(90, 90), kRed) << "turned upside down";
+    EXPECT_EQ(thumb.pixel(10, 10), kBoard);
+    const QImage oval = Thumb(drawing.Placeable(), QStringLiteral("b.wmf"), QStringLiteral("Token"), 1);
+    EXPECT_EQ(oval.pixel(60, 60), kRed);
+    EXPECT_EQ(oval.pixel(140, 140), kBoard);
 }
 
 TEST_F(frmBMPTest, MissingPictureMakesNoFileAndIsTold) {

@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: MIT
+// How fast the pictures of a board become thumbnails.
+//   TAVLORA_BENCH_PHOTOS=FOLDER tavlora_bench --benchmark_filter=Thumbnail
+// Each run starts with nothing kept in memory. PeakMB is the peak memory of the process so far above what it
+// had before the first picture.
+#include "images/C_Image.h"
+#include "images/frmBMP.h"
+#include "platform/LoadPicture.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QDir>
+#include <QFile>
+#include <vector>
+
+namespace {
+
+constexpr int kSpaces = 28;
+
+QStringList& Photos() {
+    static QStringList photos;
+    return photos;
+}
+
+double PeakMegabytes() {
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (!status.open(QIODevice::ReadOnly)) return 0;
+    for (const QByteArray& line : status.readAll().split('\n')) {
+        if (line.startsWith("VmHWM:")) return line.mid(6).simplified().split(' ').first().toDouble() / 1024;
+    }
+    return 0;
+}
+
+double IdleMegabytes() {
+    static const double megabytes = PeakMegabytes();
+    return megabytes;
+}
+
+void OneThumbnail(benchmark::State& state, const QString& sPhoto) {
+    frmBMP::InstallAsThumbnailMaker();
+    IdleMegabytes();
+    C_Image image;
+    image.Init(sPhoto, QStringLiteral("Space"), 3);
+    for (auto step : state) {
+        state.PauseTiming();
+        ForgetPictures();
+        image.Let_Zoom(1);
+        image.Let_Zoom(0); // deletes the thumbnail
+        state.ResumeTiming();
+        benchmark::DoNotOptimize(image.GetThumbnail(false));
+    }
+    state.counters["PeakMB"] = PeakMegabytes() - IdleMegabytes();
+}
+
+void WholeBoard(benchmark::State& state) {
+    frmBMP::InstallAsThumbnailMaker();
+    IdleMegabytes();
+    std::vector<C_Image> images(kSpaces);
+    for (int i = 0; i < kSpaces; ++i)
+        images[size_t(i)].Init(Photos()[i % Photos().size()], QStringLiteral("Space"), qint16(i));
+    for (auto step : state) {
+        state.PauseTiming();
+        ForgetPictures();
+        for (C_Image& image : images) {
+            image.Let_Zoom(1);
+            image.Let_Zoom(0);
+        }
+        state.ResumeTiming();
+        for (const C_Image& image : images)
+            image.PrepareThumbnail();
+        for (C_Image& image : images)
+            benchmark::DoNotOptimize(image.GetThumbnail(false));
+    }
+    state.counters["PeakMB"] = PeakMegabytes() - IdleMegabytes();
+}
+
+} // namespace
+
+namespace {
+
+// Only where photographs are given; they are no part of the project.
+const bool kRegistered = [] {
+    const QDir folder(qEnvironmentVariable("TAVLORA_BENCH_PHOTOS"));
+    if (folder.path().isEmpty() || folder.path() == QStringLiteral(".")) return false;
+    for (const QString& name : folder.entryList({QStringLiteral("*.jpg")}, QDir::Files, QDir::Name))
+        Photos().append(folder.absoluteFilePath(name));
+    constexpr int kSingles = 5;
+    for (const QString& photo : Photos().mid(0, kSingles)) {
+        const std::string name = "Thumbnail/" + photo.section(u'/', -1).toStdString();
+        benchmark::RegisterBenchmark(name.c_str(), [photo](benchmark::State& state) {
+            OneThumbnail(state, photo);
+        })->Unit(benchmark::kMillisecond);
+    }
+    if (!Photos().isEmpty())
+        benchmark::RegisterBenchmark("ThumbnailsOfABoard", WholeBoard)->Unit(benchmark::kMillisecond)->UseRealTime();
+    return !Photos().isEmpty();
+}();
+
+} // namespace
