@@ -2,6 +2,7 @@
 #include "platform/BinaryFile.h"
 
 #include "platform/Files.h"
+#include "platform/LoadPicture.h"
 
 #include <QFile>
 #include <QtEndian>
@@ -19,6 +20,7 @@ bool BinaryFile::Open(const QString& sPath, Mode mode, QString& sError) {
     const bool reads = mode == Mode::Read;
     if (!Files::IsPermitted(reads ? Files::Operation::OpenRead : Files::Operation::OpenWrite, sPath, sError))
         return false;
+    if (!reads) ForgetPicture(sPath);
     m_file->setFileName(Files::InDiskSpelling(sPath));
     const QIODevice::OpenMode how = reads                     ? QIODevice::ReadOnly
                                     : mode == Mode::WriteOver ? QIODevice::ReadWrite

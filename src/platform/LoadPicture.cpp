@@ -85,6 +85,8 @@ void PrefetchPicture(const QString& sPath, int longerSideWanted) {
     QThreadPool::globalInstance()->start([key] { PictureCache::Instance().Fulfil(key, Decode(key)); });
 }
 
+void ForgetPicture(const QString& sPath) { PictureCache::Instance().Drop(sPath); }
+
 void ForgetPictures() {
     QThreadPool::globalInstance()->waitForDone();
     PictureCache::Instance().Clear();

@@ -19,5 +19,9 @@ void PrefetchPicture(const QString& sPath, int longerSideWanted = kAllPixels);
 /// recording on with its pixels. The recordings kept last are bounded in number.
 void KeepRecording(const QString& sPath, std::shared_ptr<const Recording> recording);
 
+/// Drops what is kept of a file that is about to be written: two versions of one size within a tick of the
+/// clock can't be told apart.
+void ForgetPicture(const QString& sPath);
+
 /// Waits for all prefetching and drops all kept pictures.
 void ForgetPictures();

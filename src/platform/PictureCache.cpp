@@ -77,6 +77,15 @@ void PictureCache::DropOldest() {
     }
 }
 
+void PictureCache::Drop(const QString& sPath) {
+    const std::scoped_lock lock(m_mutex);
+    m_slots.remove_if([this, &sPath](const Slot& slot) {
+        const bool drops = slot.ready && slot.key.sPath == sPath;
+        if (drops) m_bytes -= BytesOf(slot.entry);
+        return drops;
+    });
+}
+
 void PictureCache::Clear() {
     const std::scoped_lock lock(m_mutex);
     m_slots.remove_if([](const Slot& slot) { return slot.ready; });

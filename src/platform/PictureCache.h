@@ -36,6 +36,7 @@ public:
     /// Announces that the caller will call Fulfil. False when it is kept or announced already.
     bool Reserve(const Key& key);
     void Fulfil(const Key& key, Entry entry);
+    void Drop(const QString& sPath);
     void Clear();
     qint64 Bytes() const;
 
