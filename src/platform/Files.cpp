@@ -27,6 +27,14 @@ bool HasTrash() {
     return !data.isEmpty() && QDir().mkpath(data);
 }
 
+// Renaming over a device would replace the device by a file, and one may be read for ever.
+bool IsNoSpecialFile(const QString& sPath, QString& sError) {
+    const QFileInfo info(sPath);
+    if (!info.exists() || info.isFile()) return true;
+    sError = info.isDir() ? QStringLiteral("It is a folder, not a file") : QStringLiteral("It is no regular file");
+    return false;
+}
+
 } // namespace
 
 FaultHook SetFaultHook(FaultHook hook) {
@@ -42,6 +50,8 @@ bool IsPermitted(Operation operation, const QString& sPath, QString& sError) {
 }
 
 bool Exists(const QString& sPath) { return !sPath.isEmpty() && QFileInfo(sPath).isFile(); }
+
+bool CanBeReplaced(const QString& sPath, QString& sError) { return IsNoSpecialFile(sPath, sError); }
 
 bool IsDirectory(const QString& sPath) { return !sPath.isEmpty() && QFileInfo(sPath).isDir(); }
 
@@ -70,10 +80,7 @@ Stamp StampOf(const QString& sPath) {
 
 std::optional<QByteArray> ReadAll(const QString& sPath, QString& sError) {
     if (!IsPermitted(Operation::OpenRead, sPath, sError)) return std::nullopt;
-    if (IsDirectory(sPath)) {
-        sError = QStringLiteral("It is a folder, not a file");
-        return std::nullopt;
-    }
+    if (!IsNoSpecialFile(sPath, sError)) return std::nullopt;
     QFile file(InDiskSpelling(sPath));
     if (!file.open(QIODevice::ReadOnly)) {
         Failed(file, sError);
@@ -97,7 +104,7 @@ WholeFile::~WholeFile() {
 }
 
 bool WholeFile::Open(QString& sError) {
-    if (!IsPermitted(Operation::OpenWrite, m_path, sError)) return false;
+    if (!IsPermitted(Operation::OpenWrite, m_path, sError) || !CanBeReplaced(m_path, sError)) return false;
     return m_file->open(QIODevice::WriteOnly) || Failed(*m_file, sError);
 }
 

@@ -38,6 +38,9 @@ bool IsPermitted(Operation operation, const QString& sPath, QString& sError);
 /// True for a file, not for a directory. The case of letters counts.
 bool Exists(const QString& sPath);
 bool IsDirectory(const QString& sPath);
+/// True where there is no file yet, or a regular one. False and a sentence in sError for a folder or a
+/// device, over which no file must ever be renamed.
+bool CanBeReplaced(const QString& sPath, QString& sError);
 /// The path in the spelling that the disk has: the exact name goes first; if just one name in the folder
 /// differs only in case, that one is meant. Unchanged when there is no such file.
 QString InDiskSpelling(const QString& sPath);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/Printer.h"
 
+#include "platform/Files.h"
+
 #include <QPageLayout>
 #include <QPdfWriter>
 #include <QSaveFile>
@@ -23,7 +25,11 @@ PdfPrinter::PdfPrinter(const QString& sPath, const QString& sTitle, QPageSize::P
 PdfPrinter::~PdfPrinter() { KillDoc(); }
 
 bool PdfPrinter::OpenFile() {
-    if (!m_file->open(QIODevice::WriteOnly)) return false;
+    if (!Files::CanBeReplaced(m_file->fileName(), m_openError)) return false;
+    if (!m_file->open(QIODevice::WriteOnly)) {
+        m_openError = m_file->errorString();
+        return false;
+    }
     m_writer = std::make_unique<QPdfWriter>(m_file.get());
     m_writer->setResolution(m_dpi);
     m_writer->setTitle(m_title);
@@ -83,7 +89,7 @@ bool PdfPrinter::Close(QString& sError) {
     m_writer.reset();
     m_pageOpen = false;
     if (!m_file->isOpen()) {
-        sError = m_file->errorString();
+        sError = m_openError;
         return false;
     }
     // The commit doesn't look whether the buffer reached the disk.

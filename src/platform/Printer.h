@@ -70,6 +70,7 @@ private:
     bool m_pageOpen = false;
     int m_pages = 0;
     std::unique_ptr<QSaveFile> m_file;
+    QString m_openError;
     std::unique_ptr<QPdfWriter> m_writer;
     std::unique_ptr<QPainter> m_painter;
     std::unique_ptr<DeviceContext> m_context;

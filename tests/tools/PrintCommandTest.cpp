@@ -111,6 +111,20 @@ TEST_F(PrintCommandTest, OutputThatCantBeWrittenGivesOneLineAndStatusOne) {
     }
 }
 
+TEST_F(PrintCommandTest, DeviceIsNeitherReadNorReplaced) {
+    // A link, so that a fault of the guard would harm the test's own folder only.
+    const QString link = PathOf(QStringLiteral("out/link"));
+    if (!QFile::exists(QStringLiteral("/dev/zero")) || !QFile::link(QStringLiteral("/dev/zero"), link))
+        GTEST_SKIP() << "this system has no such device";
+    EXPECT_EQ(PrintRules(link), 1);
+    ASSERT_EQ(errors.size(), 1);
+    EXPECT_TRUE(errors[0].contains(QStringLiteral("It is no regular file"))) << errors[0].toStdString();
+    EXPECT_EQ(Run({game, QStringLiteral("--sheet"), QStringLiteral("rules"), QStringLiteral("-o"), link}), 1);
+    EXPECT_EQ(errors, QStringList{QStringLiteral("tavlora-print: '") + link +
+                                  QStringLiteral("' could not be written: It is no regular file")});
+    EXPECT_FALSE(Save(link));
+}
+
 TEST_F(PrintCommandTest, GameIsNeverOverwrittenByItsOwnPrint) {
     const QByteArray before = ReadFile(game);
     EXPECT_EQ(Run({game, QStringLiteral("--sheet"), QStringLiteral("rules"), QStringLiteral("-o"), game}), 2);
