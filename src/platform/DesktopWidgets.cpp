@@ -6,6 +6,7 @@
 #include <QEventLoop>
 #include <QFileDialog>
 #include <QFontDialog>
+#include <QFontInfo>
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -129,7 +130,11 @@ bool DesktopWidgets::ShowOpen(CommonDialog& dialog) { return ShowFileDialog(dial
 bool DesktopWidgets::ShowSave(CommonDialog& dialog) { return ShowFileDialog(dialog, QFileDialog::AcceptSave); }
 
 bool DesktopWidgets::ShowFont(CommonDialog& dialog) {
+    // A family that this machine lacks shows as the one that stands in for it, and the game keeps its name
+    // unless another is chosen.
     QFont font(dialog.sFontName);
+    const QString shown = QFontInfo(font).family();
+    font.setFamily(shown);
     font.setPointSizeF(dialog.fFontSize);
     font.setBold(dialog.bFontBold);
     font.setItalic(dialog.bFontItalic);
@@ -137,7 +142,7 @@ bool DesktopWidgets::ShowFont(CommonDialog& dialog) {
     if (!dialog.sDialogTitle.isEmpty()) window.setWindowTitle(dialog.sDialogTitle);
     if (window.exec() != QDialog::Accepted) return false;
     const QFont chosen = window.selectedFont();
-    dialog.sFontName = chosen.family();
+    if (chosen.family() != shown) dialog.sFontName = chosen.family();
     dialog.fFontSize = float(chosen.pointSizeF());
     dialog.bFontBold = chosen.bold();
     dialog.bFontItalic = chosen.italic();
