@@ -29,6 +29,8 @@ constexpr int kCardLeftTwips = 240;
 constexpr int kCardTopTwips = 240;
 // Boxes wide enough for a line of a card that is still easy to read.
 constexpr int kBoxesWidth = 320;
+// Shows some ten lines of text, and little but the card beside them.
+constexpr int kHeight = 290;
 
 QPoint CardCorner() {
     return {CLng(double(kCardLeftTwips) / Screen::kTwipsPerPixel),
@@ -72,7 +74,7 @@ frmEditNews::frmEditNews(QWidget* parent)
     cmdPlaceHolder->setFixedSize(basTAVL::kNewsCardWidth + 2 * CardCorner().x(),
                                  basTAVL::kNewsCardHeight + 2 * CardCorner().y());
     ConnectBoxes();
-    adjustSize();
+    resize(sizeHint().width(), kHeight);
     basCommon::ShowEntireForm(*this);
 }
 
@@ -82,10 +84,9 @@ QLayout* frmEditNews::MakeBoxes() {
     // Lines end where Enter was pressed, as they do on the card.
     txtSpace->setLineWrapMode(QPlainTextEdit::NoWrap);
     txtSpace->setTabChangesFocus(true);
-    WidgetLook::SetToolTip(*txtSpace, QStringLiteral("Press Enter where a line of the card ends"));
     txtSpace->setMinimumWidth(kBoxesWidth);
     lblTitle->setBuddy(txtTitle);
-    auto* const lblText = new QLabel(QStringLiteral("Te&xt of this card:"), this);
+    auto* const lblText = new QLabel(QStringLiteral("Te&xt of this card (Enter starts a new line):"), this);
     lblText->setBuddy(txtSpace);
 
     auto* const boxes = new QVBoxLayout;
