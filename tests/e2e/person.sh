@@ -1,0 +1,102 @@
+# Sourced by the tests that act as a person in front of the real program: a display of its own, a fresh home
+# folder, and words for what a person does and sees. Usage: source person.sh PROGRAM DATA_FOLDER
+
+set -euo pipefail
+
+program=$1
+data=$2
+home=$(mktemp -d)
+games="$home/Documents/My Games"
+pids=()
+
+clean_up() {
+    # The program first: it would complain about a display that is gone.
+    for ((i = ${#pids[@]} - 1; i >= 0; i--)); do
+        kill "${pids[$i]}" 2>/dev/null || true
+        wait "${pids[$i]}" 2>/dev/null || true
+    done
+    rm -rf "$home"
+}
+trap clean_up EXIT
+
+fail() {
+    echo "FAILED: $*" >&2
+    xdotool search --onlyvisible --name . getwindowname %@ 2>/dev/null | sed 's/^/  open window: /' >&2 || true
+    [ -n "${E2E_PICTURES:-}" ] && import -window root "$E2E_PICTURES/failed.png"
+    exit 1
+}
+
+open_display() {
+    mkdir -p "$games" "$home/runtime"
+    chmod 700 "$home/runtime"
+    export HOME=$home XDG_RUNTIME_DIR=$home/runtime QT_QPA_PLATFORM=xcb QT_SCALE_FACTOR=1
+    unset XDG_CONFIG_HOME XDG_DATA_HOME XDG_DOCUMENTS_DIR
+    Xvfb -displayfd 3 -screen 0 1280x1024x24 3>"$home/display" 2>/dev/null &
+    pids+=($!)
+    local i
+    for ((i = 0; i < 100; i++)); do
+        [ -s "$home/display" ] && break
+        sleep 0.1
+    done
+    DISPLAY=:$(cat "$home/display")
+    export DISPLAY
+    openbox 2>/dev/null &
+    pids+=($!)
+    # Neither the welcome nor the splash stands in the way of a test that isn't about them.
+    printf '[tavlora]\r\nShowSplash=false\r\n' >"$games/tavlora.ini"
+}
+
+start_program() {
+    "$program" "$@" 2>>"$home/errors" &
+    pids+=($!)
+    program_pid=$!
+}
+
+# Waits until a window with this title has come, and makes it the one that the keys go to.
+see_window() {
+    local i
+    for ((i = 0; i < 150; i++)); do
+        window=$(xdotool search --onlyvisible --name "$1" 2>/dev/null | tail -1) || true
+        if [ -n "$window" ]; then
+            xdotool windowactivate --sync "$window" 2>/dev/null || true
+            sleep 0.3
+            return
+        fi
+        sleep 0.2
+    done
+    fail "no window \"$1\""
+}
+
+see_no_window() {
+    local i
+    for ((i = 0; i < 150; i++)); do
+        [ -n "$(xdotool search --onlyvisible --name "$1" 2>/dev/null)" ] || return 0
+        sleep 0.2
+    done
+    fail "the window \"$1\" is still open"
+}
+
+press() { xdotool key --delay 30 "$@"; }
+type_text() { xdotool type --delay 15 "$1"; }
+
+# Clicks at fractions of the width and height of the window seen last.
+click_at() {
+    local X Y WIDTH HEIGHT SCREEN WINDOW
+    eval "$(xdotool getwindowgeometry --shell "$window")"
+    xdotool mousemove --window "$window" "$(awk "BEGIN { print int($1 * $WIDTH) }")" \
+        "$(awk "BEGIN { print int($2 * $HEIGHT) }")" click 1
+}
+
+picture_of_window() { import -window "$window" "$1"; }
+
+wait_for_end() {
+    local i
+    for ((i = 0; i < 150; i++)); do
+        kill -0 "$program_pid" 2>/dev/null || return 0
+        sleep 0.2
+    done
+    fail "the program is still running"
+}
+
+# The line must stand in the file, to the letter.
+expect_in_file() { grep -qF -- "$2" "$1" || fail "\"$2\" is not in $(basename "$1"): $(head -3 "$1")"; }
