@@ -32,6 +32,7 @@ frmFileName::frmFileName(QWidget* parent) : QDialog(parent) {
     setObjectName(QStringLiteral("frmFileName"));
     setWindowTitle(QStringLiteral("File Already Exists"));
     BuildControls();
+    adjustSize();
     basCommon::ShowEntireForm(*this);
 }
 

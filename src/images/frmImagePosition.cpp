@@ -19,7 +19,6 @@
 namespace {
 
 const QString kNewLine = QStringLiteral("\r\n");
-constexpr int kUsualPreviewWidth = 600;
 // Preview pixels that an arrow key moves the picture, and with Ctrl.
 constexpr int kArrowStep = 10;
 constexpr int kFineArrowStep = 1;
@@ -34,7 +33,7 @@ QPointF InPixels(float X, float Y) { return {X / double(Screen::kTwipsPerPixel),
 
 } // namespace
 
-frmImagePosition::frmImagePosition(QWidget* parent) : QDialog(parent), m_previewWidth(kUsualPreviewWidth) {
+frmImagePosition::frmImagePosition(QWidget* parent) : QDialog(parent) {
     setObjectName(QStringLiteral("frmImagePosition"));
     setWindowTitle(QStringLiteral("Position Image"));
     BuildControls();

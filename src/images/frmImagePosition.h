@@ -36,8 +36,8 @@ public:
     /// Paints it fast, for a picture in motion.
     void ZoomInMotion();
 
-    /// Width that the preview box shall take where the screen has room for it. For tests and measurements.
-    void SetPreviewWidth(int pixels) { m_previewWidth = pixels; }
+    /// For tests and measurements: the preview box takes this width whatever room the screen has.
+    void SetPreviewWidth(int pixels) { m_fixedPreviewWidth = pixels; }
     /// For tests: as at the start of a run.
     static void ResetForTest();
 
@@ -93,5 +93,6 @@ private:
     qint16 m_iStartY = 0;
     qint16 m_iDownX = 0;
     qint16 m_iDownY = 0;
-    int m_previewWidth;
+    /// 0: what the screen has room for.
+    int m_fixedPreviewWidth = 0;
 };

@@ -17,11 +17,13 @@ namespace {
 // Pixels. Together with a usual title bar the margins and the frame make the window 705 twips higher than
 // the preview.
 constexpr int kMargin = 8;
+constexpr int kGap = 12;
 constexpr int kFocusFrame = 2;
 constexpr int kTitleBar = 27;
 constexpr int kBesidePreview = 280;
 constexpr int kAroundPreview = 2 * (kMargin + kFocusFrame) + kTitleBar;
 constexpr int kLeastPreviewWidth = 200;
+constexpr int kUsualPreviewWidth = 600;
 
 constexpr int kTickInterval = 10;
 constexpr int kSharpenMs = 150;
@@ -92,7 +94,7 @@ void frmImagePosition::BuildControls() {
     QWidget* const preview = BuildPreview();
     sldZoom = Named(new QSlider(Qt::Vertical, this), "sldZoom", QStringLiteral("Up: larger. Down: smaller."));
     sldZoom->setRange(ImagePlacing::kSliderTop, ImagePlacing::kSliderBottom);
-    sldZoom->setTickPosition(QSlider::TicksRight);
+    sldZoom->setTickPosition(QSlider::TicksBothSides);
     sldZoom->setTickInterval(kTickInterval);
     // Its values grow downwards, and so go its keys and the wheel.
     sldZoom->setInvertedAppearance(true);
@@ -105,7 +107,7 @@ void frmImagePosition::BuildControls() {
 
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    row->setSpacing(kMargin);
+    row->setSpacing(kGap);
     row->addWidget(preview);
     row->addLayout(slider);
     row->addWidget(BuildTexts());
@@ -134,7 +136,8 @@ void frmImagePosition::Connect() {
 void frmImagePosition::SizePreview(double dblHeightToWidth) {
     const QSize room = Screen::FreeArea().size() - QSize(kBesidePreview, kAroundPreview);
     const int high = int(room.height() / dblHeightToWidth);
-    const int width = std::max(std::min({m_previewWidth, room.width(), high}), kLeastPreviewWidth);
+    const int fitting = std::max(std::min({kUsualPreviewWidth, room.width(), high}), kLeastPreviewWidth);
+    const int width = m_fixedPreviewWidth > 0 ? m_fixedPreviewWidth : fitting;
     picZoomed->setFixedSize(width, CLng(width * dblHeightToWidth));
     adjustSize();
 }
