@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/Recording.h"
+#include "platform/Surface.h"
+
+/// A drawing surface that keeps no pixels but what was drawn, in the units of a form of the same size.
+class RecordingForm : public Surface {
+public:
+    explicit RecordingForm(QSize size);
+    ~RecordingForm() override;
+
+    double DotsPerInch() const override { return 96.0; }
+    DeviceContext& hDC() override { return m_context; }
+    QSize SizeInPixels() const override { return m_recording->Size(); }
+    /// Ends the drawing.
+    std::shared_ptr<const Recording> Take();
+
+private:
+    std::shared_ptr<Recording> m_recording;
+    QPainter m_painter;
+    DeviceContext m_context;
+};
