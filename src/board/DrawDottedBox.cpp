@@ -24,18 +24,19 @@ void DashedColumn(Surface& oDest, int lX, int lY1, int lY2, int lDash) {
 
 } // namespace
 
-void DrawDottedBox(Surface& oDest, int lX1, int lY1, int lX2, int lY2, int lDash, Color lFillColor) try {
+void DrawDottedBox(Surface& oDest, int lX1, int lY1, int lX2, int lY2, int lDash, Color lFillColor,
+                   Color lDashColor) try {
     if (!lFillColor.IsNone()) oDest.Line(lX1, lY1, lX2, lY2, lFillColor, LineForm::FilledBox);
     if (lDash <= 0) return;
     oDest.DrawStyle = 0;
     oDest.DrawWidth = 1;
-    oDest.ForeColor = Color::Black();
+    oDest.ForeColor = lDashColor;
     DashedRow(oDest, lX1, lX2, lY1 - 1, lDash);
     DashedRow(oDest, lX1, lX2, lY2 + 1, lDash);
     DashedColumn(oDest, lX1 - 1, lY1, lY2, lDash);
     DashedColumn(oDest, lX2 + 1, lY1, lY2, lDash);
 } catch (...) {
-    ErrTail("basTAVL!", "DrawDottedBox", oDest, lX1, lY1, lX2, lY2, lDash, lFillColor);
+    ErrTail("basTAVL!", "DrawDottedBox", oDest, lX1, lY1, lX2, lY2, lDash, lFillColor, lDashColor);
 }
 
 } // namespace basTAVL

@@ -6,6 +6,8 @@
 
 #include <array>
 
+class Surface;
+
 /// One denomination of the play money.
 class C_Money {
 public:
@@ -24,6 +26,12 @@ public:
     QString Text(int iIndex) const;
     void Let_Text(int iIndex, const QString& sText);
 
+    /// Draws the note, 3.75 by 2 inches, with its top left in the given pixel of a surface in pixels. With the
+    /// image flag its colour, the blank and the oval; with the text flag both texts; with the dots flag its
+    /// two outlines, dashed in its own colour.
+    void DrawMoney(Surface& objDest, double dblDPI, int xStart, int yStart, bool bIncludeImage, bool bIncludeText,
+                   bool bIncludeDots);
+
     bool IsDifferentFrom(const C_Money& objOther) const;
     void LoadFromObject(const C_Money& objSource);
 
@@ -33,5 +41,7 @@ public:
     QString SetQuotedString(const QString& sLine);
 
 private:
+    Picture FaceInOval(double dblDPI);
+
     std::array<QString, kTexts> m_sText;
 };

@@ -6,6 +6,9 @@
 #include "images/C_Image.h"
 #include "platform/Color.h"
 
+class PictureHolder;
+class Surface;
+
 /// One of the six round tokens.
 class C_Token {
 public:
@@ -39,6 +42,18 @@ public:
     /// Fits the text anew when a picture comes or goes.
     void SetImagePath(const QString& sFullPath);
 
+    /// Part of a token's text that an editor marks; -1 for none. Columns count UTF-16 units.
+    struct TextSelection {
+        int iColStart = -1;
+        int iRowStart = -1;
+        int iColEnd = -1;
+        int iRowEnd = -1;
+    };
+    /// Draws the round token into a box of pixels of picDest: its colour, then its picture or its lines, and
+    /// lBackColor beyond the circle. A picture that can't be painted is given up for the text.
+    void Redraw(int xStart, int yStart, int xEnd, int yEnd, bool bWithSelection, Surface& picDest,
+                PictureHolder& picScratch, const TextSelection& selection, Color lBackColor);
+
     bool IsDifferentFrom(const C_Token& objOther) const;
     void LoadFromObject(const C_Token& objSource);
 
@@ -47,5 +62,8 @@ public:
     QString SetQuotedString(const QString& sLine);
 
 private:
+    bool PaintImage(Surface& picDest, PictureHolder& picScratch, int xStart, int yStart, int xEnd, int yEnd);
+    void DrawText(int xStart, int yStart, int xEnd, int yEnd, bool bWithSelection, const TextSelection& selection);
+
     TextLines m_lines;
 };

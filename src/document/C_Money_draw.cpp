@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: MIT
+#include "document/C_Money.h"
+
+#include "app/services/basErrLog.h"
+#include "app/services/basMsgQueue.h"
+#include "app/services/basPath.h"
+#include "board/basDraw.h"
+#include "board/DrawDottedBox.h"
+#include "images/basBMP.h"
+#include "images/clsBMP.h"
+#include "platform/Desktop.h"
+#include "platform/Folders.h"
+#include "platform/LoadPicture.h"
+#include "platform/Numbers.h"
+#include "platform/PictureHolder.h"
+#include "platform/PictureMask.h"
+#include "platform/ProgramSettings.h"
+#include "platform/Surface.h"
+
+#include <algorithm>
+
+namespace {
+
+struct Place {
+    double left;
+    double top;
+    double width;
+    double height;
+};
+
+// Everything on a banknote, in inches from its top left.
+constexpr Place kNote{0, 0, 3.75, 2.0};
+constexpr double kInset = 0.05;
+constexpr Place kPanel{0.125, 0.123, 3.5, 1.75};
+constexpr Place kOval{1.43, 0.52, 0.82, 0.95};
+constexpr double kTextMiddle[C_Money::kTexts] = {0.85, 3.65 - 0.8125};
+constexpr double kTextTop = 0.75;
+constexpr double kTextWidth = 0.875;
+constexpr double kTextHeight = 0.5;
+constexpr double kDashInches = 0.05;
+// The user's picture has at least as many dots an inch, whatever the note is drawn at.
+constexpr double kPhotoDpi = 300;
+
+const QString kNewLine = QStringLiteral("\r\n");
+
+void TellBadPicture(const QString& sPath, const QString& sError) {
+    basMsgQueue::MsgQueue_Post(QStringLiteral("Unable to process the bitmap named: ") + sPath + kNewLine +
+                                   QStringLiteral("The following error was reported: ") + sError + kNewLine +
+                                   QStringLiteral("The area will be left empty."),
+                               vbOKOnly);
+}
+
+/// One banknote on a surface: turns the places into its pixels.
+class Note {
+public:
+    Note(Surface& oDest, double dblDPI, int xStart, int yStart)
+        : m_oDest(oDest), m_dpi(dblDPI), m_x(xStart), m_y(yStart) {}
+
+    void Outline(double inset, Color color) {
+        basTAVL::DrawDottedBox(m_oDest, X(inset), Y(inset), X(kNote.width - inset), Y(kNote.height - inset),
+                               Length(kDashInches), Color::None(), color);
+    }
+    void Fill(Color color) { m_oDest.Line(X(0), Y(0), X(kNote.width), Y(kNote.height), color, LineForm::FilledBox); }
+    void Paint(const Picture& picture, const Place& place) {
+        m_oDest.PaintPicture(picture, X(place.left), Y(place.top), Length(place.width), Length(place.height));
+    }
+    void Text(const QString& sText, double middle, Color plate) {
+        const int left = X(middle - kTextWidth / 2);
+        const int top = Y(kTextTop);
+        const QStringList lines = sText.split(kNewLine);
+        m_oDest.Line(left, top, left + Length(kTextWidth), top + Length(kTextHeight), plate, LineForm::FilledBox);
+        m_oDest.ForeColor = Color::Black();
+        basDraw::Draw_MultiLineText(m_oDest, lines, int(lines.size()), QStringLiteral("Times New Roman"), false, false,
+                                    left, top, Length(kTextWidth), Length(kTextHeight));
+    }
+
+private:
+    int X(double inches) const { return CLng(inches * m_dpi + m_x); }
+    int Y(double inches) const { return CLng(inches * m_dpi + m_y); }
+    int Length(double inches) const { return CLng(inches * m_dpi); }
+
+    Surface& m_oDest;
+    double m_dpi;
+    int m_x;
+    int m_y;
+};
+
+Picture LoadOrTell(const QString& sPath) {
+    QString error;
+    const Picture picture = LoadPicture(sPath, error);
+    if (picture.IsNull()) TellBadPicture(sPath, error);
+    return picture;
+}
+
+// The oval of a note without a picture; kits before these have none.
+Picture CurrencyOval() {
+    const QString& version = Settings().sGameVersion;
+    if (version != QStringLiteral("5") && version != QStringLiteral("8")) return {};
+    const QString path = basCommon::JoinPath(Folders::ProgramDirectory(), QStringLiteral("$$$ellipse.dat"));
+    return basCommon::DoesFileExist(path) ? LoadOrTell(path) : Picture();
+}
+
+} // namespace
+
+// The user's picture as it shows in the oval; null, after the image has told why, when it can't be had.
+Picture C_Money::FaceInOval(double dblDPI) {
+    if (FaceImage.GetThumbnail(false).isEmpty()) return {};
+    const double dpi = std::max(dblDPI, kPhotoDpi);
+    const QSize size(CLng(kOval.width * dpi), CLng(kOval.height * dpi));
+    ScratchForm form(size);
+    form.SetBackColor(Color::White());
+    PictureHolder original;
+    if (!FaceImage.PaintPictureZoomed(form, original, ScaleModeKind::Pixels, 0, 0, size.width(), size.height(),
+                                      Color::None()))
+        return {};
+    Picture face(form.Image());
+    // A line drawing's paper is the note's.
+    if (basBMP::IsMonochromeBMP(FaceImage.FullPath())) face = WithoutWhite(face);
+    clsBMP mask;
+    return ThroughMask(face, mask.GetEllipticalWhite());
+}
+
+void C_Money::DrawMoney(Surface& objDest, double dblDPI, int xStart, int yStart, bool bIncludeImage, bool bIncludeText,
+                        bool bIncludeDots) try {
+    Note note(objDest, dblDPI, xStart, yStart);
+    if (bIncludeImage) {
+        note.Fill(BackColor);
+        if (!BackImage.FullPath().isEmpty()) {
+            const Picture blank = LoadOrTell(BackImage.FullPath());
+            if (!blank.IsNull()) note.Paint(blank, kPanel);
+        }
+        const Picture oval = FaceImage.FullPath().isEmpty() ? CurrencyOval() : FaceInOval(dblDPI);
+        if (!oval.IsNull()) note.Paint(oval, kOval);
+    }
+    if (bIncludeDots) {
+        // In the note's own colour: the pass over a printed note shows no cut line on it.
+        note.Outline(0, BackColor);
+        note.Outline(kInset, BackColor);
+    }
+    if (!bIncludeText) return;
+    for (int i = 0; i < kTexts; ++i)
+        note.Text(Text(i), kTextMiddle[i], BackColor);
+} catch (...) {
+    ErrTail("C_Money!", "DrawMoney", objDest, dblDPI, xStart, yStart, bIncludeImage, bIncludeText, bIncludeDots);
+}

@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#include "document/C_Token.h"
+
+#include "app/services/basErrLog.h"
+#include "board/basDraw.h"
+#include "images/basBMP_metafile.h"
+#include "platform/Numbers.h"
+#include "platform/PictureHolder.h"
+#include "platform/Surface.h"
+
+namespace {
+
+// Side of the square inscribed in the token's circle, and what is left beside it, in parts of the width.
+constexpr double kInscribed = 0.707;
+constexpr double kBeside = 0.293;
+// Turns a line height in fractions of the board's width into one of the token's height.
+constexpr float kTextOfHeight = 6.329F;
+constexpr double kWidthOfLine = 0.5;
+constexpr double kRingOfCenter = 0.5;
+
+/// What a token needs of the surface while it draws in its pixels.
+class PixelScale {
+public:
+    explicit PixelScale(Surface& surface) : m_surface(surface), m_before(surface.ScaleMode) {
+        surface.ScaleMode = ScaleModeKind::Pixels;
+        m_depth = surface.hDC().SaveDC();
+    }
+    ~PixelScale() {
+        m_surface.hDC().RestoreDC(m_depth);
+        m_surface.ScaleMode = m_before;
+    }
+    PixelScale(const PixelScale&) = delete;
+    PixelScale& operator=(const PixelScale&) = delete;
+
+private:
+    Surface& m_surface;
+    ScaleModeKind m_before;
+    int m_depth = 0;
+};
+
+void CutRound(Surface& picDest, int xStart, int yStart, int xEnd, int yEnd, Color lBackColor) {
+    // The ring's width comes from the centre and not from the width, so a box that doesn't start at 0 gets a
+    // wider one; nothing but what lies beyond the circle is covered either way.
+    const int lRing = CLng(CLng((xStart + xEnd) / 2.0) * kRingOfCenter);
+    basDraw::Draw_SetPen(PenStyle::Solid, lRing, lBackColor);
+    basDraw::Draw_SetBrush(Color::None());
+    const double half = lRing / 2.0;
+    picDest.hDC().Ellipse(CLng(xStart - half + 1), CLng(yStart - half + 1), CLng(xEnd + half - 1),
+                          CLng(yEnd + half - 1));
+}
+
+} // namespace
+
+// True when the picture was painted; a bad one is told by the image.
+bool C_Token::PaintImage(Surface& picDest, PictureHolder& picScratch, int xStart, int yStart, int xEnd, int yEnd) {
+    if (!Image.IsWMF()) {
+        return Image.PaintPictureZoomed(picDest, picScratch, ScaleModeKind::Pixels, xStart, yStart, xEnd, yEnd,
+                                        Color::None());
+    }
+    const int w = xEnd - xStart;
+    const int h = yEnd - yStart;
+    QString bad = Image.BadPath();
+    basBMP::BMP_DrawWMF(picDest.hDC(), Image.FullPath(), bad, CLng(kBeside * w / 2 + xStart),
+                        CLng(kBeside * h / 2 + yStart), CLng(kInscribed * w), CLng(kInscribed * h));
+    return bad != Image.FullPath();
+}
+
+void C_Token::DrawText(int xStart, int yStart, int xEnd, int yEnd, bool bWithSelection,
+                       const TextSelection& selection) {
+    const int h = yEnd - yStart;
+    const int lInnerH = CLng(kInscribed * h);
+    const int lOffY = CLng((h - lInnerH) / 2.0);
+    const int lLine = CLng(double(TextSize() * (float(h) * kTextOfHeight)));
+    basDraw::Draw_SetFont(Font.Family, lLine, CLng(lLine * kWidthOfLine), 0, 0, Font.Bold, Font.Italic, false);
+    const QStringList lines = NLines() > 0 ? TextArray() : QStringList{QString()};
+    const int lTop = CLng((lInnerH - int(lines.size()) * lLine) / 2.0 + yStart + lOffY);
+    const int lCenter = CLng((xStart + xEnd) / 2.0);
+    basDraw::Draw_SetSelection(selection.iColStart, selection.iRowStart, selection.iColEnd, selection.iRowEnd);
+    if (bWithSelection) {
+        basDraw::Draw_SetPen(PenStyle::Solid, 1, Color::Black());
+        basDraw::Draw_TextArrayShowingSelection(lines, QStringLiteral("C"), lCenter, lTop, Color::Black());
+    } else {
+        basDraw::Draw_TextArray(lines, QStringLiteral("C"), lCenter, lTop, Color::Black());
+    }
+}
+
+void C_Token::Redraw(int xStart, int yStart, int xEnd, int yEnd, bool bWithSelection, Surface& picDest,
+                     PictureHolder& picScratch, const TextSelection& selection, Color lBackColor) try {
+    const PixelScale scale(picDest);
+    picDest.Cls();
+    picDest.hDC().FillRect(xStart, yStart, xEnd, yEnd, BackColor);
+    basDraw::Draw_SetHdc(&picDest.hDC());
+    if (!Image.FullPath().isEmpty() && !PaintImage(picDest, picScratch, xStart, yStart, xEnd, yEnd))
+        Image.Let_FullPath(QString());
+    if (Image.FullPath().isEmpty()) DrawText(xStart, yStart, xEnd, yEnd, bWithSelection, selection);
+    CutRound(picDest, xStart, yStart, xEnd, yEnd, lBackColor);
+    basDraw::Draw_ReleaseObjects();
+} catch (...) {
+    ErrTail("C_Token!", "Redraw", xStart, yStart, xEnd, yEnd, bWithSelection, picDest, lBackColor);
+}
