@@ -6,9 +6,11 @@
 #include "platform/PictureHolder.h"
 
 #include <array>
+#include <functional>
 #include <list>
 
 class BinaryFile;
+class Surface;
 
 /// The hidden drawing surface of the run: turns and cuts pictures into the small bitmap files that the board
 /// pastes. Main thread only.
@@ -32,6 +34,31 @@ public:
 
     Picture RenderRotated(C_Image& oImage, int lSide) override;
 
+    // Pictures of pieces, each drawn as large as a hidden surface may be and written as a 24-bit bitmap file.
+    // Sizes are inches. True when the file was written. A picture loaded from such a file in this run prints
+    // as it was drawn: text as text, photos with their own pixels.
+
+    bool GenerateCornerImage(const QString& sFullPathDest, int iCorner);
+    bool GenerateMoneyImage(const QString& sFullPathDest, int iMoney);
+    /// One line of text, as wide as it comes out but at least dblwInches. Folded into bands while it is drawn
+    /// where the surface is too narrow for it.
+    bool GenerateSingleLineImage(const QString& sFullPathDest, double dblwInches, double dblhInches,
+                                 const QString& sText, const QString& sFamily, bool bBold, bool bItalic,
+                                 Color lForeColor, Color lBackColor);
+    /// A board space as it stands on its sheet: colour band, price, picture and text.
+    bool GenerateSpaceFullImage(const QString& sFullPathDest, int iSpace);
+    bool GenerateSpaceStickerImage(const QString& sFullPathDest, int iSpace);
+    /// One line of text that fills the box, stretched in x; without bStretch only squeezed where it must be.
+    bool GenerateStretchedTextImage(const QString& sFullPathDest, double dblwInches, double dblhInches,
+                                    const QString& sText, const QString& sFamily, bool bBold, bool bItalic,
+                                    Color lForeColor, Color lBackColor, bool bStretch);
+    /// Lines of text, centred, each dblSize inches high unless they must shrink to fit.
+    bool GenerateTextImage(const QString& sFullPathDest, double dblwInches, double dblhInches, const QString& sText,
+                           const QString& sFamily, bool bBold, bool bItalic, double dblSize, Color lForeColor,
+                           Color lBackColor);
+    /// 266 pixels square.
+    bool GenerateTokenImage(const QString& sFullPathDest, int iToken);
+
     /// The space in a cell of a two-row sheet of six columns; blocks above 0 are the second half. The print
     /// console has a copy of its own, and that is the one in use.
     static void GetSpaceFromArrayCoordinates(int iBlock, int iRow, int iCol, int& iSpace);
@@ -44,6 +71,9 @@ private:
         std::array<int, 5> look; ///< Zoom, centre, orientation and side.
         QImage image;
     };
+    using DrawPiece = std::function<void(Surface&)>;
+
+    static bool WritePiece(const QString& sFullPathDest, QSize size, const DrawPiece& draw);
 
     QImage Drawn(C_Image& oImage, QSize size, Color backColor);
     QImage DrawnSquare(C_Image& oImage, int lSide);

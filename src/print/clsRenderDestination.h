@@ -6,6 +6,8 @@
 #include <QString>
 #include <QStringList>
 
+class C_FontInfo;
+class C_Image;
 class Surface;
 
 /// The names of a game that its printed rules speak of.
@@ -34,6 +36,7 @@ public:
     /// Device pixels an inch, times the scale given to Init.
     double DPI() const { return dblDPI; }
     double FontFactor() const { return m_dblFontFactor; }
+    Surface& Destination() const { return *m_oDest; }
 
     /// The cutting ring round a token; dblX and dblY are the top left of the circle's square.
     void CircleRender(double dblX, double dblY, double dblRadius);
@@ -69,6 +72,15 @@ public:
     void TextBlock(QString& vText, int lX, int& lY, int lWidth, const QString& sFontName, int lLineHeight, bool bBold,
                    bool bItalic, const QString& sAlign);
 
+    /// The picture of a space or corner in the upper half of its sticker; nothing without one. dblX and dblY are
+    /// the sticker's top left in inches.
+    void SpaceStickerImageV6(int iSpace, double dblX, double dblY);
+    void CornerStickerImageV6(int iCorner, double dblX, double dblY);
+    /// The text of a space or corner, never larger than on the board: in the lower half of the sticker when a
+    /// picture has the upper one, else in all of it.
+    void SpaceStickerText(int iSpace, double dblX, double dblY, bool bIncludeImage);
+    void CornerStickerText(int iCorner, double dblX, double dblY, bool bIncludeImage);
+
     /// Prints the rules of the game on one page from the instruction file in the program's directory. False
     /// when it stopped early; the reason has then been told.
     bool InstructionSheet(const InstructionNames& names);
@@ -91,6 +103,9 @@ private:
     };
 
     int Pixels(double dblInches) const;
+    void StickerImage(C_Image& oImage, double dblWidth, double dblHeight, double dblX, double dblY);
+    void StickerText(const QStringList& saLines, const C_FontInfo& oFont, double dblSizeLimit, double dblWidth,
+                     double dblHeight, double dblX, double dblY, bool bIncludeImage);
     void SetFont(const QString& sFontName, bool bBold, bool bItalic, double nominalSize);
     double Widest(const QStringList& saLines, int iLineCount) const;
     void FitLines(const QStringList& saLines, int iLineCount, const int* vSizeLimit, const QString& sFontName,

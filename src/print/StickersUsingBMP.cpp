@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+#include "print/StickersUsingBMP.h"
+
+#include "app/services/basErrLog.h"
+#include "app/services/basPath.h"
+#include "board/DrawDottedBox.h"
+#include "document/basTAVL.h"
+#include "images/frmBMP.h"
+#include "platform/Desktop.h"
+#include "platform/Files.h"
+#include "platform/LoadPicture.h"
+#include "platform/Numbers.h"
+#include "platform/Surface.h"
+#include "print/clsRenderDestination.h"
+
+#include <QRect>
+
+namespace {
+
+constexpr double kDashInches = 0.05;
+constexpr double kTwipsPerInch = 1440;
+
+QString InMyGames(const QString& sName) { return basCommon::JoinPath(basCommon::GetMyGamesDirectory(), sName); }
+
+// The wording is that of banknotes; it stands for stickers too.
+void TellNotMade() { MsgBox(QStringLiteral("Unable to create Money Image. Money will not be printed.")); }
+
+// Paints the file and deletes it; a file that can't be painted stays for a look at it.
+void PaintAndDelete(Surface& surface, const QString& sFile, const QRect& place) {
+    QString error;
+    const Picture picture = LoadPicture(sFile, error);
+    if (picture.IsNull()) ErrRaise(ErrNumber::kInvalidPicture, error);
+    surface.PaintPicture(picture, place.x(), place.y(), place.width(), place.height());
+    if (!Files::Remove(sFile, error)) ErrRaise(ErrNumber::kFileAccess, error);
+}
+
+// In the surface's own dots, whatever scale the destination has.
+QRect PlaceOn(const Surface& surface, double dblX, double dblY, double dblWidth, double dblHeight) {
+    const double dpi = kTwipsPerInch / surface.TwipsPerPixelX();
+    return {CLng(dblX * dpi), CLng(dblY * dpi), CLng(dblWidth * dpi), CLng(dblHeight * dpi)};
+}
+
+} // namespace
+
+void CornerStickerUsingBMP(clsRenderDestination& destination, int iCorner, double dblX, double dblY) try {
+    const QString file = InMyGames(QStringLiteral("CornerImage%1.bmp").arg(iCorner));
+    if (!frmBMP::Instance().GenerateCornerImage(file, iCorner)) {
+        TellNotMade();
+        return;
+    }
+    Surface& surface = destination.Destination();
+    const double side = basTAVL::g_dblLabelSizes(7);
+    PaintAndDelete(surface, file, PlaceOn(surface, dblX, dblY, side, side));
+} catch (...) {
+    ErrTail("clsRenderDestination!", "CornerStickerUsingBMP", iCorner, dblX, dblY);
+}
+
+void SpaceStickerUsingBMP(clsRenderDestination& destination, int iSpace, double dblX, double dblY) try {
+    const QString file = InMyGames(QStringLiteral("SpaceImage.bmp"));
+    if (!frmBMP::Instance().GenerateSpaceStickerImage(file, iSpace)) {
+        TellNotMade();
+        return;
+    }
+    Surface& surface = destination.Destination();
+    const QRect place = PlaceOn(surface, dblX, dblY, basTAVL::g_dblLabelSizes(5), basTAVL::g_dblLabelSizes(6));
+    PaintAndDelete(surface, file, place);
+    const int lDash = CLng(kDashInches * kTwipsPerInch / surface.TwipsPerPixelX());
+    basTAVL::DrawDottedBox(surface, place.x(), place.y(), place.x() + place.width(), place.y() + place.height(), lDash,
+                           Color::None());
+} catch (...) {
+    ErrTail("clsRenderDestination!", "SpaceStickerUsingBMP", iSpace, dblX, dblY);
+}

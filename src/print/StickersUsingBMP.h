@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+class clsRenderDestination;
+
+/// Stickers that come as a made picture: the picture is written into My Games, painted and deleted.
+/// Positions are inches; when it can't be made a box says so and the place stays blank.
+
+/// A corner, 2.125 inches square, without a cut line.
+void CornerStickerUsingBMP(clsRenderDestination& destination, int iCorner, double dblX, double dblY);
+
+/// A space as the older kits' label sheets have it, with dashed cut lines round it.
+void SpaceStickerUsingBMP(clsRenderDestination& destination, int iSpace, double dblX, double dblY);
