@@ -118,6 +118,15 @@ TEST_F(ShippedData, ArrowsPointTheWayTheyAreNamed) {
     EXPECT_GT(ink(Load(QStringLiteral("rightarrow.bmp")), right), ink(Load(QStringLiteral("rightarrow.bmp")), left));
 }
 
+// The title editor cuts lines to 40 characters, and a longer subtitle runs over its box on the board.
+TEST_F(ShippedData, NoTitleIsLongerThanTheEditorKeeps) {
+    for (const char* name :
+         {"Default_US.dat", "Blank_US.gam", "Family_US.gam", "Generic_US.gam", "Person_US.gam", "Town_US.gam"}) {
+        for (const QByteArray& title : Lines(ReadFile(DataPath(QString::fromLatin1(name))))[1].split(','))
+            EXPECT_LE(title.trimmed().size(), 40 + 2) << name << ": " << title.toStdString();
+    }
+}
+
 TEST_F(ShippedData, EveryGameHoldsItsRecordsInOrder) {
     const struct { int first, count; } runs[] = {{3, 28}, {31, 4}, {35, 12}, {47, 12}, {59, 4}, {63, 6}};
     for (const char* name :
