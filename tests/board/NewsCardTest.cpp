@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "board/basTAVL_news.h"
+#include "platform/Printer.h"
 #include "platform/Surface.h"
 #include "support/GameFixture.h"
 #include "support/Ink.h"
+
+#include <QProcess>
 
 namespace {
 
@@ -115,6 +118,40 @@ TEST_F(NewsCardTest, TheContextGetsBackWhatWasSelected) {
     basTAVL::NewsDrawTextToScreen(&form.hDC(), 0, 0, 1, {});
     EXPECT_EQ(form.hDC().CurrentPen(), pen);
     EXPECT_EQ(form.hDC().CurrentFont(), font);
+}
+
+TEST_F(NewsCardTest, ADenseScreenShowsTheSameLayoutInMoreDots) {
+    ScratchForm dense(kCard, 2.0);
+    C_News card;
+    card.FontBody.Size = 48;
+    card.Let_Text(QStringLiteral("Hx\r\nHx"));
+    basTAVL::NewsDrawTextToScreen(&dense.hDC(), 0, 0, 0, card);
+    const QRect box = DarkBox(dense.Image(), dense.Image().rect(), kPale);
+    const QRect plain = InkOfText(card.Text());
+    EXPECT_NEAR(box.width(), 2 * plain.width(), 4);
+    EXPECT_NEAR(box.top(), 2 * plain.top(), 4);
+}
+
+TEST_F(NewsCardTest, OnPaperTextIsText) {
+    const QString path = PathOf(QStringLiteral("card.pdf"));
+    {
+        PdfPrinter printer(path, QStringLiteral("Card"));
+        C_News card;
+        card.Let_Text(QStringLiteral("Collect 500"));
+        basTAVL::NewsDrawBackgroundToScreen(&printer.hDC(), 100, 100);
+        basTAVL::NewsDrawTitleToScreen(&printer.hDC(), 100, 100, 0, QStringLiteral("Good News"), {});
+        basTAVL::NewsDrawTextToScreen(&printer.hDC(), 100, 100, 0, card);
+        printer.EndDoc();
+        QString error;
+        ASSERT_TRUE(printer.Close(error)) << error.toStdString();
+    }
+    QProcess pdftotext;
+    pdftotext.start(QStringLiteral("pdftotext"), {path, QStringLiteral("-")});
+    if (!pdftotext.waitForStarted()) GTEST_SKIP() << "pdftotext isn't installed";
+    pdftotext.waitForFinished();
+    const QString text = QString::fromUtf8(pdftotext.readAllStandardOutput());
+    EXPECT_TRUE(text.contains(QStringLiteral("Good News"))) << text.toStdString();
+    EXPECT_TRUE(text.contains(QStringLiteral("Collect 500"))) << text.toStdString();
 }
 
 TEST_F(NewsCardTest, LinesOfACardEndAtEachLineBreak) {

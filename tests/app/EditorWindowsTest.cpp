@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+// What the editors of titles and cards change, as the main window's board and autosave see it.
+#include "AppFixture.h"
+
+#include "app/EditorWindows.h"
+#include "board/basTAVL_news.h"
+
+#include <QPlainTextEdit>
+
+namespace {
+
+constexpr QPointF kTitles(0.5, 0.31);
+constexpr QPointF kGoodNews(0.32, 0.65);
+constexpr QPointF kBadNews(0.68, 0.65);
+
+class EditorWindowsTest : public AppTest {
+protected:
+    EditorWindowsTest() : editors(Start()) {
+        WriteGame(QStringLiteral("Ours.gam"), QStringLiteral("Desk"));
+        window->OpenGame(InGames(QStringLiteral("Ours.gam")));
+        EditorRoutes::Install(&editors);
+    }
+
+    void ClickBoardAt(QPointF place) const { ClickBoard(place.x(), place.y()); }
+    QImage Board() const { return window->Board().Image().copy(); }
+    static QString Title(int record) { return basPosit::m_CenterText(record).sText; }
+    static QString CardText(int deck, int card) { return basTAVL::g_oNews(deck, card).Text(); }
+
+    static std::function<void(QWidget&)> TypeNameThenClick(const char* button) {
+        return [button](QWidget& form) {
+            QTest::keyClick(form.focusWidget(), Qt::Key_Tab);
+            QTest::keyClicks(form.focusWidget(), QStringLiteral("ville"));
+            ClickIn(form, button);
+        };
+    }
+    // Types into the first card of the deck that opens next, and closes both windows.
+    static void EditFirstCard(const char* button) {
+        WithModal("frmShowNews", [button](QWidget& deck) {
+            WithModal("frmEditNews", [button](QWidget& card) {
+                QTest::keyClicks(card.findChild<QPlainTextEdit*>(QStringLiteral("txtSpace")),
+                                 QStringLiteral(" Hurrah"));
+                ClickIn(card, button);
+            });
+            QTest::mouseClick(deck.findChild<QWidget*>(QStringLiteral("picCards")), Qt::LeftButton, {}, QPoint(9, 9));
+            ClickIn(deck, "cmdDone");
+        });
+    }
+
+    EditorWindows editors;
+};
+
+TEST_F(EditorWindowsTest, ATitleTypedInTheEditorReachesBoardAndAutosave) {
+    const QImage before = Board();
+    const QString name = Title(1);
+    WithModal("frmEditCenter", TypeNameThenClick("cmdOK"));
+    ClickBoardAt(kTitles);
+    EXPECT_EQ(Title(1), name + QStringLiteral("ville"));
+    EXPECT_NE(Board(), before);
+    ASSERT_TRUE(HasAutosave());
+    EXPECT_TRUE(ReadFile(InGames(QStringLiteral("~AutoSave.dat"))).contains("ville\""));
+}
+
+TEST_F(EditorWindowsTest, ATitleThatIsCancelledLeavesBoardAndAutosaveAlone) {
+    const QImage before = Board();
+    const QString name = Title(1);
+    WithModal("frmEditCenter", TypeNameThenClick("cmdCancel"));
+    ClickBoardAt(kTitles);
+    EXPECT_EQ(Title(1), name);
+    EXPECT_EQ(Board(), before);
+    EXPECT_FALSE(HasAutosave());
+}
+
+TEST_F(EditorWindowsTest, ACardOfEachDeckReachesTheAutosave) {
+    EditFirstCard("cmdOK");
+    ClickBoardAt(kGoodNews);
+    EXPECT_TRUE(CardText(0, 0).endsWith(QStringLiteral(" Hurrah")));
+    EXPECT_TRUE(HasAutosave());
+    EditFirstCard("cmdOK");
+    ClickBoardAt(kBadNews);
+    EXPECT_TRUE(CardText(1, 0).endsWith(QStringLiteral(" Hurrah")));
+    EXPECT_EQ(ReadFile(InGames(QStringLiteral("~AutoSave.dat"))).count(" Hurrah"), 2);
+}
+
+TEST_F(EditorWindowsTest, ACardThatIsCancelledIsNoChange) {
+    EditFirstCard("cmdCancel");
+    ClickBoardAt(kGoodNews);
+    EXPECT_FALSE(CardText(0, 0).endsWith(QStringLiteral(" Hurrah")));
+    EXPECT_FALSE(HasAutosave());
+}
+
+TEST_F(EditorWindowsTest, MenusAndButtonsOpenTheDecks) {
+    EditFirstCard("cmdOK");
+    ChooseMenu("mnuView_3");
+    EXPECT_TRUE(CardText(1, 0).endsWith(QStringLiteral(" Hurrah")));
+    EditFirstCard("cmdOK");
+    ClickButton(1);
+    EXPECT_TRUE(CardText(0, 0).endsWith(QStringLiteral(" Hurrah")));
+}
+
+} // namespace
