@@ -9,6 +9,8 @@
 #include "platform/Numbers.h"
 #include "platform/Surface.h"
 
+#include <QRect>
+
 namespace basPosit {
 namespace {
 
@@ -22,11 +24,29 @@ Destination& Module() {
     return destination;
 }
 
+// An image's box in device units: the place moves with the view, the size only grows with it.
+QRect BoxOf(const C_Image& image) {
+    return {PosX(image.X), PosY(image.Y), CLng(PosLength(image.W)), CLng(PosLength(image.H))};
+}
+
+// The thumbnails are made for their side of the board, so nothing is turned here.
 void Paste(C_Image& image) {
     if (image.FullPath().isEmpty()) {
+        // A picture that comes to stand here later may be told to be bad again.
         image.Let_BadPath(QString());
         return;
     }
+    if (!Module().picBoard) return;
+    const QRect box = BoxOf(image);
+    image.DrawBitmapToScreen(*Module().picBoard, box.x(), box.y(), box.width(), box.height());
+}
+
+void PasteFate(C_Image& image) {
+    image.Let_FullPath(basCommon::JoinPath(Folders::ProgramDirectory(), QStringLiteral("fate.dat")));
+    if (!Module().picBoard) return;
+    const QRect box = BoxOf(image);
+    image.PaintPictureCentered(*Module().picBoard, box.x(), box.y(), box.x() + box.width(), box.y() + box.height(),
+                               Color::None());
 }
 
 } // namespace
@@ -44,11 +64,11 @@ void PosDrawSpaceBMP(int iSpace) try {
 void PosDrawCornerBMP(int iCorner) try {
     if (!Module().bOnScreen) return;
     C_Image& image = basTAVL::g_oCorners(iCorner).Image;
-    if (!IsFixedCorner(iCorner)) {
+    if (IsFixedCorner(iCorner)) {
+        PasteFate(image);
+    } else {
         Paste(image);
-        return;
     }
-    image.Let_FullPath(basCommon::JoinPath(Folders::ProgramDirectory(), QStringLiteral("fate.dat")));
 } catch (...) {
     ErrTail("basPosit!", "PosDrawCornerBMP", iCorner);
 }

@@ -2,13 +2,13 @@
 #include "platform/FontFace.h"
 
 #include <QFontMetricsF>
-#include <QHash>
 #include <QPainter>
 #include <QPainterPath>
 
 #include <array>
 #include <cmath>
 #include <memory>
+#include <mutex>
 
 namespace {
 
@@ -49,12 +49,18 @@ bool IsDistorted(const QTransform& transform) {
     return across > down * kMostStretch || down > across * kMostStretch;
 }
 
+// Metafiles are decoded on any thread, and hold text.
+std::mutex& Guard() {
+    static std::mutex mutex;
+    return mutex;
+}
+
 } // namespace
 
 const FontFace& FontFace::Get(const QString& sFamily, bool bBold, bool bItalic) {
-    static QHash<QString, std::shared_ptr<const FontFace>> faces;
-    const QString key = QStringLiteral("%1|%2%3").arg(sFamily).arg(int(bBold)).arg(int(bItalic));
-    std::shared_ptr<const FontFace>& face = faces[key];
+    static std::array<QHash<QString, std::shared_ptr<const FontFace>>, 4> faces;
+    const std::lock_guard lock(Guard());
+    std::shared_ptr<const FontFace>& face = faces[(bBold ? 1U : 0U) + (bItalic ? 2U : 0U)][sFamily];
     if (!face) face.reset(new FontFace(sFamily, bBold, bItalic));
     return *face;
 }
@@ -64,11 +70,19 @@ FontFace::FontFace(const QString& sFamily, bool bBold, bool bItalic) : m_font(La
     m_ascent = metrics.ascent();
     m_descent = metrics.descent();
     for (const LetterWeight& weight : kLetterWeights) {
-        m_averageWidth += Advance(QString(QLatin1Char(weight.letter))) * weight.perMille / 1000.0;
+        m_averageWidth += metrics.horizontalAdvance(QString(QLatin1Char(weight.letter))) * weight.perMille / 1000.0;
     }
 }
 
-double FontFace::Advance(const QString& sText) const { return QFontMetricsF(m_font).horizontalAdvance(sText); }
+// The same few words are measured at every paint, and shaping them is what takes the time.
+double FontFace::Advance(const QString& sText) const {
+    constexpr qsizetype kMost = 4096;
+    const std::lock_guard lock(Guard());
+    const auto known = m_advances.constFind(sText);
+    if (known != m_advances.constEnd()) return *known;
+    if (m_advances.size() >= kMost) m_advances.clear();
+    return *m_advances.insert(sText, QFontMetricsF(m_font).horizontalAdvance(sText));
+}
 
 void FontFace::Draw(QPainter& painter, const QString& sText, bool bUnderline) const {
     QFont font = m_font;

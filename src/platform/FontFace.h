@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QFont>
+#include <QHash>
 #include <QString>
 
 class QPainter;
@@ -36,4 +37,6 @@ private:
     double m_ascent = 0;
     double m_descent = 0;
     double m_averageWidth = 0;
+    /// Measured before.
+    mutable QHash<QString, double> m_advances;
 };
