@@ -46,6 +46,8 @@ frmTAVL::frmTAVL() : m_about(std::make_unique<frmAbout>()) {
     MakeMenus();
     Timer1.setObjectName(QStringLiteral("Timer1"));
     connect(&Timer1, &QTimer::timeout, this, &frmTAVL::Timer1_Timer);
+    TimerPictures.setObjectName(QStringLiteral("TimerPictures"));
+    connect(&TimerPictures, &QTimer::timeout, this, &frmTAVL::TimerPictures_Timer);
     const QSize client = SmallestClient(Twips(ToolBarTable::kPictureHeight), Twips(cmd[0]->sizeHint().height()));
     centralWidget()->setMinimumSize(PixelRect(QRect(QPoint(0, 0), client)).size());
 }

@@ -98,6 +98,8 @@ public Q_SLOTS:
     void imgToolBar_MouseLeft();
     void txtToolTip_MouseMove();
     void Timer1_Timer();
+    /// Pastes pictures that have been decoded since the board was painted.
+    void TimerPictures_Timer();
     void hscrl_Change();
     void vscrl_Change();
     /// Another start of the program wants this one, with a game to open or an empty text.
@@ -159,6 +161,8 @@ private:
     void ScrollBy(int iSteps, Qt::Orientation orientation, bool bPages);
     void ZoomAtMouse(int iZoom, QPointF position);
 
+    void AwaitPictures(bool bAwaited);
+
     // Tips and toolbar.
     void ShowTips();
     void PlaceTipBox(float X, float Y);
@@ -179,6 +183,7 @@ private:
     QWidget* linButRight = nullptr;
     QLabel* txtToolTip = nullptr;
     QTimer Timer1;
+    QTimer TimerPictures;
     CommonDialog dlgCommon;
     std::unique_ptr<frmAbout> m_about;
 

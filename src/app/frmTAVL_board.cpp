@@ -17,6 +17,8 @@
 #include <QApplication>
 #include <QLabel>
 
+#include <utility>
+
 namespace {
 
 // A tip that isn't wanted any more goes after a second's grace and seven more.
@@ -49,14 +51,43 @@ void frmTAVL::Redraw() try {
     basPosit::PosSetWidth(picBoard->width());
     const ScaleModeKind mode = picBoard->ScaleMode;
     picBoard->ScaleMode = ScaleModeKind::Pixels;
-    basPosit::PosSetPicture(picBoard, true);
+    basPosit::PosSetPicture(picBoard, true, basPosit::PicturesShown::Ready);
     basPosit::PosDrawAll();
     picBoard->ScaleMode = mode;
     hDC.RestoreDC(depth);
     picBoard->Refresh();
+    AwaitPictures(basPosit::PosPicturesAwaited() > 0);
     basMsgQueue::MsgQueue_Display();
 } catch (...) {
     ErrTail("frmTAVL!", "Redraw");
+}
+
+void frmTAVL::AwaitPictures(bool bAwaited) {
+    constexpr int kInterval = 40;
+    if (bAwaited) {
+        TimerPictures.start(kInterval);
+    } else {
+        TimerPictures.stop();
+    }
+}
+
+void frmTAVL::TimerPictures_Timer() try {
+    // The window on top may be in the middle of its own drawing, and there is one drawing layer.
+    if (QApplication::activeModalWidget()) return;
+    basMsgQueue::MsgQueue_Init();
+    DeviceContext& hDC = picBoard->hDC();
+    const int depth = hDC.SaveDC();
+    basPosit::PosSethDC(&hDC);
+    const ScaleModeKind mode = std::exchange(picBoard->ScaleMode, ScaleModeKind::Pixels);
+    const int iAwaited = basPosit::PosDrawAwaited();
+    picBoard->ScaleMode = mode;
+    hDC.RestoreDC(depth);
+    picBoard->Refresh();
+    AwaitPictures(iAwaited > 0);
+    basMsgQueue::MsgQueue_Display();
+} catch (...) {
+    TimerPictures.stop();
+    ErrTop("frmTAVL!", "TimerPictures_Timer");
 }
 
 void frmTAVL::picBoard_Paint() try { Redraw(); } catch (...) {

@@ -4,6 +4,7 @@
 #include "app/services/basErrLog.h"
 #include "board/basDraw.h"
 #include "board/basPosit.h"
+#include "board/basPositPaint_state.h"
 #include "document/basTAVL.h"
 #include "platform/Numbers.h"
 
@@ -66,6 +67,7 @@ bool IsFixedCorner(int iCorner) {
 }
 
 void PosDrawAll() try {
+    StartPictures();
     Pos_DrawCenter();
     Draw_SetPen(PenStyle::Solid, CLng(PosLength(kBoardPen)), Color::Black());
     Draw_SetBrush(basTAVL::g_lMagicColor());
@@ -78,8 +80,7 @@ void PosDrawAll() try {
         PosDrawSpaceBMP(iSpace);
     }
     for (int iCorner = 0; iCorner < kCornersOnBoard; ++iCorner) {
-        PosDrawCornerBMP(iCorner);
-        if (!IsFixedCorner(iCorner)) PosDrawCornerText(0, iCorner);
+        PosDrawCorner(iCorner);
     }
     for (int iSpace = 0; iSpace < kSpacesOnBoard; ++iSpace) {
         if (IsLotto(iSpace)) DrawLotto(iSpace);

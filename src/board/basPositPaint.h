@@ -14,14 +14,24 @@ namespace basPosit {
 /// Width of the pen round spaces, corners, bands and boxes, as a fraction of the board's width.
 constexpr float kBoardPen = 0.0031F;
 
+/// Which pictures a paint shows: all, however long it takes to decode them; or those that are ready, so that
+/// the board stands at once and the others are pasted as they come.
+enum class PicturesShown { All, Ready };
+
 /// The surface that pictures are pasted on, which is the one behind the current context; none leaves them
 /// out. The surface's scale mode is pixels while the board is painted. Corners show their pictures only while
 /// the board is on screen.
-void PosSetPicture(Surface* picBoard, bool bOnScreen = true);
+void PosSetPicture(Surface* picBoard, bool bOnScreen = true, PicturesShown shown = PicturesShown::All);
 
 /// Paints everything, and gives back pens, brushes and fonts at the end. PosInit comes before it, then the
 /// view.
 void PosDrawAll();
+
+/// How many pictures the last paint left out, or showed coarsely, because they weren't ready.
+int PosPicturesAwaited();
+/// Pastes those of them that have become ready, in the view and on the surface of that paint, and returns how
+/// many are still awaited. Never takes much longer than an eye's blink.
+int PosDrawAwaited();
 
 /// The panel in the middle: title box, card decks, money, tokens, and the game's titles.
 void Pos_DrawCenter();
@@ -41,6 +51,8 @@ void PosDrawCosts();
 void PosDrawSpaceText(int iSpace);
 void PosDrawSpaceBMP(int iSpace);
 
+/// A corner's picture and, above it, its text; the text waits for a picture that is awaited.
+void PosDrawCorner(int iCorner);
 /// Kits "8" and "5" have a picture of their own on corner 3, whatever the game says.
 void PosDrawCornerBMP(int iCorner);
 /// The board shows block 0; block 1, in its fixed typeface, is for other output.

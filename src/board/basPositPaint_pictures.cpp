@@ -3,7 +3,9 @@
 
 #include "app/services/basErrLog.h"
 #include "app/services/basPath.h"
+#include "board/basDraw.h"
 #include "board/basPosit.h"
+#include "board/basPositPaint_state.h"
 #include "document/basTAVL.h"
 #include "platform/Folders.h"
 #include "platform/Numbers.h"
@@ -11,17 +13,37 @@
 
 #include <QRect>
 
+#include <algorithm>
+#include <chrono>
+#include <utility>
+#include <vector>
+
 namespace basPosit {
 namespace {
+
+using Clock = std::chrono::steady_clock;
+
+// What a paint may spend on pictures before it leaves the rest to the next turn of the event loop.
+constexpr std::chrono::milliseconds kPatience{30};
 
 struct Destination {
     Surface* picBoard = nullptr;
     bool bOnScreen = false;
+    PicturesShown shown = PicturesShown::All;
+    /// Spaces by their number, behind them the corners.
+    std::vector<int> awaited;
+    Clock::time_point until;
 };
 
 Destination& Module() {
     static Destination destination;
     return destination;
+}
+
+int PlaceOfCorner(int iCorner) { return kSpacesOnBoard + iCorner; }
+bool IsAwaited(int iPlace) {
+    const std::vector<int>& awaited = Module().awaited;
+    return std::find(awaited.begin(), awaited.end(), iPlace) != awaited.end();
 }
 
 // An image's box in device units: the place moves with the view, the size only grows with it.
@@ -30,15 +52,21 @@ QRect BoxOf(const C_Image& image) {
 }
 
 // The thumbnails are made for their side of the board, so nothing is turned here.
-void Paste(C_Image& image) {
+void Paste(C_Image& image, int iPlace) {
     if (image.FullPath().isEmpty()) {
         // A picture that comes to stand here later may be told to be bad again.
         image.Let_BadPath(QString());
         return;
     }
-    if (!Module().picBoard) return;
+    Destination& module = Module();
+    if (!module.picBoard) return;
     const QRect box = BoxOf(image);
-    image.DrawBitmapToScreen(*Module().picBoard, box.x(), box.y(), box.width(), box.height());
+    if (module.shown == PicturesShown::All) {
+        image.DrawBitmapToScreen(*module.picBoard, box.x(), box.y(), box.width(), box.height());
+    } else if (Clock::now() > module.until ||
+               !image.DrawWhatIsReady(*module.picBoard, box.x(), box.y(), box.width(), box.height())) {
+        module.awaited.push_back(iPlace);
+    }
 }
 
 void PasteFate(C_Image& image) {
@@ -51,12 +79,58 @@ void PasteFate(C_Image& image) {
 
 } // namespace
 
-void PosSetPicture(Surface* picBoard, bool bOnScreen) { Module() = {picBoard, bOnScreen}; }
+void PosSetPicture(Surface* picBoard, bool bOnScreen, PicturesShown shown) {
+    Destination& module = Module();
+    module.picBoard = picBoard;
+    module.bOnScreen = bOnScreen;
+    module.shown = shown;
+}
+
+void StartPictures() {
+    Destination& module = Module();
+    module.awaited.clear();
+    module.until = Clock::now() + kPatience;
+    if (!module.picBoard || module.shown == PicturesShown::Ready) return;
+    const auto prepare = [&module](const C_Image& image) {
+        const QRect box = BoxOf(image);
+        image.PrepareForScreen(*module.picBoard, box.width(), box.height());
+    };
+    for (int iSpace = 0; iSpace < kSpacesOnBoard; ++iSpace) {
+        if (!IsLotto(iSpace)) prepare(basTAVL::g_oSpaces(iSpace).Image);
+    }
+    for (int iCorner = 0; iCorner < kCornersOnBoard; ++iCorner)
+        prepare(basTAVL::g_oCorners(iCorner).Image);
+}
+
+int PosPicturesAwaited() { return int(Module().awaited.size()); }
+
+int PosDrawAwaited() try {
+    const std::vector<int> places = std::exchange(Module().awaited, {});
+    Module().until = Clock::now() + kPatience;
+    for (const int iPlace : places) {
+        if (iPlace < kSpacesOnBoard) {
+            PosDrawSpaceBMP(iPlace);
+        } else {
+            PosDrawCorner(iPlace - kSpacesOnBoard);
+        }
+    }
+    basDraw::Draw_ReleaseObjects();
+    return PosPicturesAwaited();
+} catch (...) {
+    ErrTail("basPosit!", "PosDrawAwaited");
+}
+
+void PosDrawCorner(int iCorner) try {
+    PosDrawCornerBMP(iCorner);
+    if (!IsFixedCorner(iCorner) && !IsAwaited(PlaceOfCorner(iCorner))) PosDrawCornerText(0, iCorner);
+} catch (...) {
+    ErrTail("basPosit!", "PosDrawCorner", iCorner);
+}
 
 void PosDrawSpaceBMP(int iSpace) try {
     C_Space& space = basTAVL::g_oSpaces(iSpace);
     if (!space.IsShowing || IsLotto(iSpace)) return;
-    Paste(space.Image);
+    Paste(space.Image, iSpace);
 } catch (...) {
     ErrTail("basPosit!", "PosDrawSpaceBMP", iSpace);
 }
@@ -67,7 +141,7 @@ void PosDrawCornerBMP(int iCorner) try {
     if (IsFixedCorner(iCorner)) {
         PasteFate(image);
     } else {
-        Paste(image);
+        Paste(image, PlaceOfCorner(iCorner));
     }
 } catch (...) {
     ErrTail("basPosit!", "PosDrawCornerBMP", iCorner);

@@ -126,6 +126,12 @@ public:
     /// Paints the thumbnail, made anew if need be, on the board; a finer rendering of the same where the
     /// thumbnail would be enlarged. For spaces and corners; raises for tokens and money.
     void DrawBitmapToScreen(Surface& picDest, double x, double y, double w, double h);
+    /// Starts decoding on other processors what DrawBitmapToScreen would have to decode; true when it
+    /// needn't.
+    bool PrepareForScreen(Surface& picDest, double w, double h) const;
+    /// As DrawBitmapToScreen, but without waiting: where something has to be decoded first, that is started,
+    /// an up-to-date thumbnail is painted if there is one, and the answer is false.
+    bool DrawWhatIsReady(Surface& picDest, double x, double y, double w, double h);
     /// Path of an up-to-date thumbnail, made if need be; empty without a picture. bGrayOnly isn't looked at.
     QString GetThumbnail(bool bGrayOnly);
     /// Starts decoding on another processor where GetThumbnail would have to.
@@ -141,6 +147,10 @@ private:
     /// True for a corner whose picture belongs to the kit.
     bool ShowsFate() const;
     void PaintThumbnail(Surface& picDest, double xStart, double yStart, double xEnd, double yEnd);
+    /// Pixels of the finer rendering that a box takes; 0 where the thumbnail has enough of them.
+    static int RenderingSide(Surface& picDest, double w, double h);
+    void PaintThumbnailFile(Surface& picDest, const QString& sFile, double xStart, double yStart, double xEnd,
+                            double yEnd);
     bool PaintRendering(Surface& picDest, double xStart, double yStart, double xEnd, double yEnd);
     static void TellMissing(const QString& sName);
     static void TellLoadFailure(const QString& sName, const QString& sSystemText);

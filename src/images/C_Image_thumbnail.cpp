@@ -116,13 +116,17 @@ void C_Image::DrawBitmapToScreen(Surface& picDest, double x, double y, double w,
 }
 
 // Where the thumbnail's pixels are too few: zoomed in, on a dense screen, in a large picture of the board.
-bool C_Image::PaintRendering(Surface& picDest, double xStart, double yStart, double xEnd, double yEnd) {
-    const double side = std::min(xEnd - xStart, yEnd - yStart);
-    const int pixels = picDest.PicturePixels(side);
-    if (pixels <= kThumbSide) return false;
+int C_Image::RenderingSide(Surface& picDest, double w, double h) {
+    const int pixels = picDest.PicturePixels(std::min(w, h));
     // Even, as the diamond is made of halves; no larger than any screen needs.
     constexpr int kLargest = 2048;
-    const Picture rendering = Maker().RenderRotated(*this, std::min((pixels + 1) / 2 * 2, kLargest));
+    return pixels <= kThumbSide ? 0 : std::min((pixels + 1) / 2 * 2, kLargest);
+}
+
+bool C_Image::PaintRendering(Surface& picDest, double xStart, double yStart, double xEnd, double yEnd) {
+    const int side = RenderingSide(picDest, xEnd - xStart, yEnd - yStart);
+    if (side == 0) return false;
+    const Picture rendering = Maker().RenderRotated(*this, side);
     if (rendering.IsNull()) return false;
     const FittedBox box = FittedBox::Of(rendering, xStart, yStart, xEnd, yEnd);
     picDest.PaintPicture(rendering, box.left, box.top, box.width, box.height, RasterOp::SourceCopy);
@@ -140,6 +144,14 @@ void C_Image::PaintThumbnail(Surface& picDest, double xStart, double yStart, dou
         return;
     }
     if (!fate && PaintRendering(picDest, xStart, yStart, xEnd, yEnd)) return;
+    PaintThumbnailFile(picDest, sFile, xStart, yStart, xEnd, yEnd);
+} catch (...) {
+    ErrTail("C_Image!", "PaintThumbnail", picDest, xStart, yStart, xEnd, yEnd);
+}
+
+void C_Image::PaintThumbnailFile(Surface& picDest, const QString& sFile, double xStart, double yStart, double xEnd,
+                                 double yEnd) {
+    const bool told = m_sBadPath == m_sFullPath || m_sBadThumb == sFile;
     QString error;
     const Picture picture = LoadPicture(sFile, error);
     if (picture.IsNull()) {
@@ -150,6 +162,26 @@ void C_Image::PaintThumbnail(Surface& picDest, double xStart, double yStart, dou
     m_sBadThumb.clear();
     const FittedBox box = FittedBox::Of(picture, xStart, yStart, xEnd, yEnd);
     picDest.PaintPicture(picture, box.left, box.top, box.width, box.height, RasterOp::SourceCopy);
+}
+
+bool C_Image::PrepareForScreen(Surface& picDest, double w, double h) const try {
+    // Metafiles are played where they are painted; the kit's own corner has no file of the user's.
+    if (m_sFullPath.isEmpty() || !HasKnownKind() || IsWMF() || ShowsFate()) return true;
+    const bool bThumb = !NeedsThumbnail() || PrefetchPicture(m_sFullPath, LongerSideWanted(LongerThumbSide()));
+    const int side = RenderingSide(picDest, w, h);
+    const bool bRendering = side == 0 || PrefetchPicture(m_sFullPath, LongerSideWanted(side));
+    return bThumb && bRendering;
 } catch (...) {
-    ErrTail("C_Image!", "PaintThumbnail", picDest, xStart, yStart, xEnd, yEnd);
+    ErrTail("C_Image!", "PrepareForScreen", picDest, w, h);
+}
+
+bool C_Image::DrawWhatIsReady(Surface& picDest, double x, double y, double w, double h) try {
+    if (PrepareForScreen(picDest, w, h)) {
+        DrawBitmapToScreen(picDest, x, y, w, h);
+        return true;
+    }
+    if (!NeedsThumbnail()) PaintThumbnailFile(picDest, Thumbname(), x, y, x + w, y + h);
+    return false;
+} catch (...) {
+    ErrTail("C_Image!", "DrawWhatIsReady", picDest, x, y, w, h);
 }

@@ -77,12 +77,14 @@ void KeepRecording(const QString& sPath, std::shared_ptr<const Recording> record
     all.push_back({sPath, Files::StampOf(sPath), std::move(recording)});
 }
 
-void PrefetchPicture(const QString& sPath, int longerSideWanted) {
+bool PrefetchPicture(const QString& sPath, int longerSideWanted) {
     const PictureCache::Key key = KeyFor(sPath, longerSideWanted);
     // A missing file is nothing to decode; the one who asks for it will be told.
-    if (key.stamp == Files::Stamp()) return;
-    if (!PictureCache::Instance().Reserve(key)) return;
+    if (key.stamp == Files::Stamp()) return true;
+    if (PictureCache::Instance().Holds(key)) return true;
+    if (!PictureCache::Instance().Reserve(key)) return false;
     QThreadPool::globalInstance()->start([key] { PictureCache::Instance().Fulfil(key, Decode(key)); });
+    return false;
 }
 
 void ForgetPicture(const QString& sPath) { PictureCache::Instance().Drop(sPath); }

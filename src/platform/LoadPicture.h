@@ -12,8 +12,8 @@
 Picture LoadPicture(const QString& sPath, QString& sError, int longerSideWanted = kAllPixels);
 
 /// Starts decoding on another processor; the LoadPicture of the same path and size waits for it and takes
-/// the result. Nothing else happens: errors are told by LoadPicture.
-void PrefetchPicture(const QString& sPath, int longerSideWanted = kAllPixels);
+/// the result. Nothing else happens: errors are told by LoadPicture. True when there is nothing to wait for.
+bool PrefetchPicture(const QString& sPath, int longerSideWanted = kAllPixels);
 
 /// The file, just written, shows what was drawn here: as long as it isn't changed, LoadPicture hands the
 /// recording on with its pixels. The recordings kept last are bounded in number.

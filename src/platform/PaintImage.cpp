@@ -4,9 +4,13 @@
 #include "platform/Numbers.h"
 #include "platform/Resample.h"
 
+#include <QCache>
 #include <QSet>
 
+#include <algorithm>
+#include <climits>
 #include <deque>
+#include <mutex>
 
 namespace {
 
@@ -23,6 +27,32 @@ bool IsOnPixels(const QPainter& painter) {
            transform.m11() > 0 && transform.m22() > 0;
 }
 
+struct ScaledKey {
+    qint64 image;
+    QRectF part;
+    QSize size;
+    friend bool operator==(const ScaledKey&, const ScaledKey&) = default;
+    friend size_t qHash(const ScaledKey& key, size_t seed) {
+        return qHashMulti(seed, key.image, key.size.width(), key.size.height(), key.part.x(), key.part.y());
+    }
+};
+
+// The same pictures are pasted at the same size at every paint of the board; scaling is most of the work.
+QImage Scaled(const QImage& image, const QRectF& part, QSize size) {
+    constexpr int kMaxKilobytes = 16 * 1024;
+    constexpr int kMaxKilobytesOfOne = 1024;
+    static std::mutex mutex;
+    static QCache<ScaledKey, QImage> kept(kMaxKilobytes);
+    const int kilobytes = int(std::min<qint64>(qint64(size.width()) * size.height() * 4 / 1024 + 1, INT_MAX));
+    if (kilobytes > kMaxKilobytesOfOne) return Resample(image, part, size);
+    const ScaledKey key{image.cacheKey(), part, size};
+    const std::scoped_lock lock(mutex);
+    if (const QImage* known = kept.object(key)) return *known;
+    const QImage scaled = Resample(image, part, size);
+    kept.insert(key, new QImage(scaled), kilobytes);
+    return scaled;
+}
+
 // The painter's own scaling skips source pixels when it shrinks; here each counts. A destination on whole
 // pixels has sharp edges, and what touches there leaves no seam.
 void PaintOnPixels(QPainter& painter, const QRectF& destination, const QImage& image, const QRectF& source) {
@@ -37,7 +67,7 @@ void PaintOnPixels(QPainter& painter, const QRectF& destination, const QImage& i
     const bool asItIs = part == QRectF(image.rect()) && visible.size() == image.size();
     painter.save();
     painter.setWorldTransform(toDevice.inverted() * painter.worldTransform());
-    painter.drawImage(visible.topLeft(), asItIs ? image : Resample(image, part, visible.size()));
+    painter.drawImage(visible.topLeft(), asItIs ? image : Scaled(image, part, visible.size()));
     painter.restore();
 }
 

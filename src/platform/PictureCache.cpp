@@ -41,6 +41,12 @@ PictureCache::Entry PictureCache::Get(const Key& key, Decoder decode) {
     return entry;
 }
 
+bool PictureCache::Holds(const Key& key) {
+    const std::scoped_lock lock(m_mutex);
+    const Slots::iterator slot = Find(key);
+    return slot != m_slots.end() && slot->ready;
+}
+
 bool PictureCache::Reserve(const Key& key) {
     const std::scoped_lock lock(m_mutex);
     if (Find(key) != m_slots.end()) return false;

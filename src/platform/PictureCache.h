@@ -33,6 +33,8 @@ public:
 
     /// What is kept; else what another thread is about to bring; else decoded here and now.
     Entry Get(const Key& key, Decoder decode);
+    /// True when Get would answer at once.
+    bool Holds(const Key& key);
     /// Announces that the caller will call Fulfil. False when it is kept or announced already.
     bool Reserve(const Key& key);
     void Fulfil(const Key& key, Entry entry);
