@@ -58,6 +58,13 @@ void HandOnRecording(const QString& sPath, Picture& picture) {
     }
 }
 
+// Not the toolkit's pool: painting a picture waits for a turn in that one, and would wait for every photograph
+// queued before it.
+QThreadPool& Decoders() {
+    static QThreadPool pool;
+    return pool;
+}
+
 } // namespace
 
 Picture LoadPicture(const QString& sPath, QString& sError, int longerSideWanted) {
@@ -83,14 +90,14 @@ bool PrefetchPicture(const QString& sPath, int longerSideWanted) {
     if (key.stamp == Files::Stamp()) return true;
     if (PictureCache::Instance().Holds(key)) return true;
     if (!PictureCache::Instance().Reserve(key)) return false;
-    QThreadPool::globalInstance()->start([key] { PictureCache::Instance().Fulfil(key, Decode(key)); });
+    Decoders().start([key] { PictureCache::Instance().Fulfil(key, Decode(key)); });
     return false;
 }
 
 void ForgetPicture(const QString& sPath) { PictureCache::Instance().Drop(sPath); }
 
 void ForgetPictures() {
-    QThreadPool::globalInstance()->waitForDone();
+    Decoders().waitForDone();
     PictureCache::Instance().Clear();
     KeptRecordings().clear();
 }

@@ -2,10 +2,16 @@
 #include "board/basPositPaint.h"
 
 #include "board/BoardPicture.h"
+#include "images/frmBMP.h"
+#include "platform/LoadPicture.h"
 #include "platform/Numbers.h"
 #include "platform/Surface.h"
 #include "support/BoardFixture.h"
 #include "support/PaintedBoard.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QThread>
 
 using namespace basPosit;
 using namespace basTAVL;
@@ -20,6 +26,7 @@ protected:
     PaintTest() {
         g_sGameVersion() = QStringLiteral("8");
         g_lMagicColor() = kMagic;
+        frmBMP::InstallAsThumbnailMaker();
         PosInit();
     }
 
@@ -44,6 +51,8 @@ protected:
     static C_Space& SetSpace(int iSpace, const QString& text, float size = 0.014F) {
         C_Space& space = g_oSpaces(iSpace);
         space.Index = qint16(iSpace);
+        space.Image.SpaceOrCorner = QStringLiteral("Space");
+        space.Image.Index = qint16(iSpace);
         space.Font.Load(QStringLiteral("Arial"), false, false, 48);
         space.Let_TextAll(text);
         space.Let_TextSize(size);
@@ -52,6 +61,8 @@ protected:
     static C_Corner& SetCorner(int iCorner, const QString& text, float size = 0.02F) {
         C_Corner& corner = g_oCorners(iCorner);
         corner.Index = qint16(iCorner);
+        corner.Image.SpaceOrCorner = QStringLiteral("Corner");
+        corner.Image.Index = qint16(iCorner);
         corner.Font.Load(QStringLiteral("Arial"), false, false, 48);
         corner.Let_TextAll(0, text);
         corner.Let_TextSize(0, size);
@@ -111,6 +122,9 @@ TEST_F(PaintTest, Edge_LottoSpaceShowsBandCostAndPanelButNeverItsOwnText) {
         EXPECT_GT(with.InkBox(TextPart(iSpace), kMagic).width(), 20) << iSpace;
         EXPECT_TRUE(with.SameAs(without, m_SpaceRect(iSpace, SpacePart::Whole))) << iSpace;
     }
+    // The same record on any other space shows both.
+    SetSpace(4, QStringLiteral("WWWW\r\nWWWW"), 0.03F).Image.Let_FullPath(RedPicture());
+    EXPECT_TRUE(Paint().Has(TextPart(4), Color::Rgb(255, 0, 0)));
 }
 
 TEST_F(PaintTest, Edge_SpaceWithImageHasItsTextInTheOuterHalfAtTheSameSize) {
@@ -196,6 +210,58 @@ TEST_F(PaintTest, Edge_SpaceTextWithoutLinesStopsAfterSelectingTheFont) {
     EXPECT_TRUE(PaintedBoard(picBoard.Image()).SameAs(before, {0, 0, 1, 1}));
     basDraw::Draw_ReleaseObjects();
     PosSethDC(nullptr);
+}
+
+TEST_F(PaintTest, PictureStandsInItsBoxOnEachSide) {
+    for (int iSpace : {1, 8, 15, 26}) {
+        SetSpace(iSpace, QString()).Image.Let_FullPath(RedPicture());
+        const C_Image& image = g_oSpaces(iSpace).Image;
+        for (int size : {kSize, 3 * kSize}) {
+            const QRect box = Paint(size).InkBox(TextPart(iSpace), kMagic);
+            const QRect expected(CLng(image.X * float(size)), CLng(image.Y * float(size)), CLng(image.W * float(size)),
+                                 CLng(image.H * float(size)));
+            EXPECT_EQ(box, expected) << iSpace << " at " << size;
+        }
+    }
+}
+
+TEST_F(PaintTest, CornerTextStandsAboveItsPicture) {
+    SetCorner(0, QStringLiteral("HHHHHH"), 0.04F).Image.Let_FullPath(RedPicture());
+    const C_Image& image = g_oCorners(0).Image;
+    const BoardRect box{image.X, image.Y, image.X + image.W, image.Y + image.H};
+    const PaintedBoard board = Paint();
+    EXPECT_EQ(board.ColorAt(image.X + image.W / 2, image.Y + image.W / 3), Color::Rgb(255, 0, 0));
+    EXPECT_TRUE(board.Has(box, Color::Black()));
+    EXPECT_EQ(board.ColorAt(image.X + 0.004, image.Y + 0.004), kMagic) << "outside the diamond";
+}
+
+TEST_F(PaintTest, BoardStandsAtOnceAndPicturesComeAsTheyAreDecoded) {
+    SetCorner(0, kWord).Image.Let_FullPath(RedPicture());
+    for (int iSpace : {4, 12, 20})
+        SetSpace(iSpace, kWord).Image.Let_FullPath(RedPicture());
+    for (int size : {kSize, 3 * kSize}) {
+        ForgetPictures();
+        for (int iSpace : {4, 12, 20})
+            QFile::remove(g_oSpaces(iSpace).Image.Thumbname());
+        QFile::remove(g_oCorners(0).Image.Thumbname());
+        ScratchForm picBoard(QSize(size, size));
+        PosInit();
+        PosSethDC(&picBoard.hDC());
+        PosSetPicture(&picBoard, true, PicturesShown::Ready);
+        PosSetScale(float(size));
+        PosSetWidth(size);
+        PosDrawAll();
+        EXPECT_EQ(PosPicturesAwaited(), 4);
+        EXPECT_FALSE(PaintedBoard(picBoard.Image()).Has(TextPart(4), Color::Rgb(255, 0, 0)));
+        QElapsedTimer waited;
+        waited.start();
+        while (PosDrawAwaited() > 0 && waited.elapsed() < 20000)
+            QThread::msleep(5);
+        EXPECT_EQ(PosPicturesAwaited(), 0);
+        PosSetPicture(nullptr);
+        PosSethDC(nullptr);
+        EXPECT_TRUE(PaintedBoard(picBoard.Image()).SameAs(Paint(size), {0, 0, 1, 1})) << size;
+    }
 }
 
 struct Place {
