@@ -5,7 +5,7 @@
 #include "platform/Numbers.h"
 #include "platform/PaintImage.h"
 #include "platform/Painting.h"
-#include "platform/TextStamps.h"
+#include "platform/DeviceContext_text.h"
 
 #include <QPainterPath>
 

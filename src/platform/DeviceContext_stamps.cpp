@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/TextStamps.h"
+#include "platform/DeviceContext_text.h"
 
 #include "platform/DeviceContext.h"
 #include "platform/FontFace.h"

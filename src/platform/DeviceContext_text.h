@@ -7,9 +7,9 @@
 
 class Font;
 
-/// Lines of text as they were painted last. A board is painted again and again with the same words in the
-/// same places; stamping a line is many times faster than shaping and filling its letters, and comes out
-/// the same to the pixel. Main thread only, as all drawing is.
+/// For the sources of the device context only. Lines of text as they were painted last. A board is painted again and
+/// again with the same words in the same places; stamping a line is many times faster than shaping and filling its
+/// letters, and comes out the same to the pixel. Main thread only, as all drawing is.
 namespace TextStamps {
 
 /// Paints with the top left of the text box in a point of the painter's own, untransformed units; ratio is
