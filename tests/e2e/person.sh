@@ -5,6 +5,13 @@ set -euo pipefail
 
 program=$1
 data=$2
+for tool in Xvfb xdotool xwininfo openbox import; do
+    if ! command -v "$tool" >/dev/null; then
+        echo "skipped: there is no $tool on this machine"
+        exit 77
+    fi
+done
+
 home=$(mktemp -d)
 games="$home/Documents/My Games"
 pids=()
