@@ -40,7 +40,7 @@ QRect PixelRect(const QRect& twips) {
 
 } // namespace
 
-frmTAVL::frmTAVL() : m_about(std::make_unique<frmAbout>()) {
+frmTAVL::frmTAVL() : m_about(std::make_unique<frmAbout>(this)) {
     setObjectName(QStringLiteral("frmTAVL"));
     MakeControls();
     MakeMenus();
@@ -238,6 +238,14 @@ void frmTAVL::showEvent(QShowEvent* event) try {
     Form_Resize();
 } catch (...) {
     ErrTop("frmTAVL!", "Form_Resize");
+}
+
+void frmTAVL::changeEvent(QEvent* event) try {
+    QMainWindow::changeEvent(event);
+    // The toolbar's picture lies on the colour of the desktop's theme.
+    if (event->type() == QEvent::PaletteChange && imgToolBar) DrawToolBar();
+} catch (...) {
+    ErrTop("frmTAVL!", "changeEvent");
 }
 
 void frmTAVL::closeEvent(QCloseEvent* event) try {

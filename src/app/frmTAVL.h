@@ -109,6 +109,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
@@ -138,6 +139,9 @@ private:
     bool LoadAutosave(const QString& sPath, const QString& sMessage);
     void LoadLastGame();
     bool m_bSplash = false;
+    bool m_bLoading = false;
+    /// What another start asked for while this one was still loading.
+    QString m_sGameToOpen;
 
     // The game.
     void GameLoad(QString& sFileName);
@@ -154,6 +158,7 @@ private:
     void ShowDialogError();
 
     // The view.
+    void PaintBoard();
     void SetZoom(int iZoom);
     void ClearHitState();
     void ApplyLayout(const MainLayout& layout);

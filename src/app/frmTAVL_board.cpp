@@ -41,6 +41,19 @@ void frmTAVL::Redraw() try {
     if (m_bNoRedraw || !isVisible()) return;
     const Hourglass hourglass;
     basMsgQueue::MsgQueue_Init();
+    try {
+        PaintBoard();
+    } catch (...) {
+        // The queue must not stay open, or every later message would wait in it.
+        basMsgQueue::MsgQueue_Display();
+        throw;
+    }
+    basMsgQueue::MsgQueue_Display();
+} catch (...) {
+    ErrTail("frmTAVL!", "Redraw");
+}
+
+void frmTAVL::PaintBoard() try {
     DeviceContext& hDC = picBoard->hDC();
     const int depth = hDC.SaveDC();
     picBoard->Cls();
@@ -57,9 +70,8 @@ void frmTAVL::Redraw() try {
     hDC.RestoreDC(depth);
     picBoard->Refresh();
     AwaitPictures(basPosit::PosPicturesAwaited() > 0);
-    basMsgQueue::MsgQueue_Display();
 } catch (...) {
-    ErrTail("frmTAVL!", "Redraw");
+    ErrTail("frmTAVL!", "PaintBoard");
 }
 
 void frmTAVL::AwaitPictures(bool bAwaited) {

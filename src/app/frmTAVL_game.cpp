@@ -15,7 +15,7 @@
 
 namespace {
 
-const QString kGameFilter = QStringLiteral("Tavlora games (*.gam)|*.gam|All files|*.*");
+const QString kGameFilter = QStringLiteral("Tavlora games|*.gam|All files|*.*");
 const QString kGameExtension = QStringLiteral("gam");
 
 } // namespace
@@ -177,6 +177,10 @@ void frmTAVL::OkToEndProgram(bool& bOk) try {
 }
 
 void frmTAVL::CalledByAnotherStart(const QString& sGame) try {
+    if (m_bLoading) {
+        m_sGameToOpen = sGame;
+        return;
+    }
     setWindowState(windowState() & ~Qt::WindowMinimized);
     raise();
     activateWindow();

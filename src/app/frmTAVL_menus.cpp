@@ -160,7 +160,7 @@ void frmTAVL::mnuHelp_Click(int Index) try {
         case 0:
             return m_about->ShowForm();
         case 1:
-            return frmPrintManual().ShowForm(false);
+            return frmPrintManual(this).ShowForm(false);
         case 2:
             return;
         default:

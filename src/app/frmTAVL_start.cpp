@@ -27,6 +27,7 @@ constexpr qint32 kBoardFace = 0xE0FFE0;
 } // namespace
 
 void frmTAVL::Form_Load() try {
+    m_bLoading = true;
     const QString& programName = Settings().sProgramName;
     basErrLog::ErrInit(kLogLimit, QString(), true);
     basCommon::InitIniPath();
@@ -43,7 +44,10 @@ void frmTAVL::Form_Load() try {
     basCommon::ShowEntireForm(*this);
     Init();
     HideSplash();
+    m_bLoading = false;
+    if (!m_sGameToOpen.isEmpty()) OpenGame(m_sGameToOpen);
 } catch (...) {
+    m_bLoading = false;
     ErrTop("frmTAVL!", "Form_Load");
 }
 

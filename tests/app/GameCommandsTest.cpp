@@ -242,6 +242,20 @@ TEST_F(GameCommandsTest, GameOfAnotherStartIsOpenedThroughTheSameQuestion) {
     EXPECT_EQ(desktop.boxes.size(), 2) << "coming to the front asks nothing";
 }
 
+TEST_F(GameCommandsTest, GameOfAnotherStartWaitsUntilThisOneHasLoaded) {
+    class Calling : public TestDesktop {
+    public:
+        explicit Calling(std::function<void()> call) : m_call(std::move(call)) {}
+        void Sleep(int) override { m_call(); }
+
+    private:
+        std::function<void()> m_call;
+    } calling([this] { window->CalledByAnotherStart(QStringLiteral(TAVLORA_DATA_DIR "/Family_US.gam")); });
+    StartWith(QStringLiteral("Mine.gam"));
+    EXPECT_EQ(TextOfSpace4(), QStringLiteral("Leo's Desk"));
+    EXPECT_TRUE(window->m_sGameName.endsWith(QStringLiteral("Family_US.gam")));
+}
+
 TEST_F(GameCommandsTest, FirstFourLettersTellAGameWithoutAName) {
     EXPECT_TRUE(GameNames::IsUnnamed(QStringLiteral("/a/game7.gam")));
     EXPECT_TRUE(GameNames::IsUnnamed(QStringLiteral("C:\\x\\GAMES.gam")));

@@ -105,8 +105,8 @@ TEST(WidgetLookTest, NothingIsTakenForMarkupOrAMnemonic) {
 }
 
 TEST(DesktopWidgetsTest, FiltersTakeTheToolkitsForm) {
-    EXPECT_EQ(DesktopWidgets::NameFilters(QStringLiteral("Games (*.gam)|*.gam|Pictures|*.bmp;*.jpg|All files|*.*")),
-              (QStringList{QStringLiteral("Games (*.gam) (*.gam)"), QStringLiteral("Pictures (*.bmp *.jpg)"),
+    EXPECT_EQ(DesktopWidgets::NameFilters(QStringLiteral("Games|*.gam|Pictures|*.bmp;*.jpg|All files|*.*")),
+              (QStringList{QStringLiteral("Games (*.gam)"), QStringLiteral("Pictures (*.bmp *.jpg)"),
                            QStringLiteral("All files (*)")}));
     EXPECT_EQ(DesktopWidgets::NameFilters(QString()), QStringList{QStringLiteral("All files (*)")});
 }

@@ -1,0 +1,206 @@
+// SPDX-License-Identifier: MIT
+// The toolbar, the menus and the row of buttons.
+#include "MainWindowFixture.h"
+
+namespace {
+
+class ToolBarAndMenusTest : public MainWindowTest {};
+
+TEST_F(ToolBarAndMenusTest, Edge_BadNewsButtonOpensGoodNewsWhileToolbarAndBoardOpenBadNews) {
+    ClickButton(2);
+    EXPECT_EQ(Find<QPushButton>("cmd_2").text(), QStringLiteral("&Bad News"));
+    EXPECT_EQ(routes.Take(), Strings{QStringLiteral("news 0")});
+    ClickToolBar(6);
+    EXPECT_EQ(routes.Take(), Strings{QStringLiteral("news 1")});
+    const QPointF box = MiddleOfBox(4);
+    ClickBoard(box.x(), box.y());
+    EXPECT_EQ(routes.Take(), Strings{QStringLiteral("news 1")});
+}
+
+TEST_F(ToolBarAndMenusTest, Edge_PrinterSetupRefusesAfterPrintingUntilTheNextStart) {
+    int dialogs = 0;
+    desktop.onDialog = [&](CommonDialog&) { return ++dialogs > 0; };
+    ChooseMenu("mnuFile_6");
+    EXPECT_EQ(dialogs, 1);
+    routes.onEdit = [] { return true; };
+    ClickButton(3);
+    EXPECT_EQ(routes.Take(), Strings{QStringLiteral("print")});
+    ChooseMenu("mnuFile_6");
+    EXPECT_EQ(dialogs, 1);
+    ASSERT_EQ(desktop.boxes.size(), 1);
+    EXPECT_EQ(desktop.boxes[0].iStyle, vbInformation);
+    EXPECT_EQ(desktop.boxes[0].sText,
+              QStringLiteral("Sorry, but you can't change printers once you have started the printing process.\r\n"
+                             "Please stop and restart the program before changing printers."));
+    Start();
+    ChooseMenu("mnuFile_6");
+    EXPECT_EQ(dialogs, 2);
+}
+
+TEST_F(ToolBarAndMenusTest, Edge_PressOnAnEmptyPartOfTheToolbarDoesNothing) {
+    for (const QPoint at : {QPoint(73, 12), QPoint(315, 12), QPoint(10, 0), QPoint(10, 25)}) {
+        QTest::mousePress(&ToolBar(), Qt::LeftButton, {}, at);
+        QTest::mouseRelease(&ToolBar(), Qt::LeftButton, {}, at);
+    }
+    EXPECT_TRUE(routes.Take().isEmpty());
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+    EXPECT_FALSE(desktop.ended) << "the exit face is dead";
+}
+
+TEST_F(ToolBarAndMenusTest, ToolbarButtonsRunTheirCommands) {
+    ClickToolBar(4);
+    ClickToolBar(5);
+    ClickToolBar(7);
+    ClickToolBar(3);
+    EXPECT_EQ(routes.Take(), (Strings{QStringLiteral("money"), QStringLiteral("news 0"), QStringLiteral("tokens"),
+                                      QStringLiteral("print")}));
+    for (int zoom : {4, 3, 2, 1}) {
+        ClickToolBar(7 + zoom);
+        EXPECT_FLOAT_EQ(window->m_fZoom, float(zoom));
+    }
+    QStringList dialogs;
+    desktop.onDialog = [&](const CommonDialog& dialog) {
+        dialogs.append(dialog.sDialogTitle);
+        return false;
+    };
+    ClickToolBar(1);
+    ClickToolBar(2);
+    EXPECT_EQ(dialogs, (Strings{QStringLiteral("Open Game"), QStringLiteral("Save Game Under New Name")}));
+    window->m_sGameName = QStringLiteral("/old");
+    ClickToolBar(0);
+    EXPECT_TRUE(window->m_sGameName.endsWith(QStringLiteral("Game1.gam")));
+}
+
+TEST_F(ToolBarAndMenusTest, ToolbarFramesTheButtonUnderTheMouse) {
+    auto& top = Find<QWidget>("linButTop");
+    auto& right = Find<QWidget>("linButRight");
+    EXPECT_FALSE(top.isVisible());
+    QTest::mouseMove(&ToolBar(), OnToolBar(1));
+    EXPECT_TRUE(top.isVisible());
+    EXPECT_EQ(top.geometry().topLeft(), QPoint(25, 2));
+    EXPECT_EQ(right.x(), 47);
+    EXPECT_EQ(top.palette().window().color(), QColor(Qt::white));
+    EXPECT_EQ(ToolBar().toolTip(), QStringLiteral("Open Previous Game"));
+    EXPECT_EQ(Find<QLabel>("txtToolTip").text(), QStringLiteral("Existing\r\nGame"));
+    EXPECT_EQ(window->TimerInterval(), 1000);
+    QTest::mousePress(&ToolBar(), Qt::LeftButton, {}, OnToolBar(1));
+    EXPECT_EQ(top.palette().window().color(), QColor(128, 128, 128));
+    QTest::mouseMove(&ToolBar(), QPoint(73, 12));
+    EXPECT_FALSE(top.isVisible());
+    EXPECT_EQ(ToolBar().toolTip(), QString());
+    QTest::mouseRelease(&ToolBar(), Qt::LeftButton, {}, QPoint(73, 12));
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+}
+
+TEST_F(ToolBarAndMenusTest, ToolbarTableHoldsEveryTipAndItsTwoWords) {
+    const Strings tips{QStringLiteral("New Game"),
+                       QStringLiteral("Open Previous Game"),
+                       QStringLiteral("Save Current Game"),
+                       QStringLiteral("Print"),
+                       QStringLiteral("Edit Money"),
+                       QStringLiteral("Edit Good News Cards"),
+                       QStringLiteral("Edit Bad News Cards"),
+                       QStringLiteral("Edit Tokens"),
+                       QStringLiteral("Zoom 1X"),
+                       QStringLiteral("Zoom 2X"),
+                       QStringLiteral("Zoom 3x"),
+                       QStringLiteral("Zoom 4X")};
+    for (int i = 0; i < ToolBarTable::kLiveButtons; ++i) {
+        QTest::mouseMove(&ToolBar(), OnToolBar(i));
+        EXPECT_EQ(ToolBar().toolTip(), tips[i]);
+    }
+}
+
+TEST_F(ToolBarAndMenusTest, MenusCarryTheirCaptionsAndShortcuts) {
+    const struct {
+        const char* name;
+        const char* caption;
+        const char* shortcut;
+        bool acts;
+    } items[] = {
+        {"mnuTop_0", "&File", "", true},
+        {"mnuFile_0", "&New...", "Ctrl+N", true},
+        {"mnuFile_1", "New Geme &Wizard", "", false},
+        {"mnuFile_2", "&Open...", "Ctrl+O", true},
+        {"mnuFile_3", "&Save", "Ctrl+S", true},
+        {"mnuFile_4", "Save &As...", "Ctrl+Shift+S", true},
+        {"mnuFile_6", "P&rinter Setup", "", true},
+        {"mnuFile_7", "&Print...", "Ctrl+P", true},
+        {"mnuFile_9", "E&xit", "Ctrl+Q", true},
+        {"mnuTop_1", "&View", "", true},
+        {"mnuView_0", "&Zoom...", "", true},
+        {"mnuZoom_0", "&1X", "Ctrl+1", true},
+        {"mnuZoom_3", "&4X", "Ctrl+4", true},
+        {"mnuView_1", "&Money", "", true},
+        {"mnuView_2", "&Good News", "", true},
+        {"mnuView_3", "&Bad News", "", true},
+        {"mnuView_4", "&Token", "", true},
+        {"mnuView_6", "&Tool Tips", "", true},
+        {"mnuView_8", "&Setup", "", true},
+        {"mnuView_9", "&About...", "", true},
+        {"mnuTop_2", "&Help", "", true},
+        {"mnuHelp_0", "&About...", "", true},
+        {"mnuHelp_1", "A&ssembly Instructions", "", true},
+        {"mnuHelp_2", "&Print Instruction Manual", "", false},
+    };
+    for (const auto& item : items) {
+        const auto& action = Find<QAction>(item.name);
+        EXPECT_EQ(action.text(), QString::fromLatin1(item.caption)) << item.name;
+        EXPECT_EQ(action.shortcut().toString(), QString::fromLatin1(item.shortcut)) << item.name;
+        EXPECT_EQ(action.isEnabled(), item.acts) << item.name;
+    }
+    for (const char* separator : {"mnuFile_5", "mnuFile_8", "mnuView_5", "mnuView_7"})
+        EXPECT_TRUE(Find<QAction>(separator).isSeparator()) << separator;
+}
+
+TEST_F(ToolBarAndMenusTest, MenusRunTheirCommands) {
+    for (const char* item : {"mnuView_1", "mnuView_2", "mnuView_3", "mnuView_4", "mnuView_8", "mnuFile_7"})
+        ChooseMenu(item);
+    EXPECT_EQ(routes.Take(), (Strings{QStringLiteral("money"), QStringLiteral("news 0"), QStringLiteral("news 1"),
+                                      QStringLiteral("tokens"), QStringLiteral("setup"), QStringLiteral("print")}));
+    for (const int nothing : {1, 5, 8})
+        window->mnuFile_Click(nothing);
+    window->mnuHelp_Click(2);
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+}
+
+TEST_F(ToolBarAndMenusTest, UnknownIndexEndsTheProgram) {
+    const struct {
+        void (frmTAVL::*click)(int);
+        int index;
+        const char* message;
+    } calls[] = {{&frmTAVL::mnuFile_Click, 10, "Unexpected mnu_File"},
+                 {&frmTAVL::mnuView_Click, 10, "Unexpected Case"},
+                 {&frmTAVL::mnuHelp_Click, 3, "Unexpected Case"},
+                 {&frmTAVL::cmd_Click, 5, "Unexpected Case"}};
+    for (const auto& call : calls) {
+        EXPECT_THROW((window.get()->*call.click)(call.index), ProgramEnded);
+        EXPECT_TRUE(desktop.boxes.last().sText.contains(QString::fromLatin1(call.message)));
+    }
+}
+
+TEST_F(ToolBarAndMenusTest, ButtonsRunTheirCommands) {
+    ClickButton(0);
+    ClickButton(1);
+    EXPECT_EQ(routes.Take(), (Strings{QStringLiteral("money"), QStringLiteral("news 0")}));
+    EXPECT_THROW(ClickButton(4), ProgramEnded);
+    EXPECT_TRUE(desktop.boxes.isEmpty()) << "no question";
+}
+
+TEST_F(ToolBarAndMenusTest, ExitOfTheMenuAsksFirst) {
+    desktop.answers = {vbNo};
+    ChooseMenu("mnuFile_9");
+    EXPECT_FALSE(desktop.ended);
+    EXPECT_EQ(desktop.Texts(), Strings{QStringLiteral("Are you certain you want to exit Tavlora at this time?")});
+    desktop.answers = {vbYes};
+    EXPECT_THROW(ChooseMenu("mnuFile_9"), ProgramEnded);
+}
+
+TEST_F(ToolBarAndMenusTest, PrintIsRefusedWhileChangesAreUnsaved) {
+    Edit(QStringLiteral("One"));
+    ClickButton(3);
+    EXPECT_EQ(desktop.Texts(), Strings{QStringLiteral("Please save your changes before printing.")});
+    EXPECT_TRUE(routes.Take().isEmpty());
+}
+
+} // namespace
