@@ -8,6 +8,7 @@
 #include "platform/Resample.h"
 
 #include <QGuiApplication>
+#include <QtEndian>
 
 #include <cstdlib>
 
@@ -23,10 +24,16 @@ namespace {
 bool IsSmall(const QByteArray& bytes, PictureFormat format) {
     constexpr int kMostBytes = 4096;
     if (bytes.size() > kMostBytes) return false;
-    if (format == PictureFormat::Bmp) return IsBmpWhole(bytes);
+    constexpr int kMostPixels = 128;
+    if (format == PictureFormat::Bmp) {
+        const auto isShort = [&](int at) {
+            const qint32 side = qFromLittleEndian<qint32>(bytes.constData() + at);
+            return side >= -kMostPixels && side <= kMostPixels;
+        };
+        return IsBmpWhole(bytes) && bytes.size() > 26 && isShort(18) && isShort(22);
+    }
     if (format != PictureFormat::Jpeg) return false;
     // Height and width behind the frame marker.
-    constexpr int kMostPixels = 128;
     for (const char* marker : {"\xFF\xC0", "\xFF\xC1", "\xFF\xC2"}) {
         for (qsizetype at = bytes.indexOf(marker); at >= 0; at = bytes.indexOf(marker, at + 2)) {
             if (at + 9 > bytes.size()) return false;

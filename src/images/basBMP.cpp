@@ -64,6 +64,8 @@ bool FindMonochrome(const QString& sFile) {
 // both are kept on purpose, as callers then paint the file's own picture.
 void CopyRows(BinaryFile& from, BinaryFile& to, const InfoHead& head) {
     const qint64 rowBytes = RowBytes1(head.biWidth);
+    // Without this a head that claims rows of nothing, two thousand million of them, is copied for minutes.
+    if (rowBytes <= 0) return;
     for (qint32 lRow = 0; lRow < head.biHeight && !from.AtEnd(); ++lRow)
         to.PutBytes(from.Bytes(rowBytes));
 }

@@ -173,6 +173,16 @@ TEST_F(basBMPTest, RowsThatRunTopDownAreNotCopied) {
     EXPECT_EQ(Files::Size(to), 62);
 }
 
+TEST_F(basBMPTest, EndlessRowsOfNothingAreNotCopied) {
+    for (const char first : {'\0', '\xF0'}) {
+        QByteArray bytes = MonochromeBmp(Quarters(8, 8));
+        bytes.replace(18, 4, QByteArray(3, first) + (first ? "\xFF" : QByteArray(1, '\0')));
+        bytes.replace(22, 4, "\xFF\xFF\xFF\x7F");
+        const QString from = WriteFile(QStringLiteral("none%1.bmp").arg(int(quint8(first))), bytes);
+        EXPECT_TRUE(ChangeMonoBmpBackColor(from, PathOf(QStringLiteral("out.bmp")), Color::White()));
+    }
+}
+
 TEST_F(basBMPTest, CopyThatCannotBeWrittenRaises) {
     const QString from = WriteFile(QStringLiteral("art.bmp"), Indexed(1));
     Files::SetFaultHook([](Files::Operation operation, const QString&) -> std::optional<QString> {
