@@ -136,7 +136,8 @@ bool frmFileName::txtNewName_LostFocus() try {
     const QString fault = FaultOf(txtNewName->text());
     if (fault.isEmpty()) return true;
     MsgBox(fault);
-    txtNewName->setFocus();
+    // Not at once: the focus is on its way to another control and would arrive there all the same.
+    QMetaObject::invokeMethod(txtNewName, qOverload<>(&QWidget::setFocus), Qt::QueuedConnection);
     return false;
 } catch (...) {
     ErrTop("frmFileName!", "txtNewName_LostFocus");

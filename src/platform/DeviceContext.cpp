@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "platform/DeviceContext.h"
 
+#include "platform/DeviceContext_text.h"
 #include "platform/FontFace.h"
 #include "platform/Numbers.h"
 #include "platform/PaintImage.h"
 #include "platform/Painting.h"
-#include "platform/DeviceContext_text.h"
 
 #include <QPainterPath>
 

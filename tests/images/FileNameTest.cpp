@@ -69,6 +69,7 @@ TEST_F(FileNameTest, ABadNewNameIsToldWhenItIsLeftAndKeepsTheFocus) {
         QTest::keyClick(&name, Qt::Key_Tab);
         EXPECT_EQ(desktop.Texts(),
                   QStringList{QStringLiteral("Please do not include a file extension in the new name.")});
+        QCoreApplication::processEvents();
         EXPECT_EQ(window.focusWidget(), &name);
         QTest::keyClick(&window, Qt::Key_Escape);
     });
