@@ -38,7 +38,8 @@ open_display() {
     chmod 700 "$home/runtime"
     export HOME=$home XDG_RUNTIME_DIR=$home/runtime QT_QPA_PLATFORM=xcb QT_SCALE_FACTOR=1
     unset XDG_CONFIG_HOME XDG_DATA_HOME XDG_DOCUMENTS_DIR
-    Xvfb -displayfd 3 -screen 0 1280x1024x24 3>"$home/display" 2>/dev/null &
+    # Without -noreset the display starts anew, and drops who is just coming, whenever its last client goes.
+    Xvfb -noreset -displayfd 3 -screen 0 1280x1024x24 3>"$home/display" 2>/dev/null &
     pids+=($!)
     local i
     for ((i = 0; i < 100; i++)); do
