@@ -242,6 +242,11 @@ void frmTAVL::EditMoney() try { ChangedByEditor(EditorRoutes::Current().EditMone
     ErrTail("frmTAVL!", "EditMoney");
 }
 
-void frmTAVL::EditToken() try { ChangedByEditor(EditorRoutes::Current().ShowTokens(), false); } catch (...) {
+void frmTAVL::EditToken() try {
+    ChangedByEditor(EditorRoutes::Current().ShowTokens(), false);
+    // The editor may have made thumbnails of a token that it then put back.
+    for (int i = 0; i < basTAVL::kTokens; ++i)
+        basTAVL::g_oTokens(i).Image.GetThumbnail(false);
+} catch (...) {
     ErrTail("frmTAVL!", "EditToken");
 }

@@ -2,6 +2,8 @@
 // The board as a door to the editors, zoom and scrolling, tool tips.
 #include "MainWindowFixture.h"
 
+#include "images/frmBMP.h"
+
 namespace {
 
 TEST_F(MainWindowTest, Edge_VerySmallWindowKeepsTheBoardAt1800Twips) {
@@ -98,6 +100,16 @@ TEST_F(MainWindowTest, UnchangedRecordIsNotAutosaved) {
     window->EditToken();
     EXPECT_FALSE(HasAutosave());
     EXPECT_EQ(routes.Take().size(), 5);
+}
+
+TEST_F(MainWindowTest, ThumbnailsOfTokensAreFetchedAgainAfterTheirEditorInAnyCase) {
+    frmBMP::InstallAsThumbnailMaker();
+    basTAVL::g_oTokens(2).SetImagePath(QStringLiteral(TAVLORA_DATA_DIR "/fate.dat"));
+    const QString thumbnail = basTAVL::g_oTokens(2).Image.GetThumbnail(false);
+    ASSERT_TRUE(QFile::remove(thumbnail)) << thumbnail.toStdString();
+    window->EditToken();
+    EXPECT_TRUE(QFileInfo::exists(thumbnail));
+    EXPECT_FALSE(window->m_bChanged);
 }
 
 TEST_F(MainWindowTest, BoardShowsTheColoursOfItsTables) {
