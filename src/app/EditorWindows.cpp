@@ -2,6 +2,8 @@
 #include "app/EditorWindows.h"
 
 #include "editors/frmEditCenter.h"
+#include "editors/frmEditCorner.h"
+#include "editors/frmEditSpace.h"
 #include "editors/frmShowNews.h"
 #include "platform/Desktop.h"
 
@@ -14,9 +16,19 @@ bool SayThatItIsToCome(const QString& sWhat) {
 
 } // namespace
 
-bool EditorWindows::EditSpace(int) { return SayThatItIsToCome(QStringLiteral("The editor of spaces")); }
+bool EditorWindows::EditSpace(int iSpace) {
+    if (!m_frmEditSpace) m_frmEditSpace = new frmEditSpace(&m_main);
+    bool changed = false;
+    m_frmEditSpace->ShowForm(iSpace, changed);
+    return changed;
+}
 
-bool EditorWindows::EditCorner(int) { return SayThatItIsToCome(QStringLiteral("The editor of corners")); }
+bool EditorWindows::EditCorner(int iCorner) {
+    if (!m_frmEditCorner) m_frmEditCorner = new frmEditCorner(&m_main);
+    bool changed = false;
+    m_frmEditCorner->ShowForm(iCorner, changed);
+    return changed;
+}
 
 bool EditorWindows::EditCenter() {
     if (!m_frmEditCenter) m_frmEditCenter = new frmEditCenter(&m_main);

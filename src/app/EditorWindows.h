@@ -4,6 +4,8 @@
 #include "app/EditorRoutes.h"
 
 class frmEditCenter;
+class frmEditCorner;
+class frmEditSpace;
 class frmShowNews;
 class QWidget;
 
@@ -25,6 +27,8 @@ public:
 private:
     /// Owns the windows.
     QWidget& m_main;
+    frmEditSpace* m_frmEditSpace = nullptr;
+    frmEditCorner* m_frmEditCorner = nullptr;
     frmEditCenter* m_frmEditCenter = nullptr;
     frmShowNews* m_frmShowNews = nullptr;
 };

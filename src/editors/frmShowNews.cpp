@@ -126,8 +126,9 @@ void frmShowNews::Form_Resize() try {
 QPoint frmShowNews::CornerOf(int iCard) const {
     const double scrolledX = double(hscrl->value()) / Screen::kTwipsPerPixel;
     const double scrolledY = double(vscrl->value()) / Screen::kTwipsPerPixel;
-    return {CLng(iCard % kAcross * basTAVL::kNewsCardWidth - scrolledX),
-            CLng(iCard / kAcross * basTAVL::kNewsCardHeight - scrolledY)};
+    const int column = iCard % kAcross;
+    const int row = iCard / kAcross;
+    return {CLng(column * basTAVL::kNewsCardWidth - scrolledX), CLng(row * basTAVL::kNewsCardHeight - scrolledY)};
 }
 
 void frmShowNews::Redraw() try {

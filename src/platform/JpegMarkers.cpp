@@ -40,8 +40,11 @@ constexpr int kEntrySize = 12;
 int OrientationOf(QByteArrayView tiff) {
     ByteReader reader(tiff);
     const std::optional<quint32> order = reader.Number(0, 2);
-    if (order != 0x4949 && order != 0x4D4D) return 1;
-    reader.SetLittleEndian(order == 0x4949);
+    constexpr quint32 kLittleEndian = 0x4949;
+    constexpr quint32 kBigEndian = 0x4D4D;
+    const quint32 mark = order.value_or(0);
+    if (mark != kLittleEndian && mark != kBigEndian) return 1;
+    reader.SetLittleEndian(mark == kLittleEndian);
     const std::optional<quint32> directory = reader.Number(4, 4);
     if (!directory) return 1;
     const std::optional<quint32> count = reader.Number(*directory, 2);

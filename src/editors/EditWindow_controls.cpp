@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: MIT
+#include "editors/EditWindow.h"
+
+#include "editors/HoldFocusBox.h"
+#include "images/C_Image.h"
+#include "platform/PictureBox.h"
+#include "platform/WidgetLook.h"
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QToolTip>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int kButtonWidth = 150;
+constexpr int kTipMargin = 4;
+
+} // namespace
+
+void EditWindow::BuildControls() {
+    auto* right = new QVBoxLayout;
+    right->addWidget(BuildTextGroup());
+    right->addWidget(BuildImageGroup());
+    right->addStretch();
+    right->addLayout(BuildClosing());
+
+    auto* all = new QHBoxLayout(this);
+    all->addWidget(BuildLikeness());
+    all->addLayout(right);
+    all->setSizeConstraint(QLayout::SetFixedSize);
+    BuildHidden();
+}
+
+QWidget* EditWindow::BuildLikeness() {
+    auto* area = new QWidget(this);
+    picDest = new PictureBox(area);
+    picDest->setObjectName(QStringLiteral("picDest"));
+    picDest->setFixedSize(m_likeness.Size());
+    picDest->ScaleMode = ScaleModeKind::Pixels;
+    picDest->SetBackColor(WidgetLook::FillOf(*this));
+    txtlegend = new QLabel(area);
+    txtlegend->setObjectName(QStringLiteral("txtlegend"));
+    txtlegend->setTextFormat(Qt::PlainText);
+    txtlegend->setAlignment(Qt::AlignHCenter);
+    ShowLegend();
+    auto* layout = new QVBoxLayout(area);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(picDest);
+    layout->addWidget(txtlegend);
+    layout->addStretch();
+    return area;
+}
+
+void EditWindow::ShowLegend() {
+    const bool hasImage = !m_likeness.Image().FullPath().isEmpty();
+    txtlegend->setText(hasImage ? QStringLiteral("Click the name to type.\nClick the picture to change it.")
+                                : QStringLiteral("Click the name to type.\n\u201cInclude Image\u201d adds a picture."));
+}
+
+QPushButton* EditWindow::MakeButton(const char* sName, const QString& sCaption) {
+    auto* button = new QPushButton(sCaption, this);
+    button->setObjectName(QString::fromLatin1(sName));
+    button->setAutoDefault(false);
+    button->setMinimumWidth(kButtonWidth);
+    // A click leaves the focus where the keys go to the text.
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setMouseTracking(true);
+    button->installEventFilter(this);
+    return button;
+}
+
+QGroupBox* EditWindow::BuildTextGroup() {
+    auto* group = new QGroupBox(QStringLiteral("Text"), this);
+    cmdChangeFont = MakeButton("cmdChangeFont", QStringLiteral("Change &Font"));
+    cmdSetAllFonts = MakeButton("cmdSetAllFonts", QStringLiteral("Set &All Fonts"));
+    auto* layout = new QVBoxLayout(group);
+    layout->addWidget(cmdChangeFont);
+    layout->addWidget(cmdSetAllFonts);
+    return group;
+}
+
+QGroupBox* EditWindow::BuildImageGroup() {
+    auto* group = new QGroupBox(QString::fromLatin1(m_wording.sImageFrame), this);
+    group->setObjectName(QStringLiteral("fraBitmap"));
+    chkIncludeImage = new QCheckBox(QStringLiteral("&Include Image"), group);
+    chkIncludeImage->setObjectName(QStringLiteral("chkIncludeImage"));
+    chkIncludeImage->setFocusPolicy(Qt::TabFocus);
+    chkIncludeImage->setMouseTracking(true);
+    chkIncludeImage->installEventFilter(this);
+    cmdBitmap = MakeButton("cmdBitmap", QStringLiteral("&Find Image"));
+    cmdCropImage = MakeButton("cmdCropImage", QStringLiteral("C&rop  Image"));
+    auto* label = new QLabel(QStringLiteral("Image File:"), group);
+    label->setObjectName(QStringLiteral("lblImageFile"));
+    txtBitmapPath = new QLineEdit(group);
+    txtBitmapPath->setObjectName(QStringLiteral("txtBitmapPath"));
+    txtBitmapPath->setReadOnly(true);
+    txtBitmapPath->setFocusPolicy(Qt::NoFocus);
+    txtBitmapPath->installEventFilter(this);
+    auto* layout = new QVBoxLayout(group);
+    for (QWidget* widget :
+         std::initializer_list<QWidget*>{chkIncludeImage, cmdBitmap, cmdCropImage, label, txtBitmapPath})
+        layout->addWidget(widget);
+    return group;
+}
+
+QBoxLayout* EditWindow::BuildClosing() {
+    cmdOK = MakeButton("cmdOK", QStringLiteral("&OK"));
+    cmdCancel = MakeButton("cmdCancel", QStringLiteral("&Cancel"));
+    auto* layout = new QVBoxLayout;
+    layout->addWidget(cmdOK);
+    layout->addWidget(cmdCancel);
+    return layout;
+}
+
+void EditWindow::BuildHidden() {
+    txtHoldFocus = new HoldFocusBox(this);
+    txtHoldFocus->installEventFilter(this);
+    // The keyboard's way goes from the text to the buttons.
+    setTabOrder(txtHoldFocus, cmdChangeFont);
+    txtSpace = new QPlainTextEdit(this);
+    txtSpace->setObjectName(QStringLiteral("txtSpace"));
+    txtSpace->setFocusPolicy(Qt::NoFocus);
+    txtSpace->hide();
+    txtToolTip = new QLabel(this);
+    txtToolTip->setObjectName(QStringLiteral("txtToolTip"));
+    txtToolTip->setTextFormat(Qt::PlainText);
+    txtToolTip->setAttribute(Qt::WA_TransparentForMouseEvents);
+    txtToolTip->setFrameStyle(QFrame::Box | QFrame::Plain);
+    txtToolTip->setMargin(kTipMargin);
+    txtToolTip->setPalette(QToolTip::palette());
+    txtToolTip->setBackgroundRole(QPalette::ToolTipBase);
+    txtToolTip->setForegroundRole(QPalette::ToolTipText);
+    txtToolTip->setAutoFillBackground(true);
+    txtToolTip->hide();
+}
+
+void EditWindow::Connect() {
+    connect(picDest, &PictureBox::MouseDown, this, &EditWindow::picDest_MouseDown);
+    connect(picDest, &PictureBox::MouseMove, this, &EditWindow::picDest_MouseMove);
+    connect(picDest, &PictureBox::MouseUp, this, &EditWindow::picDest_MouseUp);
+    connect(picDest, &PictureBox::MouseLeft, this, &EditWindow::picDest_MouseLeft);
+    connect(picDest, &PictureBox::BackingChanged, this, &EditWindow::picDest_BackingChanged);
+    connect(txtHoldFocus, &HoldFocusBox::Committed, this, &EditWindow::Form_KeyPress);
+    connect(txtHoldFocus, &HoldFocusBox::Composing, this, &EditWindow::HoldFocus_Composing);
+    connect(txtHoldFocus, &HoldFocusBox::TabbedInto, this, &EditWindow::HoldFocus_Tabbed);
+    connect(txtHoldFocus, &HoldFocusBox::TabbedOutOf, this, &EditWindow::HoldFocus_TabbedOut);
+    connect(txtSpace, &QPlainTextEdit::textChanged, this, &EditWindow::txtSpace_Change);
+    connect(cmdOK, &QPushButton::clicked, this, &EditWindow::cmdOK_Click);
+    connect(cmdCancel, &QPushButton::clicked, this, &EditWindow::cmdCancel_Click);
+    connect(cmdChangeFont, &QPushButton::clicked, this, &EditWindow::cmdChangeFont_Click);
+    connect(cmdSetAllFonts, &QPushButton::clicked, this, &EditWindow::cmdSetAllFonts_Click);
+    connect(cmdBitmap, &QPushButton::clicked, this, &EditWindow::cmdBitmap_Click);
+    connect(cmdCropImage, &QPushButton::clicked, this, &EditWindow::cmdCropImage_Click);
+    connect(chkIncludeImage, &QCheckBox::clicked, this, &EditWindow::chkIncludeImage_Click);
+}
