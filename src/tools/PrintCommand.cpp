@@ -4,12 +4,14 @@
 #include "app/services/basCommon.h"
 #include "app/services/basErrLog.h"
 #include "board/basPosit.h"
+#include "board/BoardPicture.h"
 #include "document/GameFile.h"
 #include "document/GameSession.h"
 #include "images/frmBMP.h"
 #include "platform/Console.h"
 #include "platform/Folders.h"
 #include "platform/ProgramSettings.h"
+#include "platform/SavePicture.h"
 #include "tools/PrintArguments.h"
 #include "tools/PrintDesktop.h"
 #include "tools/PrintSheets.h"
@@ -103,7 +105,6 @@ bool PrintCommand::IsPartOfThisBuild(const PrintArguments& arguments, const QStr
     for (const QString& name : sheets) {
         if (!FindPrintSheet(name)->print) missing.append(name);
     }
-    if (!arguments.sBoard.isEmpty()) missing.append(QStringLiteral("the board's picture"));
     if (!arguments.sPieces.isEmpty()) missing.append(QStringLiteral("the made pictures"));
     if (missing.isEmpty()) return true;
     Complain(QStringLiteral("not part of this build yet: ") + missing.join(QStringLiteral(", ")));
@@ -149,7 +150,16 @@ int PrintCommand::PrintGame(const PrintArguments& arguments) {
     basPosit::PosSethDC(&session.MeasuringDevice());
     basPosit::PosInit();
     if (!LoadGame(arguments.sGame) || !IsPartOfThisBuild(arguments, sheets)) return kFailed;
+    if (!arguments.sBoard.isEmpty() && !PaintBoard(arguments.sBoard, arguments.iBoardSize)) return kFailed;
+    basPosit::PosSethDC(&session.MeasuringDevice());
     return arguments.sOutput.isEmpty() ? kDone : PrintSheetsOf(arguments, sheets);
+}
+
+bool PrintCommand::PaintBoard(const QString& sPath, int lSize) {
+    QString error;
+    if (SavePicture(basPosit::BoardPicture(lSize), sPath, error)) return true;
+    Complain(QStringLiteral("'%1' could not be written: %2").arg(sPath, error));
+    return false;
 }
 
 int PrintCommand::PrintSheetsOf(const PrintArguments& arguments, const QStringList& sheets) {

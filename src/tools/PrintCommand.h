@@ -26,6 +26,8 @@ private:
     int PrintGame(const PrintArguments& arguments);
     int PrintSheetsOf(const PrintArguments& arguments, const QStringList& sheets);
     bool IsPartOfThisBuild(const PrintArguments& arguments, const QStringList& sheets);
+    /// The board as a PNG file of so many pixels square.
+    bool PaintBoard(const QString& sPath, int lSize);
     bool LoadGame(const QString& sGame);
     void List();
     void Complain(const QString& sText);

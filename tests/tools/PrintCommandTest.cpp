@@ -54,6 +54,16 @@ protected:
     QStringList errors;
 };
 
+TEST_F(PrintCommandTest, BoardBecomesAPictureOfTheSizeAskedFor) {
+    const QString path = PathOf(QStringLiteral("out/board.png"));
+    EXPECT_EQ(Run({game, QStringLiteral("--board"), path, QStringLiteral("--size"), QStringLiteral("700")}), 0);
+    const QImage board(path);
+    ASSERT_EQ(board.size(), QSize(700, 700));
+    EXPECT_EQ(board.pixelColor(int(0.5 * 700), int(0.46 * 700)), QColor(0, 176, 255)) << "the panel";
+    EXPECT_EQ(board.pixelColor(int(0.04 * 700), int(0.96 * 700)), QColor(224, 255, 224)) << "a corner's face";
+    EXPECT_EQ(OutFolder(), QStringList{QStringLiteral("board.png")});
+}
+
 TEST_F(PrintCommandTest, RulesArePrintedWithTheNamesOfTheGame) {
     EXPECT_EQ(PrintRules(game), 0);
     EXPECT_TRUE(errors.isEmpty()) << errors.join(u'\n').toStdString();
