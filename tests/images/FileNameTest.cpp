@@ -64,6 +64,8 @@ TEST_F(FileNameTest, ANewNameIsAskedForWhenThereIsNone) {
 
 TEST_F(FileNameTest, ABadNewNameIsToldWhenItIsLeftAndKeepsTheFocus) {
     Answer([this](QWidget& window) {
+        // Only an active window tells its controls that they lose the focus.
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
         auto& name = Find<QLineEdit>(window, "txtNewName");
         QTest::keyClicks(&name, QStringLiteral("cat.png"));
         QTest::keyClick(&name, Qt::Key_Tab);
