@@ -29,6 +29,7 @@ trap clean_up EXIT
 fail() {
     echo "FAILED: $*" >&2
     xdotool search --onlyvisible --name . getwindowname %@ 2>/dev/null | sed 's/^/  open window: /' >&2 || true
+    tail -20 "$home/errors" "$games"/*.log >&2 2>/dev/null || true
     [ -n "${E2E_PICTURES:-}" ] && import -window root "$E2E_PICTURES/failed.png"
     exit 1
 }
@@ -48,6 +49,7 @@ open_display() {
     done
     DISPLAY=:$(cat "$home/display")
     export DISPLAY
+    xdotool getdisplaygeometry >/dev/null || fail "the display doesn't start"
     openbox 2>/dev/null &
     pids+=($!)
     # Neither the welcome nor the splash stands in the way of a test that isn't about them.
