@@ -268,7 +268,8 @@ void MetafilePlayer::DrawArc(const MetafileArc& arc, ArcForm form) {
     QPainterPath path;
     if (form == ArcForm::Pie) {
         // The tip lies on a whole pixel.
-        path.moveTo((box.left + box.right) / 2 + PenOffset(), (box.top + box.bottom) / 2 + PenOffset());
+        const QPoint tip((box.left + box.right) / 2, (box.top + box.bottom) / 2);
+        path.moveTo(QPointF(tip) + QPointF(PenOffset(), PenOffset()));
     } else {
         path.arcMoveTo(outline, start);
     }
