@@ -28,10 +28,9 @@ InstructionNames NamesOfGame() {
             CornerName(3)};
 }
 
-bool PrintRulesSheet(Printer& printer) try {
-    printer.SetOrientation(PageOrientation::Portrait);
+bool PrintRulesSheet(SheetJob& job) try {
     clsRenderDestination destination;
-    destination.Init(printer, 1.0);
+    destination.Init(job.printer, 1.0);
     return destination.InstructionSheet(NamesOfGame());
 } catch (...) {
     ErrTail("frmTavlPrint!", "PrintRulesSheet");

@@ -169,7 +169,9 @@ int PrintCommand::PrintSheetsOf(const PrintArguments& arguments, const QStringLi
     for (const QString& name : sheets) {
         const PrintSheet& sheet = *FindPrintSheet(name);
         Progress(++number, sheets.size(), QString::fromLatin1(sheet.sTitle));
-        if (!sheet.print(printer)) return kFailed;
+        printer.SetOrientation(sheet.orientation);
+        SheetJob job{printer};
+        if (!sheet.print(job)) return kFailed;
         printer.EndDoc();
     }
     if (m_showProgress) m_err << "\r\x1b[K" << std::flush;

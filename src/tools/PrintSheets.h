@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/Printer.h"
+#include "print/SheetJob.h"
 
 #include <QString>
 
@@ -15,7 +16,7 @@ struct PrintSheet {
     PageOrientation orientation;
     /// Prints the page without ending the document; false when something is missing from it. Nothing where
     /// this build can't print the sheet.
-    bool (*print)(Printer& printer);
+    bool (*print)(SheetJob& job);
 };
 
 /// All sheets, in the order of the whole kit.
