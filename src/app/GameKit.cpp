@@ -70,6 +70,10 @@ QString VariantOf(const QString& sProgramName) {
     return exeName == QStringLiteral("TAVLORA5") ? QStringLiteral("5") : QStringLiteral("8");
 }
 
+QString ProgramNameOf(const QString& sVariant) {
+    return sVariant == QStringLiteral("8") ? QStringLiteral("tavlora") : QStringLiteral("tavlora") + sVariant.toLower();
+}
+
 void SetUp(const QString& sProgramName) try {
     const QString variant = VariantOf(sProgramName);
     basTAVL::g_sGameVersion() = variant;

@@ -13,6 +13,9 @@ QString ExeName(const QString& sProgramName);
 /// The kit that the program's name asks for.
 QString VariantOf(const QString& sProgramName);
 
+/// The program's name that asks for a kit: the other way round.
+QString ProgramNameOf(const QString& sVariant);
+
 /// Sets the variant, the sticker sizes and all colours of the kit, creating money and tokens on the way.
 /// Absent colours are written to the settings file.
 void SetUp(const QString& sProgramName);

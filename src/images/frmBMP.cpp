@@ -197,7 +197,7 @@ void frmBMP::WriteThumb(const QString& sThumb, const QImage& image) {
 }
 
 void frmBMP::GetSpaceFromArrayCoordinates(int iBlock, int iRow, int iCol, int& iSpace) {
-    // The corners' neighbours 3 and 10 of each half have stickers of their own.
+    // The middle of each side, 3 and 10 of a half, has no sticker.
     constexpr std::array<std::array<int, 6>, 2> kSpaces{{{13, 12, 11, 9, 8, 7}, {6, 5, 4, 2, 1, 0}}};
     constexpr int kSecondHalf = 14;
     iSpace = iCol >= 0 && iCol < 6 ? kSpaces[iRow == 0 ? 0 : 1][size_t(iCol)] : 0;

@@ -59,8 +59,8 @@ public:
     /// 266 pixels square.
     bool GenerateTokenImage(const QString& sFullPathDest, int iToken);
 
-    /// The space in a cell of a two-row sheet of six columns; blocks above 0 are the second half. The print
-    /// console has a copy of its own, and that is the one in use.
+    /// The space in a cell of a two-row sheet of six columns; blocks above 0 are the second half. The label
+    /// sheets ask it under a routine of their own.
     static void GetSpaceFromArrayCoordinates(int iBlock, int iRow, int iCol, int& iSpace);
 
 private:

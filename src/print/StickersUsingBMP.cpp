@@ -23,7 +23,10 @@ constexpr double kTwipsPerInch = 1440;
 QString InMyGames(const QString& sName) { return basCommon::JoinPath(basCommon::GetMyGamesDirectory(), sName); }
 
 // The wording is that of banknotes; it stands for stickers too.
-void TellNotMade() { MsgBox(QStringLiteral("Unable to create Money Image. Money will not be printed.")); }
+bool TellNotMade() {
+    MsgBox(QStringLiteral("Unable to create Money Image. Money will not be printed."));
+    return false;
+}
 
 // Paints the file and deletes it; a file that can't be painted stays for a look at it.
 void PaintAndDelete(Surface& surface, const QString& sFile, const QRect& place) {
@@ -42,31 +45,27 @@ QRect PlaceOn(const Surface& surface, double dblX, double dblY, double dblWidth,
 
 } // namespace
 
-void CornerStickerUsingBMP(clsRenderDestination& destination, int iCorner, double dblX, double dblY) try {
+bool CornerStickerUsingBMP(clsRenderDestination& destination, int iCorner, double dblX, double dblY) try {
     const QString file = InMyGames(QStringLiteral("CornerImage%1.bmp").arg(iCorner));
-    if (!frmBMP::Instance().GenerateCornerImage(file, iCorner)) {
-        TellNotMade();
-        return;
-    }
+    if (!frmBMP::Instance().GenerateCornerImage(file, iCorner)) return TellNotMade();
     Surface& surface = destination.Destination();
     const double side = basTAVL::g_dblLabelSizes(7);
     PaintAndDelete(surface, file, PlaceOn(surface, dblX, dblY, side, side));
+    return true;
 } catch (...) {
     ErrTail("clsRenderDestination!", "CornerStickerUsingBMP", iCorner, dblX, dblY);
 }
 
-void SpaceStickerUsingBMP(clsRenderDestination& destination, int iSpace, double dblX, double dblY) try {
+bool SpaceStickerUsingBMP(clsRenderDestination& destination, int iSpace, double dblX, double dblY) try {
     const QString file = InMyGames(QStringLiteral("SpaceImage.bmp"));
-    if (!frmBMP::Instance().GenerateSpaceStickerImage(file, iSpace)) {
-        TellNotMade();
-        return;
-    }
+    if (!frmBMP::Instance().GenerateSpaceStickerImage(file, iSpace)) return TellNotMade();
     Surface& surface = destination.Destination();
     const QRect place = PlaceOn(surface, dblX, dblY, basTAVL::g_dblLabelSizes(5), basTAVL::g_dblLabelSizes(6));
     PaintAndDelete(surface, file, place);
     const int lDash = CLng(kDashInches * kTwipsPerInch / surface.TwipsPerPixelX());
     basTAVL::DrawDottedBox(surface, place.x(), place.y(), place.x() + place.width(), place.y() + place.height(), lDash,
                            Color::None());
+    return true;
 } catch (...) {
     ErrTail("clsRenderDestination!", "SpaceStickerUsingBMP", iSpace, dblX, dblY);
 }

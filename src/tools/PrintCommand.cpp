@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/PrintCommand.h"
 
+#include "app/GameKit.h"
 #include "app/services/basCommon.h"
 #include "app/services/basErrLog.h"
 #include "board/basPosit.h"
@@ -49,9 +50,12 @@ void PrepareSettings(const PrintArguments& arguments, const QString& sPrivateFol
     if (!arguments.sData.isEmpty()) settings.sProgramDirectory = Console::CompletePath(arguments.sData);
     basErrLog::ErrInit(0);
     basCommon::InitIniPath();
-    const QString inSettings = basCommon::GetIniString(QStringLiteral("GameVersion"));
-    if (!inSettings.isEmpty()) settings.sGameVersion = inSettings;
-    if (!arguments.sVariant.isEmpty()) settings.sGameVersion = arguments.sVariant;
+    if (arguments.sVariant.isEmpty()) {
+        GameKit::SetUp(kProgramName);
+        GameKit::ReadGameVersion();
+    } else {
+        GameKit::SetUp(GameKit::ProgramNameOf(arguments.sVariant));
+    }
 }
 
 } // namespace

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "tools/PrintSheets.h"
 
+#include "document/basTAVL.h"
+#include "platform/Desktop.h"
+#include "print/LabelSheets.h"
 #include "print/RulesSheet.h"
 
 namespace {
@@ -13,10 +16,21 @@ constexpr const char* kWhiteCard = "white card stock";
 constexpr const char* kColoredCard = "colored card stock";
 constexpr const char* kPaper = "white paper";
 
+// The other kits' labels are laid out for stock that comes coloured and cut.
+bool KitHasLabelSheets() {
+    if (basTAVL::g_sGameVersion() == QStringLiteral("8")) return true;
+    MsgBox(QStringLiteral("The label sheets of this kit are not part of this build."));
+    return false;
+}
+
+bool PrintBox(SheetJob& job) { return KitHasLabelSheets() && StickerBoxAndTokenSheet(job); }
+bool PrintWest(SheetJob& job) { return KitHasLabelSheets() && StickerSpaceSheet(job, 0, true, false); }
+bool PrintEast(SheetJob& job) { return KitHasLabelSheets() && StickerSpaceSheet(job, 1, false, true); }
+
 constexpr PrintSheet kSheets[] = {
-    {"box", "Box Top & Token Stickers", kLabels, kLandscape, nullptr},
-    {"west", "West, South & Corner Board Stickers", kLabels, kLandscape, nullptr},
-    {"east", "East, North & Title Board Stickers", kLabels, kLandscape, nullptr},
+    {"box", "Box Top & Token Stickers", kLabels, kLandscape, PrintBox},
+    {"west", "West, South & Corner Board Stickers", kLabels, kLandscape, PrintWest},
+    {"east", "East, North & Title Board Stickers", kLabels, kLandscape, PrintEast},
     {"deeds1", "Property Deed Sheet #1", kWhiteCard, kPortrait, nullptr},
     {"deeds2", "Property Deed Sheet #2", kWhiteCard, kPortrait, nullptr},
     {"good", "Good News Cards", kColoredCard, kPortrait, nullptr},

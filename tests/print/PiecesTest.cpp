@@ -232,7 +232,7 @@ TEST_F(PiecesTest, TextsFillTheirBoxesWithoutLeavingThem) {
     }
 }
 
-TEST_F(PiecesTest, Edge_ACornerThatCannotBeMadeLeavesItsSquareBlankAndSaysSo) {
+TEST_F(PiecesTest, ACornerThatCannotBeMadeSaysSo) {
     ScratchForm form(QSize(400, 400));
     clsRenderDestination destination;
     destination.Init(form, 1.0);
