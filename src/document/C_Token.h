@@ -53,6 +53,8 @@ public:
     /// lBackColor beyond the circle. A picture that can't be painted is given up for the text.
     void Redraw(int xStart, int yStart, int xEnd, int yEnd, bool bWithSelection, Surface& picDest,
                 PictureHolder& picScratch, const TextSelection& selection, Color lBackColor);
+    /// The lines alone, on the drawing layer's current context.
+    void DrawText(int xStart, int yStart, int xEnd, int yEnd, bool bWithSelection, const TextSelection& selection);
 
     bool IsDifferentFrom(const C_Token& objOther) const;
     void LoadFromObject(const C_Token& objSource);
@@ -63,7 +65,6 @@ public:
 
 private:
     bool PaintImage(Surface& picDest, PictureHolder& picScratch, int xStart, int yStart, int xEnd, int yEnd);
-    void DrawText(int xStart, int yStart, int xEnd, int yEnd, bool bWithSelection, const TextSelection& selection);
 
     TextLines m_lines;
 };

@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "tools/PrintSheets.h"
 
+#include "app/services/basErrLog.h"
 #include "document/basTAVL.h"
 #include "platform/Desktop.h"
+#include "platform/LoadPicture.h"
+#include "print/DeedCards.h"
 #include "print/LabelSheets.h"
+#include "print/MoneySheet.h"
+#include "print/NewsSheet.h"
 #include "print/RulesSheet.h"
 
 namespace {
@@ -27,18 +32,39 @@ bool PrintBox(SheetJob& job) { return KitHasLabelSheets() && StickerBoxAndTokenS
 bool PrintWest(SheetJob& job) { return KitHasLabelSheets() && StickerSpaceSheet(job, 0, true, false); }
 bool PrintEast(SheetJob& job) { return KitHasLabelSheets() && StickerSpaceSheet(job, 1, false, true); }
 
+template <int iSheet>
+bool Deeds(SheetJob& job) {
+    return PrintDeeds(job, iSheet);
+}
+
+template <int iDeck>
+bool News(SheetJob& job) {
+    return PrintNewsSheet(job, iDeck);
+}
+
+template <int iMoney>
+bool Money(SheetJob& job) {
+    QString path;
+    if (!MakeMoneyImage(iMoney, path)) return false;
+    QString error;
+    const Picture picture = LoadPicture(path, error);
+    if (picture.IsNull()) ErrRaise(ErrNumber::kInvalidPicture, error);
+    PrintMoneySheet(job, iMoney, picture, 0, 1);
+    return true;
+}
+
 constexpr PrintSheet kSheets[] = {
     {"box", "Box Top & Token Stickers", kLabels, kLandscape, PrintBox},
     {"west", "West, South & Corner Board Stickers", kLabels, kLandscape, PrintWest},
     {"east", "East, North & Title Board Stickers", kLabels, kLandscape, PrintEast},
-    {"deeds1", "Property Deed Sheet #1", kWhiteCard, kPortrait, nullptr},
-    {"deeds2", "Property Deed Sheet #2", kWhiteCard, kPortrait, nullptr},
-    {"good", "Good News Cards", kColoredCard, kPortrait, nullptr},
-    {"bad", "Bad News Cards", kColoredCard, kPortrait, nullptr},
-    {"money100", "$ 100", kPaper, kPortrait, nullptr},
-    {"money500", "$ 500", kPaper, kPortrait, nullptr},
-    {"money1000", "$ 1,000", kPaper, kPortrait, nullptr},
-    {"money5000", "$ 5,000", kPaper, kPortrait, nullptr},
+    {"deeds1", "Property Deed Sheet #1", kWhiteCard, kPortrait, Deeds<1>},
+    {"deeds2", "Property Deed Sheet #2", kWhiteCard, kPortrait, Deeds<2>},
+    {"good", "Good News Cards", kColoredCard, kPortrait, News<0>},
+    {"bad", "Bad News Cards", kColoredCard, kPortrait, News<1>},
+    {"money100", "$ 100", kPaper, kPortrait, Money<0>},
+    {"money500", "$ 500", kPaper, kPortrait, Money<1>},
+    {"money1000", "$ 1,000", kPaper, kPortrait, Money<2>},
+    {"money5000", "$ 5,000", kPaper, kPortrait, Money<3>},
     {"rules", "Game Play Instruction Sheet", kPaper, kPortrait, PrintRulesSheet},
 };
 
