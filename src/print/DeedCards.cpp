@@ -34,7 +34,11 @@ constexpr double kDashInches = 0.05;
 constexpr float kRentsOfProperty = 1.375F;
 constexpr float kRentsOfUtility = 1.3125F;
 
-constexpr InchBox kFrame{0.25, 0.25, 2.0, 2.0};
+// Outer edge of the frame of a utility. Its line lies inside, so that it keeps clear of the captions above and
+// below it.
+constexpr double kFrameStart = 0.25;
+constexpr double kFrameLine = kFrameStart + kPenInches / 2;
+constexpr InchBox kFrame{kFrameLine, kFrameLine, kCardSide - 2 * kFrameLine, kCardSide - 2 * kFrameLine};
 struct Ornament {
     const char* sName;
     InchBox box;

@@ -49,7 +49,7 @@ struct TitleBox {
 constexpr double kTitleLine = 0.21;
 constexpr TitleBox kTitleOfProperty{{0.125, 0.875, 2.25, 0.4375}, kTitleLine};
 // Within the frame and beside the ornaments.
-constexpr TitleBox kTitleOfUtility{{0.3125, 0.8125, 1.875, 0.4375}, kTitleLine};
+constexpr TitleBox kTitleOfUtility{{0.3125, 0.875, 1.875, 0.4375}, kTitleLine};
 
 struct CenteredLine {
     double top;
