@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 // The whole board of a full game, painted on a surface as the main window does it.
+#include "BenchGame.h"
 #include "BenchPhotos.h"
 
 #include "board/basPosit.h"
 #include "board/basPositPaint.h"
-#include "document/basTAVL.h"
-#include "document/GameFile.h"
-#include "images/frmBMP.h"
 #include "platform/LoadPicture.h"
 #include "platform/Surface.h"
 
@@ -18,24 +16,7 @@
 
 namespace {
 
-constexpr int kPictures = 28;
 constexpr QSize kTwelveMegapixels{4000, 3000};
-
-// The 26 spaces that show pictures, and two corners.
-void LoadFamilyWith(const BenchPhotos& photos) {
-    basTAVL::g_sGameVersion() = QStringLiteral("8");
-    basTAVL::g_lMagicColor() = Color::Rgb(224, 255, 224);
-    frmBMP::InstallAsThumbnailMaker();
-    QString name = QStringLiteral(TAVLORA_DATA_DIR "/Family_US.gam");
-    int result = 0;
-    GameFile::GameLoad(name, result);
-    int photo = 0;
-    for (int iSpace = 0; iSpace < basTAVL::kSpaces; ++iSpace) {
-        if (!basPosit::IsLotto(iSpace)) basTAVL::g_oSpaces(iSpace).SetImagePath(photos.Path(photo++));
-    }
-    for (int iCorner = 0; photo < kPictures; ++iCorner)
-        basTAVL::g_oCorners(iCorner).Image.Let_FullPath(photos.Path(photo++));
-}
 
 void PaintOn(Surface& picBoard, int size, basPosit::PicturesShown shown = basPosit::PicturesShown::All) {
     picBoard.Cls();
@@ -74,7 +55,7 @@ double FillIn(ScratchForm& picBoard, const QElapsedTimer& sinceStart) {
 // Every shape, text and picture again, as at each change of the game.
 void BM_PaintBoardAgain(benchmark::State& state) {
     const int size = int(state.range(0));
-    const BenchPhotos photos(kPictures, QSize(1200, 900));
+    const BenchPhotos photos(kPicturesOfAGame, QSize(1200, 900));
     LoadFamilyWith(photos);
     ScratchForm picBoard(QSize(size, size));
     PaintOn(picBoard, size);
@@ -87,7 +68,7 @@ BENCHMARK(BM_PaintBoardAgain)->Arg(960)->Arg(3840)->Unit(benchmark::kMillisecond
 // are decoded, and the program goes on answering. A timer of 10 ms tells for how long it didn't.
 void BM_FirstPaint(benchmark::State& state) {
     constexpr int kSize = 960;
-    const BenchPhotos photos(kPictures, kTwelveMegapixels);
+    const BenchPhotos photos(kPicturesOfAGame, kTwelveMegapixels);
     double board = 0;
     double gap = 0;
     for (auto _ : state) {

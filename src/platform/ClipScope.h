@@ -3,15 +3,25 @@
 
 #include "platform/DeviceContext.h"
 
+#include <QPainterPath>
 #include <QRect>
 
-/// As long as it lives, nothing is painted outside a rectangle of device units. The context mustn't be
-/// flushed meanwhile.
+enum class ClipShape { Rectangle, Ellipse };
+
+/// As long as it lives, nothing is painted outside a rectangle of device units, or outside the ellipse in it.
+/// The context mustn't be flushed meanwhile.
 class ClipScope {
 public:
-    ClipScope(DeviceContext& context, const QRect& inside) : m_context(context) {
+    ClipScope(DeviceContext& context, const QRect& inside, ClipShape shape = ClipShape::Rectangle)
+        : m_context(context) {
         m_context.Painter().save();
-        m_context.Painter().setClipRect(inside, Qt::IntersectClip);
+        if (shape == ClipShape::Rectangle) {
+            m_context.Painter().setClipRect(inside, Qt::IntersectClip);
+        } else {
+            QPainterPath ellipse;
+            ellipse.addEllipse(inside);
+            m_context.Painter().setClipPath(ellipse, Qt::IntersectClip);
+        }
     }
     ~ClipScope() { m_context.Painter().restore(); }
     ClipScope(const ClipScope&) = delete;

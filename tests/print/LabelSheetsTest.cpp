@@ -12,6 +12,7 @@
 #include "platform/Printer.h"
 #include "support/BoardFixture.h"
 #include "support/PdfReader.h"
+#include "support/PictureFiles.h"
 
 #include <QFile>
 
@@ -63,6 +64,25 @@ protected:
     // Colours that the reader tells apart: no two spaces of a sheet are alike.
     static Color ColorOfSpace(int iSpace) { return Color::Rgb(40 * (iSpace % 7), 60 * (iSpace / 7), 200); }
     static QColor ToldColorOfSpace(int iSpace) { return {40 * (iSpace % 7), 60 * (iSpace / 7), 200}; }
+
+    // Red above and blue below once it is turned upright, with as much grain as a photograph, so that it is
+    // stored as one.
+    QString Photo(int orientation) const {
+        QImage photo(1600, 1600, QImage::Format_RGB32);
+        for (int y = 0; y < photo.height(); ++y) {
+            for (int x = 0; x < photo.width(); ++x) {
+                const int grain = (x * 7 + y * 13) % 40;
+                photo.setPixel(
+                    x, y, y < photo.height() / 2 ? qRgb(255 - grain, grain, x % 32) : qRgb(grain, x % 32, 255 - grain));
+            }
+        }
+        constexpr std::array<int, 9> kTurnOf{0, 0, 0, 180, 0, 0, 270, 0, 90};
+        photo = photo.transformed(QTransform().rotate(kTurnOf[size_t(orientation)]));
+        return WriteFile(QStringLiteral("photo%1.jpg").arg(orientation),
+                         PictureFiles::WithOrientation(PictureFiles::Encoded(photo, "JPEG"), orientation, true));
+    }
+    static bool IsRed(const QColor& color) { return color.red() > 180 && color.blue() < 90; }
+    static bool IsBlue(const QColor& color) { return color.blue() > 180 && color.red() < 90; }
 
     template <typename Sheet>
     bool Print(Sheet sheet) {
@@ -343,6 +363,57 @@ TEST_F(LabelSheetsTest, FailuresAreOnTheStackWithTheirArguments) {
                     error.Description().contains(QStringLiteral("StickerSpaceSheet(1, False, True)")))
             << error.Description().toStdString();
     }
+}
+
+TEST_F(LabelSheetsTest, TurnedPhotosStandUpright) {
+    if (!PdfReader::IsInstalled()) GTEST_SKIP() << "poppler's tools are not installed";
+    for (const int orientation : {1, 3, 6, 8}) {
+        const QString photo = Photo(orientation);
+        basTAVL::g_oSpaces(13).SetImagePath(photo);
+        basTAVL::g_oCorners(0).Image.Init(photo, QStringLiteral("Corner"), 0);
+        ASSERT_TRUE(PrintWest());
+        const PdfReader page(pdf);
+        // The sticker's own area begins 0.125 inch under the band, its picture fills the upper half.
+        EXPECT_TRUE(IsRed(page.ColorAt(1, 0.845, 0.7))) << orientation;
+        EXPECT_TRUE(IsBlue(page.ColorAt(1, 0.845, 1.5))) << orientation;
+        EXPECT_TRUE(IsRed(page.ColorAt(1, 1.1, 6.0))) << orientation;
+        EXPECT_TRUE(IsBlue(page.ColorAt(1, 1.1, 6.8))) << orientation;
+    }
+}
+
+TEST_F(LabelSheetsTest, PictureOfATokenLeavesNothingOutsideItsRing) {
+    if (!PdfReader::IsInstalled()) GTEST_SKIP() << "poppler's tools are not installed";
+    basTAVL::g_oTokens(1).SetImagePath(Photo(1));
+    ASSERT_TRUE(PrintBox());
+    const QRectF told(1.475, 5, 0.875, 0.875);
+    ExpectBox(reader.InkBox(1, Grown(told, 0.1)), Grown(told, kRingLine), QStringLiteral("ring"));
+    for (const double beside : {told.left(), told.right()}) {
+        const QRectF edge(beside - 0.02, told.top(), 0.04, 0.2);
+        EXPECT_TRUE(reader.InkBox(1, edge).isEmpty()) << "a hairline at " << beside;
+    }
+    EXPECT_TRUE(IsRed(reader.ColorAt(1, told.center().x(), told.top() + 0.2)));
+    EXPECT_TRUE(IsBlue(reader.ColorAt(1, told.center().x(), told.bottom() - 0.2)));
+}
+
+TEST_F(LabelSheetsTest, ASmallPictureKeepsAllItsPixels) {
+    if (!PdfReader::IsInstalled()) GTEST_SKIP() << "poppler's tools are not installed";
+    QImage small(60, 60, QImage::Format_RGB32);
+    small.fill(Qt::red);
+    small.save(PathOf(QStringLiteral("small.png")));
+    basTAVL::g_oSpaces(7).SetImagePath(PathOf(QStringLiteral("small.png")));
+    ASSERT_TRUE(PrintWest());
+    EXPECT_EQ(reader.Images(1).first().iWidth, 60);
+}
+
+TEST_F(LabelSheetsTest, AMissingPictureIsToldOnceAndItsAreaStaysEmpty) {
+    if (!PdfReader::IsInstalled()) GTEST_SKIP() << "poppler's tools are not installed";
+    basTAVL::g_oSpaces(13).SetImagePath(Photo(1));
+    QFile::remove(PathOf(QStringLiteral("photo1.jpg")));
+    ForgetPictures();
+    ASSERT_TRUE(PrintWest());
+    EXPECT_EQ(desktop.boxes.size(), 1);
+    EXPECT_EQ(reader.ColorAt(1, 0.845, 1.1), kGround);
+    EXPECT_EQ(reader.BoxesOf(1, QStringLiteral("Place13")).size(), 1);
 }
 
 TEST_F(LabelSheetsTest, SizesAreReadFromTheirText) {
