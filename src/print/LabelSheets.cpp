@@ -34,6 +34,12 @@ void DeleteQuietly(const QString& sFile) {
     Files::Remove(sFile, ignored);
 }
 
+// Captions are slanted when the sheet before has left its font so.
+void BeginSheet(SheetJob& job, clsRenderDestination& sheet) {
+    sheet.Init(job.printer, 1.0);
+    job.printer.FontItalic = false;
+}
+
 // ---- Pictures of the titles, several of which are placed more than once.
 
 enum TextPicture { kTitle, kSubtitle, kSubtitleRed, kSubtitleLines, kTextPictures };
@@ -170,7 +176,7 @@ bool StickerBoxAndTokenSheet(SheetJob& job) try {
     for (int i = 0; i < basTAVL::kTokens; ++i)
         basTAVL::g_oTokens(i).Image.GetThumbnail(false);
     clsRenderDestination sheet;
-    sheet.Init(job.printer, 1.0);
+    BeginSheet(job, sheet);
     job.Progress(10);
     if (!MakeBoxPictures(job)) return false;
     sheet.Legend(0.155F, 7.875F, QStringLiteral("none"),
@@ -297,7 +303,7 @@ bool PlaceCorners(SheetJob& job, clsRenderDestination& sheet) {
 
 bool StickerSpaceSheet(SheetJob& job, int iSide, bool bCorners, bool bTitle) try {
     clsRenderDestination sheet;
-    sheet.Init(job.printer, 1.0);
+    BeginSheet(job, sheet);
     bool made = PlaceSpaces(job, sheet, iSide);
     if (bTitle && !PlaceTitles(job, sheet)) return false;
     if (bCorners) made = PlaceCorners(job, sheet) && made;

@@ -31,6 +31,8 @@ InstructionNames NamesOfGame() {
 bool PrintRulesSheet(SheetJob& job) try {
     clsRenderDestination destination;
     destination.Init(job.printer, 1.0);
+    // The text routines print in whatever colour the sheet before has left.
+    job.printer.ForeColor = basTAVL::g_lPrintBlack();
     return destination.InstructionSheet(NamesOfGame());
 } catch (...) {
     ErrTail("frmTavlPrint!", "PrintRulesSheet");

@@ -61,12 +61,13 @@ void PrepareSettings(const PrintArguments& arguments, const QString& sPrivateFol
 } // namespace
 
 void PrintCommand::Complain(const QString& sText) {
+    if (m_showProgress) m_err << "\r\x1b[K";
     m_err << "tavlora-print: " << sText.toUtf8().constData() << std::endl;
 }
 
-void PrintCommand::Progress(int number, qsizetype count, const QString& sTitle) {
-    if (!m_showProgress) return;
-    m_err << '\r' << "\x1b[K" << qUtf8Printable(QStringLiteral("%1/%2 %3").arg(number).arg(count).arg(sTitle))
+void PrintCommand::Progress(const QString& sSheet, int iThousandths) {
+    if (!m_showProgress || iThousandths < 0) return;
+    m_err << '\r' << "\x1b[K" << qUtf8Printable(QStringLiteral("%1 %2%").arg(sSheet).arg(iThousandths / 10))
           << std::flush;
 }
 
@@ -172,9 +173,11 @@ int PrintCommand::PrintSheetsOf(const PrintArguments& arguments, const QStringLi
     int number = 0;
     for (const QString& name : sheets) {
         const PrintSheet& sheet = *FindPrintSheet(name);
-        Progress(++number, sheets.size(), QString::fromLatin1(sheet.sTitle));
+        const QString told =
+            QStringLiteral("%1/%2 %3").arg(++number).arg(sheets.size()).arg(QString::fromLatin1(sheet.sTitle));
+        Progress(told, 0);
         printer.SetOrientation(sheet.orientation);
-        SheetJob job{printer};
+        SheetJob job{printer, [this, told](int iThousandths) { Progress(told, iThousandths); }};
         if (!sheet.print(job)) return kFailed;
         printer.EndDoc();
     }

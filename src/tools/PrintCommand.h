@@ -31,7 +31,8 @@ private:
     bool LoadGame(const QString& sGame);
     void List();
     void Complain(const QString& sText);
-    void Progress(int number, qsizetype count, const QString& sTitle);
+    /// Shows which sheet is printed and how far it is, in thousandths.
+    void Progress(const QString& sSheet, int iThousandths);
 
     std::ostream& m_out;
     std::ostream& m_err;

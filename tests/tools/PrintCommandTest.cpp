@@ -4,11 +4,13 @@
 #include "platform/Console.h"
 #include "platform/Files.h"
 #include "support/FileFixture.h"
+#include "support/PdfReader.h"
 #include "tools/PrintArguments.h"
 #include "tools/PrintSheets.h"
 
 #include <QProcess>
 
+#include <array>
 #include <sstream>
 
 namespace {
@@ -23,16 +25,20 @@ protected:
         Settings().sRelativePictureBase = PathOf(QStringLiteral("games"));
         game = WriteGame(PlainLines());
     }
-    int Run(const QStringList& words) {
+    int Run(const QStringList& words, bool bShowProgress = false) {
         std::ostringstream outStream;
         std::ostringstream errStream;
-        const int status = PrintCommand(outStream, errStream, false).Run(words);
+        const int status = PrintCommand(outStream, errStream, bShowProgress).Run(words);
         out = QString::fromStdString(outStream.str());
         errors = QString::fromStdString(errStream.str()).split(u'\n', Qt::SkipEmptyParts);
         return status;
     }
     int PrintRules(const QString& gameFile) {
         return Run({gameFile, QStringLiteral("--sheet"), QStringLiteral("rules"), QStringLiteral("-o"), pdf});
+    }
+    // The sample game with all the data that the program is installed with.
+    int PrintKit(const QStringList& options = {}) {
+        return Run(QStringList{kFamily, QStringLiteral("-o"), pdf, QStringLiteral("--data"), kData} + options);
     }
     QStringList OutFolder() const { return QDir(PathOf(QStringLiteral("out"))).entryList(QDir::Files | QDir::Hidden); }
     // All files of a folder with their content, to see that nothing has changed.
@@ -48,6 +54,8 @@ protected:
         process.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), pdfFile, QStringLiteral("-")});
         return process.waitForFinished() ? QString::fromUtf8(process.readAllStandardOutput()) : QString();
     }
+    const QString kData = QStringLiteral(TAVLORA_DATA_DIR);
+    const QString kFamily = kData + QStringLiteral("/Family_US.gam");
     QString game;
     const QString pdf = PathOf(QStringLiteral("out/sheet.pdf"));
     QString out;
@@ -73,6 +81,78 @@ TEST_F(PrintCommandTest, RulesArePrintedWithTheNamesOfTheGame) {
     if (text.isEmpty()) GTEST_SKIP() << "pdftotext is not installed";
     EXPECT_TRUE(text.contains(QStringLiteral("OurTAVLO of Corner 0"))) << text.toStdString();
     EXPECT_TRUE(text.contains(QStringLiteral("Space 3 and Space 17"))) << text.toStdString();
+}
+
+// Words that only this sheet of the sample game holds.
+constexpr std::array<const char*, 12> kWordsOfSheet{"Game Token Stickers", "'Start' Board Corner", "Game Board Title",
+                                                    "The South Side",      "The North Side",       "Good News!",
+                                                    "Bad News!",           "dish duties",          "Five hundred",
+                                                    "One thousand",        "and a pony",           "How to play"};
+
+TEST_F(PrintCommandTest, WholeKitIsTwelvePagesInTheOrderOfTheSheets) {
+    if (!PdfReader::IsInstalled()) GTEST_SKIP() << "poppler's tools are not installed";
+    EXPECT_EQ(PrintKit(), 0);
+    EXPECT_TRUE(errors.isEmpty()) << errors.join(u'\n').toStdString();
+    EXPECT_EQ(OutFolder(), QStringList{QStringLiteral("sheet.pdf")});
+    const PdfReader reader(pdf);
+    ASSERT_EQ(reader.Pages(), 12);
+    for (int page = 1; page <= 12; ++page) {
+        const PrintSheet& sheet = PrintSheets()[size_t(page - 1)];
+        const bool landscape = sheet.orientation == PageOrientation::Landscape;
+        EXPECT_EQ(landscape, page <= 3) << sheet.sName;
+        EXPECT_EQ(reader.PaperInches(page), landscape ? QSizeF(11, 8.5) : QSizeF(8.5, 11)) << sheet.sName;
+        const QString words = QString::fromLatin1(kWordsOfSheet[size_t(page - 1)]);
+        EXPECT_FALSE(reader.BoxesOf(page, words).isEmpty()) << sheet.sName;
+    }
+}
+
+TEST_F(PrintCommandTest, SheetsOfTheKitAreTheSameAsThoseOnTheirOwn) {
+    if (!PdfReader::IsInstalled()) GTEST_SKIP() << "poppler's tools are not installed";
+    EXPECT_EQ(PrintKit(), 0);
+    const PdfReader kit(pdf);
+    for (int page = 1; page <= 12; ++page) {
+        const QString name = QString::fromLatin1(PrintSheets()[size_t(page - 1)].sName);
+        const QString alone = PathOf(QStringLiteral("out/%1.pdf").arg(name));
+        EXPECT_EQ(Run({kFamily, QStringLiteral("--sheet"), name, QStringLiteral("-o"), alone, QStringLiteral("--data"),
+                       kData}),
+                  0);
+        constexpr int kDpi = 50;
+        EXPECT_EQ(kit.Pixels(page, kDpi), PdfReader(alone).Pixels(1, kDpi)) << name.toStdString();
+    }
+}
+
+TEST_F(PrintCommandTest, KitFitsA4Too) {
+    if (!PdfReader::IsInstalled()) GTEST_SKIP() << "poppler's tools are not installed";
+    EXPECT_EQ(PrintKit({QStringLiteral("--paper=a4"), QStringLiteral("--dpi=300")}), 0);
+    const PdfReader reader(pdf);
+    ASSERT_EQ(reader.Pages(), 12);
+    EXPECT_NEAR(reader.PaperInches(1).width(), 297 / 25.4, 0.02);
+    EXPECT_NEAR(reader.PaperInches(12).height(), 297 / 25.4, 0.02);
+    EXPECT_NEAR(reader.BoxOf(1, QStringLiteral("Game Token Stickers")).left(), 8.15, 0.04);
+}
+
+TEST_F(PrintCommandTest, ProgressIsShownOnATerminal) {
+    EXPECT_EQ(Run({game, QStringLiteral("--sheet"), QStringLiteral("west"), QStringLiteral("-o"), pdf}, true), 0);
+    const QString shown = errors.join(u'\n');
+    EXPECT_TRUE(shown.contains(QStringLiteral("1/1 West, South & Corner Board Stickers 50%"))) << shown.toStdString();
+    EXPECT_TRUE(shown.endsWith(QStringLiteral("\r\x1b[K"))) << "the line is cleared at the end";
+}
+
+TEST_F(PrintCommandTest, ColoursOfTheStickersAreThoseOfTheKitAndTheSettings) {
+    if (!PdfReader::IsInstalled()) GTEST_SKIP() << "poppler's tools are not installed";
+    WriteFile(QStringLiteral("games/tavlora.ini"), "[tavlora]\r\nPrintRedColor=00FF8000\r\n");
+    EXPECT_EQ(Run({game, QStringLiteral("--sheet"), QStringLiteral("box"), QStringLiteral("-o"), pdf}), 0);
+    const PdfReader reader(pdf);
+    EXPECT_EQ(reader.ColorAt(1, 0.1, 0.3), QColor(0xB6, 0xDD, 0xC7)) << "behind the title";
+    EXPECT_EQ(reader.ColorAt(1, 0.15, 1.8), QColor(0xFF, 0x80, 0)) << "behind the subtitle";
+    EXPECT_EQ(ReadFile(InGames(QStringLiteral("tavlora.ini"))), QByteArray("[tavlora]\r\nPrintRedColor=00FF8000\r\n"));
+}
+
+TEST_F(PrintCommandTest, LabelSheetsOfOlderKitsAreRefusedPlainly) {
+    EXPECT_EQ(PrintKit({QStringLiteral("--variant=2"), QStringLiteral("--sheet=west")}), 1);
+    EXPECT_EQ(errors,
+              QStringList{QStringLiteral("tavlora-print: The label sheets of this kit are not part of this build.")});
+    EXPECT_TRUE(OutFolder().isEmpty());
 }
 
 TEST_F(PrintCommandTest, OldOutputIsReplacedOnlyByACompleteOne) {
@@ -159,9 +239,13 @@ TEST_F(PrintCommandTest, UsersFolderIsLeftAsItWas) {
 TEST_F(PrintCommandTest, MissingPictureIsAWarning) {
     QStringList lines = PlainLines();
     lines[3] = QStringLiteral("0, \"t\", \"gone.bmp\",0,0,0");
-    EXPECT_EQ(PrintRules(WriteGame(lines)), 0);
-    ASSERT_EQ(errors.size(), 1);
+    WriteGame(lines);
+    EXPECT_EQ(Run({game, QStringLiteral("--sheet"), QStringLiteral("rules"), QStringLiteral("west"),
+                   QStringLiteral("-o"), pdf}),
+              0);
+    ASSERT_EQ(errors.size(), 1) << errors.join(u'\n').toStdString();
     EXPECT_TRUE(errors[0].contains(QStringLiteral("gone.bmp")));
+    EXPECT_TRUE(Files::Exists(pdf));
 }
 
 TEST_F(PrintCommandTest, KitVariantComesFromTheOptionThenFromTheSettings) {
