@@ -53,6 +53,8 @@ public:
     /// lBackColor beyond the circle. A picture that can't be painted is given up for the text.
     void Redraw(int xStart, int yStart, int xEnd, int yEnd, bool bWithSelection, Surface& picDest,
                 PictureHolder& picScratch, const TextSelection& selection, Color lBackColor);
+    /// The picture alone, cut round, in the box's pixels. False, after it was told, for a bad one.
+    bool PaintImage(Surface& picDest, PictureHolder& picScratch, int xStart, int yStart, int xEnd, int yEnd);
     /// The lines alone, on the drawing layer's current context.
     void DrawText(int xStart, int yStart, int xEnd, int yEnd, bool bWithSelection, const TextSelection& selection);
 
@@ -64,7 +66,5 @@ public:
     QString SetQuotedString(const QString& sLine);
 
 private:
-    bool PaintImage(Surface& picDest, PictureHolder& picScratch, int xStart, int yStart, int xEnd, int yEnd);
-
     TextLines m_lines;
 };

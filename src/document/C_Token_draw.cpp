@@ -52,8 +52,8 @@ void CutRound(Surface& picDest, int xStart, int yStart, int xEnd, int yEnd, Colo
 
 } // namespace
 
-// True when the picture was painted; a bad one is told by the image. The round cut alone would leave hairlines
-// on paper: a printer inks every dot that a picture touches, and white over it only the dots it covers.
+// The round cut alone would leave hairlines on paper: a printer inks every dot that a picture touches, and white
+// over it only the dots it covers.
 bool C_Token::PaintImage(Surface& picDest, PictureHolder& picScratch, int xStart, int yStart, int xEnd, int yEnd) {
     if (!Image.IsWMF()) {
         const ClipScope round(picDest.hDC(), QRect(QPoint(xStart, yStart), QPoint(xEnd - 1, yEnd - 1)),

@@ -13,8 +13,8 @@ class clsRenderDestination;
 /// card isn't whole; the reason has then been told.
 bool PrintDeeds(SheetJob& job, int iSheet);
 
-/// The deed of a property. bColor is handed on by whoever prints and changes nothing: colours are printed
-/// always.
+/// The deed of a property; the picture of its side's band must have been made. bColor is handed on by whoever prints
+/// and changes nothing: colours are printed always.
 bool DeedCardProp(clsRenderDestination& destination, int iDeed, int lX, int lY, bool bColor);
 
 /// The deed of a utility, with its corners decorated. Raises for an ornament that can't be had.
