@@ -29,6 +29,8 @@ InstructionNames NamesOfGame() {
 }
 
 bool PrintRulesSheet(SheetJob& job) try {
+    // The sheet before this one may have left its own.
+    job.printer.ForeColor = basTAVL::g_lPrintBlack();
     clsRenderDestination destination;
     destination.Init(job.printer, 1.0);
     // The text routines print in whatever colour the sheet before has left.

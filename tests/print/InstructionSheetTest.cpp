@@ -2,8 +2,11 @@
 #include "print/clsRenderDestination.h"
 
 #include "app/services/basErrLog.h"
+#include "document/basTAVL.h"
+#include "platform/Printer.h"
 #include "platform/ProgramSettings.h"
 #include "platform/Surface.h"
+#include "print/RulesSheet.h"
 #include "support/TestFixture.h"
 
 namespace {
@@ -160,4 +163,13 @@ TEST_F(InstructionSheetTest, TheShippedRulesFitThePage) {
     EXPECT_GT(ink.height(), 700);
     EXPECT_LT(ink.bottom(), 1000) << "nothing runs off the page of 10.5 inches";
     EXPECT_LE(ink.right(), int(7.05 * 96));
+}
+
+TEST_F(InstructionSheetTest, RulesAreBlackWhateverWasPrintedBefore) {
+    Settings().sProgramDirectory = QStringLiteral(TAVLORA_DATA_DIR);
+    PdfPrinter printer(PathOf(QStringLiteral("rules.pdf")), QStringLiteral("Rules"), QPageSize::Letter, 72);
+    printer.ForeColor = Color(0x00FF00);
+    SheetJob job{printer};
+    EXPECT_TRUE(PrintRulesSheet(job));
+    EXPECT_EQ(printer.ForeColor, basTAVL::g_lPrintBlack());
 }
