@@ -3,6 +3,8 @@
 //   TAVLORA_BENCH_PHOTOS=FOLDER tavlora_bench --benchmark_filter=Thumbnail
 // Each run starts with nothing kept in memory. PeakMB is the peak memory of the process so far above what it
 // had before the first picture.
+#include "PeakMemory.h"
+
 #include "images/C_Image.h"
 #include "images/frmBMP.h"
 #include "platform/LoadPicture.h"
@@ -10,7 +12,6 @@
 #include <benchmark/benchmark.h>
 
 #include <QDir>
-#include <QFile>
 #include <vector>
 
 namespace {
@@ -20,15 +21,6 @@ constexpr int kSpaces = 28;
 QStringList& Photos() {
     static QStringList photos;
     return photos;
-}
-
-double PeakMegabytes() {
-    QFile status(QStringLiteral("/proc/self/status"));
-    if (!status.open(QIODevice::ReadOnly)) return 0;
-    for (const QByteArray& line : status.readAll().split('\n')) {
-        if (line.startsWith("VmHWM:")) return line.mid(6).simplified().split(' ').first().toDouble() / 1024;
-    }
-    return 0;
 }
 
 double IdleMegabytes() {

@@ -3,6 +3,7 @@
 
 #include "editors/frmEditCenter.h"
 #include "editors/frmEditCorner.h"
+#include "editors/frmEditMoney.h"
 #include "editors/frmEditSpace.h"
 #include "editors/frmShowNews.h"
 #include "platform/Desktop.h"
@@ -44,7 +45,10 @@ bool EditorWindows::ShowNews(int iGoodOrBad) {
     return changed;
 }
 
-bool EditorWindows::EditMoney() { return SayThatItIsToCome(QStringLiteral("The editor of money")); }
+bool EditorWindows::EditMoney() {
+    if (!m_frmEditMoney) m_frmEditMoney = new frmEditMoney(&m_main);
+    return m_frmEditMoney->ShowForm();
+}
 
 bool EditorWindows::ShowTokens() { return SayThatItIsToCome(QStringLiteral("The editor of tokens")); }
 

@@ -5,6 +5,7 @@
 
 class frmEditCenter;
 class frmEditCorner;
+class frmEditMoney;
 class frmEditSpace;
 class frmShowNews;
 class QWidget;
@@ -30,5 +31,6 @@ private:
     frmEditSpace* m_frmEditSpace = nullptr;
     frmEditCorner* m_frmEditCorner = nullptr;
     frmEditCenter* m_frmEditCenter = nullptr;
+    frmEditMoney* m_frmEditMoney = nullptr;
     frmShowNews* m_frmShowNews = nullptr;
 };

@@ -41,7 +41,13 @@ public:
     QString SetQuotedString(const QString& sLine);
 
 private:
+    Picture LoadOrTell(const QString& sPath);
+    bool PaintFace(Surface& form, QSize size);
     Picture FaceInOval(double dblDPI);
 
     std::array<QString, kTexts> m_sText;
+    /// The metafile last told to be bad.
+    QString m_sBadFace;
+    /// The kit's own pictures that were told to be bad.
+    QStringList m_sTold;
 };

@@ -7,6 +7,7 @@
 #include "board/basDraw.h"
 #include "board/DrawDottedBox.h"
 #include "images/basBMP.h"
+#include "images/basBMP_metafile.h"
 #include "images/clsBMP.h"
 #include "platform/Desktop.h"
 #include "platform/Folders.h"
@@ -85,37 +86,51 @@ private:
     int m_y;
 };
 
-Picture LoadOrTell(const QString& sPath) {
-    QString error;
-    const Picture picture = LoadPicture(sPath, error);
-    if (picture.IsNull()) TellBadPicture(sPath, error);
-    return picture;
-}
-
-// The oval of a note without a picture; kits before these have none.
-Picture CurrencyOval() {
+// The oval of a note without a picture; empty in kits before these, and where there is none.
+QString CurrencyOval() {
     const QString& version = Settings().sGameVersion;
     if (version != QStringLiteral("5") && version != QStringLiteral("8")) return {};
     const QString path = basCommon::JoinPath(Folders::ProgramDirectory(), QStringLiteral("$$$ellipse.dat"));
-    return basCommon::DoesFileExist(path) ? LoadOrTell(path) : Picture();
+    return basCommon::DoesFileExist(path) ? path : QString();
 }
 
 } // namespace
 
+Picture C_Money::LoadOrTell(const QString& sPath) {
+    if (sPath.isEmpty()) return {};
+    QString error;
+    const Picture picture = LoadPicture(sPath, error);
+    // Once for each picture, not at every key that is typed on the note.
+    if (picture.IsNull() && !m_sTold.contains(sPath)) {
+        m_sTold.append(sPath);
+        TellBadPicture(sPath, error);
+    }
+    return picture;
+}
+
+// Fills the box of the oval, as the thumbnail does.
+bool C_Money::PaintFace(Surface& form, QSize size) {
+    if (FaceImage.IsWMF()) {
+        basBMP::BMP_DrawWMF(form.hDC(), FaceImage.FullPath(), m_sBadFace, 0, 0, size.width(), size.height());
+        return m_sBadFace != FaceImage.FullPath();
+    }
+    if (FaceImage.GetThumbnail(false).isEmpty()) return false;
+    PictureHolder original;
+    return FaceImage.PaintPictureZoomed(form, original, ScaleModeKind::Pixels, 0, 0, size.width(), size.height(),
+                                        Color::None());
+}
+
 // The user's picture as it shows in the oval; null, after the image has told why, when it can't be had.
 Picture C_Money::FaceInOval(double dblDPI) {
-    if (FaceImage.GetThumbnail(false).isEmpty()) return {};
     const double dpi = std::max(dblDPI, kPhotoDpi);
     const QSize size(CLng(kOval.width * dpi), CLng(kOval.height * dpi));
     ScratchForm form(size);
-    form.SetBackColor(Color::White());
-    PictureHolder original;
-    if (!FaceImage.PaintPictureZoomed(form, original, ScaleModeKind::Pixels, 0, 0, size.width(), size.height(),
-                                      Color::None()))
-        return {};
+    // A line drawing's paper is the note's, and what is clear in a photograph shows the note's colour.
+    const bool drawing = basBMP::IsMonochromeBMP(FaceImage.FullPath());
+    form.SetBackColor(drawing ? Color::White() : BackColor);
+    if (!PaintFace(form, size)) return {};
     Picture face(form.Image());
-    // A line drawing's paper is the note's.
-    if (basBMP::IsMonochromeBMP(FaceImage.FullPath())) face = WithoutWhite(face);
+    if (drawing) face = WithoutWhite(face);
     clsBMP mask;
     return ThroughMask(face, mask.GetEllipticalWhite());
 }
@@ -125,11 +140,9 @@ void C_Money::DrawMoney(Surface& objDest, double dblDPI, int xStart, int yStart,
     Note note(objDest, dblDPI, xStart, yStart);
     if (bIncludeImage) {
         note.Fill(BackColor);
-        if (!BackImage.FullPath().isEmpty()) {
-            const Picture blank = LoadOrTell(BackImage.FullPath());
-            if (!blank.IsNull()) note.Paint(blank, kPanel);
-        }
-        const Picture oval = FaceImage.FullPath().isEmpty() ? CurrencyOval() : FaceInOval(dblDPI);
+        const Picture blank = LoadOrTell(BackImage.FullPath());
+        if (!blank.IsNull()) note.Paint(blank, kPanel);
+        const Picture oval = FaceImage.FullPath().isEmpty() ? LoadOrTell(CurrencyOval()) : FaceInOval(dblDPI);
         if (!oval.IsNull()) note.Paint(oval, kOval);
     }
     if (bIncludeDots) {

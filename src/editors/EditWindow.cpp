@@ -3,14 +3,13 @@
 
 #include "app/services/basCommon.h"
 #include "app/services/basErrLog.h"
-#include "app/services/basMsgQueue.h"
 #include "board/basDraw.h"
 #include "document/basTAVL.h"
 #include "editors/HoldFocusBox.h"
+#include "editors/ImageGroup.h"
+#include "editors/Redrawing.h"
 #include "images/C_Image.h"
-#include "images/frmBrowse.h"
-#include "images/frmImagePosition.h"
-#include "platform/HourGlass.h"
+#include "images/UnsavedChanges.h"
 #include "platform/PictureBox.h"
 
 #include <QCheckBox>
@@ -21,22 +20,6 @@ namespace {
 
 const QString kNewLine = QStringLiteral("\r\n");
 constexpr double kSquare = 1.0;
-
-// The hourglass for the length of a redraw, and no boxes until it is done: whoever answers one would find
-// the drawing layer in the middle of its work.
-class Redrawing {
-public:
-    Redrawing() : m_queues(!basMsgQueue::MsgQueue_IsOpen()) {
-        if (m_queues) basMsgQueue::MsgQueue_Init();
-    }
-    void ShowMessages() const {
-        if (m_queues) basMsgQueue::MsgQueue_Display();
-    }
-
-private:
-    HourGlass m_hourGlass;
-    bool m_queues;
-};
 
 } // namespace
 
@@ -130,12 +113,9 @@ void EditWindow::cmdSetAllFonts_Click() try {
 
 void EditWindow::cmdBitmap_Click() try {
     if (m_bLoading) return;
-    if (m_sLastFolder.isEmpty()) m_sLastFolder = basCommon::GetMyGamesDirectory();
     const QString before = m_likeness.Image().FullPath();
-    frmBrowse browser(this);
-    const QString path = browser.ShowForm(before, true, m_sLastFolder);
+    const QString path = fraBitmap->AskForPicture(before);
     if (path != before) {
-        m_sLastFolder = frmBrowse::LastFolder();
         SetImagePath(path);
         Redraw();
     } else if (path.isEmpty()) {
@@ -163,15 +143,7 @@ void EditWindow::chkIncludeImage_Click() try {
 }
 
 void EditWindow::cmdCropImage_Click() try {
-    C_Image& image = m_likeness.Image();
-    if (image.IsWMF()) {
-        MsgBox(QStringLiteral("This image is a 'Windows Metafile'. You are not allowed to crop or zoom this type of "
-                              "image."),
-               vbInformation);
-        return;
-    }
-    frmImagePosition position(this);
-    position.ShowForm(image, kSquare, false);
+    fraBitmap->AskForPosition(m_likeness.Image(), kSquare);
     Redraw();
     TakeFocus();
 } catch (...) {
@@ -198,19 +170,9 @@ void EditWindow::cmdCancel_Click() try {
         hide();
         return;
     }
-    const int lResponse = MsgBox(QStringLiteral("There are unsaved changes. Do you want to save them?"), vbYesNoCancel,
-                                 QStringLiteral("Save Changes"));
-    switch (lResponse) {
-        case vbCancel:
-            return;
-        case vbYes:
-            break;
-        case vbNo:
-            m_likeness.TakeBack();
-            break;
-        default:
-            basErrLog::ErrUnexVal(QStringLiteral("lResponse"), lResponse);
-    }
+    const UnsavedChanges answer = AskAboutUnsavedChanges();
+    if (answer == UnsavedChanges::Stay) return;
+    if (answer == UnsavedChanges::Drop) m_likeness.TakeBack();
     hide();
 } catch (...) {
     ErrTop(m_wording.sModule, "cmdCancel_Click");
@@ -218,8 +180,6 @@ void EditWindow::cmdCancel_Click() try {
 
 void EditWindow::reject() { cmdCancel_Click(); }
 
-void EditWindow::txtBitmapPath_Click() try {
-    MsgBox(QStringLiteral("To change the Bitmap, please click the 'Find Image' button."));
-} catch (...) {
+void EditWindow::txtBitmapPath_Click() try { ImageGroup::TellHowToChangePath(); } catch (...) {
     ErrTop(m_wording.sModule, "txtBitmapPath_Click");
 }

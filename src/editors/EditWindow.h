@@ -13,6 +13,7 @@
 #include <memory>
 
 class HoldFocusBox;
+class ImageGroup;
 class PictureBox;
 class QBoxLayout;
 class QCheckBox;
@@ -64,10 +65,11 @@ private:
     // Building, in EditWindow_controls.cpp.
     void BuildControls();
     QWidget* BuildLikeness();
-    QGroupBox* BuildImageGroup();
+    ImageGroup* BuildImageGroup();
     QGroupBox* BuildTextGroup();
     QBoxLayout* BuildClosing();
     QPushButton* MakeButton(const char* sName, const QString& sCaption);
+    void Prepare(QWidget& control);
     void BuildHidden();
     void ShowLegend();
     void Connect();
@@ -117,8 +119,6 @@ private:
     bool m_bLoading = false;
     bool m_bSelecting = false;
     bool m_bChangeAllFonts = false;
-    /// The folder last browsed; empty at first.
-    QString m_sLastFolder;
 
     CommonDialog cdlgFont;
     PictureHolder picScratch;
@@ -126,6 +126,7 @@ private:
     HoldFocusBox* txtHoldFocus = nullptr;
     QLabel* txtToolTip = nullptr;
     QLabel* txtlegend = nullptr;
+    ImageGroup* fraBitmap = nullptr;
     QLineEdit* txtBitmapPath = nullptr;
     QPlainTextEdit* txtSpace = nullptr;
     QCheckBox* chkIncludeImage = nullptr;

@@ -2,6 +2,7 @@
 #include "editors/EditWindow.h"
 
 #include "editors/HoldFocusBox.h"
+#include "editors/ImageGroup.h"
 #include "images/C_Image.h"
 #include "platform/PictureBox.h"
 #include "platform/WidgetLook.h"
@@ -67,11 +68,15 @@ QPushButton* EditWindow::MakeButton(const char* sName, const QString& sCaption) 
     button->setObjectName(QString::fromLatin1(sName));
     button->setAutoDefault(false);
     button->setMinimumWidth(kButtonWidth);
-    // A click leaves the focus where the keys go to the text.
-    button->setFocusPolicy(Qt::TabFocus);
-    button->setMouseTracking(true);
-    button->installEventFilter(this);
+    Prepare(*button);
     return button;
+}
+
+void EditWindow::Prepare(QWidget& control) {
+    // A click leaves the focus where the keys go to the text.
+    control.setFocusPolicy(Qt::TabFocus);
+    control.setMouseTracking(true);
+    control.installEventFilter(this);
 }
 
 QGroupBox* EditWindow::BuildTextGroup() {
@@ -84,28 +89,18 @@ QGroupBox* EditWindow::BuildTextGroup() {
     return group;
 }
 
-QGroupBox* EditWindow::BuildImageGroup() {
-    auto* group = new QGroupBox(QString::fromLatin1(m_wording.sImageFrame), this);
-    group->setObjectName(QStringLiteral("fraBitmap"));
-    chkIncludeImage = new QCheckBox(QStringLiteral("&Include Image"), group);
-    chkIncludeImage->setObjectName(QStringLiteral("chkIncludeImage"));
-    chkIncludeImage->setFocusPolicy(Qt::TabFocus);
-    chkIncludeImage->setMouseTracking(true);
-    chkIncludeImage->installEventFilter(this);
-    cmdBitmap = MakeButton("cmdBitmap", QStringLiteral("&Find Image"));
-    cmdCropImage = MakeButton("cmdCropImage", QStringLiteral("C&rop  Image"));
-    auto* label = new QLabel(QStringLiteral("Image File:"), group);
-    label->setObjectName(QStringLiteral("lblImageFile"));
-    txtBitmapPath = new QLineEdit(group);
-    txtBitmapPath->setObjectName(QStringLiteral("txtBitmapPath"));
-    txtBitmapPath->setReadOnly(true);
-    txtBitmapPath->setFocusPolicy(Qt::NoFocus);
-    txtBitmapPath->installEventFilter(this);
-    auto* layout = new QVBoxLayout(group);
-    for (QWidget* widget :
-         std::initializer_list<QWidget*>{chkIncludeImage, cmdBitmap, cmdCropImage, label, txtBitmapPath})
-        layout->addWidget(widget);
-    return group;
+ImageGroup* EditWindow::BuildImageGroup() {
+    fraBitmap = new ImageGroup(QString::fromLatin1(m_wording.sImageFrame), QStringLiteral("C&rop  Image"), this);
+    chkIncludeImage = fraBitmap->chkIncludeImage;
+    cmdBitmap = fraBitmap->cmdBitmap;
+    cmdCropImage = fraBitmap->cmdCropImage;
+    txtBitmapPath = fraBitmap->txtBitmapPath;
+    Prepare(*chkIncludeImage);
+    for (QPushButton* button : {cmdBitmap, cmdCropImage}) {
+        button->setMinimumWidth(kButtonWidth);
+        Prepare(*button);
+    }
+    return fraBitmap;
 }
 
 QBoxLayout* EditWindow::BuildClosing() {
@@ -155,6 +150,7 @@ void EditWindow::Connect() {
     connect(cmdChangeFont, &QPushButton::clicked, this, &EditWindow::cmdChangeFont_Click);
     connect(cmdSetAllFonts, &QPushButton::clicked, this, &EditWindow::cmdSetAllFonts_Click);
     connect(cmdBitmap, &QPushButton::clicked, this, &EditWindow::cmdBitmap_Click);
+    connect(fraBitmap, &ImageGroup::PathClicked, this, &EditWindow::txtBitmapPath_Click);
     connect(cmdCropImage, &QPushButton::clicked, this, &EditWindow::cmdCropImage_Click);
     connect(chkIncludeImage, &QCheckBox::clicked, this, &EditWindow::chkIncludeImage_Click);
 }

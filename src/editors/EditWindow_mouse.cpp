@@ -132,7 +132,6 @@ bool EditWindow::eventFilter(QObject* watched, QEvent* event) {
             break;
         case QEvent::MouseButtonPress:
             SetToolTip(QString());
-            if (watched == txtBitmapPath) txtBitmapPath_Click();
             break;
         case QEvent::MouseMove:
             Control_MouseMove(*static_cast<QWidget*>(watched));

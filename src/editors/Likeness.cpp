@@ -36,8 +36,6 @@ private:
 
 bool IsBetween(int value, int first, int last) { return value >= first && value <= last; }
 
-bool IsCentred(const C_Image& image) { return image.XCenter() != 0 || image.YCenter() != 0; }
-
 } // namespace
 
 bool Likeness::HasImage() { return !Image().FullPath().isEmpty(); }
@@ -87,14 +85,6 @@ void Likeness::DrawText(const TextSelection& selection) {
     basDraw::Draw_TextArrayShowingSelection(GetTextArray(), kCentred, TextPlace().iCentre, TopOfText(), Color::Black());
 }
 
-void Likeness::CentreInGameToo(bool wasCentred) {
-    C_Image& original = ImageInGame();
-    const C_Image& copy = Image();
-    if (wasCentred || IsCentred(original) || original.FullPath() != copy.FullPath()) return;
-    original.Let_XCenter(copy.XCenter());
-    original.Let_YCenter(copy.YCenter());
-}
-
 void Likeness::DrawImage(Surface& picDest, PictureHolder& picScratch) {
     if (!HasImage()) return;
     C_Image& image = Image();
@@ -103,10 +93,10 @@ void Likeness::DrawImage(Surface& picDest, PictureHolder& picScratch) {
         basBMP::BMP_DrawWMF(picDest.hDC(), image.FullPath(), m_vBadPath, box.x(), box.y(), box.width(), box.height());
         return;
     }
-    const bool wasCentred = IsCentred(image);
+    const bool wasCentered = image.IsCentered();
     image.PaintPictureZoomed(picDest, picScratch, ScaleModeKind::Pixels, box.x(), box.y(), box.x() + box.width(),
                              box.y() + box.height(), basTAVL::g_lMagicColor());
-    CentreInGameToo(wasCentred);
+    if (!wasCentered) ImageInGame().TakeCenterFrom(image);
 }
 
 void Likeness::Redraw(Surface& picDest, PictureHolder& picScratch, const TextSelection& selection) try {

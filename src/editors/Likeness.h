@@ -86,7 +86,6 @@ private:
     void UseTextFont();
     void DrawText(const TextSelection& selection);
     void DrawImage(Surface& picDest, PictureHolder& picScratch);
-    void CentreInGameToo(bool wasCentred);
 
     /// The metafile last told to be bad, so that it isn't told at each redraw.
     QString m_vBadPath;

@@ -7,6 +7,7 @@
 #include "board/basPosit.h"
 #include "board/basTAVL_news.h"
 #include "document/basTAVL.h"
+#include "editors/BoxText.h"
 #include "platform/Desktop.h"
 #include "platform/Numbers.h"
 #include "platform/PictureBox.h"
@@ -35,13 +36,6 @@ constexpr int kHeight = 290;
 QPoint CardCorner() {
     return {CLng(double(kCardLeftTwips) / Screen::kTwipsPerPixel),
             CLng(double(kCardTopTwips) / Screen::kTwipsPerPixel)};
-}
-
-// What the box holds, to the letter: its plain text would turn hard blanks into ordinary ones.
-QString TextOf(const QPlainTextEdit& box) {
-    QString text = box.document()->toRawText();
-    text.replace(QChar::ParagraphSeparator, kNewLine);
-    return text.replace(QChar::LineSeparator, kNewLine);
 }
 
 bool FontsDiffer(const C_News& one, const C_News& other) {
@@ -198,7 +192,7 @@ void frmEditNews::Redraw() try {
 
 void frmEditNews::txtSpace_Change() try {
     if (m_bLoading) return;
-    m_oNews.Let_Text(TextOf(*txtSpace));
+    m_oNews.Let_Text(BoxText(*txtSpace));
     Redraw();
 } catch (...) {
     ErrTop("frmEditNews!", "txtSpace_Change");

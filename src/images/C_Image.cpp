@@ -134,6 +134,12 @@ void C_Image::Let_YCenter(float fYCenter) try { StoreCenter(m_fYCenter, fYCenter
     ErrTail("C_Image!", "Let_YCenter", fYCenter);
 }
 
+void C_Image::TakeCenterFrom(const C_Image& objCopy) {
+    if (IsCentered() || m_sFullPath != objCopy.m_sFullPath) return;
+    m_fXCenter = objCopy.m_fXCenter;
+    m_fYCenter = objCopy.m_fYCenter;
+}
+
 void C_Image::Let_Zoom(qint16 iZoom) try {
     if (iZoom == m_iZoom) return;
     KillThumb();

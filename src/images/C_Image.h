@@ -88,6 +88,10 @@ public:
     void Let_XCenter(float fXCenter);
     float YCenter() const { return m_fYCenter; }
     void Let_YCenter(float fYCenter);
+    bool IsCentered() const { return m_fXCenter != 0 || m_fYCenter != 0; }
+    /// Takes the centre that a paint has just given to a copy of this image, so that looking at a picture never
+    /// counts as a change. Nothing where this one is centred already or shows another picture.
+    void TakeCenterFrom(const C_Image& objCopy);
     /// Zoom step z magnifies 2^(z/10) times; 0 is the whole picture.
     qint16 Zoom() const { return m_iZoom; }
     void Let_Zoom(qint16 iZoom);

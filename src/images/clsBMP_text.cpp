@@ -14,6 +14,7 @@
 namespace {
 
 constexpr int kMonochrome = 1;
+constexpr double kDotsPerInch = 96;
 
 // Black gives the first colour and white the second, what lies between a mixture: smooth edges.
 QRgb Mixed(QRgb grey, Color fore, Color back) {
@@ -96,7 +97,7 @@ bool clsBMP::CreateFileHoldingText(const QString& sText, Color lForeColor, Color
     WriteText(form.hDC(), size, lForeColor, lBackColor);
     CloseFile();
 
-    const auto recording = std::make_shared<Recording>(size);
+    const auto recording = std::make_shared<Recording>(size, kDotsPerInch);
     {
         QPainter painter(recording.get());
         DeviceContext context(painter);

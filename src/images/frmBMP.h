@@ -73,7 +73,8 @@ private:
     };
     using DrawPiece = std::function<void(Surface&)>;
 
-    static bool WritePiece(const QString& sFullPathDest, QSize size, const DrawPiece& draw);
+    /// dblDPI of the picture's pixels make an inch of the piece.
+    static bool WritePiece(const QString& sFullPathDest, QSize size, double dblDPI, const DrawPiece& draw);
 
     QImage Drawn(C_Image& oImage, QSize size, Color backColor);
     QImage DrawnSquare(C_Image& oImage, int lSide);

@@ -26,6 +26,7 @@ constexpr double kNoteWidth = 3.75;
 constexpr double kNoteHeight = 2.0;
 
 constexpr int kTokenPixels = 266;
+constexpr double kTokenInches = 0.875;
 // A corner's content starts this far from both edges of its sticker.
 constexpr double kCornerStart = 0.05;
 
@@ -55,14 +56,14 @@ int PixelsOf(double dblInches, double factor) { return CLng(dblInches * kFormDpi
 } // namespace
 
 // Draws a piece twice: into the pixels of the file, and into a recording for the printer.
-bool frmBMP::WritePiece(const QString& sFullPathDest, QSize size, const DrawPiece& draw) {
+bool frmBMP::WritePiece(const QString& sFullPathDest, QSize size, double dblDPI, const DrawPiece& draw) {
     ScratchForm form(size);
     draw(form);
     clsBMP file;
     if (!file.CreateFileHoldingImage(sFullPathDest, form.hDC(), size.width(), size.height(), size.width(),
                                      size.height(), 24))
         return false;
-    RecordingForm recording(size);
+    RecordingForm recording(size, dblDPI);
     draw(recording);
     KeepRecording(sFullPathDest, recording.Take());
     return true;
@@ -71,7 +72,7 @@ bool frmBMP::WritePiece(const QString& sFullPathDest, QSize size, const DrawPiec
 bool frmBMP::GenerateCornerImage(const QString& sFullPathDest, int iCorner) try {
     const double factor = FactorFor(Size(kCorner), kLargestFactor, kMarginHeight);
     const int lSide = PixelsOf(Size(kCorner), factor);
-    return WritePiece(sFullPathDest, QSize(lSide, lSide), [=](Surface& form) {
+    return WritePiece(sFullPathDest, QSize(lSide, lSide), factor * kFormDpi, [=](Surface& form) {
         form.Line(0, 0, lSide, lSide, basTAVL::g_lPrintBack(), LineForm::FilledBox);
         clsRenderDestination sticker;
         sticker.Init(form, factor);
@@ -86,7 +87,7 @@ bool frmBMP::GenerateCornerImage(const QString& sFullPathDest, int iCorner) try 
 bool frmBMP::GenerateSpaceStickerImage(const QString& sFullPathDest, int iSpace) try {
     const double factor = FactorFor(Size(kHeight), kLargestFactor, kMarginHeight);
     const QSize size(PixelsOf(Size(kWidth), factor), PixelsOf(Size(kHeight), factor));
-    return WritePiece(sFullPathDest, size, [=](Surface& form) {
+    return WritePiece(sFullPathDest, size, factor * kFormDpi, [=](Surface& form) {
         form.Line(0, 0, size.width(), size.height(), basTAVL::g_lPrintBack(), LineForm::FilledBox);
         clsRenderDestination sticker;
         sticker.Init(form, factor);
@@ -136,7 +137,8 @@ void DrawFullSpace(Surface& form, int iSpace, double factor) {
 bool frmBMP::GenerateSpaceFullImage(const QString& sFullPathDest, int iSpace) try {
     const double factor = FactorFor(Size(kFullHeight), kLargestFactor, kMarginHeight);
     const QSize size(PixelsOf(Size(kFullWidth), factor), PixelsOf(Size(kFullHeight), factor));
-    return WritePiece(sFullPathDest, size, [=](Surface& form) { DrawFullSpace(form, iSpace, factor); });
+    return WritePiece(sFullPathDest, size, factor * kFormDpi,
+                      [=](Surface& form) { DrawFullSpace(form, iSpace, factor); });
 } catch (...) {
     ErrTail("frmBMP!", "GenerateSpaceFullImage", sFullPathDest, iSpace);
 }
@@ -144,7 +146,7 @@ bool frmBMP::GenerateSpaceFullImage(const QString& sFullPathDest, int iSpace) tr
 bool frmBMP::GenerateMoneyImage(const QString& sFullPathDest, int iMoney) try {
     const double factor = FactorFor(kNoteHeight, kMoneyFactor, kMoneyMargin);
     const QSize size(PixelsOf(kNoteWidth, factor), PixelsOf(kNoteHeight, factor));
-    return WritePiece(sFullPathDest, size, [=](Surface& form) {
+    return WritePiece(sFullPathDest, size, factor * kFormDpi, [=](Surface& form) {
         basTAVL::g_oMoney(iMoney).DrawMoney(form, factor * kFormDpi, 0, 0, true, true, false);
     });
 } catch (...) {
@@ -152,10 +154,11 @@ bool frmBMP::GenerateMoneyImage(const QString& sFullPathDest, int iMoney) try {
 }
 
 bool frmBMP::GenerateTokenImage(const QString& sFullPathDest, int iToken) try {
-    return WritePiece(sFullPathDest, QSize(kTokenPixels, kTokenPixels), [this, iToken](Surface& form) {
-        basTAVL::g_oTokens(iToken).Redraw(0, 0, kTokenPixels, kTokenPixels, false, form, picOriginal, {},
-                                          Color::White());
-    });
+    return WritePiece(sFullPathDest, QSize(kTokenPixels, kTokenPixels), kTokenPixels / kTokenInches,
+                      [this, iToken](Surface& form) {
+                          basTAVL::g_oTokens(iToken).Redraw(0, 0, kTokenPixels, kTokenPixels, false, form, picOriginal,
+                                                            {}, Color::White());
+                      });
 } catch (...) {
     ErrTail("frmBMP!", "GenerateTokenImage", sFullPathDest, iToken);
 }

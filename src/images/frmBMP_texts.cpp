@@ -118,7 +118,8 @@ bool frmBMP::GenerateTextImage(const QString& sFullPathDest, double dblwInches, 
     const TextStyle style{sFamily, bBold, bItalic, lForeColor, lBackColor};
     const QStringList lines = sText.split(QStringLiteral("\r\n"));
     const FittedBlock block = FitBlock(lines, style, box, CLng(factor * dblSize * kFormDpi));
-    return WritePiece(sFullPathDest, box, [&](Surface& form) { DrawBlock(form, lines, style, box, block); });
+    return WritePiece(sFullPathDest, box, factor * kFormDpi,
+                      [&](Surface& form) { DrawBlock(form, lines, style, box, block); });
 } catch (...) {
     ErrTail("frmBMP!", "GenerateTextImage", sFullPathDest, dblwInches, dblhInches, sText, sFamily, bBold, bItalic,
             dblSize, lForeColor, lBackColor);
@@ -155,11 +156,13 @@ void DrawStretched(Surface& form, const QString& sText, const TextStyle& style, 
 bool frmBMP::GenerateStretchedTextImage(const QString& sFullPathDest, double dblwInches, double dblhInches,
                                         const QString& sText, const QString& sFamily, bool bBold, bool bItalic,
                                         Color lForeColor, Color lBackColor, bool bStretch) try {
-    const QSize box = BoxOf(dblwInches, dblhInches, FactorFor(dblwInches, dblhInches));
+    const double factor = FactorFor(dblwInches, dblhInches);
+    const QSize box = BoxOf(dblwInches, dblhInches, factor);
     const TextStyle style{sFamily, bBold, bItalic, lForeColor, lBackColor};
     const QString line = basTAVL::CRLF2Space(sText);
     const int lWidth = StretchedWidth(line, style, box, bStretch);
-    return WritePiece(sFullPathDest, box, [&](Surface& form) { DrawStretched(form, line, style, box, lWidth); });
+    return WritePiece(sFullPathDest, box, factor * kFormDpi,
+                      [&](Surface& form) { DrawStretched(form, line, style, box, lWidth); });
 } catch (...) {
     ErrTail("frmBMP!", "GenerateStretchedTextImage", sFullPathDest, dblwInches, dblhInches, sText, sFamily, bBold,
             bItalic, lForeColor, lBackColor, bStretch);
@@ -232,7 +235,7 @@ bool frmBMP::GenerateSingleLineImage(const QString& sFullPathDest, double dblwIn
     if (!file.CreateFileHoldingImage(sFullPathDest, form.hDC(), line.lWidth, line.lHeight, line.lBandWidth,
                                      line.lHeight, 24))
         return false;
-    RecordingForm recording(QSize(line.lWidth, line.lHeight));
+    RecordingForm recording(QSize(line.lWidth, line.lHeight), line.lHeight / dblhInches);
     style.UseOn(recording);
     UseSize(recording, line.size);
     PrintAt(recording, line, text, 0);

@@ -4,6 +4,7 @@
 #include "app/services/basCommon.h"
 #include "app/services/basErrLog.h"
 #include "images/frmBrowse.h"
+#include "images/UnsavedChanges.h"
 #include "platform/Desktop.h"
 #include "platform/LoadPicture.h"
 #include "platform/Numbers.h"
@@ -298,21 +299,10 @@ void frmImagePosition::cmdCancel_Click() try {
         hide();
         return;
     }
-    const int lResponse = MsgBox(QStringLiteral("There are unsaved changes. Do you want to save them?"), vbYesNoCancel,
-                                 QStringLiteral("Save Changes"));
-    switch (lResponse) {
-        case vbCancel:
-            break;
-        case vbYes:
-            hide();
-            break;
-        case vbNo:
-            m_oImage.LoadFromObject(*m_oMaster, false);
-            hide();
-            break;
-        default:
-            basErrLog::ErrUnexVal(QStringLiteral("lResponse"), lResponse);
-    }
+    const UnsavedChanges answer = AskAboutUnsavedChanges();
+    if (answer == UnsavedChanges::Stay) return;
+    if (answer == UnsavedChanges::Drop) m_oImage.LoadFromObject(*m_oMaster, false);
+    hide();
 } catch (...) {
     ErrTop("frmImagePosition!", "cmdCancel_Click");
 }

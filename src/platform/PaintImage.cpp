@@ -135,12 +135,21 @@ private:
     std::deque<Prepared> m_prepared;
 };
 
+// As many as there are at most. A pixel too many is no reason to blur a picture that was brought to its size
+// before, when it was recorded.
+int PixelsOnPaper(double wanted, double available) {
+    const int all = std::max(CLng(available), 1);
+    const int pixels = std::clamp(CLng(wanted), 1, all);
+    return all - pixels <= 1 ? all : pixels;
+}
+
 QSize SizeOnPaper(const QPainter& painter, const QRectF& target, const QSizeF& available) {
     const QSizeF dots = painter.deviceTransform().mapRect(QRectF(QPointF(0, 0), target.size())).size();
-    const double perInch = std::max(painter.device()->logicalDpiX(), 1);
-    const double share = std::min(1.0, kPaperDotsPerInch / perInch);
-    return QSize(std::clamp(CLng(dots.width() * share), 1, std::max(CLng(available.width()), 1)),
-                 std::clamp(CLng(dots.height() * share), 1, std::max(CLng(available.height()), 1)));
+    // A picture that is painted on at an angle shows no more than its own pixels.
+    const bool paper = painter.device()->devType() != QInternal::Image;
+    const double share = paper ? double(kPaperDotsPerInch) / std::max(painter.device()->logicalDpiX(), 1) : 1;
+    return QSize(PixelsOnPaper(dots.width() * share, available.width()),
+                 PixelsOnPaper(dots.height() * share, available.height()));
 }
 
 void PaintOnPaper(QPainter& painter, const QRectF& destination, const QImage& image, const QRectF& source) {

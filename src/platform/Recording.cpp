@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/Recording.h"
 
+#include "platform/Numbers.h"
 #include "platform/PaintImage.h"
 
 #include <QFont>
@@ -131,7 +132,8 @@ void Apply(const Look& look, const Look* before, QPainter& painter, const QTrans
 
 } // namespace
 
-Recording::Recording(QSize size) : m_size(size), m_engine(std::make_unique<RecordingEngine>()) {}
+Recording::Recording(QSize size, double unitsPerInch)
+    : m_size(size), m_unitsPerInch(unitsPerInch), m_engine(std::make_unique<RecordingEngine>()) {}
 Recording::~Recording() = default;
 
 QPaintEngine* Recording::paintEngine() const { return m_engine.get(); }
@@ -154,7 +156,6 @@ void Recording::Play(QPainter& painter, const QRectF& target) const {
 }
 
 int Recording::metric(PaintDeviceMetric metric) const {
-    constexpr int kDotsPerInch = 96;
     constexpr double kMillimetresPerInch = 25.4;
     switch (metric) {
         case PdmWidth:
@@ -162,16 +163,16 @@ int Recording::metric(PaintDeviceMetric metric) const {
         case PdmHeight:
             return m_size.height();
         case PdmWidthMM:
-            return int(m_size.width() * kMillimetresPerInch / kDotsPerInch);
+            return int(m_size.width() * kMillimetresPerInch / m_unitsPerInch);
         case PdmHeightMM:
-            return int(m_size.height() * kMillimetresPerInch / kDotsPerInch);
+            return int(m_size.height() * kMillimetresPerInch / m_unitsPerInch);
         case PdmDepth:
             return 32;
         case PdmDpiX:
         case PdmDpiY:
         case PdmPhysicalDpiX:
         case PdmPhysicalDpiY:
-            return kDotsPerInch;
+            return CLng(m_unitsPerInch);
         case PdmDevicePixelRatio:
             return 1;
         case PdmDevicePixelRatioScaled:

@@ -15,11 +15,13 @@ class QPainter;
 /// that it prints as sharp as the paper allows.
 class Recording : public QPaintDevice {
 public:
-    /// The size in units of what will be painted; 96 of them make an inch for fonts.
-    explicit Recording(QSize size);
+    /// The size in units of what will be painted, and how many of them make an inch where the piece is printed
+    /// at the size it is made for: no photograph is kept larger than paper shows it.
+    Recording(QSize size, double unitsPerInch);
     ~Recording() override;
 
     QSize Size() const { return m_size; }
+    double UnitsPerInch() const { return m_unitsPerInch; }
     /// Stretches everything painted so far to the target. The painter is left as it was.
     void Play(QPainter& painter, const QRectF& target) const;
 
@@ -30,5 +32,6 @@ protected:
 
 private:
     QSize m_size;
+    double m_unitsPerInch;
     std::unique_ptr<RecordingEngine> m_engine;
 };

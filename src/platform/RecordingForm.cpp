@@ -1,12 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "platform/RecordingForm.h"
 
-RecordingForm::RecordingForm(QSize size)
-    : m_recording(std::make_shared<Recording>(size)), m_painter(m_recording.get()), m_context(m_painter) {
+#include "platform/Numbers.h"
+#include "platform/PaintImage.h"
+
+RecordingForm::RecordingForm(QSize size, double unitsPerInch)
+    : m_recording(std::make_shared<Recording>(size, unitsPerInch)), m_painter(m_recording.get()), m_context(m_painter) {
     m_painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform);
 }
 
 RecordingForm::~RecordingForm() = default;
+
+int RecordingForm::PicturePixels(double length) {
+    return CLng(std::abs(ToPixels(length)) * kPaperDotsPerInch / m_recording->UnitsPerInch());
+}
 
 std::shared_ptr<const Recording> RecordingForm::Take() {
     m_painter.end();

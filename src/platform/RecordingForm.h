@@ -7,12 +7,14 @@
 /// A drawing surface that keeps no pixels but what was drawn, in the units of a form of the same size.
 class RecordingForm : public Surface {
 public:
-    explicit RecordingForm(QSize size);
+    /// The size in units, and how many of them make an inch on paper.
+    RecordingForm(QSize size, double unitsPerInch);
     ~RecordingForm() override;
 
     double DotsPerInch() const override { return 96.0; }
     DeviceContext& hDC() override { return m_context; }
     QSize SizeInPixels() const override { return m_recording->Size(); }
+    int PicturePixels(double length) override;
     /// Ends the drawing.
     std::shared_ptr<const Recording> Take();
 

@@ -134,7 +134,7 @@ void Surface::PaintPicture(const Picture& picture, double x, double y, double wi
 }
 
 int Surface::PicturePixels(double length) {
-    const double worth = IsPrinter() ? std::min(1.0, kPaperDotsPerInch / DotsPerInch()) : hDC().PixelRatio();
+    const double worth = IsPrinter() ? kPaperDotsPerInch / DotsPerInch() : hDC().PixelRatio();
     return CLng(std::abs(ToPixels(length)) * worth);
 }
 

@@ -59,7 +59,7 @@ public:
     void PaintPicture(const Picture& picture, double x, double y, double width, double height, const QRectF& source,
                       RasterOp operation = RasterOp::SourceCopy);
     /// How many pixels of a picture are worth having along a length of this surface, in its ScaleMode.
-    int PicturePixels(double length);
+    virtual int PicturePixels(double length);
     /// Clears to the back colour.
     virtual void Cls();
 

@@ -150,6 +150,7 @@ QString PrintArguments::Usage() {
   tavlora-print GAME.gam -o KIT.pdf                 the whole kit, one page a sheet
   tavlora-print GAME.gam --sheet NAME... -o F.pdf   only these sheets
   tavlora-print GAME.gam --board B.png [--size N]   the board as a picture, N pixels square (default 960)
+  tavlora-print GAME.gam --pieces DIR               every made picture (stickers, notes, tokens, titles) as PNG
   tavlora-print --list                              the sheets: name, title, stock, orientation
 
 Options:
@@ -157,7 +158,6 @@ Options:
   --dpi N               dots an inch of the PDF (default 600)
   --variant 8|5|2A|2    the boxed kit to print for, whatever the settings say
   --data DIR            take the program's own data files (rents, rules, pictures) from DIR
-  --pieces DIR          write every made picture into DIR as PNG
   --help, --version
 
 Exit status: 0 when all was made, 1 when something could not be read, loaded or written, 2 for wrong usage.

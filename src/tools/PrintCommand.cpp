@@ -10,11 +10,13 @@
 #include "document/GameSession.h"
 #include "images/frmBMP.h"
 #include "platform/Console.h"
+#include "platform/Files.h"
 #include "platform/Folders.h"
 #include "platform/ProgramSettings.h"
 #include "platform/SavePicture.h"
 #include "tools/PrintArguments.h"
 #include "tools/PrintDesktop.h"
+#include "tools/PrintPieces.h"
 #include "tools/PrintSheets.h"
 
 #include <ostream>
@@ -61,14 +63,18 @@ void PrepareSettings(const PrintArguments& arguments, const QString& sPrivateFol
 } // namespace
 
 void PrintCommand::Complain(const QString& sText) {
-    if (m_showProgress) m_err << "\r\x1b[K";
+    EndProgress();
     m_err << "tavlora-print: " << sText.toUtf8().constData() << std::endl;
 }
 
-void PrintCommand::Progress(const QString& sSheet, int iThousandths) {
+void PrintCommand::Progress(const QString& sWhat, int iThousandths) {
     if (!m_showProgress || iThousandths < 0) return;
-    m_err << '\r' << "\x1b[K" << qUtf8Printable(QStringLiteral("%1 %2%").arg(sSheet).arg(iThousandths / 10))
+    m_err << '\r' << "\x1b[K" << qUtf8Printable(QStringLiteral("%1 %2%").arg(sWhat).arg(iThousandths / 10))
           << std::flush;
+}
+
+void PrintCommand::EndProgress() {
+    if (m_showProgress) m_err << "\r\x1b[K" << std::flush;
 }
 
 void PrintCommand::List() {
@@ -105,12 +111,11 @@ int PrintCommand::Run(const QStringList& words) {
     return kDone;
 }
 
-bool PrintCommand::IsPartOfThisBuild(const PrintArguments& arguments, const QStringList& sheets) {
+bool PrintCommand::IsPartOfThisBuild(const QStringList& sheets) {
     QStringList missing;
     for (const QString& name : sheets) {
         if (!FindPrintSheet(name)->print) missing.append(name);
     }
-    if (!arguments.sPieces.isEmpty()) missing.append(QStringLiteral("the made pictures"));
     if (missing.isEmpty()) return true;
     Complain(QStringLiteral("not part of this build yet: ") + missing.join(QStringLiteral(", ")));
     return false;
@@ -154,9 +159,10 @@ int PrintCommand::PrintGame(const PrintArguments& arguments) {
     session.m_sGameName = Console::CompletePath(arguments.sGame);
     basPosit::PosSethDC(&session.MeasuringDevice());
     basPosit::PosInit();
-    if (!LoadGame(arguments.sGame) || !IsPartOfThisBuild(arguments, sheets)) return kFailed;
+    if (!LoadGame(arguments.sGame) || !IsPartOfThisBuild(sheets)) return kFailed;
     if (!arguments.sBoard.isEmpty() && !PaintBoard(arguments.sBoard, arguments.iBoardSize)) return kFailed;
     basPosit::PosSethDC(&session.MeasuringDevice());
+    if (!arguments.sPieces.isEmpty() && !WritePieces(Console::CompletePath(arguments.sPieces))) return kFailed;
     return arguments.sOutput.isEmpty() ? kDone : PrintSheetsOf(arguments, sheets);
 }
 
@@ -165,6 +171,24 @@ bool PrintCommand::PaintBoard(const QString& sPath, int lSize) {
     if (SavePicture(basPosit::BoardPicture(lSize), sPath, error)) return true;
     Complain(QStringLiteral("'%1' could not be written: %2").arg(sPath, error));
     return false;
+}
+
+bool PrintCommand::WritePieces(const QString& sFolder) {
+    QString error;
+    if (!Files::MakeDirectory(sFolder, error)) {
+        Complain(QStringLiteral("'%1' could not be made: %2").arg(sFolder, error));
+        return false;
+    }
+    const QList<PrintPiece> pieces = PrintPieces();
+    const QString work = basCommon::JoinPath(basCommon::GetMyGamesDirectory(), QStringLiteral("Piece.bmp"));
+    for (qsizetype i = 0; i < pieces.size(); ++i) {
+        Progress(pieces[i].sName, int(i * 1000 / pieces.size()));
+        if (WritePiece(pieces[i], work, sFolder, error)) continue;
+        Complain(error);
+        return false;
+    }
+    EndProgress();
+    return true;
 }
 
 int PrintCommand::PrintSheetsOf(const PrintArguments& arguments, const QStringList& sheets) {
@@ -181,7 +205,7 @@ int PrintCommand::PrintSheetsOf(const PrintArguments& arguments, const QStringLi
         if (!sheet.print(job)) return kFailed;
         printer.EndDoc();
     }
-    if (m_showProgress) m_err << "\r\x1b[K" << std::flush;
+    EndProgress();
     QString error;
     if (printer.Close(error)) return kDone;
     Complain(QStringLiteral("'%1' could not be written: %2").arg(arguments.sOutput, error));

@@ -25,14 +25,17 @@ private:
     int Carry(const PrintArguments& arguments);
     int PrintGame(const PrintArguments& arguments);
     int PrintSheetsOf(const PrintArguments& arguments, const QStringList& sheets);
-    bool IsPartOfThisBuild(const PrintArguments& arguments, const QStringList& sheets);
+    bool IsPartOfThisBuild(const QStringList& sheets);
     /// The board as a PNG file of so many pixels square.
     bool PaintBoard(const QString& sPath, int lSize);
+    /// Every made picture into a folder, which is made if need be.
+    bool WritePieces(const QString& sFolder);
     bool LoadGame(const QString& sGame);
     void List();
     void Complain(const QString& sText);
-    /// Shows which sheet is printed and how far it is, in thousandths.
-    void Progress(const QString& sSheet, int iThousandths);
+    /// Shows what is made and how far that is, in thousandths.
+    void Progress(const QString& sWhat, int iThousandths);
+    void EndProgress();
 
     std::ostream& m_out;
     std::ostream& m_err;

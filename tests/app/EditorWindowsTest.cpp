@@ -12,6 +12,7 @@ namespace {
 constexpr QPointF kTitles(0.5, 0.31);
 constexpr QPointF kGoodNews(0.32, 0.65);
 constexpr QPointF kBadNews(0.68, 0.65);
+constexpr QPointF kMoney(0.5, 0.755);
 
 class EditorWindowsTest : public AppTest {
 protected:
@@ -86,6 +87,22 @@ TEST_F(EditorWindowsTest, ACardThatIsCancelledIsNoChange) {
     ClickBoardAt(kGoodNews);
     EXPECT_FALSE(CardText(0, 0).endsWith(QStringLiteral(" Hurrah")));
     EXPECT_FALSE(HasAutosave());
+}
+
+TEST_F(EditorWindowsTest, ANotesTextReachesTheAutosaveAndACancelledOneDoesNot) {
+    const auto typeThenClick = [this](const char* button) {
+        WithModal("frmEditMoney", [button](QWidget& form) {
+            QTest::keyClicks(form.findChild<QPlainTextEdit*>(QStringLiteral("txtSpace_1")), QStringLiteral(" Hurrah"));
+            ClickIn(form, button);
+        });
+        ClickBoardAt(kMoney);
+    };
+    desktop.answers = {vbNo};
+    typeThenClick("cmdCancel");
+    EXPECT_FALSE(HasAutosave());
+    typeThenClick("cmdOK");
+    EXPECT_TRUE(basTAVL::g_oMoney(0).Text(1).endsWith(QStringLiteral(" Hurrah")));
+    EXPECT_TRUE(ReadFile(InGames(QStringLiteral("~AutoSave.dat"))).contains(" Hurrah"));
 }
 
 TEST_F(EditorWindowsTest, MenusAndButtonsOpenTheDecks) {

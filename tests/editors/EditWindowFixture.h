@@ -63,8 +63,8 @@ protected:
     QString MakePicture(const QString& name, int width = 60, int height = 60);
     QString MakeMetafile(const QString& name);
 
-    QDialog* window = nullptr;
-
-private:
+    /// Does something in the window that is shown next.
     void InWindow(const std::function<void()>& doIt);
+
+    QDialog* window = nullptr;
 };

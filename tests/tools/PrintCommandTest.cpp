@@ -72,6 +72,43 @@ TEST_F(PrintCommandTest, BoardBecomesAPictureOfTheSizeAskedFor) {
     EXPECT_EQ(OutFolder(), QStringList{QStringLiteral("board.png")});
 }
 
+TEST_F(PrintCommandTest, EveryMadePictureIsWrittenUnderItsName) {
+    const QString pieces = PathOf(QStringLiteral("out/pieces"));
+    EXPECT_EQ(Run({game, QStringLiteral("--pieces"), pieces}), 0) << errors.join(u'\n').toStdString();
+    const QStringList names = QDir(pieces).entryList(QDir::Files | QDir::Hidden);
+    EXPECT_EQ(names.size(), 28 + 28 + 4 + 4 + 6 + 3 + 1 + 1 + 4 + 2);
+    const struct {
+        const char* name;
+        QSize size;
+    } rows[] = {{"BmpOneFullSpace0", {475, 810}}, {"BmpOneFullSpace27", {475, 810}}, {"SpaceImage27", {392, 612}},
+                {"CornerImage3", {612, 612}},     {"MoneyImage3", {720, 384}},       {"TokenBMP5", {266, 266}},
+                {"BmpSubtitle", {2212, 147}},     {"BmpSubtitleML", {504, 164}},     {"Side3Image", {720, 36}}};
+    for (const auto& row : rows)
+        EXPECT_EQ(QImage(pieces + u'/' + QString::fromLatin1(row.name) + QStringLiteral(".png")).size(), row.size)
+            << row.name;
+}
+
+TEST_F(PrintCommandTest, PiecesMayGoWhereOthersLie) {
+    const QString pieces = PathOf(QStringLiteral("out"));
+    WriteFile(QStringLiteral("out/MoneyImage0.png"), "an older run's");
+    WriteFile(QStringLiteral("out/mine.txt"), "mine");
+    EXPECT_EQ(Run({game, QStringLiteral("--pieces"), pieces}), 0);
+    EXPECT_EQ(QImage(pieces + QStringLiteral("/MoneyImage0.png")).size(), QSize(720, 384));
+    EXPECT_EQ(ReadFile(pieces + QStringLiteral("/mine.txt")), QByteArray("mine"));
+}
+
+TEST_F(PrintCommandTest, PiecesThatCannotBeWrittenGiveOneLineAndStatusOne) {
+    const QString file = WriteFile(QStringLiteral("out/taken"), "a file");
+    EXPECT_EQ(Run({game, QStringLiteral("--pieces"), file}), 1);
+    ASSERT_EQ(errors.size(), 1);
+    EXPECT_TRUE(errors[0].contains(file + QStringLiteral("' could not be made: "))) << errors[0].toStdString();
+    QDir(folder.path()).mkpath(QStringLiteral("out/pieces/MoneyImage1.png/in the way"));
+    EXPECT_EQ(Run({game, QStringLiteral("--pieces"), PathOf(QStringLiteral("out/pieces"))}), 1);
+    ASSERT_EQ(errors.size(), 1);
+    EXPECT_TRUE(errors[0].contains(QStringLiteral("MoneyImage1.png' could not be written: ")))
+        << errors[0].toStdString();
+}
+
 TEST_F(PrintCommandTest, RulesArePrintedWithTheNamesOfTheGame) {
     EXPECT_EQ(PrintRules(game), 0);
     EXPECT_TRUE(errors.isEmpty()) << errors.join(u'\n').toStdString();

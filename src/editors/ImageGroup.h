@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QGroupBox>
+#include <QString>
+
+class C_Image;
+class QCheckBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+
+/// The frame "Bitmap" of an editor: whether the piece has a picture, and which one. The editor answers the
+/// controls; what all editors answer alike is here.
+class ImageGroup : public QGroupBox {
+    Q_OBJECT
+public:
+    ImageGroup(const QString& sTitle, const QString& sCropCaption, QWidget* parent);
+
+    QCheckBox* const chkIncludeImage;
+    QPushButton* const cmdBitmap;
+    QPushButton* const cmdCropImage;
+    QLabel* const lblImageFile;
+    QLineEdit* const txtBitmapPath;
+
+    /// Lets the user browse for a picture and gives its path: sBefore when that is cancelled. The folder it was
+    /// found in is where the next browsing starts.
+    QString AskForPicture(const QString& sBefore);
+    /// Lets the user move and zoom the picture behind a box of the given shape; of a metafile only tells that
+    /// this can't be.
+    void AskForPosition(C_Image& image, double dblHeightToWidth);
+    /// The answer to a click on the path, which is there to be read.
+    static void TellHowToChangePath();
+
+Q_SIGNALS:
+    void PathClicked();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    /// The folder last browsed; empty at first.
+    QString m_sLastFolder;
+};
