@@ -168,7 +168,7 @@ TEST_F(InstructionSheetTest, TheShippedRulesFitThePage) {
 TEST_F(InstructionSheetTest, RulesAreBlackWhateverWasPrintedBefore) {
     Settings().sProgramDirectory = QStringLiteral(TAVLORA_DATA_DIR);
     PdfPrinter printer(PathOf(QStringLiteral("rules.pdf")), QStringLiteral("Rules"), QPageSize::Letter, 72);
-    printer.ForeColor = Color(0x00FF00);
+    printer.ForeColor = Color::Rgb(0, 255, 0);
     SheetJob job{printer};
     EXPECT_TRUE(PrintRulesSheet(job));
     EXPECT_EQ(printer.ForeColor, basTAVL::g_lPrintBlack());
