@@ -9,6 +9,7 @@
 #include "board/basPosit.h"
 #include "document/Autosave.h"
 #include "document/basTAVL.h"
+#include "images/frmBMP.h"
 #include "platform/PictureBox.h"
 #include "platform/ProgramSettings.h"
 #include "platform/Screen.h"
@@ -62,6 +63,7 @@ protected:
     AppTest() {
         QDir(folder.path()).mkdir(QStringLiteral("games"));
         Settings().sMyGamesDirectory = PathOf(QStringLiteral("games"));
+        frmBMP::InstallAsThumbnailMaker();
         ForgetTheRun();
     }
     ~AppTest() override {
@@ -104,12 +106,12 @@ protected:
         return QString::fromUtf8(ReadFile(InGames(Settings().sProgramName + QStringLiteral(".log"))));
     }
 
-    /// Writes a game whose space 4 carries the text; a good game otherwise.
+    /// Writes a game whose space 4 carries the text; a good game without pictures otherwise.
     void WriteGame(const QString& name, const QString& text, const QString& nameInHeader = QString()) const {
-        QByteArray bytes = ReadFile(QStringLiteral(TAVLORA_DATA_DIR "/Family_US.gam"));
+        QByteArray bytes = ReadFile(QStringLiteral(TAVLORA_DATA_DIR "/Town_US.gam"));
         const qsizetype header = bytes.indexOf("\r\n");
         bytes.replace(0, header, "\"TavloraGameBoard\", 8.0.0, " + nameInHeader.toUtf8());
-        bytes.replace("Leo's Desk", text.toUtf8());
+        bytes.replace("Feed\\nStore", text.toUtf8());
         WriteFile(QStringLiteral("games/") + name, bytes);
     }
     static QString TextOfSpace4() { return basTAVL::g_oSpaces(4).TextAll(); }

@@ -145,8 +145,9 @@ TEST_F(GameCommandsTest, OpenedGameBecomesTheLastOne) {
     Start();
     AnswerDialog(InGames(QStringLiteral("Family.gam")));
     ChooseMenu("mnuFile_2");
-    EXPECT_EQ(TextOfSpace4(), QStringLiteral("Leo's Desk"));
+    EXPECT_EQ(TextOfSpace4(), QStringLiteral("Leo's\r\nDesk"));
     EXPECT_EQ(Ini("GameName"), InGames(QStringLiteral("Family.gam")));
+    EXPECT_TRUE(desktop.boxes.isEmpty()) << "its pictures are found";
     EXPECT_FALSE(window->m_bChanged);
 }
 
@@ -237,7 +238,7 @@ TEST_F(GameCommandsTest, GameOfAnotherStartIsOpenedThroughTheSameQuestion) {
     window->CalledByAnotherStart(InGames(QStringLiteral("Family.gam")));
     EXPECT_EQ(TextOfSpace4(), QStringLiteral("One"));
     window->CalledByAnotherStart(InGames(QStringLiteral("Family.gam")));
-    EXPECT_EQ(TextOfSpace4(), QStringLiteral("Leo's Desk"));
+    EXPECT_EQ(TextOfSpace4(), QStringLiteral("Leo's\r\nDesk"));
     window->CalledByAnotherStart(QString());
     EXPECT_EQ(desktop.boxes.size(), 2) << "coming to the front asks nothing";
 }
@@ -252,7 +253,7 @@ TEST_F(GameCommandsTest, GameOfAnotherStartWaitsUntilThisOneHasLoaded) {
         std::function<void()> m_call;
     } calling([this] { window->CalledByAnotherStart(QStringLiteral(TAVLORA_DATA_DIR "/Family_US.gam")); });
     StartWith(QStringLiteral("Mine.gam"));
-    EXPECT_EQ(TextOfSpace4(), QStringLiteral("Leo's Desk"));
+    EXPECT_EQ(TextOfSpace4(), QStringLiteral("Leo's\r\nDesk"));
     EXPECT_TRUE(window->m_sGameName.endsWith(QStringLiteral("Family_US.gam")));
 }
 

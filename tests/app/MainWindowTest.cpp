@@ -2,8 +2,6 @@
 // The board as a door to the editors, zoom and scrolling, tool tips.
 #include "MainWindowFixture.h"
 
-#include "images/frmBMP.h"
-
 namespace {
 
 TEST_F(MainWindowTest, Edge_VerySmallWindowKeepsTheBoardAt1800Twips) {
@@ -103,7 +101,6 @@ TEST_F(MainWindowTest, UnchangedRecordIsNotAutosaved) {
 }
 
 TEST_F(MainWindowTest, ThumbnailsOfTokensAreFetchedAgainAfterTheirEditorInAnyCase) {
-    frmBMP::InstallAsThumbnailMaker();
     basTAVL::g_oTokens(2).SetImagePath(QStringLiteral(TAVLORA_DATA_DIR "/fate.dat"));
     const QString thumbnail = basTAVL::g_oTokens(2).Image.GetThumbnail(false);
     ASSERT_TRUE(QFile::remove(thumbnail)) << thumbnail.toStdString();

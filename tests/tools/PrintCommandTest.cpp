@@ -10,7 +10,9 @@
 
 #include <QProcess>
 
+#include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <sstream>
 
 namespace {
@@ -377,6 +379,32 @@ TEST_F(PrintCommandTest, WhatThisBuildCannotPrintIsSaidPlainly) {
                                       QString::fromLatin1(sheet.sName)});
     }
     EXPECT_TRUE(OutFolder().isEmpty());
+}
+
+TEST_F(PrintCommandTest, SampleShowsItsPicturesWithoutAWord) {
+    const QString path = PathOf(QStringLiteral("out/board.png"));
+    const QString data = QStringLiteral(TAVLORA_DATA_DIR);
+    EXPECT_EQ(Run({data + QStringLiteral("/Family_US.gam"), QStringLiteral("--board"), path, QStringLiteral("--data"),
+                   data, QStringLiteral("--size"), QStringLiteral("1000")}),
+              0);
+    EXPECT_TRUE(errors.isEmpty()) << errors.join(u'\n').toStdString();
+    const QImage board(path);
+    ASSERT_EQ(board.size(), QSize(1000, 1000));
+    const struct {
+        const char* what;
+        QPoint place;
+        QColor colour;
+    } seen[] = {{"the duck's breast", {674, 877}, QColor(244, 185, 58)},
+                {"the frog's face", {115, 244}, QColor(118, 176, 79)},
+                {"the icing", {670, 130}, QColor(245, 167, 156)},
+                {"the tent", {892, 229}, QColor(232, 146, 63)}};
+    for (const auto& part : seen) {
+        const QColor here = board.pixelColor(part.place);
+        const int apart =
+            std::max({std::abs(here.red() - part.colour.red()), std::abs(here.green() - part.colour.green()),
+                      std::abs(here.blue() - part.colour.blue())});
+        EXPECT_LE(apart, 12) << part.what << " is " << here.name().toStdString();
+    }
 }
 
 TEST_F(PrintCommandTest, ProgramItselfRunsWithoutADisplayAndLeavesNothingBehind) {
