@@ -46,10 +46,9 @@ struct TitleBox {
     InchBox box;
     double line;
 };
-constexpr double kTitleLine = 0.21;
-constexpr TitleBox kTitleOfProperty{{0.125, 0.875, 2.25, 0.4375}, kTitleLine};
+constexpr TitleBox kTitleOfProperty{{0.125, 0.875, 2.25, 0.4375}, 0.21};
 // Within the frame and beside the ornaments.
-constexpr TitleBox kTitleOfUtility{{0.3125, 0.875, 1.875, 0.4375}, kTitleLine};
+constexpr TitleBox kTitleOfUtility{{0.3125, 0.875, 1.875, 0.4}, 0.2};
 
 struct CenteredLine {
     double top;
