@@ -2,15 +2,14 @@
 #include "print/LabelSheets.h"
 
 #include "app/services/basErrLog.h"
-#include "app/services/basPath.h"
 #include "board/basPositTables.h"
 #include "document/basTAVL.h"
 #include "images/frmBMP.h"
 #include "platform/Desktop.h"
-#include "platform/Files.h"
 #include "platform/Numbers.h"
 #include "platform/Printer.h"
 #include "print/clsRenderDestination.h"
+#include "print/MadePicture.h"
 #include "print/StickersUsingBMP.h"
 
 namespace {
@@ -21,17 +20,9 @@ constexpr int kSubtitleRecord = 2;
 constexpr int kDone = -1;
 constexpr int kUnchanged = 0;
 
-QString InMyGames(const QString& sName) { return basCommon::JoinPath(basCommon::GetMyGamesDirectory(), sName); }
-
 bool Tell(const char* sText) {
     MsgBox(QString::fromLatin1(sText));
     return false;
-}
-
-// Errors are of no interest: the next sheet overwrites what stays.
-void DeleteQuietly(const QString& sFile) {
-    QString ignored;
-    Files::Remove(sFile, ignored);
 }
 
 // Captions are slanted when the sheet before has left its font so.
@@ -61,7 +52,9 @@ constexpr TextPictureLayout kTextPictureLayouts[kTextPictures] = {
     {"BmpSubtitleML.temp", 1.75, 0.571, "Times New Roman", true, true, 0.2},
 };
 
-QString FileOf(TextPicture picture) { return InMyGames(QString::fromLatin1(kTextPictureLayouts[picture].sFile)); }
+QString FileOf(TextPicture picture) {
+    return MadePicture::PathOf(QString::fromLatin1(kTextPictureLayouts[picture].sFile));
+}
 
 bool MakeTextPicture(TextPicture picture) {
     const TextPictureLayout& layout = kTextPictureLayouts[picture];
@@ -146,7 +139,7 @@ void PlaceBoxPiece(clsRenderDestination& sheet, const BoxPiece& piece) {
 }
 
 bool PlaceToken(clsRenderDestination& sheet, int iToken) {
-    const QString file = InMyGames(QStringLiteral("TokenBMP%1.bmp").arg(iToken));
+    const QString file = MadePicture::PathOf(QStringLiteral("TokenBMP%1.bmp").arg(iToken));
     const bool made = frmBMP::Instance().GenerateTokenImage(file, iToken);
     for (int sticker = 0; sticker < kStickersPerToken; ++sticker) {
         const double dblX = kTokenStep * iToken + kTokenLeft;
@@ -189,7 +182,7 @@ bool StickerBoxAndTokenSheet(SheetJob& job) try {
     }
     const bool made = PlaceTokens(job, sheet);
     for (const BoxPicture& picture : kBoxPictures)
-        DeleteQuietly(FileOf(picture.picture));
+        MadePicture::Delete(FileOf(picture.picture));
     job.Progress(kDone);
     return made;
 } catch (...) {
@@ -253,7 +246,7 @@ bool PlaceSpace(clsRenderDestination& sheet, int iSide, int iRow, int iCol) {
     const double dblWidth = basTAVL::g_dblLabelSizes(kSpaceWidth);
     const double dblHeight = basTAVL::g_dblLabelSizes(kSpaceHeight);
     const double dblX = iCol < kLeftColumns ? iCol * dblWidth + kLeftEdge : kRightEdge - (kColumns - iCol) * dblWidth;
-    const QString file = InMyGames(QStringLiteral("BmpOneFullSpace.bmp"));
+    const QString file = MadePicture::PathOf(QStringLiteral("BmpOneFullSpace.bmp"));
     if (!frmBMP::Instance().GenerateSpaceFullImage(file, GetSpaceFromArrayCoordinates(iSide, iRow, iCol))) return false;
     sheet.OutputFromBMP(file, dblX, (dblHeight + kRowGap) * iRow, dblWidth, dblHeight);
     return true;
@@ -283,7 +276,7 @@ bool PlaceTitles(SheetJob& job, clsRenderDestination& sheet) {
                      basTAVL::g_lPrintBlack());
     }
     for (const TitlePiece& piece : kTitlePieces)
-        DeleteQuietly(FileOf(piece.picture));
+        MadePicture::Delete(FileOf(piece.picture));
     return true;
 }
 

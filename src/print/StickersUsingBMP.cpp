@@ -2,16 +2,14 @@
 #include "print/StickersUsingBMP.h"
 
 #include "app/services/basErrLog.h"
-#include "app/services/basPath.h"
 #include "board/DrawDottedBox.h"
 #include "document/basTAVL.h"
 #include "images/frmBMP.h"
 #include "platform/Desktop.h"
-#include "platform/Files.h"
-#include "platform/LoadPicture.h"
 #include "platform/Numbers.h"
 #include "platform/Surface.h"
 #include "print/clsRenderDestination.h"
+#include "print/MadePicture.h"
 
 #include <QRect>
 
@@ -20,21 +18,16 @@ namespace {
 constexpr double kDashInches = 0.05;
 constexpr double kTwipsPerInch = 1440;
 
-QString InMyGames(const QString& sName) { return basCommon::JoinPath(basCommon::GetMyGamesDirectory(), sName); }
-
 // The wording is that of banknotes; it stands for stickers too.
 bool TellNotMade() {
     MsgBox(QStringLiteral("Unable to create Money Image. Money will not be printed."));
     return false;
 }
 
-// Paints the file and deletes it; a file that can't be painted stays for a look at it.
+// A file that can't be painted stays for a look at it.
 void PaintAndDelete(Surface& surface, const QString& sFile, const QRect& place) {
-    QString error;
-    const Picture picture = LoadPicture(sFile, error);
-    if (picture.IsNull()) ErrRaise(ErrNumber::kInvalidPicture, error);
-    surface.PaintPicture(picture, place.x(), place.y(), place.width(), place.height());
-    if (!Files::Remove(sFile, error)) ErrRaise(ErrNumber::kFileAccess, error);
+    MadePicture::Paint(surface, sFile, place);
+    MadePicture::Delete(sFile);
 }
 
 // In the surface's own dots, whatever scale the destination has.
@@ -46,7 +39,7 @@ QRect PlaceOn(const Surface& surface, double dblX, double dblY, double dblWidth,
 } // namespace
 
 bool CornerStickerUsingBMP(clsRenderDestination& destination, int iCorner, double dblX, double dblY) try {
-    const QString file = InMyGames(QStringLiteral("CornerImage%1.bmp").arg(iCorner));
+    const QString file = MadePicture::PathOf(QStringLiteral("CornerImage%1.bmp").arg(iCorner));
     if (!frmBMP::Instance().GenerateCornerImage(file, iCorner)) return TellNotMade();
     Surface& surface = destination.Destination();
     const double side = basTAVL::g_dblLabelSizes(7);
@@ -57,7 +50,7 @@ bool CornerStickerUsingBMP(clsRenderDestination& destination, int iCorner, doubl
 }
 
 bool SpaceStickerUsingBMP(clsRenderDestination& destination, int iSpace, double dblX, double dblY) try {
-    const QString file = InMyGames(QStringLiteral("SpaceImage.bmp"));
+    const QString file = MadePicture::PathOf(QStringLiteral("SpaceImage.bmp"));
     if (!frmBMP::Instance().GenerateSpaceStickerImage(file, iSpace)) return TellNotMade();
     Surface& surface = destination.Destination();
     const QRect place = PlaceOn(surface, dblX, dblY, basTAVL::g_dblLabelSizes(5), basTAVL::g_dblLabelSizes(6));
