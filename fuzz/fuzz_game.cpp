@@ -2,19 +2,21 @@
 // Loads any bytes as a game. What loads is saved and loaded again, and must load.
 #include "FuzzHost.h"
 
+#include "app/services/basPath.h"
 #include "document/GameFile.h"
-#include "platform/TextFile.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    const FuzzHost& host = FuzzHost::Get();
+    FuzzHost& host = FuzzHost::Get();
+    host.Reset();
     QString name = host.Write(QStringLiteral("input.gam"), data, size);
     try {
         int result = 0;
         GameFile::GameLoad(name, result);
         if (result != 0) return 0;
-        const QByteArray saved = TextFile::Encode(TextFile::JoinLines(GameFile::ComposeLines()));
-        QString again = host.Write(QStringLiteral("again.gam"), reinterpret_cast<const uint8_t*>(saved.constData()),
-                                   size_t(saved.size()));
+        QString again = basCommon::JoinPath(QString::fromLatin1(FuzzHost::kFolder), QStringLiteral("again.gam"));
+        bool saved = false;
+        GameFile::GameSave(again, saved);
+        if (!saved) std::abort();
         GameFile::GameLoad(again, result);
         if (result != 0) std::abort();
     } catch (const ProgramEnded&) {

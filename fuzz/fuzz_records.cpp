@@ -38,7 +38,7 @@ void ReadLine(const QString& line) {
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    FuzzHost::Get();
+    FuzzHost::Get().Reset();
     const QByteArray bytes(reinterpret_cast<const char*>(data), qsizetype(size));
     for (const QString& line : TextFile::SplitLines(TextFile::Decode(bytes))) {
         try {

@@ -16,6 +16,31 @@ FaultHook& Hook() {
     return hook;
 }
 
+// The files in place of the disk, or nullptr.
+MemoryFiles*& Memory() {
+    static MemoryFiles* files = nullptr;
+    return files;
+}
+
+std::optional<QByteArray> ReadMemory(const QString& sPath, QString& sError) {
+    const auto file = Memory()->constFind(sPath);
+    if (file != Memory()->constEnd()) return *file;
+    sError = QStringLiteral("No such file or directory");
+    return std::nullopt;
+}
+
+bool RenameInMemory(const QString& sFrom, const QString& sTo, QString& sError) {
+    const std::optional<QByteArray> bytes = ReadMemory(sFrom, sError);
+    if (!bytes) return false;
+    if (Memory()->contains(sTo)) {
+        sError = QStringLiteral("Destination file exists");
+        return false;
+    }
+    Memory()->insert(sTo, *bytes);
+    Memory()->remove(sFrom);
+    return true;
+}
+
 bool Failed(const QFileDevice& file, QString& sError) {
     sError = file.errorString();
     return false;
@@ -29,6 +54,7 @@ bool HasTrash() {
 
 // Renaming over a device would replace the device by a file, and one may be read for ever.
 bool IsNoSpecialFile(const QString& sPath, QString& sError) {
+    if (Memory()) return true;
     const QFileInfo info(sPath);
     if (!info.exists() || info.isFile()) return true;
     sError = info.isDir() ? QStringLiteral("It is a folder, not a file") : QStringLiteral("It is no regular file");
@@ -36,6 +62,8 @@ bool IsNoSpecialFile(const QString& sPath, QString& sError) {
 }
 
 } // namespace
+
+void UseMemory(MemoryFiles* files) { Memory() = files; }
 
 FaultHook SetFaultHook(FaultHook hook) {
     std::swap(Hook(), hook);
@@ -49,13 +77,20 @@ bool IsPermitted(Operation operation, const QString& sPath, QString& sError) {
     return !fault;
 }
 
-bool Exists(const QString& sPath) { return !sPath.isEmpty() && QFileInfo(sPath).isFile(); }
+bool Exists(const QString& sPath) {
+    if (Memory()) return Memory()->contains(sPath);
+    return !sPath.isEmpty() && QFileInfo(sPath).isFile();
+}
 
 bool CanBeReplaced(const QString& sPath, QString& sError) { return IsNoSpecialFile(sPath, sError); }
 
-bool IsDirectory(const QString& sPath) { return !sPath.isEmpty() && QFileInfo(sPath).isDir(); }
+bool IsDirectory(const QString& sPath) {
+    if (Memory()) return !sPath.isEmpty() && !Memory()->contains(sPath);
+    return !sPath.isEmpty() && QFileInfo(sPath).isDir();
+}
 
 QString InDiskSpelling(const QString& sPath) {
+    if (Memory()) return sPath;
     const QFileInfo info(sPath);
     if (sPath.isEmpty() || info.exists()) return sPath;
     const QString wanted = info.fileName();
@@ -70,9 +105,10 @@ QString InDiskSpelling(const QString& sPath) {
     return sPath.left(sPath.size() - wanted.size()) + found;
 }
 
-qint64 Size(const QString& sPath) { return QFileInfo(sPath).size(); }
+qint64 Size(const QString& sPath) { return Memory() ? qint64(Memory()->value(sPath).size()) : QFileInfo(sPath).size(); }
 
 Stamp StampOf(const QString& sPath) {
+    if (Memory()) return Exists(sPath) ? Stamp{0, Size(sPath)} : Stamp();
     const QFileInfo info(sPath);
     if (!info.isFile()) return {};
     return {info.lastModified().toMSecsSinceEpoch(), info.size()};
@@ -80,6 +116,7 @@ Stamp StampOf(const QString& sPath) {
 
 std::optional<QByteArray> ReadAll(const QString& sPath, QString& sError) {
     if (!IsPermitted(Operation::OpenRead, sPath, sError)) return std::nullopt;
+    if (Memory()) return ReadMemory(sPath, sError);
     if (!IsNoSpecialFile(sPath, sError)) return std::nullopt;
     QFile file(InDiskSpelling(sPath));
     if (!file.open(QIODevice::ReadOnly)) {
@@ -105,16 +142,25 @@ WholeFile::~WholeFile() {
 
 bool WholeFile::Open(QString& sError) {
     if (!IsPermitted(Operation::OpenWrite, m_path, sError) || !CanBeReplaced(m_path, sError)) return false;
+    if (Memory()) return true;
     return m_file->open(QIODevice::WriteOnly) || Failed(*m_file, sError);
 }
 
 bool WholeFile::Write(const QByteArray& bytes, QString& sError) {
     if (!IsPermitted(Operation::Write, m_path, sError)) return false;
+    if (Memory()) {
+        m_bytes += bytes;
+        return true;
+    }
     return m_file->write(bytes) == bytes.size() || Failed(*m_file, sError);
 }
 
 bool WholeFile::Commit(QString& sError) {
     if (!IsPermitted(Operation::Commit, m_path, sError)) return false;
+    if (Memory()) {
+        Memory()->insert(m_path, m_bytes);
+        return true;
+    }
     // The toolkit's commit doesn't look whether its buffer reached the disk, and on a full one would put an
     // empty file in place of the old one.
     return (m_file->flush() && m_file->commit()) || Failed(*m_file, sError);
@@ -127,6 +173,11 @@ bool WriteWhole(const QString& sPath, const QByteArray& bytes, QString& sError) 
 
 bool Append(const QString& sPath, const QByteArray& bytes, QString& sError) {
     if (!IsPermitted(Operation::OpenAppend, sPath, sError)) return false;
+    if (Memory()) {
+        if (!IsPermitted(Operation::Append, sPath, sError)) return false;
+        (*Memory())[sPath] += bytes;
+        return true;
+    }
     QFile file(sPath);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Append)) return Failed(file, sError);
     if (!IsPermitted(Operation::Append, sPath, sError)) return false;
@@ -137,12 +188,17 @@ bool Append(const QString& sPath, const QByteArray& bytes, QString& sError) {
 
 bool Remove(const QString& sPath, QString& sError) {
     if (!IsPermitted(Operation::Remove, sPath, sError)) return false;
+    if (Memory()) {
+        Memory()->remove(sPath);
+        return true;
+    }
     QFile file(sPath);
     return !file.exists() || file.remove() || Failed(file, sError);
 }
 
 bool Rename(const QString& sFrom, const QString& sTo, QString& sError) {
     if (!IsPermitted(Operation::Rename, sFrom, sError)) return false;
+    if (Memory()) return RenameInMemory(sFrom, sTo, sError);
     QFile file(sFrom);
     return file.rename(sTo) || Failed(file, sError);
 }
@@ -162,6 +218,10 @@ bool MakeDirectory(const QString& sPath, QString& sError) {
 
 bool MoveToTrash(const QString& sPath, QString& sError) {
     if (!IsPermitted(Operation::Remove, sPath, sError)) return false;
+    if (Memory()) {
+        Memory()->remove(sPath);
+        return true;
+    }
     QFile file(sPath);
     return !file.exists() || (HasTrash() && file.moveToTrash()) || file.remove() || Failed(file, sError);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QHash>
 #include <QString>
 
 #include <functional>
@@ -34,6 +35,13 @@ using FaultHook = std::function<std::optional<QString>(Operation operation, cons
 FaultHook SetFaultHook(FaultHook hook);
 /// Asks the hook; for the platform's own file classes.
 bool IsPermitted(Operation operation, const QString& sPath, QString& sError);
+
+/// Whole files by their complete paths. Spelling counts to the letter, a folder is there as soon as it is
+/// named, and nothing has an age.
+using MemoryFiles = QHash<QString, QByteArray>;
+/// From here on these stand in place of the disk; nullptr brings the disk back. For fuzz targets, which read
+/// files by the million and must find nothing but what they put there.
+void UseMemory(MemoryFiles* files);
 
 /// True for a file, not for a directory. The case of letters counts.
 bool Exists(const QString& sPath);
@@ -76,6 +84,8 @@ public:
 private:
     QString m_path;
     std::unique_ptr<QSaveFile> m_file;
+    /// What is to be put among the files in memory.
+    QByteArray m_bytes;
 };
 
 bool Append(const QString& sPath, const QByteArray& bytes, QString& sError);

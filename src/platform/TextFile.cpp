@@ -5,6 +5,7 @@
 
 #include <QStringDecoder>
 
+#include <algorithm>
 #include <array>
 
 namespace TextFile {
@@ -50,8 +51,7 @@ QString Decode(const QByteArray& bytes) {
     if (bytes.startsWith(kMark)) return QString::fromUtf8(bytes.mid(kMark.size()));
     if (std::optional<QString> text = AsMultiByteUtf8(bytes)) return *text;
     QString text(bytes.size(), Qt::Uninitialized);
-    for (qsizetype i = 0; i < bytes.size(); ++i)
-        text[i] = FromAnsi(uchar(bytes[i]));
+    std::transform(bytes.begin(), bytes.end(), text.begin(), [](char byte) { return FromAnsi(uchar(byte)); });
     return text;
 }
 

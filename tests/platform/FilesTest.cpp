@@ -50,3 +50,32 @@ TEST_F(FilesTest, TheTrashIsTheUsersAndNeverTheCurrentFolder) {
     EXPECT_FALSE(Files::Exists(QStringLiteral("files/photo.bmp")));
     qputenv("XDG_DATA_HOME", before);
 }
+
+TEST_F(FilesTest, FilesInMemoryStandInPlaceOfTheDisk) {
+    const QString onDisk = WriteFile(QStringLiteral("real.txt"), "disk");
+    const QString path = PathOf(QStringLiteral("new.txt"));
+    const QString other = PathOf(QStringLiteral("other.txt"));
+    Files::MemoryFiles files;
+    Files::UseMemory(&files);
+    QString error;
+    EXPECT_FALSE(Files::Exists(onDisk));
+    EXPECT_FALSE(Files::ReadAll(onDisk, error));
+    EXPECT_FALSE(error.isEmpty());
+    EXPECT_EQ(Files::StampOf(onDisk), Files::Stamp());
+
+    EXPECT_TRUE(Files::WriteWhole(path, "one", error));
+    EXPECT_TRUE(Files::Append(path, " two", error));
+    EXPECT_EQ(Files::ReadAll(path, error), QByteArray("one two"));
+    EXPECT_EQ(Files::Size(path), 7);
+    EXPECT_TRUE(Files::Copy(path, other, error));
+    EXPECT_FALSE(Files::Rename(path, other, error));
+    EXPECT_TRUE(Files::Remove(path, error));
+    EXPECT_TRUE(Files::Rename(other, path, error));
+    EXPECT_FALSE(Files::Exists(other));
+    EXPECT_TRUE(Files::MoveToTrash(path, error));
+    EXPECT_TRUE(files.isEmpty());
+
+    Files::UseMemory(nullptr);
+    EXPECT_FALSE(Files::Exists(path));
+    EXPECT_EQ(Files::ReadAll(onDisk, error), QByteArray("disk"));
+}

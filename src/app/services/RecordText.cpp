@@ -6,14 +6,25 @@
 #include "platform/Numbers.h"
 
 #include <limits>
+#include <utility>
 
 namespace basTAVL {
 namespace {
 
+// Takes so many characters off the front, and the blanks at both ends of what is left. In place: a line is
+// shortened at each of its fields.
+void DropFront(QString& sLine, qsizetype count) {
+    const QStringView rest = QStringView(sLine).mid(count).trimmed();
+    const qsizetype from = rest.isEmpty() ? sLine.size() : rest.data() - QStringView(sLine).data();
+    sLine.truncate(from + rest.size());
+    sLine.remove(0, from);
+}
+
 QString TakeBareField(QString& sLine) {
     const qsizetype comma = sLine.indexOf(u',');
-    const QString field = comma < 0 ? sLine : sLine.left(comma).trimmed();
-    sLine = comma < 0 ? QString() : sLine.mid(comma + 1).trimmed();
+    if (comma < 0) return std::exchange(sLine, QString());
+    const QString field = QStringView(sLine).left(comma).trimmed().toString();
+    DropFront(sLine, comma + 1);
     return field;
 }
 
@@ -21,7 +32,7 @@ QString TakeBareField(QString& sLine) {
 QString TakeQuotedContent(QString& sLine) {
     const qsizetype close = sLine.indexOf(u'"', 1);
     const QString content = close < 0 ? sLine.mid(1) : sLine.mid(1, close - 1);
-    sLine = close < 0 ? QString() : sLine.mid(close + 1);
+    DropFront(sLine, close < 0 ? sLine.size() : close + 1);
     return content;
 }
 
@@ -38,7 +49,7 @@ QString Quote(const QString& sText) {
 }
 
 QString GetQuotedField(QString& sLine) {
-    sLine = sLine.trimmed();
+    DropFront(sLine, 0);
     if (sLine.isEmpty()) return {};
     if (!sLine.startsWith(u'"')) return TakeBareField(sLine);
     QString content = TakeQuotedContent(sLine);
@@ -48,7 +59,7 @@ QString GetQuotedField(QString& sLine) {
     const QString value = basCommon::InsertLineBreaks(content);
     // Stray text behind the closing quote goes with the comma that follows it, or stays if there is none.
     const qsizetype comma = sLine.indexOf(u',');
-    sLine = (comma < 0 ? sLine : sLine.mid(comma + 1)).trimmed();
+    DropFront(sLine, comma + 1);
     return value;
 }
 
