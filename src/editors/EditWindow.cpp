@@ -10,10 +10,10 @@
 #include "editors/Redrawing.h"
 #include "images/C_Image.h"
 #include "images/UnsavedChanges.h"
+#include "platform/ElidedLabel.h"
 #include "platform/PictureBox.h"
 
 #include <QCheckBox>
-#include <QLineEdit>
 #include <QPushButton>
 
 namespace {
@@ -56,7 +56,7 @@ void EditWindow::Redraw() try {
     const Redrawing redrawing;
     m_likeness.Redraw(*picDest, picScratch, m_selection);
     picDest->Refresh();
-    txtBitmapPath->setText(m_likeness.Image().FullPath());
+    txtBitmapPath->SetWholeText(m_likeness.Image().FullPath());
     ShowLegend();
     txtHoldFocus->SetTyping(m_selection.IsOn(), picDest->geometry());
     redrawing.ShowMessages();

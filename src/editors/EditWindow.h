@@ -12,6 +12,7 @@
 
 #include <memory>
 
+class ElidedLabel;
 class HoldFocusBox;
 class ImageGroup;
 class PictureBox;
@@ -19,7 +20,6 @@ class QBoxLayout;
 class QCheckBox;
 class QGroupBox;
 class QLabel;
-class QLineEdit;
 class QPlainTextEdit;
 class QPushButton;
 
@@ -127,7 +127,7 @@ private:
     QLabel* txtToolTip = nullptr;
     QLabel* txtlegend = nullptr;
     ImageGroup* fraBitmap = nullptr;
-    QLineEdit* txtBitmapPath = nullptr;
+    ElidedLabel* txtBitmapPath = nullptr;
     QPlainTextEdit* txtSpace = nullptr;
     QCheckBox* chkIncludeImage = nullptr;
     QPushButton* cmdBitmap = nullptr;

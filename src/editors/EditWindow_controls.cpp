@@ -4,13 +4,13 @@
 #include "editors/HoldFocusBox.h"
 #include "editors/ImageGroup.h"
 #include "images/C_Image.h"
+#include "platform/ElidedLabel.h"
 #include "platform/PictureBox.h"
 #include "platform/WidgetLook.h"
 
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QToolTip>

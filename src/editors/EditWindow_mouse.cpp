@@ -3,13 +3,13 @@
 
 #include "app/services/basErrLog.h"
 #include "editors/HoldFocusBox.h"
+#include "platform/ElidedLabel.h"
 #include "platform/PictureBox.h"
 #include "platform/Screen.h"
 
 #include <QCheckBox>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 
 namespace {

@@ -6,19 +6,25 @@
 #include "images/frmBrowse.h"
 #include "images/frmImagePosition.h"
 #include "platform/Desktop.h"
+#include "platform/ElidedLabel.h"
 
 #include <QCheckBox>
 #include <QEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+namespace {
+
+constexpr int kPathMargin = 3;
+
+} // namespace
 
 ImageGroup::ImageGroup(const QString& sTitle, const QString& sCropCaption, QWidget* parent)
     : QGroupBox(sTitle, parent), chkIncludeImage(new QCheckBox(QStringLiteral("&Include Image"), this)),
       cmdBitmap(new QPushButton(QStringLiteral("&Find Image"), this)),
       cmdCropImage(new QPushButton(sCropCaption, this)), lblImageFile(new QLabel(QStringLiteral("Image File:"), this)),
-      txtBitmapPath(new QLineEdit(this)) {
+      txtBitmapPath(new ElidedLabel(this)) {
     setObjectName(QStringLiteral("fraBitmap"));
     chkIncludeImage->setObjectName(QStringLiteral("chkIncludeImage"));
     cmdBitmap->setObjectName(QStringLiteral("cmdBitmap"));
@@ -27,8 +33,8 @@ ImageGroup::ImageGroup(const QString& sTitle, const QString& sCropCaption, QWidg
     cmdCropImage->setAutoDefault(false);
     lblImageFile->setObjectName(QStringLiteral("lblImageFile"));
     txtBitmapPath->setObjectName(QStringLiteral("txtBitmapPath"));
-    txtBitmapPath->setReadOnly(true);
-    txtBitmapPath->setFocusPolicy(Qt::NoFocus);
+    txtBitmapPath->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    txtBitmapPath->setMargin(kPathMargin);
     txtBitmapPath->installEventFilter(this);
     auto* const layout = new QVBoxLayout(this);
     for (QWidget* widget :

@@ -5,9 +5,9 @@
 #include <QString>
 
 class C_Image;
+class ElidedLabel;
 class QCheckBox;
 class QLabel;
-class QLineEdit;
 class QPushButton;
 
 /// The frame "Bitmap" of an editor: whether the piece has a picture, and which one. The editor answers the
@@ -21,7 +21,7 @@ public:
     QPushButton* const cmdBitmap;
     QPushButton* const cmdCropImage;
     QLabel* const lblImageFile;
-    QLineEdit* const txtBitmapPath;
+    ElidedLabel* const txtBitmapPath;
 
     /// Lets the user browse for a picture and gives its path: sBefore when that is cancelled. The folder it was
     /// found in is where the next browsing starts.

@@ -7,10 +7,10 @@
 #include "editors/ImageGroup.h"
 #include "editors/Redrawing.h"
 #include "images/UnsavedChanges.h"
+#include "platform/ElidedLabel.h"
 #include "platform/PictureBox.h"
 
 #include <QCheckBox>
-#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -93,7 +93,7 @@ void frmEditMoney::FillInForm() try {
 
 void frmEditMoney::ShowImagePath() {
     const QString path = FaceImage().FullPath();
-    txtBitmapPath->setText(path);
+    txtBitmapPath->SetWholeText(path);
     chkIncludeImage->setChecked(!path.isEmpty());
     cmdCropImage->setEnabled(!path.isEmpty());
 }
@@ -139,7 +139,7 @@ void frmEditMoney::chkIncludeImage_Click() try {
     if (include) {
         if (!m_bFillingIn) cmdBitmap_Click();
     } else {
-        txtBitmapPath->clear();
+        txtBitmapPath->SetWholeText(QString());
         FaceImage().Let_FullPath(QString());
     }
     RedrawMoney();

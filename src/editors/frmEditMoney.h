@@ -12,7 +12,7 @@ class ImageGroup;
 class PictureBox;
 class QCheckBox;
 class QLayout;
-class QLineEdit;
+class ElidedLabel;
 class QPlainTextEdit;
 class QPushButton;
 class QRadioButton;
@@ -74,7 +74,7 @@ private:
     QCheckBox* chkIncludeImage = nullptr;
     QPushButton* cmdBitmap = nullptr;
     QPushButton* cmdCropImage = nullptr;
-    QLineEdit* txtBitmapPath = nullptr;
+    ElidedLabel* txtBitmapPath = nullptr;
     /// Never shown.
     QPushButton* cmdIndex = nullptr;
 };

@@ -3,13 +3,13 @@
 
 #include "app/services/basCommon.h"
 #include "editors/ImageGroup.h"
+#include "platform/ElidedLabel.h"
 #include "platform/PictureBox.h"
 
 #include <QBoxLayout>
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>

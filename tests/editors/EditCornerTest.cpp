@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "editors/frmEditCorner.h"
 
+#include "board/basPosit.h"
+#include "board/BoardPicture.h"
 #include "editors/EditWindowFixture.h"
 #include "platform/PictureBox.h"
 
@@ -23,6 +25,30 @@ protected:
 
     frmEditCorner form;
 };
+
+TEST_F(EditCornerTest, Edge_TheCornerOfFateTakesTextThatItsBoardNeverShows) {
+    constexpr int kFate = 3;
+    constexpr int kBoard = 600;
+    for (const char* kit : {"8", "5"}) {
+        basTAVL::g_sGameVersion() = QString::fromLatin1(kit);
+        basPosit::PosInit();
+        basTAVL::g_oCorners(kFate).LoadFromObject(C_Corner());
+        const QImage before = basPosit::BoardPicture(kBoard).Image();
+        const QString picture = basTAVL::g_oCorners(kFate).Image.FullPath();
+        EXPECT_TRUE(Edit(
+            [&] {
+                ClickPicture(192, 225);
+                Type(QStringLiteral("HHH"));
+                Click("cmdOK");
+            },
+            kFate))
+            << kit;
+        EXPECT_EQ(basTAVL::g_oCorners(kFate).TextAll(0), QStringLiteral("HHH")) << kit;
+        EXPECT_EQ(basPosit::BoardPicture(kBoard).Image(), before) << kit;
+        EXPECT_EQ(basTAVL::g_oCorners(kFate).Image.FullPath(), picture) << kit;
+        EXPECT_TRUE(picture.endsWith(QStringLiteral("fate.dat"))) << kit;
+    }
+}
 
 TEST_F(EditCornerTest, Edge_TypingOnACornerIsNotCutAtFortyCharacters) {
     Corner().SetText(0, QString(39, u'i') + QStringLiteral("\r\nend"));

@@ -11,7 +11,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QInputMethodEvent>
-#include <QLineEdit>
+#include <QLabel>
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QSlider>
@@ -65,7 +65,7 @@ protected:
     }
     bool IsOn(const char* control) { return Find<QWidget>(control)->isEnabled(); }
     bool IncludesImage() { return Find<QCheckBox>("chkIncludeImage")->isChecked(); }
-    QString PathShown() { return Find<QLineEdit>("txtBitmapPath")->text(); }
+    QString PathShown() { return Find<QLabel>("txtBitmapPath")->text(); }
     QImage NoteShown() { return Find<PictureBox>("picNote")->Image().copy(); }
     static C_Money& Note(int i) { return basTAVL::g_oMoney(i); }
     static void HavePicture(int note, const QString& sPath) {
@@ -255,7 +255,7 @@ TEST_F(EditMoneyTest, APictureFoundShowsItsPathInTheOvalAndMayBeCropped) {
 }
 
 TEST_F(EditMoneyTest, ThePathTellsHowToChangeIt) {
-    Edit([&] { QTest::mouseClick(Find<QLineEdit>("txtBitmapPath"), Qt::LeftButton); });
+    Edit([&] { QTest::mouseClick(Find<QLabel>("txtBitmapPath"), Qt::LeftButton); });
     EXPECT_EQ(desktop.Texts(),
               QStringList{QStringLiteral("To change the Bitmap, please click the 'Find Image' button.")});
 }

@@ -7,7 +7,7 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QInputMethodEvent>
-#include <QLineEdit>
+#include <QLabel>
 #include <QPlainTextEdit>
 
 namespace {
@@ -273,7 +273,7 @@ TEST_F(EditSpaceTest, APictureFoundReachesTheGameAndHalvesTheText) {
         Click("chkIncludeImage");
         EXPECT_EQ(browsersSeen, 1);
         EXPECT_TRUE(Find<QPushButton>("cmdCropImage")->isEnabled());
-        EXPECT_EQ(Find<QLineEdit>("txtBitmapPath")->text(), path);
+        EXPECT_EQ(Find<QLabel>("txtBitmapPath")->text(), path);
         EXPECT_EQ(Shown().pixelColor(60, 80), QColor(Qt::red));
         EXPECT_EQ(Shown().pixelColor(150, 170), QColor(Qt::white));
         Click("cmdOK");
@@ -414,7 +414,7 @@ TEST_F(EditSpaceTest, CaptionsAreThoseTold) {
 
 TEST_F(EditSpaceTest, ThePathBoxTellsWhereToClick) {
     Edit([&] {
-        QTest::mouseClick(Find<QLineEdit>("txtBitmapPath"), Qt::LeftButton);
+        QTest::mouseClick(Find<QLabel>("txtBitmapPath"), Qt::LeftButton);
         EXPECT_EQ(desktop.Texts(),
                   QStringList{QStringLiteral("To change the Bitmap, please click the 'Find Image' button.")});
         EXPECT_EQ(QApplication::focusWidget()->objectName(), QStringLiteral("txtHoldFocus"));

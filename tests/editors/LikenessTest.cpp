@@ -4,11 +4,13 @@
 
 #include "board/basPosit.h"
 #include "board/BoardPicture.h"
+#include "images/frmBMP.h"
 #include "platform/PictureHolder.h"
 #include "platform/Surface.h"
 #include "support/BoardFixture.h"
 
 #include <QImage>
+#include <QTransform>
 
 namespace {
 
@@ -83,6 +85,52 @@ TEST_F(LikenessTest, ASpaceReadsAsItDoesOnTheBoard) {
         // The board draws at 0.95 of the line height that it keeps free.
         EXPECT_NEAR(edited.box.width() * 0.95, painted.box.width(), 4 + 0.02 * painted.box.width())
             << text.toStdString();
+    }
+}
+
+TEST_F(LikenessTest, ACornerReadsAsItDoesOnTheBoard) {
+    constexpr int kLargeBoard = 2700; // twice as many pixels as the likeness has
+    // Corner 1 is at the lower left, where text runs down to the right.
+    constexpr QRect kCornerOnBoard(68, 2152, 480, 480);
+    for (const QString& text :
+         {QStringLiteral("HHH\r\nEEE"), QStringLiteral("EEEEEEEE"), QStringLiteral("EEE\r\nEEEE\r\nEE\r\nEEE")}) {
+        const Ink edited = InkIn(DrawCorner(text), QRect(QPoint(110, 180), QPoint(274, 262)));
+        const QImage board = basPosit::BoardPicture(kLargeBoard).Image();
+        const QImage turned =
+            board.copy(kCornerOnBoard).transformed(QTransform().rotate(-45), Qt::SmoothTransformation);
+        const QPoint middle = turned.rect().center();
+        const Ink painted = InkIn(turned, QRect(middle + QPoint(-164, -20), middle + QPoint(164, 140)));
+        EXPECT_EQ(edited.rows, painted.rows) << text.toStdString();
+        EXPECT_NEAR(edited.box.width() * 2 * 0.95, painted.box.width(), 6 + 0.02 * painted.box.width())
+            << text.toStdString();
+    }
+}
+
+// Stickers have letters of their own width, so it is the lines that must be the same.
+TEST_F(LikenessTest, AStickerHasTheLinesThatItsEditorShows) {
+    constexpr int kWidthInches = 5;
+    constexpr int kHeightInches = 6;
+    constexpr int kCornerInches = 7;
+    basTAVL::g_dblLabelSizes(kWidthInches) = 1.36;
+    basTAVL::g_dblLabelSizes(kHeightInches) = 2.125;
+    basTAVL::g_dblLabelSizes(kCornerInches) = 2.125;
+    frmBMP maker;
+    const QString file = PathOf(QStringLiteral("sticker.bmp"));
+    for (const QString& text : {QStringLiteral("EEE\r\nHHHHH"), QStringLiteral("HHHHHHHHHHHHHHHH"),
+                                QStringLiteral("E\r\nEE\r\nEEE\r\nEEEE\r\nEEEEE\r\nEEEEEEE")}) {
+        const Ink edited = InkIn(DrawSpace(text), kSpaceText);
+        ASSERT_TRUE(maker.GenerateSpaceStickerImage(file, kSpace));
+        const QImage ofSpace(file);
+        const Ink made = InkIn(ofSpace, ofSpace.rect());
+        EXPECT_EQ(made.rows, edited.rows) << text.toStdString();
+        EXPECT_TRUE(ofSpace.rect().adjusted(1, 1, -1, -1).contains(made.box)) << text.toStdString();
+
+        const Ink editedCorner = InkIn(DrawCorner(text), QRect(QPoint(110, 174), QPoint(274, 262)));
+        ASSERT_TRUE(maker.GenerateCornerImage(file, kCorner));
+        const QImage ofCorner(file);
+        const Ink madeCorner = InkIn(ofCorner, ofCorner.rect());
+        EXPECT_EQ(madeCorner.rows, editedCorner.rows) << text.toStdString();
+        EXPECT_TRUE(ofCorner.rect().adjusted(1, 1, -1, -1).contains(madeCorner.box)) << text.toStdString();
     }
 }
 
