@@ -35,6 +35,10 @@ measure_board() {
 }
 find_board() { until_true 20 measure_board || fail "no board in the main window"; }
 
+# Before the first paint the board's place is white as a whole, and a measure of it means nothing.
+measure_painted_board() { measure_board && has_colour 5000 4500 00B0FF; }
+find_whole_board() { until_true 20 measure_painted_board || fail "no board with its panel in the main window"; }
+
 point_at() { xdotool mousemove $((board_x + board_side * $1 / 10000)) $((board_y + board_side * $2 / 10000)); }
 click_board() {
     point_at "$1" "$2"
