@@ -1,17 +1,6 @@
 # Sourced after person.sh by the tests that look at the board: where it lies on the screen, and which colour
 # its places have. Places are told in ten thousandths of the board's width.
 
-# until_true SECONDS COMMAND...
-until_true() {
-    local tries=$(($1 * 10))
-    shift
-    while ! "$@" >/dev/null 2>&1; do
-        tries=$((tries - 1))
-        [ $tries -gt 0 ] || return 1
-        sleep 0.1
-    done
-}
-
 active_title() { xdotool getactivewindow getwindowname 2>/dev/null || true; }
 is_active() { active_title | grep -qE "$1"; }
 see_active() { until_true 20 is_active "$1" || fail "\"$1\" isn't in front but \"$(active_title)\""; }

@@ -3,9 +3,9 @@
 
 set -euo pipefail
 
-program=$1
-data=$2
-for tool in Xvfb xdotool xwininfo openbox import; do
+program=$(realpath "$1")
+data=$(realpath "$2")
+for tool in Xvfb xdotool xwininfo xprop openbox import; do
     if ! command -v "$tool" >/dev/null; then
         echo "skipped: there is no $tool on this machine"
         exit 77
@@ -34,24 +34,43 @@ fail() {
     exit 1
 }
 
+# until_true SECONDS COMMAND...
+until_true() {
+    local tries=$(($1 * 10))
+    shift
+    while ! "$@" >/dev/null 2>&1; do
+        tries=$((tries - 1))
+        [ $tries -gt 0 ] || return 1
+        sleep 0.1
+    done
+}
+
+# The display finds a free number by itself.
+start_display() {
+    # Without -noreset the display starts anew, and drops who is just coming, whenever its last client goes.
+    Xvfb -noreset -displayfd 3 -screen 0 1280x1024x24 3>"$home/display" 2>>"$home/errors" &
+    local display_pid=$!
+    pids+=("$display_pid")
+    until_true 20 display_is_known_or_gone "$display_pid"
+    [ -s "$home/display" ] || return 1
+    DISPLAY=:$(cat "$home/display")
+    export DISPLAY
+    until_true 10 xdotool getdisplaygeometry
+}
+display_is_known_or_gone() { [ -s "$home/display" ] || ! kill -0 "$1"; }
+
+# Windows that come before it are placed and activated by nobody.
+window_manager_is_there() { xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'; }
+
 open_display() {
     mkdir -p "$games" "$home/runtime"
     chmod 700 "$home/runtime"
     export HOME=$home XDG_RUNTIME_DIR=$home/runtime QT_QPA_PLATFORM=xcb QT_SCALE_FACTOR=1
     unset XDG_CONFIG_HOME XDG_DATA_HOME XDG_DOCUMENTS_DIR
-    # Without -noreset the display starts anew, and drops who is just coming, whenever its last client goes.
-    Xvfb -noreset -displayfd 3 -screen 0 1280x1024x24 3>"$home/display" 2>/dev/null &
-    pids+=($!)
-    local i
-    for ((i = 0; i < 100; i++)); do
-        [ -s "$home/display" ] && break
-        sleep 0.1
-    done
-    DISPLAY=:$(cat "$home/display")
-    export DISPLAY
-    xdotool getdisplaygeometry >/dev/null || fail "the display doesn't start"
+    start_display || fail "the display doesn't start"
     openbox 2>/dev/null &
     pids+=($!)
+    until_true 20 window_manager_is_there || fail "the window manager doesn't start"
     # Neither the welcome nor the splash stands in the way of a test that isn't about them.
     printf '[tavlora]\r\nShowSplash=false\r\n' >"$games/tavlora.ini"
 }
@@ -68,10 +87,12 @@ see_window() {
     for ((i = 0; i < 150; i++)); do
         window=$(xdotool search --onlyvisible --name "$1" 2>/dev/null | tail -1) || true
         if [ -n "$window" ]; then
-            xdotool windowactivate --sync "$window" 2>/dev/null || true
+            # It would wait for ever for a window that has gone meanwhile.
+            timeout 10 xdotool windowactivate --sync "$window" 2>/dev/null || true
             sleep 0.3
             return
         fi
+        kill -0 "$program_pid" 2>/dev/null || fail "the program ended before a window \"$1\" came"
         sleep 0.2
     done
     fail "no window \"$1\""
