@@ -18,7 +18,7 @@
 
 namespace {
 
-constexpr int kButtonWidth = 150;
+constexpr int kButtonWidth = 170;
 constexpr int kTipMargin = 4;
 
 } // namespace

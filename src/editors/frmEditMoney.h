@@ -8,11 +8,11 @@
 
 #include <array>
 
+class ElidedLabel;
 class ImageGroup;
 class PictureBox;
 class QCheckBox;
 class QLayout;
-class ElidedLabel;
 class QPlainTextEdit;
 class QPushButton;
 class QRadioButton;
