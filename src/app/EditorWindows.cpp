@@ -6,6 +6,7 @@
 #include "editors/frmEditMoney.h"
 #include "editors/frmEditSpace.h"
 #include "editors/frmShowNews.h"
+#include "editors/frmShowTokens.h"
 #include "platform/Desktop.h"
 
 namespace {
@@ -50,7 +51,12 @@ bool EditorWindows::EditMoney() {
     return m_frmEditMoney->ShowForm();
 }
 
-bool EditorWindows::ShowTokens() { return SayThatItIsToCome(QStringLiteral("The editor of tokens")); }
+bool EditorWindows::ShowTokens() {
+    if (!m_frmShowTokens) m_frmShowTokens = new frmShowTokens(&m_main);
+    bool changed = false;
+    m_frmShowTokens->ShowForm(changed);
+    return changed;
+}
 
 bool EditorWindows::Print() { return SayThatItIsToCome(QStringLiteral("The print console")); }
 

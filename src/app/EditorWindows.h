@@ -8,6 +8,7 @@ class frmEditCorner;
 class frmEditMoney;
 class frmEditSpace;
 class frmShowNews;
+class frmShowTokens;
 class QWidget;
 
 /// The windows behind the main window's doors. Each is made when it is first opened and serves the whole
@@ -33,4 +34,5 @@ private:
     frmEditCenter* m_frmEditCenter = nullptr;
     frmEditMoney* m_frmEditMoney = nullptr;
     frmShowNews* m_frmShowNews = nullptr;
+    frmShowTokens* m_frmShowTokens = nullptr;
 };

@@ -26,6 +26,11 @@ void C_Token::Init(qint16 iIndex) try {
 
 float C_Token::TextSize() const { return CappedTextSize(Font, m_fTextSize); }
 
+QStringList C_Token::LinesShown() const {
+    const bool hasText = Image.FullPath().isEmpty() && NLines() > 0;
+    return hasText ? TextArray() : QStringList{QString()};
+}
+
 void C_Token::SetText(const QString& sTextIn) try {
     m_lines.Split(sTextIn);
     if (m_lines.NLines == 0) {

@@ -33,6 +33,8 @@ public:
     QString TextAll() const { return m_lines.All(); }
     void Let_TextAll(const QString& sText) { m_lines.SetAll(sText); }
     QStringList TextArray() const { return m_lines.InUse(); }
+    /// The lines that a person sees and types on: a single empty one where there is a picture or no text.
+    QStringList LinesShown() const;
     /// Height of a line, in fractions of the board's width, never above what the font's size allows.
     float TextSize() const;
     void Let_TextSize(float fTextSize) { m_fTextSize = fTextSize; }
@@ -58,6 +60,11 @@ public:
     /// The lines alone, on the drawing layer's current context.
     void DrawText(int xStart, int yStart, int xEnd, int yEnd, bool bWithSelection, const TextSelection& selection);
 
+    /// The place in the lines nearest to the pixel (x, y) of a token drawn by Redraw into the same box. False
+    /// outside the square that is left for text.
+    bool FindInsertPoint(int xStart, int yStart, int xEnd, int yEnd, Surface& picDest, int x, int y, int& iCol,
+                         int& iRow) const;
+
     bool IsDifferentFrom(const C_Token& objOther) const;
     void LoadFromObject(const C_Token& objSource);
 
@@ -66,5 +73,9 @@ public:
     QString SetQuotedString(const QString& sLine);
 
 private:
+    struct TextPlace;
+    TextPlace PlaceOfText(int xStart, int yStart, int xEnd, int yEnd) const;
+    void UseFont(const TextPlace& place) const;
+
     TextLines m_lines;
 };

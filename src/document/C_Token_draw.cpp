@@ -3,17 +3,22 @@
 
 #include "app/services/basErrLog.h"
 #include "board/basDraw.h"
+#include "images/basBMP.h"
 #include "images/basBMP_metafile.h"
 #include "platform/ClipScope.h"
 #include "platform/Numbers.h"
 #include "platform/PictureHolder.h"
 #include "platform/Surface.h"
 
+#include <QRect>
+
 namespace {
 
 // Side of the square inscribed in the token's circle, and what is left beside it, in parts of the width.
 constexpr double kInscribed = 0.707;
 constexpr double kBeside = 0.293;
+constexpr int kCaretWidth = 3;
+const QString kCentered = QStringLiteral("C");
 // Turns a line height in fractions of the board's width into one of the token's height.
 constexpr float kTextOfHeight = 6.329F;
 constexpr double kWidthOfLine = 0.5;
@@ -69,23 +74,58 @@ bool C_Token::PaintImage(Surface& picDest, PictureHolder& picScratch, int xStart
     return bad != Image.FullPath();
 }
 
+/// How the lines stand in a token's box.
+struct C_Token::TextPlace {
+    QRect square; ///< Inscribed in the circle.
+    int lLine = 0;
+    int lTop = 0;
+    int lCenter = 0;
+    QStringList lines;
+};
+
+C_Token::TextPlace C_Token::PlaceOfText(int xStart, int yStart, int xEnd, int yEnd) const {
+    const int w = xEnd - xStart;
+    const int h = yEnd - yStart;
+    const QSize inner(CLng(kInscribed * w), CLng(kInscribed * h));
+    const QPoint offset(CLng((w - inner.width()) / 2.0), CLng((h - inner.height()) / 2.0));
+    TextPlace place;
+    place.square = QRect(QPoint(xStart, yStart) + offset, inner);
+    place.lines = LinesShown();
+    place.lLine = CLng(double(TextSize() * (float(h) * kTextOfHeight)));
+    place.lTop = CLng((inner.height() - int(place.lines.size()) * place.lLine) / 2.0 + place.square.top());
+    place.lCenter = CLng((xStart + xEnd) / 2.0);
+    return place;
+}
+
+void C_Token::UseFont(const TextPlace& place) const {
+    basDraw::Draw_SetFont(Font.Family, place.lLine, CLng(place.lLine * kWidthOfLine), 0, 0, Font.Bold, Font.Italic,
+                          false);
+}
+
 void C_Token::DrawText(int xStart, int yStart, int xEnd, int yEnd, bool bWithSelection,
                        const TextSelection& selection) {
-    const int h = yEnd - yStart;
-    const int lInnerH = CLng(kInscribed * h);
-    const int lOffY = CLng((h - lInnerH) / 2.0);
-    const int lLine = CLng(double(TextSize() * (float(h) * kTextOfHeight)));
-    basDraw::Draw_SetFont(Font.Family, lLine, CLng(lLine * kWidthOfLine), 0, 0, Font.Bold, Font.Italic, false);
-    const QStringList lines = NLines() > 0 ? TextArray() : QStringList{QString()};
-    const int lTop = CLng((lInnerH - int(lines.size()) * lLine) / 2.0 + yStart + lOffY);
-    const int lCenter = CLng((xStart + xEnd) / 2.0);
+    const TextPlace place = PlaceOfText(xStart, yStart, xEnd, yEnd);
+    UseFont(place);
     basDraw::Draw_SetSelection(selection.iColStart, selection.iRowStart, selection.iColEnd, selection.iRowEnd);
     if (bWithSelection) {
-        basDraw::Draw_SetPen(PenStyle::Solid, 1, Color::Black());
-        basDraw::Draw_TextArrayShowingSelection(lines, QStringLiteral("C"), lCenter, lTop, Color::Black());
+        basDraw::Draw_SetPen(PenStyle::Solid, kCaretWidth, Color::Black());
+        basDraw::Draw_TextArrayShowingSelection(place.lines, kCentered, place.lCenter, place.lTop, Color::Black());
     } else {
-        basDraw::Draw_TextArray(lines, QStringLiteral("C"), lCenter, lTop, Color::Black());
+        basDraw::Draw_TextArray(place.lines, kCentered, place.lCenter, place.lTop, Color::Black());
     }
+}
+
+bool C_Token::FindInsertPoint(int xStart, int yStart, int xEnd, int yEnd, Surface& picDest, int x, int y, int& iCol,
+                              int& iRow) const try {
+    const PixelScale scale(picDest);
+    const TextPlace place = PlaceOfText(xStart, yStart, xEnd, yEnd);
+    basDraw::Draw_SetHdc(&picDest.hDC());
+    UseFont(place);
+    basDraw::Draw_FindInsertPoint(place.lines, kCentered, place.lCenter, place.lTop, x, y, iCol, iRow);
+    basDraw::Draw_ReleaseObjects();
+    return place.square.contains(x, y);
+} catch (...) {
+    ErrTail("C_Token!", "FindInsertPoint", xStart, yStart, xEnd, yEnd, picDest, x, y);
 }
 
 void C_Token::Redraw(int xStart, int yStart, int xEnd, int yEnd, bool bWithSelection, Surface& picDest,
@@ -94,6 +134,7 @@ void C_Token::Redraw(int xStart, int yStart, int xEnd, int yEnd, bool bWithSelec
     picDest.Cls();
     picDest.hDC().FillRect(xStart, yStart, xEnd, yEnd, BackColor);
     basDraw::Draw_SetHdc(&picDest.hDC());
+    basBMP::BMP_SetHDC(&picDest.hDC());
     if (!Image.FullPath().isEmpty() && !PaintImage(picDest, picScratch, xStart, yStart, xEnd, yEnd))
         Image.Let_FullPath(QString());
     if (Image.FullPath().isEmpty()) DrawText(xStart, yStart, xEnd, yEnd, bWithSelection, selection);

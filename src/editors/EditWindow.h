@@ -76,11 +76,8 @@ private:
 
     // Text, in EditWindow_text.cpp.
     bool TakesKey(const QKeyEvent& event);
-    void Form_KeyDown(int iKeyCode);
+    void Form_KeyDown(const TypedText::Key& key);
     void Form_KeyPress(const QString& sText);
-    void CopySelection();
-    void CutSelection();
-    void PasteClipboard();
     void StoreTyped(basEditTextArray::KeyResult result, const QStringList& sTextLines);
     void FitText(const QString& sText);
     void HoldFocus_Tabbed();

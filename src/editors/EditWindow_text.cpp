@@ -5,45 +5,24 @@
 #include "editors/HoldFocusBox.h"
 #include "platform/PictureBox.h"
 
-#include <QClipboard>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPlainTextEdit>
 
 using basEditTextArray::KeyResult;
 
 bool EditWindow::TakesKey(const QKeyEvent& event) {
-    if (!m_selection.IsOn()) return false;
     const TypedText::Key key = TypedText::KeyOf(event);
-    switch (key.kind) {
-        case TypedText::Key::Kind::None:
-            return false;
-        case TypedText::Key::Kind::Down:
-            Form_KeyDown(key.iKeyCode);
-            break;
-        case TypedText::Key::Kind::Press:
-            Form_KeyPress(key.sText);
-            break;
-        case TypedText::Key::Kind::Copy:
-            CopySelection();
-            break;
-        case TypedText::Key::Kind::Cut:
-            CutSelection();
-            break;
-        case TypedText::Key::Kind::Paste:
-            PasteClipboard();
-            break;
-    }
+    if (!m_selection.IsOn() || key.kind == TypedText::Key::Kind::None) return false;
+    Form_KeyDown(key);
     return true;
 }
 
-void EditWindow::Form_KeyDown(int iKeyCode) try {
-    if (!m_selection.IsOn()) return;
+void EditWindow::Form_KeyDown(const TypedText::Key& key) try {
     QStringList sTextLines = GetTextArray();
-    const KeyResult result = TypedText::Apply(sTextLines, m_selection, iKeyCode);
+    const KeyResult result = TypedText::Take(key, sTextLines, m_selection);
     StoreTyped(result, sTextLines);
 } catch (...) {
-    ErrTop(m_wording.sModule, "Form_KeyDown", iKeyCode);
+    ErrTop(m_wording.sModule, "Form_KeyDown", key.iKeyCode, key.sText);
 }
 
 void EditWindow::Form_KeyPress(const QString& sText) try {
@@ -64,24 +43,6 @@ void EditWindow::StoreTyped(KeyResult result, const QStringList& sTextLines) {
 void EditWindow::FitText(const QString& sText) {
     UsePicDest();
     m_likeness.SetText(sText);
-}
-
-void EditWindow::CopySelection() {
-    if (m_selection.HasText()) QGuiApplication::clipboard()->setText(TypedText::Selected(GetTextArray(), m_selection));
-}
-
-void EditWindow::CutSelection() try {
-    CopySelection();
-    QStringList sTextLines = GetTextArray();
-    const KeyResult result = TypedText::Remove(sTextLines, m_selection);
-    StoreTyped(result, sTextLines);
-} catch (...) {
-    ErrTop(m_wording.sModule, "CutSelection");
-}
-
-void EditWindow::PasteClipboard() {
-    const QString sText = QGuiApplication::clipboard()->text();
-    if (!sText.isEmpty()) Form_KeyPress(sText);
 }
 
 // Whoever comes by the keyboard finds the caret behind the text, as there is no click to place it.

@@ -4,8 +4,8 @@
 #include "board/basDraw.h"
 #include "document/basTAVL.h"
 #include "editors/GameFonts.h"
+#include "editors/TypedText.h"
 #include "platform/Numbers.h"
-#include "platform/TextColumns.h"
 
 namespace {
 
@@ -24,18 +24,12 @@ constexpr Likeness::TextBox kTextWithoutImage{kCentre, kLeft, kRight, 63, 210};
 constexpr Likeness::TextBox kTextWithImage{kCentre, kLeft, kRight, 189, 105};
 /// Pixels of the likeness in the width of a whole board.
 constexpr double kPixelsPerBoard = 2000;
-constexpr int kLongestLine = 40;
 
 } // namespace
 
 QSize SpaceLikeness::Size() const { return kSize; }
 
-QString SpaceLikeness::Joined(const QStringList& sTextLines) const {
-    QStringList lines;
-    for (const QString& line : sTextLines)
-        lines.append(TextColumns::LeftCharacters(line, kLongestLine));
-    return lines.join(QStringLiteral("\r\n"));
-}
+QString SpaceLikeness::Joined(const QStringList& sTextLines) const { return TypedText::Joined(sTextLines); }
 
 void SpaceLikeness::LoadFromGame(int iIndex) {
     m_iSpace = iIndex;

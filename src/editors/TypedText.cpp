@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "editors/TypedText.h"
 
+#include "platform/TextColumns.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QKeySequence>
 
@@ -12,6 +16,7 @@ namespace TypedText {
 namespace {
 
 constexpr QChar kTab = u'\t';
+constexpr int kLongestLine = 40;
 
 struct KeyCodeRow {
     int qtKey;
@@ -84,6 +89,32 @@ KeyResult Feed(QStringList& sTextLines, TextSelection& selection, const QString&
         if (enter && one == KeyResult::Nothing) break;
     }
     return result;
+}
+
+KeyResult Take(const Key& key, QStringList& sTextLines, TextSelection& selection) {
+    QClipboard& clipboard = *QGuiApplication::clipboard();
+    switch (key.kind) {
+        case Key::Kind::Down:
+            return Apply(sTextLines, selection, key.iKeyCode);
+        case Key::Kind::Press:
+            return Feed(sTextLines, selection, key.sText);
+        case Key::Kind::Paste:
+            return Feed(sTextLines, selection, clipboard.text());
+        case Key::Kind::Copy:
+        case Key::Kind::Cut:
+            if (selection.HasText()) clipboard.setText(Selected(sTextLines, selection));
+            return key.kind == Key::Kind::Cut ? Remove(sTextLines, selection) : KeyResult::Nothing;
+        case Key::Kind::None:
+            break;
+    }
+    return KeyResult::Nothing;
+}
+
+QString Joined(const QStringList& sTextLines) {
+    QStringList lines;
+    for (const QString& line : sTextLines)
+        lines.append(TextColumns::LeftCharacters(line, kLongestLine));
+    return lines.join(QStringLiteral("\r\n"));
 }
 
 QString Selected(const QStringList& sTextLines, const TextSelection& selection) {

@@ -34,6 +34,12 @@ basEditTextArray::KeyResult Apply(QStringList& sTextLines, TextSelection& select
 /// characters but Backspace are passed over. Stops at an Enter for which there is no room.
 basEditTextArray::KeyResult Feed(QStringList& sTextLines, TextSelection& selection, const QString& sText);
 
+/// Does what a key asks for, Copy, Cut and Paste with the desktop's clipboard included.
+basEditTextArray::KeyResult Take(const Key& key, QStringList& sTextLines, TextSelection& selection);
+
+/// The lines as records keep them: each cut to its first 40 characters, joined with CR LF.
+QString Joined(const QStringList& sTextLines);
+
 /// The text between both ends, lines joined with a line feed.
 QString Selected(const QStringList& sTextLines, const TextSelection& selection);
 

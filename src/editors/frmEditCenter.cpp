@@ -10,7 +10,6 @@
 #include "platform/Numbers.h"
 #include "platform/PictureBox.h"
 #include "platform/Screen.h"
-#include "platform/TextColumns.h"
 #include "platform/WidgetLook.h"
 
 #include <QClipboard>
@@ -24,7 +23,6 @@ using basEditTextArray::KeyResult;
 namespace {
 
 const QString kNewLine = QStringLiteral("\r\n");
-constexpr int kLongestLine = 40;
 
 struct TwipsRect {
     int iLeft;
@@ -320,11 +318,8 @@ void frmEditCenter::CutSelection() {
 }
 
 void frmEditCenter::TakeBack(const QStringList& sTextLines) {
-    QStringList lines;
-    for (const QString& line : sTextLines)
-        lines.append(TextColumns::LeftCharacters(line, kLongestLine));
     basDraw::Draw_SetHdc(&picForm->hDC());
-    basPosit::SetSpecialText(m_iTextArea, lines.join(kNewLine));
+    basPosit::SetSpecialText(m_iTextArea, TypedText::Joined(sTextLines));
 }
 
 bool frmEditCenter::RangeCheck() {
