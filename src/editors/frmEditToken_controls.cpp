@@ -76,9 +76,11 @@ QPushButton* frmEditToken::MakeButton(const char* sName, const QString& sCaption
 QGroupBox* frmEditToken::BuildIncludeGroup() {
     auto* group = new QGroupBox(QStringLiteral("On the Token"), this);
     auto* layout = new QVBoxLayout(group);
-    layout->addWidget(
-        MakeOption(kImage, QStringLiteral("Use &Image"), QStringLiteral("Click to use an Image on the token")));
-    layout->addWidget(MakeOption(kText, QStringLiteral("Use &Text"), QStringLiteral("Click to use Text on the token")));
+    // No wider than what can be clicked of it.
+    for (QRadioButton* option :
+         {MakeOption(kImage, QStringLiteral("Use &Image"), QStringLiteral("Click to use an Image on the token")),
+          MakeOption(kText, QStringLiteral("Use &Text"), QStringLiteral("Click to use Text on the token"))})
+        layout->addWidget(option, 0, Qt::AlignLeft);
     return group;
 }
 

@@ -13,6 +13,7 @@ constexpr QPointF kTitles(0.5, 0.31);
 constexpr QPointF kGoodNews(0.32, 0.65);
 constexpr QPointF kBadNews(0.68, 0.65);
 constexpr QPointF kMoney(0.5, 0.755);
+constexpr QPointF kTokens(0.5, 0.55);
 
 class EditorWindowsTest : public AppTest {
 protected:
@@ -44,6 +45,19 @@ protected:
             });
             QTest::mouseClick(deck.findChild<QWidget*>(QStringLiteral("picCards")), Qt::LeftButton, {}, QPoint(9, 9));
             ClickIn(deck, "cmdDone");
+        });
+    }
+
+    // Types onto the first token, and closes both windows.
+    static void EditFirstToken(const char* button) {
+        WithModal("frmShowTokens", [button](QWidget& gallery) {
+            WithModal("frmEditToken", [button](QWidget& token) {
+                QTest::mouseClick(token.findChild<QWidget*>(QStringLiteral("picDest")), Qt::LeftButton);
+                QTest::keyClicks(token.findChild<QWidget*>(QStringLiteral("txtHoldFocus")), QStringLiteral("zap"));
+                ClickIn(token, button);
+            });
+            QTest::mouseClick(gallery.findChild<QWidget*>(QStringLiteral("picToken_0")), Qt::LeftButton);
+            ClickIn(gallery, "cmdOK");
         });
     }
 
@@ -112,6 +126,22 @@ TEST_F(EditorWindowsTest, MenusAndButtonsOpenTheDecks) {
     EditFirstCard("cmdOK");
     ClickButton(1);
     EXPECT_TRUE(CardText(0, 0).endsWith(QStringLiteral(" Hurrah")));
+}
+
+TEST_F(EditorWindowsTest, ATokenTypedInTheEditorReachesTheAutosave) {
+    EditFirstToken("cmdOK");
+    ClickBoardAt(kTokens);
+    EXPECT_TRUE(basTAVL::g_oTokens(0).TextAll().contains(QStringLiteral("zap")));
+    ASSERT_TRUE(HasAutosave());
+    EXPECT_TRUE(ReadFile(InGames(QStringLiteral("~AutoSave.dat"))).contains("zap"));
+}
+
+TEST_F(EditorWindowsTest, ATokenThatIsCancelledIsNoChange) {
+    desktop.answers = {vbNo};
+    EditFirstToken("cmdCancel");
+    ChooseMenu("mnuView_4");
+    EXPECT_FALSE(basTAVL::g_oTokens(0).TextAll().contains(QStringLiteral("zap")));
+    EXPECT_FALSE(HasAutosave());
 }
 
 } // namespace

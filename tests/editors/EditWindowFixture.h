@@ -63,7 +63,7 @@ protected:
     QString MakePicture(const QString& name, int width = 60, int height = 60);
     QString MakeMetafile(const QString& name);
 
-    /// Does something in the window that is shown next.
+    /// Does something in the window once it stands, and closes it in the end.
     void InWindow(const std::function<void()>& doIt);
 
     QDialog* window = nullptr;
