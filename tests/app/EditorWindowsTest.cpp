@@ -48,8 +48,9 @@ protected:
         });
     }
 
-    // Types onto the first token, and closes both windows.
+    // Types onto the first token, which has no picture, and closes both windows.
     static void EditFirstToken(const char* button) {
+        basTAVL::g_oTokens(0).SetImagePath(QString());
         WithModal("frmShowTokens", [button](QWidget& gallery) {
             WithModal("frmEditToken", [button](QWidget& token) {
                 QTest::mouseClick(token.findChild<QWidget*>(QStringLiteral("picDest")), Qt::LeftButton);
