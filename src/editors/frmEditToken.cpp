@@ -24,6 +24,7 @@ namespace {
 const QString kNewLine = QStringLiteral("\r\n");
 constexpr double kSquare = 1.0;
 constexpr bool kRound = true;
+constexpr const char* kIndexProperty = "Tag";
 
 } // namespace
 
@@ -37,7 +38,7 @@ frmEditToken::frmEditToken(QWidget* parent) : QDialog(parent) {
 
 void frmEditToken::ShowForm(int iToken) try {
     m_bLoading = true;
-    m_iToken = iToken;
+    cmdIndex->setProperty(kIndexProperty, iToken);
     m_bSetAllFonts = false;
     m_bSelecting = false;
     m_selection.Clear();
@@ -52,9 +53,11 @@ void frmEditToken::ShowForm(int iToken) try {
     ErrTail("frmEditToken!", "ShowForm", iToken);
 }
 
+int frmEditToken::Index() const { return cmdIndex->property(kIndexProperty).toInt(); }
+
 void frmEditToken::LoadFromGame() {
     m_oToken = C_Token();
-    m_oToken.LoadFromObject(basTAVL::g_oTokens(m_iToken));
+    m_oToken.LoadFromObject(basTAVL::g_oTokens(Index()));
     const QSignalBlocker silent(txtToken);
     txtToken->setPlainText(m_oToken.TextAll());
 }
@@ -67,7 +70,7 @@ void frmEditToken::Redraw() try {
                                            m_selection.m_iRowEnd};
     m_oToken.Redraw(0, 0, picDest->width(), picDest->height(), m_selection.IsOn(), *picDest, picScratch, selection,
                     WidgetLook::FillOf(*this));
-    if (!wasCentered) basTAVL::g_oTokens(m_iToken).Image.TakeCenterFrom(m_oToken.Image);
+    if (!wasCentered) basTAVL::g_oTokens(Index()).Image.TakeCenterFrom(m_oToken.Image);
     picDest->Refresh();
     // A picture that couldn't be painted has been given up just now.
     ShowInclude(HasImage() ? kImage : kText);
@@ -196,7 +199,7 @@ void frmEditToken::cmdSetAllFonts_Click() try {
     ErrTop("frmEditToken!", "cmdSetAllFonts_Click");
 }
 
-void frmEditToken::cmdIndex_Click() try {
+void frmEditToken::cmdHelp_Click() try {
     MsgBox(QStringLiteral("To insert text, simply click in the middle of the token and start typing. ") + kNewLine +
                kNewLine +
                QStringLiteral("To edit the text, use the mouse to select text or set the insert point and again, start "
@@ -204,7 +207,7 @@ void frmEditToken::cmdIndex_Click() try {
            vbInformation);
     TakeFocus();
 } catch (...) {
-    ErrTop("frmEditToken!", "cmdIndex_Click");
+    ErrTop("frmEditToken!", "cmdHelp_Click");
 }
 
 void frmEditToken::cmdOK_Click() { hide(); }
@@ -212,7 +215,7 @@ void frmEditToken::cmdOK_Click() { hide(); }
 void frmEditToken::cmdCancel_Click() try {
     m_selection.Clear();
     Redraw();
-    if (m_oToken.IsDifferentFrom(basTAVL::g_oTokens(m_iToken))) {
+    if (m_oToken.IsDifferentFrom(basTAVL::g_oTokens(Index()))) {
         const UnsavedChanges answer = AskAboutUnsavedChanges();
         if (answer == UnsavedChanges::Stay) return;
         if (answer == UnsavedChanges::Drop) LoadFromGame();

@@ -86,10 +86,12 @@ private:
     void cmdCropImage_Click();
     void cmdChangeFont_Click();
     void cmdSetAllFonts_Click();
-    void cmdIndex_Click();
+    void cmdHelp_Click();
     void cmdOK_Click();
     void cmdCancel_Click();
 
+    /// Number of the token being edited, which cmdIndex keeps.
+    int Index() const;
     bool HasImage() const { return !m_oToken.Image.FullPath().isEmpty(); }
     void LoadFromGame();
     void ShowInclude(Include include);
@@ -99,7 +101,6 @@ private:
     void UsePicDest();
     void TakeFocus();
 
-    int m_iToken = 0;
     C_Token m_oToken;
     TextSelection m_selection;
     bool m_bLoading = false;
@@ -120,7 +121,9 @@ private:
     QPushButton* cmdCropImage = nullptr;
     QPushButton* cmdChangeFont = nullptr;
     QPushButton* cmdSetAllFonts = nullptr;
+    /// Never shown.
     QPushButton* cmdIndex = nullptr;
+    QPushButton* cmdHelp = nullptr;
     QPushButton* cmdOK = nullptr;
     QPushButton* cmdCancel = nullptr;
 };

@@ -108,11 +108,11 @@ QGroupBox* frmEditToken::BuildTextGroup() {
 }
 
 QBoxLayout* frmEditToken::BuildClosing() {
-    cmdIndex = MakeButton("cmdIndex", QStringLiteral("&Help"), QStringLiteral("Click to see how text is typed"));
+    cmdHelp = MakeButton("cmdHelp", QStringLiteral("&Help"), QStringLiteral("Click to see how text is typed"));
     cmdOK = MakeButton("cmdOK", QStringLiteral("&OK"), QStringLiteral("Click to Save Your Changes"));
     cmdCancel = MakeButton("cmdCancel", QStringLiteral("&Cancel"), QStringLiteral("Click to Undo Your Changes"));
     auto* layout = new QVBoxLayout;
-    layout->addWidget(cmdIndex);
+    layout->addWidget(cmdHelp);
     layout->addWidget(cmdOK);
     layout->addWidget(cmdCancel);
     return layout;
@@ -124,6 +124,8 @@ void frmEditToken::BuildHidden() {
     WidgetLook::SetToolTip(*txtHoldFocus, QStringLiteral("Dummy text area needed to hold the focus"));
     // The keyboard's way goes from the text to the options.
     setTabOrder(txtHoldFocus, optInclude[kImage]);
+    cmdIndex = MakeButton("cmdIndex", QString(), QString());
+    cmdIndex->hide();
     txtToken = new QPlainTextEdit(this);
     txtToken->setObjectName(QStringLiteral("txtToken"));
     txtToken->setFocusPolicy(Qt::NoFocus);
@@ -155,7 +157,7 @@ void frmEditToken::Connect() {
     connect(cmdCropImage, &QPushButton::clicked, this, &frmEditToken::cmdCropImage_Click);
     connect(cmdChangeFont, &QPushButton::clicked, this, &frmEditToken::cmdChangeFont_Click);
     connect(cmdSetAllFonts, &QPushButton::clicked, this, &frmEditToken::cmdSetAllFonts_Click);
-    connect(cmdIndex, &QPushButton::clicked, this, &frmEditToken::cmdIndex_Click);
+    connect(cmdHelp, &QPushButton::clicked, this, &frmEditToken::cmdHelp_Click);
     connect(cmdOK, &QPushButton::clicked, this, &frmEditToken::cmdOK_Click);
     connect(cmdCancel, &QPushButton::clicked, this, &frmEditToken::cmdCancel_Click);
 }

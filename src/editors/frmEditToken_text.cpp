@@ -154,7 +154,7 @@ bool frmEditToken::eventFilter(QObject* watched, QEvent* event) {
 
 void frmEditToken::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_F1) {
-        cmdIndex_Click();
+        cmdHelp_Click();
     } else if (!TakesKey(*event)) {
         QDialog::keyPressEvent(event);
     }

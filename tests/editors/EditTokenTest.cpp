@@ -346,7 +346,7 @@ TEST_F(EditTokenTest, HelpTellsHowToType) {
         "To insert text, simply click in the middle of the token and start typing. \r\n\r\nTo edit the text, use the "
         "mouse to select text or set the insert point and again, start typing. ");
     Edit([&] {
-        Click("cmdIndex");
+        Click("cmdHelp");
         Press(Qt::Key_F1);
         EXPECT_EQ(desktop.Texts(), (QStringList{help, help}));
     });
@@ -453,6 +453,8 @@ TEST_F(EditTokenTest, ControlsCarryTheirTipsAndCaptions) {
             EXPECT_EQ(Caption(row.control), QString::fromLatin1(row.caption));
             EXPECT_TRUE(Find<QWidget>(row.control)->toolTip().contains(QString::fromLatin1(row.tip))) << row.control;
         }
+        EXPECT_EQ(Find<QWidget>("cmdIndex")->property("Tag").toInt(), kToken);
+        EXPECT_TRUE(Find<QWidget>("cmdIndex")->isHidden());
         EXPECT_TRUE(Find<QWidget>("txtToken")->isHidden());
         EXPECT_TRUE(
             Find<QWidget>("txtToken")->toolTip().contains(QStringLiteral("Enter or edit text for the token here")));
