@@ -43,11 +43,13 @@ protected:
     // Opens a token by a click and does something in its editor.
     void EditToken(int token, const std::function<void(QWidget&)>& doIt) {
         ModalSteps steps;
-        steps.In("frmEditToken", [this, doIt](QWidget& editor) {
+        steps.In("frmEditToken", [doIt](QWidget& editor) {
             doIt(editor);
-            CloseEditor(editor);
+            editor.hide();
         });
         QTest::mouseClick(&Picture(token), Qt::LeftButton);
+        // Without a screen nobody gives the gallery its focus back.
+        QApplication::setActiveWindow(&gallery);
     }
     static void TypeBehindText(QWidget& editor, const QString& text) {
         QTest::mouseClick(&::Find<PictureBox>(editor, "picDest"), Qt::LeftButton, {}, {250, 150});
@@ -55,10 +57,6 @@ protected:
     }
     /// The whole window's, in twips.
     QSize WindowSize() const { return gallery.frameGeometry().size() * Screen::kTwipsPerPixel; }
-    void CloseEditor(QWidget& editor) {
-        editor.hide();
-        QApplication::setActiveWindow(&gallery);
-    }
 
     frmShowTokens gallery;
 };
@@ -193,9 +191,10 @@ TEST_F(ShowTokensTest, TheKeyboardFramesATokenAndOpensIt) {
             steps.In("frmEditToken", [&](QWidget& editor) {
                 EXPECT_EQ(static_cast<frmEditToken&>(editor).Token().Index, 4);
                 ++opened;
-                CloseEditor(editor);
+                editor.hide();
             });
             QTest::keyClick(&Picture(4), key);
+            QApplication::setActiveWindow(&gallery);
         }
         EXPECT_EQ(opened, 2);
         Press(Qt::Key_Left);
