@@ -140,6 +140,9 @@ public:
     QString GetThumbnail(bool bGrayOnly);
     /// Starts decoding on another processor where GetThumbnail would have to.
     void PrepareThumbnail() const;
+    /// Starts decoding on other processors what PaintPictureZoomed will show in a box of so many pixels of a
+    /// printer.
+    void PrepareForPaper(Surface& oPrinter, double side) const;
 
 private:
     bool HasKnownKind() const;

@@ -102,6 +102,13 @@ void C_Image::PrepareThumbnail() const try {
     ErrTail("C_Image!", "PrepareThumbnail");
 }
 
+void C_Image::PrepareForPaper(Surface& oPrinter, double side) const try {
+    if (m_sFullPath.isEmpty() || IsWMF()) return;
+    PrefetchPicture(m_sFullPath, LongerSideWanted(oPrinter.PicturePixels(side)));
+} catch (...) {
+    ErrTail("C_Image!", "PrepareForPaper", oPrinter, side);
+}
+
 void C_Image::DrawBitmapToScreen(Surface& picDest, double x, double y, double w, double h) try {
     if (m_sFullPath.isEmpty()) return;
     const QString sThumb = GetThumbnail(false);

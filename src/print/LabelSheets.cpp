@@ -196,6 +196,8 @@ namespace {
 // Which of g_dblLabelSizes is what, in inches.
 constexpr int kSpaceWidth = 1;
 constexpr int kSpaceHeight = 2;
+constexpr int kStickerHeight = 6;
+constexpr int kCornerSide = 7;
 
 constexpr int kRows = 2;
 constexpr int kColumns = 6;
@@ -241,6 +243,20 @@ constexpr CornerPiece kCornerPieces[] = {
     {2.55, 5.85, 7.5F, 7.0F, "'Lose A Turn' Board Corner", 800},
     {5.075, 5.85, 7.5F, 7.5F, "'Free Space' Board Corner", 900},
 };
+
+// Other processors decode the photographs of the sheet while this one draws. A sticker's picture is half as high
+// as the sticker.
+void PreparePictures(SheetJob& job, clsRenderDestination& sheet, int iSide, bool bCorners) {
+    const auto prepare = [&](const C_Image& image, int labelSize) {
+        image.PrepareForPaper(job.printer, basTAVL::g_dblLabelSizes(labelSize) / 2 * sheet.DPI());
+    };
+    for (int iPlace = 0; iPlace < kRows * kColumns; ++iPlace) {
+        const int iSpace = GetSpaceFromArrayCoordinates(iSide, iPlace / kColumns, iPlace % kColumns);
+        prepare(basTAVL::g_oSpaces(iSpace).Image, kStickerHeight);
+    }
+    for (size_t iCorner = 0; bCorners && iCorner < std::size(kCornerPieces); ++iCorner)
+        prepare(basTAVL::g_oCorners(int(iCorner)).Image, kCornerSide);
+}
 
 bool PlaceSpace(clsRenderDestination& sheet, int iSide, int iRow, int iCol) {
     const double dblWidth = basTAVL::g_dblLabelSizes(kSpaceWidth);
@@ -297,6 +313,7 @@ bool PlaceCorners(SheetJob& job, clsRenderDestination& sheet) {
 bool StickerSpaceSheet(SheetJob& job, int iSide, bool bCorners, bool bTitle) try {
     clsRenderDestination sheet;
     BeginSheet(job, sheet);
+    PreparePictures(job, sheet, iSide, bCorners);
     bool made = PlaceSpaces(job, sheet, iSide);
     if (bTitle && !PlaceTitles(job, sheet)) return false;
     if (bCorners) made = PlaceCorners(job, sheet) && made;
