@@ -33,8 +33,6 @@ bool PrintRulesSheet(SheetJob& job) try {
     job.printer.ForeColor = basTAVL::g_lPrintBlack();
     clsRenderDestination destination;
     destination.Init(job.printer, 1.0);
-    // The text routines print in whatever colour the sheet before has left.
-    job.printer.ForeColor = basTAVL::g_lPrintBlack();
     return destination.InstructionSheet(NamesOfGame());
 } catch (...) {
     ErrTail("frmTavlPrint!", "PrintRulesSheet");
