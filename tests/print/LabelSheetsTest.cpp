@@ -9,6 +9,7 @@
 #include "images/frmBMP.h"
 #include "platform/Files.h"
 #include "platform/LoadPicture.h"
+#include "platform/PaintImage.h"
 #include "platform/Printer.h"
 #include "support/BoardFixture.h"
 #include "support/PdfReader.h"
@@ -379,6 +380,23 @@ TEST_F(LabelSheetsTest, TurnedPhotosStandUpright) {
         EXPECT_TRUE(IsRed(page.ColorAt(1, 1.1, 6.0))) << orientation;
         EXPECT_TRUE(IsBlue(page.ColorAt(1, 1.1, 6.8))) << orientation;
     }
+}
+
+TEST_F(LabelSheetsTest, PhotosAreStoredAt300DotsAnInch) {
+    if (!PdfReader::IsInstalled()) GTEST_SKIP() << "poppler's tools are not installed";
+    const QString photo = Photo(1);
+    basTAVL::g_oSpaces(13).SetImagePath(photo);
+    basTAVL::g_oCorners(0).Image.Init(photo, QStringLiteral("Corner"), 0);
+    ASSERT_TRUE(PrintWest());
+    int photos = 0;
+    for (const PdfReader::StoredImage& image : reader.Images(1)) {
+        if (image.iWidth < 100) continue;
+        ++photos;
+        EXPECT_NEAR(image.dblDpiX, kPaperDotsPerInch, 3);
+        EXPECT_NEAR(image.dblDpiY, kPaperDotsPerInch, 3);
+        EXPECT_EQ(image.sEncoding, QStringLiteral("jpeg"));
+    }
+    EXPECT_EQ(photos, 2);
 }
 
 TEST_F(LabelSheetsTest, PictureOfATokenLeavesNothingOutsideItsRing) {
