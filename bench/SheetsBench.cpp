@@ -23,7 +23,7 @@ const BenchPhotos& Photos() {
 bool Print(PdfPrinter& printer, const PrintSheet& sheet) {
     printer.SetOrientation(sheet.orientation);
     SheetJob job{printer};
-    if (!sheet.print || !sheet.print(job)) return false;
+    if (!sheet.print(job)) return false;
     printer.EndDoc();
     return true;
 }

@@ -111,16 +111,6 @@ int PrintCommand::Run(const QStringList& words) {
     return kDone;
 }
 
-bool PrintCommand::IsPartOfThisBuild(const QStringList& sheets) {
-    QStringList missing;
-    for (const QString& name : sheets) {
-        if (!FindPrintSheet(name)->print) missing.append(name);
-    }
-    if (missing.isEmpty()) return true;
-    Complain(QStringLiteral("not part of this build yet: ") + missing.join(QStringLiteral(", ")));
-    return false;
-}
-
 int PrintCommand::Carry(const PrintArguments& arguments) {
     for (const QString& output : {arguments.sOutput, arguments.sBoard}) {
         if (output.isEmpty() || !Console::IsSameFile(output, arguments.sGame)) continue;
@@ -159,7 +149,7 @@ int PrintCommand::PrintGame(const PrintArguments& arguments) {
     session.m_sGameName = Console::CompletePath(arguments.sGame);
     basPosit::PosSethDC(&session.MeasuringDevice());
     basPosit::PosInit();
-    if (!LoadGame(arguments.sGame) || !IsPartOfThisBuild(sheets)) return kFailed;
+    if (!LoadGame(arguments.sGame)) return kFailed;
     if (!arguments.sBoard.isEmpty() && !PaintBoard(arguments.sBoard, arguments.iBoardSize)) return kFailed;
     basPosit::PosSethDC(&session.MeasuringDevice());
     if (!arguments.sPieces.isEmpty() && !WritePieces(Console::CompletePath(arguments.sPieces))) return kFailed;
@@ -202,7 +192,10 @@ int PrintCommand::PrintSheetsOf(const PrintArguments& arguments, const QStringLi
         Progress(told, 0);
         printer.SetOrientation(sheet.orientation);
         SheetJob job{printer, [this, told](int iThousandths) { Progress(told, iThousandths); }};
-        if (!sheet.print(job)) return kFailed;
+        if (!sheet.print(job)) {
+            EndProgress();
+            return kFailed;
+        }
         printer.EndDoc();
     }
     EndProgress();

@@ -25,7 +25,6 @@ private:
     int Carry(const PrintArguments& arguments);
     int PrintGame(const PrintArguments& arguments);
     int PrintSheetsOf(const PrintArguments& arguments, const QStringList& sheets);
-    bool IsPartOfThisBuild(const QStringList& sheets);
     /// The board as a PNG file of so many pixels square.
     bool PaintBoard(const QString& sPath, int lSize);
     /// Every made picture into a folder, which is made if need be.

@@ -14,8 +14,8 @@ struct PrintSheet {
     const char* sTitle;
     const char* sStock;
     PageOrientation orientation;
-    /// Prints the page without ending the document; false when something is missing from it. Nothing where
-    /// this build can't print the sheet.
+    /// Prints the page without ending the document; false when something is missing from it, which has then
+    /// been told.
     bool (*print)(SheetJob& job);
 };
 
