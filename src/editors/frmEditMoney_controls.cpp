@@ -77,12 +77,15 @@ QLayout* frmEditMoney::BuildChoice() {
 QLayout* frmEditMoney::BuildTexts() {
     auto* const label = new QLabel(QStringLiteral("&Edit text here:"), this);
     auto* const boxes = new QHBoxLayout;
+    boxes->setSpacing(kGap);
     for (int i = 0; i < C_Money::kTexts; ++i) {
         auto* const box = new QPlainTextEdit(this);
         box->setObjectName(QStringLiteral("txtSpace_%1").arg(i));
         // Lines end where Enter was pressed, as they do on the note.
         box->setLineWrapMode(QPlainTextEdit::NoWrap);
         box->setTabChangesFocus(true);
+        // Each under its half of the note, however wide a box would like to be.
+        box->setFixedWidth((kNote.width() - boxes->spacing()) / C_Money::kTexts);
         box->setFixedHeight(HeightOfLines(*box, kLinesOfText));
         connect(box, &QPlainTextEdit::textChanged, this, &frmEditMoney::txtSpace_Change);
         boxes->addWidget(box);
