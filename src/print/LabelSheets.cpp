@@ -2,7 +2,6 @@
 #include "print/LabelSheets.h"
 
 #include "app/services/basErrLog.h"
-#include "board/basPositTables.h"
 #include "document/basTAVL.h"
 #include "images/frmBMP.h"
 #include "platform/Desktop.h"
@@ -11,11 +10,11 @@
 #include "print/clsRenderDestination.h"
 #include "print/MadePicture.h"
 #include "print/StickersUsingBMP.h"
+#include "print/TitlePictures.h"
 
 namespace {
 
-constexpr int kTitleRecord = 1;
-constexpr int kSubtitleRecord = 2;
+using namespace TitlePictures;
 
 constexpr int kDone = -1;
 constexpr int kUnchanged = 0;
@@ -31,52 +30,10 @@ void BeginSheet(SheetJob& job, clsRenderDestination& sheet) {
     job.printer.FontItalic = false;
 }
 
-// ---- Pictures of the titles, several of which are placed more than once.
-
-enum TextPicture { kTitle, kSubtitle, kSubtitleRed, kSubtitleLines, kTextPictures };
-
-struct TextPictureLayout {
-    const char* sFile;
-    double dblWidth; ///< 0: as wide as the text comes out.
-    double dblHeight;
-    const char* sFamily;
-    bool bBoldItalic;
-    bool bOnRed;
-    double dblLineHeight; ///< 0: a single line that fills the picture.
-};
-
-constexpr TextPictureLayout kTextPictureLayouts[kTextPictures] = {
-    {"BmpTitle.temp", 0, 1.436, "Arial", false, false, 0},
-    {"BmpSubtitle.temp", 7.375, 0.49, "Times New Roman", true, false, 0},
-    {"BmpSubtitleRed.temp", 7.375, 0.49, "Times New Roman", true, true, 0},
-    {"BmpSubtitleML.temp", 1.75, 0.571, "Times New Roman", true, true, 0.2},
-};
-
-QString FileOf(TextPicture picture) {
-    return MadePicture::PathOf(QString::fromLatin1(kTextPictureLayouts[picture].sFile));
-}
-
-bool MakeTextPicture(TextPicture picture) {
-    const TextPictureLayout& layout = kTextPictureLayouts[picture];
-    const QString family = QString::fromLatin1(layout.sFamily);
-    const bool style = layout.bBoldItalic;
-    const Color fore = basTAVL::g_lPrintBlack();
-    const Color back = layout.bOnRed ? basTAVL::g_lPrintRed() : basTAVL::g_lPrintBack();
-    const basPosit::CenterTextRecord& record =
-        basPosit::m_CenterText(picture == kTitle ? kTitleRecord : kSubtitleRecord);
-    if (layout.dblLineHeight > 0) {
-        return frmBMP::Instance().GenerateTextImage(FileOf(picture), layout.dblWidth, layout.dblHeight,
-                                                    record.Lines().join(QStringLiteral("\r\n")), family, style, style,
-                                                    layout.dblLineHeight, fore, back);
-    }
-    return frmBMP::Instance().GenerateSingleLineImage(FileOf(picture), layout.dblWidth, layout.dblHeight, record.sText,
-                                                      family, style, style, fore, back);
-}
-
 // ---- The box and the tokens.
 
 struct BoxPicture {
-    TextPicture picture;
+    Title picture;
     const char* sFailure;
     int iProgressAfter;
 };
@@ -91,7 +48,7 @@ constexpr BoxPicture kBoxPictures[] = {
 
 struct BoxPiece {
     float sngRow;
-    TextPicture picture;
+    Title picture;
     double dblX;
     double dblWidth;
     double dblHeight;
@@ -126,7 +83,7 @@ constexpr int kStickersPerToken = 2;
 
 bool MakeBoxPictures(SheetJob& job) {
     for (const BoxPicture& made : kBoxPictures) {
-        if (!MakeTextPicture(made.picture)) return Tell(made.sFailure);
+        if (!Make(made.picture)) return Tell(made.sFailure);
         job.Progress(made.iProgressAfter);
     }
     return true;
@@ -212,7 +169,7 @@ constexpr int kProgressPerSpace = 50;
 
 /// A title picture of the board and the caption under it.
 struct TitlePiece {
-    TextPicture picture;
+    Title picture;
     double dblX;
     double dblY;
     double dblWidth;
@@ -283,8 +240,8 @@ bool PlaceSpaces(SheetJob& job, clsRenderDestination& sheet, int iSide) {
 
 bool PlaceTitles(SheetJob& job, clsRenderDestination& sheet) {
     job.Progress(800);
-    if (!MakeTextPicture(kTitle)) return Tell("Cannot create Title Image");
-    if (!MakeTextPicture(kSubtitle)) return Tell("Cannot Subtitle Image");
+    if (!Make(kTitle)) return Tell("Cannot create Title Image");
+    if (!Make(kSubtitle)) return Tell("Cannot Subtitle Image");
     for (const TitlePiece& piece : kTitlePieces) {
         job.Progress(piece.iProgressBefore);
         sheet.OutputFromBMP(FileOf(piece.picture), piece.dblX, piece.dblY, piece.dblWidth, piece.dblHeight);

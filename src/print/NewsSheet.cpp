@@ -32,15 +32,6 @@ constexpr InchBox kText{0.125, 0.52, 2.75, 1.0};
 // Inches of nominal size for each point that the user chose.
 constexpr double kInchesPerPoint = 0.0118;
 
-bool MakeHead(const QString& sFile, int iDeck, const C_FontInfo& font) {
-    Color ink = basTAVL::g_lPrintBlack();
-    Color ground = Color::White();
-    if (iDeck == kBadNews) std::swap(ink, ground);
-    const QString& title = basPosit::m_CenterText(basTAVL::NewsTitleRecord(iDeck)).sText;
-    return frmBMP::Instance().GenerateSingleLineImage(sFile, kFrame.width, kFrame.height, title, font.Family, font.Bold,
-                                                      font.Italic, ink, ground);
-}
-
 void DrawFrame(Surface& surface, const PiecePlace& place, int iDeck) {
     const QRect box = place.Box(kFrame);
     const auto draw = [&](LineForm form) {
@@ -88,8 +79,8 @@ bool NewsRender(clsRenderDestination& destination, int lX, int lY, int iDeck, in
                            basTAVL::g_lNewsColor(iDeck));
     surface.DrawWidth = place.Length(kPenInches);
 
-    const QString file = MadePicture::PathOf(QStringLiteral("TempNewsBMP%1.temp").arg(iDeck));
-    if (!MakeHead(file, iDeck, news.FontHead)) {
+    QString file;
+    if (!NewsHeadBitmap(iDeck, news.FontHead, file)) {
         MsgBox(iDeck == kBadNews ? QStringLiteral("Cannot create bad news card bitmap.")
                                  : QStringLiteral("Cannot create good news card bitmap."));
         return false;
@@ -101,4 +92,16 @@ bool NewsRender(clsRenderDestination& destination, int lX, int lY, int iDeck, in
     return true;
 } catch (...) {
     ErrTail("frmTavlPrint!", "NewsRender", lX, lY, iDeck, iCard);
+}
+
+bool NewsHeadBitmap(int iDeck, const C_FontInfo& oFont, QString& sPath) try {
+    sPath = MadePicture::PathOf(QStringLiteral("TempNewsBMP%1.temp").arg(iDeck));
+    Color ink = basTAVL::g_lPrintBlack();
+    Color ground = Color::White();
+    if (iDeck == kBadNews) std::swap(ink, ground);
+    const QString& title = basPosit::m_CenterText(basTAVL::NewsTitleRecord(iDeck)).sText;
+    return frmBMP::Instance().GenerateSingleLineImage(sPath, kFrame.width, kFrame.height, title, oFont.Family,
+                                                      oFont.Bold, oFont.Italic, ink, ground);
+} catch (...) {
+    ErrTail("frmTavlPrint!", "NewsHeadBitmap", iDeck);
 }

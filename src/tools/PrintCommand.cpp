@@ -170,10 +170,9 @@ bool PrintCommand::WritePieces(const QString& sFolder) {
         return false;
     }
     const QList<PrintPiece> pieces = PrintPieces();
-    const QString work = basCommon::JoinPath(basCommon::GetMyGamesDirectory(), QStringLiteral("Piece.bmp"));
     for (qsizetype i = 0; i < pieces.size(); ++i) {
         Progress(pieces[i].sName, int(i * 1000 / pieces.size()));
-        if (WritePiece(pieces[i], work, sFolder, error)) continue;
+        if (WritePiece(pieces[i], sFolder, error)) continue;
         Complain(error);
         return false;
     }

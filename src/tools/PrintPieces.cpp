@@ -3,133 +3,116 @@
 
 #include "app/services/basPath.h"
 #include "board/basPositTables.h"
-#include "board/basTAVL_news.h"
 #include "document/basTAVL.h"
 #include "images/frmBMP.h"
-#include "platform/Files.h"
 #include "platform/LoadPicture.h"
 #include "platform/SavePicture.h"
+#include "print/DeedCards.h"
+#include "print/MadePicture.h"
+#include "print/NewsSheet.h"
+#include "print/TitlePictures.h"
 
 namespace {
 
 constexpr int kTitleRecord = 1;
-constexpr int kSubtitleRecord = 2;
+// A title stretched to the box of the board's title label, in inches.
+constexpr double kStretchedWidth = 5.6;
+constexpr double kStretchedHeight = 1.054;
 
-/// A text of the kit in the size, font and colours that its sheet asks for. Inches.
-struct TextPiece {
+using Generate = bool (frmBMP::*)(const QString& sFile, int iPiece);
+
+/// Pieces with a number, each written to a file of its name.
+struct Series {
     const char* sName;
-    int iRecord;
-    double dblWidth;
-    double dblHeight;
-    const char* sFamily;
-    bool bBoldItalic;
-    Color& (*backColor)();
-};
-
-constexpr TextPiece kLines[] = {
-    {"BmpTitle", kTitleRecord, 0, 1.436, "Arial", false, basTAVL::g_lPrintBack},
-    {"BmpSubtitle", kSubtitleRecord, 7.375, 0.49, "Times New Roman", true, basTAVL::g_lPrintBack},
-    {"BmpSubtitleRed", kSubtitleRecord, 7.375, 0.49, "Times New Roman", true, basTAVL::g_lPrintRed},
-};
-constexpr TextPiece kStretched = {"BmpTitleStretched", kTitleRecord, 6.2, 1.436, "Arial", false, basTAVL::g_lPrintBack};
-constexpr TextPiece kBlock = {"BmpSubtitleML",     kSubtitleRecord, 1.75, 0.571, "Times New Roman", true,
-                              basTAVL::g_lPrintRed};
-constexpr double kBlockLine = 0.2;
-
-constexpr double kBandWidth = 2.5;
-constexpr double kBandHeight = 0.125;
-constexpr double kBandLine = 0.1;
-constexpr double kHeadWidth = 2.875;
-constexpr double kHeadHeight = 0.375;
-
-QString Text(const TextPiece& piece) { return basPosit::m_CenterText(piece.iRecord).sText; }
-QString Family(const TextPiece& piece) { return QString::fromLatin1(piece.sFamily); }
-
-bool MakeLine(const TextPiece& piece, const QString& sFile) {
-    return frmBMP::Instance().GenerateSingleLineImage(sFile, piece.dblWidth, piece.dblHeight, Text(piece),
-                                                      Family(piece), piece.bBoldItalic, piece.bBoldItalic,
-                                                      basTAVL::g_lPrintBlack(), piece.backColor());
-}
-
-bool MakeStretched(const QString& sFile) {
-    return frmBMP::Instance().GenerateStretchedTextImage(
-        sFile, kStretched.dblWidth, kStretched.dblHeight, Text(kStretched), Family(kStretched), kStretched.bBoldItalic,
-        kStretched.bBoldItalic, basTAVL::g_lPrintBlack(), kStretched.backColor(), true);
-}
-
-bool MakeBlock(const QString& sFile) {
-    const QString lines = basPosit::m_CenterText(kBlock.iRecord).Lines().join(QStringLiteral("\r\n"));
-    return frmBMP::Instance().GenerateTextImage(sFile, kBlock.dblWidth, kBlock.dblHeight, lines, Family(kBlock),
-                                                kBlock.bBoldItalic, kBlock.bBoldItalic, kBlockLine,
-                                                basTAVL::g_lPrintBlack(), kBlock.backColor());
-}
-
-bool MakeBand(int side, const QString& sFile) {
-    const basPosit::SideRecord& record = basPosit::m_SideRec(side);
-    return frmBMP::Instance().GenerateTextImage(sFile, kBandWidth, kBandHeight, record.sText, QStringLiteral("Arial"),
-                                                true, false, kBandLine, record.lText, record.lFill);
-}
-
-// Good News in black on white, Bad News the other way round.
-bool MakeHead(int deck, const QString& sFile) {
-    const C_FontInfo& font = basTAVL::g_oNews(deck, 0).FontHead;
-    const Color ink = basTAVL::g_lPrintBlack();
-    return frmBMP::Instance().GenerateSingleLineImage(
-        sFile, kHeadWidth, kHeadHeight, basPosit::m_CenterText(basTAVL::NewsTitleRecord(deck)).sText, font.Family,
-        font.Bold, font.Italic, deck == 0 ? ink : Color::White(), deck == 0 ? Color::White() : ink);
-}
-
-using MakeNumbered = bool (*)(int number, const QString& sFile);
-
-struct NumberedPiece {
-    const char* sName; ///< %1 stands for the number.
     int iCount;
-    MakeNumbered make;
+    Generate generate;
 };
 
-constexpr NumberedPiece kNumbered[] = {
-    {"BmpOneFullSpace%1", basTAVL::kSpaces,
-     [](int i, const QString& sFile) { return frmBMP::Instance().GenerateSpaceFullImage(sFile, i); }},
-    {"SpaceImage%1", basTAVL::kSpaces,
-     [](int i, const QString& sFile) { return frmBMP::Instance().GenerateSpaceStickerImage(sFile, i); }},
-    {"CornerImage%1", basTAVL::kCorners,
-     [](int i, const QString& sFile) { return frmBMP::Instance().GenerateCornerImage(sFile, i); }},
-    {"MoneyImage%1", basTAVL::kMoney,
-     [](int i, const QString& sFile) { return frmBMP::Instance().GenerateMoneyImage(sFile, i); }},
-    {"TokenBMP%1", basTAVL::kTokens,
-     [](int i, const QString& sFile) { return frmBMP::Instance().GenerateTokenImage(sFile, i); }},
-    {"Side%1Image", basPosit::kSidesOfBoard, MakeBand},
-    {"TempNewsBMP%1", basTAVL::kNewsSets, MakeHead},
+constexpr Series kSeries[] = {
+    {"BmpOneFullSpace", basTAVL::kSpaces, &frmBMP::GenerateSpaceFullImage},
+    {"SpaceImage", basTAVL::kSpaces, &frmBMP::GenerateSpaceStickerImage},
+    {"CornerImage", basTAVL::kCorners, &frmBMP::GenerateCornerImage},
+    {"MoneyImage", basTAVL::kMoney, &frmBMP::GenerateMoneyImage},
+    {"TokenBMP", basTAVL::kTokens, &frmBMP::GenerateTokenImage},
 };
+
+PrintPiece Numbered(const Series& series, int i) {
+    const QString name = QString::fromLatin1(series.sName) + QString::number(i);
+    return {name, [name, i, generate = series.generate](QString& sFile) {
+                sFile = MadePicture::PathOf(name + QStringLiteral(".bmp"));
+                return (frmBMP::Instance().*generate)(sFile, i);
+            }};
+}
+
+bool MakeStretchedTitle(QString& sFile) {
+    sFile = MadePicture::PathOf(QStringLiteral("BmpTitleStretched.bmp"));
+    return frmBMP::Instance().GenerateStretchedTextImage(
+        sFile, kStretchedWidth, kStretchedHeight, basPosit::m_CenterText(kTitleRecord).sText, QStringLiteral("Arial"),
+        false, false, basTAVL::g_lPrintBlack(), basTAVL::g_lPrintBack(), true);
+}
+
+// The name that a text's file has while its sheet is printed.
+struct TitlePiece {
+    const char* sName;
+    TitlePictures::Title title;
+};
+
+constexpr TitlePiece kTitles[] = {
+    {"BmpTitle", TitlePictures::kTitle},
+    {"BmpSubtitle", TitlePictures::kSubtitle},
+    {"BmpSubtitleRed", TitlePictures::kSubtitleRed},
+    {"BmpSubtitleML", TitlePictures::kSubtitleLines},
+};
+
+void AddTitles(QList<PrintPiece>& pieces) {
+    for (const TitlePiece& piece : kTitles)
+        pieces.append({QString::fromLatin1(piece.sName), [title = piece.title](QString& sFile) {
+                           sFile = TitlePictures::FileOf(title);
+                           return TitlePictures::Make(title);
+                       }});
+    pieces.append({QStringLiteral("BmpTitleStretched"), MakeStretchedTitle});
+}
+
+bool IsProperty(int iSpace) { return basTAVL::g_oSpaces(iSpace).SpaceType.startsWith(u'P'); }
+
+void AddBandsAndHeads(QList<PrintPiece>& pieces) {
+    for (int i = 0; i < basPosit::kSidesOfBoard; ++i)
+        pieces.append(
+            {QStringLiteral("Side%1Image").arg(i), [i](QString& sFile) { return DeedSideColorBitmap(i, sFile); }});
+    for (int i = 0; i < basTAVL::kSpaces; ++i) {
+        if (IsProperty(i))
+            pieces.append(
+                {QStringLiteral("Rent%1Image").arg(i), [i](QString& sFile) { return DeedGroupColorBitmap(i, sFile); }});
+    }
+    for (int i = 0; i < basTAVL::kNewsSets; ++i)
+        pieces.append({QStringLiteral("TempNewsBMP%1").arg(i),
+                       [i](QString& sFile) { return NewsHeadBitmap(i, basTAVL::g_oNews(i, 0).FontHead, sFile); }});
+}
 
 } // namespace
 
 QList<PrintPiece> PrintPieces() {
     QList<PrintPiece> pieces;
-    for (const TextPiece& line : kLines)
-        pieces.append(
-            {QString::fromLatin1(line.sName), [&line](const QString& sFile) { return MakeLine(line, sFile); }});
-    pieces.append({QString::fromLatin1(kStretched.sName), MakeStretched});
-    pieces.append({QString::fromLatin1(kBlock.sName), MakeBlock});
-    for (const NumberedPiece& piece : kNumbered) {
-        for (int i = 0; i < piece.iCount; ++i)
-            pieces.append({QString::fromLatin1(piece.sName).arg(i),
-                           [&piece, i](const QString& sFile) { return piece.make(i, sFile); }});
+    AddTitles(pieces);
+    for (const Series& series : kSeries) {
+        for (int i = 0; i < series.iCount; ++i)
+            pieces.append(Numbered(series, i));
     }
+    AddBandsAndHeads(pieces);
     return pieces;
 }
 
-bool WritePiece(const PrintPiece& piece, const QString& sWork, const QString& sFolder, QString& sError) {
-    if (!piece.make(sWork)) {
+bool WritePiece(const PrintPiece& piece, const QString& sFolder, QString& sError) {
+    QString made;
+    if (!piece.make(made)) {
         sError = QStringLiteral("the picture '%1' could not be made").arg(piece.sName);
         return false;
     }
-    const Picture picture = LoadPicture(sWork, sError);
+    const Picture picture = LoadPicture(made, sError);
     if (picture.IsNull()) return false;
+    MadePicture::Delete(made);
     const QString output = basCommon::JoinPath(sFolder, piece.sName + QStringLiteral(".png"));
-    const bool written = SavePicture(picture, output, sError);
-    if (!written) sError = QStringLiteral("'%1' could not be written: %2").arg(output, sError);
-    QString ignored; // it goes with the folder it lies in
-    Files::Remove(sWork, ignored);
-    return written;
+    if (SavePicture(picture, output, sError)) return true;
+    sError = QStringLiteral("'%1' could not be written: %2").arg(output, sError);
+    return false;
 }

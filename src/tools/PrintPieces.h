@@ -10,13 +10,12 @@
 /// name serves several pieces, the piece's number follows it.
 struct PrintPiece {
     QString sName;
-    /// Writes the picture as a bitmap file; false when it can't be made, which has then been told.
-    std::function<bool(const QString& sFile)> make;
+    /// Writes the picture as a bitmap file and tells which; false when it can't be made.
+    std::function<bool(QString& sFile)> make;
 };
 
 /// All made pictures of the game in memory.
 QList<PrintPiece> PrintPieces();
 
-/// Makes a picture and puts it into a folder as a PNG file. sWork is the path of a file that is written on the
-/// way and removed. False and a sentence in sError on failure.
-bool WritePiece(const PrintPiece& piece, const QString& sWork, const QString& sFolder, QString& sError);
+/// Makes a picture and puts it into a folder as a PNG file. False and a sentence in sError on failure.
+bool WritePiece(const PrintPiece& piece, const QString& sFolder, QString& sError);

@@ -78,13 +78,14 @@ TEST_F(PrintCommandTest, EveryMadePictureIsWrittenUnderItsName) {
     const QString pieces = PathOf(QStringLiteral("out/pieces"));
     EXPECT_EQ(Run({game, QStringLiteral("--pieces"), pieces}), 0) << errors.join(u'\n').toStdString();
     const QStringList names = QDir(pieces).entryList(QDir::Files | QDir::Hidden);
-    EXPECT_EQ(names.size(), 28 + 28 + 4 + 4 + 6 + 3 + 1 + 1 + 4 + 2);
+    EXPECT_EQ(names.size(), 28 + 28 + 4 + 4 + 6 + 5 + 4 + 22 + 2);
     const struct {
         const char* name;
         QSize size;
     } rows[] = {{"BmpOneFullSpace0", {475, 810}}, {"BmpOneFullSpace27", {475, 810}}, {"SpaceImage27", {392, 612}},
                 {"CornerImage3", {612, 612}},     {"MoneyImage3", {720, 384}},       {"TokenBMP5", {266, 266}},
-                {"BmpSubtitle", {2212, 147}},     {"BmpSubtitleML", {504, 164}},     {"Side3Image", {720, 36}}};
+                {"BmpSubtitle", {2212, 147}},     {"BmpSubtitleML", {504, 164}},     {"Side3Image", {720, 36}},
+                {"Rent0Image", {720, 144}},       {"TempNewsBMP1", {859, 112}}};
     for (const auto& row : rows)
         EXPECT_EQ(QImage(pieces + u'/' + QString::fromLatin1(row.name) + QStringLiteral(".png")).size(), row.size)
             << row.name;
