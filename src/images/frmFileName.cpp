@@ -4,6 +4,7 @@
 #include "app/services/basCommon.h"
 #include "app/services/basErrLog.h"
 #include "platform/Desktop.h"
+#include "platform/ElidedLabel.h"
 
 #include <QButtonGroup>
 #include <QFocusEvent>
@@ -45,9 +46,8 @@ void frmFileName::BuildControls() {
     explanation->setTextFormat(Qt::PlainText);
     explanation->setWordWrap(true);
     explanation->setMinimumWidth(kTextWidth);
-    lblCurrentName = new QLabel(this);
+    lblCurrentName = new ElidedLabel(this);
     lblCurrentName->setObjectName(QStringLiteral("lblCurrentName"));
-    lblCurrentName->setTextFormat(Qt::PlainText);
     txtNewName = new QLineEdit(this);
     txtNewName->setObjectName(QStringLiteral("txtNewName"));
     txtNewName->installEventFilter(this);
@@ -79,7 +79,7 @@ QString frmFileName::ShowForm(const QString& sFile) try {
     m_sExtension.clear();
     m_sResult.clear();
     basCommon::FileNameFactor(sFile, drive, dir, base, m_sExtension);
-    lblCurrentName->setText(m_sExtension.isEmpty() ? base : base + u'.' + m_sExtension);
+    lblCurrentName->SetWholeText(m_sExtension.isEmpty() ? base : base + u'.' + m_sExtension);
     txtNewName->clear();
     txtNewName->setFocus();
     exec();

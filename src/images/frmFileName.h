@@ -6,7 +6,7 @@
 
 class QAbstractButton;
 class QButtonGroup;
-class QLabel;
+class ElidedLabel;
 class QLineEdit;
 
 /// Asks what to do about a picture whose name is taken in the My Games directory: leave it, overwrite, or
@@ -36,7 +36,7 @@ private:
     /// False after telling what is wrong with the new name; the focus is then back on it.
     bool txtNewName_LostFocus();
 
-    QLabel* lblCurrentName = nullptr;
+    ElidedLabel* lblCurrentName = nullptr;
     QLineEdit* txtNewName = nullptr;
     QButtonGroup* cmdGo = nullptr;
     QString m_sFile;
