@@ -9,6 +9,7 @@
 #include <QInputMethodEvent>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QSlider>
 
 namespace {
 
@@ -329,6 +330,40 @@ TEST_F(EditSpaceTest, TheFontDialogCapsTheSizeAndCancelDropsIt) {
     EXPECT_EQ(Space().Font.Family, QStringLiteral("Old Family Font")) << "kept by name although nobody has it";
     EXPECT_TRUE(Space().Font.Italic);
     EXPECT_FLOAT_EQ(Space().TextSize(), 0.009F);
+}
+
+TEST_F(EditSpaceTest, CancelGivesBackNameFontPictureAndCrop) {
+    GivePicture(MakePicture(QStringLiteral("quarters.bmp")));
+    MakePicture(QStringLiteral("other.bmp"));
+    Edit([] {});
+    C_Space before;
+    before.LoadFromObject(Space());
+    desktop.onDialog = [](CommonDialog& dialog) {
+        dialog.sFontName = QStringLiteral("Times New Roman");
+        dialog.bFontBold = true;
+        dialog.fFontSize = 9;
+        return true;
+    };
+    desktop.answers = {vbNo};
+    EXPECT_FALSE(Edit([&] {
+        ClickBehindText();
+        Type(QStringLiteral("s\nNo 7"));
+        Click("cmdChangeFont");
+        InBrowser([&](frmBrowse& browser) { Choose(browser, QStringLiteral("other.bmp")); });
+        Click("cmdBitmap");
+        EXPECT_TRUE(Find<QLabel>("txtBitmapPath")->text().endsWith(QStringLiteral("other.bmp")));
+        QTimer::singleShot(0, &form, [] {
+            auto* position = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            ASSERT_EQ(position->objectName(), QStringLiteral("frmImagePosition"));
+            position->findChild<QSlider*>(QStringLiteral("sldZoom"))->setValue(60);
+            QTest::mouseClick(position->findChild<QPushButton*>(QStringLiteral("cmdOK")), Qt::LeftButton);
+        });
+        Click("cmdCropImage");
+        Click("cmdCancel");
+        EXPECT_FALSE(form.isVisible());
+    }));
+    EXPECT_EQ(browsersSeen, 1);
+    EXPECT_FALSE(Space().IsDifferentFrom(before));
 }
 
 TEST_F(EditSpaceTest, AFontDialogThatIsCancelledChangesNothing) {
