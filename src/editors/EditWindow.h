@@ -22,6 +22,7 @@ class QGroupBox;
 class QLabel;
 class QPlainTextEdit;
 class QPushButton;
+class TipLabel;
 
 /// What the editor of a space and that of a corner have in common: a likeness to type on and click on, and
 /// the buttons beside it. Works on the likeness's private copy; what was done reaches the game only when the
@@ -121,7 +122,7 @@ private:
     PictureHolder picScratch;
     PictureBox* picDest = nullptr;
     HoldFocusBox* txtHoldFocus = nullptr;
-    QLabel* txtToolTip = nullptr;
+    TipLabel* txtToolTip = nullptr;
     QLabel* txtlegend = nullptr;
     ImageGroup* fraBitmap = nullptr;
     ElidedLabel* txtBitmapPath = nullptr;

@@ -3,6 +3,7 @@
 
 #include "editors/HoldFocusBox.h"
 #include "editors/ImageGroup.h"
+#include "editors/TipLabel.h"
 #include "images/C_Image.h"
 #include "platform/ElidedLabel.h"
 #include "platform/PictureBox.h"
@@ -13,13 +14,11 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QToolTip>
 #include <QVBoxLayout>
 
 namespace {
 
 constexpr int kButtonWidth = 170;
-constexpr int kTipMargin = 4;
 
 } // namespace
 
@@ -121,17 +120,7 @@ void EditWindow::BuildHidden() {
     txtSpace->setObjectName(QStringLiteral("txtSpace"));
     txtSpace->setFocusPolicy(Qt::NoFocus);
     txtSpace->hide();
-    txtToolTip = new QLabel(this);
-    txtToolTip->setObjectName(QStringLiteral("txtToolTip"));
-    txtToolTip->setTextFormat(Qt::PlainText);
-    txtToolTip->setAttribute(Qt::WA_TransparentForMouseEvents);
-    txtToolTip->setFrameStyle(QFrame::Box | QFrame::Plain);
-    txtToolTip->setMargin(kTipMargin);
-    txtToolTip->setPalette(QToolTip::palette());
-    txtToolTip->setBackgroundRole(QPalette::ToolTipBase);
-    txtToolTip->setForegroundRole(QPalette::ToolTipText);
-    txtToolTip->setAutoFillBackground(true);
-    txtToolTip->hide();
+    txtToolTip = new TipLabel("txtToolTip", this);
 }
 
 void EditWindow::Connect() {

@@ -3,19 +3,18 @@
 
 #include "app/services/basErrLog.h"
 #include "editors/HoldFocusBox.h"
+#include "editors/TipLabel.h"
 #include "platform/ElidedLabel.h"
 #include "platform/PictureBox.h"
 #include "platform/Screen.h"
 
 #include <QCheckBox>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QPushButton>
 
 namespace {
 
 constexpr int kBelowPointer = 20;
-constexpr int kBelowControl = 4;
 
 QString TwoLines(const char* first, const char* second) {
     return QString::fromLatin1(first) + QStringLiteral("\r\n") + QString::fromLatin1(second);
@@ -100,29 +99,9 @@ QString EditWindow::TipOf(const QObject* control) const {
     return {};
 }
 
-void EditWindow::SetToolTip(const QString& sText, QPoint at) {
-    if (sText.isEmpty()) {
-        txtToolTip->hide();
-        return;
-    }
-    QString text = sText;
-    txtToolTip->setText(text.remove(u'\r'));
-    txtToolTip->adjustSize();
-    const QSize free = size() - txtToolTip->size();
-    txtToolTip->move(qBound(0, at.x(), std::max(free.width(), 0)), qBound(0, at.y(), std::max(free.height(), 0)));
-    txtToolTip->show();
-    txtToolTip->raise();
-}
+void EditWindow::SetToolTip(const QString& sText, QPoint at) { txtToolTip->ShowAt(sText, at); }
 
-void EditWindow::Control_MouseMove(const QWidget& control) {
-    const QString tip = TipOf(&control);
-    const QPoint corner = control.mapTo(this, QPoint(0, control.height() + kBelowControl));
-    const QSize wanted = txtToolTip->sizeHint();
-    // Where there is no room below, it stands above, never under the pointer.
-    const bool below = corner.y() + wanted.height() <= height();
-    const int above = corner.y() - control.height() - wanted.height() - 2 * kBelowControl;
-    SetToolTip(tip, below ? corner : QPoint(corner.x(), above));
-}
+void EditWindow::Control_MouseMove(const QWidget& control) { txtToolTip->ShowBeside(TipOf(&control), control); }
 
 bool EditWindow::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {

@@ -3,6 +3,7 @@
 
 #include "app/services/basErrLog.h"
 #include "editors/HoldFocusBox.h"
+#include "editors/TipLabel.h"
 #include "platform/PictureBox.h"
 
 #include <QKeyEvent>
@@ -63,7 +64,7 @@ void EditWindow::HoldFocus_TabbedOut() try {
 }
 
 void EditWindow::HoldFocus_Composing(const QString& sText) {
-    if (m_selection.IsOn()) SetToolTip(sText, picDest->geometry().center());
+    txtToolTip->ShowUnder(m_selection.IsOn() ? sText : QString(), picDest->geometry().center());
 }
 
 void EditWindow::txtSpace_Change() try {

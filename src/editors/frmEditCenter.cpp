@@ -5,7 +5,7 @@
 #include "board/basDraw.h"
 #include "board/basPosit.h"
 #include "editors/HoldFocusBox.h"
-#include "editors/TypedText.h"
+#include "editors/TipLabel.h"
 #include "platform/Desktop.h"
 #include "platform/Numbers.h"
 #include "platform/PictureBox.h"
@@ -76,7 +76,7 @@ frmEditCenter::frmEditCenter(QWidget* parent)
     : QDialog(parent), picForm(new PictureBox(this)), cmdLogo(new QLabel(this)),
       cmdOK(MakeButton("cmdOK", QStringLiteral("&OK"), QStringLiteral("Click to Save Your Changes"))),
       cmdCancel(MakeButton("cmdCancel", QStringLiteral("&Cancel"), QStringLiteral("Click to Undo Your Changes"))),
-      txtHoldFocus(new HoldFocusBox(this)), txtToolTip(new QLabel(this)) {
+      txtHoldFocus(new HoldFocusBox(this)), txtToolTip(new TipLabel("txtToolTip", this)) {
     setObjectName(QStringLiteral("frmEditCenter"));
     setWindowTitle(QStringLiteral("Edit Game Titles"));
     picForm->setObjectName(QStringLiteral("picForm"));
@@ -108,11 +108,6 @@ void frmEditCenter::Form_Load() {
     cmdOK->setGeometry(kOk.Pixels());
     cmdCancel->setGeometry(kCancel.Pixels());
     txtHoldFocus->installEventFilter(this);
-    txtToolTip->setObjectName(QStringLiteral("txtToolTip"));
-    txtToolTip->setTextFormat(Qt::PlainText);
-    txtToolTip->setFrameStyle(QFrame::Box | QFrame::Plain);
-    txtToolTip->setAutoFillBackground(true);
-    txtToolTip->hide();
     setTabOrder(txtHoldFocus, cmdOK);
     setTabOrder(cmdOK, cmdCancel);
 }
@@ -218,25 +213,13 @@ bool frmEditCenter::HandleKey(const QKeyEvent& event) {
     if (focusWidget() == txtHoldFocus && (event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab))
         return HandleTab(event.key() == Qt::Key_Backtab);
     const TypedText::Key key = TypedText::KeyOf(event);
-    if (!m_selection.IsOn() || m_iTextArea == kNoArea) return false;
-    switch (key.kind) {
-        case TypedText::Key::Kind::None:
-            return false;
-        case TypedText::Key::Kind::Down:
-            Form_KeyDown(key.iKeyCode);
-            break;
-        case TypedText::Key::Kind::Press:
-            Form_KeyPress(key.sText);
-            break;
-        case TypedText::Key::Kind::Paste:
-            Form_KeyPress(QGuiApplication::clipboard()->text());
-            break;
-        case TypedText::Key::Kind::Cut:
-        case TypedText::Key::Kind::Copy:
-            if (!m_selection.HasText()) break;
-            QGuiApplication::clipboard()->setText(TypedText::Selected(LinesUnderEdit(), m_selection));
-            if (key.kind == TypedText::Key::Kind::Cut) CutSelection();
-            break;
+    if (!m_selection.IsOn() || m_iTextArea == kNoArea || key.kind == TypedText::Key::Kind::None) return false;
+    if (key.kind == TypedText::Key::Kind::Press) {
+        Form_KeyPress(key.sText);
+    } else if (key.kind == TypedText::Key::Kind::Paste) {
+        Form_KeyPress(QGuiApplication::clipboard()->text());
+    } else {
+        Form_KeyDown(key);
     }
     return true;
 }
@@ -266,10 +249,7 @@ void frmEditCenter::HoldFocus_TabbedInto() try { EditBehindText(kGameName); } ca
 
 void frmEditCenter::HoldFocus_Composing(const QString& sText) {
     const QRect area = m_area[size_t(m_iTextArea)];
-    txtToolTip->setText(sText);
-    txtToolTip->adjustSize();
-    txtToolTip->move(area.center().x() - txtToolTip->width() / 2, area.bottom());
-    txtToolTip->setVisible(!sText.isEmpty() && m_iTextArea != kNoArea);
+    txtToolTip->ShowUnder(m_iTextArea == kNoArea ? QString() : sText, {area.center().x(), area.bottom()});
 }
 
 QStringList frmEditCenter::LinesUnderEdit() const {
@@ -280,11 +260,10 @@ QStringList frmEditCenter::LinesUnderEdit() const {
     return lines.isEmpty() ? QStringList{QString()} : lines;
 }
 
-void frmEditCenter::Form_KeyDown(int iKeyCode) {
+void frmEditCenter::Form_KeyDown(const TypedText::Key& key) {
     QStringList lines = LinesUnderEdit();
-    const KeyResult result = TypedText::Apply(lines, m_selection, iKeyCode);
-    if (result == KeyResult::TextChanged) TakeBack(lines);
-    if (result != KeyResult::Nothing) Redraw(m_iTextArea);
+    const KeyResult result = TypedText::Take(key, lines, m_selection);
+    StoreTyped(result, lines);
 }
 
 void frmEditCenter::Form_KeyPress(const QString& sCharacters) try {
@@ -307,19 +286,16 @@ void frmEditCenter::TypeCharacter(const QString& sCharacter) {
         m_iTextArea != kGameName && basPosit::m_CenterText(m_iTextArea).iNLines >= basEditTextArray::kMaxLines;
     if (full && !backspace) return;
     const KeyResult result = TypedText::Feed(lines, m_selection, sCharacter);
-    if (result == KeyResult::TextChanged) TakeBack(lines);
-    if (result != KeyResult::Nothing) Redraw(m_iTextArea);
+    StoreTyped(result, lines);
 }
 
-void frmEditCenter::CutSelection() {
-    QStringList lines = LinesUnderEdit();
-    if (TypedText::Remove(lines, m_selection) == KeyResult::TextChanged) TakeBack(lines);
+void frmEditCenter::StoreTyped(KeyResult result, const QStringList& sTextLines) {
+    if (result == KeyResult::Nothing) return;
+    if (result == KeyResult::TextChanged) {
+        basDraw::Draw_SetHdc(&picForm->hDC());
+        basPosit::SetSpecialText(m_iTextArea, TypedText::Joined(sTextLines));
+    }
     Redraw(m_iTextArea);
-}
-
-void frmEditCenter::TakeBack(const QStringList& sTextLines) {
-    basDraw::Draw_SetHdc(&picForm->hDC());
-    basPosit::SetSpecialText(m_iTextArea, TypedText::Joined(sTextLines));
 }
 
 bool frmEditCenter::RangeCheck() {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "editors/TextSelection.h"
+#include "editors/TypedText.h"
 #include "platform/Color.h"
 
 #include <QDialog>
@@ -15,6 +16,7 @@ class HoldFocusBox;
 class PictureBox;
 class QLabel;
 class QPushButton;
+class TipLabel;
 
 /// Edits the three titles of the game, typed straight onto a likeness of the places where they stand. The
 /// records of the game change while the user types; Cancel puts the old texts back.
@@ -89,11 +91,10 @@ private:
     bool HandleKey(const QKeyEvent& event);
     bool HandleTab(bool bBack);
     void EditBehindText(int iArea);
-    void Form_KeyDown(int iKeyCode);
+    void Form_KeyDown(const TypedText::Key& key);
     void TypeCharacter(const QString& sCharacter);
-    void CutSelection();
+    void StoreTyped(basEditTextArray::KeyResult result, const QStringList& sTextLines);
     QStringList LinesUnderEdit() const;
-    void TakeBack(const QStringList& sTextLines);
 
     bool RangeCheck();
     void ExitAndHide();
@@ -115,5 +116,5 @@ private:
     QPushButton* cmdCancel;
     HoldFocusBox* txtHoldFocus;
     /// Shows what an input method is composing.
-    QLabel* txtToolTip;
+    TipLabel* txtToolTip;
 };

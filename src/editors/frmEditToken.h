@@ -18,6 +18,7 @@ class QGroupBox;
 class QLabel;
 class QPlainTextEdit;
 class QPushButton;
+class TipLabel;
 class QRadioButton;
 
 /// Edits one token: either its text, typed straight onto it, or its picture. Works on a copy that reaches
@@ -113,7 +114,7 @@ private:
     PictureHolder picScratch;
     PictureBox* picDest = nullptr;
     QLabel* lblHint = nullptr;
-    QLabel* lblComposing = nullptr;
+    TipLabel* lblComposing = nullptr;
     HoldFocusBox* txtHoldFocus = nullptr;
     QPlainTextEdit* txtToken = nullptr;
     std::array<QRadioButton*, kIncludes> optInclude{};

@@ -2,6 +2,7 @@
 #include "editors/frmEditToken.h"
 
 #include "editors/HoldFocusBox.h"
+#include "editors/TipLabel.h"
 #include "platform/PictureBox.h"
 #include "platform/WidgetLook.h"
 
@@ -131,12 +132,7 @@ void frmEditToken::BuildHidden() {
     txtToken->setFocusPolicy(Qt::NoFocus);
     WidgetLook::SetToolTip(*txtToken, QStringLiteral("Enter or edit text for the token here"));
     txtToken->hide();
-    lblComposing = new QLabel(this);
-    lblComposing->setObjectName(QStringLiteral("lblComposing"));
-    lblComposing->setTextFormat(Qt::PlainText);
-    lblComposing->setFrameStyle(QFrame::Box | QFrame::Plain);
-    lblComposing->setAutoFillBackground(true);
-    lblComposing->hide();
+    lblComposing = new TipLabel("lblComposing", this);
 }
 
 void frmEditToken::Connect() {

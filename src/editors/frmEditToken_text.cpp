@@ -3,12 +3,12 @@
 
 #include "app/services/basErrLog.h"
 #include "editors/HoldFocusBox.h"
+#include "editors/TipLabel.h"
 #include "platform/Numbers.h"
 #include "platform/PictureBox.h"
 #include "platform/Screen.h"
 
 #include <QKeyEvent>
-#include <QLabel>
 #include <QPlainTextEdit>
 
 using basEditTextArray::KeyResult;
@@ -85,11 +85,7 @@ void frmEditToken::HoldFocus_TabbedOut() try {
 }
 
 void frmEditToken::HoldFocus_Composing(const QString& sText) {
-    lblComposing->setText(sText);
-    lblComposing->adjustSize();
-    const QRect token = picDest->geometry();
-    lblComposing->move(token.center().x() - lblComposing->width() / 2, token.bottom() - lblComposing->height());
-    lblComposing->setVisible(m_selection.IsOn() && !sText.isEmpty());
+    lblComposing->ShowUnder(m_selection.IsOn() ? sText : QString(), picDest->geometry().center());
 }
 
 void frmEditToken::txtToken_Change() try {
