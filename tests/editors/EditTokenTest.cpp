@@ -309,6 +309,27 @@ TEST_F(EditTokenTest, APictureThatIsGoneMakesRoomForText) {
     });
 }
 
+// Games made by hand have such tokens, and a token's name is worth keeping.
+TEST_F(EditTokenTest, ATokenWithBothShowsItsPictureAndKeepsTheTextBehindIt) {
+    Token().SetImagePath(MakePicture(QStringLiteral("quarters.bmp")));
+    Edit([&] {
+        EXPECT_TRUE(ShowsImage());
+        EXPECT_EQ(EntryBox(), QStringLiteral("Dad"));
+        InBrowser([](frmBrowse& browser) { Cancel(browser); });
+        Click("cmdBitmap");
+        Click("cmdCancel");
+    });
+    EXPECT_EQ(Token().TextAll(), QStringLiteral("Dad"));
+    Edit([&] {
+        Click("optInclude_1");
+        EXPECT_EQ(form.GetTextArray(), QStringList{QStringLiteral("Dad")});
+        Click("cmdOK");
+    });
+    EXPECT_EQ(Token().Image.FullPath(), QString());
+    EXPECT_EQ(Token().TextAll(), QStringLiteral("Dad"));
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+}
+
 TEST_F(EditTokenTest, TheFontDialogSetsFontAndLargestSize) {
     desktop.onDialog = [](CommonDialog& dialog) {
         EXPECT_EQ(dialog.fFontSize, 48);

@@ -7,6 +7,7 @@
 #include "platform/Screen.h"
 #include "support/ModalSteps.h"
 
+#include <QFile>
 #include <QLabel>
 
 #include <cmath>
@@ -144,6 +145,17 @@ TEST_F(ShowTokensTest, LookingAndCancellingAreNoChange) {
     }));
     EXPECT_EQ(desktop.boxes.size(), 1);
     EXPECT_EQ(basTAVL::g_oTokens(2).TextAll(), QStringLiteral("Nr 2"));
+}
+
+TEST_F(ShowTokensTest, APictureThatIsGoneIsToldAndGivenUpForTheText) {
+    C_Token& token = basTAVL::g_oTokens(1);
+    token.SetImagePath(MakePicture(QStringLiteral("quarters.bmp")));
+    QFile::remove(token.Image.FullPath());
+    EXPECT_TRUE(Show([&] { EXPECT_EQ(ShownOf(1).pixelColor(100, 5), PaintOf(1)); }));
+    EXPECT_TRUE(token.Image.FullPath().isEmpty());
+    EXPECT_EQ(token.TextAll(), QStringLiteral("Nr 1"));
+    ASSERT_FALSE(desktop.boxes.isEmpty());
+    EXPECT_TRUE(desktop.Texts().join(u' ').contains(QStringLiteral("quarters.bmp")));
 }
 
 TEST_F(ShowTokensTest, SetAllFontsReachesEveryTokenAlsoAfterCancel) {
