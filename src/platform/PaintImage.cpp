@@ -86,18 +86,24 @@ QImage WithoutWhite(const QImage& image) {
     return result;
 }
 
-// Drawings have few colours, and compressing as for photographs would put rings round their lines.
+// Drawings have few colours, or few but for the smoothing of their edges, so that most pixels are like the one
+// before. Compressing them as photographs would put rings round their lines.
 bool IsDrawing(const QImage& image) {
     constexpr int kMostColors = 256;
+    constexpr double kMostlyFlat = 0.6;
     QSet<QRgb> colors;
+    qint64 flat = 0;
     for (int y = 0; y < image.height(); ++y) {
         const QRgb* row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
         for (int x = 0; x < image.width(); ++x) {
-            colors.insert(row[x]);
-            if (colors.size() > kMostColors) return false;
+            if (x > 0 && row[x] == row[x - 1]) {
+                ++flat;
+            } else if (colors.size() <= kMostColors) {
+                colors.insert(row[x]);
+            }
         }
     }
-    return true;
+    return colors.size() <= kMostColors || double(flat) > kMostlyFlat * image.width() * image.height();
 }
 
 /// Pictures prepared for paper last. A page that shows one picture several times stores it once only when it

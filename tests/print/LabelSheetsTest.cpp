@@ -16,6 +16,7 @@
 #include "support/PictureFiles.h"
 
 #include <QFile>
+#include <QPainter>
 
 namespace {
 
@@ -411,6 +412,24 @@ TEST_F(LabelSheetsTest, PictureOfATokenLeavesNothingOutsideItsRing) {
     }
     EXPECT_TRUE(IsRed(reader.ColorAt(1, told.center().x(), told.top() + 0.2)));
     EXPECT_TRUE(IsBlue(reader.ColorAt(1, told.center().x(), told.bottom() - 0.2)));
+}
+
+TEST_F(LabelSheetsTest, DrawingsAreStoredWithoutLoss) {
+    if (!PdfReader::IsInstalled()) GTEST_SKIP() << "poppler's tools are not installed";
+    QImage drawing(900, 900, QImage::Format_RGB32);
+    drawing.fill(Qt::white);
+    {
+        QPainter painter(&drawing);
+        painter.setRenderHint(QPainter::Antialiasing);
+        for (int i = 0; i < 40; ++i) {
+            painter.setPen(QPen(QColor::fromHsv(i * 9, 255, 200), 20));
+            painter.drawEllipse(QPointF(450, 450), 11.5 * i, 11.3 * i);
+        }
+    }
+    drawing.save(PathOf(QStringLiteral("drawing.png")));
+    basTAVL::g_oSpaces(7).SetImagePath(PathOf(QStringLiteral("drawing.png")));
+    ASSERT_TRUE(PrintWest());
+    EXPECT_EQ(reader.Images(1).first().sEncoding, QStringLiteral("image"));
 }
 
 TEST_F(LabelSheetsTest, ASmallPictureKeepsAllItsPixels) {
