@@ -4,6 +4,8 @@
 #include "platform/LoadPicture.h"
 #include "platform/Painting.h"
 
+#include <QApplication>
+#include <QIcon>
 #include <QLabel>
 #include <QPalette>
 #include <QPixmap>
@@ -38,6 +40,12 @@ void SetPicture(QLabel& label, const QString& sPath, int side) {
         QPixmap::fromImage(picture.Image().scaled(dots, dots, Qt::KeepAspectRatio, Qt::SmoothTransformation));
     pixmap.setDevicePixelRatio(ratio);
     label.setPixmap(pixmap);
+}
+
+void SetWindowIcon(const QString& sPath) {
+    QString error;
+    const Picture picture = LoadPicture(sPath, error);
+    if (!picture.IsNull()) QApplication::setWindowIcon(QIcon(QPixmap::fromImage(picture.Image())));
 }
 
 void SetToolTip(QWidget& widget, const QString& sText) {

@@ -23,6 +23,9 @@ void ScaleFont(QWidget& widget, double factor);
 /// Shows a picture in a square of this side, sharp on every screen; nothing when it can't be read.
 void SetPicture(QLabel& label, const QString& sPath, int side);
 
+/// Gives all windows this icon, read as every picture of the program is: decoded once, ahead of time.
+void SetWindowIcon(const QString& sPath);
+
 /// A tool tip in plain text: the toolkit would take a text with "<" in it for markup. A tip that is showing
 /// goes away when the text changes, and comes again when the mouse rests.
 void SetToolTip(QWidget& widget, const QString& sText);
