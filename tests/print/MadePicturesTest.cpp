@@ -8,19 +8,13 @@
 #include "platform/Printer.h"
 #include "print/clsRenderDestination.h"
 #include "support/GameFixture.h"
+#include "support/PdfReader.h"
 #include "support/PictureFiles.h"
 
 #include <QProcess>
-#include <QRegularExpression>
 #include <QStandardPaths>
 
 namespace {
-
-struct StoredPicture {
-    QSize size;
-    int dpiX = 0;
-    int dpiY = 0;
-};
 
 class MadePicturesTest : public GameTest {
 protected:
@@ -64,18 +58,8 @@ protected:
         EXPECT_TRUE(frmBMP::Instance().GenerateSpaceStickerImage(file, kSpace));
         Print(basTAVL::g_dblLabelSizes(5), basTAVL::g_dblLabelSizes(6), dpi);
     }
-    QList<StoredPicture> PicturesInPdf() const {
-        constexpr int kWidth = 3;
-        constexpr int kDpi = 12;
-        QList<StoredPicture> pictures;
-        for (const QString& line : Told("pdfimages", {QStringLiteral("-list"), pdf}).split(u'\n').mid(2)) {
-            const QStringList words = line.simplified().split(u' ');
-            if (words.size() <= kDpi + 1) continue;
-            pictures.append({QSize(words[kWidth].toInt(), words[kWidth + 1].toInt()), words[kDpi].toInt(),
-                             words[kDpi + 1].toInt()});
-        }
-        return pictures;
-    }
+    QList<PdfReader::StoredImage> PicturesInPdf() const { return PdfReader(pdf).Images(1); }
+    QString TextInPdf() const { return PdfReader(pdf).Text(1).simplified(); }
     static void HavePicture(const QString& sPath) {
         basTAVL::g_oSpaces(kSpace).SetText(QStringLiteral("Oak Street"));
         basTAVL::g_oSpaces(kSpace).Image.Init(sPath, QStringLiteral("Space"), kSpace);
@@ -158,47 +142,48 @@ TEST_F(MadePicturesTest, ImageMagickAgreesOnTheSize) {
 }
 
 TEST_F(MadePicturesTest, AStickersTextIsTextAndItsPhotoHas300DotsAnInch) {
-    if (!Has("pdfimages") || !Has("pdftotext")) GTEST_SKIP() << "poppler's tools are not installed";
+    if (!PdfReader::IsInstalled()) GTEST_SKIP() << "poppler's tools are not installed";
     for (const QSize size : {QSize(4000, 3000), QSize(1200, 1200), QSize(700, 900)}) {
         HavePicture(Photo(QStringLiteral("%1.jpg").arg(size.width()), size.width(), size.height()));
         PrintSticker();
-        const QList<StoredPicture> pictures = PicturesInPdf();
+        const QList<PdfReader::StoredImage> pictures = PicturesInPdf();
         ASSERT_EQ(pictures.size(), 1);
-        EXPECT_NEAR(pictures[0].dpiX, 300, 2) << size.width();
-        EXPECT_NEAR(pictures[0].dpiY, 300, 2) << size.width();
-        EXPECT_EQ(Told("pdftotext", {pdf, QStringLiteral("-")}).simplified(), QStringLiteral("Oak Street"));
+        EXPECT_NEAR(pictures[0].dblDpiX, 300, 2) << size.width();
+        EXPECT_NEAR(pictures[0].dblDpiY, 300, 2) << size.width();
+        EXPECT_EQ(TextInPdf(), QStringLiteral("Oak Street"));
     }
 }
 
 TEST_F(MadePicturesTest, ASmallPhotoKeepsAllThePixelsItHas) {
-    if (!Has("pdfimages")) GTEST_SKIP() << "poppler's tools are not installed";
+    if (!PdfReader::IsInstalled()) GTEST_SKIP() << "poppler's tools are not installed";
     HavePicture(Photo(QStringLiteral("small.jpg"), 120, 90));
     PrintSticker();
     ASSERT_EQ(PicturesInPdf().size(), 1);
-    EXPECT_EQ(PicturesInPdf()[0].size, QSize(120, 90));
+    EXPECT_EQ(PicturesInPdf()[0].iWidth, 120);
+    EXPECT_EQ(PicturesInPdf()[0].iHeight, 90);
 }
 
 TEST_F(MadePicturesTest, AZoomedPhotoIsCutBeforeItIsBroughtTo300DotsAnInch) {
-    if (!Has("pdfimages")) GTEST_SKIP() << "poppler's tools are not installed";
+    if (!PdfReader::IsInstalled()) GTEST_SKIP() << "poppler's tools are not installed";
     HavePicture(Photo(QStringLiteral("large.jpg"), 3000, 3000));
     basTAVL::g_oSpaces(kSpace).Image.Let_Zoom(20);
     PrintSticker();
     ASSERT_EQ(PicturesInPdf().size(), 1);
     const double side = basTAVL::g_dblLabelSizes(6) / 2;
-    EXPECT_NEAR(PicturesInPdf()[0].size.width(), side * 300, 2);
-    EXPECT_NEAR(PicturesInPdf()[0].dpiX, 300, 2);
+    EXPECT_NEAR(PicturesInPdf()[0].iWidth, side * 300, 2);
+    EXPECT_NEAR(PicturesInPdf()[0].dblDpiX, 300, 2);
 }
 
 TEST_F(MadePicturesTest, ACoarsePageHasItsPhotosAtTheSame300DotsAnInch) {
-    if (!Has("pdfimages")) GTEST_SKIP() << "poppler's tools are not installed";
+    if (!PdfReader::IsInstalled()) GTEST_SKIP() << "poppler's tools are not installed";
     HavePicture(Photo(QStringLiteral("large.jpg"), 2000, 2000));
     PrintSticker(150);
     ASSERT_EQ(PicturesInPdf().size(), 1);
-    EXPECT_NEAR(PicturesInPdf()[0].dpiX, 300, 3);
+    EXPECT_NEAR(PicturesInPdf()[0].dblDpiX, 300, 3);
 }
 
 TEST_F(MadePicturesTest, ANotesPicturesHave300DotsAnInchThoughItsFileHas192) {
-    if (!Has("pdfimages") || !Has("pdftotext")) GTEST_SKIP() << "poppler's tools are not installed";
+    if (!PdfReader::IsInstalled()) GTEST_SKIP() << "poppler's tools are not installed";
     C_Money& money = basTAVL::g_oMoney(1);
     money.BackImage.Init(QStringLiteral(TAVLORA_DATA_DIR) + QStringLiteral("/BLNK500.dat"), QString(), 0);
     money.FaceImage.Init(Photo(QStringLiteral("face.jpg"), 1600, 1200), QStringLiteral("Money"), 1);
@@ -206,19 +191,19 @@ TEST_F(MadePicturesTest, ANotesPicturesHave300DotsAnInchThoughItsFileHas192) {
     money.Let_Text(1, QStringLiteral("we trust"));
     ASSERT_TRUE(frmBMP::Instance().GenerateMoneyImage(file, 1));
     Print(3.75, 2.0);
-    const QList<StoredPicture> pictures = PicturesInPdf();
+    const QList<PdfReader::StoredImage> pictures = PicturesInPdf();
     ASSERT_EQ(pictures.size(), 3) << "the blank, the face and the oval that the face shows in";
-    for (const StoredPicture& picture : pictures)
-        EXPECT_NEAR(picture.dpiX, 300, 3) << picture.size.width();
-    EXPECT_EQ(Told("pdftotext", {pdf, QStringLiteral("-")}).simplified(), QStringLiteral("In Gran we trust"));
+    for (const PdfReader::StoredImage& picture : pictures)
+        EXPECT_NEAR(picture.dblDpiX, 300, 3) << picture.iWidth;
+    EXPECT_EQ(TextInPdf(), QStringLiteral("In Gran we trust"));
 }
 
 // What is kept of 28 photographs until their sheet is printed would otherwise fill the memory.
 TEST_F(MadePicturesTest, ARecordingKeepsNoMoreOfAPhotoThanItsPieceShowsOnPaper) {
-    if (!Has("pdfimages")) GTEST_SKIP() << "poppler's tools are not installed";
+    if (!PdfReader::IsInstalled()) GTEST_SKIP() << "poppler's tools are not installed";
     HavePicture(Photo(QStringLiteral("large.jpg"), 4000, 4000));
     ASSERT_TRUE(frmBMP::Instance().GenerateSpaceStickerImage(file, kSpace));
     Print(3 * basTAVL::g_dblLabelSizes(5), 3 * basTAVL::g_dblLabelSizes(6));
     ASSERT_EQ(PicturesInPdf().size(), 1);
-    EXPECT_NEAR(PicturesInPdf()[0].size.width(), basTAVL::g_dblLabelSizes(6) / 2 * 300, 2);
+    EXPECT_NEAR(PicturesInPdf()[0].iWidth, basTAVL::g_dblLabelSizes(6) / 2 * 300, 2);
 }
