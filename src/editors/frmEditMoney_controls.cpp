@@ -19,7 +19,7 @@ namespace {
 constexpr std::array<const char*, basTAVL::kMoney> kCaptions = {"100", "500", "1000", "5000"};
 // The note at 96 dots an inch: 3.75 by 2 inches.
 constexpr QSize kNote(360, 192);
-constexpr int kButtonWidth = 150;
+constexpr int kButtonWidth = 190;
 // More lines than a note has room for.
 constexpr int kLinesOfText = 4;
 constexpr int kGap = 12;
