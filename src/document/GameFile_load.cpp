@@ -163,11 +163,19 @@ bool GameReader::ReadSpaces() {
     return true;
 }
 
+// The record's own reader fits block 1 last, and both blocks share one size: without a second block that is the
+// size of no text at all, and a long name would stand larger than its corner until somebody edits it.
+void FitCornerName(C_Corner& corner) {
+    if (corner.TextAll(1).isEmpty()) corner.SetText(0, TextLines::kUseExisting);
+}
+
 bool GameReader::ReadCorners() {
     for (int i = 0; i < basTAVL::kCorners; ++i) {
         const QString during = QStringLiteral("loading corner number ") + QString::number(i);
-        if (!ReadRecord(basTAVL::g_oCorners(i), during)) return false;
-        if (basTAVL::g_oCorners(i).Index != i) return Fail(QStringLiteral("Corner number incorrect"), during);
+        C_Corner& corner = basTAVL::g_oCorners(i);
+        if (!ReadRecord(corner, during)) return false;
+        if (corner.Index != i) return Fail(QStringLiteral("Corner number incorrect"), during);
+        FitCornerName(corner);
     }
     return true;
 }

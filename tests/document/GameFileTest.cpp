@@ -97,6 +97,20 @@ TEST_F(LoadTest, Edge_CardWithTheWrongIndexAlwaysReportsNumberFour) {
     EXPECT_EQ(MessageFor(58, QStringLiteral("0, \"Card\"")), message);
 }
 
+TEST_F(LoadTest, LongCornerNameIsAsLargeAfterLoadingAsInItsEditor) {
+    ASSERT_EQ(Load(WriteGame(PlainLines())), 0);
+    C_Corner& corner = basTAVL::g_oCorners(0);
+    corner.SetText(1, QString());
+    const float asNoTextAtAll = corner.TextSize(0);
+    corner.SetText(0, QStringLiteral("behind the garden shed"));
+    const float fitted = corner.TextSize(0);
+    ASSERT_LT(fitted, asNoTextAtAll);
+    const QString path = InGames(QStringLiteral("Shed.gam"));
+    ASSERT_TRUE(Save(path));
+    ASSERT_EQ(Load(QString(path)), 0);
+    EXPECT_EQ(basTAVL::g_oCorners(0).TextSize(0), fitted);
+}
+
 TEST_F(LoadTest, EveryRecordIsRead) {
     EXPECT_EQ(Load(WriteGame(PlainLines())), 0);
     EXPECT_EQ(m_CenterText(0).sText, QStringLiteral("TAVLO"));
