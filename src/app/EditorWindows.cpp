@@ -1,22 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "app/EditorWindows.h"
 
+#include "app/frmTAVL.h"
+#include "app/GameKit.h"
 #include "editors/frmEditCenter.h"
 #include "editors/frmEditCorner.h"
 #include "editors/frmEditMoney.h"
 #include "editors/frmEditSpace.h"
 #include "editors/frmShowNews.h"
 #include "editors/frmShowTokens.h"
-#include "platform/Desktop.h"
-
-namespace {
-
-bool SayThatItIsToCome(const QString& sWhat) {
-    MsgBox(sWhat + QStringLiteral(" is not part of the program yet."), vbInformation);
-    return false;
-}
-
-} // namespace
+#include "platform/ProgramSettings.h"
+#include "print/frmColor.h"
+#include "print/frmPrintTest.h"
+#include "print/frmTavlPrint.h"
 
 bool EditorWindows::EditSpace(int iSpace) {
     if (!m_frmEditSpace) m_frmEditSpace = new frmEditSpace(&m_main);
@@ -58,6 +54,15 @@ bool EditorWindows::ShowTokens() {
     return changed;
 }
 
-bool EditorWindows::Print() { return SayThatItIsToCome(QStringLiteral("The print console")); }
+bool EditorWindows::Print() {
+    if (!m_frmPrintTest) {
+        m_frmPrintTest = new frmPrintTest(&m_main);
+        m_frmPrintTest->Console().TellInPrint = std::bind_front(&frmTAVL::SetInPrint, &m_main);
+    }
+    return m_frmPrintTest->ShowForm(m_main.m_bPrintedSomething);
+}
 
-void EditorWindows::Setup() { SayThatItIsToCome(QStringLiteral("The setup of colours")); }
+void EditorWindows::Setup() {
+    // A new one each time, so that it shows what holds and not what was given up.
+    if (frmColor(&m_main).ShowForm()) GameKit::SetPrintBlack(Settings().sProgramName);
+}

@@ -7,15 +7,16 @@ class frmEditCenter;
 class frmEditCorner;
 class frmEditMoney;
 class frmEditSpace;
+class frmPrintTest;
 class frmShowNews;
 class frmShowTokens;
-class QWidget;
+class frmTAVL;
 
 /// The windows behind the main window's doors. Each is made when it is first opened and serves the whole
 /// run.
 class EditorWindows : public EditorRoutes {
 public:
-    explicit EditorWindows(QWidget& main) : m_main(main) {}
+    explicit EditorWindows(frmTAVL& main) : m_main(main) {}
 
     bool EditSpace(int iSpace) override;
     bool EditCorner(int iCorner) override;
@@ -28,11 +29,13 @@ public:
 
 private:
     /// Owns the windows.
-    QWidget& m_main;
+    frmTAVL& m_main;
     frmEditSpace* m_frmEditSpace = nullptr;
     frmEditCorner* m_frmEditCorner = nullptr;
     frmEditCenter* m_frmEditCenter = nullptr;
     frmEditMoney* m_frmEditMoney = nullptr;
     frmShowNews* m_frmShowNews = nullptr;
     frmShowTokens* m_frmShowTokens = nullptr;
+    /// The door to the print console.
+    frmPrintTest* m_frmPrintTest = nullptr;
 };

@@ -5,6 +5,7 @@
 #include "app/services/basErrLog.h"
 #include "document/basTAVL.h"
 #include "platform/Numbers.h"
+#include "print/PrintBlackAs.h"
 
 #include <array>
 
@@ -37,7 +38,6 @@ void SetPlainColors() {
         basTAVL::g_oMoney(i).BackColor = Color::White();
     basTAVL::g_lPrintYellow() = Color::White();
     basTAVL::g_lPrintRed() = Color::White();
-    basTAVL::g_lPrintBlack() = Color::FromValue(kPlainBlack);
     basTAVL::g_lPrintBack() = Color::White();
 }
 
@@ -48,7 +48,6 @@ void SetFullColors() {
         basTAVL::g_oTokens(i).BackColor = ColorOf(kTokenColors[size_t(i)]);
     basTAVL::g_lPrintYellow() = basCommon::GetIniColor(QStringLiteral("PrintYellowColor"), QStringLiteral("00FFFF00"));
     basTAVL::g_lPrintRed() = basCommon::GetIniColor(QStringLiteral("PrintRedColor"), QStringLiteral("00FF0000"));
-    basTAVL::g_lPrintBlack() = basCommon::GetIniColor(QStringLiteral("PrintBlackColor"), QStringLiteral("00000000"));
     basTAVL::g_lPrintBack() = ColorOf("00B6DDC7");
 }
 
@@ -83,12 +82,22 @@ void SetUp(const QString& sProgramName) try {
     } else {
         SetFullColors();
     }
+    SetPrintBlack(sProgramName);
     // One key for both decks, on purpose: cards of both lie on the same stock.
     for (int set = 0; set < basTAVL::kNewsSets; ++set)
         basTAVL::g_lNewsColor(set) =
             basCommon::GetIniColor(QStringLiteral("GoodNewsColor"), QStringLiteral("00FFFFFF"));
 } catch (...) {
     ErrTail("frmTAVL!", "SetUpKit", sProgramName);
+}
+
+void SetPrintBlack(const QString& sProgramName) try {
+    const bool plain = ExeName(sProgramName) == kPlainName;
+    const Color black = plain ? Color::FromValue(kPlainBlack)
+                              : basCommon::GetIniColor(QStringLiteral("PrintBlackColor"), QStringLiteral("00000000"));
+    basTAVL::g_lPrintBlack() = PrintBlackAs::Chosen().value_or(black);
+} catch (...) {
+    ErrTail("frmTAVL!", "SetPrintBlack", sProgramName);
 }
 
 void ReadGameVersion() try {

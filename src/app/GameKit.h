@@ -20,6 +20,9 @@ QString ProgramNameOf(const QString& sVariant);
 /// Absent colours are written to the settings file.
 void SetUp(const QString& sProgramName);
 
+/// Sets the ink that stands for black: the kit's, unless the user has chosen another in the settings.
+void SetPrintBlack(const QString& sProgramName);
+
 /// The settings file has the last word on the variant, though not on sizes and colours.
 void ReadGameVersion();
 

@@ -12,6 +12,7 @@
 #include "platform/LoadPicture.h"
 #include "platform/ProgramLock.h"
 #include "platform/ProgramSettings.h"
+#include "platform/SystemPrinter.h"
 #include "platform/WidgetLook.h"
 
 namespace {
@@ -51,6 +52,8 @@ int RunProgram(int argc, char** argv, DesktopWidgets& desktop) {
     desktop.SetAtEnd(std::bind(&ProgramLock::Release, &lock));
 
     WidgetLook::SetWindowIcon(OwnFile("tavlora.png"));
+    SystemPrinter printer(basCommon::JoinPath(basCommon::GetMyGamesDirectory(), QStringLiteral("Printed")));
+    Printer::Install(&printer);
     frmBMP::InstallAsThumbnailMaker();
     frmTAVL window;
     EditorWindows editors(window);

@@ -261,6 +261,15 @@ void frmTAVL::closeEvent(QCloseEvent* event) try {
     ErrTop("frmTAVL!", "Form_QueryUnload");
 }
 
+void frmTAVL::SetInPrint(bool bNow) try {
+    bInPrint = bNow;
+    m_bNoRedraw = bNow;
+    setEnabled(!bNow);
+    if (!bNow) Redraw();
+} catch (...) {
+    ErrTop("frmTAVL!", "SetInPrint", bNow);
+}
+
 void frmTAVL::Form_QueryUnload(bool& bCancel) try {
     bool ok = false;
     if (!bInPrint) OkToEndProgram(ok);

@@ -49,6 +49,8 @@ public:
     bool m_bPrintedSomething = false;
     /// A page is being printed; the program can't be closed.
     bool bInPrint = false;
+    /// Meanwhile the window takes no input, and the board isn't painted: sheets use the same drawing state.
+    void SetInPrint(bool bNow);
 
     // Commands on the game.
     void BeginNewGame(int& iResult);

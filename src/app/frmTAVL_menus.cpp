@@ -209,7 +209,10 @@ void frmTAVL::PrinterSetup() try {
                vbInformation);
         return;
     }
+    dlgCommon.bPrinterDefault = true;
+    dlgCommon.sError.clear();
     dlgCommon.ShowPrinter();
+    if (!dlgCommon.sError.isEmpty()) MsgBox(dlgCommon.sError, vbInformation);
 } catch (...) {
     ErrTail("frmTAVL!", "PrinterSetup");
 }

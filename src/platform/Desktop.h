@@ -45,6 +45,8 @@ struct CommonDialog {
 
     /// Name of the printer chosen; empty means the system's default.
     QString sPrinterName;
+    /// The printer chosen, with its settings, is the program's from now on.
+    bool bPrinterDefault = false;
 
     /// Why a dialog couldn't be shown; empty after a cancellation.
     QString sError;

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/DesktopWidgets.h"
 
+#include "platform/SystemPrinter.h"
+
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QEventLoop>
 #include <QFileDialog>
@@ -10,6 +13,8 @@
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QPrinterInfo>
+#include <QPushButton>
 #include <QTimer>
 
 #include <cstdio>
@@ -150,13 +155,27 @@ bool DesktopWidgets::ShowFont(CommonDialog& dialog) {
 }
 
 bool DesktopWidgets::ShowPrinter(CommonDialog& dialog) {
-    QPrinter printer(QPrinter::HighResolution);
-    if (!dialog.sPrinterName.isEmpty()) printer.setPrinterName(dialog.sPrinterName);
-    QPrintDialog window(&printer, Owner());
-    window.setOptions(QAbstractPrintDialog::PrintToFile);
-    if (!dialog.sDialogTitle.isEmpty()) window.setWindowTitle(dialog.sDialogTitle);
+    if (QPrinterInfo::availablePrinterNames().isEmpty()) {
+        dialog.sError = QStringLiteral("No printer is set up on this computer. Each sheet becomes a PDF file instead, "
+                                       "which can be printed from any computer.");
+        return false;
+    }
+    auto* const system = dynamic_cast<SystemPrinter*>(Printer::Current());
+    const bool forProgram = dialog.bPrinterDefault && system;
+    std::unique_ptr<QPrinter> other;
+    if (!forProgram) other = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    QPrinter& device = forProgram ? system->Device() : *other;
+    if (!dialog.sPrinterName.isEmpty()) device.setPrinterName(dialog.sPrinterName);
+    QPrintDialog window(&device, Owner());
+    // A sheet is one page; and which file it goes to is decided without this dialog.
+    window.setOptions(QAbstractPrintDialog::PrintDialogOptions());
+    window.setWindowTitle(dialog.sDialogTitle.isEmpty() ? QStringLiteral("Change Printer") : dialog.sDialogTitle);
+    // The toolkit's own caption promises that something is printed at once.
+    const auto* const buttons = window.findChild<QDialogButtonBox*>();
+    if (QPushButton* const use = buttons ? buttons->button(QDialogButtonBox::Ok) : nullptr)
+        use->setText(QStringLiteral("&Use This Printer"));
     if (window.exec() != QDialog::Accepted) return false;
-    dialog.sPrinterName = printer.printerName();
+    dialog.sPrinterName = device.printerName();
     return true;
 }
 

@@ -28,6 +28,15 @@ public:
     /// Printable width and height in inches, in the orientation that holds.
     virtual QSizeF PrintableInches() const = 0;
 
+    /// Name of the next document; a printer that writes files names them after it.
+    virtual void SetDocumentName(const QString&) {}
+    /// What the desktop calls the device; empty where there is none, as with pages that go into a file.
+    virtual QString DeviceName() const { return {}; }
+    /// Path of the PDF file that the last EndDoc wrote; empty when it went to a device or failed.
+    virtual QString LastPdf() const { return {}; }
+    /// Why the document being printed, or the last one, fails; empty when it doesn't.
+    virtual QString LastError() const { return {}; }
+
     /// The printer that sheets go to; the caller keeps ownership. Returns the one that was in force, which
     /// is nothing before the first call.
     static Printer* Install(Printer* printer);

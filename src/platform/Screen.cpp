@@ -6,12 +6,15 @@
 #include <QStyle>
 #include <QWidget>
 
+#include <utility>
+
 namespace Screen {
 namespace {
 
 struct State {
     QSize surfaceLimit{3840, 2160};
     int pretendedBits = 0;
+    MousePointer pointer = MousePointer::Default;
 };
 
 State& TheState() {
@@ -63,6 +66,17 @@ void PlaceWindow(QWidget& window, QRect wanted) {
     if (wanted.top() < area.top()) wanted.moveTop(area.top());
     window.resize(wanted.size() - frame);
     window.move(wanted.topLeft());
+}
+
+MousePointer CurrentMousePointer() { return TheState().pointer; }
+
+void SetMousePointer(MousePointer pointer) {
+    if (std::exchange(TheState().pointer, pointer) == pointer) return;
+    if (pointer == MousePointer::HourGlass) {
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    } else {
+        QGuiApplication::restoreOverrideCursor();
+    }
 }
 
 void PlaceAtFraction(QWidget& window, double ofFreeWidth, double ofFreeHeight) {

@@ -32,6 +32,11 @@ void PretendBitsPerPixel(int bits);
 /// Sizes and places a window, never larger than the free area nor left of or above it. Pixels.
 void PlaceWindow(QWidget& window, QRect wanted);
 
+/// What the mouse pointer shows over all of the program's windows.
+enum class MousePointer { Default = 0, HourGlass = 11 };
+MousePointer CurrentMousePointer();
+void SetMousePointer(MousePointer pointer);
+
 /// Places a window at these fractions of the width and height that it leaves free.
 void PlaceAtFraction(QWidget& window, double ofFreeWidth, double ofFreeHeight);
 

@@ -19,22 +19,31 @@ QString AsFileName(QString sName) {
 
 } // namespace
 
-SystemPrinter::SystemPrinter(const QString& sPdfFolder)
-    : m_pdfFolder(sPdfFolder), m_device(std::make_unique<QPrinter>(QPrinter::HighResolution)) {
+SystemPrinter::SystemPrinter(const QString& sPdfFolder) : m_pdfFolder(sPdfFolder) {}
+
+SystemPrinter::~SystemPrinter() { KillDoc(); }
+
+QPrinter& SystemPrinter::Device() const {
+    if (m_device) return *m_device;
+    m_device = std::make_unique<QPrinter>(QPrinter::HighResolution);
     // What the toolkit starts with follows the desktop's country; the kit's stock is US Letter unless the
     // printer holds another paper.
     const QPageSize paper = QPrinterInfo::defaultPrinter().defaultPageSize();
     m_device->setPageSize(paper.isValid() && !PrintsToPdf() ? paper : QPageSize(QPageSize::Letter));
     m_device->setFullPage(false);
     m_device->setCreator(QStringLiteral("Tavlora"));
+    return *m_device;
 }
 
-SystemPrinter::~SystemPrinter() { KillDoc(); }
+bool SystemPrinter::PrintsToPdf() const {
+    const QPrinter& device = Device();
+    return device.printerName().isEmpty() || !device.isValid() || device.outputFormat() == QPrinter::PdfFormat;
+}
 
-bool SystemPrinter::PrintsToPdf() const { return m_device->printerName().isEmpty() || !m_device->isValid(); }
+QString SystemPrinter::DeviceName() const { return PrintsToPdf() ? QString() : Device().printerName(); }
 
 double SystemPrinter::DotsPerInch() const {
-    return PrintsToPdf() ? PdfPrinter::kDefaultDpi : double(m_device->resolution());
+    return PrintsToPdf() ? PdfPrinter::kDefaultDpi : double(Device().resolution());
 }
 
 QString SystemPrinter::PdfPath() const {
@@ -78,7 +87,7 @@ DeviceContext& SystemPrinter::hDC() {
 
 QSizeF SystemPrinter::PrintableInches() const {
     const bool landscape = m_orientation == PageOrientation::Landscape;
-    QPageLayout layout = m_device->pageLayout();
+    QPageLayout layout = Device().pageLayout();
     layout.setOrientation(landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
     if (!PrintsToPdf()) return layout.paintRect(QPageLayout::Inch).size();
     return layout.fullRect(QPageLayout::Inch).size() -

@@ -3,8 +3,6 @@
 
 #include "platform/Printer.h"
 
-#include <functional>
-
 class QPrinter;
 
 /// The printer of the desktop: the default one or the one that the user chose. Where none is set up, each
@@ -17,14 +15,13 @@ public:
 
     /// True when no printer is set up.
     bool PrintsToPdf() const;
-    /// Name of the job, or of the PDF file; characters that no file name takes become "-".
-    void SetDocumentName(const QString& sName) { m_documentName = sName; }
-    /// Path of the PDF file that the last EndDoc wrote; empty when it went to a printer or failed.
-    QString LastPdf() const { return m_lastPdf; }
-    /// Why the last document failed; empty when it didn't.
-    QString LastError() const { return m_lastError; }
-    /// For the dialog that chooses the printer; nothing when none is set up.
-    QPrinter* Device() { return PrintsToPdf() ? nullptr : m_device.get(); }
+    /// Characters of the document's name that no file name takes become "-" in that of the PDF file.
+    void SetDocumentName(const QString& sName) override { m_documentName = sName; }
+    QString DeviceName() const override;
+    QString LastPdf() const override { return m_lastPdf; }
+    QString LastError() const override { return m_lastError; }
+    /// For the dialog that chooses another printer and its settings.
+    QPrinter& Device() const;
 
     double DotsPerInch() const override;
     DeviceContext& hDC() override;
@@ -45,7 +42,8 @@ private:
     QString m_lastPdf;
     QString m_lastError;
     PageOrientation m_orientation = PageOrientation::Portrait;
-    std::unique_ptr<QPrinter> m_device;
+    /// Made when it is first asked for: looking for the printers of a network takes its time.
+    mutable std::unique_ptr<QPrinter> m_device;
     std::unique_ptr<PdfPrinter> m_pdf;
     std::unique_ptr<QPainter> m_painter;
     std::unique_ptr<DeviceContext> m_context;

@@ -82,6 +82,7 @@ bool MakeSideBands(int iFirstSide, QStringList& made) {
 bool PrintCards(SheetJob& job, clsRenderDestination& destination, int iSheet) {
     bool whole = true;
     for (int p = 0; p < kCards; ++p) {
+        job.Piece("Deed", p + 1, kCards);
         job.Progress(p * 1000 / kCards + kProgressBefore);
         const int lX = CLng((p % kColumns * kCardSide + kFirstX) * destination.DPI());
         const int lY = CLng((p / kColumns * kCardSide + kFirstY) * destination.DPI());

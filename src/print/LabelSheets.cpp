@@ -82,7 +82,9 @@ constexpr double kTokenStep = kTokenSide + 0.45;
 constexpr int kStickersPerToken = 2;
 
 bool MakeBoxPictures(SheetJob& job) {
+    int picture = 0;
     for (const BoxPicture& made : kBoxPictures) {
+        job.Piece("Title", ++picture, int(std::size(kBoxPictures)));
         if (!Make(made.picture)) return Tell(made.sFailure);
         job.Progress(made.iProgressAfter);
     }
@@ -112,6 +114,7 @@ bool PlaceTokens(SheetJob& job, clsRenderDestination& sheet) {
     bool made = true;
     job.Progress(kProgressOfTokens);
     for (int i = 0; i < basTAVL::kTokens; ++i) {
+        job.Piece("Token", i + 1, basTAVL::kTokens);
         made = PlaceToken(sheet, i) && made;
         job.Progress(kProgressOfFirstToken + kProgressPerToken * i);
     }
@@ -231,6 +234,7 @@ bool PlaceSpaces(SheetJob& job, clsRenderDestination& sheet, int iSide) {
     job.Progress(progress);
     for (int iRow = 0; iRow < kRows; ++iRow) {
         for (int iCol = 0; iCol < kColumns; ++iCol) {
+            job.Piece("Space", iRow * kColumns + iCol + 1, kRows * kColumns);
             made = PlaceSpace(sheet, iSide, iRow, iCol) && made;
             job.Progress(progress += kProgressPerSpace);
         }
@@ -242,7 +246,9 @@ bool PlaceTitles(SheetJob& job, clsRenderDestination& sheet) {
     job.Progress(800);
     if (!Make(kTitle)) return Tell("Cannot create Title Image");
     if (!Make(kSubtitle)) return Tell("Cannot Subtitle Image");
+    int title = 0;
     for (const TitlePiece& piece : kTitlePieces) {
+        job.Piece("Title", ++title, int(std::size(kTitlePieces)));
         job.Progress(piece.iProgressBefore);
         sheet.OutputFromBMP(FileOf(piece.picture), piece.dblX, piece.dblY, piece.dblWidth, piece.dblHeight);
         sheet.Legend(float(piece.dblX), piece.sngLegendY, QStringLiteral("up"), QString::fromLatin1(piece.sLegend),
@@ -257,6 +263,7 @@ bool PlaceCorners(SheetJob& job, clsRenderDestination& sheet) {
     bool made = true;
     int iCorner = 0;
     for (const CornerPiece& piece : kCornerPieces) {
+        job.Piece("Corner", iCorner + 1, int(std::size(kCornerPieces)));
         job.Progress(piece.iProgressBefore);
         made = CornerStickerUsingBMP(sheet, iCorner++, piece.dblX, piece.dblY) && made;
         sheet.Legend(piece.sngLegendX, piece.sngLegendY, QStringLiteral("left"), QString::fromLatin1(piece.sLegend),

@@ -42,6 +42,7 @@ void PrintMoneySheet(SheetJob& job, int iMoney, const Picture& picture, int iCop
     const int lW = CLng(kNoteWidth * dblDPI);
     const int lH = CLng(kNoteHeight * dblDPI);
     for (int i = 0; i < kNotes; ++i) {
+        job.Piece("Note", i + 1, kNotes);
         job.Progress(iCopy * 1000 / nCopies + i * 100 / nCopies);
         const int lX = CLng((i % kColumns * kNoteWidth + kFirstX) * dblDPI);
         const int lY = CLng((i / kColumns * kNoteHeight + kFirstY) * dblDPI);

@@ -60,6 +60,7 @@ bool PrintNewsSheet(SheetJob& job, int iDeck) try {
     destination.Init(job.printer, 1.0);
     bool whole = true;
     for (int i = 0; i < basTAVL::kCards; ++i) {
+        job.Piece("Card", i + 1, basTAVL::kCards);
         job.Progress(i * 1000 / basTAVL::kCards);
         const int lX = CLng((i % kColumns * kCardWidth + kFirst) * destination.DPI());
         const int lY = CLng((i / kColumns * kCardHeight + kFirst) * destination.DPI());

@@ -26,7 +26,10 @@ public:
     bool ShowFont(CommonDialog& dialog) override;
     bool ShowPrinter(CommonDialog& dialog) override;
     void Sleep(int milliseconds) override { slept += milliseconds; }
-    void DoEvents() override { ++pumped; }
+    void DoEvents() override {
+        ++pumped;
+        if (onPump) onPump();
+    }
     /// Throws ProgramEnded.
     [[noreturn]] void EndProgram(int iStatus) override;
 
@@ -39,6 +42,8 @@ public:
     std::function<bool(CommonDialog&)> onDialog;
     int slept = 0;
     int pumped = 0;
+    /// What happens while events run.
+    std::function<void()> onPump;
     bool ended = false;
 
 private:

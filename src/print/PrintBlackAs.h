@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/Color.h"
+
+#include <optional>
+
+/// The very dark colour that prints in place of black, as the settings file keeps it.
+namespace PrintBlackAs {
+
+/// What counts as no choice: red, green and blue 10.
+constexpr qint32 kDefault = 0x0A0A0A;
+
+/// The colour kept; the default when there is none or it isn't a number.
+Color Read();
+void Write(Color color);
+/// The user's own colour; nothing while the default holds.
+std::optional<Color> Chosen();
+
+} // namespace PrintBlackAs

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDialog>
+
+class frmTavlPrint;
+class Picture;
+class PictureBox;
+
+/// The door to the print console, and a window that shows a sheet as it would be on paper, for looking at a
+/// job without spending any.
+class frmPrintTest : public QDialog {
+    Q_OBJECT
+
+public:
+    explicit frmPrintTest(QWidget* parent = nullptr);
+
+    /// Opens the console, see frmTavlPrint::ShowForm.
+    bool ShowForm(bool bPrintStarted);
+    frmTavlPrint& Console() const { return *m_frmTavlPrint; }
+    /// Modal: a page that was painted for the screen.
+    void ShowPage(const Picture& page);
+
+private:
+    frmTavlPrint* m_frmTavlPrint;
+    PictureBox* picPage;
+};

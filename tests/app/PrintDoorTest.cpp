@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: MIT
+// Print and Setup from the main window: what it lets through meanwhile, and what it keeps.
+#include "AppFixture.h"
+
+#include "app/EditorWindows.h"
+#include "images/frmBMP.h"
+#include "platform/Folders.h"
+#include "support/ModalSteps.h"
+#include "support/TestPrinter.h"
+
+#include <QCheckBox>
+#include <QLineEdit>
+
+namespace {
+
+class PrintDoorTest : public AppTest {
+protected:
+    PrintDoorTest() : doors(Start()) {
+        frmBMP::InstallAsThumbnailMaker();
+        WriteGame(QStringLiteral("Ours.gam"), QStringLiteral("Desk"));
+        window->OpenGame(InGames(QStringLiteral("Ours.gam")));
+        EditorRoutes::Install(&doors);
+        Folders::PretendFreeBytes(1e12);
+    }
+    ~PrintDoorTest() override {
+        window.reset();
+        Folders::PretendFreeBytes(-1);
+        Screen::SetMousePointer(Screen::MousePointer::Default);
+    }
+
+    /// Opens the console from the main window and prints the Good News cards; before the console is left, act.
+    void PrintNews(const std::function<void(QWidget& console)>& act = {}) {
+        ModalSteps person;
+        person.In("frmTavlPrint", [act](QWidget& console) {
+            ClickIn(console, "cmdNav_3");
+            ClickIn(console, "cmdPrint_5");
+            if (act) act(console);
+            if (console.isVisible()) ClickIn(console, "cmdCancel");
+        });
+        person.In("frmPrntPrep", [](QWidget& paper) { ClickIn(paper, "cmd_2"); });
+        ClickButton(3);
+    }
+
+    TestPrinter printer;
+    EditorWindows doors;
+};
+
+} // namespace
+
+TEST_F(PrintDoorTest, TheConsolePrintsTheGameOfTheMainWindow) {
+    PrintNews();
+    EXPECT_EQ(printer.ended, QStringList{QStringLiteral("Ours - Good News Cards")});
+    EXPECT_TRUE(window->m_bPrintedSomething);
+    ChooseMenu("mnuFile_6");
+    EXPECT_EQ(desktop.Texts(),
+              QStringList{QStringLiteral("Sorry, but you can't change printers once you have started the printing "
+                                         "process.\r\nPlease stop and restart the program before changing printers.")});
+}
+
+TEST_F(PrintDoorTest, TheNextOpeningStillRefusesToChangeThePrinter) {
+    PrintNews();
+    ModalSteps person;
+    person.In("frmTavlPrint", [](QWidget& console) {
+        ClickIn(console, "cmdChangePrinter");
+        ClickIn(console, "cmdCancel");
+    });
+    ChooseMenu("mnuFile_7");
+    EXPECT_EQ(desktop.boxes.size(), 1);
+}
+
+TEST_F(PrintDoorTest, DoneDuringAJobLeavesTheMainWindowDisabledAndTheProgramOpenUntilThePageIsFinished) {
+    bool acted = false;
+    desktop.onPump = [&] {
+        if (std::exchange(acted, true)) return;
+        QWidget& console = *QApplication::activeModalWidget();
+        EXPECT_TRUE(console.isEnabled());
+        ClickIn(console, "cmdCancel");
+        EXPECT_FALSE(console.isVisible());
+        EXPECT_FALSE(window->isEnabled());
+        EXPECT_TRUE(window->bInPrint);
+        window->close();
+        EXPECT_TRUE(window->isVisible()) << "closing is refused";
+        ClickButton(3);
+        EXPECT_TRUE(printer.ended.isEmpty());
+    };
+    PrintNews();
+    EXPECT_TRUE(acted);
+    EXPECT_EQ(printer.ended.size(), 1) << "the job went on";
+    EXPECT_TRUE(window->isEnabled());
+    EXPECT_FALSE(window->bInPrint);
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+    EXPECT_FALSE(desktop.ended);
+}
+
+TEST_F(PrintDoorTest, TheBoardIsNotPaintedWhileAPageIs) {
+    bool painted = true;
+    desktop.onPump = [&] {
+        window->Board().SetBackColor(Color::Rgb(1, 2, 3));
+        window->Redraw();
+        painted = window->Board().Image().pixel(50, 50) != qRgb(1, 2, 3);
+    };
+    PrintNews();
+    desktop.onPump = nullptr;
+    EXPECT_FALSE(painted);
+}
+
+TEST_F(PrintDoorTest, TheConsoleStaysAliveWhileAPageIsPrinted) {
+    bool acted = false;
+    desktop.onPump = [&] {
+        if (std::exchange(acted, true)) return;
+        QWidget& console = *QApplication::activeModalWidget();
+        ClickIn(console, "cmdNav_0");
+        EXPECT_TRUE(console.findChild<QWidget*>(QStringLiteral("fraPrint_0"))->isVisible());
+    };
+    PrintNews(
+        [](QWidget& console) { EXPECT_TRUE(console.findChild<QWidget*>(QStringLiteral("fraPrint_0"))->isVisible()); });
+    EXPECT_TRUE(acted);
+}
+
+TEST_F(PrintDoorTest, TheColourOfSetupIsTheInkAtOnce) {
+    const auto choose = [this](const char* blue, bool defaults) {
+        ModalSteps person;
+        person.In("frmColor", [&](QWidget& setup) {
+            auto& box = ::Find<QCheckBox>(setup, "chkUseDefaults");
+            if (box.isChecked() != defaults) box.click();
+            if (!defaults) ::Find<QLineEdit>(setup, "txtColor_2").setText(QString::fromLatin1(blue));
+            ::Find<QLineEdit>(setup, "txtColor_2").setFocus();
+            ClickIn(setup, "cmdOK");
+        });
+        ChooseMenu("mnuView_8");
+        return basTAVL::g_lPrintBlack();
+    };
+    EXPECT_EQ(choose("60", false), Color::Rgb(10, 10, 60));
+    EXPECT_EQ(choose("", true), Color::Black()) << "the kit's own again";
+}
