@@ -22,12 +22,18 @@ open_console() {
     see_window '^Print Your Own Tavlo$'
 }
 
+# A button shows for a moment that it is pressed, and acts after that.
+press_button() {
+    press "$1"
+    sleep 0.3
+}
+
 # choose_sheet MENU_KEY BUTTON_KEY: as far as the question about the paper.
 choose_sheet() {
     see_window '^Print Your Own Tavlo$'
-    press alt+m
-    press "$1"
-    press "$2"
+    press_button alt+m
+    press_button "$1"
+    press_button "$2"
     see_window '^Select Test Sheet or Final $'
 }
 
