@@ -12,9 +12,6 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
     return 0;
 }
 
-// The system's font library keeps what it read of its font files until the end.
-extern "C" const char* __lsan_default_suppressions() { return "leak:libfontconfig\n"; }
-
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     QString error;
     const QByteArray bytes(reinterpret_cast<const char*>(data), qsizetype(size));
