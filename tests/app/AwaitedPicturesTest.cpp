@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+// Photographs that the board has to wait for: it stands at once, and they come as they are decoded.
+#include "MainWindowFixture.h"
+#include "support/PictureFiles.h"
+
+#include "platform/LoadPicture.h"
+
+namespace {
+
+constexpr int kSpace = 4;
+const QColor kPurple(200, 0, 200);
+constexpr int kEnough = 100;
+constexpr int kMilliseconds = 20000;
+constexpr int kLongerThanDecoding = 400;
+
+} // namespace
+
+class AwaitedPicturesTest : public MainWindowTest {
+protected:
+    AwaitedPicturesTest() {
+        QImage image(2400, 2400, QImage::Format_RGB32);
+        image.fill(kPurple);
+        m_photo = WriteFile(QStringLiteral("games/photo.bmp"), PictureFiles::Encoded(image, "BMP"));
+        ForgetPictures();
+    }
+    ~AwaitedPicturesTest() override { ForgetPictures(); }
+
+    /// Clicks the space, whose editor hands back the photograph.
+    void ChoosePhoto() {
+        routes.onEdit = [this] {
+            basTAVL::g_oSpaces(kSpace).SetImagePath(m_photo);
+            return true;
+        };
+        const QPointF middle = MiddleOf(kSpace);
+        ClickBoard(middle.x(), middle.y());
+        ASSERT_EQ(routes.Take(), Strings{QStringLiteral("space %1").arg(kSpace)});
+    }
+
+    /// Pixels of the photograph's colour on the space, as the window shows it.
+    int PurplePixels() const {
+        const QImage seen = window->Board().grab().toImage();
+        const basPosit::BoardRect& rect = basPosit::m_SpaceRect(kSpace, basPosit::SpacePart::Whole);
+        const QPoint first = PointOnBoard(double(std::min(rect.x1, rect.x2)), double(std::min(rect.y1, rect.y2)));
+        const QPoint last = PointOnBoard(double(std::max(rect.x1, rect.x2)), double(std::max(rect.y1, rect.y2)));
+        int count = 0;
+        for (int y = first.y(); y <= last.y(); ++y) {
+            for (int x = first.x(); x <= last.x(); ++x)
+                count += seen.pixelColor(x, y) == kPurple ? 1 : 0;
+        }
+        return count;
+    }
+
+private:
+    QString m_photo;
+};
+
+TEST_F(AwaitedPicturesTest, PictureComesByItselfBehindTheBoard) {
+    ChoosePhoto();
+    EXPECT_EQ(PurplePixels(), 0) << "the board doesn't wait for it";
+    EXPECT_TRUE(QTest::qWaitFor([this] { return PurplePixels() > kEnough; }, kMilliseconds));
+    // What came later is part of the board as if it had been there at once.
+    const QImage filledIn = window->Board().Image();
+    window->Redraw();
+    EXPECT_EQ(window->Board().Image(), filledIn);
+}
+
+TEST_F(AwaitedPicturesTest, PictureWaitsWhileAnotherWindowStandsOnTop) {
+    ChoosePhoto();
+    WithModal("frmAbout", [this](QWidget&) {
+        QTest::qWait(kLongerThanDecoding);
+        EXPECT_EQ(PurplePixels(), 0) << "the window on top may be drawing";
+    });
+    ChooseMenu("mnuView_9");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return PurplePixels() > kEnough; }, kMilliseconds));
+}
+
+TEST_F(AwaitedPicturesTest, PictureThatCannotBeReadIsToldOnceAndTheRestOfTheBoardStays) {
+    WriteFile(QStringLiteral("games/photo.bmp"), QByteArray("BM no picture"));
+    ChoosePhoto();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !desktop.boxes.isEmpty(); }, kMilliseconds));
+    QTest::qWait(kLongerThanDecoding);
+    Strings told = desktop.Texts();
+    window->Redraw();
+    QTest::qWait(kLongerThanDecoding);
+    EXPECT_EQ(desktop.Texts(), told);
+    EXPECT_EQ(told.removeDuplicates(), 0);
+    EXPECT_EQ(PurplePixels(), 0);
+    EXPECT_EQ(SeenAt(0.5, 0.45), Color::FromValue(0xFFB000));
+}
