@@ -2,10 +2,12 @@
 #include "platform/Printer.h"
 #include "platform/SystemPrinter.h"
 
+#include "platform/DesktopWidgets.h"
 #include "platform/Files.h"
 #include "support/TestFixture.h"
 
 #include <QDir>
+#include <QPrinterInfo>
 #include <QProcess>
 
 namespace {
@@ -99,4 +101,27 @@ TEST_F(PrinterTest, AFolderThatCannotBeMadeIsTold) {
     printer.EndDoc();
     EXPECT_TRUE(printer.LastPdf().isEmpty());
     EXPECT_FALSE(printer.LastError().isEmpty());
+}
+
+TEST_F(PrinterTest, AKilledDocumentOfTheDesktopLeavesNoFileAndTheNextOneIsFresh) {
+    SystemPrinter printer(PathOf(QStringLiteral("Printed")));
+    if (!printer.PrintsToPdf()) GTEST_SKIP() << "a printer is set up on this machine";
+    printer.SetDocumentName(QStringLiteral("Half a page"));
+    printer.hDC().FillRect(0, 0, 100, 100, Color::Black());
+    printer.KillDoc();
+    EXPECT_TRUE(QDir(PathOf(QStringLiteral("Printed"))).entryList(QDir::Files).isEmpty());
+    printer.SetDocumentName(QStringLiteral("Whole"));
+    printer.EndDoc();
+    EXPECT_EQ(printer.LastPdf(), PathOf(QStringLiteral("Printed/Whole.pdf")));
+    EXPECT_TRUE(printer.DeviceName().isEmpty());
+}
+
+TEST_F(PrinterTest, WithoutAPrinterTheDialogSaysThatThereIsNone) {
+    if (!QPrinterInfo::availablePrinterNames().isEmpty()) GTEST_SKIP() << "a printer is set up on this machine";
+    DesktopWidgets widgets;
+    CommonDialog dialog;
+    dialog.bPrinterDefault = true;
+    EXPECT_FALSE(widgets.ShowPrinter(dialog));
+    EXPECT_EQ(dialog.sError, QStringLiteral("No printer is set up on this computer. Each sheet becomes a PDF file "
+                                            "instead, which can be printed from any computer."));
 }

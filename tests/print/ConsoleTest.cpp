@@ -2,6 +2,9 @@
 // The print console as a person works it, with a printer and a disk of the test's making.
 #include "ConsoleFixture.h"
 
+#include "platform/PictureBox.h"
+#include "print/frmPrintTest.h"
+
 namespace {
 
 constexpr int kBox = 0;
@@ -475,4 +478,25 @@ TEST_F(ConsoleTest, TheAidsForRecolouringMoneyWork) {
     test.show();
     QTest::mouseClick(&test, Qt::LeftButton);
     EXPECT_TRUE(test.isHidden());
+}
+
+TEST_F(ConsoleTest, TheTestWindowOpensTheConsoleAndShowsPagesWhole) {
+    frmPrintTest door;
+    ModalSteps person;
+    person.In("frmTavlPrint", [&](QWidget& window) {
+        door.Console().bPrintOnScreen = true;
+        Click(window, "cmdNav_5");
+        Click(window, "cmdPrint_11");
+        Click(window, "cmdCancel");
+    });
+    person.In("frmPrntPrep", [](QWidget& window) { Click(window, "cmd_2"); });
+    person.In("frmPrintTest", [](QWidget& window) {
+        EXPECT_EQ(window.windowTitle(), QStringLiteral("Form as dest for printing simulator"));
+        const QSize page = Find<PictureBox>(window, "picPage").size();
+        EXPECT_NEAR(double(page.width()) / page.height(), 8.0 / 10.5, 0.01);
+        EXPECT_TRUE(Screen::FreeArea().size().width() >= page.width());
+        window.close();
+    });
+    EXPECT_TRUE(door.ShowForm(false));
+    EXPECT_TRUE(printer.ended.isEmpty());
 }
