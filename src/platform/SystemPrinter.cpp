@@ -2,12 +2,16 @@
 #include "platform/SystemPrinter.h"
 
 #include "platform/Files.h"
+#include "platform/Recording.h"
 
 #include <QPageLayout>
 #include <QPrinter>
 #include <QPrinterInfo>
 
 namespace {
+
+constexpr QPainter::RenderHints kHints =
+    QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::LosslessImageRendering;
 
 QString AsFileName(QString sName) {
     for (QChar& c : sName) {
@@ -31,6 +35,8 @@ QPrinter& SystemPrinter::Device() const {
     const QPageSize paper = QPrinterInfo::defaultPrinter().defaultPageSize();
     m_device->setPageSize(paper.isValid() && !PrintsToPdf() ? paper : QPageSize(QPageSize::Letter));
     m_device->setFullPage(false);
+    // A queue that knows nothing of its printer would print in greys.
+    m_device->setColorMode(QPrinter::Color);
     m_device->setCreator(QStringLiteral("Tavlora"));
     return *m_device;
 }
@@ -50,27 +56,14 @@ QString SystemPrinter::PdfPath() const {
     return m_pdfFolder + u'/' + AsFileName(m_documentName) + QStringLiteral(".pdf");
 }
 
-void SystemPrinter::OpenJob() {
-    const bool landscape = m_orientation == PageOrientation::Landscape;
-    m_device->setPageOrientation(landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
-    m_device->setDocName(m_documentName);
-    m_painter = std::make_unique<QPainter>();
-    if (!m_painter->begin(m_device.get())) {
-        m_lastError = QStringLiteral("The printer '%1' can't be opened").arg(m_device->printerName());
-        m_painter.reset();
-        m_nowhere = QImage(1, 1, QImage::Format_RGB32);
-        m_context = std::make_unique<DeviceContext>(m_nowhere);
-        return;
-    }
-    m_painter->setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::LosslessImageRendering);
-    m_context = std::make_unique<DeviceContext>(*m_painter);
-}
-
 void SystemPrinter::OpenDocument() {
     m_lastPdf.clear();
     m_lastError.clear();
     if (!PrintsToPdf()) {
-        OpenJob();
+        m_page = std::make_unique<Recording>(SizeInPixels(), DotsPerInch());
+        m_painter = std::make_unique<QPainter>(m_page.get());
+        m_painter->setRenderHints(kHints);
+        m_context = std::make_unique<DeviceContext>(*m_painter);
         return;
     }
     QString error;
@@ -104,13 +97,29 @@ void SystemPrinter::EndDoc() {
         return;
     }
     m_context.reset();
-    if (m_painter && !m_painter->end()) m_lastError = QStringLiteral("The printer reported a failure");
     m_painter.reset();
+    SendJob();
+    m_page.reset();
+}
+
+void SystemPrinter::SendJob() {
+    const bool landscape = m_orientation == PageOrientation::Landscape;
+    QPrinter& device = Device();
+    device.setPageOrientation(landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
+    device.setDocName(m_documentName);
+    QPainter painter;
+    if (!painter.begin(&device)) {
+        m_lastError = QStringLiteral("The printer '%1' can't be opened").arg(device.printerName());
+        return;
+    }
+    painter.setRenderHints(kHints);
+    m_page->Play(painter, QRectF(QPointF(0, 0), m_page->Size()));
+    if (!painter.end()) m_lastError = QStringLiteral("The printer reported a failure");
 }
 
 void SystemPrinter::KillDoc() {
     m_pdf.reset();
     m_context.reset();
-    if (m_painter) m_device->abort();
     m_painter.reset();
+    m_page.reset();
 }

@@ -4,6 +4,7 @@
 #include "platform/Printer.h"
 
 class QPrinter;
+class Recording;
 
 /// The printer of the desktop: the default one or the one that the user chose. Where none is set up, each
 /// document becomes a PDF file, and whoever asks is told where it lies.
@@ -34,7 +35,7 @@ public:
 
 private:
     void OpenDocument();
-    void OpenJob();
+    void SendJob();
     QString PdfPath() const;
 
     QString m_pdfFolder;
@@ -45,8 +46,8 @@ private:
     /// Made when it is first asked for: looking for the printers of a network takes its time.
     mutable std::unique_ptr<QPrinter> m_device;
     std::unique_ptr<PdfPrinter> m_pdf;
+    // A page for a device is kept until it is whole: the toolkit can't take a begun job back.
+    std::unique_ptr<Recording> m_page;
     std::unique_ptr<QPainter> m_painter;
     std::unique_ptr<DeviceContext> m_context;
-    // Where drawing goes when the job can't be begun, so that the failure is told once, by EndDoc.
-    QImage m_nowhere;
 };

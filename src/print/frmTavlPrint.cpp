@@ -218,14 +218,12 @@ void frmTavlPrint::MarkDone(int Index, const QString& sDone) {
 }
 
 void frmTavlPrint::CloseDocument(Printer& printer) {
-    // A job that the printer didn't even take is worth a word; what it reports afterwards isn't told, as it
-    // usually tells of it itself.
-    const bool refused = !printer.LastError().isEmpty();
     printer.EndDoc();
     if (bPrintOnScreen) ShowPage(m_screen.Page());
     m_sWrittenPdf = printer.LastPdf();
     if (printer.LastError().isEmpty()) return;
-    if (refused || printer.DeviceName().isEmpty()) m_sFailure = printer.LastError();
+    // What a device reports isn't told, as the desktop tells of it itself; of a file nobody else does.
+    if (printer.DeviceName().isEmpty()) m_sFailure = printer.LastError();
     const QString message = QStringLiteral("Your printer has reported a problem. "
                                            "Please close this game and make sure that your computer has "
                                            "50 to 100 MB of free disk space to use as a print buffer. "

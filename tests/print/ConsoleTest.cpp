@@ -357,13 +357,6 @@ TEST_F(ConsoleTest, WhatThePrinterReportsAtTheEndIsLoggedAndNotShown) {
     EXPECT_FALSE(Hourglass());
 }
 
-TEST_F(ConsoleTest, AJobThatThePrinterRefusesIsTold) {
-    printer.error = QStringLiteral("The printer 'Laser' can't be opened");
-    Print(kRules);
-    EXPECT_EQ(desktop.Texts(), QStringList{QStringLiteral("This sheet could not be printed.\r\n\r\nThe printer 'Laser' "
-                                                          "can't be opened")});
-}
-
 TEST_F(ConsoleTest, APdfFileIsNamedAndHasToBePrintedAtActualSize) {
     printer.device.clear();
     printer.pdf = QStringLiteral("/home/anna/Printed/Ours - Rules.pdf");
