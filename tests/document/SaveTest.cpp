@@ -175,7 +175,7 @@ TEST_F(SaveTest, GameSavedUnderAnotherNameStaysUnsaved) {
     EXPECT_TRUE(Files::Exists(autosave));
 }
 
-TEST_F(SaveTest, Edge_FirstChangeWritesTheAutosaveTheSecondItsBackupAndASaveRemovesBoth) {
+TEST_F(SaveTest, FirstChangeWritesTheAutosaveTheSecondItsBackupAndASaveRemovesBoth) {
     Edit(QStringLiteral("one"));
     EXPECT_TRUE(ReadFile(autosave).contains("\"one\""));
     EXPECT_FALSE(Files::Exists(backup));
