@@ -6,8 +6,8 @@
 #include "app/GameKit.h"
 #include "board/basPositPaint.h"
 #include "document/basTAVL.h"
-#include "document/GameFile.h"
-#include "images/frmBMP.h"
+#include "game/GameFile.h"
+#include "rendering/frmBMP.h"
 
 void LoadFamilyWith(const BenchPhotos& photos) {
     GameKit::SetUp(QStringLiteral("tavlora"));

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "BenchHost.h"
 
-#include "app/services/basCommon.h"
-#include "app/services/basErrLog.h"
 #include "board/basPosit.h"
 #include "platform/ProgramSettings.h"
+#include "services/basCommon.h"
+#include "services/basErrLog.h"
 
 BenchHost::BenchHost() {
     Settings().sMyGamesDirectory = m_folder.Path();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "document/GameSession.h"
+#include "game/GameSession.h"
 #include "platform/Console.h"
 
 /// What the benchmarks run in: a folder of their own as My Games directory, the data of the build, and a

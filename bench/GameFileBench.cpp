@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "app/services/basCommon.h"
-#include "document/GameFile.h"
+#include "game/GameFile.h"
 #include "platform/TextFile.h"
+#include "services/basCommon.h"
 
 #include <benchmark/benchmark.h>
 

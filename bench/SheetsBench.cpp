@@ -3,10 +3,10 @@
 #include "BenchGame.h"
 #include "BenchPhotos.h"
 
-#include "app/services/basPath.h"
 #include "platform/Files.h"
 #include "platform/LoadPicture.h"
 #include "platform/Printer.h"
+#include "services/basPath.h"
 #include "tools/PrintSheets.h"
 
 #include <benchmark/benchmark.h>

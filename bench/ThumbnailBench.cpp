@@ -5,9 +5,9 @@
 // had before the first picture.
 #include "PeakMemory.h"
 
-#include "images/C_Image.h"
-#include "images/frmBMP.h"
+#include "pictures/C_Image.h"
 #include "platform/LoadPicture.h"
+#include "rendering/frmBMP.h"
 
 #include <benchmark/benchmark.h>
 

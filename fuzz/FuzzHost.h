@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/services/basErrLog.h"
-#include "app/services/basMsgQueue.h"
-#include "board/basDraw.h"
 #include "document/basTAVL.h"
-#include "document/GameSession.h"
-#include "images/C_Image.h"
+#include "drawing/basDraw.h"
+#include "game/GameSession.h"
+#include "pictures/C_Image.h"
 #include "platform/Console.h"
 #include "platform/Desktop.h"
 #include "platform/Files.h"
 #include "platform/ProgramSettings.h"
+#include "services/basErrLog.h"
+#include "services/basMsgQueue.h"
 
 #include <QByteArray>
 #include <QGuiApplication>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Takes any bytes for the heads, table and rows of a bitmap file: asks what it is, copies it in another
 // colour, and reads the copy again.
-#include "images/basBMP.h"
+#include "drawing/basBMP.h"
 #include "platform/BinaryFile.h"
 #include "platform/Desktop.h"
 #include "platform/Files.h"

@@ -2,8 +2,8 @@
 // Loads any bytes as a game. What loads is saved and loaded again, and must load.
 #include "FuzzHost.h"
 
-#include "app/services/basPath.h"
-#include "document/GameFile.h"
+#include "game/GameFile.h"
+#include "services/basPath.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     FuzzHost& host = FuzzHost::Get();

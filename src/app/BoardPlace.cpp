@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "app/BoardPlace.h"
 
-#include "app/services/basErrLog.h"
 #include "board/basPosit.h"
 #include "platform/Numbers.h"
+#include "services/basErrLog.h"
 
 #include <array>
 

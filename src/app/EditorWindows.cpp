@@ -3,16 +3,16 @@
 
 #include "app/frmTAVL.h"
 #include "app/GameKit.h"
-#include "editors/frmEditCenter.h"
-#include "editors/frmEditCorner.h"
-#include "editors/frmEditMoney.h"
-#include "editors/frmEditSpace.h"
-#include "editors/frmShowNews.h"
-#include "editors/frmShowTokens.h"
 #include "platform/ProgramSettings.h"
-#include "print/frmColor.h"
-#include "print/frmPrintTest.h"
-#include "print/frmTavlPrint.h"
+#include "windows/editors/frmEditCenter.h"
+#include "windows/editors/frmEditCorner.h"
+#include "windows/editors/frmEditMoney.h"
+#include "windows/editors/frmEditSpace.h"
+#include "windows/editors/frmShowNews.h"
+#include "windows/editors/frmShowTokens.h"
+#include "windows/print/frmColor.h"
+#include "windows/print/frmPrintTest.h"
+#include "windows/print/frmTavlPrint.h"
 
 bool EditorWindows::EditSpace(int iSpace) {
     if (!m_frmEditSpace) m_frmEditSpace = new frmEditSpace(&m_main);

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "app/GameKit.h"
 
-#include "app/services/basCommon.h"
-#include "app/services/basErrLog.h"
 #include "document/basTAVL.h"
 #include "platform/Numbers.h"
-#include "print/PrintBlackAs.h"
+#include "rendering/PrintBlackAs.h"
+#include "services/basCommon.h"
+#include "services/basErrLog.h"
 
 #include <array>
 

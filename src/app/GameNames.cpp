@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "app/GameNames.h"
 
-#include "app/services/basErrLog.h"
-#include "app/services/basPath.h"
 #include "platform/Numbers.h"
+#include "services/basErrLog.h"
+#include "services/basPath.h"
 
 namespace GameNames {
 namespace {

@@ -3,9 +3,6 @@
 
 #include "app/EditorWindows.h"
 #include "app/frmTAVL.h"
-#include "app/services/basErrLog.h"
-#include "app/services/basPath.h"
-#include "images/frmBMP.h"
 #include "platform/Application.h"
 #include "platform/DesktopWidgets.h"
 #include "platform/Folders.h"
@@ -14,6 +11,9 @@
 #include "platform/ProgramSettings.h"
 #include "platform/SystemPrinter.h"
 #include "platform/WidgetLook.h"
+#include "rendering/frmBMP.h"
+#include "services/basErrLog.h"
+#include "services/basPath.h"
 
 namespace {
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "app/frmAbout.h"
 
-#include "app/services/basCommon.h"
-#include "app/services/basErrLog.h"
 #include "platform/Desktop.h"
 #include "platform/Folders.h"
 #include "platform/WidgetLook.h"
+#include "services/basCommon.h"
+#include "services/basErrLog.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

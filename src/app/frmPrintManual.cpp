@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "app/frmPrintManual.h"
 
-#include "app/services/basCommon.h"
-#include "app/services/basErrLog.h"
 #include "platform/Folders.h"
 #include "platform/WebPage.h"
 #include "platform/WidgetLook.h"
+#include "services/basCommon.h"
+#include "services/basErrLog.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

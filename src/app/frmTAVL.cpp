@@ -2,11 +2,11 @@
 #include "app/frmTAVL.h"
 
 #include "app/frmAbout.h"
-#include "app/services/basErrLog.h"
 #include "board/basPosit.h"
 #include "platform/PictureBox.h"
 #include "platform/Screen.h"
 #include "platform/WidgetLook.h"
+#include "services/basErrLog.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>

@@ -4,7 +4,7 @@
 #include "app/BoardPlace.h"
 #include "app/MainLayout.h"
 #include "app/ToolBarTable.h"
-#include "document/GameSession.h"
+#include "game/GameSession.h"
 #include "platform/Color.h"
 #include "platform/Desktop.h"
 

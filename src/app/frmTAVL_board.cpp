@@ -2,17 +2,17 @@
 #include "app/frmTAVL.h"
 
 #include "app/EditorRoutes.h"
-#include "app/services/basErrLog.h"
-#include "app/services/basMsgQueue.h"
-#include "app/services/basPath.h"
 #include "board/basPosit.h"
 #include "board/basPositPaint.h"
 #include "document/basTAVL.h"
-#include "images/basBMP.h"
+#include "drawing/basBMP.h"
 #include "platform/Numbers.h"
 #include "platform/PictureBox.h"
 #include "platform/Screen.h"
 #include "platform/WidgetLook.h"
+#include "services/basErrLog.h"
+#include "services/basMsgQueue.h"
+#include "services/basPath.h"
 
 #include <QApplication>
 #include <QLabel>

@@ -2,14 +2,14 @@
 #include "app/frmTAVL.h"
 
 #include "app/GameNames.h"
-#include "app/services/basCommon.h"
-#include "app/services/basErrLog.h"
-#include "document/Autosave.h"
-#include "document/GameFile.h"
 #include "document/Locale.h"
+#include "game/Autosave.h"
+#include "game/GameFile.h"
 #include "platform/Folders.h"
 #include "platform/PictureBox.h"
 #include "platform/WidgetLook.h"
+#include "services/basCommon.h"
+#include "services/basErrLog.h"
 
 #include <QApplication>
 

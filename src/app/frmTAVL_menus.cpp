@@ -4,8 +4,8 @@
 #include "app/EditorRoutes.h"
 #include "app/frmAbout.h"
 #include "app/frmPrintManual.h"
-#include "app/services/basErrLog.h"
-#include "app/services/basPath.h"
+#include "services/basErrLog.h"
+#include "services/basPath.h"
 
 #include <QMenuBar>
 

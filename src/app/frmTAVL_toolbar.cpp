@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "app/frmTAVL.h"
 
-#include "app/services/basErrLog.h"
-#include "app/services/basPath.h"
 #include "platform/Folders.h"
 #include "platform/LoadPicture.h"
 #include "platform/Numbers.h"
 #include "platform/PictureBox.h"
 #include "platform/Screen.h"
 #include "platform/WidgetLook.h"
+#include "services/basErrLog.h"
+#include "services/basPath.h"
 
 #include <QLabel>
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "board/BoardPicture.h"
 
-#include "app/services/basErrLog.h"
 #include "board/basPosit.h"
 #include "board/basPositPaint.h"
 #include "platform/Surface.h"
+#include "services/basErrLog.h"
 
 namespace basPosit {
 namespace {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "board/basPosit.h"
 
-#include "app/services/basErrLog.h"
-#include "board/basDraw.h"
+#include "drawing/basDraw.h"
 #include "platform/Numbers.h"
+#include "services/basErrLog.h"
 
 namespace basPosit {
 namespace {

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "board/basPositFit.h"
 
-#include "app/services/basErrLog.h"
-#include "board/basDraw.h"
 #include "board/basPositTables.h"
 #include "document/basTAVL.h"
+#include "drawing/basDraw.h"
 #include "platform/Numbers.h"
+#include "services/basErrLog.h"
 
 namespace basPosit {
 namespace {

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "board/basPositPaint.h"
 
-#include "app/services/basErrLog.h"
-#include "board/basDraw.h"
 #include "board/basPosit.h"
 #include "board/basPositPaint_state.h"
 #include "document/basTAVL.h"
+#include "drawing/basDraw.h"
 #include "platform/Numbers.h"
+#include "services/basErrLog.h"
 
 using namespace basDraw;
 

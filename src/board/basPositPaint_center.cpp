@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "board/basPositPaint.h"
 
-#include "app/services/basErrLog.h"
-#include "board/basDraw.h"
 #include "board/basPosit.h"
 #include "document/basTAVL.h"
+#include "drawing/basDraw.h"
 #include "platform/Numbers.h"
+#include "services/basErrLog.h"
 
 #include <QRect>
 

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "board/basPositPaint.h"
 
-#include "app/services/basErrLog.h"
-#include "app/services/basPath.h"
-#include "board/basDraw.h"
 #include "board/basPosit.h"
 #include "board/basPositPaint_state.h"
 #include "document/basTAVL.h"
+#include "drawing/basDraw.h"
 #include "platform/Folders.h"
 #include "platform/Numbers.h"
 #include "platform/Surface.h"
+#include "services/basErrLog.h"
+#include "services/basPath.h"
 
 #include <QRect>
 

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "board/basPositRents.h"
 
-#include "app/services/basCommon.h"
-#include "app/services/basErrLog.h"
 #include "document/basTAVL.h"
 #include "document/Locale.h"
 #include "document/Subscript.h"
@@ -12,6 +10,8 @@
 #include "platform/Numbers.h"
 #include "platform/SequentialInput.h"
 #include "platform/TextFile.h"
+#include "services/basCommon.h"
+#include "services/basErrLog.h"
 
 #include <array>
 

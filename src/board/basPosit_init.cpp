@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "board/basPosit.h"
 
-#include "app/services/basErrLog.h"
 #include "document/basTAVL.h"
+#include "services/basErrLog.h"
 
 namespace basPosit {
 namespace {

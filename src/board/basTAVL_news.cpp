@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "board/basTAVL_news.h"
 
-#include "app/services/basErrLog.h"
-#include "board/basDraw.h"
 #include "board/basPositFit.h"
 #include "document/basTAVL.h"
+#include "drawing/basDraw.h"
 #include "platform/ClipScope.h"
 #include "platform/Numbers.h"
 #include "platform/Screen.h"
+#include "services/basErrLog.h"
 
 namespace basTAVL {
 namespace {

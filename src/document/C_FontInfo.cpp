@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "document/C_FontInfo.h"
 
-#include "app/services/basErrLog.h"
-#include "app/services/RecordText.h"
 #include "platform/Numbers.h"
+#include "services/basErrLog.h"
+#include "services/RecordText.h"
 
 #include <cmath>
 

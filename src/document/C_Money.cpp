@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "document/C_Money.h"
 
-#include "app/services/basErrLog.h"
-#include "app/services/RecordText.h"
 #include "document/Subscript.h"
 #include "platform/Numbers.h"
+#include "services/basErrLog.h"
+#include "services/RecordText.h"
 
 QString C_Money::Text(int iIndex) const { return m_sText[CheckedSubscript(iIndex, kTexts)]; }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "images/C_Image.h"
+#include "pictures/C_Image.h"
 #include "platform/Color.h"
 
 #include <array>

@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "document/C_Money.h"
 
-#include "app/services/basErrLog.h"
-#include "app/services/basMsgQueue.h"
-#include "app/services/basPath.h"
-#include "board/basDraw.h"
-#include "board/DrawDottedBox.h"
-#include "images/basBMP.h"
-#include "images/basBMP_metafile.h"
-#include "images/clsBMP.h"
+#include "drawing/basBMP.h"
+#include "drawing/basBMP_metafile.h"
+#include "drawing/basDraw.h"
+#include "drawing/clsBMP.h"
+#include "drawing/DrawDottedBox.h"
 #include "platform/Desktop.h"
 #include "platform/Folders.h"
 #include "platform/LoadPicture.h"
@@ -17,6 +14,9 @@
 #include "platform/PictureMask.h"
 #include "platform/ProgramSettings.h"
 #include "platform/Surface.h"
+#include "services/basErrLog.h"
+#include "services/basMsgQueue.h"
+#include "services/basPath.h"
 
 #include <algorithm>
 

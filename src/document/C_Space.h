@@ -3,7 +3,7 @@
 
 #include "document/C_FontInfo.h"
 #include "document/TextLines.h"
-#include "images/C_Image.h"
+#include "pictures/C_Image.h"
 #include "platform/Color.h"
 
 /// One of the 28 spaces along the sides of the board.

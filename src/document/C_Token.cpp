@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "document/C_Token.h"
 
-#include "app/services/basCommon.h"
-#include "app/services/basErrLog.h"
-#include "app/services/RecordText.h"
 #include "document/RecordFields.h"
+#include "services/basCommon.h"
+#include "services/basErrLog.h"
+#include "services/RecordText.h"
 
 namespace {
 

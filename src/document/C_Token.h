@@ -3,7 +3,7 @@
 
 #include "document/C_FontInfo.h"
 #include "document/TextLines.h"
-#include "images/C_Image.h"
+#include "pictures/C_Image.h"
 #include "platform/Color.h"
 
 class PictureHolder;

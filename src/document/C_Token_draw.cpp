@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "document/C_Token.h"
 
-#include "app/services/basErrLog.h"
-#include "board/basDraw.h"
-#include "images/basBMP.h"
-#include "images/basBMP_metafile.h"
+#include "drawing/basBMP.h"
+#include "drawing/basBMP_metafile.h"
+#include "drawing/basDraw.h"
 #include "platform/ClipScope.h"
 #include "platform/Numbers.h"
 #include "platform/PictureHolder.h"
 #include "platform/Surface.h"
+#include "services/basErrLog.h"
 
 #include <QRect>
 

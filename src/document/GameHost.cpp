@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "document/GameHost.h"
 
-#include "app/services/basErrLog.h"
+#include "services/basErrLog.h"
 
 #include <utility>
 

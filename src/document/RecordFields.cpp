@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "document/RecordFields.h"
 
-#include "app/services/basErrLog.h"
-#include "app/services/RecordText.h"
 #include "document/C_FontInfo.h"
-#include "images/C_Image.h"
+#include "pictures/C_Image.h"
 #include "platform/Numbers.h"
+#include "services/basErrLog.h"
+#include "services/RecordText.h"
 
 const QString kNotFilledIn = QStringLiteral("Not Filled In");
 

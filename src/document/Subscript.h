@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/services/TavloraError.h"
+#include "services/TavloraError.h"
 
 #include <cstddef>
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "document/TextLines.h"
 
-#include "app/services/basErrLog.h"
-#include "board/basDraw.h"
 #include "document/C_FontInfo.h"
 #include "document/Subscript.h"
+#include "drawing/basDraw.h"
 #include "platform/Numbers.h"
 #include "platform/TextColumns.h"
+#include "services/basErrLog.h"
 
 namespace {
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/services/RecordText.h"
 #include "document/C_Corner.h"
 #include "document/C_Money.h"
 #include "document/C_News.h"
 #include "document/C_Space.h"
 #include "document/C_Token.h"
 #include "platform/Color.h"
+#include "services/RecordText.h"
 
 #include <QString>
 

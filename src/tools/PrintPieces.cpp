@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "tools/PrintPieces.h"
 
-#include "app/services/basPath.h"
 #include "board/basPositTables.h"
 #include "document/basTAVL.h"
-#include "images/frmBMP.h"
 #include "platform/LoadPicture.h"
 #include "platform/SavePicture.h"
-#include "print/DeedCards.h"
-#include "print/MadePicture.h"
-#include "print/NewsSheet.h"
-#include "print/TitlePictures.h"
+#include "rendering/DeedCards.h"
+#include "rendering/frmBMP.h"
+#include "rendering/MadePicture.h"
+#include "rendering/NewsSheet.h"
+#include "rendering/TitlePictures.h"
+#include "services/basPath.h"
 
 namespace {
 

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "tools/PrintSheets.h"
 
-#include "app/services/basErrLog.h"
 #include "document/basTAVL.h"
 #include "platform/Desktop.h"
 #include "platform/LoadPicture.h"
-#include "print/DeedCards.h"
-#include "print/LabelSheets.h"
-#include "print/MoneySheet.h"
-#include "print/NewsSheet.h"
-#include "print/RulesSheet.h"
+#include "rendering/DeedCards.h"
+#include "rendering/LabelSheets.h"
+#include "rendering/MoneySheet.h"
+#include "rendering/NewsSheet.h"
+#include "rendering/RulesSheet.h"
+#include "services/basErrLog.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/Printer.h"
-#include "print/SheetJob.h"
+#include "rendering/SheetJob.h"
 
 #include <QString>
 

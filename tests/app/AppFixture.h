@@ -3,16 +3,16 @@
 
 #include "app/EditorRoutes.h"
 #include "app/frmTAVL.h"
-#include "app/services/basCommon.h"
-#include "app/services/basErrLog.h"
-#include "board/basDraw.h"
 #include "board/basPosit.h"
-#include "document/Autosave.h"
 #include "document/basTAVL.h"
-#include "images/frmBMP.h"
+#include "drawing/basDraw.h"
+#include "game/Autosave.h"
 #include "platform/PictureBox.h"
 #include "platform/ProgramSettings.h"
 #include "platform/Screen.h"
+#include "rendering/frmBMP.h"
+#include "services/basCommon.h"
+#include "services/basErrLog.h"
 #include "support/TestFixture.h"
 
 #include <QAction>

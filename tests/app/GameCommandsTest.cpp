@@ -3,7 +3,7 @@
 #include "AppFixture.h"
 
 #include "app/GameNames.h"
-#include "document/SampleGames.h"
+#include "game/SampleGames.h"
 
 namespace {
 

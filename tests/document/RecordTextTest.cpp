@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/services/RecordText.h"
+#include "services/RecordText.h"
 
 #include "support/GameFixture.h"
 

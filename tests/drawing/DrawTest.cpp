@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "board/basDraw.h"
+#include "drawing/basDraw.h"
 
-#include "app/services/basErrLog.h"
 #include "platform/Numbers.h"
 #include "platform/Surface.h"
+#include "services/basErrLog.h"
 #include "support/TestFixture.h"
 
 using namespace basDraw;

@@ -19,29 +19,9 @@ struct Floor {
 
 // The longest prefix that fits decides.
 constexpr Floor kFloors[] = {
-    {"platform/", 1},
-    {"app/services/", 2},
-    {"board/basDraw", 3},
-    {"board/DrawDottedBox", 3},
-    {"images/basBMP", 3},
-    {"images/clsBMP", 3},
-    {"images/C_Image", 4},
-    {"document/", 5},
-    {"board/", 6},
-    {"document/GameFile", 7},
-    {"document/GameSession", 7},
-    {"document/PrintCaptions", 7},
-    {"document/GameHost", 5},
-    {"print/clsRenderDestination", 8},
-    {"images/frmBMP", 9},
-    {"print/", 10},
-    {"print/frm", 11},
-    {"editors/", 11},
-    {"images/frmBrowse", 11},
-    {"images/frmFileName", 11},
-    {"images/frmImagePosition", 11},
-    {"images/", 9},
-    {"app/", 12},
+    {"platform/", 1},        {"services/", 2},   {"drawing/", 3},  {"pictures/", 4},
+    {"document/", 5},        {"board/", 6},      {"game/", 7},     {"rendering/clsRenderDestination", 8},
+    {"rendering/frmBMP", 9}, {"rendering/", 10}, {"windows/", 11}, {"app/", 12},
     {"tools/", 12},
 };
 

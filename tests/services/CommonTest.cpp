@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "app/services/basCommon.h"
+#include "services/basCommon.h"
 
-#include "app/services/basAPI.h"
-#include "app/services/basErrLog.h"
-#include "app/services/basMsgQueue.h"
 #include "platform/ProgramSettings.h"
 #include "platform/Screen.h"
+#include "services/basAPI.h"
+#include "services/basErrLog.h"
+#include "services/basMsgQueue.h"
 #include "support/TestFixture.h"
 
 #include <QWidget>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/services/basErrLog.h"
+#include "services/basErrLog.h"
 
 #include "platform/Files.h"
 #include "support/TestFixture.h"

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "app/services/basPath.h"
+#include "services/basPath.h"
 
-#include "app/services/basGetFolderPath.h"
-#include "app/services/TavloraError.h"
 #include "platform/Folders.h"
 #include "platform/ProgramSettings.h"
+#include "services/basGetFolderPath.h"
+#include "services/TavloraError.h"
 #include "support/TestFixture.h"
 
 #include <QDir>

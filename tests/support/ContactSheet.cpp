@@ -2,11 +2,11 @@
 // Paints what becomes of a picture on the board and beside it, to be looked at: docs/pictures.png.
 //   contact_sheet OUT.png [PHOTO]
 #include "document/basTAVL.h"
-#include "images/C_Image.h"
-#include "images/frmBMP.h"
+#include "pictures/C_Image.h"
 #include "platform/LoadPicture.h"
 #include "platform/ProgramSettings.h"
 #include "platform/Surface.h"
+#include "rendering/frmBMP.h"
 #include "support/PictureFiles.h"
 
 #include <QFile>

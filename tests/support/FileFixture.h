@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/services/basCommon.h"
-#include "document/Autosave.h"
-#include "document/GameFile.h"
-#include "document/GameSession.h"
+#include "game/Autosave.h"
+#include "game/GameFile.h"
+#include "game/GameSession.h"
+#include "services/basCommon.h"
 #include "support/BoardFixture.h"
 
 #include <QFile>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/services/basErrLog.h"
-#include "app/services/TavloraError.h"
-#include "board/basDraw.h"
 #include "document/basTAVL.h"
+#include "drawing/basDraw.h"
 #include "platform/DeviceContext.h"
+#include "services/basErrLog.h"
+#include "services/TavloraError.h"
 #include "support/TestFixture.h"
 
 #include <QImage>

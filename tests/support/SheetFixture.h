@@ -2,13 +2,13 @@
 #pragma once
 
 #include "app/GameKit.h"
-#include "app/services/basCommon.h"
 #include "board/basPosit.h"
-#include "images/frmBMP.h"
 #include "platform/Files.h"
 #include "platform/LoadPicture.h"
 #include "platform/Printer.h"
-#include "print/SheetJob.h"
+#include "rendering/frmBMP.h"
+#include "rendering/SheetJob.h"
+#include "services/basCommon.h"
 #include "support/BoardFixture.h"
 #include "support/PdfReader.h"
 

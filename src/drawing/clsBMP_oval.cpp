@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: MIT
+#include "drawing/clsBMP.h"
+#include "platform/Desktop.h"
+#include "platform/Files.h"
+#include "platform/LoadPicture.h"
+#include "platform/Numbers.h"
+#include "platform/Surface.h"
+#include "services/basErrLog.h"
+#include "services/basMsgQueue.h"
+#include "services/basPath.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+const QString kNewLine = QStringLiteral("\r\n");
+const QString kGap = kNewLine + kNewLine;
+constexpr QRgb kWhite = 0xFFFFFFFF;
+constexpr QRgb kBlack = 0xFF000000;
+
+void Tell(const QString& sText) { basMsgQueue::MsgQueue_Post(sText, vbOKOnly); }
+
+QString InMyGames(const QString& sName) { return basCommon::JoinPath(basCommon::GetMyGamesDirectory(), sName); }
+
+QString CopyOf(const QString& sImagePath) {
+    QString drive, dir, base, ext;
+    basCommon::FileNameFactor(sImagePath, drive, dir, base, ext);
+    return InMyGames(base + QStringLiteral(".8") + ext);
+}
+
+QRgb Grey(QRgb color) {
+    const int mean = CLng((qRed(color) + qGreen(color) + qBlue(color)) / 3.0);
+    return qRgb(mean, mean, mean);
+}
+
+QRgb* RowOf(QImage& image, int y) { return reinterpret_cast<QRgb*>(image.scanLine(y)); }
+
+} // namespace
+
+EllipseSpan EllipseSpan::At(int y, int lW, int lH) {
+    const double a = lW / 2.0;
+    const double b = lH / 2.0;
+    const double dy = std::abs(b - y);
+    const double dx = a * std::sqrt(std::max(1 - dy * dy / (b * b), 0.0));
+    return {CLng(a - dx), CLng(a + dx)};
+}
+
+QImage clsBMP::CutElliptical(const QImage& image, bool bGray) {
+    QImage cut = image.convertToFormat(QImage::Format_RGB32);
+    for (int y = 0; y < cut.height(); ++y) {
+        const EllipseSpan span = EllipseSpan::At(y, cut.width(), cut.height());
+        QRgb* row = RowOf(cut, y);
+        std::fill(row, row + span.iFirst, kWhite);
+        std::fill(row + span.iStop, row + cut.width(), kWhite);
+        if (bGray) std::transform(row + span.iFirst, row + span.iStop, row + span.iFirst, Grey);
+    }
+    return cut;
+}
+
+Picture clsBMP::GetEllipticalWhite() try {
+    const QString sMask = InMyGames(QStringLiteral("WhiteEllipse.dat"));
+    if (!basCommon::DoesFileExist(sMask)) {
+        QImage mask(kOval, QImage::Format_RGB32);
+        for (int y = 0; y < mask.height(); ++y) {
+            const EllipseSpan span = EllipseSpan::At(y, mask.width(), mask.height());
+            QRgb* row = RowOf(mask, y);
+            std::fill(row, row + mask.width(), kBlack);
+            std::fill(row + span.iFirst, row + span.iStop, kWhite);
+        }
+        Let_FullPathToBmpFile(sMask);
+        WriteImage(mask);
+    }
+    QString error;
+    m_oPicture = LoadPicture(sMask, error);
+    return m_oPicture;
+} catch (...) {
+    ErrTail("clsBMP!", "GetEllipticalWhite");
+}
+
+// An old copy that can't be deleted is used all the same.
+bool clsBMP::IsCopyUsable(const QString& sCopy, const QString& sImagePath) {
+    const Files::Stamp copy = Files::StampOf(sCopy);
+    if (copy == Files::Stamp()) return false;
+    if (copy.modifiedMs >= Files::StampOf(Files::InDiskSpelling(sImagePath)).modifiedMs) return true;
+    QString error;
+    if (Files::Remove(sCopy, error)) return false;
+    Tell(QStringLiteral("Unable to delete old file named '") + sCopy + QStringLiteral("'.") + kGap +
+         QStringLiteral("The following error was reported: ") + error + kGap +
+         QStringLiteral("This obsolete version of the file will be used."));
+    return true;
+}
+
+bool clsBMP::MakeEllipticalCopy(const QString& sCopy, const QString& sImagePath, bool bTold, bool bGray) {
+    QString error;
+    const ::Picture picture = LoadPicture(sImagePath, error, std::max(kOval.width(), kOval.height()));
+    if (picture.IsNull()) {
+        if (!bTold) {
+            Tell(QStringLiteral("Unable to load picture named '") + sImagePath + QStringLiteral("'.") + kNewLine +
+                 error + kNewLine + QStringLiteral("Area will be left blank."));
+        }
+        return false;
+    }
+    ScratchForm form(kOval);
+    form.PaintPicture(picture, 0, 0, kOval.width(), kOval.height());
+    Let_FullPathToBmpFile(sCopy);
+    return WriteImage(CutElliptical(form.Image(), bGray));
+}
+
+Picture clsBMP::GetEllipticalPicture(const QString& sImagePath, const QString& sImageBadPath, bool bGray) try {
+    ClearPicture();
+    const bool told = sImagePath == sImageBadPath;
+    if (!basCommon::DoesFileExist(sImagePath)) {
+        if (!told) {
+            // There has never been a blank before "does".
+            Tell(QStringLiteral("The file named '") + sImagePath + QStringLiteral("'does not exist.") + kNewLine +
+                 QStringLiteral("Area will be left empty."));
+        }
+        return {};
+    }
+    const QString sCopy = CopyOf(sImagePath);
+    if (!IsCopyUsable(sCopy, sImagePath) && !MakeEllipticalCopy(sCopy, sImagePath, told, bGray)) return {};
+    QString error;
+    m_oPicture = LoadPicture(sCopy, error);
+    return m_oPicture;
+} catch (...) {
+    ErrTail("clsBMP!", "GetEllipticalPicture", sImagePath, sImageBadPath, bGray);
+}

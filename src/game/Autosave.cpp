@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+#include "game/Autosave.h"
+
+#include "platform/Files.h"
+#include "services/basCommon.h"
+#include "services/basErrLog.h"
+
+#include <optional>
+
+namespace Autosave {
+namespace {
+
+// A save of the game that failed and wasn't made good since.
+struct FailedSave {
+    QString sGameName;
+    QByteArray content;
+};
+
+std::optional<FailedSave>& Failed() {
+    static std::optional<FailedSave> failed;
+    return failed;
+}
+
+QString InMyGames(const QString& sName) { return basCommon::JoinPath(basCommon::GetMyGamesDirectory(), sName); }
+
+void RemoveOrRaise(const QString& sPath) {
+    QString error;
+    if (!Files::Remove(sPath, error)) ErrRaise(ErrNumber::kFileAccess, error);
+}
+
+QString FreeRescuedPath(const QString& sGameName) {
+    QString drive, dir, base, ext;
+    basCommon::FileNameFactor(sGameName, drive, dir, base, ext);
+    const QString name = QStringLiteral("Rescued ") + base;
+    QString path = InMyGames(name + QStringLiteral(".gam"));
+    for (int number = 2; Files::Exists(path); ++number)
+        path = InMyGames(name + u' ' + QString::number(number) + QStringLiteral(".gam"));
+    return path;
+}
+
+// Renaming needs no room on a full disk; only where there is no autosave does the content have to be written.
+bool KeepAs(const QString& sPath, const QByteArray& content, QString& sError) {
+    for (const QString& kept : {DataPath(), BackupPath()}) {
+        if (Files::Exists(kept)) return Files::Rename(kept, sPath, sError);
+        // The failed save's own content is newer than the state one change earlier.
+        if (!content.isEmpty() && Files::WriteWhole(sPath, content, sError)) return true;
+    }
+    return false;
+}
+
+// False when nothing could be kept: then nothing may be deleted either.
+bool Rescue(const FailedSave& failed) {
+    const QString path = FreeRescuedPath(failed.sGameName);
+    QString error;
+    const bool kept = KeepAs(path, failed.content, error);
+    basErrLog::ErrLogToFile(kept ? QStringLiteral("The game could not be saved. It was kept as ") + path
+                                 : QStringLiteral("The game could not be saved, nor kept as ") + path +
+                                       QStringLiteral(". The autosave stays. ") + error,
+                            true);
+    return kept;
+}
+
+} // namespace
+
+QString DataPath() { return InMyGames(QStringLiteral("~AutoSave.dat")); }
+QString BackupPath() { return InMyGames(QStringLiteral("~AutoSave.bak")); }
+
+void Rotate() try {
+    RemoveOrRaise(BackupPath());
+    // Renamed in one step, so that at every moment one of the two holds the game whole.
+    QString error;
+    if (Files::Exists(DataPath()) && !Files::Rename(DataPath(), BackupPath(), error))
+        ErrRaise(ErrNumber::kFileAccess, error);
+} catch (...) {
+    ErrTail("Autosave!", "Rotate");
+}
+
+void NoteSave(bool bInPlace, const QString& sGameName, const QByteArray& content) {
+    Failed().reset();
+    if (!bInPlace) Failed() = FailedSave{sGameName, content};
+}
+
+void Forget() try {
+    if (Failed() && !Rescue(*Failed())) return;
+    Failed().reset();
+    RemoveOrRaise(DataPath());
+    RemoveOrRaise(BackupPath());
+} catch (...) {
+    ErrTail("Autosave!", "Forget");
+}
+
+void ResetForTest() { Failed().reset(); }
+
+} // namespace Autosave

@@ -1,0 +1,238 @@
+// SPDX-License-Identifier: MIT
+#include "pictures/C_Image.h"
+
+#include "platform/Desktop.h"
+#include "platform/Files.h"
+#include "platform/Folders.h"
+#include "platform/ProgramSettings.h"
+#include "services/basCommon.h"
+#include "services/basErrLog.h"
+#include "services/basMsgQueue.h"
+#include "services/RecordText.h"
+
+#include <optional>
+
+namespace {
+
+const QString kNewLine = QStringLiteral("\r\n");
+constexpr int kFateCorner = 3;
+
+// Where relative pictures are looked for first.
+QString PictureBase() {
+    const QString& base = Settings().sRelativePictureBase;
+    return base.isEmpty() ? basCommon::GetMyGamesDirectory() : base;
+}
+
+// What follows the folder in the path; nothing when the path doesn't lie in it.
+std::optional<QString> PartBelow(const QString& sFolder, const QString& sPath) {
+    const QString prefix = basCommon::JoinPath(sFolder, QString());
+    if (sFolder.isEmpty() || !sPath.startsWith(prefix, Qt::CaseInsensitive)) return std::nullopt;
+    return sPath.mid(prefix.size());
+}
+
+// A drive without a folder names a file in the drive's root, as there is no current folder on a drive; a
+// path without any separator would count as a programming error further on.
+QString WithRootOfDrive(const QString& sName) {
+    const bool driveOnly = sName.size() >= 2 && sName[1] == u':' && !sName.contains(u'\\') && !sName.contains(u'/');
+    return driveOnly ? sName.left(2) + u'\\' + sName.mid(2) : sName;
+}
+
+bool IsComplete(const QString& sName) {
+    return sName.startsWith(u'/') || sName.startsWith(u'\\') || (sName.size() >= 2 && sName[1] == u':');
+}
+
+// The places at which a picture of a game file is looked for ahead of the program's own folder.
+QStringList PlacesOf(const QString& sName) {
+    if (IsComplete(sName)) return {basCommon::GetFullPath(PictureBase(), sName, QString())};
+    QStringList places{basCommon::JoinPath(PictureBase(), sName)};
+    if (!Settings().sGameDirectory.isEmpty()) places.append(basCommon::JoinPath(Settings().sGameDirectory, sName));
+    return places;
+}
+
+// Where a name of a game file leads to, whether or not the picture is there.
+QString PlaceOf(const QString& sName) {
+    for (const QString& place : PlacesOf(sName)) {
+        if (basCommon::DoesFileExist(place)) return place;
+    }
+    // A name without an extension gets the wildcard as one. No such file is ever there; kept on purpose, as
+    // the message about the missing file has always named it so.
+    return basCommon::GetFullPath(Folders::ProgramDirectory(), sName, QStringLiteral("*.bmp"));
+}
+
+} // namespace
+
+QString C_Image::ReportText() const {
+    return QStringLiteral("The file named '") + m_sFullPath + QStringLiteral("' is invalid or does not exist.") +
+           kNewLine + QStringLiteral("Area will be left empty.");
+}
+
+void C_Image::Let_BadPath(const QString& sNewBadPath) try {
+    if (sNewBadPath == m_sBadPath) return;
+    // Init clears what was told right after it was told: without the second test one bad path would get two
+    // boxes.
+    const bool told = m_sBadPath == m_sFullPath;
+    if (!m_sFullPath.isEmpty() && !told) basMsgQueue::MsgQueue_Post(ReportText(), vbExclamation);
+    m_sBadPath = m_sFullPath;
+} catch (...) {
+    ErrTail("C_Image!", "Let_BadPath", sNewBadPath);
+}
+
+void C_Image::SetBadPath(const QString& sError) try {
+    if (m_sFullPath == m_sBadPath) return;
+    if (!m_sFullPath.isEmpty()) {
+        QString text = ReportText();
+        if (!sError.isEmpty())
+            text += kNewLine + kNewLine + QStringLiteral("The following error was reported") + kNewLine + sError;
+        basMsgQueue::MsgQueue_Post(text, vbExclamation);
+    }
+    m_sBadPath = m_sFullPath;
+} catch (...) {
+    ErrTail("C_Image!", "SetBadPath", sError);
+}
+
+void C_Image::Let_FullPath(const QString& sNewPath) try {
+    if (sNewPath == m_sFullPath) return;
+    m_sFullPath = sNewPath;
+    if (!basCommon::DoesFileExist(m_sFullPath)) Let_BadPath(m_sFullPath);
+    KillThumb();
+    m_iZoom = 0;
+    m_fXCenter = 0;
+    m_fYCenter = 0;
+} catch (...) {
+    ErrTail("C_Image!", "Let_FullPath", sNewPath);
+}
+
+QString C_Image::RelativePath() const try {
+    if (const std::optional<QString> part = PartBelow(PictureBase(), m_sFullPath)) return *part;
+    if (const std::optional<QString> part = PartBelow(Folders::ProgramDirectory(), m_sFullPath)) return *part;
+    return m_sFullPath;
+} catch (...) {
+    ErrTail("C_Image!", "RelativePath");
+}
+
+void C_Image::Let_RelativePath(const QString& sRelativeFile) try {
+    const bool fate = Settings().sGameVersion == QStringLiteral("8") && SpaceOrCorner == QStringLiteral("Corner") &&
+                      Index == kFateCorner;
+    const QString name = fate ? QStringLiteral("fate.dat") : sRelativeFile.trimmed();
+    Let_FullPath(name.isEmpty() ? QString() : Files::InDiskSpelling(PlaceOf(WithRootOfDrive(name))));
+} catch (...) {
+    ErrTail("C_Image!", "Let_RelativePath", sRelativeFile);
+}
+
+void C_Image::StoreCenter(qint16& iCenter, float fCenter) {
+    if (fCenter == float(iCenter)) return;
+    const qint16 rounded = basTAVL::CInt(fCenter);
+    KillThumb();
+    iCenter = rounded;
+}
+
+void C_Image::Let_XCenter(float fXCenter) try { StoreCenter(m_fXCenter, fXCenter); } catch (...) {
+    ErrTail("C_Image!", "Let_XCenter", fXCenter);
+}
+
+void C_Image::Let_YCenter(float fYCenter) try { StoreCenter(m_fYCenter, fYCenter); } catch (...) {
+    ErrTail("C_Image!", "Let_YCenter", fYCenter);
+}
+
+void C_Image::TakeCenterFrom(const C_Image& objCopy) {
+    if (IsCentered() || m_sFullPath != objCopy.m_sFullPath) return;
+    m_fXCenter = objCopy.m_fXCenter;
+    m_fYCenter = objCopy.m_fYCenter;
+}
+
+void C_Image::Let_Zoom(qint16 iZoom) try {
+    if (iZoom == m_iZoom) return;
+    KillThumb();
+    m_iZoom = iZoom;
+} catch (...) {
+    ErrTail("C_Image!", "Let_Zoom", iZoom);
+}
+
+void C_Image::Init(const QString& sNewPath, const QString& sSpaceOrCorner, qint16 iIndex) try {
+    Let_FullPath(sNewPath);
+    Let_BadPath(QString());
+    SpaceOrCorner = sSpaceOrCorner;
+    Index = iIndex;
+} catch (...) {
+    ErrTail("C_Image!", "Init", sNewPath, sSpaceOrCorner, iIndex);
+}
+
+void C_Image::LoadFromObject(const C_Image& objMaster, bool bBadPathReport) try {
+    if (bBadPathReport) {
+        Let_BadPath(objMaster.m_sBadPath);
+    } else {
+        m_sBadPath = objMaster.m_sBadPath;
+    }
+    // The writers delete the thumbnail of the old owner: kind and number come last.
+    Let_FullPath(objMaster.m_sFullPath);
+    Let_Zoom(objMaster.m_iZoom);
+    Let_XCenter(objMaster.m_fXCenter);
+    Let_YCenter(objMaster.m_fYCenter);
+    SpaceOrCorner = objMaster.SpaceOrCorner;
+    Index = objMaster.Index;
+} catch (...) {
+    ErrTail("C_Image!", "LoadFromObject", objMaster, bBadPathReport);
+}
+
+bool C_Image::IsDifferentFrom(const C_Image& objMaster) const {
+    return m_sFullPath != objMaster.m_sFullPath || m_iZoom != objMaster.m_iZoom || m_fXCenter != objMaster.m_fXCenter ||
+           m_fYCenter != objMaster.m_fYCenter || SpaceOrCorner != objMaster.SpaceOrCorner || Index != objMaster.Index;
+}
+
+QString C_Image::GetQuotedString() const try {
+    return basTAVL::Quote(RelativePath()) + u',' + QString::number(m_fXCenter) + u',' + QString::number(m_fYCenter) +
+           u',' + QString::number(m_iZoom);
+} catch (...) {
+    ErrTail("C_Image!", "GetQuotedString");
+}
+
+QString C_Image::GetNextTest(QString& sText) { return basTAVL::GetQuotedField(sText); }
+
+QString C_Image::SetQuotedString(const QString& sIn, const QString& sSpaceOrCorner, qint16 iIndex) try {
+    QString rest = sIn;
+    SpaceOrCorner = sSpaceOrCorner;
+    Index = iIndex;
+    Let_RelativePath(GetNextTest(rest));
+    Let_XCenter(basTAVL::IntegerOrZero(GetNextTest(rest)));
+    Let_YCenter(basTAVL::IntegerOrZero(GetNextTest(rest)));
+    Let_Zoom(basTAVL::IntegerOrZero(GetNextTest(rest)));
+    return rest;
+} catch (...) {
+    ErrTail("C_Image!", "SetQuotedString", sIn, sSpaceOrCorner, iIndex);
+}
+
+bool C_Image::IsWMF() const { return m_sFullPath.endsWith(QStringLiteral(".wmf"), Qt::CaseInsensitive); }
+
+qint16 C_Image::Orient() const {
+    constexpr int kSpacesPerSide = 7;
+    constexpr int kFirstCornerOrient = 4;
+    if (SpaceOrCorner == QStringLiteral("Space")) return qint16(Index / kSpacesPerSide);
+    if (SpaceOrCorner == QStringLiteral("Corner")) return qint16(Index + kFirstCornerOrient);
+    return 0;
+}
+
+bool C_Image::HasKnownKind() const {
+    return SpaceOrCorner == QStringLiteral("Space") || SpaceOrCorner == QStringLiteral("Corner") ||
+           SpaceOrCorner == QStringLiteral("Money") || SpaceOrCorner == QStringLiteral("Token");
+}
+
+QString C_Image::Thumbname() const try {
+    if (SpaceOrCorner.isEmpty()) return {};
+    if (!HasKnownKind()) basErrLog::ErrUnexVal(QStringLiteral("SpaceOrCorner"), SpaceOrCorner);
+    return basCommon::JoinPath(basCommon::GetMyGamesDirectory(),
+                               SpaceOrCorner + QString::number(Index) + QStringLiteral(".bmp"));
+} catch (...) {
+    ErrTail("C_Image!", "Thumbname");
+}
+
+void C_Image::KillThumb() {
+    if (!HasKnownKind()) return;
+    const QString name = Thumbname();
+    QString error;
+    if (Files::Remove(name, error)) return;
+    const QString blank = kNewLine + kNewLine;
+    basMsgQueue::MsgQueue_Post(QStringLiteral("Unable to delete the file named: ") + name + blank +
+                                   QStringLiteral("This could cause the space or corner to be displayed incorrectly.") +
+                                   blank + QStringLiteral("The following error was reported:") + kNewLine + error,
+                               vbExclamation);
+}

@@ -1,0 +1,166 @@
+// SPDX-License-Identifier: MIT
+#include "pictures/C_Image.h"
+
+#include "drawing/basBMP.h"
+#include "platform/Desktop.h"
+#include "platform/Folders.h"
+#include "platform/LoadPicture.h"
+#include "platform/Numbers.h"
+#include "platform/PictureHolder.h"
+#include "services/basErrLog.h"
+#include "services/basMsgQueue.h"
+#include "services/basPath.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+const QString kNewLine = QStringLiteral("\r\n");
+const QString kEmptyArea = QStringLiteral("The area will be left empty.");
+
+void Tell(const QString& sText, int iStyle = vbOKOnly) { basMsgQueue::MsgQueue_Post(sText, iStyle); }
+
+// The copy of a line drawing in another colour; null when there can't be one.
+Picture Recolored(const QString& sPath, Color lBackColor) {
+    const QString temporary = basCommon::JoinPath(basCommon::GetMyGamesDirectory(), QStringLiteral("TempImage.bmp"));
+    if (!basBMP::ChangeMonoBmpBackColor(sPath, temporary, lBackColor)) return {};
+    QString error;
+    return LoadPicture(temporary, error);
+}
+
+double Magnification(int iZoom) {
+    constexpr double kStepsPerDoubling = 10;
+    return std::pow(2.0, iZoom / kStepsPerDoubling);
+}
+
+int LongerSide(Surface& surface, double width, double height) {
+    return surface.PicturePixels(std::max(std::abs(width), std::abs(height)));
+}
+
+} // namespace
+
+void C_Image::TellMissing(const QString& sName) {
+    Tell(QStringLiteral("The file named '") + sName + QStringLiteral("' was not found on the disk.") + kNewLine +
+             kEmptyArea,
+         vbExclamation);
+}
+
+void C_Image::TellLoadFailure(const QString& sName, const QString& sSystemText) {
+    const QString gap = kNewLine + kNewLine;
+    Tell(QStringLiteral("The image named '") + sName + QStringLiteral("' could not be loaded.") + gap +
+             QStringLiteral("The following errror was reported:") + gap + sSystemText + gap + kEmptyArea,
+         vbExclamation);
+}
+
+int C_Image::LongerSideWanted(double boxPixels) const {
+    constexpr double kAnyMore = 1 << 16;
+    return CLng(std::min(Magnification(m_iZoom) * boxPixels, kAnyMore));
+}
+
+ZoomedSource ZoomedSource::Of(int lW, int lH, int iZoom, double fXCenter, double fYCenter) {
+    const double dblZoom = Magnification(iZoom);
+    // A picture zoomed in without end still shows a pixel.
+    const int iSide = std::max(CLng(std::max(lW, lH) / dblZoom), 1);
+    return {CLng(fXCenter - iSide / 2.0), CLng(fYCenter - iSide / 2.0), iSide};
+}
+
+FittedBox FittedBox::Of(const Picture& picture, double xStart, double yStart, double xEnd, double yEnd) {
+    const double width = xEnd - xStart;
+    const double height = yEnd - yStart;
+    const double rX = width / picture.Width();
+    const double rY = height / picture.Height();
+    if (rX >= rY) {
+        const double fitted = CLng(width * rY / rX);
+        return {xStart + CLng((width - fitted) / 2), yStart, fitted, height};
+    }
+    const double fitted = CLng(height * rX / rY);
+    return {xStart, yStart + CLng((height - fitted) / 2), width, fitted};
+}
+
+Picture C_Image::LoadOrTell(int longerSideWanted) {
+    const bool told = m_sBadPath == m_sFullPath;
+    if (!basCommon::DoesFileExist(m_sFullPath)) {
+        if (!told) TellMissing(m_sFullPath);
+        m_sBadPath = m_sFullPath;
+        return {};
+    }
+    QString error;
+    Picture picture = LoadPicture(m_sFullPath, error, longerSideWanted);
+    if (picture.IsNull()) {
+        if (!told) TellLoadFailure(m_sFullPath, error);
+        m_sBadPath = m_sFullPath;
+    }
+    return picture;
+}
+
+void C_Image::PaintPictureCentered(Surface& picDest, double xStart, double yStart, double xEnd, double yEnd,
+                                   Color lBackColor) try {
+    if (m_sFullPath.isEmpty()) return;
+    const Picture picture = LoadOrTell(LongerSide(picDest, xEnd - xStart, yEnd - yStart));
+    if (picture.IsNull()) return;
+    const FittedBox box = FittedBox::Of(picture, xStart, yStart, xEnd, yEnd);
+    const auto paint = [&](const Picture& source, RasterOp operation) {
+        picDest.PaintPicture(source, box.left, box.top, box.width, box.height, operation);
+    };
+    if (!basBMP::IsMonochromeBMP(m_sFullPath)) {
+        paint(picture, RasterOp::SourceCopy);
+    } else if (lBackColor.IsNone()) {
+        paint(picture, RasterOp::SourceAnd);
+    } else {
+        const Picture recolored = Recolored(m_sFullPath, lBackColor);
+        paint(recolored.IsNull() ? picture : recolored, RasterOp::SourceCopy);
+    }
+} catch (...) {
+    ErrTail("C_Image!", "PaintPictureCentered", picDest, xStart, yStart, xEnd, yEnd, lBackColor);
+}
+
+bool C_Image::ReloadOrTell(PictureHolder& picOriginal, int longerSideWanted) const {
+    QString error;
+    picOriginal.Picture = LoadPicture(m_sFullPath, error, longerSideWanted);
+    if (!picOriginal.Picture.IsNull()) return true;
+    // The sentence in the middle was never finished, and people search for it as it stands.
+    const QString sText = QStringLiteral("Unable to LoadPicture for file named '") + m_sFullPath + u'\'' + kNewLine +
+                          QStringLiteral("Area will be left blank. & vbcrlf & vbcrlf") +
+                          QStringLiteral("The following error was reported: ") + error;
+    Tell(sText);
+    basErrLog::ErrLogToFile(sText, true);
+    return false;
+}
+
+void C_Image::PaintPart(Surface& objDest, const Picture& picture, double xStart, double yStart, double xEnd,
+                        double yEnd, Color lBackColor) const {
+    const ZoomedSource source = ZoomedSource::Of(picture.Width(), picture.Height(), m_iZoom, m_fXCenter, m_fYCenter);
+    const bool monochrome = basBMP::IsMonochromeBMP(m_sFullPath);
+    // The recoloured copy is made and the drawing itself painted all the same: kept on purpose.
+    if (monochrome && !lBackColor.IsNone()) Recolored(m_sFullPath, lBackColor);
+    objDest.PaintPicture(picture, xStart, yStart, xEnd - xStart, yEnd - yStart,
+                         QRectF(source.xSrc, source.ySrc, source.iSide, source.iSide),
+                         monochrome ? RasterOp::SourceAnd : RasterOp::SourceCopy);
+}
+
+bool C_Image::PaintPictureZoomed(Surface& objDest, PictureHolder& picOriginal, ScaleModeKind ScaleMode, double xStart,
+                                 double yStart, double xEnd, double yEnd, Color lBackColor) try {
+    picOriginal.Picture = Picture();
+    const int wanted = LongerSideWanted(LongerSide(objDest, xEnd - xStart, yEnd - yStart));
+    if (LoadOrTell(wanted).IsNull() || !ReloadOrTell(picOriginal, wanted)) return false;
+
+    const bool twips = ScaleMode == ScaleModeKind::Twips;
+    const double perPixel = twips ? Screen::kTwipsPerPixel : 1;
+    const int lW = CLng(picOriginal.Width(ScaleMode) / perPixel);
+    const int lH = CLng(picOriginal.Height(ScaleMode) / perPixel);
+    if (m_fXCenter == 0 && m_fYCenter == 0) {
+        Let_XCenter(float(lW / 2.0));
+        Let_YCenter(float(lH / 2.0));
+    }
+    try {
+        PaintPart(objDest, picOriginal.Picture, xStart, yStart, xEnd, yEnd, lBackColor);
+    } catch (const TavloraError& error) {
+        // The log has it; the area stays as far as it came.
+        basErrLog::ErrLogToFile(error.Description(), true);
+        return false;
+    }
+    return true;
+} catch (...) {
+    ErrTail("C_Image!", "PaintPictureZoomed", objDest, picOriginal, ScaleMode, xStart, yStart, xEnd, yEnd, lBackColor);
+}

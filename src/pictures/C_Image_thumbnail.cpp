@@ -1,0 +1,194 @@
+// SPDX-License-Identifier: MIT
+#include "pictures/C_Image.h"
+#include "platform/Desktop.h"
+#include "platform/Files.h"
+#include "platform/Folders.h"
+#include "platform/LoadPicture.h"
+#include "platform/Surface.h"
+#include "services/basErrLog.h"
+#include "services/basMsgQueue.h"
+#include "services/basPath.h"
+
+#include <QHash>
+
+#include <cmath>
+
+namespace {
+
+const QString kNewLine = QStringLiteral("\r\n");
+constexpr int kThumbSide = 100;
+constexpr int kFateCorner = 3;
+
+ThumbnailMaker::Creator& Creator() {
+    static ThumbnailMaker::Creator creator = nullptr;
+    return creator;
+}
+
+ThumbnailMaker& Maker() {
+    basErrLog::ErrAssert(Creator() != nullptr, QStringLiteral("Nobody makes thumbnails"));
+    return Creator()();
+}
+
+// What each thumbnail made in this run was made of, by its path. Two images can belong to one owner, as an
+// editor's copy does, and an owner can change hands: the file's date alone doesn't prove it theirs.
+struct Origin {
+    QString sPath;
+    QString sPart;
+};
+
+QHash<QString, Origin>& MadeOf() {
+    static QHash<QString, Origin> origins;
+    return origins;
+}
+
+} // namespace
+
+ThumbnailMaker::Creator ThumbnailMaker::Install(ThumbnailMaker::Creator creator) {
+    return std::exchange(::Creator(), creator);
+}
+
+bool C_Image::ShowsFate() const { return SpaceOrCorner == QStringLiteral("Corner") && Index == kFateCorner; }
+
+int C_Image::LongerThumbSide() const {
+    constexpr int kTokenSide = 200;
+    constexpr int kMoneyHeight = 190;
+    if (SpaceOrCorner == QStringLiteral("Token")) return kTokenSide;
+    return SpaceOrCorner == QStringLiteral("Money") ? kMoneyHeight : kThumbSide;
+}
+
+QString C_Image::PartShown() const { return QStringLiteral("%1 %2 %3").arg(m_iZoom).arg(m_fXCenter).arg(m_fYCenter); }
+
+bool C_Image::NeedsThumbnail() const {
+    const QString sThumb = Thumbname();
+    const auto origin = MadeOf().constFind(sThumb);
+    if (origin != MadeOf().constEnd() && (origin->sPath != m_sFullPath || origin->sPart != PartShown())) return true;
+    const Files::Stamp picture = Files::StampOf(Files::InDiskSpelling(m_sFullPath));
+    const Files::Stamp thumbnail = Files::StampOf(sThumb);
+    return thumbnail == Files::Stamp() || thumbnail.modifiedMs < picture.modifiedMs;
+}
+
+QString C_Image::GetThumbnail(bool bGrayOnly) try {
+    if (m_sFullPath.isEmpty()) return {};
+    if (!basCommon::DoesFileExist(m_sFullPath)) {
+        if (m_sBadPath.compare(m_sFullPath, Qt::CaseInsensitive) == 0) return {};
+        basMsgQueue::MsgQueue_Post(QStringLiteral("The file named '") + m_sFullPath +
+                                       QStringLiteral("' was not found.") + kNewLine +
+                                       QStringLiteral("The image will not be drawn."),
+                                   vbOKOnly);
+        m_sBadPath = m_sFullPath;
+        return m_sFullPath;
+    }
+    const QString sThumb = Thumbname();
+    if (!NeedsThumbnail()) return sThumb;
+    if (SpaceOrCorner == QStringLiteral("Space")) {
+        Maker().CreateThumbRotatedTo90(*this);
+    } else if (SpaceOrCorner == QStringLiteral("Corner")) {
+        Maker().CreateThumbRotatedTo45(*this);
+    } else if (SpaceOrCorner == QStringLiteral("Money") || SpaceOrCorner == QStringLiteral("Token")) {
+        Maker().CreateThumbElliptical(*this, false);
+    } else {
+        basErrLog::ErrUnexVal(QStringLiteral("SpaceOrCorner"), SpaceOrCorner);
+    }
+    MadeOf().insert(sThumb, {m_sFullPath, PartShown()});
+    return sThumb;
+} catch (...) {
+    ErrTail("C_Image!", "GetThumbnail", bGrayOnly);
+}
+
+void C_Image::PrepareThumbnail() const try {
+    if (m_sFullPath.isEmpty() || !HasKnownKind() || IsWMF() || !NeedsThumbnail()) return;
+    PrefetchPicture(m_sFullPath, LongerSideWanted(LongerThumbSide()));
+} catch (...) {
+    ErrTail("C_Image!", "PrepareThumbnail");
+}
+
+void C_Image::PrepareForPaper(Surface& oPrinter, double side) const try {
+    if (m_sFullPath.isEmpty() || IsWMF()) return;
+    PrefetchPicture(m_sFullPath, LongerSideWanted(oPrinter.PicturePixels(side)));
+} catch (...) {
+    ErrTail("C_Image!", "PrepareForPaper", oPrinter, side);
+}
+
+void C_Image::DrawBitmapToScreen(Surface& picDest, double x, double y, double w, double h) try {
+    if (m_sFullPath.isEmpty()) return;
+    const QString sThumb = GetThumbnail(false);
+    if (sThumb.isEmpty() || !basCommon::DoesFileExist(sThumb)) return;
+    if (SpaceOrCorner == QStringLiteral("Space") || SpaceOrCorner == QStringLiteral("Corner")) {
+        PaintThumbnail(picDest, x, y, x + w, y + h);
+    } else if (SpaceOrCorner == QStringLiteral("Token") || SpaceOrCorner == QStringLiteral("Money")) {
+        basErrLog::ErrUnexVal(QStringLiteral("SpaceOrCorner"), SpaceOrCorner);
+    }
+} catch (...) {
+    ErrTail("C_Image!", "DrawBitmapToScreen", picDest, x, y, w, h);
+}
+
+// Where the thumbnail's pixels are too few: zoomed in, on a dense screen, in a large picture of the board.
+int C_Image::RenderingSide(Surface& picDest, double w, double h) {
+    const int pixels = picDest.PicturePixels(std::min(w, h));
+    // Even, as the diamond is made of halves; no larger than any screen needs.
+    constexpr int kLargest = 2048;
+    return pixels <= kThumbSide ? 0 : std::min((pixels + 1) / 2 * 2, kLargest);
+}
+
+bool C_Image::PaintRendering(Surface& picDest, double xStart, double yStart, double xEnd, double yEnd) {
+    const int side = RenderingSide(picDest, xEnd - xStart, yEnd - yStart);
+    if (side == 0) return false;
+    const Picture rendering = Maker().RenderRotated(*this, side);
+    if (rendering.IsNull()) return false;
+    const FittedBox box = FittedBox::Of(rendering, xStart, yStart, xEnd, yEnd);
+    picDest.PaintPicture(rendering, box.left, box.top, box.width, box.height, RasterOp::SourceCopy);
+    return true;
+}
+
+void C_Image::PaintThumbnail(Surface& picDest, double xStart, double yStart, double xEnd, double yEnd) try {
+    const bool fate = ShowsFate();
+    const QString sFile =
+        fate ? basCommon::JoinPath(Folders::ProgramDirectory(), QStringLiteral("fate.dat")) : Thumbname();
+    const bool told = m_sBadPath == m_sFullPath || m_sBadThumb == sFile;
+    if (!basCommon::DoesFileExist(sFile)) {
+        if (!told) TellMissing(sFile);
+        m_sBadThumb = sFile;
+        return;
+    }
+    if (!fate && PaintRendering(picDest, xStart, yStart, xEnd, yEnd)) return;
+    PaintThumbnailFile(picDest, sFile, xStart, yStart, xEnd, yEnd);
+} catch (...) {
+    ErrTail("C_Image!", "PaintThumbnail", picDest, xStart, yStart, xEnd, yEnd);
+}
+
+void C_Image::PaintThumbnailFile(Surface& picDest, const QString& sFile, double xStart, double yStart, double xEnd,
+                                 double yEnd) {
+    const bool told = m_sBadPath == m_sFullPath || m_sBadThumb == sFile;
+    QString error;
+    const Picture picture = LoadPicture(sFile, error);
+    if (picture.IsNull()) {
+        if (!told) TellLoadFailure(sFile, error);
+        m_sBadThumb = sFile;
+        return;
+    }
+    m_sBadThumb.clear();
+    const FittedBox box = FittedBox::Of(picture, xStart, yStart, xEnd, yEnd);
+    picDest.PaintPicture(picture, box.left, box.top, box.width, box.height, RasterOp::SourceCopy);
+}
+
+bool C_Image::PrepareForScreen(Surface& picDest, double w, double h) const try {
+    // Metafiles are played where they are painted; the kit's own corner has no file of the user's.
+    if (m_sFullPath.isEmpty() || !HasKnownKind() || IsWMF() || ShowsFate()) return true;
+    const bool bThumb = !NeedsThumbnail() || PrefetchPicture(m_sFullPath, LongerSideWanted(LongerThumbSide()));
+    const int side = RenderingSide(picDest, w, h);
+    const bool bRendering = side == 0 || PrefetchPicture(m_sFullPath, LongerSideWanted(side));
+    return bThumb && bRendering;
+} catch (...) {
+    ErrTail("C_Image!", "PrepareForScreen", picDest, w, h);
+}
+
+bool C_Image::DrawWhatIsReady(Surface& picDest, double x, double y, double w, double h) try {
+    if (PrepareForScreen(picDest, w, h)) {
+        DrawBitmapToScreen(picDest, x, y, w, h);
+        return true;
+    }
+    if (!NeedsThumbnail()) PaintThumbnailFile(picDest, Thumbname(), x, y, x + w, y + h);
+    return false;
+} catch (...) {
+    ErrTail("C_Image!", "DrawWhatIsReady", picDest, x, y, w, h);
+}

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/Color.h"
+#include "services/basPath.h"
+
+#include <QString>
+
+class QWidget;
+
+/// What everybody needs: the settings file, colour strings, line breaks of record text, placing of windows.
+namespace basCommon {
+
+/// Fixes the settings file, in the My Games directory and named after the program; before any access to it.
+void InitIniPath();
+
+/// Raises 0x80040003 before InitIniPath.
+QString GetIniPath();
+
+/// The key's value; empty when it isn't there.
+QString GetIniString(const QString& sKey);
+
+/// The value, or the default, which is then also written; an empty value counts as absent.
+QString GetIniStringWithDefault(const QString& sKey, const QString& sDefault);
+
+/// The key's value as a colour; the default is a colour string too, and is written when the key is absent.
+Color GetIniColor(const QString& sKey, const QString& sDefault);
+
+/// A file that can't be written is passed over: settings are never worth a message.
+void WriteIniString(const QString& sKey, const QString& sValue);
+
+/// Eight hexadecimal digits 00RRGGBB. Raises 0x80040002 for anything else; an empty text gives 0. The
+/// argument is consumed.
+Color GetColorFromString(QString& sColor);
+Color GetColorFromString(QString&& sColor);
+
+/// Record text with backslash escapes undone: \n a line break, \q a double quote, \\ one backslash.
+QString InsertLineBreaks(const QString& sText);
+
+/// Places a window a quarter of the free width from the left and a third of the free height from the top.
+void ShowEntireForm(QWidget& objForm);
+
+/// For tests: as before InitIniPath.
+void ResetForTest();
+
+} // namespace basCommon

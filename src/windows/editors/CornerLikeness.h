@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "document/C_Corner.h"
+#include "windows/editors/Likeness.h"
+
+/// A corner of the board in its editor: turned so that its diagonal stands upright and its text, which runs
+/// at 45 degrees on the board, reads level. Block 0 of the text is edited.
+class CornerLikeness : public Likeness {
+public:
+    /// Private copy being edited.
+    C_Corner oCorner;
+
+    QSize Size() const override;
+    C_FontInfo& Font() override { return oCorner.Font; }
+    C_Image& Image() override { return oCorner.Image; }
+    QString TextAll() const override { return oCorner.TextAll(kBlock); }
+    void SetText(const QString& sText) override { oCorner.SetText(kBlock, sText); }
+    void SetImagePath(const QString& sFullPath) override { oCorner.Image.Let_FullPath(sFullPath); }
+    /// Lines of any length.
+    QString Joined(const QStringList& sTextLines) const override;
+
+    void LoadFromGame(int iIndex) override;
+    void TakeBack() override;
+    void StoreInGame() override;
+    bool IsDifferentFromGame() const override;
+    void SetAllFonts() override;
+
+protected:
+    QStringList LinesInUse() const override { return oCorner.TextArray(kBlock); }
+    TextBox TextPlace() override;
+    QRect ImagePlace() override;
+    int LineHeight() override;
+    void DrawOutline() override;
+    C_Image& ImageInGame() override;
+
+private:
+    static constexpr int kBlock = 0;
+
+    int m_iCorner = 0;
+};

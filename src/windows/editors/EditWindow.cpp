@@ -1,0 +1,185 @@
+// SPDX-License-Identifier: MIT
+#include "windows/editors/EditWindow.h"
+
+#include "document/basTAVL.h"
+#include "drawing/basDraw.h"
+#include "pictures/C_Image.h"
+#include "platform/ElidedLabel.h"
+#include "platform/PictureBox.h"
+#include "services/basCommon.h"
+#include "services/basErrLog.h"
+#include "windows/editors/HoldFocusBox.h"
+#include "windows/editors/ImageGroup.h"
+#include "windows/editors/Redrawing.h"
+#include "windows/pictures/UnsavedChanges.h"
+
+#include <QCheckBox>
+#include <QPushButton>
+
+namespace {
+
+const QString kNewLine = QStringLiteral("\r\n");
+constexpr double kSquare = 1.0;
+
+} // namespace
+
+EditWindow::EditWindow(std::unique_ptr<Likeness> likeness, const Wording& wording, QWidget* parent)
+    : QDialog(parent), m_ownLikeness(std::move(likeness)), m_likeness(*m_ownLikeness), m_wording(wording) {
+    setObjectName(QString::fromLatin1(wording.sName));
+    setWindowTitle(QString::fromLatin1(wording.sCaption));
+    BuildControls();
+    Connect();
+    basCommon::ShowEntireForm(*this);
+}
+
+EditWindow::~EditWindow() = default;
+
+bool EditWindow::ShowModally(int iIndex) {
+    m_bLoading = true;
+    m_bChangeAllFonts = false;
+    m_likeness.LoadFromGame(iIndex);
+    m_selection.Clear();
+    m_bSelecting = false;
+    chkIncludeImage->setChecked(!m_likeness.Image().FullPath().isEmpty());
+    chkIncludeImage_Click();
+    m_bLoading = false;
+    Redraw();
+    TakeFocus();
+    exec();
+    if (!m_likeness.IsDifferentFromGame()) return m_bChangeAllFonts;
+    m_likeness.StoreInGame();
+    return true;
+}
+
+void EditWindow::Redraw() try {
+    if (m_bLoading) return;
+    const Redrawing redrawing;
+    m_likeness.Redraw(*picDest, picScratch, m_selection);
+    picDest->Refresh();
+    txtBitmapPath->SetWholeText(m_likeness.Image().FullPath());
+    ShowLegend();
+    txtHoldFocus->SetTyping(m_selection.IsOn(), picDest->geometry());
+    redrawing.ShowMessages();
+} catch (...) {
+    ErrTail(m_wording.sModule, "Redraw");
+}
+
+void EditWindow::UsePicDest() { basDraw::Draw_SetHdc(&picDest->hDC()); }
+
+void EditWindow::TakeFocus() {
+    activateWindow();
+    txtHoldFocus->setFocus(Qt::OtherFocusReason);
+}
+
+void EditWindow::DropSelection() {
+    m_selection.Clear();
+    picDest->unsetCursor();
+}
+
+void EditWindow::SetImagePath(const QString& sFullPath) {
+    UsePicDest();
+    m_likeness.SetImagePath(sFullPath);
+}
+
+void EditWindow::cmdChangeFont_Click() try {
+    C_FontInfo& font = m_likeness.Font();
+    const C_FontInfo before = font;
+    basTAVL::FontToDialog(cdlgFont, font);
+    cdlgFont.ShowFont();
+    basTAVL::FontFromDialog(cdlgFont, font);
+    // An unchanged font is fitted already: another fit could differ and count as a change.
+    if (font.IsDifferentFrom(before)) FitText(m_likeness.TextAll());
+    Redraw();
+    TakeFocus();
+} catch (...) {
+    ErrTop(m_wording.sModule, "cmdChangeFont_Click");
+}
+
+void EditWindow::cmdSetAllFonts_Click() try {
+    const QString question = QStringLiteral("Clicking 'Yes' below will force the font and max size") + kNewLine +
+                             QStringLiteral("in use on this ") + QString::fromLatin1(m_wording.sThisPiece) +
+                             QStringLiteral(" to be used for all spaces and corners.") + kNewLine + kNewLine +
+                             QStringLiteral("This action CANNOT be undone. Do you wish to continue?");
+    if (MsgBox(question, vbYesNoCancel + vbExclamation, QStringLiteral("Set All Fonts?")) != vbYes) return;
+    UsePicDest();
+    m_likeness.SetAllFonts();
+    MsgBox(QStringLiteral("All fonts have been changed. The change will be visible as soon as you exit the current "
+                          "form."),
+           vbInformation);
+    m_bChangeAllFonts = true;
+} catch (...) {
+    ErrTop(m_wording.sModule, "cmdSetAllFonts_Click");
+}
+
+void EditWindow::cmdBitmap_Click() try {
+    if (m_bLoading) return;
+    const QString before = m_likeness.Image().FullPath();
+    const QString path = fraBitmap->AskForPicture(before);
+    if (path != before) {
+        SetImagePath(path);
+        Redraw();
+    } else if (path.isEmpty()) {
+        chkIncludeImage->setChecked(false);
+        chkIncludeImage_Click();
+    }
+    TakeFocus();
+} catch (...) {
+    ErrTop(m_wording.sModule, "cmdBitmap_Click");
+}
+
+void EditWindow::chkIncludeImage_Click() try {
+    const bool include = chkIncludeImage->isChecked();
+    cmdBitmap->setEnabled(include);
+    cmdCropImage->setEnabled(include);
+    if (include) {
+        cmdBitmap_Click();
+    } else {
+        SetImagePath(QString());
+    }
+    Redraw();
+    if (txtHoldFocus->isEnabled()) txtHoldFocus->setFocus(Qt::OtherFocusReason);
+} catch (...) {
+    ErrTop(m_wording.sModule, "chkIncludeImage_Click");
+}
+
+void EditWindow::cmdCropImage_Click() try {
+    fraBitmap->AskForPosition(m_likeness.Image(), kSquare);
+    Redraw();
+    TakeFocus();
+} catch (...) {
+    ErrTop(m_wording.sModule, "cmdCropImage_Click");
+}
+
+void EditWindow::cmdOK_Click() try {
+    if (m_likeness.TextAll().isEmpty()) {
+        MsgBox(QStringLiteral("Please specify a name for the space."));
+        return;
+    }
+    DropSelection();
+    txtHoldFocus->setFocus(Qt::OtherFocusReason);
+    hide();
+} catch (...) {
+    ErrTop(m_wording.sModule, "cmdOK_Click");
+}
+
+void EditWindow::cmdCancel_Click() try {
+    UsePicDest();
+    DropSelection();
+    Redraw();
+    if (!m_likeness.IsDifferentFromGame()) {
+        hide();
+        return;
+    }
+    const UnsavedChanges answer = AskAboutUnsavedChanges();
+    if (answer == UnsavedChanges::Stay) return;
+    if (answer == UnsavedChanges::Drop) m_likeness.TakeBack();
+    hide();
+} catch (...) {
+    ErrTop(m_wording.sModule, "cmdCancel_Click");
+}
+
+void EditWindow::reject() { cmdCancel_Click(); }
+
+void EditWindow::txtBitmapPath_Click() try { ImageGroup::TellHowToChangePath(); } catch (...) {
+    ErrTop(m_wording.sModule, "txtBitmapPath_Click");
+}

@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/Desktop.h"
+#include "platform/PictureHolder.h"
+#include "windows/editors/Likeness.h"
+#include "windows/editors/TextSelection.h"
+#include "windows/editors/TypedText.h"
+
+#include <QDialog>
+#include <QString>
+
+#include <memory>
+
+class ElidedLabel;
+class HoldFocusBox;
+class ImageGroup;
+class PictureBox;
+class QBoxLayout;
+class QCheckBox;
+class QGroupBox;
+class QLabel;
+class QPlainTextEdit;
+class QPushButton;
+class TipLabel;
+
+/// What the editor of a space and that of a corner have in common: a likeness to type on and click on, and
+/// the buttons beside it. Works on the likeness's private copy; what was done reaches the game only when the
+/// window closes.
+class EditWindow : public QDialog {
+    Q_OBJECT
+public:
+    void Redraw();
+    Likeness::Spot WhereIsMouse(float X, float Y);
+    QStringList GetTextArray() const { return m_likeness.GetTextArray(); }
+
+    /// Whether other records than the one shown got another font since ShowForm.
+    bool ChangedAllFonts() const { return m_bChangeAllFonts; }
+
+    /// Escape and the close button do what Cancel does.
+    void reject() override;
+
+protected:
+    /// What differs between the two windows.
+    struct Wording {
+        const char* sModule; ///< Prefix of the error stack, with "!".
+        const char* sName;
+        const char* sCaption;
+        const char* sImageFrame;
+        const char* sImageTip;  ///< Second line of the tip over the picture.
+        const char* sThisPiece; ///< As it stands in the question about all fonts.
+    };
+
+    EditWindow(std::unique_ptr<Likeness> likeness, const Wording& wording, QWidget* parent);
+    ~EditWindow() override;
+
+    /// Shows the window modally; true if the game has changed.
+    bool ShowModally(int iIndex);
+    bool IsLoading() const { return m_bLoading; }
+    void cmdBitmap_Click();
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    // Building, in EditWindow_controls.cpp.
+    void BuildControls();
+    QWidget* BuildLikeness();
+    ImageGroup* BuildImageGroup();
+    QGroupBox* BuildTextGroup();
+    QBoxLayout* BuildClosing();
+    QPushButton* MakeButton(const char* sName, const QString& sCaption);
+    void Prepare(QWidget& control);
+    void BuildHidden();
+    void ShowLegend();
+    void Connect();
+
+    // Text, in EditWindow_text.cpp.
+    bool TakesKey(const QKeyEvent& event);
+    void Form_KeyDown(const TypedText::Key& key);
+    void Form_KeyPress(const QString& sText);
+    void StoreTyped(basEditTextArray::KeyResult result, const QStringList& sTextLines);
+    void FitText(const QString& sText);
+    void HoldFocus_Tabbed();
+    void HoldFocus_TabbedOut();
+    void HoldFocus_Composing(const QString& sText);
+    void txtSpace_Change();
+
+    // Mouse and tips, in EditWindow_mouse.cpp.
+    void picDest_MouseDown(int iButton, int iShift, float X, float Y);
+    void picDest_MouseMove(int iButton, int iShift, float X, float Y);
+    void picDest_MouseUp(int iButton, int iShift, float X, float Y);
+    void picDest_MouseLeft();
+    void picDest_BackingChanged();
+    void ShowSpotTip(const Likeness::Spot& spot, QPoint at);
+    QString TipOf(const QObject* control) const;
+    void SetToolTip(const QString& sText, QPoint at = {});
+    void Control_MouseMove(const QWidget& control);
+
+    void cmdOK_Click();
+    void cmdCancel_Click();
+    void cmdChangeFont_Click();
+    void cmdSetAllFonts_Click();
+    void cmdCropImage_Click();
+    void chkIncludeImage_Click();
+    void txtBitmapPath_Click();
+
+    void SetImagePath(const QString& sFullPath);
+    void UsePicDest();
+    void DropSelection();
+    void TakeFocus();
+
+    const std::unique_ptr<Likeness> m_ownLikeness;
+    Likeness& m_likeness;
+    const Wording m_wording;
+    TextSelection m_selection;
+    bool m_bLoading = false;
+    bool m_bSelecting = false;
+    bool m_bChangeAllFonts = false;
+
+    CommonDialog cdlgFont;
+    PictureHolder picScratch;
+    PictureBox* picDest = nullptr;
+    HoldFocusBox* txtHoldFocus = nullptr;
+    TipLabel* txtToolTip = nullptr;
+    QLabel* txtlegend = nullptr;
+    ImageGroup* fraBitmap = nullptr;
+    ElidedLabel* txtBitmapPath = nullptr;
+    QPlainTextEdit* txtSpace = nullptr;
+    QCheckBox* chkIncludeImage = nullptr;
+    QPushButton* cmdBitmap = nullptr;
+    QPushButton* cmdCropImage = nullptr;
+    QPushButton* cmdChangeFont = nullptr;
+    QPushButton* cmdSetAllFonts = nullptr;
+    QPushButton* cmdOK = nullptr;
+    QPushButton* cmdCancel = nullptr;
+};

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#include "windows/editors/GameFonts.h"
+
+#include "document/basTAVL.h"
+#include "services/basErrLog.h"
+
+namespace GameFonts {
+
+void GiveToAllBut(const C_FontInfo& font, int iSpace, int iCorner) try {
+    constexpr int kFixedCorner = 3;
+    constexpr int kBlock = 0;
+    for (int i = 0; i < basTAVL::kSpaces; ++i) {
+        if (i == iSpace) continue;
+        C_Space& space = basTAVL::g_oSpaces(i);
+        space.Font.LoadFromObject(font);
+        space.SetText(TextLines::kUseExisting);
+    }
+    for (int i = 0; i < kFixedCorner; ++i) {
+        if (i == iCorner) continue;
+        C_Corner& corner = basTAVL::g_oCorners(i);
+        corner.Font.LoadFromObject(font);
+        corner.SetText(kBlock, TextLines::kUseExisting);
+    }
+} catch (...) {
+    ErrTail("GameFonts!", "GiveToAllBut", font.Family, iSpace, iCorner);
+}
+
+} // namespace GameFonts

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#include "windows/editors/HoldFocusBox.h"
+
+#include <QFocusEvent>
+#include <QGuiApplication>
+#include <QInputMethod>
+#include <QInputMethodEvent>
+
+namespace {
+
+bool IsByTab(const QFocusEvent& event) {
+    return event.reason() == Qt::TabFocusReason || event.reason() == Qt::BacktabFocusReason;
+}
+
+} // namespace
+
+HoldFocusBox::HoldFocusBox(QWidget* parent) : QWidget(parent) {
+    setObjectName(QStringLiteral("txtHoldFocus"));
+    setAccessibleName(QStringLiteral("Dummy text area needed to hold the focus"));
+    setAttribute(Qt::WA_InputMethodEnabled);
+    setFocusPolicy(Qt::TabFocus);
+    // A hidden widget can't take the focus, and Enter would press a button.
+    setGeometry(0, 0, 1, 1);
+}
+
+void HoldFocusBox::SetTyping(bool bTyping, const QRect& place) {
+    m_bTyping = bTyping;
+    m_place = place.translated(-pos());
+    if (hasFocus()) QGuiApplication::inputMethod()->update(Qt::ImEnabled | Qt::ImCursorRectangle);
+}
+
+QVariant HoldFocusBox::inputMethodQuery(Qt::InputMethodQuery query) const {
+    if (query == Qt::ImEnabled) return m_bTyping;
+    if (query == Qt::ImCursorRectangle) return m_place;
+    return QWidget::inputMethodQuery(query);
+}
+
+void HoldFocusBox::inputMethodEvent(QInputMethodEvent* event) {
+    Q_EMIT Composing(event->preeditString());
+    if (!event->commitString().isEmpty()) Q_EMIT Committed(event->commitString());
+    event->accept();
+}
+
+void HoldFocusBox::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
+    // A dialog that is being shown sends such an event before any widget has the focus.
+    if (IsByTab(*event) && hasFocus()) Q_EMIT TabbedInto();
+}
+
+void HoldFocusBox::focusOutEvent(QFocusEvent* event) {
+    QWidget::focusOutEvent(event);
+    if (IsByTab(*event)) Q_EMIT TabbedOutOf();
+}

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/HourGlass.h"
+#include "services/basMsgQueue.h"
+
+/// The hourglass for the length of a redraw, and no boxes until it is done: whoever answers one would find
+/// the drawing layer in the middle of its work.
+class Redrawing {
+public:
+    Redrawing() : m_queues(!basMsgQueue::MsgQueue_IsOpen()) {
+        if (m_queues) basMsgQueue::MsgQueue_Init();
+    }
+    /// Shows the boxes that waited, unless a redraw around this one will.
+    void ShowMessages() const {
+        if (m_queues) basMsgQueue::MsgQueue_Display();
+    }
+
+private:
+    HourGlass m_hourGlass;
+    bool m_queues;
+};

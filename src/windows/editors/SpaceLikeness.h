@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "document/C_Space.h"
+#include "windows/editors/Likeness.h"
+
+/// A space of the board in its editor: upright, 174 by 300 pixels, a colour band with the price on top.
+class SpaceLikeness : public Likeness {
+public:
+    /// Private copy being edited.
+    C_Space oSpace;
+
+    QSize Size() const override;
+    C_FontInfo& Font() override { return oSpace.Font; }
+    C_Image& Image() override { return oSpace.Image; }
+    QString TextAll() const override { return oSpace.TextAll(); }
+    void SetText(const QString& sText) override { oSpace.SetText(sText); }
+    void SetImagePath(const QString& sFullPath) override { oSpace.SetImagePath(sFullPath); }
+    /// Each line cut to its first 40 characters.
+    QString Joined(const QStringList& sTextLines) const override;
+
+    void LoadFromGame(int iIndex) override;
+    void TakeBack() override;
+    void StoreInGame() override;
+    bool IsDifferentFromGame() const override;
+    void SetAllFonts() override;
+
+protected:
+    QStringList LinesInUse() const override { return oSpace.TextArray(); }
+    TextBox TextPlace() override;
+    QRect ImagePlace() override;
+    int LineHeight() override;
+    void DrawOutline() override;
+    C_Image& ImageInGame() override;
+
+private:
+    int m_iSpace = 0;
+};

@@ -1,0 +1,330 @@
+// SPDX-License-Identifier: MIT
+#include "windows/editors/frmEditCenter.h"
+
+#include "board/basPosit.h"
+#include "drawing/basDraw.h"
+#include "platform/Desktop.h"
+#include "platform/Numbers.h"
+#include "platform/PictureBox.h"
+#include "platform/Screen.h"
+#include "platform/WidgetLook.h"
+#include "services/basErrLog.h"
+#include "windows/editors/HoldFocusBox.h"
+#include "windows/editors/TipLabel.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+
+using basEditTextArray::KeyResult;
+
+namespace {
+
+const QString kNewLine = QStringLiteral("\r\n");
+
+struct TwipsRect {
+    int iLeft;
+    int iTop;
+    int iWidth;
+    int iHeight;
+
+    QRect Pixels() const {
+        const auto pixels = [](int twips) { return CLng(double(twips) / Screen::kTwipsPerPixel); };
+        return {pixels(iLeft), pixels(iTop), pixels(iWidth), pixels(iHeight)};
+    }
+};
+
+struct AreaRow {
+    TwipsRect place;
+    const char* sLabel;
+    const char* sToolTip;
+    const char* sMissing; ///< Message when the text is empty.
+};
+
+// By area less 1.
+constexpr AreaRow kArea[] = {
+    {{240, 480, 6435, 1440},
+     "Game Name on Box Top and Game Board:",
+     "Click to Edit Name of Game",
+     "Please specify a name for your game."},
+    {{1908, 2160, 3100, 1200},
+     "Subtitle on Box and Game Board:",
+     "Click to Edit Subtitle",
+     "Please specify the Subtitle for your game."},
+    {{7000, 2160, 3100, 1440},
+     "Second Subtitle on Box Only",
+     "Click to Edit Occasion",
+     "Please specify the Second Subtitle for your game."},
+};
+
+const AreaRow& RowOf(int iArea) { return kArea[iArea - 1]; }
+
+constexpr TwipsRect kForm{0, 0, 10350, 4515};
+// As wide as the areas below it, and of the title box's proportions.
+constexpr TwipsRect kLogo{7000, 855, 3100, 690};
+constexpr TwipsRect kOk{7000, 3900, 1425, 390};
+constexpr TwipsRect kCancel{8675, 3900, 1425, 390};
+// Labels end where their area begins.
+constexpr int kLabelHeight = 20;
+constexpr int kGapUnderLabel = 2;
+
+} // namespace
+
+frmEditCenter::frmEditCenter(QWidget* parent)
+    : QDialog(parent), picForm(new PictureBox(this)), cmdLogo(new QLabel(this)),
+      cmdOK(MakeButton("cmdOK", QStringLiteral("&OK"), QStringLiteral("Click to Save Your Changes"))),
+      cmdCancel(MakeButton("cmdCancel", QStringLiteral("&Cancel"), QStringLiteral("Click to Undo Your Changes"))),
+      txtHoldFocus(new HoldFocusBox(this)), txtToolTip(new TipLabel("txtToolTip", this)) {
+    setObjectName(QStringLiteral("frmEditCenter"));
+    setWindowTitle(QStringLiteral("Edit Game Titles"));
+    picForm->setObjectName(QStringLiteral("picForm"));
+    picForm->setGeometry(kForm.Pixels());
+    Form_Load();
+    connect(picForm, &PictureBox::MouseDown, this, &frmEditCenter::Form_MouseDown);
+    connect(picForm, &PictureBox::MouseMove, this, &frmEditCenter::Form_MouseMove);
+    connect(picForm, &PictureBox::MouseUp, this, &frmEditCenter::Form_MouseUp);
+    connect(picForm, &PictureBox::BackingChanged, this, &frmEditCenter::RedrawAll);
+    connect(txtHoldFocus, &HoldFocusBox::Committed, this, &frmEditCenter::Form_KeyPress);
+    connect(txtHoldFocus, &HoldFocusBox::Composing, this, &frmEditCenter::HoldFocus_Composing);
+    connect(txtHoldFocus, &HoldFocusBox::TabbedInto, this, &frmEditCenter::HoldFocus_TabbedInto);
+    connect(cmdOK, &QPushButton::clicked, this, &frmEditCenter::cmdOK_Click);
+    connect(cmdCancel, &QPushButton::clicked, this, &frmEditCenter::cmdCancel_Click);
+}
+
+void frmEditCenter::Form_Load() {
+    setFixedSize(kForm.Pixels().size());
+    Screen::PlaceAtFraction(*this, 1.0 / 3, 1.0 / 4);
+    for (int i = 1; i <= kAreas; ++i) {
+        m_area[size_t(i)] = RowOf(i).place.Pixels();
+        MakeLabel(QString::fromLatin1(RowOf(i).sLabel), m_area[size_t(i)]);
+    }
+    // Never seen: it only marks the place that the logo is painted on.
+    cmdLogo->setObjectName(QStringLiteral("cmdLogo"));
+    cmdLogo->setText(QStringLiteral("Display Area for Logo"));
+    cmdLogo->setGeometry(kLogo.Pixels());
+    cmdLogo->hide();
+    cmdOK->setGeometry(kOk.Pixels());
+    cmdCancel->setGeometry(kCancel.Pixels());
+    txtHoldFocus->installEventFilter(this);
+    setTabOrder(txtHoldFocus, cmdOK);
+    setTabOrder(cmdOK, cmdCancel);
+}
+
+QLabel* frmEditCenter::MakeLabel(const QString& sText, const QRect& place) {
+    auto* const label = new QLabel(WidgetLook::WithoutMnemonics(sText), this);
+    label->setTextFormat(Qt::PlainText);
+    label->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
+    label->setAttribute(Qt::WA_TransparentForMouseEvents);
+    label->setGeometry(place.left(), place.top() - kLabelHeight - kGapUnderLabel,
+                       std::max(place.width(), label->sizeHint().width()), kLabelHeight);
+    return label;
+}
+
+QPushButton* frmEditCenter::MakeButton(const char* sName, const QString& sCaption, const QString& sTip) {
+    auto* const button = new QPushButton(sCaption, this);
+    button->setObjectName(QString::fromLatin1(sName));
+    button->setAutoDefault(false);
+    button->installEventFilter(this);
+    WidgetLook::SetToolTip(*button, sTip);
+    return button;
+}
+
+void frmEditCenter::ShowForm(bool& bChanged) try {
+    bChanged = false;
+    m_bLoading = true;
+    for (int i = 1; i <= kAreas; ++i)
+        m_sSaved[size_t(i)] = basPosit::m_CenterText(i).sText;
+    m_bInArea.fill(false);
+    EditArea(kNoArea, -1, -1);
+    m_bLoading = false;
+    Redraw(0);
+    txtHoldFocus->setFocus();
+    exec();
+    for (int i = 1; i <= kAreas; ++i) {
+        if (basPosit::m_CenterText(i).sText != m_sSaved[size_t(i)]) bChanged = true;
+    }
+} catch (...) {
+    ErrTail("frmEditCenter!", "ShowForm");
+}
+
+void frmEditCenter::EditArea(int iArea, int iCol, int iRow) {
+    m_iTextArea = iArea;
+    m_selection.Clear();
+    if (iArea != kNoArea) m_selection.SetCaret(iCol, iRow);
+    txtHoldFocus->SetTyping(iArea != kNoArea, m_area[size_t(iArea)]);
+    txtToolTip->hide();
+}
+
+void frmEditCenter::Form_MouseDown(int Button, int Shift, float X, float Y) try {
+    if (Button != PictureBox::kLeftButton) return;
+    PerArea<bool> inArea{};
+    int row = -1;
+    int column = -1;
+    WhereIsMouse(X, Y, inArea, row, column);
+    int area = kNoArea;
+    for (int i = 1; i <= kAreas; ++i) {
+        if (inArea[size_t(i)]) area = i;
+    }
+    m_bInArea = inArea;
+    EditArea(area, column, row);
+    txtHoldFocus->setFocus();
+    Redraw(0);
+} catch (...) {
+    ErrTop("frmEditCenter!", "Form_MouseDown", Button, Shift, X, Y);
+}
+
+void frmEditCenter::Form_MouseMove(int Button, int Shift, float X, float Y) try {
+    PerArea<bool> over{};
+    int row = -1;
+    int column = -1;
+    WhereIsMouse(X, Y, over, row, column);
+    if (Button != 0) {
+        const bool drags = m_bInArea[size_t(m_iTextArea)] && over[size_t(m_iTextArea)];
+        if (drags && m_selection.SetEnd(column, row)) Redraw(m_iTextArea);
+        return;
+    }
+    QString tip;
+    for (int i = 1; i <= kAreas; ++i) {
+        if (over[size_t(i)]) tip = QString::fromLatin1(RowOf(i).sToolTip);
+    }
+    picForm->setCursor(tip.isEmpty() ? Qt::ArrowCursor : Qt::IBeamCursor);
+    WidgetLook::SetToolTip(*picForm, tip);
+} catch (...) {
+    ErrTop("frmEditCenter!", "Form_MouseMove", Button, Shift, X, Y);
+}
+
+void frmEditCenter::Form_MouseUp(int Button, int, float, float) {
+    if (Button == PictureBox::kLeftButton) m_bInArea.fill(false);
+}
+
+// Sees the keys before the control that has the focus: while a caret stands, those that edit belong to the
+// text.
+bool frmEditCenter::eventFilter(QObject* watched, QEvent* event) try {
+    if (event->type() == QEvent::KeyPress) return HandleKey(static_cast<QKeyEvent&>(*event));
+    return QDialog::eventFilter(watched, event);
+} catch (...) {
+    ErrTop("frmEditCenter!", "Form_KeyDown", int(event->type()));
+    return true;
+}
+
+bool frmEditCenter::HandleKey(const QKeyEvent& event) {
+    if (focusWidget() == txtHoldFocus && (event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab))
+        return HandleTab(event.key() == Qt::Key_Backtab);
+    const TypedText::Key key = TypedText::KeyOf(event);
+    if (!m_selection.IsOn() || m_iTextArea == kNoArea || key.kind == TypedText::Key::Kind::None) return false;
+    if (key.kind == TypedText::Key::Kind::Press) {
+        Form_KeyPress(key.sText);
+    } else if (key.kind == TypedText::Key::Kind::Paste) {
+        Form_KeyPress(QGuiApplication::clipboard()->text());
+    } else {
+        Form_KeyDown(key);
+    }
+    return true;
+}
+
+// The Tab key goes through the texts, so that they are reached without a mouse, and on to the buttons.
+bool frmEditCenter::HandleTab(bool bBack) {
+    const int area = m_iTextArea + (bBack ? -1 : 1);
+    const bool toText = area >= 1 && area <= kAreas;
+    EditBehindText(toText ? area : kNoArea);
+    return toText;
+}
+
+void frmEditCenter::EditBehindText(int iArea) {
+    m_iTextArea = iArea;
+    if (iArea == kNoArea) {
+        EditArea(kNoArea, -1, -1);
+    } else {
+        const QStringList lines = LinesUnderEdit();
+        EditArea(iArea, int(lines.last().size()), int(lines.size()) - 1);
+    }
+    Redraw(0);
+}
+
+void frmEditCenter::HoldFocus_TabbedInto() try { EditBehindText(kGameName); } catch (...) {
+    ErrTop("frmEditCenter!", "HoldFocus_TabbedInto");
+}
+
+void frmEditCenter::HoldFocus_Composing(const QString& sText) {
+    const QRect area = m_area[size_t(m_iTextArea)];
+    txtToolTip->ShowUnder(m_iTextArea == kNoArea ? QString() : sText, {area.center().x(), area.bottom()});
+}
+
+QStringList frmEditCenter::LinesUnderEdit() const {
+    basErrLog::ErrAssert(m_iTextArea >= 1 && m_iTextArea <= kAreas, QStringLiteral("Unexpected m_iTextArea"));
+    const basPosit::CenterTextRecord& record = basPosit::m_CenterText(m_iTextArea);
+    if (m_iTextArea == kGameName) return {record.sText};
+    const QStringList lines = record.Lines();
+    return lines.isEmpty() ? QStringList{QString()} : lines;
+}
+
+void frmEditCenter::Form_KeyDown(const TypedText::Key& key) {
+    QStringList lines = LinesUnderEdit();
+    const KeyResult result = TypedText::Take(key, lines, m_selection);
+    StoreTyped(result, lines);
+}
+
+void frmEditCenter::Form_KeyPress(const QString& sCharacters) try {
+    if (!m_selection.IsOn() || m_iTextArea == kNoArea) return;
+    QString text = sCharacters;
+    text.replace(kNewLine, QStringLiteral("\r"));
+    for (const char32_t character : text.toUcs4())
+        TypeCharacter(QString::fromUcs4(&character, 1));
+} catch (...) {
+    ErrTop("frmEditCenter!", "Form_KeyPress", sCharacters);
+}
+
+void frmEditCenter::TypeCharacter(const QString& sCharacter) {
+    const bool enter = sCharacter == QStringLiteral("\r") || sCharacter == QStringLiteral("\n");
+    const bool backspace = sCharacter == QChar(basEditTextArray::vbKeyBack);
+    if (m_iTextArea == kGameName && enter) return;
+    QStringList lines = LinesUnderEdit();
+    // A text of ten lines takes no more characters, not even on a line that has room; kept on purpose.
+    const bool full =
+        m_iTextArea != kGameName && basPosit::m_CenterText(m_iTextArea).iNLines >= basEditTextArray::kMaxLines;
+    if (full && !backspace) return;
+    const KeyResult result = TypedText::Feed(lines, m_selection, sCharacter);
+    StoreTyped(result, lines);
+}
+
+void frmEditCenter::StoreTyped(KeyResult result, const QStringList& sTextLines) {
+    if (result == KeyResult::Nothing) return;
+    if (result == KeyResult::TextChanged) {
+        basDraw::Draw_SetHdc(&picForm->hDC());
+        basPosit::SetSpecialText(m_iTextArea, TypedText::Joined(sTextLines));
+    }
+    Redraw(m_iTextArea);
+}
+
+bool frmEditCenter::RangeCheck() {
+    for (int i = 1; i <= kAreas; ++i) {
+        if (!basPosit::m_CenterText(i).sText.isEmpty()) continue;
+        MsgBox(QString::fromLatin1(RowOf(i).sMissing));
+        return false;
+    }
+    return true;
+}
+
+void frmEditCenter::ExitAndHide() {
+    txtHoldFocus->setFocus();
+    hide();
+}
+
+void frmEditCenter::cmdOK_Click() try {
+    if (RangeCheck()) ExitAndHide();
+} catch (...) {
+    ErrTop("frmEditCenter!", "cmdOK_Click");
+}
+
+void frmEditCenter::cmdCancel_Click() try {
+    basDraw::Draw_SetHdc(&picForm->hDC());
+    for (int i = 1; i <= kAreas; ++i)
+        basPosit::SetSpecialText(i, m_sSaved[size_t(i)]);
+    ExitAndHide();
+} catch (...) {
+    ErrTop("frmEditCenter!", "cmdCancel_Click");
+}
+
+void frmEditCenter::reject() { cmdCancel_Click(); }

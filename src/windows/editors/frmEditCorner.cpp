@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#include "windows/editors/frmEditCorner.h"
+
+#include "services/basErrLog.h"
+#include "windows/editors/CornerLikeness.h"
+
+namespace {
+
+constexpr const char* kModule = "frmEditCorner!";
+
+} // namespace
+
+frmEditCorner::frmEditCorner(QWidget* parent)
+    : EditWindow(std::make_unique<CornerLikeness>(),
+                 {.sModule = kModule,
+                  .sName = "frmEditCorner",
+                  .sCaption = "Edit Corner",
+                  .sImageFrame = "Bitmap",
+                  .sImageTip = "to Edit",
+                  .sThisPiece = "corner"},
+                 parent) {}
+
+void frmEditCorner::ShowForm(int iCorner, bool& bChanged) try { bChanged = ShowModally(iCorner); } catch (...) {
+    ErrTail(kModule, "ShowForm", iCorner, bChanged);
+}
+
+void frmEditCorner::mouseDoubleClickEvent(QMouseEvent* event) {
+    EditWindow::mouseDoubleClickEvent(event);
+    // The browser refuses while the window is being set up, so this never opens anything; kept on purpose.
+    if (IsLoading()) cmdBitmap_Click();
+}

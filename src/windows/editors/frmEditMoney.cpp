@@ -1,0 +1,195 @@
+// SPDX-License-Identifier: MIT
+#include "windows/editors/frmEditMoney.h"
+
+#include "drawing/basDraw.h"
+#include "platform/ElidedLabel.h"
+#include "platform/PictureBox.h"
+#include "services/basErrLog.h"
+#include "windows/editors/BoxText.h"
+#include "windows/editors/ImageGroup.h"
+#include "windows/editors/Redrawing.h"
+#include "windows/pictures/UnsavedChanges.h"
+
+#include <QCheckBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace {
+
+// Shape of the oval that the picture shows in.
+constexpr double kOvalHeightToWidth = 190.0 / 164.0;
+constexpr const char* kIndexProperty = "Tag";
+
+// A note that no game file has filled yet doesn't know whose picture it has.
+void NameOwner(C_Money& note, int index) {
+    note.FaceImage.SpaceOrCorner = QStringLiteral("Money");
+    note.FaceImage.Index = qint16(index);
+}
+
+} // namespace
+
+C_Money& frmEditMoney::Note() { return m_oMoney[size_t(Index())]; }
+
+int frmEditMoney::Index() const { return cmdIndex->property(kIndexProperty).toInt(); }
+
+bool frmEditMoney::ShowForm() try {
+    for (int i = 0; i < basTAVL::kMoney; ++i)
+        NameOwner(basTAVL::g_oMoney(i), i);
+    LoadFromGame();
+    ChooseNote(0);
+    optMoney[0]->setFocus();
+    exec();
+    return HandBack();
+} catch (...) {
+    ErrTail("frmEditMoney!", "ShowForm");
+}
+
+void frmEditMoney::LoadFromGame() {
+    for (int i = 0; i < basTAVL::kMoney; ++i)
+        m_oMoney[size_t(i)].LoadFromObject(basTAVL::g_oMoney(i));
+}
+
+bool frmEditMoney::IsAnyDifferent() const {
+    for (int i = 0; i < basTAVL::kMoney; ++i) {
+        if (m_oMoney[size_t(i)].IsDifferentFrom(basTAVL::g_oMoney(i))) return true;
+    }
+    return false;
+}
+
+bool frmEditMoney::HandBack() {
+    bool changed = false;
+    for (int i = 0; i < basTAVL::kMoney; ++i) {
+        C_Money& inGame = basTAVL::g_oMoney(i);
+        const C_Money& copy = m_oMoney[size_t(i)];
+        if (!copy.IsDifferentFrom(inGame)) continue;
+        inGame.LoadFromObject(copy);
+        changed = true;
+    }
+    return changed;
+}
+
+void frmEditMoney::ChooseNote(int Index) {
+    cmdIndex->setProperty(kIndexProperty, Index);
+    optMoney[size_t(Index)]->setChecked(true);
+    FillInForm();
+}
+
+void frmEditMoney::FillInForm() try {
+    // Filling one text box would store the other one's old text in the note.
+    m_bFillingIn = true;
+    for (int i = 0; i < C_Money::kTexts; ++i) {
+        txtSpace[size_t(i)]->setPlainText(Note().Text(i));
+        txtSpace[size_t(i)]->moveCursor(QTextCursor::End);
+    }
+    cmdBitmap->setEnabled(true);
+    ShowImagePath();
+    m_bFillingIn = false;
+    RedrawMoney();
+} catch (...) {
+    m_bFillingIn = false;
+    ErrTail("frmEditMoney!", "FillInForm");
+}
+
+void frmEditMoney::ShowImagePath() {
+    const QString path = FaceImage().FullPath();
+    txtBitmapPath->SetWholeText(path);
+    chkIncludeImage->setChecked(!path.isEmpty());
+    cmdCropImage->setEnabled(!path.isEmpty());
+}
+
+void frmEditMoney::RedrawMoney() try {
+    const Redrawing redrawing;
+    double dblDPI = 0;
+    double dblRatio = 0;
+    picNote->ScaleMode = ScaleModeKind::Pixels;
+    basDraw::Draw_GetDPIandPrinterSizeRatio(*picNote, dblDPI, dblRatio, 1.0);
+    picNote->Cls();
+    const bool wasCentered = FaceImage().IsCentered();
+    Note().DrawMoney(*picNote, dblDPI, 0, 0, true, true, false);
+    if (!wasCentered) basTAVL::g_oMoney(Index()).FaceImage.TakeCenterFrom(FaceImage());
+    picNote->Refresh();
+    redrawing.ShowMessages();
+} catch (...) {
+    ErrTail("frmEditMoney!", "RedrawMoney");
+}
+
+// The texts stand on plates of their own, but the plates have no more than the whole note beneath them.
+void frmEditMoney::RedrawTextOnly() { RedrawMoney(); }
+
+void frmEditMoney::optMoney_Click(int Index) try {
+    if (!m_bFillingIn) ChooseNote(Index);
+} catch (...) {
+    ErrTop("frmEditMoney!", "optMoney_Click", Index);
+}
+
+void frmEditMoney::txtSpace_Change() try {
+    if (m_bFillingIn) return;
+    for (int i = 0; i < C_Money::kTexts; ++i)
+        Note().Let_Text(i, BoxText(*txtSpace[size_t(i)]));
+    RedrawTextOnly();
+} catch (...) {
+    ErrTop("frmEditMoney!", "txtSpace_Change");
+}
+
+void frmEditMoney::chkIncludeImage_Click() try {
+    const bool include = chkIncludeImage->isChecked();
+    cmdBitmap->setEnabled(include);
+    cmdCropImage->setEnabled(include);
+    if (include) {
+        if (!m_bFillingIn) cmdBitmap_Click();
+    } else {
+        txtBitmapPath->SetWholeText(QString());
+        FaceImage().Let_FullPath(QString());
+    }
+    RedrawMoney();
+} catch (...) {
+    ErrTop("frmEditMoney!", "chkIncludeImage_Click");
+}
+
+void frmEditMoney::cmdBitmap_Click() try {
+    const QString before = FaceImage().FullPath();
+    const QString path = fraBitmap->AskForPicture(before);
+    if (path != before) {
+        FaceImage().Let_FullPath(path);
+        ShowImagePath();
+        RedrawMoney();
+    } else if (path.isEmpty() && chkIncludeImage->isChecked()) {
+        chkIncludeImage->setChecked(false);
+        chkIncludeImage_Click();
+    }
+} catch (...) {
+    ErrTop("frmEditMoney!", "cmdBitmap_Click");
+}
+
+void frmEditMoney::cmdCropImage_Click() try {
+    fraBitmap->AskForPosition(FaceImage(), kOvalHeightToWidth);
+    RedrawMoney();
+} catch (...) {
+    ErrTop("frmEditMoney!", "cmdCropImage_Click");
+}
+
+void frmEditMoney::txtBitmapPath_Click() try { ImageGroup::TellHowToChangePath(); } catch (...) {
+    ErrTop("frmEditMoney!", "txtBitmapPath_Click");
+}
+
+void frmEditMoney::picNote_BackingChanged() try { RedrawMoney(); } catch (...) {
+    ErrTop("frmEditMoney!", "picNote_BackingChanged");
+}
+
+void frmEditMoney::cmdOK_Click() { hide(); }
+
+void frmEditMoney::cmdCancel_Click() try {
+    if (!IsAnyDifferent()) {
+        hide();
+        return;
+    }
+    const UnsavedChanges answer = AskAboutUnsavedChanges();
+    if (answer == UnsavedChanges::Stay) return;
+    if (answer == UnsavedChanges::Drop) LoadFromGame();
+    hide();
+} catch (...) {
+    ErrTop("frmEditMoney!", "cmdCancel_Click");
+}
+
+void frmEditMoney::reject() { cmdCancel_Click(); }

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#include "windows/editors/frmEditSpace.h"
+
+#include "services/basErrLog.h"
+#include "windows/editors/SpaceLikeness.h"
+
+namespace {
+
+constexpr const char* kModule = "frmEditSpace!";
+
+} // namespace
+
+frmEditSpace::frmEditSpace(QWidget* parent)
+    : EditWindow(std::make_unique<SpaceLikeness>(),
+                 {.sModule = kModule,
+                  .sName = "frmEditSpace",
+                  .sCaption = "Edit Space",
+                  .sImageFrame = "Image",
+                  .sImageTip = "to Change",
+                  .sThisPiece = "space"},
+                 parent) {}
+
+void frmEditSpace::ShowForm(int iSpace, bool& bChanged) try { bChanged = ShowModally(iSpace); } catch (...) {
+    ErrTail(kModule, "ShowForm", iSpace, bChanged);
+}

@@ -1,0 +1,228 @@
+// SPDX-License-Identifier: MIT
+#include "windows/editors/frmEditToken.h"
+
+#include "document/basTAVL.h"
+#include "drawing/basDraw.h"
+#include "platform/PictureBox.h"
+#include "platform/WidgetLook.h"
+#include "services/basCommon.h"
+#include "services/basErrLog.h"
+#include "windows/editors/HoldFocusBox.h"
+#include "windows/editors/Redrawing.h"
+#include "windows/pictures/frmBrowse.h"
+#include "windows/pictures/frmImagePosition.h"
+#include "windows/pictures/UnsavedChanges.h"
+
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalBlocker>
+
+namespace {
+
+const QString kNewLine = QStringLiteral("\r\n");
+constexpr double kSquare = 1.0;
+constexpr bool kRound = true;
+constexpr const char* kIndexProperty = "Tag";
+
+} // namespace
+
+frmEditToken::frmEditToken(QWidget* parent) : QDialog(parent) {
+    setObjectName(QStringLiteral("frmEditToken"));
+    setWindowTitle(QStringLiteral("Edit Token"));
+    BuildControls();
+    Connect();
+    basCommon::ShowEntireForm(*this);
+}
+
+void frmEditToken::ShowForm(int iToken) try {
+    m_bLoading = true;
+    cmdIndex->setProperty(kIndexProperty, iToken);
+    m_bSetAllFonts = false;
+    m_bSelecting = false;
+    m_selection.Clear();
+    LoadFromGame();
+    m_bLoading = false;
+    Redraw();
+    TakeFocus();
+    exec();
+    C_Token& inGame = basTAVL::g_oTokens(iToken);
+    if (m_oToken.IsDifferentFrom(inGame)) inGame.LoadFromObject(m_oToken);
+} catch (...) {
+    ErrTail("frmEditToken!", "ShowForm", iToken);
+}
+
+int frmEditToken::Index() const { return cmdIndex->property(kIndexProperty).toInt(); }
+
+void frmEditToken::LoadFromGame() {
+    m_oToken = C_Token();
+    m_oToken.LoadFromObject(basTAVL::g_oTokens(Index()));
+    const QSignalBlocker silent(txtToken);
+    txtToken->setPlainText(m_oToken.TextAll());
+}
+
+void frmEditToken::Redraw() try {
+    if (m_bLoading) return;
+    const Redrawing redrawing;
+    const bool wasCentered = m_oToken.Image.IsCentered();
+    const C_Token::TextSelection selection{m_selection.m_iCol, m_selection.m_iRow, m_selection.m_iColEnd,
+                                           m_selection.m_iRowEnd};
+    m_oToken.Redraw(0, 0, picDest->width(), picDest->height(), m_selection.IsOn(), *picDest, picScratch, selection,
+                    WidgetLook::FillOf(*this));
+    if (!wasCentered) basTAVL::g_oTokens(Index()).Image.TakeCenterFrom(m_oToken.Image);
+    picDest->Refresh();
+    // A picture that couldn't be painted has been given up just now.
+    ShowInclude(HasImage() ? kImage : kText);
+    txtHoldFocus->SetTyping(m_selection.IsOn(), picDest->geometry());
+    redrawing.ShowMessages();
+} catch (...) {
+    ErrTail("frmEditToken!", "Redraw");
+}
+
+void frmEditToken::ShowInclude(Include include) {
+    const bool image = include == kImage;
+    optInclude[include]->setChecked(true);
+    cmdBitmap->setText(image ? QStringLiteral("Cha&nge Image") : QStringLiteral("&Select Image"));
+    cmdCropImage->setEnabled(image);
+    cmdChangeFont->setEnabled(!image);
+    cmdSetAllFonts->setEnabled(!image);
+    lblHint->setText(image ? QStringLiteral("The image fills the token.") : QStringLiteral("Click the token to type."));
+}
+
+void frmEditToken::SetText(const QString& sText) {
+    UsePicDest();
+    m_oToken.SetText(sText);
+    const QSignalBlocker silent(txtToken);
+    txtToken->setPlainText(m_oToken.TextAll());
+}
+
+void frmEditToken::SetImagePath(const QString& sFullPath) {
+    UsePicDest();
+    m_oToken.SetImagePath(sFullPath);
+}
+
+void frmEditToken::UsePicDest() { basDraw::Draw_SetHdc(&picDest->hDC()); }
+
+void frmEditToken::TakeFocus() {
+    activateWindow();
+    txtHoldFocus->setFocus(Qt::OtherFocusReason);
+}
+
+void frmEditToken::optInclude_Click(int Index) try {
+    ShowInclude(Include(Index));
+    if (Index == kText) {
+        SetImagePath(QString());
+    } else if (!HasImage()) {
+        m_selection.Clear();
+        const QString sText = m_oToken.TextAll();
+        SetText(QString());
+        cmdBitmap_Click();
+        // Nothing was chosen, so nothing has taken the text's place.
+        if (!HasImage()) SetText(sText);
+    }
+    Redraw();
+    TakeFocus();
+} catch (...) {
+    ErrTop("frmEditToken!", "optInclude_Click", Index);
+}
+
+void frmEditToken::cmdBitmap_Click() try {
+    if (m_bLoading) return;
+    const QString sText = HasImage() ? QString() : m_oToken.TextAll();
+    if (!sText.isEmpty()) {
+        if (MsgBox(QStringLiteral("Selecting an image will clear the text from the token. Do you wish to use an image "
+                                  "instead of text?"),
+                   vbYesNo + vbQuestion, QStringLiteral("Clear Text")) != vbYes)
+            return;
+        m_selection.Clear();
+        ShowInclude(kImage);
+        SetText(QString());
+    }
+    ChooseImage();
+    if (!HasImage() && !sText.isEmpty()) SetText(sText);
+    Redraw();
+    TakeFocus();
+} catch (...) {
+    ErrTop("frmEditToken!", "cmdBitmap_Click");
+}
+
+void frmEditToken::ChooseImage() {
+    if (m_sLastFolder.isEmpty()) m_sLastFolder = basCommon::GetMyGamesDirectory();
+    const QString before = m_oToken.Image.FullPath();
+    frmBrowse browser(this);
+    const QString path = browser.ShowForm(before, true, m_sLastFolder);
+    if (path == before) return;
+    m_sLastFolder = frmBrowse::LastFolder();
+    SetImagePath(path);
+}
+
+void frmEditToken::cmdCropImage_Click() try {
+    C_Image& image = m_oToken.Image;
+    if (image.IsWMF()) {
+        MsgBox(QStringLiteral("This image is a 'Windows Metafile'. You are not allowed to crop or zoom this type of "
+                              "image."),
+               vbInformation);
+        return;
+    }
+    frmImagePosition position(this);
+    position.ShowForm(image, kSquare, kRound);
+    Redraw();
+    TakeFocus();
+} catch (...) {
+    ErrTop("frmEditToken!", "cmdCropImage_Click");
+}
+
+void frmEditToken::cmdChangeFont_Click() try {
+    C_FontInfo& font = m_oToken.Font;
+    const C_FontInfo before = font;
+    basTAVL::FontToDialog(cdlgFont, font);
+    cdlgFont.ShowFont();
+    basTAVL::FontFromDialog(cdlgFont, font);
+    // An unchanged font is fitted already: another fit could differ and count as a change.
+    if (font.IsDifferentFrom(before)) SetText(TextLines::kUseExisting);
+    Redraw();
+    TakeFocus();
+} catch (...) {
+    ErrTop("frmEditToken!", "cmdChangeFont_Click");
+}
+
+void frmEditToken::cmdSetAllFonts_Click() try {
+    const QString question = QStringLiteral("Clicking 'Yes' below will force the font and max size") + kNewLine +
+                             QStringLiteral("in use on this token to be used for all tokens.") + kNewLine + kNewLine +
+                             QStringLiteral("This action CANNOT be undone. Do you wish to continue?");
+    if (MsgBox(question, vbYesNo + vbExclamation, QStringLiteral("Set All Fonts?")) != vbYes) return;
+    m_bSetAllFonts = true;
+    MsgBox(QStringLiteral("The font for all tokens will be changed as soon as you exit this form."), vbInformation);
+    TakeFocus();
+} catch (...) {
+    ErrTop("frmEditToken!", "cmdSetAllFonts_Click");
+}
+
+void frmEditToken::cmdHelp_Click() try {
+    MsgBox(QStringLiteral("To insert text, simply click in the middle of the token and start typing. ") + kNewLine +
+               kNewLine +
+               QStringLiteral("To edit the text, use the mouse to select text or set the insert point and again, start "
+                              "typing. "),
+           vbInformation);
+    TakeFocus();
+} catch (...) {
+    ErrTop("frmEditToken!", "cmdHelp_Click");
+}
+
+void frmEditToken::cmdOK_Click() { hide(); }
+
+void frmEditToken::cmdCancel_Click() try {
+    m_selection.Clear();
+    Redraw();
+    if (m_oToken.IsDifferentFrom(basTAVL::g_oTokens(Index()))) {
+        const UnsavedChanges answer = AskAboutUnsavedChanges();
+        if (answer == UnsavedChanges::Stay) return;
+        if (answer == UnsavedChanges::Drop) LoadFromGame();
+    }
+    hide();
+} catch (...) {
+    ErrTop("frmEditToken!", "cmdCancel_Click");
+}
+
+void frmEditToken::reject() { cmdCancel_Click(); }

@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "document/C_Token.h"
+#include "platform/Desktop.h"
+#include "platform/PictureHolder.h"
+#include "windows/editors/TextSelection.h"
+#include "windows/editors/TypedText.h"
+
+#include <QDialog>
+
+#include <array>
+
+class HoldFocusBox;
+class PictureBox;
+class QBoxLayout;
+class QGroupBox;
+class QLabel;
+class QPlainTextEdit;
+class QPushButton;
+class TipLabel;
+class QRadioButton;
+
+/// Edits one token: either its text, typed straight onto it, or its picture. Works on a copy that reaches
+/// the game only when the window closes.
+class frmEditToken : public QDialog {
+    Q_OBJECT
+public:
+    explicit frmEditToken(QWidget* parent = nullptr);
+
+    /// Shows a token (0 to 5) modally.
+    void ShowForm(int iToken);
+    /// The copy, as the window left it.
+    const C_Token& Token() const { return m_oToken; }
+    /// Whether the user has asked for this token's font on all tokens since ShowForm. It's for the caller to
+    /// do that once the window is closed, however it was closed.
+    bool SetsAllFonts() const { return m_bSetAllFonts; }
+
+    void Redraw();
+    /// The lines being edited, never fewer than one.
+    QStringList GetTextArray() const { return m_oToken.LinesShown(); }
+    /// The place in the text nearest to a point of the picture, in twips; false outside the text.
+    bool WhereIsMouse(float X, float Y, int& iCol, int& iRow);
+
+    /// Escape and the close button do what Cancel does.
+    void reject() override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    /// What stands on the token; also the indexes of optInclude.
+    enum Include { kImage = 0, kText = 1 };
+    static constexpr int kIncludes = 2;
+
+    // Building, in frmEditToken_controls.cpp.
+    void BuildControls();
+    QBoxLayout* BuildPicture();
+    QGroupBox* BuildIncludeGroup();
+    QGroupBox* BuildImageGroup();
+    QGroupBox* BuildTextGroup();
+    QBoxLayout* BuildClosing();
+    QRadioButton* MakeOption(Include iIndex, const QString& sCaption, const QString& sTip);
+    QPushButton* MakeButton(const char* sName, const QString& sCaption, const QString& sTip);
+    void BuildHidden();
+    void Connect();
+
+    // Keyboard and mouse, in frmEditToken_text.cpp.
+    bool TakesKey(const QKeyEvent& event);
+    void Form_KeyDown(const TypedText::Key& key);
+    void Form_KeyPress(const QString& sText);
+    void StoreTyped(basEditTextArray::KeyResult result, const QStringList& sTextLines);
+    bool EnterText(const QString& sText);
+    bool MayClearImage();
+    void HoldFocus_Tabbed();
+    void HoldFocus_TabbedOut();
+    void HoldFocus_Composing(const QString& sText);
+    void txtToken_Change();
+    void picDest_MouseDown(int iButton, int iShift, float X, float Y);
+    void picDest_MouseMove(int iButton, int iShift, float X, float Y);
+    void picDest_MouseUp(int iButton, int iShift, float X, float Y);
+    void picDest_BackingChanged();
+
+    void optInclude_Click(int Index);
+    void cmdBitmap_Click();
+    void cmdCropImage_Click();
+    void cmdChangeFont_Click();
+    void cmdSetAllFonts_Click();
+    void cmdHelp_Click();
+    void cmdOK_Click();
+    void cmdCancel_Click();
+
+    /// Number of the token being edited, which cmdIndex keeps.
+    int Index() const;
+    bool HasImage() const { return !m_oToken.Image.FullPath().isEmpty(); }
+    void LoadFromGame();
+    void ShowInclude(Include include);
+    void ChooseImage();
+    void SetText(const QString& sText);
+    void SetImagePath(const QString& sFullPath);
+    void UsePicDest();
+    void TakeFocus();
+
+    C_Token m_oToken;
+    TextSelection m_selection;
+    bool m_bLoading = false;
+    bool m_bSelecting = false;
+    bool m_bSetAllFonts = false;
+    /// The folder last browsed; empty at first.
+    QString m_sLastFolder;
+
+    CommonDialog cdlgFont;
+    PictureHolder picScratch;
+    PictureBox* picDest = nullptr;
+    QLabel* lblHint = nullptr;
+    TipLabel* lblComposing = nullptr;
+    HoldFocusBox* txtHoldFocus = nullptr;
+    QPlainTextEdit* txtToken = nullptr;
+    std::array<QRadioButton*, kIncludes> optInclude{};
+    QPushButton* cmdBitmap = nullptr;
+    QPushButton* cmdCropImage = nullptr;
+    QPushButton* cmdChangeFont = nullptr;
+    QPushButton* cmdSetAllFonts = nullptr;
+    /// Never shown.
+    QPushButton* cmdIndex = nullptr;
+    QPushButton* cmdHelp = nullptr;
+    QPushButton* cmdOK = nullptr;
+    QPushButton* cmdCancel = nullptr;
+};

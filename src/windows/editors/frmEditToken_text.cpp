@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: MIT
+#include "windows/editors/frmEditToken.h"
+
+#include "platform/Numbers.h"
+#include "platform/PictureBox.h"
+#include "platform/Screen.h"
+#include "services/basErrLog.h"
+#include "windows/editors/HoldFocusBox.h"
+#include "windows/editors/TipLabel.h"
+
+#include <QKeyEvent>
+#include <QPlainTextEdit>
+
+using basEditTextArray::KeyResult;
+
+bool frmEditToken::TakesKey(const QKeyEvent& event) {
+    const TypedText::Key key = TypedText::KeyOf(event);
+    if (!m_selection.IsOn() || key.kind == TypedText::Key::Kind::None) return false;
+    Form_KeyDown(key);
+    return true;
+}
+
+void frmEditToken::Form_KeyDown(const TypedText::Key& key) try {
+    QStringList sTextLines = GetTextArray();
+    const KeyResult result = TypedText::Take(key, sTextLines, m_selection);
+    StoreTyped(result, sTextLines);
+} catch (...) {
+    ErrTop("frmEditToken!", "Form_KeyDown", key.iKeyCode, key.sText);
+}
+
+void frmEditToken::Form_KeyPress(const QString& sText) try {
+    if (!m_selection.IsOn()) return;
+    QStringList sTextLines = GetTextArray();
+    const KeyResult result = TypedText::Feed(sTextLines, m_selection, sText);
+    StoreTyped(result, sTextLines);
+} catch (...) {
+    ErrTop("frmEditToken!", "Form_KeyPress", sText);
+}
+
+void frmEditToken::StoreTyped(KeyResult result, const QStringList& sTextLines) {
+    if (result == KeyResult::Nothing) return;
+    if (result == KeyResult::TextChanged && !EnterText(TypedText::Joined(sTextLines))) m_selection.Clear();
+    Redraw();
+}
+
+// True when the token shows the text now; false when it keeps its picture, without a text.
+bool frmEditToken::EnterText(const QString& sText) {
+    if (HasImage()) {
+        const bool hasCharacter = !sText.trimmed().isEmpty();
+        if (!hasCharacter || !MayClearImage()) {
+            SetText(QString());
+            return false;
+        }
+    }
+    SetText(sText);
+    return true;
+}
+
+bool frmEditToken::MayClearImage() {
+    // "test" is how the question has always read.
+    if (MsgBox(QStringLiteral("Entering Text will clear the image from the token. Do you wish to use test instead of "
+                              "an image?"),
+               vbYesNo + vbQuestion, QStringLiteral("Clear Image")) != vbYes)
+        return false;
+    ShowInclude(kText);
+    SetImagePath(QString());
+    return true;
+}
+
+// Whoever comes by the keyboard finds the caret behind the text, as there is no click to place it.
+void frmEditToken::HoldFocus_Tabbed() try {
+    const QStringList sTextLines = GetTextArray();
+    m_selection.SetCaret(int(sTextLines.last().size()), int(sTextLines.size()) - 1);
+    Redraw();
+} catch (...) {
+    ErrTop("frmEditToken!", "HoldFocus_Tabbed");
+}
+
+// Space and Enter belong to the button that has the focus now.
+void frmEditToken::HoldFocus_TabbedOut() try {
+    m_selection.Clear();
+    Redraw();
+} catch (...) {
+    ErrTop("frmEditToken!", "HoldFocus_TabbedOut");
+}
+
+void frmEditToken::HoldFocus_Composing(const QString& sText) {
+    lblComposing->ShowUnder(m_selection.IsOn() ? sText : QString(), picDest->geometry().center());
+}
+
+void frmEditToken::txtToken_Change() try {
+    EnterText(TypedText::Joined(txtToken->toPlainText().split(u'\n')));
+    m_selection.Clear();
+    Redraw();
+} catch (...) {
+    ErrTop("frmEditToken!", "txtToken_Change");
+}
+
+bool frmEditToken::WhereIsMouse(float X, float Y, int& iCol, int& iRow) try {
+    return m_oToken.FindInsertPoint(0, 0, picDest->width(), picDest->height(), *picDest,
+                                    CLng(X / double(Screen::kTwipsPerPixel)), CLng(Y / double(Screen::kTwipsPerPixel)),
+                                    iCol, iRow);
+} catch (...) {
+    ErrTail("frmEditToken!", "WhereIsMouse", X, Y);
+}
+
+void frmEditToken::picDest_MouseDown(int iButton, int iShift, float X, float Y) try {
+    if (iButton != PictureBox::kLeftButton) return;
+    int column = 0;
+    int row = 0;
+    m_bSelecting = WhereIsMouse(X, Y, column, row);
+    if (m_bSelecting) {
+        m_selection.SetCaret(column, row);
+    } else {
+        m_selection.Clear();
+    }
+    txtHoldFocus->setFocus(Qt::MouseFocusReason);
+    Redraw();
+} catch (...) {
+    ErrTop("frmEditToken!", "picDest_MouseDown", iButton, iShift, X, Y);
+}
+
+void frmEditToken::picDest_MouseMove(int iButton, int iShift, float X, float Y) try {
+    int column = 0;
+    int row = 0;
+    const bool inText = WhereIsMouse(X, Y, column, row);
+    if (iButton == 0) {
+        m_bSelecting = false;
+        picDest->setCursor(inText ? Qt::IBeamCursor : Qt::ArrowCursor);
+    } else if (m_bSelecting && m_selection.IsOn() && m_selection.SetEnd(column, row)) {
+        Redraw();
+    }
+} catch (...) {
+    ErrTop("frmEditToken!", "picDest_MouseMove", iButton, iShift, X, Y);
+}
+
+void frmEditToken::picDest_MouseUp(int iButton, int, float, float) {
+    if (iButton == PictureBox::kLeftButton) m_bSelecting = false;
+}
+
+void frmEditToken::picDest_BackingChanged() try { Redraw(); } catch (...) {
+    ErrTop("frmEditToken!", "picDest_BackingChanged");
+}
+
+// Sees the keys before the control that has the focus: while a caret stands, Space and Enter are text.
+bool frmEditToken::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress && TakesKey(static_cast<QKeyEvent&>(*event))) return true;
+    return QDialog::eventFilter(watched, event);
+}
+
+void frmEditToken::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_F1) {
+        cmdHelp_Click();
+    } else if (!TakesKey(*event)) {
+        QDialog::keyPressEvent(event);
+    }
+}

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+// Pictures from disks that may go away are kept in the My Games directory.
+#include "platform/Desktop.h"
+#include "platform/Files.h"
+#include "platform/Folders.h"
+#include "services/basCommon.h"
+#include "services/basErrLog.h"
+#include "windows/pictures/frmBrowse.h"
+
+namespace {
+
+const QString kNewLine = QStringLiteral("\r\n");
+
+// What is left free once the half-made copy is gone again tells why there was no room for it.
+bool IsDiskFull(const QString& sSource, const QString& sFolder) {
+    return Folders::FreeBytes(sFolder) < double(Files::Size(sSource));
+}
+
+} // namespace
+
+bool frmBrowse::CopyFileToRoot() try {
+    if (m_sOriginalPath == m_sFilePath) return true;
+    const QString games = basCommon::GetMyGamesDirectory();
+    if (BrowsePlaces::IsOnGamesDrive(m_sFilePath, games)) return true;
+
+    QString drive, dir, base, ext;
+    basCommon::FileNameFactor(m_sFilePath, drive, dir, base, ext);
+    int iCopy = 0;
+    while (basCommon::DoesFileExist(basCommon::JoinPath(games, BrowsePlaces::CopyName(base, ext, iCopy))))
+        ++iCopy;
+    const QString name = BrowsePlaces::CopyName(base, ext, iCopy);
+    const QString target = basCommon::JoinPath(games, name);
+    QString error;
+    if (!Files::Copy(m_sFilePath, target, error)) {
+        TellCopyFailure(target, error);
+        return false;
+    }
+    ShowFilePath(target);
+    TellCopy(name, iCopy > 0);
+    return true;
+} catch (...) {
+    ErrTail("frmBrowse!", "CopyFileToRoot");
+}
+
+void frmBrowse::TellCopy(const QString& sCopyName, bool bRenamed) {
+    QString text = QStringLiteral("This image was not on your primary local hard drive, ") +
+                   QStringLiteral("so the system has copied it to your 'My Games' directory. ") +
+                   QStringLiteral("Tavlora will use the copy in case the original becomes unavailable.");
+    if (bRenamed) {
+        // No quotation mark closes the name, and none ever has.
+        text += kNewLine + kNewLine +
+                QStringLiteral("Because the file name was already in use, it has been renamed to '") + sCopyName;
+    }
+    MsgBox(text);
+}
+
+void frmBrowse::TellCopyFailure(const QString& sTarget, const QString& sError) {
+    if (IsDiskFull(m_sFilePath, basCommon::GetMyGamesDirectory())) {
+        MsgBox(QStringLiteral("We are unable to process files because your disk is full.") + kNewLine +
+                   QStringLiteral("Please make some space on your disk and try again."),
+               vbInformation);
+        return;
+    }
+    MsgBox(QStringLiteral("The following error occurred while ") + kNewLine +
+               QStringLiteral("attempting to copy the file ") + kNewLine + QStringLiteral("named '") + m_sFilePath +
+               QStringLiteral("' to '") + sTarget + QStringLiteral("'.") + kNewLine + kNewLine + sError + kNewLine +
+               kNewLine + QStringLiteral("Please correct this problem and try again."),
+           vbInformation);
+}

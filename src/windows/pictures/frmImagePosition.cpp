@@ -1,0 +1,310 @@
+// SPDX-License-Identifier: MIT
+#include "windows/pictures/frmImagePosition.h"
+
+#include "platform/Desktop.h"
+#include "platform/LoadPicture.h"
+#include "platform/Numbers.h"
+#include "platform/PictureBox.h"
+#include "platform/WidgetLook.h"
+#include "services/basCommon.h"
+#include "services/basErrLog.h"
+#include "windows/pictures/frmBrowse.h"
+#include "windows/pictures/UnsavedChanges.h"
+
+#include <QCoreApplication>
+#include <QFrame>
+#include <QKeyEvent>
+#include <QSignalBlocker>
+#include <QSlider>
+
+namespace {
+
+const QString kNewLine = QStringLiteral("\r\n");
+// Preview pixels that an arrow key moves the picture, and with Ctrl.
+constexpr int kArrowStep = 10;
+constexpr int kFineArrowStep = 1;
+
+// Folder in which the browser opens, kept for the run.
+QString& StartFolder() {
+    static QString folder;
+    return folder;
+}
+
+QPointF InPixels(float X, float Y) { return {X / double(Screen::kTwipsPerPixel), Y / double(Screen::kTwipsPerPixel)}; }
+
+} // namespace
+
+frmImagePosition::frmImagePosition(QWidget* parent) : QDialog(parent) {
+    setObjectName(QStringLiteral("frmImagePosition"));
+    setWindowTitle(QStringLiteral("Position Image"));
+    BuildControls();
+    Connect();
+    picZoomed->SetBackColor(Color::White());
+}
+
+frmImagePosition::~frmImagePosition() = default;
+
+void frmImagePosition::ResetForTest() { StartFolder().clear(); }
+
+void frmImagePosition::ShowForm(C_Image& objImage, double dblHeightToWidth, bool bRound) try {
+    SizePreview(dblHeightToWidth);
+    basCommon::ShowEntireForm(*this);
+    m_bRound = bRound;
+    m_bLoaded = false;
+    m_oImage = C_Image();
+    m_oMaster = &objImage;
+    m_oImage.LoadFromObject(objImage, false);
+    SetSlider(ImagePlacing::SliderOfZoom(m_oImage.Zoom()));
+    if (LoadMyPicture(m_oImage.FullPath())) Zoom();
+    if (!m_bLoaded) timSelectAnImage->start();
+    picZoomed->setFocus();
+    exec();
+    timSharpen->stop();
+    timSelectAnImage->stop();
+    if (m_oMaster->IsDifferentFrom(m_oImage)) m_oMaster->LoadFromObject(m_oImage, false);
+} catch (...) {
+    ErrTail("frmImagePosition!", "ShowForm", objImage, dblHeightToWidth, bRound);
+}
+
+void frmImagePosition::ShowNothing() {
+    picOriginal.Picture = Picture();
+    m_inMotion = PicturePyramid();
+    m_bLoaded = false;
+    timSharpen->stop();
+    picZoomed->Cls();
+}
+
+bool frmImagePosition::LoadMyPicture(const QString& sFilePath) try {
+    if (!basCommon::DoesFileExist(sFilePath)) {
+        ShowNothing();
+        if (!sFilePath.isEmpty()) {
+            MsgBox(QStringLiteral("The file named '") + sFilePath + QStringLiteral("' could not be found.") + kNewLine +
+                   QStringLiteral("No image was loaded."));
+        }
+        return false;
+    }
+    QString error;
+    const Picture picture = LoadPicture(sFilePath, error);
+    if (picture.IsNull()) {
+        MsgBox(QStringLiteral("The file named '") + sFilePath + QStringLiteral("' could not be loaded.") + kNewLine +
+               QStringLiteral("The following error was reported:") + kNewLine + error);
+        ShowNothing();
+        cmdSelectImage_Click();
+        return false;
+    }
+    picOriginal.Picture = picture;
+    m_inMotion = PicturePyramid(picture);
+    m_bLoaded = true;
+    return true;
+} catch (...) {
+    ErrTail("frmImagePosition!", "LoadMyPicture", sFilePath);
+}
+
+void frmImagePosition::Zoom() try {
+    if (!m_bLoaded) return;
+    timSharpen->stop();
+    picZoomed->Cls();
+    picZoomed->ScaleMode = ScaleModeKind::Pixels;
+    m_oImage.PaintPictureZoomed(*picZoomed, picOriginal, ScaleModeKind::Twips, 0, 0, picZoomed->width(),
+                                picZoomed->height(), Color::None());
+    CenterMaster();
+    MaskRound();
+    picZoomed->Refresh();
+} catch (...) {
+    ErrTop("frmImagePosition!", "Zoom");
+}
+
+// A drawing of one bit needs no other way here: on the white of the box its white shows either way.
+void frmImagePosition::ZoomInMotion() try {
+    if (!m_bLoaded) return;
+    if (m_oImage.XCenter() == 0 && m_oImage.YCenter() == 0) {
+        // Not yet centred; the proper paint does that.
+        Zoom();
+        return;
+    }
+    const Picture& picture = picOriginal.Picture;
+    const ZoomedSource source =
+        ZoomedSource::Of(picture.Width(), picture.Height(), m_oImage.Zoom(), m_oImage.XCenter(), m_oImage.YCenter());
+    picZoomed->Cls();
+    m_inMotion.Paint(*picZoomed, QRectF(picZoomed->rect()),
+                     QRectF(source.xSrc, source.ySrc, source.iSide, source.iSide));
+    MaskRound();
+    picZoomed->Refresh();
+    timSharpen->start();
+} catch (...) {
+    ErrTop("frmImagePosition!", "ZoomInMotion");
+}
+
+// What is cut away later is hidden now.
+void frmImagePosition::MaskRound() {
+    if (!m_bRound) return;
+    const int lW = picZoomed->width();
+    const int lH = picZoomed->height();
+    const ImagePlacing::Ring ring = ImagePlacing::Ring::For(lW);
+    picZoomed->DrawWidth = ring.iDrawWidth;
+    picZoomed->Circle(lW / 2.0, lH / 2.0, ring.dblRadius, WidgetLook::FillOf(*this));
+    picZoomed->DrawWidth = 1;
+}
+
+// Centring is no change: it happens at any first painting of an image. Done on the copy alone, it would
+// make Cancel ask about a change that nobody made.
+void frmImagePosition::CenterMaster() {
+    const bool uncentered = m_oMaster && m_oMaster->XCenter() == 0 && m_oMaster->YCenter() == 0;
+    if (!uncentered || m_oMaster->FullPath() != m_oImage.FullPath()) return;
+    m_oMaster->Let_XCenter(m_oImage.XCenter());
+    m_oMaster->Let_YCenter(m_oImage.YCenter());
+}
+
+ImagePlacing::Scale frmImagePosition::CurrentScale() const {
+    const QSize size(picOriginal.Picture.Width(), picOriginal.Picture.Height());
+    return ImagePlacing::Scale::Of(size, picZoomed->size(), m_oImage.Zoom());
+}
+
+void frmImagePosition::SetCenter(ImagePlacing::Center center) {
+    const ImagePlacing::Center kept = ImagePlacing::WithinLimits(center);
+    m_oImage.Let_XCenter(float(kept.x));
+    m_oImage.Let_YCenter(float(kept.y));
+}
+
+void frmImagePosition::SetSlider(int value) {
+    const QSignalBlocker quiet(sldZoom);
+    sldZoom->setValue(value);
+}
+
+void frmImagePosition::picZoomed_MouseDown(int Button, int Shift, float X, float Y) try {
+    if (!m_bLoaded) return;
+    const QPointF at = InPixels(X, Y);
+    m_iStartX = qint16(m_oImage.XCenter());
+    m_iStartY = qint16(m_oImage.YCenter());
+    m_iDownX = qint16(CLng(at.x()));
+    m_iDownY = qint16(CLng(at.y()));
+    if (Button == PictureBox::kLeftButton) picZoomed->setCursor(Qt::ClosedHandCursor);
+    if (Button != PictureBox::kRightButton) return;
+    SetCenter(ImagePlacing::CenteredOn({double(m_iStartX), double(m_iStartY)}, at, CurrentScale()));
+    Zoom();
+} catch (...) {
+    ErrTop("frmImagePosition!", "picZoomed_MouseDown", Button, Shift, X, Y);
+}
+
+void frmImagePosition::picZoomed_MouseMove(int Button, int Shift, float X, float Y) try {
+    if (Button != PictureBox::kLeftButton || m_bBusy || !m_bLoaded) return;
+    m_bBusy = true;
+    SetCenter(ImagePlacing::Dragged({double(m_iStartX), double(m_iStartY)}, QPointF(m_iDownX, m_iDownY), InPixels(X, Y),
+                                    CurrentScale().dblScale));
+    ZoomInMotion();
+    m_bBusy = false;
+} catch (...) {
+    m_bBusy = false;
+    ErrTop("frmImagePosition!", "picZoomed_MouseMove", Button, Shift, X, Y);
+}
+
+void frmImagePosition::picZoomed_MouseUp(int, int, float, float) {
+    picZoomed->setCursor(Qt::OpenHandCursor);
+    if (timSharpen->isActive()) Zoom();
+}
+
+void frmImagePosition::timSharpen_Timer() { Zoom(); }
+
+void frmImagePosition::sldZoom_MouseMove() try {
+    m_oImage.Let_Zoom(qint16(ImagePlacing::ZoomOfSlider(sldZoom->value())));
+    ZoomInMotion();
+} catch (...) {
+    ErrTop("frmImagePosition!", "sldZoom_MouseMove");
+}
+
+void frmImagePosition::MoveBy(QPointF pixels) {
+    if (!m_bLoaded) return;
+    SetCenter(
+        ImagePlacing::Dragged({m_oImage.XCenter(), m_oImage.YCenter()}, QPointF(), pixels, CurrentScale().dblScale));
+    ZoomInMotion();
+}
+
+// The keyboard's way to move the picture; the slider has keys of its own.
+bool frmImagePosition::picZoomed_KeyDown(int key, Qt::KeyboardModifiers modifiers) try {
+    const int step = modifiers.testFlag(Qt::ControlModifier) ? kFineArrowStep : kArrowStep;
+    switch (key) {
+        case Qt::Key_Left:
+            MoveBy(QPointF(-step, 0));
+            return true;
+        case Qt::Key_Right:
+            MoveBy(QPointF(step, 0));
+            return true;
+        case Qt::Key_Up:
+            MoveBy(QPointF(0, -step));
+            return true;
+        case Qt::Key_Down:
+            MoveBy(QPointF(0, step));
+            return true;
+        case Qt::Key_Plus:
+            sldZoom->setValue(sldZoom->value() - sldZoom->singleStep());
+            return true;
+        case Qt::Key_Minus:
+            sldZoom->setValue(sldZoom->value() + sldZoom->singleStep());
+            return true;
+        default:
+            return false;
+    }
+} catch (...) {
+    ErrTop("frmImagePosition!", "picZoomed_KeyDown", key);
+    return true;
+}
+
+bool frmImagePosition::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != picZoomed) return QDialog::eventFilter(watched, event);
+    switch (event->type()) {
+        case QEvent::KeyPress: {
+            const auto* key = static_cast<QKeyEvent*>(event);
+            return picZoomed_KeyDown(key->key(), key->modifiers());
+        }
+        case QEvent::Wheel:
+            return QCoreApplication::sendEvent(sldZoom, event);
+        case QEvent::FocusIn:
+        case QEvent::FocusOut:
+            shpZoomed->setBackgroundRole(picZoomed->hasFocus() ? QPalette::Highlight : QPalette::Mid);
+            break;
+        default:
+            break;
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+void frmImagePosition::timSelectAnImage_Timer() { cmdSelectImage_Click(); }
+
+void frmImagePosition::cmdSelectImage_Click() try {
+    if (StartFolder().isEmpty()) StartFolder() = basCommon::GetMyGamesDirectory();
+    frmBrowse browser(this);
+    const QString path = browser.ShowForm(m_oImage.FullPath(), false, StartFolder());
+    if (path == m_oImage.FullPath()) return;
+    StartFolder() = frmBrowse::LastFolder();
+    const bool hadPicture = m_bLoaded;
+    if (LoadMyPicture(path)) {
+        m_oImage.Let_FullPath(path);
+        m_oImage.Let_XCenter(0);
+        m_oImage.Let_YCenter(0);
+        m_oImage.Let_Zoom(0);
+        SetSlider(ImagePlacing::SliderOfZoom(0));
+        Zoom();
+    } else if (hadPicture && !m_bLoaded && LoadMyPicture(m_oImage.FullPath())) {
+        // Nothing better was found, so the picture that there was is shown again.
+        Zoom();
+    }
+} catch (...) {
+    ErrTop("frmImagePosition!", "cmdSelectImage_Click");
+}
+
+void frmImagePosition::cmdOK_Click() { hide(); }
+
+void frmImagePosition::cmdCancel_Click() try {
+    if (!m_oMaster->IsDifferentFrom(m_oImage)) {
+        hide();
+        return;
+    }
+    const UnsavedChanges answer = AskAboutUnsavedChanges();
+    if (answer == UnsavedChanges::Stay) return;
+    if (answer == UnsavedChanges::Drop) m_oImage.LoadFromObject(*m_oMaster, false);
+    hide();
+} catch (...) {
+    ErrTop("frmImagePosition!", "cmdCancel_Click");
+}
+
+void frmImagePosition::reject() { cmdCancel_Click(); }

@@ -1,0 +1,302 @@
+// SPDX-License-Identifier: MIT
+#include "windows/print/frmTavlPrint.h"
+
+#include "document/basTAVL.h"
+#include "document/GameHost.h"
+#include "drawing/basBMP.h"
+#include "platform/ElidedLabel.h"
+#include "platform/LoadPicture.h"
+#include "platform/PictureBox.h"
+#include "platform/Printer.h"
+#include "platform/Screen.h"
+#include "rendering/ConsoleSheets.h"
+#include "rendering/MoneySheet.h"
+#include "services/basAPI.h"
+#include "services/basErrLog.h"
+#include "services/basPath.h"
+#include "windows/print/frmPrntPrep.h"
+
+#include <QAbstractButton>
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QFrame>
+#include <QGroupBox>
+#include <QPointer>
+
+namespace {
+
+constexpr int kHidden = -1;
+constexpr int kWholeBar = 1000;
+constexpr int kFirstWidthTwips = 15;
+const QString kCancelled = QStringLiteral("Cancel");
+
+} // namespace
+
+/// As long as it lives, a page is being printed: the windows behind the console take no input. A document that
+/// is then still open is thrown away.
+class frmTavlPrint::PageUnderWay {
+public:
+    PageUnderWay(frmTavlPrint& console, Printer& printer)
+        : m_console(console), m_printer(printer), m_focus(console.focusWidget()) {
+        m_console.TellInPrint(true);
+        // The console lives on while the window that owns it is disabled.
+        m_console.setEnabled(true);
+        if (m_focus) m_focus->setFocus();
+    }
+    ~PageUnderWay() {
+        m_printer.KillDoc();
+        m_console.TellInPrint(false);
+    }
+    PageUnderWay(const PageUnderWay&) = delete;
+    PageUnderWay& operator=(const PageUnderWay&) = delete;
+
+private:
+    frmTavlPrint& m_console;
+    Printer& m_printer;
+    QPointer<QWidget> m_focus;
+};
+
+frmTavlPrint::frmTavlPrint(QWidget* parent) : QDialog(parent) {
+    BuildControls();
+    Form_Load();
+}
+
+frmTavlPrint::~frmTavlPrint() = default;
+
+bool frmTavlPrint::ShowForm(bool bPrintStarted) try {
+    m_bPrintStarted = bPrintStarted;
+    cmdNav_Click(0);
+    ShowDestination();
+    exec();
+    return m_bPrintStarted;
+} catch (...) {
+    ErrTail("frmTavlPrint!", "ShowForm", bPrintStarted);
+}
+
+void frmTavlPrint::ShowDestination() {
+    const Printer* const printer = Printer::Current();
+    const QString device = printer ? printer->DeviceName() : QString();
+    lblPrinter->setText(device.isEmpty() ? QStringLiteral("No printer is set up: each sheet becomes a PDF file.")
+                                         : QStringLiteral("Printer: ") + device);
+}
+
+void frmTavlPrint::cmdNav_Click(int Index) try {
+    for (QGroupBox* frame : fraPrint)
+        frame->hide();
+    fraPrint.at(size_t(Index))->show();
+    for (QAbstractButton* button : fraPrint[size_t(Index)]->findChildren<QAbstractButton*>()) {
+        if (button->isHidden()) continue;
+        button->setFocus();
+        break;
+    }
+} catch (...) {
+    ErrTop("frmTavlPrint!", "cmdNav_Click", Index);
+}
+
+void frmTavlPrint::cmdCancel_Click() { hide(); }
+
+void frmTavlPrint::reject() { cmdCancel_Click(); }
+
+void frmTavlPrint::cmdChangePrinter_Click() try {
+    if (m_bPrintStarted) {
+        MsgBox(QStringLiteral("Sorry, but you can't change printers once you have started the printing process.\r\n"
+                              "Please stop and restart the program before changing printers."),
+               vbInformation);
+        return;
+    }
+    dlgCommon.bPrinterDefault = true;
+    dlgCommon.sError.clear();
+    dlgCommon.ShowPrinter();
+    if (!dlgCommon.sError.isEmpty()) MsgBox(dlgCommon.sError, vbInformation);
+    ShowDestination();
+} catch (...) {
+    ErrTop("frmTavlPrint!", "cmdChangePrinter_Click");
+}
+
+void frmTavlPrint::cmdPrint_Click(int Index) try {
+    m_bPrintStarted = true;
+    if (bInPrint) return;
+    bInPrint = true;
+    QString answer;
+    if (Index != ConsoleSheets::kNoPrompt) answer = m_frmPrntPrep->ShowForm(m_sPrompt.at(size_t(Index)));
+    if (answer != kCancelled && !RunJob(Index, ConsoleSheets::DoneMark(answer))) {
+        TellStopped();
+        return;
+    }
+    CleanUp();
+    TellWhereItWent();
+} catch (...) {
+    // Hourglass and guard stay as they are, on purpose: whatever has failed may have left the sheets' drawing
+    // in disorder, and a new start puts it right.
+    TellStopped();
+    ErrTop("frmTavlPrint!", "cmdPrint_Click", Index);
+}
+
+Printer& frmTavlPrint::JobPrinter() {
+    if (bPrintOnScreen) return m_screen;
+    basErrLog::ErrAssert(Printer::Current() != nullptr, QStringLiteral("There is no printer"));
+    return *Printer::Current();
+}
+
+bool frmTavlPrint::RunJob(int Index, const QString& sDone) try {
+    Printer& printer = JobPrinter();
+    m_sWrittenPdf.clear();
+    m_sFailure.clear();
+    printer.SetOrientation(ConsoleSheets::OrientationOf(Index, basTAVL::g_sGameVersion()));
+    if (!AcceptsPage(printer)) return true;
+    Screen::SetMousePointer(Screen::MousePointer::HourGlass);
+    const double dblFree = basAPI::FreeSpaceOnDisk(QStringLiteral("C:\\"));
+    if (dblFree < ConsoleSheets::kLeastFree) {
+        MsgBox(ConsoleSheets::LittleDiskMessage(dblFree, ConsoleSheets::kMegabytesTold));
+        return true;
+    }
+    const PageUnderWay page(*this, printer);
+    lblSheet->SetWholeText(ConsoleSheets::Title(Index, basTAVL::g_sGameVersion()));
+    lblPiece->SetWholeText(QString());
+    Picture money;
+    if (ConsoleSheets::IsMoney(Index) && !LoadMoneyPicture(Index, money)) return false;
+    if (PrintCopies(Index, money, dblFree, sDone)) Let_Progress(kHidden);
+    return true;
+} catch (...) {
+    ErrTail("frmTavlPrint!", "RunJob", Index, sDone);
+}
+
+bool frmTavlPrint::AcceptsPage(const Printer& printer) {
+    if (printer.DeviceName().isEmpty() || ConsoleSheets::Holds(printer)) return true;
+    const QString question = ConsoleSheets::SmallPageMessage(printer);
+    if (question == m_sAcceptedPage) return true;
+    if (MsgBox(question, vbOKCancel | vbExclamation) != vbOK) return false;
+    m_sAcceptedPage = question;
+    return true;
+}
+
+bool frmTavlPrint::LoadMoneyPicture(int Index, Picture& picture) try {
+    QString path;
+    if (!MakeMoneyImage(ConsoleSheets::MoneyOf(Index), path)) return false;
+    QString error;
+    picture = LoadPicture(path, error);
+    if (picture.IsNull()) ErrRaise(ErrNumber::kInvalidPicture, error);
+    return true;
+} catch (...) {
+    ErrTail("frmTavlPrint!", "LoadMoneyPicture", Index);
+}
+
+// False when the disk has too little room for money.
+bool frmTavlPrint::PrintCopies(int Index, const Picture& money, double dblFree, const QString& sDone) try {
+    const QString variant = basTAVL::g_sGameVersion();
+    const int copies = ConsoleSheets::Copies(Index, cboNumberOfSheets->currentText());
+    SheetJob job{JobPrinter(), std::bind_front(&frmTavlPrint::Let_Progress, this),
+                 std::bind_front(&frmTavlPrint::ShowPiece, this)};
+    for (int copy = 0; copy < copies; ++copy) {
+        if (ConsoleSheets::IsMoney(Index) && dblFree < ConsoleSheets::kLeastFreeForMoney) {
+            MsgBox(ConsoleSheets::LittleDiskMessage(dblFree, ConsoleSheets::kMegabytesToldForMoney));
+            return false;
+        }
+        job.printer.SetDocumentName(
+            ConsoleSheets::DocumentName(GameHost::Current().GameName(), ConsoleSheets::Title(Index, variant)));
+        if (!PaintSheet(job, Index, money, copy, copies)) return true;
+        MarkDone(Index, sDone);
+        CloseDocument(job.printer);
+    }
+    return true;
+} catch (...) {
+    ErrTail("frmTavlPrint!", "PrintCopies", Index, dblFree, sDone);
+}
+
+bool frmTavlPrint::PaintSheet(SheetJob& job, int Index, const Picture& money, int iCopy, int nCopies) try {
+    if (!ConsoleSheets::IsMoney(Index)) return ConsoleSheets::PrintSheet(job, Index, basTAVL::g_sGameVersion());
+    PrintMoneySheet(job, ConsoleSheets::MoneyOf(Index), money, iCopy, nCopies);
+    return true;
+} catch (...) {
+    ErrTail("frmTavlPrint!", "PaintSheet", Index, iCopy, nCopies);
+}
+
+void frmTavlPrint::MarkDone(int Index, const QString& sDone) {
+    QAbstractButton* const button = cmdPrint->button(Index);
+    if (!button || sDone.isEmpty() || button->text().endsWith(sDone)) return;
+    button->setText(button->text() + sDone);
+}
+
+void frmTavlPrint::CloseDocument(Printer& printer) {
+    printer.EndDoc();
+    if (bPrintOnScreen) ShowPage(m_screen.Page());
+    m_sWrittenPdf = printer.LastPdf();
+    if (printer.LastError().isEmpty()) return;
+    // What a device reports isn't told, as the desktop tells of it itself; of a file nobody else does.
+    if (printer.DeviceName().isEmpty()) m_sFailure = printer.LastError();
+    const QString message = QStringLiteral("Your printer has reported a problem. "
+                                           "Please close this game and make sure that your computer has "
+                                           "50 to 100 MB of free disk space to use as a print buffer. "
+                                           "Then try printing again. ");
+    basErrLog::ErrLogToFile(message + printer.LastError(), true);
+}
+
+void frmTavlPrint::CleanUp() {
+    Screen::SetMousePointer(Screen::MousePointer::Default);
+    bInPrint = false;
+    Let_Progress(kHidden);
+}
+
+void frmTavlPrint::TellWhereItWent() {
+    if (!m_sFailure.isEmpty())
+        MsgBox(QStringLiteral("This sheet could not be printed.\r\n\r\n") + m_sFailure, vbExclamation);
+    if (!m_sWrittenPdf.isEmpty()) MsgBox(ConsoleSheets::PdfMessage(m_sWrittenPdf), vbInformation);
+    m_sFailure.clear();
+    m_sWrittenPdf.clear();
+}
+
+void frmTavlPrint::Let_Progress(int lValue) try {
+    if (lValue == m_lProgress) return;
+    m_lProgress = lValue;
+    if (lValue > 0) {
+        shpProgressFore->resize(shpProgressBack->width() * lValue / kWholeBar, shpProgressFore->height());
+    } else if (lValue == 0) {
+        shpProgressFore->resize(Screen::TwipsToPixels(kFirstWidthTwips), shpProgressFore->height());
+    }
+    fraProgress->setVisible(lValue >= 0);
+    if (lValue >= 0) fraProgress->raise();
+    DoEvents();
+} catch (...) {
+    ErrTail("frmTavlPrint!", "Let_Progress", lValue);
+}
+
+void frmTavlPrint::ShowPiece(const char* sPiece, int iPiece, int nPieces) {
+    lblPiece->SetWholeText(QStringLiteral("%1 %2 of %3").arg(QString::fromLatin1(sPiece)).arg(iPiece).arg(nPieces));
+}
+
+void frmTavlPrint::TellStopped() {
+    lblSheet->SetWholeText(QStringLiteral("Printing has stopped."));
+    lblPiece->SetWholeText(QStringLiteral("Restart the program to print again."));
+    fraProgress->show();
+    fraProgress->raise();
+}
+
+bool frmTavlPrint::CheckForNagMessage() try {
+    if (m_bNagged) return false;
+    const int answer = MsgBox(QStringLiteral("If you are using a color printer, "
+                                             "your printer setting is VERY important. "
+                                             "Please verify that your printer is set to "
+                                             "the highest quality color photographic setting. "
+                                             "If your printer offers an 'ICM' option, "
+                                             "please turn this option on. "
+                                             "\r\n\r\n"
+                                             "After verifying this setting, click 'OK' below to continue printing. "
+                                             "Click 'Cancel' if you do not wish to print at this time."),
+                              vbOKCancel | vbExclamation);
+    m_bNagged = answer == vbOK;
+    return !m_bNagged;
+} catch (...) {
+    ErrTail("frmTavlPrint!", "CheckForNagMessage");
+}
+
+void frmTavlPrint::Command1_Click() try {
+    const QString folder = basCommon::GetMyGamesDirectory();
+    const bool written = basBMP::ChangeMonoBmpBackColor(basCommon::JoinPath(folder, QStringLiteral("MoneyImage.bmp")),
+                                                        basCommon::JoinPath(folder, QStringLiteral("MoneyImage2.bmp")),
+                                                        basTAVL::g_oMoney(0).BackColor);
+    if (!written) MsgBox(QStringLiteral("failure"));
+} catch (...) {
+    ErrTop("frmTavlPrint!", "Command1_Click");
+}
+
+void frmTavlPrint::picTest_Click() { picTest->hide(); }

@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/Desktop.h"
+#include "platform/Picture.h"
+#include "platform/PicturePrinter.h"
+#include "rendering/SheetJob.h"
+
+#include <QDialog>
+#include <QString>
+
+#include <array>
+#include <functional>
+
+class ElidedLabel;
+class frmPrntPrep;
+class PictureBox;
+class QButtonGroup;
+class QComboBox;
+class QFrame;
+class QGroupBox;
+class QLabel;
+class QPushButton;
+class QVBoxLayout;
+
+/// The print console: a small tree of menus with a button for each sheet of the kit. A button runs one job: it
+/// asks for the right paper, looks at the disk, paints the sheet and ends the document.
+class frmTavlPrint : public QDialog {
+    Q_OBJECT
+
+public:
+    explicit frmTavlPrint(QWidget* parent = nullptr);
+    ~frmTavlPrint() override;
+
+    /// Modal, from the first menu on. Takes and gives whether printing has been begun in this run.
+    bool ShowForm(bool bPrintStarted);
+
+    /// Place of the progress bar, 0 to 1000; hidden below 0. Each change lets events run once.
+    int Progress() const { return m_lProgress; }
+    void Let_Progress(int lValue);
+
+    /// A reminder that comes once a run. True when the user doesn't want to print.
+    bool CheckForNagMessage();
+
+    /// Closing the window means Done.
+    void reject() override;
+
+    /// Told when a page is begun and when it is finished, so that the program isn't closed in between.
+    std::function<void(bool bInPrint)> TellInPrint = [](bool) {};
+    /// Sheets are painted into pictures and shown, and nothing is printed.
+    bool bPrintOnScreen = false;
+    std::function<void(const Picture&)> ShowPage = [](const Picture&) {};
+
+public Q_SLOTS:
+    void cmdNav_Click(int Index);
+    void cmdPrint_Click(int Index);
+    void cmdChangePrinter_Click();
+    void cmdCancel_Click();
+    void Command1_Click();
+    void picTest_Click();
+
+private:
+    static constexpr int kFrames = 6;
+    class PageUnderWay;
+
+    // Building the window.
+    void BuildControls();
+    QGroupBox* BuildFrame(int iFrame);
+    void AddButtons(int iFrame, QVBoxLayout* column);
+    void BuildNumberOfSheets(QVBoxLayout* column);
+    void BuildProgress();
+    void BuildClosing();
+    void BuildDebugAids();
+    void PlaceControls();
+    void Form_Load();
+    void ShowDestination();
+
+    // A job.
+    Printer& JobPrinter();
+    /// False when the console has to stay as it is, hourglass and all.
+    bool RunJob(int Index, const QString& sDone);
+    bool AcceptsPage(const Printer& printer);
+    bool LoadMoneyPicture(int Index, Picture& picture);
+    bool PrintCopies(int Index, const Picture& money, double dblFree, const QString& sDone);
+    bool PaintSheet(SheetJob& job, int Index, const Picture& money, int iCopy, int nCopies);
+    void MarkDone(int Index, const QString& sDone);
+    void CloseDocument(Printer& printer);
+    void CleanUp();
+    void TellWhereItWent();
+    void ShowPiece(const char* sPiece, int iPiece, int nPieces);
+    void TellStopped();
+
+    std::array<QGroupBox*, kFrames> fraPrint{};
+    std::array<QLabel*, kFrames> lbl{};
+    QButtonGroup* cmdNav = nullptr;
+    QButtonGroup* cmdPrint = nullptr;
+    QPushButton* cmdCancel = nullptr;
+    QPushButton* cmdChangePrinter = nullptr;
+    QLabel* lblNumberOfSheets = nullptr;
+    QComboBox* cboNumberOfSheets = nullptr;
+    QFrame* fraProgress = nullptr;
+    QFrame* shpProgressBack = nullptr;
+    QFrame* shpProgressFore = nullptr;
+    ElidedLabel* lblSheet = nullptr;
+    ElidedLabel* lblPiece = nullptr;
+    QLabel* lblPrinter = nullptr;
+    PictureBox* picTest = nullptr;
+    QPushButton* Command1 = nullptr;
+    CommonDialog dlgCommon;
+    frmPrntPrep* m_frmPrntPrep = nullptr;
+    PicturePrinter m_screen;
+
+    bool m_bPrintStarted = false;
+    std::array<QString, 15> m_sPrompt;
+    int m_lProgress = -1;
+    /// Guards against a second job: events run while a sheet is being printed.
+    bool bInPrint = false;
+    bool m_bNagged = false;
+    /// The page that the user has accepted as too small.
+    QString m_sAcceptedPage;
+    QString m_sWrittenPdf;
+    QString m_sFailure;
+};

@@ -1,0 +1,224 @@
+// SPDX-License-Identifier: MIT
+// The window's controls: what they are, and where they stand.
+#include "document/basTAVL.h"
+#include "platform/ElidedLabel.h"
+#include "platform/PictureBox.h"
+#include "platform/Screen.h"
+#include "platform/WidgetLook.h"
+#include "rendering/ConsoleSheets.h"
+#include "services/basCommon.h"
+#include "services/basErrLog.h"
+#include "windows/print/frmPrntPrep.h"
+#include "windows/print/frmTavlPrint.h"
+
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace {
+
+// Twips.
+constexpr int kWidth = 5925;
+constexpr int kHeight = 5325;
+constexpr int kFrameLeftTop = 120;
+
+// Pixels.
+constexpr int kMargin = 8;
+constexpr int kGap = 6;
+constexpr int kBarWidth = 140;
+constexpr int kBarHeight = 16;
+constexpr int kTestSide = 100;
+
+const Color kProgressFill = Color::Rgb(0xC0, 0xC0, 0xC0);
+const Color kBarBack = Color::White();
+const Color kBarFore = Color::Rgb(0, 0, 128);
+
+constexpr std::array<const char*, 6> kFrameCaptions = {
+    "What would you like to print?",
+    "Which sheet would you like to print?",
+    "Which title sheet would you like to print?",
+    "Which News Cards  would you like to print?",
+    "What currency amount would you like to print?",
+    "Would you like to print the game rules?",
+};
+
+constexpr int kMenuFrame = 0;
+constexpr int kMoneyFrame = 4;
+
+// By the number of the frame that a button opens.
+constexpr std::array<const char*, 6> kNavCaptions = {
+    "Printer &Main Menu", "Game &Board, Box && Tokens", "&Title Deed Cards", "&Good News or Bad News Cards", "Mone&y",
+    "&Instruction Sheet",
+};
+
+// In the order they stand in their frames.
+constexpr std::array<int, ConsoleSheets::kButtons> kButtonOrder = {0, 1, 3, 2, 12, 13, 4, 5, 6, 7, 8, 9, 10, 11};
+
+template <typename Control>
+Control* Named(Control* control, const QString& sName) {
+    control->setObjectName(sName);
+    return control;
+}
+
+QPushButton* MakeButton(QWidget* parent, const QString& sName, const QString& sCaption, const QString& sToolTip) {
+    auto* button = Named(new QPushButton(sCaption, parent), sName);
+    button->setAutoDefault(false);
+    if (!sToolTip.isEmpty()) WidgetLook::SetToolTip(*button, sToolTip);
+    return button;
+}
+
+QLabel* MakeLabel(QWidget* parent, const QString& sName, const QString& sText) {
+    auto* label = Named(new QLabel(sText, parent), sName);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    return label;
+}
+
+} // namespace
+
+void frmTavlPrint::BuildControls() {
+    setObjectName(QStringLiteral("frmTavlPrint"));
+    setWindowTitle(QStringLiteral("Print Your Own Tavlo"));
+    cmdNav = new QButtonGroup(this);
+    cmdPrint = new QButtonGroup(this);
+    for (int i = 0; i < kFrames; ++i)
+        fraPrint[size_t(i)] = BuildFrame(i);
+    BuildClosing();
+    BuildProgress();
+    BuildDebugAids();
+    m_frmPrntPrep = new frmPrntPrep(this);
+    connect(cmdNav, &QButtonGroup::idClicked, this, &frmTavlPrint::cmdNav_Click);
+    connect(cmdPrint, &QButtonGroup::idClicked, this, &frmTavlPrint::cmdPrint_Click);
+    connect(cmdCancel, &QPushButton::clicked, this, &frmTavlPrint::cmdCancel_Click);
+    connect(cmdChangePrinter, &QPushButton::clicked, this, &frmTavlPrint::cmdChangePrinter_Click);
+}
+
+QGroupBox* frmTavlPrint::BuildFrame(int iFrame) {
+    const QString number = QString::number(iFrame);
+    auto* frame = Named(new QGroupBox(QString::fromLatin1(kFrameCaptions.at(size_t(iFrame))), this),
+                        QStringLiteral("fraPrint_") + number);
+    lbl[size_t(iFrame)] =
+        MakeLabel(frame, QStringLiteral("lbl_") + number, ConsoleSheets::FrameLabel(iFrame, basTAVL::g_sGameVersion()));
+    auto* column = new QVBoxLayout(frame);
+    column->addWidget(lbl[size_t(iFrame)]);
+    column->addSpacing(kGap);
+    AddButtons(iFrame, column);
+    if (iFrame == kMoneyFrame) BuildNumberOfSheets(column);
+    column->addStretch();
+    return frame;
+}
+
+void frmTavlPrint::AddButtons(int iFrame, QVBoxLayout* column) {
+    const QString variant = basTAVL::g_sGameVersion();
+    for (int i = 1; iFrame == kMenuFrame && i < kFrames; ++i) {
+        auto* button = MakeButton(column->parentWidget(), QStringLiteral("cmdNav_") + QString::number(i),
+                                  QString::fromLatin1(kNavCaptions.at(size_t(i))), QString());
+        cmdNav->addButton(button, i);
+        column->addWidget(button);
+    }
+    for (const int i : kButtonOrder) {
+        if (ConsoleSheets::FrameOf(i) != iFrame) continue;
+        auto* button = MakeButton(column->parentWidget(), QStringLiteral("cmdPrint_") + QString::number(i),
+                                  ConsoleSheets::Caption(i, variant), ConsoleSheets::ToolTip(i));
+        button->setVisible(ConsoleSheets::IsShown(i, variant));
+        cmdPrint->addButton(button, i);
+        column->addWidget(button);
+    }
+}
+
+// Never shown: one sheet is printed for each click, as the frame's label says.
+void frmTavlPrint::BuildNumberOfSheets(QVBoxLayout* column) {
+    lblNumberOfSheets = MakeLabel(column->parentWidget(), QStringLiteral("lblNumberOfSheets"),
+                                  QStringLiteral("Number of Sheets (1 - 5) to Print:"));
+    cboNumberOfSheets = Named(new QComboBox(column->parentWidget()), QStringLiteral("cboNumberOfSheets"));
+    for (int i = 1; i <= ConsoleSheets::kMostCopies; ++i)
+        cboNumberOfSheets->addItem(QString::number(i));
+    lblNumberOfSheets->hide();
+    cboNumberOfSheets->hide();
+}
+
+void frmTavlPrint::BuildProgress() {
+    lblPrinter = MakeLabel(this, QStringLiteral("lblPrinter"), QString());
+    lblPrinter->setAlignment(Qt::AlignCenter);
+    fraProgress = Named(new QFrame(this), QStringLiteral("fraProgress"));
+    WidgetLook::SetFill(*fraProgress, kProgressFill);
+    shpProgressBack = Named(new QFrame(fraProgress), QStringLiteral("shpProgressBack"));
+    WidgetLook::SetFill(*shpProgressBack, kBarBack);
+    shpProgressBack->setFixedSize(kBarWidth, kBarHeight);
+    shpProgressFore = Named(new QFrame(shpProgressBack), QStringLiteral("shpProgressFore"));
+    WidgetLook::SetFill(*shpProgressFore, kBarFore);
+    shpProgressFore->setGeometry(0, 0, 1, kBarHeight);
+    lblSheet = Named(new ElidedLabel(fraProgress), QStringLiteral("lblSheet"));
+    lblPiece = Named(new ElidedLabel(fraProgress), QStringLiteral("lblPiece"));
+    auto* words = new QVBoxLayout;
+    words->setSpacing(0);
+    words->addWidget(lblSheet);
+    words->addWidget(lblPiece);
+    auto* row = new QHBoxLayout(fraProgress);
+    row->setContentsMargins(kGap, kGap / 2, kGap, kGap / 2);
+    row->addWidget(shpProgressBack);
+    row->addLayout(words, 1);
+    fraProgress->hide();
+}
+
+void frmTavlPrint::BuildClosing() {
+    auto* menu = MakeButton(this, QStringLiteral("cmdNav_0"), QString::fromLatin1(kNavCaptions[0]),
+                            QStringLiteral("Go back to the first menu"));
+    cmdNav->addButton(menu, kMenuFrame);
+    cmdChangePrinter = MakeButton(this, QStringLiteral("cmdChangePrinter"), QStringLiteral("&Change Printer"),
+                                  QStringLiteral("Change the destination printer"));
+    cmdCancel = MakeButton(this, QStringLiteral("cmdCancel"), QStringLiteral("&Done"),
+                           QStringLiteral("Go back to the main form"));
+}
+
+void frmTavlPrint::BuildDebugAids() {
+    picTest = Named(new PictureBox(this), QStringLiteral("picTest"));
+    picTest->setGeometry(0, 0, kTestSide, kTestSide);
+    picTest->hide();
+    connect(picTest, &PictureBox::MouseDown, this, &frmTavlPrint::picTest_Click);
+    Command1 = MakeButton(this, QStringLiteral("Command1"), QStringLiteral("Command1"), QString());
+    Command1->hide();
+    connect(Command1, &QPushButton::clicked, this, &frmTavlPrint::Command1_Click);
+}
+
+// All frames lie in one place. With large letters the window grows beyond its usual size, so that nothing is cut.
+void frmTavlPrint::PlaceControls() {
+    const QPoint leftTop(Screen::TwipsToPixels(kFrameLeftTop), Screen::TwipsToPixels(kFrameLeftTop));
+    const std::array<QWidget*, 3> row = {cmdNav->button(kMenuFrame), cmdChangePrinter, cmdCancel};
+    QSize frame;
+    for (const QGroupBox* each : fraPrint)
+        frame = frame.expandedTo(each->sizeHint());
+    QSize button;
+    for (const QWidget* each : row)
+        button = button.expandedTo(each->sizeHint());
+    const int progress = fraProgress->sizeHint().height();
+
+    const int inner = std::max({Screen::TwipsToPixels(kWidth) - 2 * leftTop.x(), frame.width(),
+                                int(row.size()) * button.width() + int(row.size() - 1) * kGap});
+    const int below = kGap + progress + kGap + button.height() + kMargin;
+    const int height = std::max(Screen::TwipsToPixels(kHeight), leftTop.y() + frame.height() + below);
+    setFixedSize(inner + 2 * leftTop.x(), height);
+
+    for (QGroupBox* each : fraPrint)
+        each->setGeometry(QRect(leftTop, QSize(inner, height - leftTop.y() - below)));
+    const QRect status(leftTop.x(), height - below + kGap, inner, progress);
+    fraProgress->setGeometry(status);
+    lblPrinter->setGeometry(status);
+    const int width = (inner - int(row.size() - 1) * kGap) / int(row.size());
+    for (size_t i = 0; i < row.size(); ++i)
+        row[i]->setGeometry(leftTop.x() + int(i) * (width + kGap), status.bottom() + 1 + kGap, width, button.height());
+}
+
+void frmTavlPrint::Form_Load() try {
+    const QString variant = basTAVL::g_sGameVersion();
+    for (int i = 0; i < int(m_sPrompt.size()); ++i)
+        m_sPrompt[size_t(i)] = ConsoleSheets::PaperPrompt(i, variant);
+    ConsoleSheets::ReadBoxLabelSizes();
+    PlaceControls();
+    basCommon::ShowEntireForm(*this);
+} catch (...) {
+    ErrTail("frmTavlPrint!", "Form_Load");
+}

@@ -1,0 +1,282 @@
+// SPDX-License-Identifier: MIT
+#include "pictures/C_Image.h"
+#include "platform/Files.h"
+#include "platform/LoadPicture.h"
+#include "platform/PictureHolder.h"
+#include "platform/ProgramSettings.h"
+#include "rendering/frmBMP.h"
+#include "services/basMsgQueue.h"
+#include "services/TavloraError.h"
+#include "support/PictureFiles.h"
+#include "support/TestFixture.h"
+
+#include <QDateTime>
+#include <QFile>
+
+namespace {
+
+using namespace PictureFiles;
+
+constexpr QRgb kBoard = 0xFFE0FFE0;
+constexpr QRgb kWhite = 0xFFFFFFFF;
+constexpr QRgb kBlack = 0xFF000000;
+
+class C_ImagePaintTest : public TavloraTest {
+protected:
+    C_ImagePaintTest() {
+        ForgetPictures();
+        frmBMP::InstallAsThumbnailMaker();
+        form.SetBackColor(Color::Rgb(0xE0, 0xFF, 0xE0));
+    }
+
+    QString Photo(const QString& sName, int width, int height) {
+        QImage image(width, height, QImage::Format_RGB32);
+        image.fill(Qt::red);
+        return WriteFile(sName, Encoded(image, "png"));
+    }
+    QString LineDrawing(const QString& sName) {
+        QImage art(200, 200, QImage::Format_RGB32);
+        art.fill(Qt::white);
+        for (int y = 0; y < 200; ++y) {
+            for (int x = 0; x < 100; ++x)
+                art.setPixel(x, y, kBlack);
+        }
+        return WriteFile(sName, MonochromeBmp(art));
+    }
+    bool Zoomed(C_Image& image, double side = 100, Color back = Color::None()) {
+        return image.PaintPictureZoomed(form, original, ScaleModeKind::Pixels, 0, 0, side, side, back);
+    }
+
+    ScratchForm form{QSize(100, 100)};
+    PictureHolder original;
+};
+
+TEST_F(C_ImagePaintTest, ImageWithoutPathPaintsNothingWithoutABox) {
+    C_Image image;
+    image.PaintPictureCentered(form, 0, 0, 100, 100, Color::None());
+    image.SpaceOrCorner = QStringLiteral("Space");
+    image.DrawBitmapToScreen(form, 0, 0, 100, 100);
+    EXPECT_EQ(image.GetThumbnail(false), QString());
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+    EXPECT_EQ(form.Image().pixel(50, 50), kBoard);
+}
+
+TEST_F(C_ImagePaintTest, Edge_PaintingTheSameMissingFileTwiceShowsOneBox) {
+    C_Image image;
+    const QString path = Photo(QStringLiteral("gone.png"), 20, 20);
+    image.Let_FullPath(path);
+    QFile::remove(path);
+    image.PaintPictureCentered(form, 0, 0, 100, 100, Color::None());
+    image.PaintPictureCentered(form, 0, 0, 100, 100, Color::None());
+    EXPECT_FALSE(Zoomed(image));
+    EXPECT_EQ(desktop.Texts(),
+              QStringList{QStringLiteral("The file named '") + path +
+                          QStringLiteral("' was not found on the disk.\r\nThe area will be left empty.")});
+    EXPECT_EQ(form.Image().pixel(50, 50), kBoard);
+}
+
+TEST_F(C_ImagePaintTest, Edge_FirstZoomedPaintCentresAndDropsTheThumbnail) {
+    C_Image image;
+    image.Init(Photo(QStringLiteral("p.png"), 300, 200), QStringLiteral("Space"), 4);
+    WriteFile(QStringLiteral("Space4.bmp"), "old");
+    EXPECT_TRUE(Zoomed(image));
+    EXPECT_EQ(image.XCenter(), 150);
+    EXPECT_EQ(image.YCenter(), 100);
+    EXPECT_FALSE(Files::Exists(image.Thumbname()));
+}
+
+TEST_F(C_ImagePaintTest, Edge_ZoomTenShowsHalfTheSideAndZoomZeroAll) {
+    const ZoomedSource half = ZoomedSource::Of(300, 200, 10, 150, 100);
+    EXPECT_EQ(half.iSide, 150);
+    EXPECT_EQ(half.xSrc, 75);
+    EXPECT_EQ(half.ySrc, 25);
+    const ZoomedSource whole = ZoomedSource::Of(300, 200, 0, 150, 100);
+    EXPECT_EQ(whole.iSide, 300);
+    EXPECT_EQ(whole.ySrc, -50);
+    // A third of the square lies beyond the picture, in even bars above and below.
+    C_Image image;
+    image.Init(Photo(QStringLiteral("p.png"), 300, 200), QStringLiteral("Space"), 4);
+    EXPECT_TRUE(Zoomed(image));
+    EXPECT_EQ(form.Image().pixel(50, 15), kBoard);
+    EXPECT_EQ(form.Image().pixel(50, 18), qRgb(255, 0, 0));
+    EXPECT_EQ(form.Image().pixel(50, 81), qRgb(255, 0, 0));
+    EXPECT_EQ(form.Image().pixel(50, 85), kBoard);
+}
+
+TEST_F(C_ImagePaintTest, Edge_WhiteOfALineDrawingShowsWhatIsBeneath) {
+    C_Image image;
+    image.Let_FullPath(LineDrawing(QStringLiteral("art.bmp")));
+    image.PaintPictureCentered(form, 0, 0, 100, 100, Color::None());
+    EXPECT_EQ(form.Image().pixel(20, 50), kBlack);
+    EXPECT_EQ(form.Image().pixel(80, 50), kBoard);
+}
+
+TEST_F(C_ImagePaintTest, LineDrawingTakesAPaperColourWithRedAndBlueExchanged) {
+    C_Image image;
+    image.Let_FullPath(LineDrawing(QStringLiteral("art.bmp")));
+    image.PaintPictureCentered(form, 0, 0, 100, 100, Color::Rgb(10, 20, 30));
+    EXPECT_EQ(form.Image().pixel(20, 50), kBlack);
+    EXPECT_EQ(form.Image().pixel(80, 50), qRgb(30, 20, 10));
+    EXPECT_TRUE(Files::Exists(PathOf(QStringLiteral("TempImage.bmp"))));
+}
+
+TEST_F(C_ImagePaintTest, ZoomedLineDrawingStaysTransparentWhateverThePaperColour) {
+    C_Image image;
+    image.Let_FullPath(LineDrawing(QStringLiteral("art.bmp")));
+    EXPECT_TRUE(Zoomed(image, 100, Color::Rgb(10, 20, 30)));
+    EXPECT_EQ(form.Image().pixel(80, 50), kBoard);
+}
+
+TEST_F(C_ImagePaintTest, FitsTheWholePictureCentred) {
+    C_Image image;
+    image.Let_FullPath(Photo(QStringLiteral("wide.png"), 400, 100));
+    image.PaintPictureCentered(form, 10, 0, 90, 100, Color::None());
+    EXPECT_EQ(form.Image().pixel(50, 39), kBoard);
+    EXPECT_EQ(form.Image().pixel(50, 40), qRgb(255, 0, 0));
+    EXPECT_EQ(form.Image().pixel(50, 59), qRgb(255, 0, 0));
+    EXPECT_EQ(form.Image().pixel(50, 60), kBoard);
+    EXPECT_EQ(form.Image().pixel(9, 50), kBoard);
+    EXPECT_EQ(form.Image().pixel(10, 50), qRgb(255, 0, 0));
+}
+
+TEST_F(C_ImagePaintTest, PictureThatCannotBeReadIsToldOnceWithTheReason) {
+    C_Image image;
+    image.Let_FullPath(WriteFile(QStringLiteral("broken.jpg"), "no photograph"));
+    EXPECT_FALSE(Zoomed(image));
+    EXPECT_FALSE(Zoomed(image));
+    image.PaintPictureCentered(form, 0, 0, 100, 100, Color::None());
+    ASSERT_EQ(desktop.boxes.size(), 1);
+    const QString text = desktop.Texts().first();
+    EXPECT_TRUE(
+        text.startsWith(QStringLiteral("The image named '") + image.FullPath() +
+                        QStringLiteral("' could not be loaded.\r\n\r\nThe following errror was reported:\r\n\r\n")));
+    EXPECT_TRUE(text.endsWith(QStringLiteral("\r\n\r\nThe area will be left empty.")));
+}
+
+TEST_F(C_ImagePaintTest, BoxesWaitWhileTheBoardIsPainted) {
+    C_Image image;
+    image.Let_FullPath(WriteFile(QStringLiteral("broken.jpg"), "no photograph"));
+    basMsgQueue::MsgQueue_Init();
+    EXPECT_FALSE(Zoomed(image));
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+    basMsgQueue::MsgQueue_Display();
+    EXPECT_EQ(desktop.boxes.size(), 1);
+}
+
+TEST_F(C_ImagePaintTest, SizeIsTheSameInTwipsAndInPixels) {
+    C_Image image;
+    image.Let_FullPath(Photo(QStringLiteral("p.png"), 300, 200));
+    EXPECT_TRUE(image.PaintPictureZoomed(form, original, ScaleModeKind::Twips, 0, 0, 100, 100, Color::None()));
+    EXPECT_EQ(image.XCenter(), 150);
+    EXPECT_EQ(original.Width(ScaleModeKind::Twips), 4500);
+    EXPECT_EQ(original.Width(ScaleModeKind::Pixels), 300);
+}
+
+TEST_F(C_ImagePaintTest, MissingPictureAtTheThumbnailIsToldOnceAndThenSilent) {
+    C_Image image;
+    const QString path = Photo(QStringLiteral("p.png"), 30, 20);
+    image.Init(path, QStringLiteral("Space"), 4);
+    QFile::remove(path);
+    EXPECT_EQ(image.GetThumbnail(false), path);
+    EXPECT_EQ(image.GetThumbnail(false), QString());
+    EXPECT_EQ(desktop.Texts(), QStringList{QStringLiteral("The file named '") + path +
+                                           QStringLiteral("' was not found.\r\nThe image will not be drawn.")});
+}
+
+TEST_F(C_ImagePaintTest, ThumbnailIsMadeWhenMissingOrOlderThanThePicture) {
+    C_Image image;
+    const QString path = Photo(QStringLiteral("p.png"), 30, 20);
+    image.Init(path, QStringLiteral("Space"), 4);
+    const QString thumb = image.GetThumbnail(false);
+    EXPECT_EQ(thumb, PathOf(QStringLiteral("Space4.bmp")));
+    EXPECT_EQ(Files::Size(thumb), 30054);
+
+    const auto touch = [](const QString& sPath, int seconds) {
+        QFile file(sPath);
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+        file.setFileTime(QDateTime::currentDateTime().addSecs(seconds), QFileDevice::FileModificationTime);
+    };
+    WriteFile(QStringLiteral("Space4.bmp"), "mine");
+    touch(path, -20);
+    touch(thumb, -10);
+    image.GetThumbnail(false);
+    EXPECT_EQ(Files::Size(thumb), 4) << "a younger thumbnail stands";
+    touch(path, -5);
+    image.GetThumbnail(false);
+    EXPECT_EQ(Files::Size(thumb), 30054) << "an older one is made anew";
+}
+
+TEST_F(C_ImagePaintTest, ThumbnailOfAnotherPictureIsNeverTakenOver) {
+    C_Image first;
+    first.Init(WriteFile(QStringLiteral("q.png"), Encoded(Quarters(300, 300), "png")), QStringLiteral("Space"), 0);
+    first.GetThumbnail(false);
+    C_Image second;
+    second.Init(Photo(QStringLiteral("p.png"), 300, 300), QStringLiteral("Space"), 0);
+    QString error;
+    EXPECT_EQ(LoadPicture(second.GetThumbnail(false), error).Image().pixel(80, 80), qRgb(255, 0, 0));
+    EXPECT_EQ(LoadPicture(first.GetThumbnail(false), error).Image().pixel(80, 80), kWhite);
+}
+
+TEST_F(C_ImagePaintTest, ThumbnailOfAnUnknownKindRaises) {
+    C_Image image;
+    image.Init(Photo(QStringLiteral("p.png"), 30, 20), QStringLiteral("Balloon"), 1);
+    EXPECT_THROW(image.GetThumbnail(false), TavloraError);
+}
+
+TEST_F(C_ImagePaintTest, TokensAndMoneyNeverLieOnTheBoard) {
+    C_Image image;
+    image.Init(Photo(QStringLiteral("p.png"), 30, 20), QStringLiteral("Token"), 1);
+    EXPECT_THROW(image.DrawBitmapToScreen(form, 0, 0, 50, 50), TavloraError);
+}
+
+TEST_F(C_ImagePaintTest, BoardShowsTheThumbnailAndAFinerRenderingWhereItIsLarge) {
+    C_Image image;
+    image.Init(WriteFile(QStringLiteral("q.png"), Encoded(Quarters(1000, 1000), "png")), QStringLiteral("Space"), 7);
+    image.DrawBitmapToScreen(form, 0, 0, 60, 60);
+    EXPECT_EQ(form.Image().pixel(5, 5), qRgb(0, 0, 255)) << "turned to the left side";
+    ScratchForm large(QSize(400, 400));
+    image.DrawBitmapToScreen(large, 0, 0, 400, 400);
+    EXPECT_EQ(large.Image().pixel(198, 10), qRgb(0, 0, 255));
+    EXPECT_EQ(large.Image().pixel(201, 10), qRgb(255, 0, 0)) << "the edge of an enlarged thumbnail would be blurred";
+}
+
+TEST_F(C_ImagePaintTest, FateIsPaintedFromTheKit) {
+    Settings().sProgramDirectory = folder.path();
+    const QString fate = Photo(QStringLiteral("fate.dat"), 40, 40);
+    C_Image image;
+    image.Init(WriteFile(QStringLiteral("q.png"), Encoded(Quarters(40, 40), "png")), QStringLiteral("Corner"), 3);
+    image.DrawBitmapToScreen(form, 0, 0, 60, 60);
+    EXPECT_EQ(form.Image().pixel(2, 2), qRgb(255, 0, 0));
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+}
+
+TEST_F(C_ImagePaintTest, BrokenThumbnailIsToldOnceAndNotThePicture) {
+    C_Image image;
+    image.Init(Photo(QStringLiteral("p.png"), 30, 20), QStringLiteral("Space"), 4);
+    image.GetThumbnail(false);
+    WriteFile(QStringLiteral("Space4.bmp"), "BM");
+    image.DrawBitmapToScreen(form, 0, 0, 50, 50);
+    image.DrawBitmapToScreen(form, 0, 0, 50, 50);
+    EXPECT_EQ(desktop.boxes.size(), 1);
+    EXPECT_EQ(image.BadPath(), QString());
+}
+
+TEST_F(C_ImagePaintTest, PreparedThumbnailsAreThoseThatWouldBeMadeAnyway) {
+    std::vector<C_Image> images(8);
+    for (int i = 0; i < 8; ++i) {
+        const QByteArray jpeg = Encoded(Quarters(800, 600 + i), "jpg");
+        images[size_t(i)].Init(WriteFile(QStringLiteral("p%1.jpg").arg(i), jpeg), QStringLiteral("Space"), qint16(i));
+    }
+    for (const C_Image& image : images)
+        image.PrepareThumbnail();
+    images[0].Let_Zoom(10); // changed meanwhile: what was begun no longer fits and isn't used
+    for (C_Image& image : images)
+        EXPECT_EQ(Files::Size(image.GetThumbnail(false)), 30054);
+    QString error;
+    const QImage zoomed = LoadPicture(images[0].Thumbname(), error).Image();
+    EXPECT_NE(zoomed.pixel(50, 2), kBoard);
+    const QImage plain = LoadPicture(images[1].Thumbname(), error).Image();
+    EXPECT_EQ(plain.pixel(50, 2), kBoard);
+}
+
+} // namespace

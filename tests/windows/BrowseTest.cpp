@@ -1,0 +1,405 @@
+// SPDX-License-Identifier: MIT
+#include "platform/ElidedLabel.h"
+#include "platform/Files.h"
+#include "platform/Folders.h"
+#include "platform/LoadPicture.h"
+#include "platform/PictureBox.h"
+#include "platform/Screen.h"
+#include "support/ModalSteps.h"
+#include "support/PictureFiles.h"
+#include "support/TestFixture.h"
+#include "windows/pictures/frmBrowse.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QListWidget>
+#include <QTreeWidget>
+
+namespace {
+
+constexpr int kArrivalMs = 5000;
+
+/// My Games on one volume, a memory stick with pictures on another, and a drive without a disk.
+class BrowseTest : public TavloraTest {
+protected:
+    BrowseTest() {
+        QDir(folder.path()).mkpath(QStringLiteral("stick/sub"));
+        Folders::PretendVolumes({{QStringLiteral("/"), QStringLiteral("debian")},
+                                 {PathOf(QStringLiteral("stick")), QStringLiteral("STICK")},
+                                 {PathOf(QStringLiteral("floppy")), QStringLiteral("FLOPPY")}});
+        frmBrowse::ResetForTest();
+    }
+    ~BrowseTest() override {
+        Folders::PretendVolumes({});
+        Folders::PretendFreeBytes(-1);
+        Screen::PretendBitsPerPixel(0);
+        frmBrowse::ResetForTest();
+        ForgetPictures();
+    }
+
+    QString Picture(const QString& sName, int side = 40) const {
+        const char* const format = sName.endsWith(QStringLiteral(".jpg")) ? "jpg" : "bmp";
+        return WriteFile(sName, PictureFiles::Encoded(PictureFiles::Quarters(side, side), format));
+    }
+
+    QString Browse(const QString& sFilePath, ModalSteps::Step step, bool bAllowWMF = true,
+                   const QString& sStartFolder = QString()) {
+        ModalSteps steps;
+        steps.In("frmBrowse", std::move(step));
+        frmBrowse form;
+        return form.ShowForm(sFilePath, bAllowWMF, sStartFolder);
+    }
+
+    static QStringList FilesIn(QWidget& window) {
+        auto& list = Find<QListWidget>(window, "filList");
+        QStringList names;
+        for (int row = 0; row < list.count(); ++row)
+            names.append(list.item(row)->text());
+        return names;
+    }
+
+    static QString Text(QWidget& window, const char* name) { return Find<ElidedLabel>(window, name).text(); }
+
+    static void ClickItem(QListWidget& list, const QString& sText, bool bTwice = false) {
+        const QList<QListWidgetItem*> found = list.findItems(sText, Qt::MatchExactly);
+        ASSERT_EQ(found.size(), 1) << sText.toStdString();
+        const QPoint at = list.visualItemRect(found.front()).center();
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, at);
+        if (bTwice) QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, at);
+    }
+    static void ClickFile(QWidget& window, const QString& sName, bool bTwice = false) {
+        ClickItem(Find<QListWidget>(window, "filList"), sName, bTwice);
+    }
+
+    static void OpenFolder(QWidget& window, const QString& sName) {
+        auto& tree = Find<QTreeWidget>(window, "dirList");
+        const QList<QTreeWidgetItem*> found = tree.findItems(sName, Qt::MatchExactly | Qt::MatchRecursive);
+        ASSERT_EQ(found.size(), 1) << sName.toStdString();
+        tree.scrollToItem(found.front());
+        const QPoint at = tree.visualItemRect(found.front()).center();
+        QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, at);
+        QTest::mouseDClick(tree.viewport(), Qt::LeftButton, {}, at);
+    }
+
+    /// By keyboard, as the list that drops down is a window of its own.
+    static void ChoosePlace(QWidget& window, const QString& sName) {
+        auto& list = Find<QComboBox>(window, "drvList");
+        list.setFocus();
+        QTest::keyClick(&list, Qt::Key_Home);
+        for (int downs = list.findText(sName); downs > 0; --downs)
+            QTest::keyClick(&list, Qt::Key_Down);
+    }
+
+    static Color ColorAt(QWidget& window, int x, int y) {
+        return Find<PictureBox>(window, "picBitMapArea").hDC().GetPixel(x, y);
+    }
+};
+
+} // namespace
+
+TEST_F(BrowseTest, EveryControlHasItsNameAndCaption) {
+    Browse(QString(), [](QWidget& window) {
+        EXPECT_EQ(window.windowTitle(), QStringLiteral("Image Browser"));
+        for (const char* name : {"drvList", "dirList", "filList", "lblCurrentDirectory", "lblFullFilePath",
+                                 "picBitMapArea", "shpBitMapArea", "cmdOK", "cmdCancel"})
+            Find<QWidget>(window, name);
+        QTest::keyClick(&window, Qt::Key_Escape);
+    });
+}
+
+TEST_F(BrowseTest, AnEmptyPathOpensInTheFolderHandedOver) {
+    Picture(QStringLiteral("stick/cat.bmp"));
+    Browse(
+        QString(),
+        [this](QWidget& window) {
+            EXPECT_EQ(Text(window, "lblCurrentDirectory"), PathOf(QStringLiteral("stick")));
+            EXPECT_EQ(Text(window, "lblFullFilePath"), QString());
+            EXPECT_EQ(Find<QListWidget>(window, "filList").selectedItems().size(), 0);
+            EXPECT_EQ(Find<QComboBox>(window, "drvList").currentText(), QStringLiteral("STICK"));
+            Click(window, "cmdCancel");
+        },
+        true, PathOf(QStringLiteral("stick")));
+}
+
+TEST_F(BrowseTest, AnEmptyPathOpensInTheFolderUsedLast) {
+    QDir(folder.path()).mkpath(QStringLiteral("cats"));
+    Picture(QStringLiteral("cats/cat.bmp"));
+    const auto choose = [](QWidget& window) { ClickFile(window, QStringLiteral("cat.bmp"), true); };
+    Browse(QString(), choose, true, PathOf(QStringLiteral("cats")));
+    EXPECT_EQ(frmBrowse::LastFolder(), PathOf(QStringLiteral("cats")));
+    Browse(
+        QString(),
+        [this](QWidget& window) {
+            EXPECT_EQ(Text(window, "lblCurrentDirectory"), PathOf(QStringLiteral("cats")));
+            Click(window, "cmdCancel");
+        },
+        true, folder.path());
+}
+
+TEST_F(BrowseTest, ThePictureInUseIsSelectedWhateverItsCase) {
+    Picture(QStringLiteral("Cat.bmp"));
+    Browse(PathOf(QStringLiteral("cat.BMP")), [this](QWidget& window) {
+        const auto& list = Find<QListWidget>(window, "filList");
+        ASSERT_EQ(list.selectedItems().size(), 1);
+        EXPECT_EQ(list.selectedItems().front()->text(), QStringLiteral("Cat.bmp"));
+        EXPECT_EQ(Text(window, "lblFullFilePath"), PathOf(QStringLiteral("cat.BMP")));
+        Click(window, "cmdCancel");
+    });
+}
+
+TEST_F(BrowseTest, APathThatCantBeUsedIsToldAndTheProgramsFolderOpens) {
+    const QString gone = QStringLiteral("A:\\cats\\cat.bmp");
+    const QString result = Browse(gone, [](QWidget& window) {
+        EXPECT_EQ(Text(window, "lblCurrentDirectory"), Folders::ProgramDirectory());
+        Click(window, "cmdCancel");
+    });
+    EXPECT_EQ(result, gone);
+    ASSERT_EQ(desktop.boxes.size(), 1);
+    const QString text = desktop.boxes.front().sText;
+    EXPECT_TRUE(
+        text.startsWith(QStringLiteral("The following error was encountered while attempting to use file path '") +
+                        gone + QStringLiteral("'.")));
+    EXPECT_TRUE(text.endsWith(QStringLiteral("The system will use the application directory.")));
+}
+
+TEST_F(BrowseTest, ClickingAFileShowsItsPathAndAPreviewInProportion) {
+    WriteFile(QStringLiteral("wide.bmp"), PictureFiles::Encoded(PictureFiles::Quarters(80, 40), "bmp"));
+    Browse(QString(), [this](QWidget& window) {
+        ClickFile(window, QStringLiteral("wide.bmp"));
+        EXPECT_EQ(Text(window, "lblFullFilePath"), PathOf(QStringLiteral("wide.bmp")));
+        const int side = Find<PictureBox>(window, "picBitMapArea").width();
+        const auto arrived = [&] { return ColorAt(window, side / 4, side * 3 / 8) == Color::Rgb(255, 0, 0); };
+        EXPECT_TRUE(QTest::qWaitFor(arrived, kArrivalMs));
+        EXPECT_EQ(ColorAt(window, side * 3 / 4, side * 3 / 8), Color::Rgb(0, 255, 0));
+        EXPECT_EQ(ColorAt(window, side / 2, side / 8), Color::White()) << "bars above and below";
+        Click(window, "cmdCancel");
+    });
+}
+
+TEST_F(BrowseTest, ADamagedPictureIsToldOnceAndTheDialogStays) {
+    WriteFile(QStringLiteral("bad.jpg"), QByteArray("no picture at all"));
+    Browse(QString(), [this](QWidget& window) {
+        ClickFile(window, QStringLiteral("bad.jpg"));
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !desktop.boxes.isEmpty(); }, kArrivalMs));
+        EXPECT_TRUE(window.isVisible());
+        Click(window, "cmdCancel");
+    });
+    EXPECT_EQ(desktop.boxes.size(), 1);
+}
+
+TEST_F(BrowseTest, OkWithoutAFileAsksForOne) {
+    Browse(QString(), [this](QWidget& window) {
+        Click(window, "cmdOK");
+        EXPECT_TRUE(window.isVisible());
+        EXPECT_EQ(desktop.Texts(), QStringList{QStringLiteral("Please select a file before clicking OK")});
+        Click(window, "cmdCancel");
+    });
+}
+
+TEST_F(BrowseTest, CancelEscapeAndTheCloseButtonGiveBackTheOldPath) {
+    const QString old = Picture(QStringLiteral("old.bmp"));
+    Picture(QStringLiteral("new.bmp"));
+    for (const auto& leave :
+         std::initializer_list<ModalSteps::Step>{[](QWidget& window) { Click(window, "cmdCancel"); },
+                                                 [](QWidget& window) { QTest::keyClick(&window, Qt::Key_Escape); },
+                                                 [](QWidget& window) { window.close(); }}) {
+        const QString path = Browse(old, [&leave](QWidget& window) {
+            ClickFile(window, QStringLiteral("new.bmp"));
+            leave(window);
+        });
+        EXPECT_EQ(path, old);
+    }
+}
+
+TEST_F(BrowseTest, ADoubleClickTakesThePicture) {
+    const QString picture = Picture(QStringLiteral("cat.bmp"));
+    EXPECT_EQ(Browse(QString(), [](QWidget& window) { ClickFile(window, QStringLiteral("cat.bmp"), true); }), picture);
+}
+
+TEST_F(BrowseTest, AFolderOpensByDoubleClickEnterAndBackspace) {
+    Picture(QStringLiteral("stick/sub/cat.bmp"));
+    Browse(
+        QString(),
+        [this](QWidget& window) {
+            OpenFolder(window, QStringLiteral("sub"));
+            EXPECT_EQ(Text(window, "lblCurrentDirectory"), PathOf(QStringLiteral("stick/sub")));
+            EXPECT_EQ(Text(window, "lblFullFilePath"), PathOf(QStringLiteral("stick/sub")));
+            EXPECT_EQ(FilesIn(window), QStringList{QStringLiteral("cat.bmp")});
+            auto& tree = Find<QTreeWidget>(window, "dirList");
+            QTest::keyClick(&tree, Qt::Key_Backspace);
+            EXPECT_EQ(Text(window, "lblCurrentDirectory"), PathOf(QStringLiteral("stick")));
+            QTest::keyClick(&tree, Qt::Key_Down);
+            QTest::keyClick(&tree, Qt::Key_Return);
+            EXPECT_EQ(Text(window, "lblCurrentDirectory"), PathOf(QStringLiteral("stick/sub")));
+            EXPECT_TRUE(desktop.boxes.isEmpty()) << "Enter didn't press OK";
+            Click(window, "cmdCancel");
+        },
+        true, PathOf(QStringLiteral("stick")));
+}
+
+TEST_F(BrowseTest, AChosenPlaceOpensItsRoot) {
+    Browse(QString(), [this](QWidget& window) {
+        ChoosePlace(window, QStringLiteral("STICK"));
+        EXPECT_EQ(Text(window, "lblCurrentDirectory"), PathOf(QStringLiteral("stick")));
+        Click(window, "cmdCancel");
+    });
+}
+
+TEST_F(BrowseTest, AllPicturesIsTheSecondFilterAndTheChoiceIsKept) {
+    WriteFile(QStringLiteral("cat.png"), PictureFiles::Encoded(PictureFiles::Quarters(8, 8), "png"));
+    Browse(QString(), [](QWidget& window) {
+        EXPECT_EQ(FilesIn(window), QStringList());
+        auto& filter = Find<QComboBox>(window, "cboFilter");
+        filter.setFocus();
+        QTest::keyClick(&filter, Qt::Key_Down);
+        EXPECT_EQ(filter.currentText(), QStringLiteral("All pictures"));
+        EXPECT_EQ(FilesIn(window), QStringList{QStringLiteral("cat.png")});
+        Click(window, "cmdCancel");
+    });
+    Browse(QString(), [](QWidget& window) {
+        EXPECT_EQ(FilesIn(window), QStringList{QStringLiteral("cat.png")});
+        Click(window, "cmdCancel");
+    });
+}
+
+TEST_F(BrowseTest, MetafilesAreOfferedOnlyWhereTheyAreAllowed) {
+    WriteFile(QStringLiteral("drawing.WMF"), QByteArray("x"));
+    Browse(QString(), [](QWidget& window) {
+        EXPECT_EQ(FilesIn(window), QStringList{QStringLiteral("drawing.WMF")});
+        Click(window, "cmdCancel");
+    });
+    Browse(
+        QString(),
+        [](QWidget& window) {
+            EXPECT_EQ(FilesIn(window), QStringList());
+            Click(window, "cmdCancel");
+        },
+        false);
+}
+
+TEST_F(BrowseTest, ACopyFromAnotherVolumeIsUsedAndTold) {
+    const QString original = Picture(QStringLiteral("stick/cat.jpg"));
+    const QString path = Browse(
+        QString(), [](QWidget& window) { ClickFile(window, QStringLiteral("cat.jpg"), true); }, true,
+        PathOf(QStringLiteral("stick")));
+    EXPECT_EQ(path, PathOf(QStringLiteral("cat.jpg")));
+    EXPECT_EQ(ReadFile(path), ReadFile(original));
+    EXPECT_EQ(desktop.Texts(), QStringList{QStringLiteral(
+                                   "This image was not on your primary local hard drive, so the system has copied "
+                                   "it to your 'My Games' directory. Tavlora will use the copy in case the "
+                                   "original becomes unavailable.")});
+}
+
+TEST_F(BrowseTest, ACopyThatFailsIsToldAndTheDialogStays) {
+    const QString original = Picture(QStringLiteral("stick/cat.jpg"));
+    Files::SetFaultHook([](Files::Operation operation, const QString&) -> std::optional<QString> {
+        if (operation != Files::Operation::Copy) return std::nullopt;
+        return QStringLiteral("The cable was pulled");
+    });
+    const QString path = Browse(
+        QString(),
+        [this](QWidget& window) {
+            ClickFile(window, QStringLiteral("cat.jpg"), true);
+            EXPECT_TRUE(window.isVisible());
+            Folders::PretendFreeBytes(10);
+            Click(window, "cmdOK");
+            EXPECT_TRUE(window.isVisible());
+            Click(window, "cmdCancel");
+        },
+        true, PathOf(QStringLiteral("stick")));
+    EXPECT_EQ(path, QString());
+    ASSERT_EQ(desktop.boxes.size(), 2);
+    EXPECT_EQ(desktop.boxes[0].iStyle, vbInformation);
+    EXPECT_EQ(desktop.boxes[0].sText,
+              QStringLiteral("The following error occurred while \r\nattempting to copy the file \r\nnamed '") +
+                  original + QStringLiteral("' to '") + PathOf(QStringLiteral("cat.jpg")) +
+                  QStringLiteral("'.\r\n\r\nThe cable was pulled\r\n\r\nPlease correct this problem and try again."));
+    EXPECT_EQ(desktop.boxes[1].iStyle, vbInformation);
+    EXPECT_EQ(desktop.boxes[1].sText, QStringLiteral("We are unable to process files because your disk is full.\r\n"
+                                                     "Please make some space on your disk and try again."));
+}
+
+TEST_F(BrowseTest, Edge_OnAScreenOfFewColorsAJpegIsNotListed) {
+    Picture(QStringLiteral("cat.jpg"));
+    Picture(QStringLiteral("dog.bmp"));
+    Screen::PretendBitsPerPixel(8);
+    Browse(QString(), [](QWidget& window) {
+        EXPECT_EQ(FilesIn(window), QStringList{QStringLiteral("dog.bmp")});
+        Click(window, "cmdCancel");
+    });
+    Screen::PretendBitsPerPixel(24);
+    Browse(QString(), [](QWidget& window) {
+        EXPECT_EQ(FilesIn(window), (QStringList{QStringLiteral("cat.jpg"), QStringLiteral("dog.bmp")}));
+        Click(window, "cmdCancel");
+    });
+}
+
+TEST_F(BrowseTest, Edge_ThePictureAlreadyInUseIsTakenWithoutACopyFromAnyDrive) {
+    const QString inUse = Picture(QStringLiteral("stick/cat.bmp"));
+    EXPECT_EQ(Browse(inUse, [](QWidget& window) { Click(window, "cmdOK"); }), inUse);
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+    EXPECT_FALSE(Files::Exists(PathOf(QStringLiteral("cat.bmp"))));
+}
+
+TEST_F(BrowseTest, Edge_CopiesWithATakenNameAreNumberedAndTheBoxNamesThem) {
+    Picture(QStringLiteral("cat.bmp"), 10);
+    const QString original = Picture(QStringLiteral("stick/cat.bmp"), 20);
+    for (const QString& name : {QStringLiteral("cat(1).bmp"), QStringLiteral("cat(2).bmp")}) {
+        desktop.boxes.clear();
+        const QString path = Browse(
+            QString(), [](QWidget& window) { ClickFile(window, QStringLiteral("cat.bmp"), true); }, true,
+            PathOf(QStringLiteral("stick")));
+        EXPECT_EQ(path, PathOf(name));
+        EXPECT_EQ(ReadFile(path), ReadFile(original));
+        ASSERT_EQ(desktop.boxes.size(), 1);
+        EXPECT_TRUE(desktop.boxes[0].sText.endsWith(
+            QStringLiteral("\r\n\r\nBecause the file name was already in use, it has been renamed to '") + name));
+    }
+}
+
+TEST_F(BrowseTest, Edge_APictureOnTheGamesDriveStaysWhereItIs) {
+    QDir(folder.path()).mkpath(QStringLiteral("cats"));
+    const QString picture = Picture(QStringLiteral("cats/cat.bmp"));
+    const QString path = Browse(QString(), [](QWidget& window) {
+        OpenFolder(window, QStringLiteral("cats"));
+        ClickFile(window, QStringLiteral("cat.bmp"));
+        Click(window, "cmdOK");
+    });
+    EXPECT_EQ(path, picture);
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+    EXPECT_FALSE(Files::Exists(PathOf(QStringLiteral("cat.bmp"))));
+}
+
+TEST_F(BrowseTest, Edge_AFileInTheRootGetsNoSecondSeparator) {
+    // The root of the machine is no place to write to, so any file there that the filter finds will do.
+    Folders::PretendVolumes({{QStringLiteral("/"), QStringLiteral("debian")}});
+    Browse(QString(), [](QWidget& window) {
+        ChoosePlace(window, QStringLiteral("Computer"));
+        EXPECT_EQ(Text(window, "lblCurrentDirectory"), QStringLiteral("/"));
+        OpenFolder(window, QStringLiteral("tmp"));
+        EXPECT_EQ(Text(window, "lblFullFilePath"), QStringLiteral("/tmp"));
+        Click(window, "cmdCancel");
+    });
+    EXPECT_EQ(BrowsePlaces::FileIn(QStringLiteral("/"), QStringLiteral("cat.bmp")), QStringLiteral("/cat.bmp"));
+    EXPECT_EQ(BrowsePlaces::FileIn(QStringLiteral("C:\\"), QStringLiteral("cat.bmp")), QStringLiteral("C:\\cat.bmp"));
+    EXPECT_EQ(BrowsePlaces::FileIn(QStringLiteral("C:\\cats"), QStringLiteral("cat.bmp")),
+              QStringLiteral("C:\\cats\\cat.bmp"));
+}
+
+TEST_F(BrowseTest, Edge_ADriveWithoutADiskIsToldAndTheListGoesBack) {
+    Browse(
+        QString(),
+        [this](QWidget& window) {
+            ChoosePlace(window, QStringLiteral("FLOPPY"));
+            EXPECT_EQ(Find<QComboBox>(window, "drvList").currentText(), QStringLiteral("My Games"));
+            EXPECT_EQ(Text(window, "lblCurrentDirectory"), folder.path());
+            EXPECT_TRUE(window.isVisible());
+            Click(window, "cmdCancel");
+        },
+        true, PathOf(QStringLiteral("stick")));
+    EXPECT_EQ(
+        desktop.Texts(),
+        QStringList{QStringLiteral("No device can be found at disk drive '") + PathOf(QStringLiteral("floppy")) +
+                    QStringLiteral("'. If this is a drive for a removable disk, please be sure there is a disk in "
+                                   "the drive. Otherwise, please try another disk drive.")});
+}

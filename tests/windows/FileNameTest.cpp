@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+#include "support/ModalSteps.h"
+#include "support/TestFixture.h"
+#include "windows/pictures/frmFileName.h"
+
+#include <QLabel>
+#include <QLineEdit>
+
+namespace {
+
+class FileNameTest : public TavloraTest {
+protected:
+    /// Shows the dialog for a file and does something in it.
+    QString Answer(ModalSteps::Step step) {
+        ModalSteps steps;
+        steps.In("frmFileName", std::move(step));
+        frmFileName form;
+        return form.ShowForm(Clash());
+    }
+    QString Clash() const { return PathOf(QStringLiteral("cat.jpg")); }
+};
+
+} // namespace
+
+TEST_F(FileNameTest, ShowsThePresentNameAndAnEmptyNewOne) {
+    Answer([](QWidget& window) {
+        EXPECT_EQ(window.windowTitle(), QStringLiteral("File Already Exists"));
+        EXPECT_EQ(Find<QLabel>(window, "lblCurrentName").text(), QStringLiteral("cat.jpg"));
+        EXPECT_EQ(Find<QLineEdit>(window, "txtNewName").text(), QString());
+        Click(window, "cmdGo_0");
+    });
+}
+
+TEST_F(FileNameTest, LeavingTheOriginalGivesNoPath) {
+    EXPECT_EQ(Answer([](QWidget& window) { Click(window, "cmdGo_0"); }), QString());
+}
+
+TEST_F(FileNameTest, EscapeAndTheCloseButtonLeaveTheOriginal) {
+    EXPECT_EQ(Answer([](QWidget& window) { QTest::keyClick(&window, Qt::Key_Escape); }), QString());
+    EXPECT_EQ(Answer([](QWidget& window) { window.close(); }), QString());
+}
+
+TEST_F(FileNameTest, OverwritingGivesThePathAsItWas) {
+    EXPECT_EQ(Answer([](QWidget& window) { Click(window, "cmdGo_1"); }), Clash());
+}
+
+TEST_F(FileNameTest, ANewNameKeepsTheExtensionAndLandsInMyGames) {
+    const QString path = Answer([](QWidget& window) {
+        QTest::keyClicks(&Find<QLineEdit>(window, "txtNewName"), QStringLiteral("kitten_1"));
+        Click(window, "cmdGo_2");
+    });
+    EXPECT_EQ(path, PathOf(QStringLiteral("kitten_1.jpg")));
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+}
+
+TEST_F(FileNameTest, ANewNameIsAskedForWhenThereIsNone) {
+    Answer([this](QWidget& window) {
+        Click(window, "cmdGo_2");
+        EXPECT_TRUE(window.isVisible());
+        EXPECT_EQ(desktop.Texts(), QStringList{QStringLiteral("Please enter a new name and try again.")});
+        Click(window, "cmdGo_0");
+    });
+}
+
+TEST_F(FileNameTest, ABadNewNameIsToldWhenItIsLeftAndKeepsTheFocus) {
+    Answer([this](QWidget& window) {
+        // Only an active window tells its controls that they lose the focus.
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+        auto& name = Find<QLineEdit>(window, "txtNewName");
+        QTest::keyClicks(&name, QStringLiteral("cat.png"));
+        QTest::keyClick(&name, Qt::Key_Tab);
+        EXPECT_EQ(desktop.Texts(),
+                  QStringList{QStringLiteral("Please do not include a file extension in the new name.")});
+        QCoreApplication::processEvents();
+        EXPECT_EQ(window.focusWidget(), &name);
+        QTest::keyClick(&window, Qt::Key_Escape);
+    });
+}
+
+TEST_F(FileNameTest, FaultsAreLookedForInOrder) {
+    const QString letters = QStringLiteral("The new file name should include letters and numbers only.");
+    EXPECT_EQ(frmFileName::FaultOf(QStringLiteral("a cat.png")),
+              QStringLiteral("Please do not include a file extension in the new name."));
+    EXPECT_EQ(frmFileName::FaultOf(QStringLiteral("a very long name")), letters);
+    EXPECT_EQ(frmFileName::FaultOf(QString(u'\u00E9')), letters);
+    EXPECT_EQ(frmFileName::FaultOf(QStringLiteral("ninechars")),
+              QStringLiteral("Please limit the length of the new name to 8 characters."));
+    EXPECT_EQ(frmFileName::FaultOf(QStringLiteral("Cat_2~aB")), QString());
+}

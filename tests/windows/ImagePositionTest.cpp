@@ -1,0 +1,378 @@
+// SPDX-License-Identifier: MIT
+#include "platform/Files.h"
+#include "platform/LoadPicture.h"
+#include "platform/Numbers.h"
+#include "platform/PictureBox.h"
+#include "support/ModalSteps.h"
+#include "support/PictureFiles.h"
+#include "support/TestFixture.h"
+#include "windows/pictures/frmBrowse.h"
+#include "windows/pictures/frmImagePosition.h"
+
+#include <QFile>
+#include <QPushButton>
+#include <QSlider>
+#include <QWheelEvent>
+
+namespace {
+
+constexpr int kRestMs = 5000;
+
+/// A preview 400 pixels wide, and pictures whose four quarters are red, green, blue and white.
+class ImagePositionTest : public TavloraTest {
+protected:
+    ImagePositionTest() {
+        frmBrowse::ResetForTest();
+        frmImagePosition::ResetForTest();
+    }
+    ~ImagePositionTest() override { ForgetPictures(); }
+
+    C_Image ImageOf(const QString& sName, int width, int height) {
+        C_Image image;
+        image.Init(WriteFile(sName, PictureFiles::Encoded(PictureFiles::Quarters(width, height), "png")), QString(), 0);
+        return image;
+    }
+    /// Centred in the middle already, as an image that was painted before.
+    C_Image CenteredImage(int width = 200, int height = 200) {
+        C_Image image = ImageOf(QStringLiteral("picture.png"), width, height);
+        image.Let_XCenter(float(width / 2));
+        image.Let_YCenter(float(height / 2));
+        return image;
+    }
+
+    void Position(C_Image& image, ModalSteps::Step step, double dblHeightToWidth = 1.0, bool bRound = false) {
+        ModalSteps steps;
+        steps.In("frmImagePosition", std::move(step));
+        frmImagePosition form;
+        form.SetPreviewWidth(kWidth);
+        form.ShowForm(image, dblHeightToWidth, bRound);
+    }
+
+    static PictureBox& Preview(QWidget& window) { return Find<PictureBox>(window, "picZoomed"); }
+    static Color ColorAt(QWidget& window, int x, int y) { return Preview(window).hDC().GetPixel(x, y); }
+
+    static void Drag(QWidget& window, QPoint from, QPoint to) {
+        QTest::mousePress(&Preview(window), Qt::LeftButton, {}, from);
+        QTest::mouseMove(&Preview(window), to);
+        QTest::mouseRelease(&Preview(window), Qt::LeftButton, {}, to);
+    }
+
+    static constexpr int kWidth = 400;
+    const Color red = Color::Rgb(255, 0, 0);
+    const Color green = Color::Rgb(0, 255, 0);
+    const Color blue = Color::Rgb(0, 0, 255);
+};
+
+} // namespace
+
+TEST_F(ImagePositionTest, ControlsHaveTheirNamesCaptionsAndRanges) {
+    C_Image image = CenteredImage();
+    Position(image, [](QWidget& window) {
+        auto& slider = Find<QSlider>(window, "sldZoom");
+        EXPECT_EQ(slider.orientation(), Qt::Vertical);
+        EXPECT_EQ(slider.minimum(), 0);
+        EXPECT_EQ(slider.maximum(), 100);
+        EXPECT_EQ(slider.value(), 90);
+        EXPECT_EQ(Find<QPushButton>(window, "cmdSelectImage").text().remove(u'&'),
+                  QStringLiteral("Select Different Image"));
+        EXPECT_EQ(Find<QPushButton>(window, "cmdCancel").text().remove(u'&'), QStringLiteral("Cancel"));
+        Click(window, "cmdOK");
+    });
+}
+
+TEST_F(ImagePositionTest, TheBoxHasTheShapeOfWhatIsFilled) {
+    C_Image image = CenteredImage();
+    Position(
+        image,
+        [](QWidget& window) {
+            EXPECT_EQ(Preview(window).width(), kWidth);
+            EXPECT_EQ(Preview(window).height(), CLng(kWidth * 190.0 / 164.0));
+            Click(window, "cmdOK");
+        },
+        190.0 / 164.0);
+}
+
+TEST_F(ImagePositionTest, ThePreviewShowsWhatTheZoomAndCenterShow) {
+    C_Image image = CenteredImage();
+    Position(image, [this](QWidget& window) {
+        EXPECT_EQ(ColorAt(window, 100, 100), red);
+        EXPECT_EQ(ColorAt(window, 300, 100), green);
+        EXPECT_EQ(ColorAt(window, 100, 300), blue);
+        Click(window, "cmdOK");
+    });
+}
+
+TEST_F(ImagePositionTest, ThePictureFollowsTheMouse) {
+    C_Image image = CenteredImage();
+    Position(image, [this](QWidget& window) {
+        QTest::mousePress(&Preview(window), Qt::LeftButton, {}, QPoint(200, 200));
+        QTest::mouseMove(&Preview(window), QPoint(300, 200));
+        EXPECT_EQ(ColorAt(window, 280, 100), red) << "while the button is down";
+        EXPECT_EQ(ColorAt(window, 50, 100), Color::White()) << "nothing is left of the picture";
+        QTest::mouseRelease(&Preview(window), Qt::LeftButton, {}, QPoint(300, 200));
+        EXPECT_EQ(ColorAt(window, 280, 100), red) << "at rest";
+        Click(window, "cmdOK");
+    });
+    EXPECT_EQ(image.XCenter(), 50);
+    EXPECT_EQ(image.YCenter(), 100);
+}
+
+TEST_F(ImagePositionTest, MovingWithoutTheLeftButtonDoesNothing) {
+    C_Image image = CenteredImage();
+    Position(image, [](QWidget& window) {
+        QTest::mouseMove(&Preview(window), QPoint(50, 60));
+        QTest::mousePress(&Preview(window), Qt::MiddleButton, {}, QPoint(200, 200));
+        QTest::mouseMove(&Preview(window), QPoint(300, 200));
+        QTest::mouseRelease(&Preview(window), Qt::MiddleButton, {}, QPoint(300, 200));
+        Click(window, "cmdOK");
+    });
+    EXPECT_EQ(image.XCenter(), 100);
+}
+
+TEST_F(ImagePositionTest, ARightClickBringsThePointToTheMiddle) {
+    C_Image image = CenteredImage();
+    Position(image, [](QWidget& window) {
+        QTest::mouseClick(&Preview(window), Qt::RightButton, {}, QPoint(100, 300));
+        Click(window, "cmdOK");
+    });
+    EXPECT_EQ(image.XCenter(), 50);
+    EXPECT_EQ(image.YCenter(), 150);
+}
+
+TEST_F(ImagePositionTest, TheSliderZoomsByKeysAndTheWheel) {
+    C_Image image = CenteredImage();
+    Position(image, [](QWidget& window) {
+        auto& slider = Find<QSlider>(window, "sldZoom");
+        QTest::keyClick(&slider, Qt::Key_Up);
+        EXPECT_EQ(slider.value(), 89) << "up is larger";
+        QTest::keyClick(&slider, Qt::Key_PageUp);
+        EXPECT_EQ(slider.value(), 79);
+        const int before = slider.value();
+        const QPointF at(50, 50);
+        QWheelEvent wheel(at, Preview(window).mapToGlobal(at), QPoint(), QPoint(0, 120), Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&Preview(window), &wheel);
+        EXPECT_LT(slider.value(), before) << "the wheel turned away zooms in";
+        slider.setValue(80);
+        Click(window, "cmdOK");
+    });
+    EXPECT_EQ(image.Zoom(), 10);
+}
+
+TEST_F(ImagePositionTest, TheArrowKeysMoveThePicture) {
+    C_Image image = CenteredImage();
+    Position(image, [](QWidget& window) {
+        EXPECT_EQ(window.focusWidget(), &Preview(window));
+        QTest::keyClick(&Preview(window), Qt::Key_Right);
+        QTest::keyClick(&Preview(window), Qt::Key_Down);
+        QTest::keyClick(&Preview(window), Qt::Key_Down);
+        Click(window, "cmdOK");
+    });
+    EXPECT_EQ(image.XCenter(), 95);
+    EXPECT_EQ(image.YCenter(), 90);
+}
+
+TEST_F(ImagePositionTest, InMotionAndAtRestTheSamePlaceIsShown) {
+    // A large enough picture that motion shows a halved copy.
+    C_Image image = CenteredImage(2000, 1500);
+    Position(image, [this](QWidget& window) {
+        auto& slider = Find<QSlider>(window, "sldZoom");
+        slider.setValue(83);
+        const auto shown = [&] {
+            return ColorAt(window, 190, 190) == red && ColorAt(window, 210, 210) == Color::White();
+        };
+        EXPECT_TRUE(shown()) << "in motion";
+        auto& timer = Find<QTimer>(window, "timSharpen");
+        EXPECT_TRUE(timer.isActive());
+        EXPECT_TRUE(QTest::qWaitFor([&timer] { return !timer.isActive(); }, kRestMs));
+        EXPECT_TRUE(shown()) << "at rest";
+        Click(window, "cmdOK");
+    });
+}
+
+TEST_F(ImagePositionTest, ARoundImageIsMaskedToItsCircle) {
+    C_Image image = CenteredImage();
+    Position(
+        image,
+        [this](QWidget& window) {
+            const Color form = ColorAt(window, 2, 2);
+            EXPECT_NE(form, red);
+            EXPECT_EQ(ColorAt(window, kWidth - 3, kWidth - 3), form);
+            EXPECT_EQ(ColorAt(window, 56, 56), form) << "just outside the circle";
+            EXPECT_EQ(ColorAt(window, 62, 62), red) << "just inside it";
+            EXPECT_EQ(ColorAt(window, 4, 195), red) << "at its left edge";
+            Click(window, "cmdOK");
+        },
+        1.0, true);
+}
+
+TEST_F(ImagePositionTest, CancelAsksAboutChangesAndHeedsTheAnswer) {
+    const QString question = QStringLiteral("There are unsaved changes. Do you want to save them?");
+    const struct {
+        int answer;
+        float expected;
+    } kCases[] = {{vbYes, 95}, {vbNo, 100}};
+    for (const auto& each : kCases) {
+        C_Image image = CenteredImage();
+        desktop.boxes.clear();
+        desktop.answers = {vbCancel, each.answer};
+        Position(image, [this, &question](QWidget& window) {
+            QTest::keyClick(&Preview(window), Qt::Key_Right);
+            Click(window, "cmdCancel");
+            EXPECT_TRUE(window.isVisible()) << "Cancel to the question";
+            ASSERT_EQ(desktop.boxes.size(), 1);
+            EXPECT_EQ(desktop.boxes[0].sText, question);
+            EXPECT_EQ(desktop.boxes[0].sTitle, QStringLiteral("Save Changes"));
+            EXPECT_EQ(desktop.boxes[0].iStyle & 0xF, vbYesNoCancel);
+            QTest::keyClick(&window, Qt::Key_Escape);
+        });
+        EXPECT_EQ(image.XCenter(), each.expected);
+    }
+}
+
+TEST_F(ImagePositionTest, CancelWithoutAChangeAsksNothingEvenWhenTheImageWasNeverPainted) {
+    C_Image image = ImageOf(QStringLiteral("fresh.png"), 300, 200);
+    Position(image, [](QWidget& window) { window.close(); });
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+    EXPECT_EQ(image.XCenter(), 150) << "centred as any painting would";
+    EXPECT_EQ(image.YCenter(), 100);
+}
+
+TEST_F(ImagePositionTest, AnotherPictureStartsUnzoomedAndCentered) {
+    C_Image image = CenteredImage();
+    image.Let_Zoom(20);
+    const QString other =
+        WriteFile(QStringLiteral("other.bmp"), PictureFiles::Encoded(PictureFiles::Quarters(60, 40), "bmp"));
+    ModalSteps steps;
+    steps
+        .In("frmImagePosition",
+            [&](QWidget& window) {
+                EXPECT_EQ(Find<QSlider>(window, "sldZoom").value(), 70);
+                Click(window, "cmdSelectImage");
+                EXPECT_EQ(Find<QSlider>(window, "sldZoom").value(), 90);
+                Click(window, "cmdOK");
+            })
+        .In("frmBrowse", [](QWidget& window) {
+            QTest::keyClick(&Find<QWidget>(window, "filList"), Qt::Key_Home);
+            QTest::keyClick(&Find<QWidget>(window, "filList"), Qt::Key_Return);
+        });
+    frmImagePosition form;
+    form.ShowForm(image, 1.0, false);
+    EXPECT_EQ(image.FullPath(), other);
+    EXPECT_EQ(image.Zoom(), 0);
+    EXPECT_EQ(image.XCenter(), 30);
+}
+
+TEST_F(ImagePositionTest, AnUnreadablePictureIsToldAndAnotherIsOfferedAtOnce) {
+    C_Image image;
+    const QString bad = WriteFile(QStringLiteral("bad.bmp"), QByteArray("no picture"));
+    image.Init(bad, QString(), 0);
+    const auto cancel = [](QWidget& window) { Click(window, "cmdCancel"); };
+    ModalSteps steps;
+    // Once for the failure, and once because no picture is there when the window has come up.
+    steps.In("frmBrowse", cancel).In("frmBrowse", cancel).In("frmImagePosition", cancel);
+    frmImagePosition form;
+    form.ShowForm(image, 1.0, false);
+    EXPECT_TRUE(desktop.Texts().front().startsWith(
+        QStringLiteral("The file named '") + bad +
+        QStringLiteral("' could not be loaded.\r\nThe following error was reported:\r\n")));
+}
+
+TEST_F(ImagePositionTest, Edge_MovingTheSliderToTheBottomShrinksThePictureToHalfTheBox) {
+    C_Image image = CenteredImage();
+    Position(image, [this](QWidget& window) {
+        auto& slider = Find<QSlider>(window, "sldZoom");
+        EXPECT_EQ(slider.value(), 90);
+        QTest::keyClick(&slider, Qt::Key_End);
+        EXPECT_EQ(slider.value(), 100);
+        EXPECT_EQ(ColorAt(window, 105, 105), red);
+        EXPECT_EQ(ColorAt(window, 95, 200), Color::White());
+        EXPECT_EQ(ColorAt(window, 305, 200), Color::White());
+        Click(window, "cmdOK");
+    });
+    EXPECT_EQ(image.Zoom(), -10);
+    EXPECT_EQ(ImagePlacing::Scale::Of(QSize(200, 200), QSize(kWidth, kWidth), -10).iSide, 400);
+}
+
+TEST_F(ImagePositionTest, Edge_DraggingTenPixelsRightAtScaleTwoLowersTheCenterByFive) {
+    C_Image image = CenteredImage();
+    Position(image, [](QWidget& window) {
+        Drag(window, QPoint(200, 200), QPoint(210, 200));
+        Click(window, "cmdOK");
+    });
+    EXPECT_EQ(image.XCenter(), 95);
+    EXPECT_EQ(image.YCenter(), 100);
+}
+
+TEST_F(ImagePositionTest, Edge_ARightClickInTheMiddleLeavesTheCenterButForRounding) {
+    C_Image image = CenteredImage(201, 133);
+    image.Let_Zoom(7);
+    Position(image, [](QWidget& window) {
+        QTest::mouseClick(&Preview(window), Qt::RightButton, {}, QPoint(kWidth / 2, kWidth / 2));
+        Click(window, "cmdOK");
+    });
+    EXPECT_NEAR(image.XCenter(), 100, 1);
+    EXPECT_NEAR(image.YCenter(), 66, 1);
+}
+
+TEST_F(ImagePositionTest, Edge_NothingLimitsTheCenterToThePicture) {
+    C_Image image = CenteredImage();
+    Position(image, [](QWidget& window) {
+        Drag(window, QPoint(10, 390), QPoint(390, 10));
+        Drag(window, QPoint(10, 390), QPoint(390, 10));
+        Click(window, "cmdOK");
+    });
+    EXPECT_EQ(image.XCenter(), 100 - 380);
+    EXPECT_EQ(image.YCenter(), 100 + 380);
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+}
+
+TEST_F(ImagePositionTest, Edge_APictureWhoseFileHasGoneOpensAnEmptyBoxAndThenTheBrowser) {
+    C_Image image = CenteredImage();
+    QFile::remove(image.FullPath());
+    bool browsed = false;
+    ModalSteps steps;
+    steps
+        .In("frmImagePosition",
+            [this](QWidget& window) {
+                EXPECT_EQ(ColorAt(window, 200, 200), Color::White());
+                EXPECT_TRUE(desktop.Texts().contains(QStringLiteral("The file named '") +
+                                                     PathOf(QStringLiteral("picture.png")) +
+                                                     QStringLiteral("' could not be found.\r\nNo image was loaded.")));
+            })
+        .In("frmBrowse",
+            [&browsed](QWidget& window) {
+                browsed = true;
+                Click(window, "cmdCancel");
+            })
+        .In("frmImagePosition", [](QWidget& window) { Click(window, "cmdOK"); });
+    frmImagePosition form;
+    form.ShowForm(image, 1.0, false);
+    EXPECT_TRUE(browsed);
+    EXPECT_EQ(image.FullPath(), PathOf(QStringLiteral("picture.png")));
+}
+
+TEST_F(ImagePositionTest, Edge_BothCentersDraggedToZeroAreCenteredAtTheNextPaint) {
+    C_Image image = CenteredImage();
+    image.Let_XCenter(5);
+    image.Let_YCenter(5);
+    Position(image, [this](QWidget& window) {
+        EXPECT_EQ(ColorAt(window, 100, 100), Color::White()) << "the picture hangs to the lower right";
+        Drag(window, QPoint(200, 200), QPoint(210, 210));
+        EXPECT_EQ(ColorAt(window, 100, 100), red) << "in the middle again";
+        Click(window, "cmdOK");
+    });
+    EXPECT_EQ(image.XCenter(), 100);
+    EXPECT_EQ(image.YCenter(), 100);
+}
+
+TEST_F(ImagePositionTest, Edge_OkWithoutAChangeLeavesTheImageUntouched) {
+    C_Image image = CenteredImage();
+    image.Init(image.FullPath(), QStringLiteral("Space"), 12);
+    image.Let_Zoom(3);
+    const C_Image before = image;
+    const QString thumbnail = WriteFile(QStringLiteral("Space12.bmp"), QByteArray("thumbnail"));
+    Position(image, [](QWidget& window) { Click(window, "cmdOK"); });
+    EXPECT_FALSE(image.IsDifferentFrom(before));
+    EXPECT_TRUE(Files::Exists(thumbnail)) << "not even its thumbnail is made anew";
+}

@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+#include "windows/editors/TypedText.h"
+
+#include "support/TestFixture.h"
+
+#include <QKeyEvent>
+
+using basEditTextArray::KeyResult;
+using TypedText::Key;
+
+namespace {
+
+class TypedTextTest : public TavloraTest {
+protected:
+    static Key KeyOf(int key, const QString& text = QString(), Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        return TypedText::KeyOf(QKeyEvent(QEvent::KeyPress, key, modifiers, text));
+    }
+    KeyResult Feed(const QString& text) { return TypedText::Feed(lines, selection, text); }
+    QString Text() const { return lines.join(u'|'); }
+    void CaretAt(int column, int row) { selection.SetCaret(column, row); }
+
+    QStringList lines{QStringLiteral("Elm"), QStringLiteral("Street")};
+    TextSelection selection;
+};
+
+TEST_F(TypedTextTest, KeysAreTextOrNot) {
+    EXPECT_EQ(KeyOf(Qt::Key_A, QStringLiteral("a")).sText, QStringLiteral("a"));
+    EXPECT_EQ(KeyOf(Qt::Key_Left).iKeyCode, 37);
+    EXPECT_EQ(KeyOf(Qt::Key_Delete, QStringLiteral("\x7f")).iKeyCode, 46);
+    EXPECT_EQ(KeyOf(Qt::Key_Enter, QStringLiteral("\r")).sText, QStringLiteral("\r"));
+    EXPECT_EQ(KeyOf(Qt::Key_Backspace, QStringLiteral("\b")).sText, QStringLiteral("\b"));
+    EXPECT_EQ(KeyOf(Qt::Key_unknown, QStringLiteral("\U0001F3E0")).kind, Key::Kind::Press);
+    for (const Key& none :
+         {KeyOf(Qt::Key_Tab, QStringLiteral("\t")), KeyOf(Qt::Key_Escape, QStringLiteral("\x1b")),
+          KeyOf(Qt::Key_F, QStringLiteral("f"), Qt::AltModifier),
+          KeyOf(Qt::Key_A, QStringLiteral("\x01"), Qt::ControlModifier), KeyOf(Qt::Key_Home), KeyOf(Qt::Key_Shift)})
+        EXPECT_EQ(none.kind, Key::Kind::None);
+}
+
+TEST_F(TypedTextTest, AltGrGivesCharacters) {
+    const Key key = KeyOf(Qt::Key_At, QStringLiteral("@"), Qt::ControlModifier | Qt::AltModifier);
+    EXPECT_EQ(key.kind, Key::Kind::Press);
+    EXPECT_EQ(key.sText, QStringLiteral("@"));
+}
+
+TEST_F(TypedTextTest, ClipboardKeysAreKnown) {
+    EXPECT_EQ(KeyOf(Qt::Key_C, {}, Qt::ControlModifier).kind, Key::Kind::Copy);
+    EXPECT_EQ(KeyOf(Qt::Key_X, {}, Qt::ControlModifier).kind, Key::Kind::Cut);
+    EXPECT_EQ(KeyOf(Qt::Key_V, {}, Qt::ControlModifier).kind, Key::Kind::Paste);
+}
+
+TEST_F(TypedTextTest, EveryKindOfLineBreakIsOneEnter) {
+    lines = {QString()};
+    CaretAt(0, 0);
+    EXPECT_EQ(Feed(QStringLiteral("a\r\nb\nc\rd\u2029e")), KeyResult::TextChanged);
+    EXPECT_EQ(Text(), QStringLiteral("a|b|c|d|e"));
+}
+
+TEST_F(TypedTextTest, ControlCharactersNeverReachTheText) {
+    CaretAt(3, 0);
+    EXPECT_EQ(Feed(QStringLiteral("\x01\x1b")), KeyResult::Nothing);
+    Feed(QStringLiteral("\ta\bb"));
+    EXPECT_EQ(Text(), QStringLiteral("Elm b|Street"));
+}
+
+TEST_F(TypedTextTest, WhatHasNoLineToStandOnIsLeftOut) {
+    lines = QStringList(9, QStringLiteral("x"));
+    CaretAt(1, 8);
+    EXPECT_EQ(Feed(QStringLiteral("\nlast\nmore")), KeyResult::TextChanged);
+    EXPECT_EQ(lines.size(), 10);
+    EXPECT_EQ(lines.last(), QStringLiteral("last"));
+}
+
+TEST_F(TypedTextTest, TheSelectedTextIsReadInEitherDirection) {
+    selection = {1, 0, 3, 1};
+    EXPECT_EQ(TypedText::Selected(lines, selection), QStringLiteral("lm\nStr"));
+    selection = {3, 1, 1, 0};
+    EXPECT_EQ(TypedText::Selected(lines, selection), QStringLiteral("lm\nStr"));
+    selection = {4, 1, 2, 1};
+    EXPECT_EQ(TypedText::Selected(lines, selection), QStringLiteral("re"));
+    CaretAt(2, 1);
+    EXPECT_EQ(TypedText::Selected(lines, selection), QString());
+    selection.Clear();
+    EXPECT_EQ(TypedText::Selected(lines, selection), QString());
+}
+
+TEST_F(TypedTextTest, RemovingNeedsASelection) {
+    CaretAt(2, 1);
+    EXPECT_EQ(TypedText::Remove(lines, selection), KeyResult::Nothing);
+    selection = {4, 1, 2, 1};
+    EXPECT_EQ(TypedText::Remove(lines, selection), KeyResult::TextChanged);
+    EXPECT_EQ(Text(), QStringLiteral("Elm|Stet"));
+}
+
+} // namespace
