@@ -73,5 +73,9 @@ bool ProgramLock::CallHolder(const QString& sGame, int milliseconds) const {
     socket.connectToServer(ServerName());
     if (!socket.waitForConnected(milliseconds)) return false;
     socket.write(sGame.toUtf8().toPercentEncoding() + '\n');
-    return socket.waitForBytesWritten(milliseconds) && socket.waitForReadyRead(milliseconds);
+    socket.flush();
+    // The answer may already be here: it then never becomes ready to be read again.
+    while (!socket.canReadLine() && socket.waitForReadyRead(milliseconds)) {
+    }
+    return socket.canReadLine();
 }
