@@ -84,8 +84,9 @@ bool PrintCards(SheetJob& job, clsRenderDestination& destination, int iSheet) {
     for (int p = 0; p < kCards; ++p) {
         job.Piece("Deed", p + 1, kCards);
         job.Progress(p * 1000 / kCards + kProgressBefore);
+        const int iRow = p / kColumns;
         const int lX = CLng((p % kColumns * kCardSide + kFirstX) * destination.DPI());
-        const int lY = CLng((p / kColumns * kCardSide + kFirstY) * destination.DPI());
+        const int lY = CLng((iRow * kCardSide + kFirstY) * destination.DPI());
         const int space = kSpaceOnSheet[iSheet - 1][p];
         const bool printed = IsUtility(space) ? DeedCardTrans(destination, space, lX, lY, true)
                                               : DeedCardProp(destination, space, lX, lY, true);

@@ -3,6 +3,8 @@
 
 #include "rendering/SheetJob.h"
 
+#include <QString>
+
 class clsRenderDestination;
 
 /// The title deeds of the users' properties: squares of 2.5 inches with dashed cut lines, twelve to a sheet.

@@ -44,8 +44,9 @@ void PrintMoneySheet(SheetJob& job, int iMoney, const Picture& picture, int iCop
     for (int i = 0; i < kNotes; ++i) {
         job.Piece("Note", i + 1, kNotes);
         job.Progress(iCopy * 1000 / nCopies + i * 100 / nCopies);
+        const int iRow = i / kColumns;
         const int lX = CLng((i % kColumns * kNoteWidth + kFirstX) * dblDPI);
-        const int lY = CLng((i / kColumns * kNoteHeight + kFirstY) * dblDPI);
+        const int lY = CLng((iRow * kNoteHeight + kFirstY) * dblDPI);
         job.printer.PaintPicture(picture, lX, lY, lW, lH);
         basTAVL::g_oMoney(iMoney).DrawMoney(job.printer, dblDPI, lX, lY, false, false, true);
     }

@@ -62,8 +62,9 @@ bool PrintNewsSheet(SheetJob& job, int iDeck) try {
     for (int i = 0; i < basTAVL::kCards; ++i) {
         job.Piece("Card", i + 1, basTAVL::kCards);
         job.Progress(i * 1000 / basTAVL::kCards);
+        const int iRow = i / kColumns;
         const int lX = CLng((i % kColumns * kCardWidth + kFirst) * destination.DPI());
-        const int lY = CLng((i / kColumns * kCardHeight + kFirst) * destination.DPI());
+        const int lY = CLng((iRow * kCardHeight + kFirst) * destination.DPI());
         const bool printed = NewsRender(destination, lX, lY, iDeck, i);
         whole = whole && printed;
     }
