@@ -38,7 +38,6 @@ int RunProgram(int argc, char** argv, DesktopWidgets& desktop) {
     Application application(argc, argv);
     application.SetLastNet(&ReportUncaught);
     Desktop::Install(&desktop);
-    PrefetchOwnPictures();
 
     const QStringList arguments = Application::arguments();
     const QString game = arguments.size() > 1 ? Folders::CompletePath(arguments.at(1)) : QString();
@@ -50,6 +49,8 @@ int RunProgram(int argc, char** argv, DesktopWidgets& desktop) {
         return 1;
     }
     desktop.SetAtEnd(std::bind(&ProgramLock::Release, &lock));
+    // Not before: a start that only hands over its game would end amid the decoding.
+    PrefetchOwnPictures();
 
     WidgetLook::SetWindowIcon(OwnFile("tavlora.png"));
     SystemPrinter printer(basCommon::JoinPath(basCommon::GetMyGamesDirectory(), QStringLiteral("Printed")));
