@@ -5,9 +5,11 @@
 #include "platform/PictureCache.h"
 #include "platform/PictureDecoder.h"
 
+#include <QCoreApplication>
 #include <QThreadPool>
 
 #include <algorithm>
+#include <atomic>
 #include <deque>
 
 namespace {
@@ -65,6 +67,24 @@ QThreadPool& Decoders() {
     return pool;
 }
 
+// Set while the application ends: what is queued by then is answered without being decoded.
+std::atomic<bool> s_bEnding = false;
+
+// A decoder still at work while the toolkit takes itself down would meet what is gone already.
+void WaitForDecoders() {
+    s_bEnding = true;
+    Decoders().waitForDone();
+    s_bEnding = false;
+}
+
+void SeeToTheEnd() { qAddPostRoutine(&WaitForDecoders); }
+Q_COREAPP_STARTUP_FUNCTION(SeeToTheEnd)
+
+PictureCache::Entry DecodeUnlessEnding(const PictureCache::Key& key) {
+    if (!s_bEnding) return Decode(key);
+    return {Picture(), QStringLiteral("The program is ending")};
+}
+
 } // namespace
 
 Picture LoadPicture(const QString& sPath, QString& sError, int longerSideWanted) {
@@ -90,7 +110,7 @@ bool PrefetchPicture(const QString& sPath, int longerSideWanted) {
     if (key.stamp == Files::Stamp()) return true;
     if (PictureCache::Instance().Holds(key)) return true;
     if (!PictureCache::Instance().Reserve(key)) return false;
-    Decoders().start([key] { PictureCache::Instance().Fulfil(key, Decode(key)); });
+    Decoders().start([key] { PictureCache::Instance().Fulfil(key, DecodeUnlessEnding(key)); });
     return false;
 }
 

@@ -13,6 +13,7 @@ Picture LoadPicture(const QString& sPath, QString& sError, int longerSideWanted 
 
 /// Starts decoding on another processor; the LoadPicture of the same path and size waits for it and takes
 /// the result. Nothing else happens: errors are told by LoadPicture. True when there is nothing to wait for.
+/// The end of the application waits for what is being decoded and leaves out what isn't begun.
 bool PrefetchPicture(const QString& sPath, int longerSideWanted = kAllPixels);
 
 /// The file, just written, shows what was drawn here: as long as it isn't changed, LoadPicture hands the
