@@ -2,7 +2,6 @@
 #include "windows/editors/EditWindow.h"
 
 #include "document/basTAVL.h"
-#include "drawing/basDraw.h"
 #include "pictures/C_Image.h"
 #include "platform/ElidedLabel.h"
 #include "platform/PictureBox.h"
@@ -14,6 +13,7 @@
 #include "windows/pictures/UnsavedChanges.h"
 
 #include <QCheckBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
 
 namespace {
@@ -24,7 +24,8 @@ constexpr double kSquare = 1.0;
 } // namespace
 
 EditWindow::EditWindow(std::unique_ptr<Likeness> likeness, const Wording& wording, QWidget* parent)
-    : QDialog(parent), m_ownLikeness(std::move(likeness)), m_likeness(*m_ownLikeness), m_wording(wording) {
+    : TypingWindow(wording.sModule, "txtToolTip", parent), m_ownLikeness(std::move(likeness)),
+      m_likeness(*m_ownLikeness), m_wording(wording) {
     setObjectName(QString::fromLatin1(wording.sName));
     setWindowTitle(QString::fromLatin1(wording.sCaption));
     BuildControls();
@@ -58,18 +59,18 @@ void EditWindow::Redraw() try {
     picDest->Refresh();
     txtBitmapPath->SetWholeText(m_likeness.Image().FullPath());
     ShowLegend();
-    txtHoldFocus->SetTyping(m_selection.IsOn(), picDest->geometry());
+    ShowTyping();
     redrawing.ShowMessages();
 } catch (...) {
     ErrTail(m_wording.sModule, "Redraw");
 }
 
-void EditWindow::UsePicDest() { basDraw::Draw_SetHdc(&picDest->hDC()); }
-
-void EditWindow::TakeFocus() {
-    activateWindow();
-    txtHoldFocus->setFocus(Qt::OtherFocusReason);
+void EditWindow::FitText(const QString& sText) {
+    UsePicDest();
+    m_likeness.SetText(sText);
 }
+
+void EditWindow::KeepTyped(const QStringList& sTextLines) { FitText(m_likeness.Joined(sTextLines)); }
 
 void EditWindow::DropSelection() {
     m_selection.Clear();
@@ -182,4 +183,12 @@ void EditWindow::reject() { cmdCancel_Click(); }
 
 void EditWindow::txtBitmapPath_Click() try { ImageGroup::TellHowToChangePath(); } catch (...) {
     ErrTop(m_wording.sModule, "txtBitmapPath_Click");
+}
+
+void EditWindow::txtSpace_Change() try {
+    QString text = txtSpace->toPlainText();
+    FitText(text.replace(u'\n', kNewLine));
+    Redraw();
+} catch (...) {
+    ErrTop(m_wording.sModule, "txtSpace_Change");
 }

@@ -4,35 +4,30 @@
 #include "platform/Desktop.h"
 #include "platform/PictureHolder.h"
 #include "windows/editors/Likeness.h"
-#include "windows/editors/TextSelection.h"
-#include "windows/editors/TypedText.h"
+#include "windows/editors/TypingWindow.h"
 
-#include <QDialog>
 #include <QString>
 
 #include <memory>
 
 class ElidedLabel;
-class HoldFocusBox;
 class ImageGroup;
-class PictureBox;
 class QBoxLayout;
 class QCheckBox;
 class QGroupBox;
 class QLabel;
 class QPlainTextEdit;
 class QPushButton;
-class TipLabel;
 
 /// What the editor of a space and that of a corner have in common: a likeness to type on and click on, and
 /// the buttons beside it. Works on the likeness's private copy; what was done reaches the game only when the
 /// window closes.
-class EditWindow : public QDialog {
+class EditWindow : public TypingWindow {
     Q_OBJECT
 public:
-    void Redraw();
+    void Redraw() override;
     Likeness::Spot WhereIsMouse(float X, float Y);
-    QStringList GetTextArray() const { return m_likeness.GetTextArray(); }
+    QStringList GetTextArray() const override { return m_likeness.GetTextArray(); }
 
     /// Whether other records than the one shown got another font since ShowForm.
     bool ChangedAllFonts() const { return m_bChangeAllFonts; }
@@ -59,8 +54,8 @@ protected:
     bool IsLoading() const { return m_bLoading; }
     void cmdBitmap_Click();
 
+    void KeepTyped(const QStringList& sTextLines) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     // Building, in EditWindow_controls.cpp.
@@ -74,17 +69,6 @@ private:
     void BuildHidden();
     void ShowLegend();
     void Connect();
-
-    // Text, in EditWindow_text.cpp.
-    bool TakesKey(const QKeyEvent& event);
-    void Form_KeyDown(const TypedText::Key& key);
-    void Form_KeyPress(const QString& sText);
-    void StoreTyped(basEditTextArray::KeyResult result, const QStringList& sTextLines);
-    void FitText(const QString& sText);
-    void HoldFocus_Tabbed();
-    void HoldFocus_TabbedOut();
-    void HoldFocus_Composing(const QString& sText);
-    void txtSpace_Change();
 
     // Mouse and tips, in EditWindow_mouse.cpp.
     void picDest_MouseDown(int iButton, int iShift, float X, float Y);
@@ -105,24 +89,20 @@ private:
     void chkIncludeImage_Click();
     void txtBitmapPath_Click();
 
+    void txtSpace_Change();
+
+    void FitText(const QString& sText);
     void SetImagePath(const QString& sFullPath);
-    void UsePicDest();
     void DropSelection();
-    void TakeFocus();
 
     const std::unique_ptr<Likeness> m_ownLikeness;
     Likeness& m_likeness;
     const Wording m_wording;
-    TextSelection m_selection;
     bool m_bLoading = false;
-    bool m_bSelecting = false;
     bool m_bChangeAllFonts = false;
 
     CommonDialog cdlgFont;
     PictureHolder picScratch;
-    PictureBox* picDest = nullptr;
-    HoldFocusBox* txtHoldFocus = nullptr;
-    TipLabel* txtToolTip = nullptr;
     QLabel* txtlegend = nullptr;
     ImageGroup* fraBitmap = nullptr;
     ElidedLabel* txtBitmapPath = nullptr;

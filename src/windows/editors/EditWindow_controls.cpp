@@ -7,7 +7,6 @@
 #include "platform/WidgetLook.h"
 #include "windows/editors/HoldFocusBox.h"
 #include "windows/editors/ImageGroup.h"
-#include "windows/editors/TipLabel.h"
 
 #include <QCheckBox>
 #include <QGroupBox>
@@ -38,10 +37,7 @@ void EditWindow::BuildControls() {
 
 QWidget* EditWindow::BuildLikeness() {
     auto* area = new QWidget(this);
-    picDest = new PictureBox(area);
-    picDest->setObjectName(QStringLiteral("picDest"));
     picDest->setFixedSize(m_likeness.Size());
-    picDest->ScaleMode = ScaleModeKind::Pixels;
     picDest->SetBackColor(WidgetLook::FillOf(*this));
     txtlegend = new QLabel(area);
     txtlegend->setObjectName(QStringLiteral("txtlegend"));
@@ -112,15 +108,12 @@ QBoxLayout* EditWindow::BuildClosing() {
 }
 
 void EditWindow::BuildHidden() {
-    txtHoldFocus = new HoldFocusBox(this);
-    txtHoldFocus->installEventFilter(this);
     // The keyboard's way goes from the text to the buttons.
     setTabOrder(txtHoldFocus, cmdChangeFont);
     txtSpace = new QPlainTextEdit(this);
     txtSpace->setObjectName(QStringLiteral("txtSpace"));
     txtSpace->setFocusPolicy(Qt::NoFocus);
     txtSpace->hide();
-    txtToolTip = new TipLabel("txtToolTip", this);
 }
 
 void EditWindow::Connect() {
@@ -129,10 +122,6 @@ void EditWindow::Connect() {
     connect(picDest, &PictureBox::MouseUp, this, &EditWindow::picDest_MouseUp);
     connect(picDest, &PictureBox::MouseLeft, this, &EditWindow::picDest_MouseLeft);
     connect(picDest, &PictureBox::BackingChanged, this, &EditWindow::picDest_BackingChanged);
-    connect(txtHoldFocus, &HoldFocusBox::Committed, this, &EditWindow::Form_KeyPress);
-    connect(txtHoldFocus, &HoldFocusBox::Composing, this, &EditWindow::HoldFocus_Composing);
-    connect(txtHoldFocus, &HoldFocusBox::TabbedInto, this, &EditWindow::HoldFocus_Tabbed);
-    connect(txtHoldFocus, &HoldFocusBox::TabbedOutOf, this, &EditWindow::HoldFocus_TabbedOut);
     connect(txtSpace, &QPlainTextEdit::textChanged, this, &EditWindow::txtSpace_Change);
     connect(cmdOK, &QPushButton::clicked, this, &EditWindow::cmdOK_Click);
     connect(cmdCancel, &QPushButton::clicked, this, &EditWindow::cmdCancel_Click);

@@ -9,7 +9,7 @@
 #include "windows/editors/TipLabel.h"
 
 #include <QCheckBox>
-#include <QKeyEvent>
+#include <QEvent>
 #include <QPushButton>
 
 namespace {
@@ -73,7 +73,7 @@ void EditWindow::picDest_BackingChanged() try { Redraw(); } catch (...) {
 }
 
 void EditWindow::ShowSpotTip(const Likeness::Spot& spot, QPoint at) {
-    const QPoint place = picDest->geometry().topLeft() + at + QPoint(0, kBelowPointer);
+    const QPoint place = picDest->mapTo(this, at) + QPoint(0, kBelowPointer);
     if (spot.bInImage) {
         picDest->setCursor(Qt::UpArrowCursor);
         SetToolTip(TwoLines("Click on Image", m_wording.sImageTip), place);
@@ -99,16 +99,12 @@ QString EditWindow::TipOf(const QObject* control) const {
     return {};
 }
 
-void EditWindow::SetToolTip(const QString& sText, QPoint at) { txtToolTip->ShowAt(sText, at); }
+void EditWindow::SetToolTip(const QString& sText, QPoint at) { m_tip->ShowAt(sText, at); }
 
-void EditWindow::Control_MouseMove(const QWidget& control) { txtToolTip->ShowBeside(TipOf(&control), control); }
+void EditWindow::Control_MouseMove(const QWidget& control) { m_tip->ShowBeside(TipOf(&control), control); }
 
 bool EditWindow::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
-        case QEvent::KeyPress:
-            // Ahead of the button that may have the focus: while a caret stands, Space and Enter are text.
-            if (TakesKey(static_cast<QKeyEvent&>(*event))) return true;
-            break;
         case QEvent::MouseButtonPress:
             SetToolTip(QString());
             break;
@@ -121,5 +117,5 @@ bool EditWindow::eventFilter(QObject* watched, QEvent* event) {
         default:
             break;
     }
-    return QDialog::eventFilter(watched, event);
+    return TypingWindow::eventFilter(watched, event);
 }

@@ -2,12 +2,10 @@
 #include "windows/editors/frmEditToken.h"
 
 #include "document/basTAVL.h"
-#include "drawing/basDraw.h"
 #include "platform/PictureBox.h"
 #include "platform/WidgetLook.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
-#include "windows/editors/HoldFocusBox.h"
 #include "windows/editors/Redrawing.h"
 #include "windows/pictures/frmBrowse.h"
 #include "windows/pictures/frmImagePosition.h"
@@ -28,7 +26,7 @@ constexpr const char* kIndexProperty = "Tag";
 
 } // namespace
 
-frmEditToken::frmEditToken(QWidget* parent) : QDialog(parent) {
+frmEditToken::frmEditToken(QWidget* parent) : TypingWindow("frmEditToken!", "lblComposing", parent) {
     setObjectName(QStringLiteral("frmEditToken"));
     setWindowTitle(QStringLiteral("Edit Token"));
     BuildControls();
@@ -74,7 +72,7 @@ void frmEditToken::Redraw() try {
     picDest->Refresh();
     // A picture that couldn't be painted has been given up just now.
     ShowInclude(HasImage() ? kImage : kText);
-    txtHoldFocus->SetTyping(m_selection.IsOn(), picDest->geometry());
+    ShowTyping();
     redrawing.ShowMessages();
 } catch (...) {
     ErrTail("frmEditToken!", "Redraw");
@@ -100,13 +98,6 @@ void frmEditToken::SetText(const QString& sText) {
 void frmEditToken::SetImagePath(const QString& sFullPath) {
     UsePicDest();
     m_oToken.SetImagePath(sFullPath);
-}
-
-void frmEditToken::UsePicDest() { basDraw::Draw_SetHdc(&picDest->hDC()); }
-
-void frmEditToken::TakeFocus() {
-    activateWindow();
-    txtHoldFocus->setFocus(Qt::OtherFocusReason);
 }
 
 void frmEditToken::optInclude_Click(int Index) try {

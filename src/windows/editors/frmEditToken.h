@@ -4,26 +4,20 @@
 #include "document/C_Token.h"
 #include "platform/Desktop.h"
 #include "platform/PictureHolder.h"
-#include "windows/editors/TextSelection.h"
-#include "windows/editors/TypedText.h"
-
-#include <QDialog>
+#include "windows/editors/TypingWindow.h"
 
 #include <array>
 
-class HoldFocusBox;
-class PictureBox;
 class QBoxLayout;
 class QGroupBox;
 class QLabel;
 class QPlainTextEdit;
 class QPushButton;
-class TipLabel;
 class QRadioButton;
 
 /// Edits one token: either its text, typed straight onto it, or its picture. Works on a copy that reaches
 /// the game only when the window closes.
-class frmEditToken : public QDialog {
+class frmEditToken : public TypingWindow {
     Q_OBJECT
 public:
     explicit frmEditToken(QWidget* parent = nullptr);
@@ -36,9 +30,8 @@ public:
     /// do that once the window is closed, however it was closed.
     bool SetsAllFonts() const { return m_bSetAllFonts; }
 
-    void Redraw();
-    /// The lines being edited, never fewer than one.
-    QStringList GetTextArray() const { return m_oToken.LinesShown(); }
+    void Redraw() override;
+    QStringList GetTextArray() const override { return m_oToken.LinesShown(); }
     /// The place in the text nearest to a point of the picture, in twips; false outside the text.
     bool WhereIsMouse(float X, float Y, int& iCol, int& iRow);
 
@@ -46,7 +39,7 @@ public:
     void reject() override;
 
 protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    void KeepTyped(const QStringList& sTextLines) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
@@ -67,15 +60,8 @@ private:
     void Connect();
 
     // Keyboard and mouse, in frmEditToken_text.cpp.
-    bool TakesKey(const QKeyEvent& event);
-    void Form_KeyDown(const TypedText::Key& key);
-    void Form_KeyPress(const QString& sText);
-    void StoreTyped(basEditTextArray::KeyResult result, const QStringList& sTextLines);
     bool EnterText(const QString& sText);
     bool MayClearImage();
-    void HoldFocus_Tabbed();
-    void HoldFocus_TabbedOut();
-    void HoldFocus_Composing(const QString& sText);
     void txtToken_Change();
     void picDest_MouseDown(int iButton, int iShift, float X, float Y);
     void picDest_MouseMove(int iButton, int iShift, float X, float Y);
@@ -99,23 +85,16 @@ private:
     void ChooseImage();
     void SetText(const QString& sText);
     void SetImagePath(const QString& sFullPath);
-    void UsePicDest();
-    void TakeFocus();
 
     C_Token m_oToken;
-    TextSelection m_selection;
     bool m_bLoading = false;
-    bool m_bSelecting = false;
     bool m_bSetAllFonts = false;
     /// The folder last browsed; empty at first.
     QString m_sLastFolder;
 
     CommonDialog cdlgFont;
     PictureHolder picScratch;
-    PictureBox* picDest = nullptr;
     QLabel* lblHint = nullptr;
-    TipLabel* lblComposing = nullptr;
-    HoldFocusBox* txtHoldFocus = nullptr;
     QPlainTextEdit* txtToken = nullptr;
     std::array<QRadioButton*, kIncludes> optInclude{};
     QPushButton* cmdBitmap = nullptr;

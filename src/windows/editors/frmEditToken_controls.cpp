@@ -4,7 +4,6 @@
 #include "platform/PictureBox.h"
 #include "platform/WidgetLook.h"
 #include "windows/editors/HoldFocusBox.h"
-#include "windows/editors/TipLabel.h"
 
 #include <QButtonGroup>
 #include <QGroupBox>
@@ -37,10 +36,7 @@ void frmEditToken::BuildControls() {
 }
 
 QBoxLayout* frmEditToken::BuildPicture() {
-    picDest = new PictureBox(this);
-    picDest->setObjectName(QStringLiteral("picDest"));
     picDest->setFixedSize(kSide, kSide);
-    picDest->ScaleMode = ScaleModeKind::Pixels;
     picDest->setMouseTracking(true);
     lblHint = new QLabel(this);
     lblHint->setObjectName(QStringLiteral("lblHint"));
@@ -120,8 +116,6 @@ QBoxLayout* frmEditToken::BuildClosing() {
 }
 
 void frmEditToken::BuildHidden() {
-    txtHoldFocus = new HoldFocusBox(this);
-    txtHoldFocus->installEventFilter(this);
     WidgetLook::SetToolTip(*txtHoldFocus, QStringLiteral("Dummy text area needed to hold the focus"));
     // The keyboard's way goes from the text to the options.
     setTabOrder(txtHoldFocus, optInclude[kImage]);
@@ -132,7 +126,6 @@ void frmEditToken::BuildHidden() {
     txtToken->setFocusPolicy(Qt::NoFocus);
     WidgetLook::SetToolTip(*txtToken, QStringLiteral("Enter or edit text for the token here"));
     txtToken->hide();
-    lblComposing = new TipLabel("lblComposing", this);
 }
 
 void frmEditToken::Connect() {
@@ -140,10 +133,6 @@ void frmEditToken::Connect() {
     connect(picDest, &PictureBox::MouseMove, this, &frmEditToken::picDest_MouseMove);
     connect(picDest, &PictureBox::MouseUp, this, &frmEditToken::picDest_MouseUp);
     connect(picDest, &PictureBox::BackingChanged, this, &frmEditToken::picDest_BackingChanged);
-    connect(txtHoldFocus, &HoldFocusBox::Committed, this, &frmEditToken::Form_KeyPress);
-    connect(txtHoldFocus, &HoldFocusBox::Composing, this, &frmEditToken::HoldFocus_Composing);
-    connect(txtHoldFocus, &HoldFocusBox::TabbedInto, this, &frmEditToken::HoldFocus_Tabbed);
-    connect(txtHoldFocus, &HoldFocusBox::TabbedOutOf, this, &frmEditToken::HoldFocus_TabbedOut);
     connect(txtToken, &QPlainTextEdit::textChanged, this, &frmEditToken::txtToken_Change);
     auto* const options = new QButtonGroup(this);
     for (int i = 0; i < kIncludes; ++i)

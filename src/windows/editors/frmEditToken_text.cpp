@@ -6,41 +6,12 @@
 #include "platform/Screen.h"
 #include "services/basErrLog.h"
 #include "windows/editors/HoldFocusBox.h"
-#include "windows/editors/TipLabel.h"
 
 #include <QKeyEvent>
 #include <QPlainTextEdit>
 
-using basEditTextArray::KeyResult;
-
-bool frmEditToken::TakesKey(const QKeyEvent& event) {
-    const TypedText::Key key = TypedText::KeyOf(event);
-    if (!m_selection.IsOn() || key.kind == TypedText::Key::Kind::None) return false;
-    Form_KeyDown(key);
-    return true;
-}
-
-void frmEditToken::Form_KeyDown(const TypedText::Key& key) try {
-    QStringList sTextLines = GetTextArray();
-    const KeyResult result = TypedText::Take(key, sTextLines, m_selection);
-    StoreTyped(result, sTextLines);
-} catch (...) {
-    ErrTop("frmEditToken!", "Form_KeyDown", key.iKeyCode, key.sText);
-}
-
-void frmEditToken::Form_KeyPress(const QString& sText) try {
-    if (!m_selection.IsOn()) return;
-    QStringList sTextLines = GetTextArray();
-    const KeyResult result = TypedText::Feed(sTextLines, m_selection, sText);
-    StoreTyped(result, sTextLines);
-} catch (...) {
-    ErrTop("frmEditToken!", "Form_KeyPress", sText);
-}
-
-void frmEditToken::StoreTyped(KeyResult result, const QStringList& sTextLines) {
-    if (result == KeyResult::Nothing) return;
-    if (result == KeyResult::TextChanged && !EnterText(TypedText::Joined(sTextLines))) m_selection.Clear();
-    Redraw();
+void frmEditToken::KeepTyped(const QStringList& sTextLines) {
+    if (!EnterText(TypedText::Joined(sTextLines))) m_selection.Clear();
 }
 
 // True when the token shows the text now; false when it keeps its picture, without a text.
@@ -65,27 +36,6 @@ bool frmEditToken::MayClearImage() {
     ShowInclude(kText);
     SetImagePath(QString());
     return true;
-}
-
-// Whoever comes by the keyboard finds the caret behind the text, as there is no click to place it.
-void frmEditToken::HoldFocus_Tabbed() try {
-    const QStringList sTextLines = GetTextArray();
-    m_selection.SetCaret(int(sTextLines.last().size()), int(sTextLines.size()) - 1);
-    Redraw();
-} catch (...) {
-    ErrTop("frmEditToken!", "HoldFocus_Tabbed");
-}
-
-// Space and Enter belong to the button that has the focus now.
-void frmEditToken::HoldFocus_TabbedOut() try {
-    m_selection.Clear();
-    Redraw();
-} catch (...) {
-    ErrTop("frmEditToken!", "HoldFocus_TabbedOut");
-}
-
-void frmEditToken::HoldFocus_Composing(const QString& sText) {
-    lblComposing->ShowUnder(m_selection.IsOn() ? sText : QString(), picDest->geometry().center());
 }
 
 void frmEditToken::txtToken_Change() try {
@@ -142,16 +92,10 @@ void frmEditToken::picDest_BackingChanged() try { Redraw(); } catch (...) {
     ErrTop("frmEditToken!", "picDest_BackingChanged");
 }
 
-// Sees the keys before the control that has the focus: while a caret stands, Space and Enter are text.
-bool frmEditToken::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::KeyPress && TakesKey(static_cast<QKeyEvent&>(*event))) return true;
-    return QDialog::eventFilter(watched, event);
-}
-
 void frmEditToken::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_F1) {
         cmdHelp_Click();
-    } else if (!TakesKey(*event)) {
-        QDialog::keyPressEvent(event);
+    } else {
+        TypingWindow::keyPressEvent(event);
     }
 }

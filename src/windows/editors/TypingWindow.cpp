@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include "windows/editors/TypingWindow.h"
+
+#include "drawing/basDraw.h"
+#include "platform/PictureBox.h"
+#include "services/basErrLog.h"
+#include "windows/editors/HoldFocusBox.h"
+#include "windows/editors/TipLabel.h"
+
+#include <QKeyEvent>
+
+using basEditTextArray::KeyResult;
+
+TypingWindow::TypingWindow(const char* sModule, const char* sTip, QWidget* parent)
+    : QDialog(parent), picDest(new PictureBox(this)), txtHoldFocus(new HoldFocusBox(this)),
+      m_tip(new TipLabel(sTip, this)), m_sModule(sModule) {
+    picDest->setObjectName(QStringLiteral("picDest"));
+    picDest->ScaleMode = ScaleModeKind::Pixels;
+    txtHoldFocus->installEventFilter(this);
+    connect(txtHoldFocus, &HoldFocusBox::Committed, this, &TypingWindow::Form_KeyPress);
+    connect(txtHoldFocus, &HoldFocusBox::Composing, this, &TypingWindow::HoldFocus_Composing);
+    connect(txtHoldFocus, &HoldFocusBox::TabbedInto, this, &TypingWindow::HoldFocus_Tabbed);
+    connect(txtHoldFocus, &HoldFocusBox::TabbedOutOf, this, &TypingWindow::HoldFocus_TabbedOut);
+}
+
+bool TypingWindow::TakesKey(const QKeyEvent& event) {
+    const TypedText::Key key = TypedText::KeyOf(event);
+    if (!m_selection.IsOn() || key.kind == TypedText::Key::Kind::None) return false;
+    Form_KeyDown(key);
+    return true;
+}
+
+void TypingWindow::Form_KeyDown(const TypedText::Key& key) try {
+    QStringList sTextLines = GetTextArray();
+    const KeyResult result = TypedText::Take(key, sTextLines, m_selection);
+    StoreTyped(result, sTextLines);
+} catch (...) {
+    ErrTop(m_sModule, "Form_KeyDown", key.iKeyCode, key.sText);
+}
+
+void TypingWindow::Form_KeyPress(const QString& sText) try {
+    if (!m_selection.IsOn()) return;
+    QStringList sTextLines = GetTextArray();
+    const KeyResult result = TypedText::Feed(sTextLines, m_selection, sText);
+    StoreTyped(result, sTextLines);
+} catch (...) {
+    ErrTop(m_sModule, "Form_KeyPress", sText);
+}
+
+void TypingWindow::StoreTyped(KeyResult result, const QStringList& sTextLines) {
+    if (result == KeyResult::Nothing) return;
+    if (result == KeyResult::TextChanged) KeepTyped(sTextLines);
+    Redraw();
+}
+
+// Whoever comes by the keyboard finds the caret behind the text, as there is no click to place it.
+void TypingWindow::HoldFocus_Tabbed() try {
+    const QStringList sTextLines = GetTextArray();
+    m_selection.SetCaret(int(sTextLines.last().size()), int(sTextLines.size()) - 1);
+    Redraw();
+} catch (...) {
+    ErrTop(m_sModule, "HoldFocus_Tabbed");
+}
+
+// Space and Enter belong to the button that has the focus now.
+void TypingWindow::HoldFocus_TabbedOut() try {
+    m_selection.Clear();
+    Redraw();
+} catch (...) {
+    ErrTop(m_sModule, "HoldFocus_TabbedOut");
+}
+
+void TypingWindow::HoldFocus_Composing(const QString& sText) {
+    m_tip->ShowUnder(m_selection.IsOn() ? sText : QString(), picDest->mapTo(this, picDest->rect().center()));
+}
+
+void TypingWindow::UsePicDest() { basDraw::Draw_SetHdc(&picDest->hDC()); }
+
+void TypingWindow::TakeFocus() {
+    activateWindow();
+    txtHoldFocus->setFocus(Qt::OtherFocusReason);
+}
+
+void TypingWindow::ShowTyping() {
+    txtHoldFocus->SetTyping(m_selection.IsOn(), {picDest->mapTo(this, QPoint(0, 0)), picDest->size()});
+}
+
+// Sees the keys before the control that has the focus: while a caret stands, Space and Enter are text.
+bool TypingWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress && TakesKey(static_cast<QKeyEvent&>(*event))) return true;
+    return QDialog::eventFilter(watched, event);
+}
+
+void TypingWindow::keyPressEvent(QKeyEvent* event) {
+    if (!TakesKey(*event)) QDialog::keyPressEvent(event);
+}

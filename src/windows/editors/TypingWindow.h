@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "windows/editors/TextSelection.h"
+#include "windows/editors/TypedText.h"
+
+#include <QDialog>
+#include <QStringList>
+
+class HoldFocusBox;
+class PictureBox;
+class TipLabel;
+
+/// A window in which one text is typed straight onto a picture of what it stands on. Brings keyboard, input
+/// method, clipboard and Tab key to the text and its caret; what becomes of the text, and how it looks, is for
+/// the editor.
+class TypingWindow : public QDialog {
+    Q_OBJECT
+public:
+    /// The lines being edited, never fewer than one.
+    virtual QStringList GetTextArray() const = 0;
+    virtual void Redraw() = 0;
+
+protected:
+    /// Prefix of the error stack, with "!", and the name of the small floating text.
+    TypingWindow(const char* sModule, const char* sTip, QWidget* parent);
+
+    /// Stores the lines after typing and fits them; the window is redrawn next.
+    virtual void KeepTyped(const QStringList& sTextLines) = 0;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+    /// Points the drawing layer at the picture, as fitting a text measures there.
+    void UsePicDest();
+    /// Brings the focus back to where keys go to the text.
+    void TakeFocus();
+    /// Tells the input method whether and where text can be typed now.
+    void ShowTyping();
+
+    TextSelection m_selection;
+    /// From the left button going down on the text until it is released.
+    bool m_bSelecting = false;
+    PictureBox* const picDest;
+    HoldFocusBox* const txtHoldFocus;
+    TipLabel* const m_tip;
+
+private:
+    bool TakesKey(const QKeyEvent& event);
+    void Form_KeyDown(const TypedText::Key& key);
+    void Form_KeyPress(const QString& sText);
+    void StoreTyped(basEditTextArray::KeyResult result, const QStringList& sTextLines);
+    void HoldFocus_Tabbed();
+    void HoldFocus_TabbedOut();
+    void HoldFocus_Composing(const QString& sText);
+
+    const char* const m_sModule;
+};
