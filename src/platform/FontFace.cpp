@@ -58,7 +58,9 @@ std::mutex& Guard() {
 } // namespace
 
 const FontFace& FontFace::Get(const QString& sFamily, bool bBold, bool bItalic) {
-    static std::array<QHash<QString, std::shared_ptr<const FontFace>>, 4> faces;
+    using Faces = std::array<QHash<QString, std::shared_ptr<const FontFace>>, 4>;
+    // Never taken down: a thread may be measuring while the program ends, and the toolkit's fonts mustn't outlive it.
+    static Faces& faces = *new Faces;
     const std::lock_guard lock(Guard());
     std::shared_ptr<const FontFace>& face = faces[(bBold ? 1U : 0U) + (bItalic ? 2U : 0U)][sFamily];
     if (!face) face.reset(new FontFace(sFamily, bBold, bItalic));
@@ -85,18 +87,15 @@ double FontFace::Advance(const QString& sText) const {
 }
 
 void FontFace::Draw(QPainter& painter, const QString& sText, bool bUnderline) const {
+    // Changed, it no longer shares what the toolkit fills in as it measures, so any thread may draw with it.
     QFont font = m_font;
+    font.setUnderline(bUnderline);
     if (IsDistorted(painter.deviceTransform())) {
         QPainterPath outline;
         outline.addText(0, 0, font, sText);
-        if (bUnderline) {
-            const QFontMetricsF metrics(font);
-            outline.addRect(0, metrics.underlinePos(), Advance(sText), metrics.lineWidth());
-        }
         painter.fillPath(outline, painter.pen().color());
         return;
     }
-    font.setUnderline(bUnderline);
     painter.setFont(font);
     painter.drawText(QPointF(0, 0), sText);
 }

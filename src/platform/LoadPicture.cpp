@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <atomic>
 #include <deque>
+#include <mutex>
 
 namespace {
 
@@ -48,21 +49,45 @@ struct KeptRecording {
     std::shared_ptr<const Recording> recording;
 };
 
-// Those of the sheet at work and of the one before. Main thread only, as all drawing is.
-std::deque<KeptRecording>& KeptRecordings() {
-    static std::deque<KeptRecording> kept;
-    return kept;
-}
-
-void HandOnRecording(const QString& sPath, Picture& picture) {
-    for (const KeptRecording& kept : KeptRecordings()) {
-        if (kept.sPath == sPath && kept.stamp == Files::StampOf(sPath)) picture.SetRecording(kept.recording);
+/// Those of the sheet at work and of the one before. Made on the main thread, and asked for on any.
+class KeptRecordings {
+public:
+    static KeptRecordings& Instance() {
+        static KeptRecordings kept;
+        return kept;
     }
-}
+
+    void Keep(KeptRecording recording) {
+        constexpr size_t kMost = 80;
+        const std::scoped_lock lock(m_mutex);
+        std::erase_if(m_kept, [&](const KeptRecording& kept) { return kept.sPath == recording.sPath; });
+        if (m_kept.size() >= kMost) m_kept.pop_front();
+        m_kept.push_back(std::move(recording));
+    }
+
+    std::shared_ptr<const Recording> Find(const QString& sPath) const {
+        const std::scoped_lock lock(m_mutex);
+        for (const KeptRecording& kept : m_kept) {
+            if (kept.sPath == sPath && kept.stamp == Files::StampOf(sPath)) return kept.recording;
+        }
+        return nullptr;
+    }
+
+    void Clear() {
+        const std::scoped_lock lock(m_mutex);
+        m_kept.clear();
+    }
+
+private:
+    mutable std::mutex m_mutex;
+    std::deque<KeptRecording> m_kept;
+};
 
 // Not the toolkit's pool: painting a picture waits for a turn in that one, and would wait for every photograph
 // queued before it.
 QThreadPool& Decoders() {
+    // Made first, so that it outlives the threads that fill it.
+    PictureCache::Instance();
     static QThreadPool pool;
     return pool;
 }
@@ -92,16 +117,12 @@ Picture LoadPicture(const QString& sPath, QString& sError, int longerSideWanted)
     const PictureCache::Entry entry = PictureCache::Instance().Get(key, Decode);
     sError = entry.sError;
     Picture picture = entry.picture;
-    if (!picture.IsNull()) HandOnRecording(sPath, picture);
+    if (!picture.IsNull()) picture.SetRecording(KeptRecordings::Instance().Find(sPath));
     return picture;
 }
 
 void KeepRecording(const QString& sPath, std::shared_ptr<const Recording> recording) {
-    constexpr size_t kMost = 80;
-    std::deque<KeptRecording>& all = KeptRecordings();
-    std::erase_if(all, [&sPath](const KeptRecording& kept) { return kept.sPath == sPath; });
-    if (all.size() >= kMost) all.pop_front();
-    all.push_back({sPath, Files::StampOf(sPath), std::move(recording)});
+    KeptRecordings::Instance().Keep({sPath, Files::StampOf(sPath), std::move(recording)});
 }
 
 bool PrefetchPicture(const QString& sPath, int longerSideWanted) {
@@ -119,5 +140,5 @@ void ForgetPicture(const QString& sPath) { PictureCache::Instance().Drop(sPath);
 void ForgetPictures() {
     Decoders().waitForDone();
     PictureCache::Instance().Clear();
-    KeptRecordings().clear();
+    KeptRecordings::Instance().Clear();
 }

@@ -36,9 +36,14 @@ PictureCache::Entry PictureCache::Get(const Key& key, Decoder decode) {
         }
         m_slots.push_front({key, {}, false});
     }
-    Entry entry = decode(key);
-    Fulfil(key, entry);
-    return entry;
+    try {
+        Entry entry = decode(key);
+        Fulfil(key, entry);
+        return entry;
+    } catch (...) {
+        Abandon(key);
+        throw;
+    }
 }
 
 bool PictureCache::Holds(const Key& key) {
@@ -70,6 +75,15 @@ void PictureCache::Fulfil(const Key& key, Entry entry) {
                 DropOldest();
             }
         }
+    }
+    m_arrived.notify_all();
+}
+
+void PictureCache::Abandon(const Key& key) {
+    {
+        const std::scoped_lock lock(m_mutex);
+        const auto slot = Find(key);
+        if (slot != m_slots.end() && !slot->ready) m_slots.erase(slot);
     }
     m_arrived.notify_all();
 }

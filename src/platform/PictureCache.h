@@ -38,6 +38,7 @@ public:
     /// Announces that the caller will call Fulfil. False when it is kept or announced already.
     bool Reserve(const Key& key);
     void Fulfil(const Key& key, Entry entry);
+    /// Drops what is kept of a file.
     void Drop(const QString& sPath);
     void Clear();
     qint64 Bytes() const;
@@ -51,6 +52,8 @@ private:
     using Slots = std::list<Slot>;
 
     Slots::iterator Find(const Key& key);
+    /// Takes an announcement back, so that nobody waits for what never comes.
+    void Abandon(const Key& key);
     void DropOldest();
 
     mutable std::mutex m_mutex;

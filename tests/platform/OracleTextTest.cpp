@@ -233,6 +233,22 @@ TEST(Text, AStretchKeepsTheHeight) {
     EXPECT_DOUBLE_EQ(plain->Stretch(), 1.0);
 }
 
+TEST(Text, LettersStretchedFarAreUnderlinedTooBetweenTheWords) {
+    const auto ink = [](bool underline, const QRect& box) {
+        QImage image(480, 60, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        DeviceContext context(image);
+        context.SelectFont(context.CreateFont({QStringLiteral("Arial"), 12, 80, 0, false, false, underline}));
+        context.TextOut(0, 10, QStringLiteral("I  I"));
+        context.Flush();
+        return InkBox(image.copy(box));
+    };
+    // The blanks take the middle of the line.
+    const QRect between(100, 0, 60, 60);
+    EXPECT_TRUE(ink(false, between).isNull());
+    EXPECT_EQ(ink(true, between).width(), between.width());
+}
+
 TEST(Text, OpaqueBackgroundIsTheTextBox) {
     QImage image(300, 200, QImage::Format_RGB32);
     image.fill(Qt::white);

@@ -4,6 +4,7 @@
 #include "platform/Files.h"
 #include "platform/PictureCache.h"
 #include "platform/PictureDecoder.h"
+#include "platform/Recording.h"
 #include "support/PictureFiles.h"
 #include "support/TestFixture.h"
 
@@ -13,7 +14,10 @@
 #include <QElapsedTimer>
 #include <QFile>
 
+#include <atomic>
 #include <memory>
+#include <stdexcept>
+#include <thread>
 
 namespace {
 
@@ -297,6 +301,33 @@ TEST_F(PictureTest, BoundsTheMemoryOfWhatIsKept) {
         EXPECT_FALSE(Load(QStringLiteral("%1.bmp").arg(i), bytes).IsNull());
     EXPECT_LE(PictureCache::Instance().Bytes(), PictureCache::kMaxBytes);
     EXPECT_GT(PictureCache::Instance().Bytes(), PictureCache::kMaxBytes / 2);
+}
+
+TEST_F(PictureTest, RecordingsAreKeptWhileOtherThreadsLoadPictures) {
+    const QString path = WriteFile(QStringLiteral("a.png"), Encoded(Quarters(8, 8), "png"));
+    const auto recording = std::make_shared<Recording>(QSize(8, 8), 96);
+    std::atomic<bool> done = false;
+    std::thread loader([&path, &done] {
+        QString failure;
+        while (!done)
+            LoadPicture(path, failure);
+    });
+    for (int i = 0; i < 20'000; ++i)
+        KeepRecording(PathOf(QStringLiteral("%1.bmp").arg(i % 97)), recording);
+    KeepRecording(path, recording);
+    done = true;
+    loader.join();
+    EXPECT_EQ(LoadPicture(path, error).Recording(), recording);
+}
+
+TEST_F(PictureTest, ADecoderThatFailsUnexpectedlyKeepsNobodyWaiting) {
+    const PictureCache::Key key{QStringLiteral("/nowhere.bmp"), {1, 2}, kAllPixels};
+    PictureCache& cache = PictureCache::Instance();
+    EXPECT_THROW(
+        cache.Get(key, [](const PictureCache::Key&) -> PictureCache::Entry { throw std::runtime_error("broken"); }),
+        std::runtime_error);
+    EXPECT_TRUE(cache.Reserve(key)) << "whoever comes next would wait for ever";
+    cache.Fulfil(key, {});
 }
 
 TEST_F(PictureTest, PrefetchedPicturesAreDecodedOnceAndAreThoseOfTheFile) {
