@@ -8,6 +8,11 @@
 #include <QSaveFile>
 #include <QStandardPaths>
 
+#ifdef Q_OS_UNIX
+#include <fcntl.h>
+#include <unistd.h>
+#endif
+
 namespace Files {
 namespace {
 
@@ -50,6 +55,20 @@ bool Failed(const QFileDevice& file, QString& sError) {
 bool HasTrash() {
     const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
     return !data.isEmpty() && QDir().mkpath(data);
+}
+
+// A file that was renamed stands under its new name after a power cut only when its folder has reached the disk
+// too. Where a folder can't be flushed the file is in place all the same.
+void FlushFolderOf(const QString& sPath) {
+#ifdef Q_OS_UNIX
+    const QString folder = QFileInfo(QFileInfo(sPath).canonicalFilePath()).path();
+    const int handle = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (handle < 0) return;
+    ::fsync(handle);
+    ::close(handle);
+#else
+    Q_UNUSED(sPath)
+#endif
 }
 
 // Renaming over a device would replace the device by a file, and one may be read for ever.
@@ -124,6 +143,10 @@ std::optional<QByteArray> ReadAll(const QString& sPath, QString& sError) {
         return std::nullopt;
     }
     if (!IsPermitted(Operation::Read, sPath, sError)) return std::nullopt;
+    if (file.size() > kMostBytes) {
+        sError = QStringLiteral("The file is too large to be opened");
+        return std::nullopt;
+    }
     QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError) {
         Failed(file, sError);
@@ -163,7 +186,9 @@ bool WholeFile::Commit(QString& sError) {
     }
     // The toolkit's commit doesn't look whether its buffer reached the disk, and on a full one would put an
     // empty file in place of the old one.
-    return (m_file->flush() && m_file->commit()) || Failed(*m_file, sError);
+    if (!m_file->flush() || !m_file->commit()) return Failed(*m_file, sError);
+    FlushFolderOf(m_path);
+    return true;
 }
 
 bool WriteWhole(const QString& sPath, const QByteArray& bytes, QString& sError) {

@@ -52,22 +52,27 @@ bool CanBeReplaced(const QString& sPath, QString& sError);
 /// The path in the spelling that the disk has: the exact name goes first; if just one name in the folder
 /// differs only in case, that one is meant. Unchanged when there is no such file.
 QString InDiskSpelling(const QString& sPath);
+/// In bytes.
 qint64 Size(const QString& sPath);
-/// Seconds since 1970 with milliseconds kept, and the size: enough to tell that a file was changed. -1, -1
-/// when it isn't there.
+/// When a file was changed last and how large it is: enough to tell that it was changed. -1, -1 when it isn't
+/// there.
 struct Stamp {
-    qint64 modifiedMs = -1;
-    qint64 size = -1;
+    qint64 modifiedMs = -1; ///< Milliseconds since 1970.
+    qint64 size = -1;       ///< Bytes.
     friend bool operator==(const Stamp&, const Stamp&) = default;
 };
 Stamp StampOf(const QString& sPath);
+
+/// Twice what the largest picture takes that is ever opened. A longer file is none of ours, and reading it would
+/// take the memory of everything else.
+constexpr qint64 kMostBytes = qint64(1) << 30;
 
 /// The whole file, or nothing and a sentence in sError.
 std::optional<QByteArray> ReadAll(const QString& sPath, QString& sError);
 
 /// Replaces the file by these bytes so that either the old or the new content stands there whole, whatever
-/// happens: written beside, flushed to the disk, then renamed over. In a folder that takes no new file it
-/// is written in place. False and a sentence in sError on failure; the old file then stands.
+/// happens: written beside, flushed to the disk, then renamed over and the folder flushed too. In a folder that takes
+/// no new file it is written in place. False and a sentence in sError on failure; the old file then stands.
 bool WriteWhole(const QString& sPath, const QByteArray& bytes, QString& sError);
 
 /// The same in steps, for a writer that tells at which of its parts the disk failed. What isn't committed is

@@ -45,7 +45,8 @@ QString Read(const QString& sPath, const QString& sSection, const QString& sKey)
 
 bool Write(const QString& sPath, const QString& sSection, const QString& sKey, const QString& sValue) {
     CSimpleIniA ini;
-    Load(ini, sPath);
+    // All other settings would be gone.
+    if (!Load(ini, sPath) && Files::Exists(sPath)) return false;
     ini.SetValue(sSection.toUtf8().constData(), sKey.toUtf8().constData(), OneLine(sValue).toUtf8().constData());
     std::string text;
     if (ini.Save(text) < 0) return false;

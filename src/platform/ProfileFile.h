@@ -13,8 +13,8 @@ constexpr int kMaxValueLength = 2048;
 /// The key's value; empty when the file, the section or the key isn't there or can't be read.
 QString Read(const QString& sPath, const QString& sSection, const QString& sKey);
 
-/// False when the file can't be written; the old file then stands. A value's line breaks become blanks, as
-/// a value is one line.
+/// False when the file can't be written, or can't be read first; the old file then stands. A value's line breaks become
+/// blanks, as a value is one line.
 bool Write(const QString& sPath, const QString& sSection, const QString& sKey, const QString& sValue);
 
 } // namespace ProfileFile

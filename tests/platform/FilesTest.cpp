@@ -39,6 +39,28 @@ TEST_F(FilesTest, AFolderIsNoFileAndSaysSo) {
     EXPECT_FALSE(error.isEmpty());
 }
 
+TEST_F(FilesTest, AFileFarLargerThanAnyOfOursIsRefusedUnread) {
+    const QString path = WriteFile(QStringLiteral("film.bmp"), "BM");
+    // A hole: it takes no room on the disk.
+    ASSERT_TRUE(QFile::resize(path, Files::kMostBytes + 1));
+    QString error;
+    EXPECT_FALSE(Files::ReadAll(path, error));
+    EXPECT_FALSE(error.isEmpty());
+}
+
+TEST_F(FilesTest, AWriteThroughALinkReplacesTheFileAndKeepsTheLink) {
+    ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("elsewhere")));
+    const QString file = WriteFile(QStringLiteral("elsewhere/game.gam"), "old");
+    const QString link = PathOf(QStringLiteral("game.gam"));
+    ASSERT_TRUE(QFile::link(file, link));
+    QString error;
+    EXPECT_TRUE(Files::WriteWhole(link, "new", error)) << qPrintable(error);
+    EXPECT_TRUE(QFileInfo(link).isSymLink());
+    EXPECT_EQ(ReadFile(file), QByteArray("new"));
+    EXPECT_TRUE(Files::Remove(link, error));
+    EXPECT_EQ(ReadFile(file), QByteArray("new")) << "only the link is removed";
+}
+
 TEST_F(FilesTest, TheTrashIsTheUsersAndNeverTheCurrentFolder) {
     const QByteArray before = qgetenv("XDG_DATA_HOME");
     qputenv("XDG_DATA_HOME", PathOf(QStringLiteral("not/yet/there")).toLocal8Bit());

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/ProfileFile.h"
 
+#include "platform/Files.h"
 #include "support/TestFixture.h"
 
 class ProfileFileTest : public TavloraTest {
@@ -44,4 +45,16 @@ TEST_F(ProfileFileTest, AValueCannotSmuggleInASection) {
     const QString path = PathOf(QStringLiteral("tavlora.ini"));
     ASSERT_TRUE(ProfileFile::Write(path, sSection, QStringLiteral("A"), QStringLiteral("x\r\n[evil]\r\nB=1")));
     EXPECT_EQ(ProfileFile::Read(path, QStringLiteral("evil"), QStringLiteral("B")), QString());
+}
+
+TEST_F(ProfileFileTest, SettingsThatCannotBeReadAreNotReplacedByTheOneThatIsWritten) {
+    const QByteArray old = "[tavlora]\r\nGameName=C:\\mine.gam\r\n";
+    const QString path = WriteFile(QStringLiteral("tavlora.ini"), old);
+    Files::SetFaultHook([](Files::Operation operation, const QString&) -> std::optional<QString> {
+        if (operation == Files::Operation::Read) return QStringLiteral("Input/output error");
+        return std::nullopt;
+    });
+    EXPECT_FALSE(ProfileFile::Write(path, sSection, QStringLiteral("ShowSplash"), QStringLiteral("False")));
+    Files::SetFaultHook({});
+    EXPECT_EQ(ReadFile(path), old);
 }
