@@ -29,13 +29,13 @@ double DotsPerInch(const QPainter& painter) {
     return qMax(1, device->logicalDpiX());
 }
 
-// The pixels of a picture under the target; null for any other destination, which can't be read back.
-QImage PixelsUnder(const QPainter& painter, const QRect& target) {
-    if (painter.deviceTransform().type() > QTransform::TxTranslate) return {};
+// The picture that the painter paints on; nullptr for any other destination, which can't be read back.
+const QImage* PictureOf(const QPainter& painter) {
     const QPaintDevice* device = painter.device();
-    if (!device || device->devType() != QInternal::Image) return {};
-    const QImage pixels = static_cast<const QImage*>(device)->copy(target);
-    return pixels.hasAlphaChannel() ? QImage() : pixels.convertToFormat(QImage::Format_RGB32);
+    const bool readable =
+        device && device->devType() == QInternal::Image && painter.deviceTransform().type() <= QTransform::TxTranslate;
+    const auto* picture = readable ? static_cast<const QImage*>(device) : nullptr;
+    return picture && !picture->hasAlphaChannel() ? picture : nullptr;
 }
 
 // What was painted, from one playing on white and one on black: where both agree the picture is opaque,
@@ -85,8 +85,11 @@ struct Playing {
 
 // For orders that combine with what was painted before: plays into a picture and paints that.
 void PlayThroughPicture(const Playing& playing, QPainter& painter, const QRectF& target) {
-    const QRect area = target.toAlignedRect();
-    if (QImage under = PixelsUnder(painter, area); !under.isNull() && under.size() == area.size()) {
+    if (const QImage* picture = PictureOf(painter)) {
+        // No more than the picture has: a target may be many times as large.
+        const QRect area = target.toAlignedRect() & picture->rect();
+        if (area.isEmpty()) return;
+        QImage under = picture->copy(area).convertToFormat(QImage::Format_RGB32);
         playing.Into(under, target.translated(-area.topLeft()));
         painter.drawImage(area, under);
         return;

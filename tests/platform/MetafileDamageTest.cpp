@@ -103,7 +103,7 @@ TEST_F(MetafileDamageTest, RecordsThatAreTooShortAreSafe) {
         QString error;
         QImage picture(10, 10, QImage::Format_RGB32);
         QPainter painter(&picture);
-        Metafile::FromBytes(builder.Plain(), error)->Play(painter, QRectF(0, 0, 10, 10));
+        EXPECT_TRUE(Metafile::FromBytes(builder.Plain(), error)->Play(painter, QRectF(0, 0, 10, 10))) << order;
     }
 }
 
@@ -115,7 +115,9 @@ TEST_F(MetafileDamageTest, FalseCountsOfPointsAreBounded) {
     builder.Add(MetafileOrder::ExtTextOut, {0, 0, 0x7FFF, 0}, "short");
     builder.Add(MetafileOrder::CreateRegion, {0, 6, 0, 0, 0, 0x7FFF, 0, 0, 0, 0, 0, 0x7FFF, 0, 0});
     builder.Add(MetafileOrder::CreatePalette, {0x300, 0x7FFF, 1, 2});
-    Played(builder.Plain(), 100, 100);
+    // The first polygon still has its four true points, and playing goes on behind the last record.
+    builder.Box(MetafileOrder::Rectangle, 0, 0, 2, 2);
+    EXPECT_GT(Ink(Played(builder.Plain(), 100, 100)).width(), 90);
 }
 
 TEST_F(MetafileDamageTest, AWindowWithoutSizeIsPassedOver) {
@@ -124,6 +126,17 @@ TEST_F(MetafileDamageTest, AWindowWithoutSizeIsPassedOver) {
     builder.Add(MetafileOrder::ScaleWindowExt, {0, 0, 0, 0}).Add(MetafileOrder::ScaleViewportExt, {0, 1, 0, 1});
     builder.NullPen().Brush(Blue()).Polygon({{0, 0}, {100, 0}, {100, 100}, {0, 100}});
     EXPECT_EQ(Count(Played(builder.Plain(), 20, 20), kBlue), 400);
+}
+
+TEST_F(MetafileDamageTest, AClipMovedAwayForEverDoesNotComeRoundAgain) {
+    MetafileBuilder builder;
+    builder.Add(MetafileOrder::SetWindowExt, {1, 1}).NullPen().Brush(Blue());
+    builder.Box(MetafileOrder::IntersectClipRect, 0, 0, 1, 1);
+    // 256 pixels a unit: 1024 moves of 16384 units are 2 to the power of 32 pixels.
+    for (int i = 0; i < 1024; ++i)
+        builder.Add(MetafileOrder::OffsetClip, {0, 16384});
+    builder.Polygon({{0, 0}, {1, 0}, {1, 1}, {0, 1}});
+    EXPECT_EQ(Count(Played(builder.Plain(), 256, 256), kWhite), 256 * 256);
 }
 
 TEST_F(MetafileDamageTest, ExtremeCoordinatesAreDrawnWhereTheyAreSeen) {

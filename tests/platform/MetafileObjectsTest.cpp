@@ -35,6 +35,16 @@ TEST_F(MetafileObjectsTest, UnknownKindsTakeASlotToo) {
     EXPECT_EQ(Count(Played(builder.Plain(), 20, 20), kBlue), 400);
 }
 
+TEST_F(MetafileObjectsTest, ObjectsOfOlderSystemsTakeASlotToo) {
+    for (const MetafileOrder order :
+         {MetafileOrder::CreateOldBrush, MetafileOrder::CreateBitmap, MetafileOrder::CreateBitmapIndirect}) {
+        MetafileBuilder builder(20, 20);
+        builder.NullPen().Add(order, {1, 2, 3}).Add(MetafileOrder::CreateBrush, {0, 0, 255, 0});
+        builder.Select(2).Rectangle(0, 0, 21, 21);
+        EXPECT_EQ(Count(Played(builder.Plain(), 20, 20), kBlue), 400) << int(order);
+    }
+}
+
 TEST_F(MetafileObjectsTest, EmptySlotsArePassedOver) {
     MetafileBuilder builder(20, 20);
     builder.NullPen().Brush(Blue()).Select(9).Select(0xFFFF);

@@ -117,6 +117,35 @@ TEST_F(MetafilePlayerTest, ReadsBackWhatLiesUnderTheTarget) {
     EXPECT_EQ(At(Played(builder.Plain(), 20, 20, Qt::green), 10, 10), 0xFFFF00FF);
 }
 
+TEST_F(MetafilePlayerTest, OperationsReadBackAndCoverTheSamePlaceOnADensePicture) {
+    MetafileBuilder builder(10, 10);
+    builder.Add(MetafileOrder::PatBlt, {0x0009, 0x0055, 6, 6, 2, 2});
+    QImage picture(120, 120, QImage::Format_RGB32);
+    picture.setDevicePixelRatio(2);
+    picture.fill(Qt::green);
+    QString error;
+    QPainter painter(&picture);
+    EXPECT_TRUE(Metafile::FromBytes(builder.Plain(), error)->Play(painter, QRectF(10, 10, 50, 50)));
+    painter.end();
+    picture.setDevicePixelRatio(1);
+    EXPECT_EQ(Count(picture, 0xFFFF00FF), 60 * 60);
+    EXPECT_EQ(At(picture, 40, 40), 0xFFFF00FF);
+    EXPECT_EQ(At(picture, 99, 99), 0xFFFF00FF);
+}
+
+TEST_F(MetafilePlayerTest, OperationsIntoATargetFarLargerThanThePictureNeedNoMemoryForAllOfIt) {
+    MetafileBuilder builder(10, 10);
+    builder.NullPen().Brush(Blue()).Add(MetafileOrder::SetRop2, {7}).Polygon({{0, 0}, {5, 0}, {5, 5}, {0, 5}});
+    QImage picture(40, 40, QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    QString error;
+    QPainter painter(&picture);
+    // The middle of the target stands in the middle of the picture.
+    EXPECT_TRUE(Metafile::FromBytes(builder.Plain(), error)->Play(painter, QRectF(-30'000, -30'000, 60'040, 60'040)));
+    painter.end();
+    EXPECT_EQ(Ink(picture), QRect(0, 0, 20, 20));
+}
+
 TEST_F(MetafilePlayerTest, WhereNothingCanBeReadBackAMaskedPictureStillShowsTheGround) {
     // The way icons are drawn: a mask is ANDed, the picture ORed.
     QImage mask(2, 1, QImage::Format_RGB32);

@@ -86,6 +86,16 @@ TEST_F(MetafileTextTest, GivenDistancesStretch) {
     EXPECT_NEAR(Ink(Played(builder.Plain(), 400, 50)).width(), 163, 4);
 }
 
+TEST_F(MetafileTextTest, OfDistancesInPairsTheFirstCounts) {
+    MetafileBuilder builder = Clear(100, 50);
+    builder.Font(20).ExtText(5, 5, "II", MetafileText::kDistancesInPairs, {}, {40, 7, 40, 7});
+    EXPECT_NEAR(Ink(Played(builder.Plain(), 100, 50)).width(), 43, 4);
+    // Only as many as there are letters: these are no pairs.
+    MetafileBuilder tooFew = Clear(100, 50);
+    tooFew.Font(20).ExtText(5, 5, "II", MetafileText::kDistancesInPairs, {}, {40, 40});
+    EXPECT_LT(Ink(Played(tooFew.Plain(), 100, 50)).width(), 20);
+}
+
 TEST_F(MetafileTextTest, AnOpaqueBoxIsFilledAlsoWithoutText) {
     MetafileBuilder builder(60, 60);
     builder.Add(MetafileOrder::SetBkColor, MetafileBuilder::ColorWords(Green()));

@@ -95,9 +95,11 @@ private:
 
     // MetafilePlayer_text.cpp
     void DrawText(const MetafileText& text);
+    void MovePastText(double width);
 
     // MetafilePlayer_bits.cpp
     void DrawBlit(const MetafileBlit& blit);
+    void CombineBlit(const MetafileBlit& blit, const QRect& area, const QImage& source);
     QImage SourceOf(const MetafileBlit& blit);
     void PaintBits(QPainter& painter, const MetafileBlit& blit, const QRect& area, const QImage& image) const;
     QRect TargetOf(const MetafileBlit& blit) const;

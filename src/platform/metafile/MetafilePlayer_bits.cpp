@@ -93,6 +93,12 @@ void MetafilePlayer::DrawBlit(const MetafileBlit& blit) {
         m_canvas.Draw(seen, MetafileRop::kCopyPen, [&](QPainter& painter) { PaintBits(painter, blit, area, source); });
         return;
     }
+    CombineBlit(blit, area, source);
+}
+
+// Source and pattern are laid out as large as what is seen, and combined with what was painted.
+void MetafilePlayer::CombineBlit(const MetafileBlit& blit, const QRect& area, const QImage& source) {
+    const QRect seen = area & m_canvas.Bounds();
     const qint64 pixels = qint64(seen.width()) * seen.height();
     if (!m_canvas.Budget().Spend(pixels * kUnitsPerSourcePixel)) return;
     const auto layer = [&](const MetafileCanvas::DrawFunction& draw) {
@@ -108,10 +114,10 @@ void MetafilePlayer::DrawBlit(const MetafileBlit& blit) {
     if (!source.isNull()) {
         stretched = layer([&](QPainter& painter) { PaintBits(painter, blit, area, source); });
     }
-    if (MetafileRop::UsesPattern(code)) {
+    if (MetafileRop::UsesPattern(blit.Code())) {
         pattern = layer([&](QPainter& painter) { painter.fillRect(seen, MakeBrush(*m_state.brush)); });
     }
-    m_canvas.Combine(seen, code, stretched, pattern);
+    m_canvas.Combine(seen, blit.Code(), stretched, pattern);
 }
 
 void MetafilePlayer::PaintBits(QPainter& painter, const MetafileBlit& blit, const QRect& area,

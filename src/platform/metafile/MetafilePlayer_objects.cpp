@@ -58,6 +58,12 @@ bool MetafilePlayer::ObeyObjects(const MetafileRecord& record) {
         case MetafileOrder::CreateRegion:
             m_objects.Add(std::make_shared<const MetafileRegion>(MetafileRegion::Read(record.parameters)));
             return true;
+        // Of systems before those that the other orders come from; nothing can be drawn with them.
+        case MetafileOrder::CreateOldBrush:
+        case MetafileOrder::CreateBitmap:
+        case MetafileOrder::CreateBitmapIndirect:
+            m_objects.Add(MetafileUnknownObject());
+            return true;
         case MetafileOrder::DibCreatePatternBrush: {
             reader.Skip(2); // Of which kind the brush was; the picture stands here for all kinds.
             const quint16 colourUse = reader.U16();

@@ -5,6 +5,9 @@ namespace {
 
 constexpr int kMostClipRects = 2'000;
 constexpr qint64 kUnitsPerClipRect = 200;
+// Where a clip may be moved to: out of sight of any picture, and far from where whole numbers come round.
+constexpr int kReach = 1 << 26;
+constexpr QRect kReachable(-kReach, -kReach, 2 * kReach, 2 * kReach);
 
 } // namespace
 
@@ -95,8 +98,9 @@ void MetafilePlayer::NarrowClip(const MetafileBox& box, bool exclude) {
 
 void MetafilePlayer::OffsetClip(QPoint by) {
     if (!m_state.clip) return;
-    const QPoint origin = m_state.mapping.ToDevice(QPoint(0, 0));
-    SetClip(m_state.clip->translated(m_state.mapping.ToDevice(by) - origin));
+    const QPoint offset = m_state.mapping.ToDevice(by) - m_state.mapping.ToDevice(QPoint(0, 0));
+    if (!kReachable.contains(m_state.clip->boundingRect().translated(offset))) return;
+    SetClip(m_state.clip->translated(offset));
 }
 
 void MetafilePlayer::FillRegion(const QRegion& region, const MetafileBrush& brush) {

@@ -156,8 +156,13 @@ void MetafilePlayer::DrawText(const MetafileText& text) {
         PaintLine(painter, line, font, m_state.font->strikeOut);
         painter.restore();
     });
-    if (updates && horizontal != kCenter) {
-        const double along = (horizontal == kRight ? -line.width : line.width) / m_state.mapping.ScaleX();
-        m_state.position.rx() += int(qBound(-1e6, std::round(along), 1e6));
-    }
+    if (updates) MovePastText(line.width);
+}
+
+// The current position goes to where the next text is to go on. Width in pixels.
+void MetafilePlayer::MovePastText(double width) {
+    const int horizontal = m_state.textAlign & kHorizontal;
+    if (horizontal == kCenter) return;
+    const double along = (horizontal == kRight ? -width : width) / m_state.mapping.ScaleX();
+    m_state.position.rx() += int(qBound(-1e6, std::round(along), 1e6));
 }

@@ -41,6 +41,20 @@ void ReadStretchedBlit(MetafileReader& reader, bool withPicture, MetafileBlit& b
     blit.target = reader.PointYX();
 }
 
+void ReadUnscaledBlit(MetafileReader& reader, MetafileBlit& blit) {
+    blit.operation = 0x00CC0020;
+    blit.colourUse = reader.U16();
+    // Number of the rows and of the first one: a file holds the whole picture.
+    reader.Skip(4);
+    blit.source = reader.PointYX();
+    blit.targetSize = ReadSizeYX(reader);
+    blit.sourceSize = blit.targetSize;
+    blit.target = reader.PointYX();
+    blit.kind = MetafileBlit::Bits::Dib;
+    blit.fromBottom = true;
+    blit.unscaled = true;
+}
+
 } // namespace
 
 std::optional<MetafileRecord> MetafileRecords::Next() {
@@ -114,9 +128,13 @@ std::optional<MetafileText> MetafileText::ReadExtended(QByteArrayView parameters
     text.text = reader.Bytes(length);
     if (reader.Failed()) return {};
     if (length % 2 != 0) reader.Skip(1);
-    if (length == 0 || reader.Left() < 2 * length) return text;
-    for (int i = 0; i < length; ++i)
+    // Those down the line are passed over: the letters stand on one line.
+    const int step = text.options & kDistancesInPairs ? 4 : 2;
+    if (length == 0 || reader.Left() < step * length) return text;
+    for (int i = 0; i < length; ++i) {
         text.distances.append(reader.S16());
+        reader.Skip(step - 2);
+    }
     return text;
 }
 
@@ -147,17 +165,7 @@ std::optional<MetafileBlit> MetafileBlit::Read(const MetafileRecord& record) {
             blit.fromBottom = true;
             break;
         case MetafileOrder::SetDibToDev:
-            blit.operation = 0x00CC0020;
-            blit.colourUse = reader.U16();
-            // Number of the rows and of the first one: a file holds the whole picture.
-            reader.Skip(4);
-            blit.source = reader.PointYX();
-            blit.targetSize = ReadSizeYX(reader);
-            blit.sourceSize = blit.targetSize;
-            blit.target = reader.PointYX();
-            blit.kind = Bits::Dib;
-            blit.fromBottom = true;
-            blit.unscaled = true;
+            ReadUnscaledBlit(reader, blit);
             break;
         default:
             return {};

@@ -15,6 +15,7 @@ enum class MetafileOrder : quint16 {
     RealizePalette = 0x0035,
     SetPaletteEntries = 0x0037,
     CreatePalette = 0x00F7,
+    CreateOldBrush = 0x00F8,
     SetBkMode = 0x0102,
     SetMapMode = 0x0103,
     SetRop2 = 0x0104,
@@ -51,6 +52,7 @@ enum class MetafileOrder : quint16 {
     CreatePen = 0x02FA,
     CreateFont = 0x02FB,
     CreateBrush = 0x02FC,
+    CreateBitmapIndirect = 0x02FD,
     Polygon = 0x0324,
     Polyline = 0x0325,
     ScaleWindowExt = 0x0410,
@@ -69,6 +71,7 @@ enum class MetafileOrder : quint16 {
     RoundRect = 0x061C,
     PatBlt = 0x061D,
     Escape = 0x0626,
+    CreateBitmap = 0x06FE,
     CreateRegion = 0x06FF,
     Arc = 0x0817,
     Pie = 0x081A,
@@ -130,6 +133,7 @@ struct MetafileText {
     static constexpr quint16 kOpaque = 2;
     static constexpr quint16 kClipped = 4;
     static constexpr quint16 kGlyphIndex = 0x10;
+    static constexpr quint16 kDistancesInPairs = 0x2000; ///< Along the line and across it.
     static std::optional<MetafileText> ReadPlain(QByteArrayView parameters);
     static std::optional<MetafileText> ReadExtended(QByteArrayView parameters);
 };
