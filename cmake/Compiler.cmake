@@ -4,6 +4,9 @@ add_library(tavlora_options INTERFACE)
 
 if(MSVC)
   target_compile_options(tavlora_options INTERFACE /W4 /permissive- /utf-8)
+  if(TAVLORA_WERROR)
+    target_compile_options(tavlora_options INTERFACE /WX)
+  endif()
 else()
   target_compile_options(tavlora_options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wold-style-cast

@@ -1,5 +1,6 @@
 # Installs the build into FOLDER and paints the board of a game that lies elsewhere: its pictures are found in the
 # installed program's own folder, and nowhere else.
+unset(ENV{DESTDIR})
 file(REMOVE_RECURSE ${FOLDER})
 execute_process(COMMAND ${CMAKE_COMMAND} --install ${BUILD} --prefix ${FOLDER} OUTPUT_QUIET RESULT_VARIABLE status)
 if(NOT status EQUAL 0)
