@@ -33,7 +33,7 @@ QHash<QString, Finding>& Findings() {
 // A head that claims more entries than a table can have is taken for a full table.
 int TableSize(const BitmapInfo& info) {
     const quint32 lUsed = info.bmiHeader.biClrUsed;
-    const quint32 lCount = lUsed != 0 ? lUsed : 1U << info.bmiHeader.biBitCount;
+    const quint32 lCount = lUsed != 0 ? lUsed : 1U << std::min<int>(info.bmiHeader.biBitCount, kMaxTableBits);
     return int(std::min<quint32>(lCount, quint32(info.bmiColors.size())));
 }
 

@@ -68,8 +68,6 @@ protected:
     double FromPixels(double pixels) const;
 
 private:
-    FontHandle MakeFont();
-
     double m_fontSize = 8.25;
     Color m_backColor = Color::White();
 };

@@ -29,8 +29,8 @@ Color GetIniColor(const QString& sKey, const QString& sDefault);
 /// A file that can't be written is passed over: settings are never worth a message.
 void WriteIniString(const QString& sKey, const QString& sValue);
 
-/// Eight hexadecimal digits 00RRGGBB. Raises 0x80040002 for anything else; an empty text gives 0. The
-/// argument is consumed.
+/// Hexadecimal digits, eight of them as a rule: 00RRGGBB. Raises 0x80040002 at any other character; an empty
+/// text gives 0. The argument is consumed.
 Color GetColorFromString(QString& sColor);
 Color GetColorFromString(QString&& sColor);
 

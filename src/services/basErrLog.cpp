@@ -64,6 +64,10 @@ QString LookIntoTheLog() {
            QStringLiteral("'. ") + kNewLine + kNewLine;
 }
 
+// The end of the sentence that says whether the user may go on.
+const QString kWithoutThisFeature =
+    QStringLiteral("even though you are apparently unable to use this particular feature at this time. ");
+
 // The sentence that a failure began with, without the routines it has passed since.
 QString BehindStack(const QString& sDescription) {
     const qsizetype end = sDescription.indexOf(kNewLine + kNewLine);
@@ -172,9 +176,7 @@ void ErrReport(quint32 /*lNumber*/, const QString& sDescription, int iCritical) 
             const int answer =
                 tell(QStringLiteral("The following") + head +
                          QStringLiteral("You may be able to continue using the program anyway, ") +
-                         QStringLiteral("even though you are apparently unable to use this particular feature at "
-                                        "this time. ") +
-                         LookIntoTheLog() +
+                         kWithoutThisFeature + LookIntoTheLog() +
                          QStringLiteral("Click 'OK' below if you would like to keep going or 'Cancel' if not. "),
                      vbOKCancel | vbExclamation);
             if (answer != vbOK) Terminate();
@@ -183,9 +185,7 @@ void ErrReport(quint32 /*lNumber*/, const QString& sDescription, int iCritical) 
         }
         case vbInformation:
             tell(QStringLiteral("The following") + head +
-                     QStringLiteral("You can continue using the program anyway, ") +
-                     QStringLiteral("even though you are apparently unable to use this particular feature at "
-                                    "this time. ") +
+                     QStringLiteral("You can continue using the program anyway, ") + kWithoutThisFeature +
                      LookIntoTheLog(),
                  vbInformation);
             GoOn();

@@ -142,6 +142,39 @@ TEST(OracleShapes, LinesRunFromPixelToPixelAsMeasured) {
     EXPECT_GT(compared, 20);
 }
 
+// The rules that the measurements show, for every width of the pen and every small size.
+TEST(Shapes, EveryPenAndSizeKeepsToTheEdgeRules) {
+    constexpr int kLeft = 40;
+    constexpr int kTop = 50;
+    for (const int pen : {-1, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 12, 25}) {
+        for (const int width : {1, 2, 3, 4, 5, 8, 13, 60}) {
+            for (const int height : {1, 2, 3, 7, 41}) {
+                QImage image(160, 160, QImage::Format_RGB32);
+                image.fill(Qt::white);
+                DeviceContext context(image);
+                context.SelectPen(context.CreatePen(pen < 0 ? PenStyle::Null : PenStyle::Solid, pen, kPen));
+                context.SelectBrush(context.CreateSolidBrush(kBrush));
+                // Corners may come in any order.
+                context.Rectangle(kLeft + width, kTop, kLeft, kTop + height);
+                context.Flush();
+                const QRect shape(kLeft, kTop, width, height);
+                const int out = std::max(pen, 1) / 2;
+                const int beyond = std::max(pen - 1, 0) / 2;
+                QRect expected = pen < 0 ? shape.adjusted(0, 0, -1, -1) : shape.adjusted(-out, -out, beyond, beyond);
+                if (pen <= 1 && width == 1 && height == 1) expected = QRect();
+                const Painted painted = Find(image, pen >= 0);
+                const std::string what =
+                    "pen " + std::to_string(pen) + ", " + std::to_string(width) + " by " + std::to_string(height);
+                if (expected.isEmpty()) {
+                    EXPECT_EQ(painted.count, 0) << what;
+                } else {
+                    ExpectBox(painted.box, expected, 0, what);
+                }
+            }
+        }
+    }
+}
+
 TEST(Shapes, StraightEdgesAreCrispAtEveryScale) {
     for (const double ratio : {1.0, 2.0, 3.0}) {
         QImage image(int(80 * ratio), int(80 * ratio), QImage::Format_RGB32);
