@@ -463,6 +463,19 @@ TEST_F(EditSpaceTest, TheHiddenBoxFeedsTheText) {
     });
 }
 
+TEST_F(EditSpaceTest, ASelectionThatAKeyCollapsesIsSeenToBeGone) {
+    Edit([&] {
+        DragPicture({20, 125}, {186, 210});
+        const QImage selected = Shown();
+        // The caret stands at the start of the text already.
+        Press(Qt::Key_Left);
+        EXPECT_NE(Shown(), selected);
+        const QImage caret = Shown();
+        ClickPicture(20, 70);
+        EXPECT_EQ(Shown(), caret);
+    });
+}
+
 TEST_F(EditSpaceTest, AMissingPictureIsToldOnceAndTheEditorGoesOn) {
     const QString path = MakePicture(QStringLiteral("gone.bmp"));
     GivePicture(path);

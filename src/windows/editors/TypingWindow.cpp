@@ -31,24 +31,27 @@ bool TypingWindow::TakesKey(const QKeyEvent& event) {
 }
 
 void TypingWindow::Form_KeyDown(const TypedText::Key& key) try {
+    const TextSelection before = m_selection;
     QStringList sTextLines = GetTextArray();
     const KeyResult result = TypedText::Take(key, sTextLines, m_selection);
-    StoreTyped(result, sTextLines);
+    StoreTyped(result, sTextLines, before);
 } catch (...) {
     ErrTop(m_sModule, "Form_KeyDown", key.iKeyCode, key.sText);
 }
 
 void TypingWindow::Form_KeyPress(const QString& sText) try {
     if (!m_selection.IsOn()) return;
+    const TextSelection before = m_selection;
     QStringList sTextLines = GetTextArray();
     const KeyResult result = TypedText::Feed(sTextLines, m_selection, sText);
-    StoreTyped(result, sTextLines);
+    StoreTyped(result, sTextLines, before);
 } catch (...) {
     ErrTop(m_sModule, "Form_KeyPress", sText);
 }
 
-void TypingWindow::StoreTyped(KeyResult result, const QStringList& sTextLines) {
-    if (result == KeyResult::Nothing) return;
+void TypingWindow::StoreTyped(KeyResult result, const QStringList& sTextLines, const TextSelection& before) {
+    // A key that did nothing to the text may still have collapsed the selection.
+    if (result == KeyResult::Nothing && m_selection == before) return;
     if (result == KeyResult::TextChanged) KeepTyped(sTextLines);
     Redraw();
 }

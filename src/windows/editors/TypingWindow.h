@@ -49,7 +49,7 @@ private:
     bool TakesKey(const QKeyEvent& event);
     void Form_KeyDown(const TypedText::Key& key);
     void Form_KeyPress(const QString& sText);
-    void StoreTyped(basEditTextArray::KeyResult result, const QStringList& sTextLines);
+    void StoreTyped(basEditTextArray::KeyResult result, const QStringList& sTextLines, const TextSelection& before);
     void HoldFocus_Tabbed();
     void HoldFocus_TabbedOut();
     void HoldFocus_Composing(const QString& sText);
