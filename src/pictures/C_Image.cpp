@@ -90,6 +90,10 @@ void C_Image::SetBadPath(const QString& sError) try {
     ErrTail("C_Image!", "SetBadPath", sError);
 }
 
+void C_Image::TakeBadPath(const QString& sTold) {
+    if (sTold == m_sFullPath) m_sBadPath = sTold;
+}
+
 void C_Image::Let_FullPath(const QString& sNewPath) try {
     if (sNewPath == m_sFullPath) return;
     m_sFullPath = sNewPath;

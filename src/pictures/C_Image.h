@@ -71,6 +71,8 @@ public:
     void Let_BadPath(const QString& sNewBadPath);
     /// As Let_BadPath, with the reason; silent when the current path was told before.
     void SetBadPath(const QString& sError);
+    /// Somebody else has told that a path is bad: if it is this image's own, it isn't told again.
+    void TakeBadPath(const QString& sTold);
 
     /// Absolute path of the picture; empty for none.
     QString FullPath() const { return m_sFullPath; }

@@ -187,6 +187,53 @@ TEST_F(BrowseTest, ADamagedPictureIsToldOnceAndTheDialogStays) {
     EXPECT_EQ(desktop.boxes.size(), 1);
 }
 
+TEST_F(BrowseTest, AGoodPictureBehindADamagedOneIsShownWithoutABox) {
+    WriteFile(QStringLiteral("bad.jpg"), QByteArray("no picture at all"));
+    Picture(QStringLiteral("good.bmp"));
+    Picture(QStringLiteral("other.bmp"));
+    Browse(QString(), [this](QWidget& window) {
+        ClickFile(window, QStringLiteral("bad.jpg"));
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !desktop.boxes.isEmpty(); }, kArrivalMs));
+        for (const char* const name : {"good.bmp", "other.bmp"}) {
+            Find<PictureBox>(window, "picBitMapArea").Cls();
+            ClickFile(window, QString::fromLatin1(name));
+            EXPECT_TRUE(QTest::qWaitFor([&] { return ColorAt(window, 20, 20) == Color::Rgb(255, 0, 0); }, kArrivalMs));
+        }
+        Click(window, "cmdCancel");
+    });
+    EXPECT_EQ(desktop.boxes.size(), 1);
+}
+
+TEST_F(BrowseTest, AFolderIsNoPictureEvenOnAScreenOfOtherDots) {
+    Browse(QString(), [this](QWidget& window) {
+        OpenFolder(window, QStringLiteral("stick"));
+        PictureBox::PretendPixelRatio(2);
+        auto& preview = Find<PictureBox>(window, "picBitMapArea");
+        preview.resize(preview.size() + QSize(1, 1));
+        Q_EMIT preview.BackingChanged();
+        PictureBox::PretendPixelRatio(0);
+        EXPECT_TRUE(desktop.boxes.isEmpty());
+        Click(window, "cmdCancel");
+    });
+}
+
+TEST_F(BrowseTest, WhatOnlyClaimsToBeABitmapLeavesTheListAndCantBeChosen) {
+    const QString path =
+        WriteFile(QStringLiteral("false.bmp"), PictureFiles::Encoded(PictureFiles::Quarters(40, 40), "png"));
+    Browse(QString(), [this](QWidget& window) {
+        ClickFile(window, QStringLiteral("false.bmp"));
+        EXPECT_TRUE(
+            QTest::qWaitFor([&] { return !FilesIn(window).contains(QStringLiteral("false.bmp")); }, kArrivalMs));
+        EXPECT_EQ(desktop.boxes.size(), 1);
+        Click(window, "cmdOK");
+        EXPECT_TRUE(window.isVisible());
+        EXPECT_EQ(desktop.Texts().last(), QStringLiteral("Please select a file before clicking OK"));
+        Click(window, "cmdCancel");
+    });
+    EXPECT_FALSE(QFile::exists(path));
+    EXPECT_EQ(desktop.boxes.size(), 2);
+}
+
 TEST_F(BrowseTest, OkWithoutAFileAsksForOne) {
     Browse(QString(), [this](QWidget& window) {
         Click(window, "cmdOK");

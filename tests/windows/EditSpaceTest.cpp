@@ -463,6 +463,29 @@ TEST_F(EditSpaceTest, TheHiddenBoxFeedsTheText) {
     });
 }
 
+TEST_F(EditSpaceTest, ADamagedPictureIsToldByTheBrowserAndByNobodyElse) {
+    const QString path = MakePicture(QStringLiteral("damaged.bmp"));
+    EXPECT_TRUE(QFile::resize(path, 2000));
+    Edit([&] {
+        InBrowser([&](frmBrowse& browser) { Choose(browser, QStringLiteral("damaged.bmp")); });
+        Click("chkIncludeImage");
+        EXPECT_EQ(browsersSeen, 1);
+        EXPECT_EQ(desktop.boxes.size(), 1);
+        // The picture is selected in the browser when that comes up again.
+        InBrowser([&](frmBrowse& browser) { Cancel(browser); });
+        Click("cmdBitmap");
+        EXPECT_EQ(browsersSeen, 2);
+        Click("cmdOK");
+    });
+    EXPECT_EQ(Space().Image.FullPath(), path);
+    Edit([&] {
+        InBrowser([&](frmBrowse& browser) { Cancel(browser); });
+        Click("cmdBitmap");
+    });
+    EXPECT_EQ(browsersSeen, 3);
+    EXPECT_EQ(desktop.boxes.size(), 1);
+}
+
 TEST_F(EditSpaceTest, ASelectionThatAKeyCollapsesIsSeenToBeGone) {
     Edit([&] {
         DragPicture({20, 125}, {186, 210});

@@ -276,6 +276,7 @@ TEST_F(ImagePositionTest, AnUnreadablePictureIsToldAndAnotherIsOfferedAtOnce) {
     EXPECT_TRUE(desktop.Texts().front().startsWith(
         QStringLiteral("The file named '") + bad +
         QStringLiteral("' could not be loaded.\r\nThe following error was reported:\r\n")));
+    EXPECT_EQ(desktop.boxes.size(), 1) << "the browser shows the same picture first";
 }
 
 TEST_F(ImagePositionTest, Edge_MovingTheSliderToTheBottomShrinksThePictureToHalfTheBox) {

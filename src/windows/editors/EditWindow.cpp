@@ -115,9 +115,10 @@ void EditWindow::cmdSetAllFonts_Click() try {
 void EditWindow::cmdBitmap_Click() try {
     if (m_bLoading) return;
     const QString before = m_likeness.Image().FullPath();
-    const QString path = fraBitmap->AskForPicture(before);
+    const QString path = fraBitmap->AskForPicture(m_likeness.Image());
     if (path != before) {
         SetImagePath(path);
+        m_likeness.Image().TakeBadPath(fraBitmap->ToldPath());
         Redraw();
     } else if (path.isEmpty()) {
         chkIncludeImage->setChecked(false);

@@ -42,11 +42,14 @@ ImageGroup::ImageGroup(const QString& sTitle, const QString& sCropCaption, QWidg
         layout->addWidget(widget);
 }
 
-QString ImageGroup::AskForPicture(const QString& sBefore) {
+QString ImageGroup::AskForPicture(const C_Image& image) {
+    const QString before = image.FullPath();
     if (m_sLastFolder.isEmpty()) m_sLastFolder = basCommon::GetMyGamesDirectory();
     frmBrowse browser(window());
-    const QString path = browser.ShowForm(sBefore, true, m_sLastFolder);
-    if (path != sBefore) m_sLastFolder = frmBrowse::LastFolder();
+    browser.SetToldPath(image.BadPath());
+    const QString path = browser.ShowForm(before, true, m_sLastFolder);
+    m_sToldPath = browser.ToldPath();
+    if (path != before) m_sLastFolder = frmBrowse::LastFolder();
     return path;
 }
 

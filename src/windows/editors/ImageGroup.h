@@ -23,9 +23,11 @@ public:
     QLabel* const lblImageFile;
     ElidedLabel* const txtBitmapPath;
 
-    /// Lets the user browse for a picture and gives its path: sBefore when that is cancelled. The folder it was
-    /// found in is where the next browsing starts.
-    QString AskForPicture(const QString& sBefore);
+    /// Lets the user browse for another picture than this one and gives its path: the same when that is
+    /// cancelled. The folder it was found in is where the next browsing starts.
+    QString AskForPicture(const C_Image& image);
+    /// The picture that was told to be bad while browsing, so that the editor needn't tell it again.
+    const QString& ToldPath() const { return m_sToldPath; }
     /// Lets the user move and zoom the picture behind a box of the given shape; of a metafile only tells that
     /// this can't be.
     void AskForPosition(C_Image& image, double dblHeightToWidth);
@@ -41,4 +43,5 @@ protected:
 private:
     /// The folder last browsed; empty at first.
     QString m_sLastFolder;
+    QString m_sToldPath;
 };

@@ -149,9 +149,10 @@ void frmEditMoney::chkIncludeImage_Click() try {
 
 void frmEditMoney::cmdBitmap_Click() try {
     const QString before = FaceImage().FullPath();
-    const QString path = fraBitmap->AskForPicture(before);
+    const QString path = fraBitmap->AskForPicture(FaceImage());
     if (path != before) {
         FaceImage().Let_FullPath(path);
+        FaceImage().TakeBadPath(fraBitmap->ToldPath());
         ShowImagePath();
         RedrawMoney();
     } else if (path.isEmpty() && chkIncludeImage->isChecked()) {

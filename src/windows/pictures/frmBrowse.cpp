@@ -290,20 +290,37 @@ void frmBrowse::Redraw() try {
     picBitMapArea->ScaleMode = ScaleModeKind::Pixels;
     const int lW = picBitMapArea->width();
     const int lH = picBitMapArea->height();
-    if (!m_sFilePath.isEmpty()) {
-        if (basBMP::IsWMF(m_sFilePath)) {
-            basBMP::BMP_DrawWMF(picBitMapArea->hDC(), m_sFilePath, m_sBadPath, kMetafileMargin, kMetafileMargin,
-                                lW - kMetafileFree, lH - kMetafileFree);
-        } else {
-            if (!m_oPreview) m_oPreview = std::make_unique<C_Image>();
-            m_oPreview->Init(m_sFilePath, QStringLiteral("Space"), 0);
-            m_oPreview->PaintPictureCentered(*picBitMapArea, 0, 0, lW, lH, Color::None());
-        }
-    }
+    if (!m_sFilePath.isEmpty() && m_sFilePath != m_sFolder) PaintPreview(lW, lH);
     picBitMapArea->ScaleMode = ScaleModeKind::Twips;
     picBitMapArea->Refresh();
 } catch (...) {
     ErrTop("frmBrowse!", "Redraw");
+}
+
+void frmBrowse::PaintPreview(int lW, int lH) {
+    if (basBMP::IsWMF(m_sFilePath)) {
+        basBMP::BMP_DrawWMF(picBitMapArea->hDC(), m_sFilePath, m_sBadPath, kMetafileMargin, kMetafileMargin,
+                            lW - kMetafileFree, lH - kMetafileFree);
+        return;
+    }
+    if (!m_oPreview || m_oPreview->FullPath() != m_sFilePath) {
+        m_oPreview = std::make_unique<C_Image>();
+        m_oPreview->Init(m_sFilePath, QStringLiteral("Space"), 0);
+        m_oPreview->TakeBadPath(m_sToldPath);
+    }
+    m_oPreview->PaintPictureCentered(*picBitMapArea, 0, 0, lW, lH, Color::None());
+    if (m_oPreview->BadPath() == m_sFilePath) m_sToldPath = m_sFilePath;
+    // Later: the list may be in the middle of a click.
+    if (!basCommon::DoesFileExist(m_sFilePath))
+        QMetaObject::invokeMethod(this, &frmBrowse::Preview_Vanished, Qt::QueuedConnection);
+}
+
+// What only claims to be a bitmap is thrown away when it is looked at, and can't be chosen any more.
+void frmBrowse::Preview_Vanished() try {
+    FillFiles();
+    filList_Click();
+} catch (...) {
+    ErrTop("frmBrowse!", "Preview_Vanished");
 }
 
 void frmBrowse::cmdOK_Click() try {

@@ -34,6 +34,11 @@ public:
     /// with bAllowWMF only.
     QString ShowForm(const QString& sFilePath, bool bAllowWMF, const QString& sStartFolder = QString());
 
+    /// The picture last told to be bad: by the caller before ShowForm, or here. The preview doesn't tell it again,
+    /// and whoever shows the picture chosen needn't either.
+    const QString& ToldPath() const { return m_sToldPath; }
+    void SetToldPath(const QString& sFilePath) { m_sToldPath = sFilePath; }
+
     /// Folder that the last picture of this run was taken from; empty before the first.
     static QString LastFolder();
     /// For tests: as at the start of a run.
@@ -66,6 +71,7 @@ private:
     void ShowFilePath(const QString& sFilePath);
     /// Number of the selected file; -1 for none.
     int ListIndex() const;
+    void PaintPreview(int lW, int lH);
     /// Draws the preview now, or when its picture has been read.
     void AskForPreview();
     void Redraw();
@@ -85,6 +91,7 @@ private:
     void cmdOK_Click();
     void cmdCancel_Click();
     void Preview_Arrived(const QString& sPath);
+    void Preview_Vanished();
 
     QComboBox* drvList = nullptr;
     QTreeWidget* dirList = nullptr;
@@ -104,6 +111,8 @@ private:
     QString m_sOriginalPath;
     QString m_sFilePath;
     QString m_sBadPath;
+    QString m_sToldPath;
     bool m_bOK = false;
+    /// Made anew for each picture: what was told of one is no matter of the next.
     std::unique_ptr<C_Image> m_oPreview;
 };

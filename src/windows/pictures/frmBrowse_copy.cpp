@@ -35,6 +35,8 @@ bool frmBrowse::CopyFileToRoot() try {
         TellCopyFailure(target, error);
         return false;
     }
+    // The copy of a picture told to be bad is as bad.
+    if (m_sToldPath == m_sFilePath) m_sToldPath = target;
     ShowFilePath(target);
     TellCopy(name, iCopy > 0);
     return true;

@@ -86,6 +86,8 @@ private:
     PicturePyramid m_inMotion;
     C_Image m_oImage;
     C_Image* m_oMaster = nullptr;
+    /// The picture last told to be unreadable.
+    QString m_sToldPath;
     bool m_bRound = false;
     bool m_bLoaded = false;
     bool m_bBusy = false;
