@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace {
 
@@ -32,6 +33,12 @@ Picture Recolored(const QString& sPath, Color lBackColor) {
 double Magnification(int iZoom) {
     constexpr double kStepsPerDoubling = 10;
     return std::pow(2.0, iZoom / kStepsPerDoubling);
+}
+
+// The middle of a side of a picture, or the last place that a centre can hold where the side is longer than that.
+float MiddleOf(int side) {
+    constexpr double kLast = std::numeric_limits<qint16>::max();
+    return float(std::min(side / 2.0, kLast));
 }
 
 int LongerSide(Surface& surface, double width, double height) {
@@ -150,8 +157,8 @@ bool C_Image::PaintPictureZoomed(Surface& objDest, PictureHolder& picOriginal, S
     const int lW = CLng(picOriginal.Width(ScaleMode) / perPixel);
     const int lH = CLng(picOriginal.Height(ScaleMode) / perPixel);
     if (m_fXCenter == 0 && m_fYCenter == 0) {
-        Let_XCenter(float(lW / 2.0));
-        Let_YCenter(float(lH / 2.0));
+        Let_XCenter(MiddleOf(lW));
+        Let_YCenter(MiddleOf(lH));
     }
     try {
         PaintPart(objDest, picOriginal.Picture, xStart, yStart, xEnd, yEnd, lBackColor);

@@ -120,6 +120,15 @@ TEST_F(C_ImagePaintTest, LineDrawingTakesAPaperColourWithRedAndBlueExchanged) {
     EXPECT_TRUE(Files::Exists(PathOf(QStringLiteral("TempImage.bmp"))));
 }
 
+TEST_F(C_ImagePaintTest, APictureWiderThanACentreReachesIsPaintedAllTheSame) {
+    C_Image image;
+    image.Let_FullPath(Photo(QStringLiteral("wide.png"), 70000, 4));
+    EXPECT_TRUE(Zoomed(image));
+    EXPECT_EQ(image.XCenter(), 32767);
+    EXPECT_EQ(image.YCenter(), 2);
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+}
+
 TEST_F(C_ImagePaintTest, ZoomedLineDrawingStaysTransparentWhateverThePaperColour) {
     C_Image image;
     image.Let_FullPath(LineDrawing(QStringLiteral("art.bmp")));
