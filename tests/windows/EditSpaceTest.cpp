@@ -464,26 +464,41 @@ TEST_F(EditSpaceTest, TheHiddenBoxFeedsTheText) {
 }
 
 TEST_F(EditSpaceTest, ADamagedPictureIsToldByTheBrowserAndByNobodyElse) {
-    const QString path = MakePicture(QStringLiteral("damaged.bmp"));
-    EXPECT_TRUE(QFile::resize(path, 2000));
-    Edit([&] {
-        InBrowser([&](frmBrowse& browser) { Choose(browser, QStringLiteral("damaged.bmp")); });
-        Click("chkIncludeImage");
-        EXPECT_EQ(browsersSeen, 1);
+    const QString bitmap = MakePicture(QStringLiteral("damaged.bmp"));
+    const QString metafile = MakeMetafile(QStringLiteral("damaged.wmf"));
+    EXPECT_TRUE(QFile::resize(bitmap, 2000));
+    EXPECT_TRUE(QFile::resize(metafile, 10));
+    for (const QString& path : {bitmap, metafile}) {
+        SCOPED_TRACE(path.toStdString());
+        desktop.boxes.clear();
+        GivePicture(QString());
+        Edit([&] {
+            InBrowser([&](frmBrowse& browser) { Choose(browser, QFileInfo(path).fileName()); });
+            Click("chkIncludeImage");
+            // It is selected in the browser when that comes up again.
+            InBrowser([&](frmBrowse& browser) { Cancel(browser); });
+            Click("cmdBitmap");
+            Click("cmdOK");
+        });
+        EXPECT_EQ(Space().Image.FullPath(), path);
+        EXPECT_EQ(Space().Image.BadPath(), path) << "so that the board doesn't tell it";
+        Edit([&] {
+            InBrowser([&](frmBrowse& browser) { Cancel(browser); });
+            Click("cmdBitmap");
+        });
         EXPECT_EQ(desktop.boxes.size(), 1);
-        // The picture is selected in the browser when that comes up again.
-        InBrowser([&](frmBrowse& browser) { Cancel(browser); });
-        Click("cmdBitmap");
-        EXPECT_EQ(browsersSeen, 2);
-        Click("cmdOK");
-    });
-    EXPECT_EQ(Space().Image.FullPath(), path);
+    }
+    EXPECT_EQ(browsersSeen, 6);
+}
+
+TEST_F(EditSpaceTest, TheTipOfTheTextHidesNoLetterOfIt) {
     Edit([&] {
-        InBrowser([&](frmBrowse& browser) { Cancel(browser); });
-        Click("cmdBitmap");
+        MovePicture(kBelowPicture.x(), kBelowPicture.y());
+        const auto* tip = Find<QLabel>("txtToolTip");
+        const auto* picture = Find<PictureBox>("picDest");
+        EXPECT_GE(tip->y(), picture->mapTo(window, QPoint(0, 63 + 210)).y());
+        EXPECT_NEAR(tip->geometry().center().x(), picture->mapTo(window, QPoint(103, 0)).x(), 1);
     });
-    EXPECT_EQ(browsersSeen, 3);
-    EXPECT_EQ(desktop.boxes.size(), 1);
 }
 
 TEST_F(EditSpaceTest, ASelectionThatAKeyCollapsesIsSeenToBeGone) {

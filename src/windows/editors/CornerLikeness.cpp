@@ -39,7 +39,6 @@ void CornerLikeness::TakeBack() {
     // a change.
     oCorner = C_Corner();
     oCorner.LoadFromObject(basTAVL::g_oCorners(m_iCorner));
-    ForgetBadPath();
 }
 
 void CornerLikeness::StoreInGame() {

@@ -118,7 +118,7 @@ void EditWindow::cmdBitmap_Click() try {
     const QString path = fraBitmap->AskForPicture(m_likeness.Image());
     if (path != before) {
         SetImagePath(path);
-        m_likeness.Image().TakeBadPath(fraBitmap->ToldPath());
+        m_likeness.Image().TakeBadPath(fraBitmap->BadPath());
         Redraw();
     } else if (path.isEmpty()) {
         chkIncludeImage->setChecked(false);

@@ -73,13 +73,14 @@ void EditWindow::picDest_BackingChanged() try { Redraw(); } catch (...) {
 }
 
 void EditWindow::ShowSpotTip(const Likeness::Spot& spot, QPoint at) {
-    const QPoint place = picDest->mapTo(this, at) + QPoint(0, kBelowPointer);
     if (spot.bInImage) {
         picDest->setCursor(Qt::UpArrowCursor);
-        SetToolTip(TwoLines("Click on Image", m_wording.sImageTip), place);
+        SetToolTip(TwoLines("Click on Image", m_wording.sImageTip),
+                   picDest->mapTo(this, at + QPoint(0, kBelowPointer)));
     } else if (spot.bInText) {
         picDest->setCursor(Qt::IBeamCursor);
-        SetToolTip(TwoLines("Click on Text", "to Edit"), place);
+        // Beside the text: under the pointer it would hide the letter that is aimed at.
+        m_tip->ShowUnder(TwoLines("Click on Text", "to Edit"), picDest->mapTo(this, m_likeness.BelowText()));
     } else {
         picDest->unsetCursor();
         SetToolTip(QString());

@@ -46,9 +46,9 @@ QString ImageGroup::AskForPicture(const C_Image& image) {
     const QString before = image.FullPath();
     if (m_sLastFolder.isEmpty()) m_sLastFolder = basCommon::GetMyGamesDirectory();
     frmBrowse browser(window());
-    browser.SetToldPath(image.BadPath());
+    browser.SetBadPath(image.BadPath());
     const QString path = browser.ShowForm(before, true, m_sLastFolder);
-    m_sToldPath = browser.ToldPath();
+    m_sBadPath = browser.BadPath();
     if (path != before) m_sLastFolder = frmBrowse::LastFolder();
     return path;
 }

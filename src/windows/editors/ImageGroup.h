@@ -27,7 +27,7 @@ public:
     /// cancelled. The folder it was found in is where the next browsing starts.
     QString AskForPicture(const C_Image& image);
     /// The picture that was told to be bad while browsing, so that the editor needn't tell it again.
-    const QString& ToldPath() const { return m_sToldPath; }
+    const QString& BadPath() const { return m_sBadPath; }
     /// Lets the user move and zoom the picture behind a box of the given shape; of a metafile only tells that
     /// this can't be.
     void AskForPosition(C_Image& image, double dblHeightToWidth);
@@ -43,5 +43,5 @@ protected:
 private:
     /// The folder last browsed; empty at first.
     QString m_sLastFolder;
-    QString m_sToldPath;
+    QString m_sBadPath;
 };

@@ -40,13 +40,16 @@ bool IsBetween(int value, int first, int last) { return value >= first && value 
 
 bool Likeness::HasImage() { return !Image().FullPath().isEmpty(); }
 
-void Likeness::ForgetBadPath() { m_vBadPath = Image().BadPath(); }
-
 QStringList Likeness::GetTextArray() const try {
     const QStringList lines = LinesInUse();
     return lines.isEmpty() ? QStringList{QString()} : lines;
 } catch (...) {
     ErrTail("Likeness!", "GetTextArray");
+}
+
+QPoint Likeness::BelowText() {
+    const TextBox box = TextPlace();
+    return {box.iCentre, box.iTop + box.iHeight};
 }
 
 int Likeness::TopOfText() {
@@ -90,7 +93,9 @@ void Likeness::DrawImage(Surface& picDest, PictureHolder& picScratch) {
     C_Image& image = Image();
     const QRect box = ImagePlace();
     if (image.IsWMF()) {
-        basBMP::BMP_DrawWMF(picDest.hDC(), image.FullPath(), m_vBadPath, box.x(), box.y(), box.width(), box.height());
+        QString badPath = image.BadPath();
+        basBMP::BMP_DrawWMF(picDest.hDC(), image.FullPath(), badPath, box.x(), box.y(), box.width(), box.height());
+        image.TakeBadPath(badPath);
         return;
     }
     const bool wasCentered = image.IsCentered();

@@ -3,6 +3,7 @@
 
 #include "windows/editors/TextSelection.h"
 
+#include <QPoint>
 #include <QRect>
 #include <QSize>
 #include <QStringList>
@@ -60,6 +61,8 @@ public:
 
     /// Lines of the text, never fewer than one.
     QStringList GetTextArray() const;
+    /// The middle of the lower edge of the text's place.
+    QPoint BelowText();
     Spot WhereIsMouse(Surface& picDest, double X, double Y);
     /// Paints all of it. A picture without a centre gets one, in the game's record too, so that looking at a
     /// picture never counts as a change.
@@ -78,15 +81,10 @@ protected:
     virtual C_Image& ImageInGame() = 0;
 
     bool HasImage();
-    /// A new record is being edited.
-    void ForgetBadPath();
 
 private:
     int TopOfText();
     void UseTextFont();
     void DrawText(const TextSelection& selection);
     void DrawImage(Surface& picDest, PictureHolder& picScratch);
-
-    /// The metafile last told to be bad, so that it isn't told at each redraw.
-    QString m_vBadPath;
 };

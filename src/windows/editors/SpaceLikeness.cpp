@@ -39,7 +39,6 @@ void SpaceLikeness::LoadFromGame(int iIndex) {
 void SpaceLikeness::TakeBack() {
     oSpace = C_Space();
     oSpace.LoadFromObject(basTAVL::g_oSpaces(m_iSpace));
-    ForgetBadPath();
 }
 
 void SpaceLikeness::StoreInGame() { basTAVL::g_oSpaces(m_iSpace).LoadFromObject(oSpace); }

@@ -152,7 +152,7 @@ void frmEditMoney::cmdBitmap_Click() try {
     const QString path = fraBitmap->AskForPicture(FaceImage());
     if (path != before) {
         FaceImage().Let_FullPath(path);
-        FaceImage().TakeBadPath(fraBitmap->ToldPath());
+        FaceImage().TakeBadPath(fraBitmap->BadPath());
         ShowImagePath();
         RedrawMoney();
     } else if (path.isEmpty() && chkIncludeImage->isChecked()) {

@@ -146,7 +146,7 @@ void frmEditToken::ChooseImage() {
     if (path == before) return;
     m_sLastFolder = frmBrowse::LastFolder();
     SetImagePath(path);
-    m_oToken.Image.TakeBadPath(browser.ToldPath());
+    m_oToken.Image.TakeBadPath(browser.BadPath());
 }
 
 void frmEditToken::cmdCropImage_Click() try {

@@ -306,10 +306,10 @@ void frmBrowse::PaintPreview(int lW, int lH) {
     if (!m_oPreview || m_oPreview->FullPath() != m_sFilePath) {
         m_oPreview = std::make_unique<C_Image>();
         m_oPreview->Init(m_sFilePath, QStringLiteral("Space"), 0);
-        m_oPreview->TakeBadPath(m_sToldPath);
+        m_oPreview->TakeBadPath(m_sBadPath);
     }
     m_oPreview->PaintPictureCentered(*picBitMapArea, 0, 0, lW, lH, Color::None());
-    if (m_oPreview->BadPath() == m_sFilePath) m_sToldPath = m_sFilePath;
+    if (m_oPreview->BadPath() == m_sFilePath) m_sBadPath = m_sFilePath;
     // Later: the list may be in the middle of a click.
     if (!basCommon::DoesFileExist(m_sFilePath))
         QMetaObject::invokeMethod(this, &frmBrowse::Preview_Vanished, Qt::QueuedConnection);

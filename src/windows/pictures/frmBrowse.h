@@ -36,8 +36,8 @@ public:
 
     /// The picture last told to be bad: by the caller before ShowForm, or here. The preview doesn't tell it again,
     /// and whoever shows the picture chosen needn't either.
-    const QString& ToldPath() const { return m_sToldPath; }
-    void SetToldPath(const QString& sFilePath) { m_sToldPath = sFilePath; }
+    const QString& BadPath() const { return m_sBadPath; }
+    void SetBadPath(const QString& sFilePath) { m_sBadPath = sFilePath; }
 
     /// Folder that the last picture of this run was taken from; empty before the first.
     static QString LastFolder();
@@ -111,7 +111,6 @@ private:
     QString m_sOriginalPath;
     QString m_sFilePath;
     QString m_sBadPath;
-    QString m_sToldPath;
     bool m_bOK = false;
     /// Made anew for each picture: what was told of one is no matter of the next.
     std::unique_ptr<C_Image> m_oPreview;

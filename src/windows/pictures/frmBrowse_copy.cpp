@@ -36,7 +36,7 @@ bool frmBrowse::CopyFileToRoot() try {
         return false;
     }
     // The copy of a picture told to be bad is as bad.
-    if (m_sToldPath == m_sFilePath) m_sToldPath = target;
+    if (m_sBadPath == m_sFilePath) m_sBadPath = target;
     ShowFilePath(target);
     TellCopy(name, iCopy > 0);
     return true;

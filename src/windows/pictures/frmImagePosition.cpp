@@ -51,7 +51,7 @@ void frmImagePosition::ShowForm(C_Image& objImage, double dblHeightToWidth, bool
     basCommon::ShowEntireForm(*this);
     m_bRound = bRound;
     m_bLoaded = false;
-    m_sToldPath.clear();
+    m_sBadPath.clear();
     m_oImage = C_Image();
     m_oMaster = &objImage;
     m_oImage.LoadFromObject(objImage, false);
@@ -89,7 +89,7 @@ bool frmImagePosition::LoadMyPicture(const QString& sFilePath) try {
     if (picture.IsNull()) {
         MsgBox(QStringLiteral("The file named '") + sFilePath + QStringLiteral("' could not be loaded.") + kNewLine +
                QStringLiteral("The following error was reported:") + kNewLine + error);
-        m_sToldPath = sFilePath;
+        m_sBadPath = sFilePath;
         ShowNothing();
         cmdSelectImage_Click();
         return false;
@@ -275,7 +275,7 @@ void frmImagePosition::timSelectAnImage_Timer() { cmdSelectImage_Click(); }
 void frmImagePosition::cmdSelectImage_Click() try {
     if (StartFolder().isEmpty()) StartFolder() = basCommon::GetMyGamesDirectory();
     frmBrowse browser(this);
-    browser.SetToldPath(m_sToldPath);
+    browser.SetBadPath(m_sBadPath);
     const QString path = browser.ShowForm(m_oImage.FullPath(), false, StartFolder());
     if (path == m_oImage.FullPath()) return;
     StartFolder() = frmBrowse::LastFolder();

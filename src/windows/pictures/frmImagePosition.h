@@ -87,7 +87,7 @@ private:
     C_Image m_oImage;
     C_Image* m_oMaster = nullptr;
     /// The picture last told to be unreadable.
-    QString m_sToldPath;
+    QString m_sBadPath;
     bool m_bRound = false;
     bool m_bLoaded = false;
     bool m_bBusy = false;
