@@ -5,6 +5,7 @@
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 
 namespace {
 
@@ -27,6 +28,23 @@ TEST_F(FileNameTest, ShowsThePresentNameAndAnEmptyNewOne) {
         EXPECT_EQ(window.windowTitle(), QStringLiteral("File Already Exists"));
         EXPECT_EQ(Find<QLabel>(window, "lblCurrentName").text(), QStringLiteral("cat.jpg"));
         EXPECT_EQ(Find<QLineEdit>(window, "txtNewName").text(), QString());
+        Click(window, "cmdGo_0");
+    });
+}
+
+TEST_F(FileNameTest, ItExplainsTheClashAndTheThreeWaysOut) {
+    Answer([](QWidget& window) {
+        QStringList labels;
+        for (const QLabel* label : window.findChildren<QLabel*>())
+            labels.append(label->text().remove(u'&'));
+        for (const char* const text :
+             {"The program copies the images you use to the main TAVL directory on the local disk. However, a file by "
+              "this name already exists in this directory. Please select one of the choices below:",
+              "Current Name:", "New Name:"})
+            EXPECT_TRUE(labels.contains(QString::fromLatin1(text))) << text;
+        EXPECT_EQ(Find<QPushButton>(window, "cmdGo_0").text(), QStringLiteral("&Cancel - leave the original image"));
+        EXPECT_EQ(Find<QPushButton>(window, "cmdGo_1").text(), QStringLiteral("&Overwrite current file"));
+        EXPECT_EQ(Find<QPushButton>(window, "cmdGo_2").text(), QStringLiteral("&Use the new name entered above"));
         Click(window, "cmdGo_0");
     });
 }
@@ -75,6 +93,19 @@ TEST_F(FileNameTest, ABadNewNameIsToldWhenItIsLeftAndKeepsTheFocus) {
         EXPECT_EQ(window.focusWidget(), &name);
         QTest::keyClick(&window, Qt::Key_Escape);
     });
+}
+
+TEST_F(FileNameTest, ABadNewNameHoldsBackNobodyWhoLeavesWithoutIt) {
+    for (const char* const way : {"cmdGo_0", "cmdGo_1"}) {
+        Answer([way](QWidget& window) {
+            EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+            auto& name = Find<QLineEdit>(window, "txtNewName");
+            QTest::keyClicks(&name, QStringLiteral("cat.dog"));
+            Click(window, way);
+            EXPECT_FALSE(window.isVisible()) << way;
+        });
+    }
+    EXPECT_TRUE(desktop.boxes.isEmpty());
 }
 
 TEST_F(FileNameTest, FaultsAreLookedForInOrder) {

@@ -66,6 +66,8 @@ void frmFileName::BuildControls() {
         auto* button = new QPushButton(QString::fromLatin1(kCaptions[index]), this);
         button->setObjectName(QStringLiteral("cmdGo_") + QString::number(index));
         button->setAutoDefault(false);
+        // A click leaves the focus on the name: a bad one would hold back whoever wants to leave without it.
+        button->setFocusPolicy(Qt::TabFocus);
         cmdGo->addButton(button, index);
         grid->addWidget(button, 3 + index, 0, 1, 2);
     }
