@@ -217,6 +217,24 @@ TEST_F(EditSpaceTest, TheKeyboardReachesTheTextAndTheButtons) {
     EXPECT_EQ(Space().TextAll(), QStringLiteral("Elm\r\nStreets"));
 }
 
+TEST_F(EditSpaceTest, EnterPressesTheButtonThatHasTheFocus) {
+    EXPECT_TRUE(Edit([&] {
+        Press(Qt::Key_Tab);
+        desktop.onDialog = [](CommonDialog& dialog) {
+            dialog.bFontBold = true;
+            return true;
+        };
+        Press(Qt::Key_Return);
+        EXPECT_TRUE(form.isVisible());
+        Press(Qt::Key_Backtab, Qt::ShiftModifier);
+        Press(Qt::Key_Backtab, Qt::ShiftModifier);
+        EXPECT_EQ(QApplication::focusWidget()->objectName(), QStringLiteral("cmdOK"));
+        Press(Qt::Key_Enter);
+        EXPECT_FALSE(form.isVisible());
+    }));
+    EXPECT_TRUE(Space().Font.Bold);
+}
+
 TEST_F(EditSpaceTest, AFortyFirstCharacterIsDropped) {
     Space().SetText(QString(39, u'i'));
     Edit([&] {
@@ -434,7 +452,7 @@ TEST_F(EditSpaceTest, EveryTipIsShown) {
     });
 }
 
-TEST_F(EditSpaceTest, CaptionsAreThoseTold) {
+TEST_F(EditSpaceTest, ControlsHaveTheirCaptionsAndNoneIsPressedByDefault) {
     window = &form;
     EXPECT_EQ(form.windowTitle(), QStringLiteral("Edit Space"));
     EXPECT_EQ(Find<QPushButton>("cmdCancel")->text(), QStringLiteral("&Cancel"));
