@@ -58,10 +58,10 @@ TEST_F(BrowsePlacesTest, AFileLiesInTheFolderUpToItsLastSeparator) {
 }
 
 TEST_F(BrowsePlacesTest, TheFiltersFollowTheScreenAndWhetherMetafilesAreAllowed) {
-    EXPECT_EQ(ToldFilter(true, 8), QStringLiteral("*.bmp;*.wmf"));
-    EXPECT_EQ(ToldFilter(true, 24), QStringLiteral("*.bmp;*.wmf;*.jpg;*.gif"));
-    EXPECT_EQ(ToldFilter(false, 4), QStringLiteral("*.bmp;"));
-    EXPECT_EQ(ToldFilter(false, 32), QStringLiteral("*.bmp;*.jpg;*.gif"));
+    EXPECT_EQ(UsualFilter(true, 8), QStringLiteral("*.bmp;*.wmf"));
+    EXPECT_EQ(UsualFilter(true, 24), QStringLiteral("*.bmp;*.wmf;*.jpg;*.gif"));
+    EXPECT_EQ(UsualFilter(false, 4), QStringLiteral("*.bmp;"));
+    EXPECT_EQ(UsualFilter(false, 32), QStringLiteral("*.bmp;*.jpg;*.gif"));
     EXPECT_EQ(PatternsOf(QStringLiteral("*.bmp;")), QStringList{QStringLiteral("*.bmp")});
     EXPECT_FALSE(PatternsOf(AllPicturesFilter(false)).contains(QStringLiteral("*.wmf")));
 }

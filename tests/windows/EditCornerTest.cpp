@@ -124,7 +124,7 @@ TEST_F(EditCornerTest, ACornerWithoutANameStaysOpen) {
     });
 }
 
-TEST_F(EditCornerTest, TipsAndCaptionsAreThoseTold) {
+TEST_F(EditCornerTest, TipsAndCaptionsAreThoseOfACorner) {
     Corner().Image.Let_FullPath(MakePicture(QStringLiteral("quarters.bmp")));
     Edit([&] {
         EXPECT_EQ(form.windowTitle(), QStringLiteral("Edit Corner"));

@@ -110,7 +110,7 @@ QString CopyName(const QString& sBase, const QString& sExt, int iCopy) {
     return sBase + number + u'.' + sExt;
 }
 
-QString ToldFilter(bool bAllowWMF, int iBitsPerPixel) {
+QString UsualFilter(bool bAllowWMF, int iBitsPerPixel) {
     const bool fewColors = iBitsPerPixel <= kFewColorsBits;
     if (bAllowWMF) return fewColors ? QStringLiteral("*.bmp;*.wmf") : QStringLiteral("*.bmp;*.wmf;*.jpg;*.gif");
     return fewColors ? QStringLiteral("*.bmp;") : QStringLiteral("*.bmp;*.jpg;*.gif");

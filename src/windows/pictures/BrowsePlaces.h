@@ -46,7 +46,7 @@ bool IsOnGamesDrive(const QString& sFilePath, const QString& sGamesDirectory);
 QString CopyName(const QString& sBase, const QString& sExt, int iCopy);
 
 /// File patterns of the first filter, as a screen of so many bits a pixel shows them.
-QString ToldFilter(bool bAllowWMF, int iBitsPerPixel);
+QString UsualFilter(bool bAllowWMF, int iBitsPerPixel);
 /// File patterns of every kind of picture that can be loaded.
 QString AllPicturesFilter(bool bAllowWMF);
 /// The single patterns of a filter.

@@ -32,12 +32,12 @@ constexpr int kPreviewPatience = 60;
 constexpr int kMetafileMargin = 2;
 constexpr int kMetafileFree = 5;
 
-enum FilterNumber { kToldFilter = 0, kAllPictures = 1 };
+enum FilterNumber { kUsualPictures = 0, kAllPictures = 1 };
 
 /// What the chooser remembers from one opening to the next.
 struct Memory {
     QString sLastFolder;
-    int iFilter = kToldFilter;
+    int iFilter = kUsualPictures;
 };
 
 Memory& Remembered() {
@@ -106,9 +106,9 @@ void frmBrowse::FillPlaces() {
 }
 
 void frmBrowse::FillFilters(bool bAllowWMF) {
-    const QString told = BrowsePlaces::ToldFilter(bAllowWMF, basAPI::ScreenBitsPerPixel());
+    const QString usual = BrowsePlaces::UsualFilter(bAllowWMF, basAPI::ScreenBitsPerPixel());
     cboFilter->clear();
-    cboFilter->addItem(QStringLiteral("Pictures (") + BrowsePlaces::PatternsOf(told).join(u' ') + u')', told);
+    cboFilter->addItem(QStringLiteral("Pictures (") + BrowsePlaces::PatternsOf(usual).join(u' ') + u')', usual);
     cboFilter->addItem(QStringLiteral("All pictures"), BrowsePlaces::AllPicturesFilter(bAllowWMF));
     cboFilter->setCurrentIndex(Remembered().iFilter);
 }
