@@ -10,6 +10,8 @@
 #include "services/basMsgQueue.h"
 #include "services/RecordText.h"
 
+#include <QSet>
+
 #include <optional>
 
 namespace {
@@ -21,6 +23,12 @@ constexpr int kFateCorner = 3;
 QString PictureBase() {
     const QString& base = Settings().sRelativePictureBase;
     return base.isEmpty() ? basCommon::GetMyGamesDirectory() : base;
+}
+
+// The thumbnails that were told to be undeletable, and still are.
+QSet<QString>& ToldUndeleted() {
+    static QSet<QString> names;
+    return names;
 }
 
 // What follows the folder in the path; nothing when the path doesn't lie in it.
@@ -233,7 +241,14 @@ void C_Image::KillThumb() {
     if (!HasKnownKind()) return;
     const QString name = Thumbname();
     QString error;
-    if (Files::Remove(name, error)) return;
+    if (Files::Remove(name, error)) {
+        ToldUndeleted().remove(name);
+        return;
+    }
+    DistrustThumbnail(name);
+    // Path, zoom and centre of a picture are set one by one, and each would tell of the same file.
+    if (ToldUndeleted().contains(name)) return;
+    ToldUndeleted().insert(name);
     const QString blank = kNewLine + kNewLine;
     basMsgQueue::MsgQueue_Post(QStringLiteral("Unable to delete the file named: ") + name + blank +
                                    QStringLiteral("This could cause the space or corner to be displayed incorrectly.") +

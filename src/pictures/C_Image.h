@@ -149,6 +149,12 @@ public:
 private:
     bool HasKnownKind() const;
     bool NeedsThumbnail() const;
+    /// False when the disk refuses its file.
+    bool MakeThumbnail();
+    /// True when the disk has refused the thumbnail: what lies there, if anything, shows another picture.
+    bool IsThumbnailRefused() const;
+    /// From here on the file of that name is taken for another picture's.
+    static void DistrustThumbnail(const QString& sThumb);
     /// Zoom and centre, to be compared.
     QString PartShown() const;
     /// In pixels.
@@ -156,8 +162,8 @@ private:
     /// True for a corner whose picture belongs to the kit.
     bool ShowsFate() const;
     void PaintThumbnail(Surface& picDest, double xStart, double yStart, double xEnd, double yEnd);
-    /// Pixels of the finer rendering that a box takes; 0 where the thumbnail has enough of them.
-    static int RenderingSide(Surface& picDest, double w, double h);
+    /// Pixels of the rendering that a box takes in place of the thumbnail; 0 where that one has enough of them.
+    int RenderingSide(Surface& picDest, double w, double h) const;
     void PaintThumbnailFile(Surface& picDest, const QString& sFile, double xStart, double yStart, double xEnd,
                             double yEnd);
     bool PaintRendering(Surface& picDest, double xStart, double yStart, double xEnd, double yEnd);
@@ -173,7 +179,7 @@ private:
                    Color lBackColor) const;
     QString ReportText() const;
     void StoreCenter(qint16& iCenter, float fCenter);
-    /// Deletes the thumbnail's file; a failure is told and passed over.
+    /// Deletes the thumbnail's file; a failure is told, once for each file, and passed over.
     void KillThumb();
 
     QString m_sFullPath;

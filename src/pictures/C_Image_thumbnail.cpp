@@ -30,10 +30,12 @@ ThumbnailMaker& Maker() {
 }
 
 // What each thumbnail made in this run was made of, by its path. Two images can belong to one owner, as an
-// editor's copy does, and an owner can change hands: the file's date alone doesn't prove it theirs.
+// editor's copy does, and an owner can change hands: the file's date alone doesn't prove it theirs. One that
+// the disk refused isn't tried again; its picture is painted without a file.
 struct Origin {
     QString sPath;
     QString sPart;
+    bool bOnDisk = false;
 };
 
 QHash<QString, Origin>& MadeOf() {
@@ -61,10 +63,36 @@ QString C_Image::PartShown() const { return QStringLiteral("%1 %2 %3").arg(m_iZo
 bool C_Image::NeedsThumbnail() const {
     const QString sThumb = Thumbname();
     const auto origin = MadeOf().constFind(sThumb);
-    if (origin != MadeOf().constEnd() && (origin->sPath != m_sFullPath || origin->sPart != PartShown())) return true;
+    if (origin != MadeOf().constEnd()) {
+        if (origin->sPath != m_sFullPath || origin->sPart != PartShown()) return true;
+        if (!origin->bOnDisk) return false;
+    }
     const Files::Stamp picture = Files::StampOf(Files::InDiskSpelling(m_sFullPath));
     const Files::Stamp thumbnail = Files::StampOf(sThumb);
     return thumbnail == Files::Stamp() || thumbnail.modifiedMs < picture.modifiedMs;
+}
+
+bool C_Image::IsThumbnailRefused() const {
+    const auto origin = MadeOf().constFind(Thumbname());
+    return origin != MadeOf().constEnd() && !origin->bOnDisk;
+}
+
+void C_Image::DistrustThumbnail(const QString& sThumb) { MadeOf().insert(sThumb, Origin()); }
+
+bool C_Image::MakeThumbnail() try {
+    if (SpaceOrCorner == QStringLiteral("Space")) {
+        Maker().CreateThumbRotatedTo90(*this);
+    } else if (SpaceOrCorner == QStringLiteral("Corner")) {
+        Maker().CreateThumbRotatedTo45(*this);
+    } else {
+        Maker().CreateThumbElliptical(*this, false);
+    }
+    return true;
+} catch (const TavloraError& error) {
+    if (error.Number() != ErrNumber::kFileAccess) throw;
+    // A folder that takes no file mustn't keep the board from being painted; the log has the reason.
+    basErrLog::ErrDismiss(error.Description());
+    return false;
 }
 
 QString C_Image::GetThumbnail(bool bGrayOnly) try {
@@ -79,17 +107,11 @@ QString C_Image::GetThumbnail(bool bGrayOnly) try {
         return m_sFullPath;
     }
     const QString sThumb = Thumbname();
+    if (!HasKnownKind()) basErrLog::ErrUnexVal(QStringLiteral("SpaceOrCorner"), SpaceOrCorner);
     if (!NeedsThumbnail()) return sThumb;
-    if (SpaceOrCorner == QStringLiteral("Space")) {
-        Maker().CreateThumbRotatedTo90(*this);
-    } else if (SpaceOrCorner == QStringLiteral("Corner")) {
-        Maker().CreateThumbRotatedTo45(*this);
-    } else if (SpaceOrCorner == QStringLiteral("Money") || SpaceOrCorner == QStringLiteral("Token")) {
-        Maker().CreateThumbElliptical(*this, false);
-    } else {
-        basErrLog::ErrUnexVal(QStringLiteral("SpaceOrCorner"), SpaceOrCorner);
-    }
-    MadeOf().insert(sThumb, {m_sFullPath, PartShown()});
+    const bool bOnDisk = MakeThumbnail();
+    // Making it may have centred the picture: the part is that of afterwards.
+    MadeOf().insert(sThumb, {m_sFullPath, PartShown(), bOnDisk});
     return sThumb;
 } catch (...) {
     ErrTail("C_Image!", "GetThumbnail", bGrayOnly);
@@ -112,7 +134,7 @@ void C_Image::PrepareForPaper(Surface& oPrinter, double side) const try {
 void C_Image::DrawBitmapToScreen(Surface& picDest, double x, double y, double w, double h) try {
     if (m_sFullPath.isEmpty()) return;
     const QString sThumb = GetThumbnail(false);
-    if (sThumb.isEmpty() || !basCommon::DoesFileExist(sThumb)) return;
+    if (sThumb.isEmpty() || !(IsThumbnailRefused() || basCommon::DoesFileExist(sThumb))) return;
     if (SpaceOrCorner == QStringLiteral("Space") || SpaceOrCorner == QStringLiteral("Corner")) {
         PaintThumbnail(picDest, x, y, x + w, y + h);
     } else if (SpaceOrCorner == QStringLiteral("Token") || SpaceOrCorner == QStringLiteral("Money")) {
@@ -123,11 +145,12 @@ void C_Image::DrawBitmapToScreen(Surface& picDest, double x, double y, double w,
 }
 
 // Where the thumbnail's pixels are too few: zoomed in, on a dense screen, in a large picture of the board.
-int C_Image::RenderingSide(Surface& picDest, double w, double h) {
+int C_Image::RenderingSide(Surface& picDest, double w, double h) const {
     const int pixels = picDest.PicturePixels(std::min(w, h));
+    if (pixels <= kThumbSide) return IsThumbnailRefused() ? kThumbSide : 0;
     // Even, as the diamond is made of halves; no larger than any screen needs.
     constexpr int kLargest = 2048;
-    return pixels <= kThumbSide ? 0 : std::min((pixels + 1) / 2 * 2, kLargest);
+    return std::min((pixels + 1) / 2 * 2, kLargest);
 }
 
 bool C_Image::PaintRendering(Surface& picDest, double xStart, double yStart, double xEnd, double yEnd) {
@@ -144,13 +167,13 @@ void C_Image::PaintThumbnail(Surface& picDest, double xStart, double yStart, dou
     const bool fate = ShowsFate();
     const QString sFile =
         fate ? basCommon::JoinPath(Folders::ProgramDirectory(), QStringLiteral("fate.dat")) : Thumbname();
+    if (!fate && (PaintRendering(picDest, xStart, yStart, xEnd, yEnd) || IsThumbnailRefused())) return;
     const bool told = m_sBadPath == m_sFullPath || m_sBadThumb == sFile;
     if (!basCommon::DoesFileExist(sFile)) {
         if (!told) TellMissing(sFile);
         m_sBadThumb = sFile;
         return;
     }
-    if (!fate && PaintRendering(picDest, xStart, yStart, xEnd, yEnd)) return;
     PaintThumbnailFile(picDest, sFile, xStart, yStart, xEnd, yEnd);
 } catch (...) {
     ErrTail("C_Image!", "PaintThumbnail", picDest, xStart, yStart, xEnd, yEnd);
@@ -187,7 +210,7 @@ bool C_Image::DrawWhatIsReady(Surface& picDest, double x, double y, double w, do
         DrawBitmapToScreen(picDest, x, y, w, h);
         return true;
     }
-    if (!NeedsThumbnail()) PaintThumbnailFile(picDest, Thumbname(), x, y, x + w, y + h);
+    if (!NeedsThumbnail() && !IsThumbnailRefused()) PaintThumbnailFile(picDest, Thumbname(), x, y, x + w, y + h);
     return false;
 } catch (...) {
     ErrTail("C_Image!", "DrawWhatIsReady", picDest, x, y, w, h);

@@ -5,6 +5,7 @@
 #include "platform/PictureHolder.h"
 #include "platform/ProgramSettings.h"
 #include "rendering/frmBMP.h"
+#include "services/basErrLog.h"
 #include "services/basMsgQueue.h"
 #include "services/TavloraError.h"
 #include "support/PictureFiles.h"
@@ -52,6 +53,7 @@ protected:
 };
 
 TEST_F(C_ImagePaintTest, ImageWithoutPathPaintsNothingWithoutABox) {
+    basErrLog::ErrInit(0);
     C_Image image;
     image.PaintPictureCentered(form, 0, 0, 100, 100, Color::None());
     image.SpaceOrCorner = QStringLiteral("Space");
@@ -224,6 +226,64 @@ TEST_F(C_ImagePaintTest, ThumbnailOfAnotherPictureIsNeverTakenOver) {
     QString error;
     EXPECT_EQ(LoadPicture(second.GetThumbnail(false), error).Image().pixel(80, 80), qRgb(255, 0, 0));
     EXPECT_EQ(LoadPicture(first.GetThumbnail(false), error).Image().pixel(80, 80), kWhite);
+}
+
+TEST_F(C_ImagePaintTest, PicturesWhoseThumbnailsTheDiskRefusesAreShownWithoutThemAndWithoutABox) {
+    basErrLog::ErrInit(0);
+    C_Image image;
+    image.Init(WriteFile(QStringLiteral("q.png"), Encoded(Quarters(300, 300), "png")), QStringLiteral("Space"), 7);
+    int attempts = 0;
+    Files::SetFaultHook([&attempts](Files::Operation operation, const QString& sPath) -> std::optional<QString> {
+        if (operation != Files::Operation::OpenWrite || !sPath.endsWith(QStringLiteral("Space7.bmp"))) return {};
+        ++attempts;
+        return QStringLiteral("Permission denied");
+    });
+    for (int paint = 0; paint < 3; ++paint) {
+        form.Cls();
+        image.DrawBitmapToScreen(form, 0, 0, 60, 60);
+        EXPECT_EQ(form.Image().pixel(5, 5), qRgb(0, 0, 255)) << "turned to the left side";
+        EXPECT_EQ(form.Image().pixel(70, 70), kBoard);
+    }
+    form.Cls();
+    while (!image.DrawWhatIsReady(form, 0, 0, 60, 60)) {
+    }
+    EXPECT_EQ(form.Image().pixel(5, 5), qRgb(0, 0, 255));
+    EXPECT_EQ(attempts, 1) << "the disk isn't asked again at each paint";
+    EXPECT_FALSE(Files::Exists(PathOf(QStringLiteral("Space7.bmp"))));
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+
+    Files::SetFaultHook({});
+    image.Let_Zoom(10);
+    EXPECT_TRUE(Files::Exists(image.GetThumbnail(false))) << "another part of the picture is another attempt";
+}
+
+TEST_F(C_ImagePaintTest, ThumbnailOfAnotherGameThatCantBeDeletedIsNeverShown) {
+    basErrLog::ErrInit(0);
+    C_Image former;
+    former.Init(Photo(QStringLiteral("p.png"), 300, 300), QStringLiteral("Space"), 7);
+    const QString thumb = former.GetThumbnail(false);
+    Files::SetFaultHook([&thumb](Files::Operation operation, const QString& sPath) -> std::optional<QString> {
+        const bool changes = operation == Files::Operation::OpenWrite || operation == Files::Operation::Remove;
+        return changes && sPath == thumb ? std::optional(QStringLiteral("Permission denied")) : std::nullopt;
+    });
+    C_Image image;
+    image.SpaceOrCorner = QStringLiteral("Space");
+    image.Index = 7;
+    image.Let_FullPath(WriteFile(QStringLiteral("q.png"), Encoded(Quarters(300, 300), "png")));
+    image.Let_XCenter(150);
+    image.Let_YCenter(150);
+    image.DrawBitmapToScreen(form, 0, 0, 60, 60);
+    EXPECT_EQ(form.Image().pixel(5, 5), qRgb(0, 0, 255));
+    EXPECT_EQ(desktop.boxes.size(), 1) << "one box for one file";
+    image.Let_FullPath(QString());
+    EXPECT_EQ(desktop.boxes.size(), 1);
+
+    Files::SetFaultHook({});
+    image.Let_Zoom(1);
+    EXPECT_FALSE(Files::Exists(thumb));
+    Files::SetFaultHook([](Files::Operation, const QString&) { return std::optional(QStringLiteral("locked")); });
+    image.Let_Zoom(2);
+    EXPECT_EQ(desktop.boxes.size(), 2) << "what was deleted since is told anew";
 }
 
 TEST_F(C_ImagePaintTest, ThumbnailOfAnUnknownKindRaises) {

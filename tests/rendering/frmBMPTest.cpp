@@ -251,7 +251,7 @@ TEST_F(frmBMPTest, ThumbnailThatCannotBeWrittenGoesUp) {
         if (operation == Files::Operation::Write) return QStringLiteral("Disk full");
         return std::nullopt;
     });
-    EXPECT_THROW(image.GetThumbnail(false), TavloraError);
+    EXPECT_THROW(frmBMP::Instance().CreateThumbRotatedTo90(image), TavloraError);
 }
 
 TEST_F(frmBMPTest, FineLinesGrowFaintInsteadOfJagged) {
