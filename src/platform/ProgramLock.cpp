@@ -3,6 +3,7 @@
 
 #include <QCryptographicHash>
 #include <QDir>
+#include <QFileInfo>
 #include <QLocalServer>
 #include <QLocalSocket>
 
@@ -10,6 +11,9 @@ namespace {
 
 const char* const kLockName = ".tavlora.lock";
 constexpr int kAnswerMilliseconds = 2000;
+
+// The file of a process that is gone can't be taken over where nothing can be deleted.
+bool TakesFiles(const QString& sFolder) { return QFileInfo(sFolder).isWritable(); }
 
 } // namespace
 
@@ -23,7 +27,7 @@ ProgramLock::ProgramLock(const QString& sFolder, QObject* parent)
 ProgramLock::~ProgramLock() { Release(); }
 
 bool ProgramLock::Take() {
-    if (!m_file.tryLock() && m_file.error() == QLockFile::LockFailedError) return false;
+    if (!m_file.tryLock() && m_file.error() == QLockFile::LockFailedError && TakesFiles(m_folder)) return false;
     Listen();
     return true;
 }

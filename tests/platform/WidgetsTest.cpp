@@ -169,6 +169,22 @@ TEST_F(ProgramLockTest, FileOfAProcessThatIsGoneIsIgnored) {
     EXPECT_TRUE(lock.Take());
 }
 
+TEST_F(ProgramLockTest, FileThatCantBeDeletedKeepsNobodyOut) {
+    const auto owner = QFileDevice::ReadOwner | QFileDevice::ExeOwner;
+    QProcess gone;
+    gone.start(QStringLiteral("true"), {});
+    const qint64 process = gone.processId();
+    ASSERT_TRUE(gone.waitForFinished());
+    WriteFile(QStringLiteral(".tavlora.lock"),
+              QByteArray::number(process) + "\ntavlora\n" + QSysInfo::machineHostName().toUtf8() + "\n");
+    ASSERT_TRUE(QFile::setPermissions(folder.path(), owner));
+    const bool refused = !QFileInfo(folder.path()).isWritable();
+    const bool taken = ProgramLock(folder.path()).Take();
+    ASSERT_TRUE(QFile::setPermissions(folder.path(), owner | QFileDevice::WriteOwner));
+    if (!refused) GTEST_SKIP() << "this user may write everywhere";
+    EXPECT_TRUE(taken);
+}
+
 TEST_F(ProgramLockTest, TwoFoldersDontDisturbEachOther) {
     const QTemporaryDir other;
     ProgramLock first(folder.path());
