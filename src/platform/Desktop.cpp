@@ -28,6 +28,10 @@ Desktop* Desktop::Install(Desktop* desktop) {
     return before;
 }
 
+void Desktop::MsgList(const QStringList& messages, int iStyle, const QString& sTitle) {
+    MsgBox(messages.join(QStringLiteral("\r\n")), iStyle, sTitle);
+}
+
 Desktop& Desktop::Current() { return *CurrentDesktop(); }
 
 bool CommonDialog::ShowOpen() { return Desktop::Current().ShowOpen(*this); }
@@ -37,6 +41,9 @@ bool CommonDialog::ShowPrinter() { return Desktop::Current().ShowPrinter(*this);
 
 int MsgBox(const QString& sText, int iStyle, const QString& sTitle) {
     return Desktop::Current().MsgBox(sText, iStyle, sTitle);
+}
+void MsgList(const QStringList& messages, int iStyle, const QString& sTitle) {
+    Desktop::Current().MsgList(messages, iStyle, sTitle);
 }
 void Sleep(int milliseconds) { Desktop::Current().Sleep(milliseconds); }
 void DoEvents() { Desktop::Current().DoEvents(); }
@@ -57,6 +64,11 @@ int ConsoleDesktop::MsgBox(const QString& sText, int iStyle, const QString& sTit
         default:
             return vbOK;
     }
+}
+
+void ConsoleDesktop::MsgList(const QStringList& messages, int iStyle, const QString& sTitle) {
+    for (const QString& message : messages)
+        MsgBox(message, iStyle, sTitle);
 }
 
 bool ConsoleDesktop::ShowOpen(CommonDialog&) { return false; }

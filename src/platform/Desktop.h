@@ -74,6 +74,8 @@ class Desktop {
 public:
     virtual ~Desktop() = default;
     virtual int MsgBox(const QString& sText, int iStyle, const QString& sTitle) = 0;
+    /// Several messages of one moment: one box, a line each.
+    virtual void MsgList(const QStringList& messages, int iStyle, const QString& sTitle);
     virtual bool ShowOpen(CommonDialog& dialog) = 0;
     virtual bool ShowSave(CommonDialog& dialog) = 0;
     virtual bool ShowFont(CommonDialog& dialog) = 0;
@@ -91,6 +93,8 @@ public:
 /// Shows a message box in plain text and returns the button that closed it. The title is the program's
 /// unless given.
 int MsgBox(const QString& sText, int iStyle = vbOKOnly, const QString& sTitle = QStringLiteral("Tavlora"));
+/// Shows several messages at once, each without a line break in it.
+void MsgList(const QStringList& messages, int iStyle = vbOKOnly, const QString& sTitle = QStringLiteral("Tavlora"));
 void Sleep(int milliseconds);
 void DoEvents();
 [[noreturn]] void EndProgram(int iStatus = 0);
@@ -100,6 +104,8 @@ void DoEvents();
 class ConsoleDesktop : public Desktop {
 public:
     int MsgBox(const QString& sText, int iStyle, const QString& sTitle) override;
+    /// A line of its own for each.
+    void MsgList(const QStringList& messages, int iStyle, const QString& sTitle) override;
     bool ShowOpen(CommonDialog& dialog) override;
     bool ShowSave(CommonDialog& dialog) override;
     bool ShowFont(CommonDialog& dialog) override;

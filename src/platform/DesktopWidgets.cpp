@@ -78,6 +78,33 @@ int ResultOf(int button, int iStyle) {
     }
 }
 
+// About how many rows the lines take, as a box wraps them.
+qsizetype RowsOf(const QStringList& lines) {
+    constexpr qsizetype kCharactersInARow = 50;
+    qsizetype rows = 0;
+    for (const QString& line : lines)
+        rows += line.size() / kCharactersInARow + 1;
+    return rows;
+}
+
+// A box never scrolls: one with a line for each of forty missing pictures would stand with its buttons below
+// the screen. What is too much for it goes behind the button for details.
+void SetText(QMessageBox& box, const QString& sText) {
+    constexpr int kMostRows = 36;
+    constexpr int kRowsShown = 24;
+    const QStringList lines = sText.split(u'\n');
+    if (RowsOf(lines) <= kMostRows) {
+        box.setText(sText);
+        return;
+    }
+    QStringList shown = lines;
+    while (shown.size() > 1 && RowsOf(shown) > kRowsShown)
+        shown.removeLast();
+    const QString more = QStringLiteral("\n\nThere are %1 more; the details hold them all.");
+    box.setText(shown.join(u'\n') + more.arg(lines.size() - shown.size()));
+    box.setDetailedText(sText);
+}
+
 QString PathInDialog(const CommonDialog& dialog) { return QDir(dialog.sInitDir).filePath(dialog.sFileName); }
 
 // The window a box belongs to, so that it stands before it and not beside.
@@ -119,7 +146,7 @@ int DesktopWidgets::MsgBox(const QString& sText, int iStyle, const QString& sTit
     QMessageBox box(Owner());
     box.setTextFormat(Qt::PlainText);
     box.setWindowTitle(sTitle);
-    box.setText(QString(sText).remove(u'\r'));
+    SetText(box, QString(sText).remove(u'\r'));
     box.setIcon(IconOf(iStyle));
     box.setStandardButtons(ButtonsOf(iStyle));
     box.setDefaultButton(DefaultButtonOf(iStyle));

@@ -28,7 +28,7 @@ void ShowAsOne(const QList<Message>& messages) {
         lines.append(message.sText.simplified());
         style = message.iStyle;
     }
-    MsgBox(lines.join(QStringLiteral("\r\n")), style);
+    MsgList(lines, style);
 }
 
 } // namespace

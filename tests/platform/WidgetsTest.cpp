@@ -139,6 +139,40 @@ TEST(DesktopWidgetsTest, BoxesAnswerWithTheButtonThatClosedThem) {
     EXPECT_EQ(AnswerOf(vbYesNo, QMessageBox::No), vbNo);
 }
 
+TEST(DesktopWidgetsTest, BoxOfManyMessagesShowsTheFirstAndHasTheRestBehindAButton) {
+    QStringList messages;
+    for (int i = 1; i <= 40; ++i)
+        messages.append(
+            QStringLiteral("The file named '/home/somebody/Documents/My Games/picture %1.jpg' is invalid or "
+                           "does not exist. Area will be left empty.")
+                .arg(i));
+    QString shown, details;
+    int height = 0;
+    QTimer::singleShot(0, [&] {
+        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(box);
+        shown = box->text();
+        details = box->detailedText();
+        height = box->height();
+        box->close();
+    });
+    DesktopWidgets().MsgList(messages, vbExclamation, QStringLiteral("Title"));
+    EXPECT_EQ(shown,
+              messages.mid(0, 8).join(u'\n') + QStringLiteral("\n\nThere are 32 more; the details hold them all."));
+    EXPECT_EQ(details, messages.join(u'\n'));
+    EXPECT_LT(height, 600) << "it fits the smallest screens";
+
+    QTimer::singleShot(0, [&] {
+        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(box);
+        shown = box->text();
+        EXPECT_EQ(box->detailedText(), QString());
+        box->close();
+    });
+    DesktopWidgets().MsgList(messages.mid(0, 12), vbExclamation, QStringLiteral("Title"));
+    EXPECT_EQ(shown, messages.mid(0, 12).join(u'\n'));
+}
+
 TEST(DesktopWidgetsTest, SleepLetsWindowsLive) {
     bool ticked = false;
     QTimer::singleShot(5, [&] { ticked = true; });

@@ -288,6 +288,17 @@ TEST_F(PrintCommandTest, MissingPictureIsAWarning) {
     EXPECT_TRUE(Files::Exists(pdf));
 }
 
+TEST_F(PrintCommandTest, EachOfManyMissingPicturesHasALineOfItsOwn) {
+    QStringList lines = PlainLines();
+    for (int i = 0; i < 6; ++i)
+        lines[3 + i] = QStringLiteral("%1, \"t\", \"gone%1.bmp\",0,0,0").arg(i);
+    WriteGame(lines);
+    EXPECT_EQ(PrintRules(game), 0);
+    ASSERT_EQ(errors.size(), 6) << errors.join(u'\n').toStdString();
+    for (int i = 0; i < 6; ++i)
+        EXPECT_TRUE(errors[i].contains(QStringLiteral("gone%1.bmp").arg(i))) << errors[i].toStdString();
+}
+
 TEST_F(PrintCommandTest, KitVariantComesFromTheOptionThenFromTheSettings) {
     EXPECT_EQ(PrintRules(game), 0);
     EXPECT_EQ(basTAVL::g_sGameVersion(), QStringLiteral("8"));
