@@ -89,6 +89,10 @@ void Forget() try {
     ErrTail("Autosave!", "Forget");
 }
 
+bool IsKeptNowhere(const QString& sGameName) {
+    return Failed() && Failed()->sGameName == sGameName && !Files::Exists(DataPath());
+}
+
 void ResetForTest() { Failed().reset(); }
 
 } // namespace Autosave

@@ -22,6 +22,9 @@ void NoteSave(bool bInPlace, const QString& sGameName, const QByteArray& content
 /// My Games directory as "Rescued " and the game's name. Raises when the disk refuses.
 void Forget();
 
+/// True when the last save of this game failed and neither an autosave nor a rescued copy holds it.
+bool IsKeptNowhere(const QString& sGameName);
+
 /// For tests: as before any save.
 void ResetForTest();
 

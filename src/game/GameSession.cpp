@@ -10,13 +10,15 @@ GameSession::~GameSession() { GameHost::Install(m_before); }
 
 void GameSession::SetSomethingChanged(bool bChanged) try {
     if (bChanged) {
+        // Ahead of what may raise: the end of the program must ask about the change all the same.
+        m_bChanged = true;
         Autosave::Rotate();
         bool written = false;
         GameFile::GameSave(Autosave::DataPath(), written);
     } else {
         Autosave::Forget();
+        m_bChanged = Autosave::IsKeptNowhere(m_sGameName);
     }
-    m_bChanged = bChanged;
 } catch (...) {
     ErrTail("frmTAVL!", "SetSomethingChanged", bChanged);
 }

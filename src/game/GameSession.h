@@ -17,7 +17,8 @@ public:
     bool m_bChanged = false;
 
     QString GameName() const override { return m_sGameName; }
-    /// With true, writes the autosave; with false, deletes it. Raises when an autosave file can't be deleted
+    /// With true, writes the autosave; with false, deletes it. A game that could be saved nowhere at all stays
+    /// changed: it is in memory only. Raises when an autosave file can't be deleted
     /// or moved; one that can't be written is told and changes nothing else.
     void SetSomethingChanged(bool bChanged) override;
     DeviceContext& MeasuringDevice() override { return m_scratch.hDC(); }

@@ -300,6 +300,33 @@ TEST_F(SaveTest, AutosaveThatCantBeMovedOrDeletedRaises) {
     EXPECT_EQ(ErrorOf([&] { session.SetSomethingChanged(false); }), ErrNumber::kFileAccess);
 }
 
+TEST_F(SaveTest, WorkThatCouldBeKeptNowhereStaysUnsaved) {
+    FailAt(Files::Operation::OpenWrite);
+    Edit(QStringLiteral("precious"));
+    EXPECT_FALSE(Save(session.m_sGameName));
+    session.SetSomethingChanged(false);
+    EXPECT_TRUE(session.m_bChanged) << "the memory is the only place it is in";
+    Files::SetFaultHook({});
+    EXPECT_TRUE(Save(session.m_sGameName));
+    EXPECT_FALSE(session.m_bChanged);
+    EXPECT_EQ(GamesFolder(), QStringList{QStringLiteral("Trip.gam")});
+
+    FailAt(Files::Operation::OpenWrite);
+    Edit(QStringLiteral("given up"));
+    EXPECT_FALSE(Save(session.m_sGameName));
+    session.m_sGameName = InGames(QStringLiteral("Other.gam"));
+    session.SetSomethingChanged(false);
+    EXPECT_FALSE(session.m_bChanged) << "another game starts unchanged";
+}
+
+TEST_F(SaveTest, ChangeWhoseAutosaveRaisesIsAChangeAllTheSame) {
+    Edit(QStringLiteral("one"));
+    session.m_bChanged = false;
+    FailAt(Files::Operation::Rename);
+    EXPECT_EQ(ErrorOf([&] { session.SetSomethingChanged(true); }), ErrNumber::kFileAccess);
+    EXPECT_TRUE(session.m_bChanged);
+}
+
 TEST_F(SaveTest, CrashAtAnyMomentOfAnAutosaveLeavesTheLastStateOnDisk) {
     for (int moment = 0; moment < 9; ++moment) {
         QFile::remove(autosave);
