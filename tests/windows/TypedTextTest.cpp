@@ -37,6 +37,15 @@ TEST_F(TypedTextTest, KeysAreTextOrNot) {
         EXPECT_EQ(none.kind, Key::Kind::None);
 }
 
+TEST_F(TypedTextTest, ShiftMakesNoDifferenceToArrowsAndDelete) {
+    const std::pair<Qt::Key, int> keys[] = {
+        {Qt::Key_Left, 37}, {Qt::Key_Up, 38}, {Qt::Key_Right, 39}, {Qt::Key_Down, 40}, {Qt::Key_Delete, 46}};
+    for (const auto& [key, code] : keys) {
+        EXPECT_EQ(KeyOf(key, {}, Qt::ShiftModifier).kind, Key::Kind::Down) << code;
+        EXPECT_EQ(KeyOf(key, {}, Qt::ShiftModifier).iKeyCode, code);
+    }
+}
+
 TEST_F(TypedTextTest, AltGrGivesCharacters) {
     const Key key = KeyOf(Qt::Key_At, QStringLiteral("@"), Qt::ControlModifier | Qt::AltModifier);
     EXPECT_EQ(key.kind, Key::Kind::Press);

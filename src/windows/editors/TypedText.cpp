@@ -56,12 +56,13 @@ int KeyAsciiOf(char32_t character) {
 } // namespace
 
 Key KeyOf(const QKeyEvent& event) {
-    if (event.matches(QKeySequence::Copy)) return {Key::Kind::Copy, 0, {}};
-    if (event.matches(QKeySequence::Cut)) return {Key::Kind::Cut, 0, {}};
-    if (event.matches(QKeySequence::Paste)) return {Key::Kind::Paste, 0, {}};
+    // First, as Shift makes no difference to them, while the toolkit takes Shift+Delete for a way to cut.
     for (const KeyCodeRow& row : kKeyCodes) {
         if (event.key() == row.qtKey) return {Key::Kind::Down, row.iKeyCode, {}};
     }
+    if (event.matches(QKeySequence::Copy)) return {Key::Kind::Copy, 0, {}};
+    if (event.matches(QKeySequence::Cut)) return {Key::Kind::Cut, 0, {}};
+    if (event.matches(QKeySequence::Paste)) return {Key::Kind::Paste, 0, {}};
     if (event.key() == Qt::Key_Backspace) return {Key::Kind::Press, 0, QChar(basEditTextArray::vbKeyBack)};
     if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter)
         return {Key::Kind::Press, 0, QChar(basEditTextArray::vbKeyReturn)};
