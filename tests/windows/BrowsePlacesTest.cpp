@@ -63,7 +63,12 @@ TEST_F(BrowsePlacesTest, TheFiltersFollowTheScreenAndWhetherMetafilesAreAllowed)
     EXPECT_EQ(UsualFilter(false, 4), QStringLiteral("*.bmp;"));
     EXPECT_EQ(UsualFilter(false, 32), QStringLiteral("*.bmp;*.jpg;*.gif"));
     EXPECT_EQ(PatternsOf(QStringLiteral("*.bmp;")), QStringList{QStringLiteral("*.bmp")});
-    EXPECT_FALSE(PatternsOf(AllPicturesFilter(false)).contains(QStringLiteral("*.wmf")));
+    const QStringList all{QStringLiteral("*.bmp"),  QStringLiteral("*.jpg"),  QStringLiteral("*.jpeg"),
+                          QStringLiteral("*.jfif"), QStringLiteral("*.gif"),  QStringLiteral("*.png"),
+                          QStringLiteral("*.webp"), QStringLiteral("*.tif"),  QStringLiteral("*.tiff"),
+                          QStringLiteral("*.heic"), QStringLiteral("*.heif"), QStringLiteral("*.avif")};
+    EXPECT_EQ(PatternsOf(AllPicturesFilter(false)), all);
+    EXPECT_EQ(PatternsOf(AllPicturesFilter(true)), all + QStringList{QStringLiteral("*.wmf")});
 }
 
 TEST_F(BrowsePlacesTest, DriveLettersAreComparedWithoutCase) {

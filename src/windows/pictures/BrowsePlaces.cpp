@@ -117,7 +117,8 @@ QString UsualFilter(bool bAllowWMF, int iBitsPerPixel) {
 }
 
 QString AllPicturesFilter(bool bAllowWMF) {
-    const QString pictures = QStringLiteral("*.bmp;*.jpg;*.jpeg;*.gif;*.png;*.webp;*.tif;*.tiff;*.heic;*.heif");
+    const QString pictures =
+        QStringLiteral("*.bmp;*.jpg;*.jpeg;*.jfif;*.gif;*.png;*.webp;*.tif;*.tiff;*.heic;*.heif;*.avif");
     return bAllowWMF ? pictures + QStringLiteral(";*.wmf") : pictures;
 }
 
