@@ -70,6 +70,14 @@ TEST_F(GeometryTest, SpacesLieWhereTheTableSays) {
     ExpectRect(m_SpaceRect(7, SpacePart::Whole), 0.0249F, 0.7131F, 0.1705F, 0.7983F, "first of the left");
     ExpectRect(m_SpaceRect(14, SpacePart::Whole), 0.2017F, 0.0249F, 0.2869F, 0.1705F, "first of the top");
     ExpectRect(m_SpaceRect(21, SpacePart::Whole), 0.8295F, 0.2017F, 0.9751F, 0.2869F, "first of the right");
+    for (int i = 0; i < 7; ++i) {
+        const float high = 0.7983F - 0.0852F * float(i);
+        const float low = 0.2017F + 0.0852F * float(i);
+        ExpectRect(m_SpaceRect(i, SpacePart::Whole), high - 0.0852F, 0.8295F, high, 0.9751F, "bottom");
+        ExpectRect(m_SpaceRect(7 + i, SpacePart::Whole), 0.0249F, high - 0.0852F, 0.1705F, high, "left");
+        ExpectRect(m_SpaceRect(14 + i, SpacePart::Whole), low, 0.0249F, low + 0.0852F, 0.1705F, "top");
+        ExpectRect(m_SpaceRect(21 + i, SpacePart::Whole), 0.8295F, low, 0.9751F, low + 0.0852F, "right");
+    }
     ExpectRect(m_SpaceRect(0, SpacePart::Band), 0.7131F, 0.8295F, 0.7983F, 0.8503F, "band of the bottom");
     ExpectRect(m_SpaceRect(7, SpacePart::Band), 0.1497F, 0.7131F, 0.1705F, 0.7983F, "band of the left");
     ExpectRect(m_SpaceRect(14, SpacePart::Band), 0.2017F, 0.1497F, 0.2869F, 0.1705F, "band of the top");
@@ -168,14 +176,18 @@ TEST_F(GeometryTest, CornersHaveTheirImagesAndAnchors) {
 }
 
 TEST_F(GeometryTest, CornersAreSquaresWithTheirInnerTipCutOff) {
-    // The outer point of each corner is the board's, and its outline mirrors that of the corner opposite.
-    for (int i = 0; i < 5; ++i) {
-        EXPECT_NEAR(m_CornerPoly(0)[size_t(i)].x, 1 - m_CornerPoly(2)[size_t(i)].x, 1e-6F);
-        EXPECT_NEAR(m_CornerPoly(0)[size_t(i)].y, 1 - m_CornerPoly(2)[size_t(i)].y, 1e-6F);
-        EXPECT_NEAR(m_CornerPoly(1)[size_t(i)].x, 1 - m_CornerPoly(3)[size_t(i)].x, 1e-6F);
+    const float points[4][5][2] = {
+        {{0.9751F, 0.9751F}, {0.7983F, 0.9751F}, {0.7983F, 0.8087F}, {0.8087F, 0.7983F}, {0.9751F, 0.7983F}},
+        {{0.0249F, 0.9751F}, {0.0249F, 0.7983F}, {0.1913F, 0.7983F}, {0.2017F, 0.8087F}, {0.2017F, 0.9751F}},
+        {{0.0249F, 0.0249F}, {0.2017F, 0.0249F}, {0.2017F, 0.1913F}, {0.1913F, 0.2017F}, {0.0249F, 0.2017F}},
+        {{0.9751F, 0.0249F}, {0.9751F, 0.2017F}, {0.8087F, 0.2017F}, {0.7983F, 0.1913F}, {0.7983F, 0.0249F}},
+    };
+    for (int corner = 0; corner < 4; ++corner) {
+        for (int i = 0; i < 5; ++i) {
+            EXPECT_FLOAT_EQ(m_CornerPoly(corner)[size_t(i)].x, points[corner][i][0]) << corner << ' ' << i;
+            EXPECT_FLOAT_EQ(m_CornerPoly(corner)[size_t(i)].y, points[corner][i][1]) << corner << ' ' << i;
+        }
     }
-    EXPECT_FLOAT_EQ(m_CornerPoly(0)[2].y, 0.8087F);
-    EXPECT_FLOAT_EQ(m_CornerPoly(0)[3].x, 0.8087F);
 }
 
 TEST_F(GeometryTest, CentreBoxesLieWhereTheTableSays) {
@@ -199,7 +211,15 @@ TEST_F(GeometryTest, SpecialTextsStartWithTheirLook) {
     EXPECT_NEAR(word.fWidthLimit, -0.3545F * w, 1e-6F);
     EXPECT_FALSE(word.bItalic);
     EXPECT_NEAR(m_CenterText(1).anchor.x, 0.2204F + 0.319F * w, 1e-6F);
+    EXPECT_EQ(m_CenterText(1).sFamily, QStringLiteral("Arial"));
+    EXPECT_NEAR(m_CenterText(1).fFontHeight, 0.333F * h, 1e-6F);
+    EXPECT_NEAR(m_CenterText(1).anchor.y, 0.2473F + 0.333F * h, 1e-6F);
     EXPECT_NEAR(m_CenterText(1).fWidthLimit, -0.49F * w, 1e-6F);
+    EXPECT_FALSE(m_CenterText(1).bItalic);
+    EXPECT_FLOAT_EQ(m_CenterText(2).anchor.x, 0.5F);
+    EXPECT_FLOAT_EQ(m_CenterText(2).anchor.y, 0.4F);
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(m_CenterText(i).sAlign, QStringLiteral("C")) << i;
     EXPECT_EQ(m_CenterText(2).sFamily, QStringLiteral("Times New Roman"));
     EXPECT_FLOAT_EQ(m_CenterText(2).fFontHeight, 0.02F);
     EXPECT_FLOAT_EQ(m_CenterText(2).fWidthLimit, 0.35919F);
