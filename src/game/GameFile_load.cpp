@@ -237,9 +237,18 @@ bool GameReader::ReadTokens() {
 bool ReadWithQueuedMessages(GameReader& reader) {
     const bool ownQueue = !basMsgQueue::MsgQueue_IsOpen();
     if (ownQueue) basMsgQueue::MsgQueue_Init();
-    const bool good = reader.Read();
-    if (ownQueue) basMsgQueue::MsgQueue_Display();
-    return good;
+    const auto display = [ownQueue] {
+        if (ownQueue) basMsgQueue::MsgQueue_Display();
+    };
+    try {
+        const bool good = reader.Read();
+        display();
+        return good;
+    } catch (...) {
+        // The queue must not stay open, or every later message would wait in it.
+        display();
+        throw;
+    }
 }
 
 } // namespace

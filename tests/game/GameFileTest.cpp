@@ -2,6 +2,7 @@
 #include "support/FileFixture.h"
 
 #include "platform/Files.h"
+#include "services/basMsgQueue.h"
 
 namespace {
 
@@ -138,11 +139,26 @@ TEST_F(LoadTest, BlankNotesAreTakenAsBitmapsWhereThereAreSuch) {
 
 TEST_F(LoadTest, CaptionsOfTheSheetsCarryTheProgramsVersion) {
     EXPECT_EQ(Load(WriteGame(PlainLines())), 0);
-    EXPECT_EQ(m_CenterText(6).Lines(), (QStringList{QStringLiteral("This is Green"), QStringLiteral("Game Box & Board"),
-                                                    QStringLiteral("Labels #1"), QStringLiteral("(Program Rev 8.0)")}));
-    EXPECT_EQ(m_CenterText(10).sText, QStringLiteral("Labels for\r\nDeed Card Sheet #1"));
-    EXPECT_EQ(m_CenterText(11).sText, m_CenterText(12).sText);
-    EXPECT_EQ(m_CenterText(13).sText, m_CenterText(14).sText);
+    const QString board =
+        QStringLiteral("CUT ALONG THE DOTTED LINES, THEN PEEL & STICK EACH TO THE APPROPRIATE GAME BOARD SPACE");
+    const QString box = QStringLiteral("AFTER PRINTING, CUT ALONG THE DOTTED LINES. THEN PEEL & STICK EACH TO THE "
+                                       "APPROPRIATE SPACE ON THE GAME BOX");
+    const QString captions[] = {
+        QStringLiteral("This is Green\r\nGame Box & Board\r\nLabels #1\r\n(Program Rev 8.0)"),
+        QStringLiteral("This is\r\nGreen\r\nGame Board\r\nLabels #2\r\n(Program Rev 8.0)"),
+        QStringLiteral("Game Box\r\nGreen Label Sheet"),
+        QStringLiteral("Game Box\r\nRed Label Sheet\r\n(Program Rev 8.0)"),
+        QStringLiteral("Labels for\r\nDeed Card Sheet #1"),
+        board,
+        board,
+        box,
+        box,
+        QStringLiteral("CUT ALONG THE DOTTED LINES, THEN PEEL & STICK EACH TO THE APPROPRIATE DEED CARD SPACE"),
+        QStringLiteral("Labels for\r\nDeed Card Sheet #2"),
+    };
+    for (int i = 6; i <= 16; ++i)
+        EXPECT_EQ(m_CenterText(i).sText, captions[i - 6]) << i;
+    EXPECT_EQ(m_CenterText(7).Lines().size(), 5);
 }
 
 TEST_F(LoadTest, LoadedGameIsUnchangedAndLeavesNoAutosave) {
@@ -247,6 +263,17 @@ TEST_F(LoadTest, ManyMissingPicturesBringOneBox) {
     EXPECT_EQ(desktop.boxes[0].sText.split(QStringLiteral("\r\n")).size(), 6);
     EXPECT_EQ(Load(WriteGame(lines)), 0);
     EXPECT_EQ(desktop.boxes.size(), 1) << "told once";
+}
+
+TEST_F(LoadTest, LoadThatEndsTheProgramLeavesNoMessageWaiting) {
+    QStringList lines = PlainLines();
+    lines[3] = QStringLiteral("0, \"t\", \"gone.bmp\",0,0,0");
+    lines[4] = QStringLiteral("1, \"t\", \"\",0,0,0, \"Arial\",R,0");
+    EXPECT_THROW(Load(WriteGame(lines)), ProgramEnded);
+    EXPECT_FALSE(basMsgQueue::MsgQueue_IsOpen());
+    ASSERT_EQ(desktop.boxes.size(), 2);
+    EXPECT_EQ(desktop.boxes[0].sText, QStringLiteral("Assertion Failure: \r\n\r\nSize set to zero in C_SpaceSetText"));
+    EXPECT_TRUE(desktop.boxes[1].sText.contains(QStringLiteral("gone.bmp")));
 }
 
 TEST_F(LoadTest, PicturesBesideTheGameAreFound) {
