@@ -43,6 +43,8 @@ void PdfPrinter::OpenPage() {
     m_pageOpen = true;
     ++m_pages;
     if (!opened || !m_writer) {
+        // What the page before was painted with still holds the picture.
+        m_context.reset();
         m_nowhere = QImage(1, 1, QImage::Format_RGB32);
         m_context = std::make_unique<DeviceContext>(m_nowhere);
         return;

@@ -63,6 +63,17 @@ TEST_F(PrinterTest, AFileThatCannotBeWrittenIsToldByCloseAndLeavesNothing) {
     EXPECT_FALSE(error.isEmpty());
 }
 
+TEST_F(PrinterTest, ManyPagesIntoAFileThatCannotBeWrittenAreToldOnce) {
+    PdfPrinter printer(PathOf(QStringLiteral("no such folder/x.pdf")), QStringLiteral("x"));
+    for (int page = 0; page < 3; ++page) {
+        printer.hDC().FillRect(0, 0, 600, 600, Color::Black());
+        printer.EndDoc();
+    }
+    QString error;
+    EXPECT_FALSE(printer.Close(error));
+    EXPECT_FALSE(error.isEmpty());
+}
+
 TEST_F(PrinterTest, AKilledDocumentLeavesTheOldFile) {
     const QString path = WriteFile(QStringLiteral("x.pdf"), "old");
     {
