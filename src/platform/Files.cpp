@@ -1,17 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "platform/Files.h"
 
+#include "platform/SaveFile.h"
+
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStandardPaths>
-
-#ifdef Q_OS_UNIX
-#include <fcntl.h>
-#include <unistd.h>
-#endif
 
 namespace Files {
 namespace {
@@ -55,20 +51,6 @@ bool Failed(const QFileDevice& file, QString& sError) {
 bool HasTrash() {
     const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
     return !data.isEmpty() && QDir().mkpath(data);
-}
-
-// A file that was renamed stands under its new name after a power cut only when its folder has reached the disk
-// too. Where a folder can't be flushed the file is in place all the same.
-void FlushFolderOf(const QString& sPath) {
-#ifdef Q_OS_UNIX
-    const QString folder = QFileInfo(QFileInfo(sPath).canonicalFilePath()).path();
-    const int handle = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (handle < 0) return;
-    ::fsync(handle);
-    ::close(handle);
-#else
-    Q_UNUSED(sPath)
-#endif
 }
 
 // Renaming over a device would replace the device by a file, and one may be read for ever.
@@ -155,7 +137,7 @@ std::optional<QByteArray> ReadAll(const QString& sPath, QString& sError) {
     return bytes;
 }
 
-WholeFile::WholeFile(const QString& sPath) : m_path(sPath), m_file(std::make_unique<QSaveFile>(sPath)) {
+WholeFile::WholeFile(const QString& sPath) : m_path(sPath), m_file(std::make_unique<SaveFile>(sPath)) {
     m_file->setDirectWriteFallback(true);
 }
 
@@ -184,11 +166,7 @@ bool WholeFile::Commit(QString& sError) {
         Memory()->insert(m_path, m_bytes);
         return true;
     }
-    // The toolkit's commit doesn't look whether its buffer reached the disk, and on a full one would put an
-    // empty file in place of the old one.
-    if (!m_file->flush() || !m_file->commit()) return Failed(*m_file, sError);
-    FlushFolderOf(m_path);
-    return true;
+    return m_file->Commit(sError);
 }
 
 bool WriteWhole(const QString& sPath, const QByteArray& bytes, QString& sError) {

@@ -9,7 +9,7 @@
 #include <memory>
 #include <optional>
 
-class QSaveFile;
+class SaveFile;
 
 /// Every operation on the disk that can lose or keep a user's work goes through here, so that a test can
 /// make any single one of them fail, or end the program at it.
@@ -88,7 +88,7 @@ public:
 
 private:
     QString m_path;
-    std::unique_ptr<QSaveFile> m_file;
+    std::unique_ptr<SaveFile> m_file;
     /// What is to be put among the files in memory.
     QByteArray m_bytes;
 };

@@ -2,10 +2,10 @@
 #include "platform/Printer.h"
 
 #include "platform/Files.h"
+#include "platform/SaveFile.h"
 
 #include <QPageLayout>
 #include <QPdfWriter>
-#include <QSaveFile>
 
 namespace {
 
@@ -20,7 +20,7 @@ Printer* Printer::Install(Printer* printer) { return std::exchange(CurrentPrinte
 Printer* Printer::Current() { return CurrentPrinter(); }
 
 PdfPrinter::PdfPrinter(const QString& sPath, const QString& sTitle, QPageSize::PageSizeId paper, int dpi)
-    : m_title(sTitle), m_dpi(dpi), m_paper(paper), m_file(std::make_unique<QSaveFile>(sPath)) {}
+    : m_title(sTitle), m_dpi(dpi), m_paper(paper), m_file(std::make_unique<SaveFile>(sPath)) {}
 
 PdfPrinter::~PdfPrinter() { KillDoc(); }
 
@@ -94,8 +94,5 @@ bool PdfPrinter::Close(QString& sError) {
         sError = m_openError;
         return false;
     }
-    // The commit doesn't look whether the buffer reached the disk.
-    if (m_file->flush() && m_file->commit()) return true;
-    sError = m_file->errorString();
-    return false;
+    return m_file->Commit(sError);
 }

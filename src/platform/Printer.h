@@ -8,7 +8,7 @@
 #include <memory>
 
 class QPdfWriter;
-class QSaveFile;
+class SaveFile;
 
 enum class PageOrientation { Portrait = 1, Landscape = 2 };
 
@@ -78,7 +78,7 @@ private:
     PageOrientation m_orientation = PageOrientation::Portrait;
     bool m_pageOpen = false;
     int m_pages = 0;
-    std::unique_ptr<QSaveFile> m_file;
+    std::unique_ptr<SaveFile> m_file;
     QString m_openError;
     std::unique_ptr<QPdfWriter> m_writer;
     std::unique_ptr<QPainter> m_painter;

@@ -3,6 +3,10 @@
 
 #include "support/TestFixture.h"
 
+#ifdef Q_OS_UNIX
+#include "support/SmallDisk.h"
+#endif
+
 #include <QDir>
 
 class FilesTest : public TavloraTest {};
@@ -47,6 +51,36 @@ TEST_F(FilesTest, AFileFarLargerThanAnyOfOursIsRefusedUnread) {
     EXPECT_FALSE(Files::ReadAll(path, error));
     EXPECT_FALSE(error.isEmpty());
 }
+
+#ifdef Q_OS_UNIX
+TEST_F(FilesTest, ADiskThatFillsUpInTheMiddleOfAWriteLeavesTheOldFileAndSaysWhy) {
+    const QString path = WriteFile(QStringLiteral("keep.txt"), "old");
+    QString error;
+    bool written = true;
+    {
+        const SmallDisk disk(100'000);
+        written = Files::WriteWhole(path, QByteArray(300'000, 'x'), error);
+    }
+    EXPECT_FALSE(written);
+    EXPECT_FALSE(error.isEmpty() || error.startsWith(QStringLiteral("Unknown"))) << qPrintable(error);
+    EXPECT_EQ(ReadFile(path), QByteArray("old"));
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{QStringLiteral("keep.txt")});
+
+    // In little pieces, which are gathered first.
+    Files::WholeFile file(path);
+    ASSERT_TRUE(file.Open(error));
+    {
+        const SmallDisk disk(100'000);
+        written = true;
+        for (int i = 0; i < 1000 && written; ++i)
+            written = file.Write(QByteArray(300, 'x'), error);
+        written = written && file.Commit(error);
+    }
+    EXPECT_FALSE(written);
+    EXPECT_FALSE(error.isEmpty() || error.startsWith(QStringLiteral("Unknown"))) << qPrintable(error);
+    EXPECT_EQ(ReadFile(path), QByteArray("old"));
+}
+#endif
 
 TEST_F(FilesTest, AWriteThroughALinkReplacesTheFileAndKeepsTheLink) {
     ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("elsewhere")));

@@ -6,6 +6,10 @@
 #include "platform/Files.h"
 #include "support/TestFixture.h"
 
+#ifdef Q_OS_UNIX
+#include "support/SmallDisk.h"
+#endif
+
 #include <QDir>
 #include <QPrinterInfo>
 #include <QProcess>
@@ -73,6 +77,32 @@ TEST_F(PrinterTest, ManyPagesIntoAFileThatCannotBeWrittenAreToldOnce) {
     EXPECT_FALSE(printer.Close(error));
     EXPECT_FALSE(error.isEmpty());
 }
+
+#ifdef Q_OS_UNIX
+TEST_F(PrinterTest, ADiskThatFillsUpInTheMiddleOfAPageLeavesTheOldFileAndSaysWhy) {
+    const QString path = WriteFile(QStringLiteral("x.pdf"), "old");
+    // Noise, which nothing makes smaller.
+    QImage noise(300, 300, QImage::Format_ARGB32_Premultiplied);
+    quint32 random = 1;
+    for (int y = 0; y < noise.height(); ++y) {
+        for (int x = 0; x < noise.width(); ++x)
+            noise.setPixel(x, y, (random = random * 1664525U + 1013904223U) | 0xFF000000U);
+    }
+    QString error;
+    bool closed = true;
+    {
+        const SmallDisk disk(100'000);
+        PdfPrinter printer(path, QStringLiteral("x"));
+        for (int picture = 0; picture < 3; ++picture)
+            printer.hDC().Painter().drawImage(QRectF(picture * 500, 0, 400, 400), noise);
+        closed = printer.Close(error);
+    }
+    EXPECT_FALSE(closed);
+    EXPECT_FALSE(error.isEmpty() || error.startsWith(QStringLiteral("Unknown"))) << qPrintable(error);
+    EXPECT_EQ(ReadFile(path), QByteArray("old"));
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{QStringLiteral("x.pdf")});
+}
+#endif
 
 TEST_F(PrinterTest, AKilledDocumentLeavesTheOldFile) {
     const QString path = WriteFile(QStringLiteral("x.pdf"), "old");
