@@ -58,11 +58,17 @@ void BinaryFile::PutU32(quint32 value) {
 void BinaryFile::PutBytes(const QByteArray& bytes) {
     if (!m_writeError.isEmpty()) return;
     if (!Files::IsPermitted(Files::Operation::Write, m_file->fileName(), m_writeError)) return;
-    if (m_file->write(bytes) != bytes.size()) m_writeError = m_file->errorString();
+    if (m_file->write(bytes) != bytes.size()) NoteWriteError();
+}
+
+void BinaryFile::NoteWriteError() {
+    // A write that only came out short says no reason; what is left is tried again, and does.
+    m_file->flush();
+    m_writeError = m_file->errorString();
 }
 
 bool BinaryFile::WasWritten(QString& sError) {
-    if (m_writeError.isEmpty() && !m_file->flush()) m_writeError = m_file->errorString();
+    if (m_writeError.isEmpty() && !m_file->flush()) NoteWriteError();
     if (!m_writeError.isEmpty()) sError = m_writeError;
     return m_writeError.isEmpty();
 }

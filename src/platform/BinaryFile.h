@@ -44,6 +44,7 @@ public:
 private:
     enum class Mode { Read, WriteOver, WriteEmpty };
     bool Open(const QString& sPath, Mode mode, QString& sError);
+    void NoteWriteError();
 
     std::unique_ptr<QFile> m_file;
     QString m_writeError;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/Files.h"
 
+#include "platform/BinaryFile.h"
 #include "support/TestFixture.h"
 
 #ifdef Q_OS_UNIX
@@ -79,6 +80,21 @@ TEST_F(FilesTest, ADiskThatFillsUpInTheMiddleOfAWriteLeavesTheOldFileAndSaysWhy)
     EXPECT_FALSE(written);
     EXPECT_FALSE(error.isEmpty() || error.startsWith(QStringLiteral("Unknown"))) << qPrintable(error);
     EXPECT_EQ(ReadFile(path), QByteArray("old"));
+}
+#endif
+
+#ifdef Q_OS_UNIX
+TEST_F(FilesTest, ABinaryFileTellsWhyItWasNotWritten) {
+    BinaryFile file;
+    QString error;
+    ASSERT_TRUE(file.OpenEmpty(PathOf(QStringLiteral("rows.bmp")), error));
+    {
+        const SmallDisk disk(100'000);
+        for (int row = 0; row < 1000; ++row)
+            file.PutBytes(QByteArray(300, 'x'));
+        EXPECT_FALSE(file.WasWritten(error));
+    }
+    EXPECT_FALSE(error.isEmpty() || error.startsWith(QStringLiteral("Unknown"))) << qPrintable(error);
 }
 #endif
 
