@@ -107,6 +107,14 @@ TEST_F(BrowseTest, EveryControlHasItsNameAndCaption) {
     });
 }
 
+TEST_F(BrowseTest, TheKindsOfPictureAreReadInFullOnASmallScreenToo) {
+    Browse(QString(), [](QWidget& window) {
+        const auto& filter = Find<QComboBox>(window, "cboFilter");
+        EXPECT_GE(filter.width(), filter.sizeHint().width());
+        Click(window, "cmdCancel");
+    });
+}
+
 TEST_F(BrowseTest, AnEmptyPathOpensInTheFolderHandedOver) {
     Picture(QStringLiteral("stick/cat.bmp"));
     Browse(

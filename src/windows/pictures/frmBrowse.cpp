@@ -65,7 +65,8 @@ frmBrowse::frmBrowse(QWidget* parent) : QDialog(parent) {
     setWindowTitle(QStringLiteral("Image Browser"));
     BuildControls();
     Connect();
-    adjustSize();
+    // The toolkit's own adjusting leaves a third of the screen free, and on a small one cuts the captions short.
+    resize(sizeHint());
     basCommon::ShowEntireForm(*this);
 }
 
