@@ -44,11 +44,21 @@ enum LabelSize {
 
 double Size(LabelSize size) { return basTAVL::g_dblLabelSizes(size); }
 
-// How many times 96 dots an inch a piece can be drawn at on a surface of the height allowed.
-double FactorFor(double dblInches, double largest, int margin) {
-    const int lMax = Screen::SurfaceLimit().height() - margin;
+// How many times 96 dots an inch a length can be drawn at on so many pixels of a surface.
+double FactorFor(double dblInches, double largest, int lMax) {
     const int lNeed = CLng(dblInches * kFormDpi * largest);
     return lNeed > lMax ? lMax * largest / lNeed : largest;
+}
+
+double StickerFactor(double dblHeight) {
+    return FactorFor(dblHeight, kLargestFactor, Screen::SurfaceLimit().height() - kMarginHeight);
+}
+
+// A note is wider than high, so its width may be what doesn't fit.
+double MoneyFactor() {
+    const QSize room = Screen::SurfaceLimit() - QSize(kMoneyMargin, kMoneyMargin);
+    return std::min(FactorFor(kNoteWidth, kMoneyFactor, room.width()),
+                    FactorFor(kNoteHeight, kMoneyFactor, room.height()));
 }
 
 int PixelsOf(double dblInches, double factor) { return CLng(dblInches * kFormDpi * factor); }
@@ -70,7 +80,7 @@ bool frmBMP::WritePiece(const QString& sFullPathDest, QSize size, double dblDPI,
 }
 
 bool frmBMP::GenerateCornerImage(const QString& sFullPathDest, int iCorner) try {
-    const double factor = FactorFor(Size(kCorner), kLargestFactor, kMarginHeight);
+    const double factor = StickerFactor(Size(kCorner));
     const int lSide = PixelsOf(Size(kCorner), factor);
     return WritePiece(sFullPathDest, QSize(lSide, lSide), factor * kFormDpi, [=](Surface& form) {
         form.Line(0, 0, lSide, lSide, basTAVL::g_lPrintBack(), LineForm::FilledBox);
@@ -85,7 +95,7 @@ bool frmBMP::GenerateCornerImage(const QString& sFullPathDest, int iCorner) try 
 }
 
 bool frmBMP::GenerateSpaceStickerImage(const QString& sFullPathDest, int iSpace) try {
-    const double factor = FactorFor(Size(kHeight), kLargestFactor, kMarginHeight);
+    const double factor = StickerFactor(Size(kHeight));
     const QSize size(PixelsOf(Size(kWidth), factor), PixelsOf(Size(kHeight), factor));
     return WritePiece(sFullPathDest, size, factor * kFormDpi, [=](Surface& form) {
         form.Line(0, 0, size.width(), size.height(), basTAVL::g_lPrintBack(), LineForm::FilledBox);
@@ -109,7 +119,15 @@ void DrawBox(Surface& form, int lWidth, int lHeight, Color fill) {
 void DrawCost(Surface& form, const C_Space& space, int lWidth, int lBand, double factor) {
     const int lLine = PixelsOf(Size(kFullCost), factor);
     basDraw::Draw_SetHdc(&form.hDC());
-    basDraw::Draw_SetFont(QStringLiteral("Arial"), lLine, CLng(lLine / 2.0), 0, 0, false, false, false);
+    const auto useWidth = [lLine](int lFont) {
+        basDraw::Draw_SetFont(QStringLiteral("Arial"), lLine, lFont, 0, 0, false, false, false);
+    };
+    const int lFont = CLng(lLine / 2.0);
+    useWidth(lFont);
+    // Only words are as wide as this, as on the Lotto space; their first and last letter would be cut off.
+    const int lRoom = lWidth - 2 * CLng(form.DrawWidth);
+    const int lText = basDraw::Draw_GetWidth(space.Cost);
+    if (lText > lRoom) useWidth(Int(double(lFont) * lRoom / lText));
     basDraw::Draw_Text(space.Cost, QStringLiteral("C"), CLng(lWidth / 2.0), CLng(0.25 * lBand), space.CostColor);
     basDraw::Draw_ReleaseObjects();
 }
@@ -135,7 +153,7 @@ void DrawFullSpace(Surface& form, int iSpace, double factor) {
 } // namespace
 
 bool frmBMP::GenerateSpaceFullImage(const QString& sFullPathDest, int iSpace) try {
-    const double factor = FactorFor(Size(kFullHeight), kLargestFactor, kMarginHeight);
+    const double factor = StickerFactor(Size(kFullHeight));
     const QSize size(PixelsOf(Size(kFullWidth), factor), PixelsOf(Size(kFullHeight), factor));
     return WritePiece(sFullPathDest, size, factor * kFormDpi,
                       [=](Surface& form) { DrawFullSpace(form, iSpace, factor); });
@@ -144,7 +162,7 @@ bool frmBMP::GenerateSpaceFullImage(const QString& sFullPathDest, int iSpace) tr
 }
 
 bool frmBMP::GenerateMoneyImage(const QString& sFullPathDest, int iMoney) try {
-    const double factor = FactorFor(kNoteHeight, kMoneyFactor, kMoneyMargin);
+    const double factor = MoneyFactor();
     const QSize size(PixelsOf(kNoteWidth, factor), PixelsOf(kNoteHeight, factor));
     return WritePiece(sFullPathDest, size, factor * kFormDpi, [=](Surface& form) {
         basTAVL::g_oMoney(iMoney).DrawMoney(form, factor * kFormDpi, 0, 0, true, true, false);

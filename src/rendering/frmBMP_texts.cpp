@@ -178,8 +178,9 @@ struct FoldedLine {
     int lWidth = 0; ///< Of the unfolded picture.
     int lBandWidth = 0;
     int lBands = 1;
+    double dblDPI = kLineDpi; ///< Not what the rounded height gives: the width would come out another.
 
-    void MeasureAt(int height, double dblDPI, double dblwInches, Surface& probe, const QString& sText, bool bItalic) {
+    void MeasureAt(int height, double dblwInches, Surface& probe, const QString& sText, bool bItalic) {
         lHeight = std::max(height, 1);
         UseSize(probe, lHeight);
         const double tall = probe.TextHeight(sText);
@@ -202,12 +203,16 @@ FoldedLine Fold(const QString& sText, const TextStyle& style, double dblwInches,
     FoldedLine line;
     line.lBandWidth = lMaxW;
     int lH = CLng(dblhInches * kLineDpi);
-    if (2 * lH > lMaxH) lH = lMaxH / 2; // two bands always fit
-    line.MeasureAt(lH, lH / dblhInches, dblwInches, probe, sText, style.bItalic);
+    const auto lowerTo = [&](int height) {
+        lH = height;
+        line.dblDPI = lH / dblhInches;
+    };
+    if (2 * lH > lMaxH) lowerTo(lMaxH / 2); // two bands always fit
+    line.MeasureAt(lH, dblwInches, probe, sText, style.bItalic);
     // A lower line is a shorter one too, so this ends: at the latest with bands of one pixel.
     while (line.lBands * line.lHeight > lMaxH && line.lHeight > 1) {
-        lH = std::min(lMaxH / line.lBands, line.lHeight - 1);
-        line.MeasureAt(lH, lH / dblhInches, dblwInches, probe, sText, style.bItalic);
+        lowerTo(std::min(lMaxH / line.lBands, line.lHeight - 1));
+        line.MeasureAt(lH, dblwInches, probe, sText, style.bItalic);
     }
     return line;
 }
@@ -235,7 +240,7 @@ bool frmBMP::GenerateSingleLineImage(const QString& sFullPathDest, double dblwIn
     if (!file.CreateFileHoldingImage(sFullPathDest, form.hDC(), line.lWidth, line.lHeight, line.lBandWidth,
                                      line.lHeight, 24))
         return false;
-    RecordingForm recording(QSize(line.lWidth, line.lHeight), line.lHeight / dblhInches);
+    RecordingForm recording(QSize(line.lWidth, line.lHeight), line.dblDPI);
     style.UseOn(recording);
     UseSize(recording, line.size);
     PrintAt(recording, line, text, 0);

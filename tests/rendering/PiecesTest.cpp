@@ -99,6 +99,35 @@ TEST_F(PiecesTest, ALineBreakBecomesABlank) {
     EXPECT_EQ(Load(file).width(), broken);
 }
 
+TEST_F(PiecesTest, ALinesWidthIsTakenAt300DotsAnInchThoughItsHeightIsRounded) {
+    // 0.375 inch are 112 and a half dots.
+    ASSERT_TRUE(frmBMP::Instance().GenerateSingleLineImage(file, 2.875, 0.375, QStringLiteral("Good News!"),
+                                                           QStringLiteral("Arial"), true, false, Color::Black(),
+                                                           Color::White()));
+    EXPECT_EQ(Load(file).size(), QSize(862, 112));
+}
+
+TEST_F(PiecesTest, PiecesBecomeSmallerOnASurfaceThatIsTooSmallForThem) {
+    Screen::SetSurfaceLimit(QSize(640, 480));
+    frmBMP& form = frmBMP::Instance();
+    ASSERT_TRUE(form.GenerateCornerImage(file, 0));
+    EXPECT_EQ(Load(file).size(), QSize(456, 456)) << "24 pixels are the window's";
+    ASSERT_TRUE(form.GenerateSpaceFullImage(file, 0));
+    EXPECT_EQ(Load(file).size(), QSize(268, 456));
+    ASSERT_TRUE(form.GenerateSpaceStickerImage(file, 0));
+    EXPECT_EQ(Load(file).size(), QSize(292, 456));
+    ASSERT_TRUE(form.GenerateTextImage(file, 4.0, 1.0, QStringLiteral("a"), QStringLiteral("Arial"), false, false, 0.2,
+                                       Color::Black(), Color::White()));
+    EXPECT_EQ(Load(file).size(), QSize(632, 158));
+    ASSERT_TRUE(form.GenerateMoneyImage(file, 0));
+    EXPECT_EQ(Load(file).size(), QSize(632, 337)) << "8 pixels are the window's";
+    Screen::SetSurfaceLimit(QSize(1000, 300));
+    ASSERT_TRUE(form.GenerateMoneyImage(file, 0));
+    EXPECT_EQ(Load(file).size(), QSize(548, 292));
+    ASSERT_TRUE(form.GenerateTokenImage(file, 0));
+    EXPECT_EQ(Load(file).size(), QSize(266, 266)) << "always";
+}
+
 TEST_F(PiecesTest, AWholeSpaceStandsOnThePrintGroundWithItsBandAndPrice) {
     C_Space& space = basTAVL::g_oSpaces(5);
     space.SpaceColor = Color::Rgb(192, 0, 96);
@@ -111,6 +140,28 @@ TEST_F(PiecesTest, AWholeSpaceStandsOnThePrintGroundWithItsBandAndPrice) {
     EXPECT_EQ(image.pixelColor(30, 100), QColor(192, 0, 96));
     EXPECT_EQ(image.pixelColor(30, 300), QColor(0xB6, 0xDD, 0xC7));
     EXPECT_EQ(image.pixelColor(2, 400), QColor(Qt::black));
+}
+
+TEST_F(PiecesTest, WordsInAPricesPlaceKeepTheirFirstAndLastLetter) {
+    C_Space& space = basTAVL::g_oSpaces(10);
+    space.SpaceColor = Color::Black();
+    space.CostColor = Color::Rgb(255, 255, 0);
+    space.Cost = QStringLiteral("PLAY LOTTO");
+    ASSERT_TRUE(frmBMP::Instance().GenerateSpaceFullImage(file, 10));
+    const QImage image = Load(file);
+    int first = image.width();
+    int last = 0;
+    for (int y = 0; y < 120; ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (qRed(image.pixel(x, y)) < 128) continue;
+            first = std::min(first, x);
+            last = std::max(last, x);
+        }
+    }
+    EXPECT_GT(first, 8) << "half of the outline";
+    EXPECT_LT(first, 40);
+    EXPECT_LT(last, image.width() - 8);
+    EXPECT_GT(last, image.width() - 40);
 }
 
 TEST_F(PiecesTest, ACornerIs612PixelsWithItsPictureInTheUpperHalf) {
