@@ -46,8 +46,6 @@ private:
     Picture FaceInOval(double dblDPI);
 
     std::array<QString, kTexts> m_sText;
-    /// The metafile last told to be bad.
-    QString m_sBadFace;
     /// The kit's own pictures that were told to be bad.
     QStringList m_sTold;
 };

@@ -2,7 +2,6 @@
 #include "document/C_Money.h"
 
 #include "drawing/basBMP.h"
-#include "drawing/basBMP_metafile.h"
 #include "drawing/basDraw.h"
 #include "drawing/clsBMP.h"
 #include "drawing/DrawDottedBox.h"
@@ -110,10 +109,7 @@ Picture C_Money::LoadOrTell(const QString& sPath) {
 
 // Fills the box of the oval, as the thumbnail does.
 bool C_Money::PaintFace(Surface& form, QSize size) {
-    if (FaceImage.IsWMF()) {
-        basBMP::BMP_DrawWMF(form.hDC(), FaceImage.FullPath(), m_sBadFace, 0, 0, size.width(), size.height());
-        return m_sBadFace != FaceImage.FullPath();
-    }
+    if (FaceImage.IsWMF()) return FaceImage.DrawMetafile(form.hDC(), 0, 0, size.width(), size.height());
     if (FaceImage.GetThumbnail(false).isEmpty()) return false;
     PictureHolder original;
     return FaceImage.PaintPictureZoomed(form, original, ScaleModeKind::Pixels, 0, 0, size.width(), size.height(),

@@ -2,7 +2,6 @@
 #include "document/C_Token.h"
 
 #include "drawing/basBMP.h"
-#include "drawing/basBMP_metafile.h"
 #include "drawing/basDraw.h"
 #include "platform/ClipScope.h"
 #include "platform/Numbers.h"
@@ -68,10 +67,8 @@ bool C_Token::PaintImage(Surface& picDest, PictureHolder& picScratch, int xStart
     }
     const int w = xEnd - xStart;
     const int h = yEnd - yStart;
-    QString bad = Image.BadPath();
-    basBMP::BMP_DrawWMF(picDest.hDC(), Image.FullPath(), bad, CLng(kBeside * w / 2 + xStart),
-                        CLng(kBeside * h / 2 + yStart), CLng(kInscribed * w), CLng(kInscribed * h));
-    return bad != Image.FullPath();
+    return Image.DrawMetafile(picDest.hDC(), CLng(kBeside * w / 2 + xStart), CLng(kBeside * h / 2 + yStart),
+                              CLng(kInscribed * w), CLng(kInscribed * h));
 }
 
 /// How the lines stand in a token's box.

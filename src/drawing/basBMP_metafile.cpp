@@ -40,19 +40,20 @@ std::optional<Metafile> LoadTheMetafile(const QString& sFile) try {
     ErrTail("basBMP!", "LoadTheMetafile", sFile);
 }
 
-void BMP_DrawWMF(DeviceContext& hDC, const QString& sFile, QString& vBadPath, int x, int y, int w, int h) try {
-    if (sFile.isEmpty()) return;
+bool BMP_DrawWMF(DeviceContext& hDC, const QString& sFile, QString& vBadPath, int x, int y, int w, int h) try {
+    if (sFile.isEmpty()) return false;
     if (!basCommon::DoesFileExist(sFile)) {
         TellOnce(sFile, vBadPath,
                  QStringLiteral("Could not find file named '") + sFile + QStringLiteral("'. \n") +
                      QStringLiteral("Area will be left empty. "),
                  vbExclamation);
-        return;
+        return false;
     }
     const std::optional<Metafile> metafile = LoadTheMetafile(sFile);
-    if (metafile && PlayInto(hDC, *metafile, QRectF(x, y, w, h))) return;
+    if (metafile && PlayInto(hDC, *metafile, QRectF(x, y, w, h))) return true;
     TellOnce(sFile, vBadPath, QStringLiteral("Unable to read the file named '") + sFile + QStringLiteral("'."),
              vbOKOnly);
+    return false;
 } catch (...) {
     ErrTail("basBMP!", "BMP_DrawWMF", hDC, sFile, vBadPath, x, y, w, h);
 }

@@ -19,6 +19,7 @@ std::optional<Metafile> LoadTheMetafile(const QString& sFile);
 /// Plays the file so that it fills exactly the rectangle, in device units, and leaves the context as it was.
 /// A missing or unreadable file is told unless it is the one that vBadPath names already, and becomes
 /// vBadPath, so that a caller who keeps it hears of each file once. No name is no picture and no message.
-void BMP_DrawWMF(DeviceContext& hDC, const QString& sFile, QString& vBadPath, int x, int y, int w, int h);
+/// True when it was played.
+bool BMP_DrawWMF(DeviceContext& hDC, const QString& sFile, QString& vBadPath, int x, int y, int w, int h);
 
 } // namespace basBMP

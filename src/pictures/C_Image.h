@@ -7,6 +7,7 @@
 #include <QString>
 
 class C_Image;
+class DeviceContext;
 class PictureHolder;
 class Surface;
 enum class ScaleModeKind;
@@ -129,6 +130,8 @@ public:
     /// ScaleMode says in which units picOriginal tells its size. True when it was painted.
     bool PaintPictureZoomed(Surface& objDest, PictureHolder& picOriginal, ScaleModeKind ScaleMode, double xStart,
                             double yStart, double xEnd, double yEnd, Color lBackColor);
+    /// Stretches the picture, which is a metafile, to a box of the context's units. True when it was played.
+    bool DrawMetafile(DeviceContext& hDC, int x, int y, int w, int h);
     /// Paints the thumbnail, made anew if need be, on the board; a finer rendering of the same where the
     /// thumbnail would be enlarged. For spaces and corners; raises for tokens and money.
     void DrawBitmapToScreen(Surface& picDest, double x, double y, double w, double h);
@@ -186,6 +189,8 @@ private:
     QString m_sBadPath;
     /// The thumbnail last told to be bad: the picture itself may be good.
     QString m_sBadThumb;
+    /// The metafile last told to be bad while it was drawn.
+    QString m_sBadMetafile;
     qint16 m_iZoom = 0;
     qint16 m_fXCenter = 0;
     qint16 m_fYCenter = 0;

@@ -2,6 +2,7 @@
 #include "pictures/C_Image.h"
 
 #include "drawing/basBMP.h"
+#include "drawing/basBMP_metafile.h"
 #include "platform/Desktop.h"
 #include "platform/Folders.h"
 #include "platform/LoadPicture.h"
@@ -170,4 +171,14 @@ bool C_Image::PaintPictureZoomed(Surface& objDest, PictureHolder& picOriginal, S
     return true;
 } catch (...) {
     ErrTail("C_Image!", "PaintPictureZoomed", objDest, picOriginal, ScaleMode, xStart, yStart, xEnd, yEnd, lBackColor);
+}
+
+bool C_Image::DrawMetafile(DeviceContext& hDC, int x, int y, int w, int h) try {
+    // One that was told before is tried all the same: it may be good by now.
+    QString vBadPath = m_sBadMetafile == m_sFullPath ? m_sBadMetafile : m_sBadPath;
+    const bool played = basBMP::BMP_DrawWMF(hDC, m_sFullPath, vBadPath, x, y, w, h);
+    m_sBadMetafile = played ? QString() : m_sFullPath;
+    return played;
+} catch (...) {
+    ErrTail("C_Image!", "DrawMetafile", hDC, x, y, w, h);
 }

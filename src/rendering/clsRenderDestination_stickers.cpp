@@ -2,7 +2,6 @@
 #include "rendering/clsRenderDestination.h"
 
 #include "document/basTAVL.h"
-#include "drawing/basBMP_metafile.h"
 #include "platform/Numbers.h"
 #include "platform/PictureHolder.h"
 #include "platform/Surface.h"
@@ -22,19 +21,14 @@ double CornerContent() { return basTAVL::g_dblLabelSizes(7) - kCornerInset; }
 
 } // namespace
 
-void clsRenderDestination::StickerImage(C_Image& oImage, double dblWidth, double dblHeight, double dblX, double dblY) {
+void clsRenderDestination::StickerImage(C_Image& oImage, int lLeft, int lTop, int lSide) {
     if (oImage.FullPath().isEmpty()) return;
-    const int lX = Pixels(dblX);
-    const int lY = Pixels(dblY);
-    const int lSide = CLng(dblHeight * dblDPI / 2);
-    const int lLeft = CLng((dblWidth * dblDPI - lSide) / 2 + lX);
     if (oImage.IsWMF()) {
-        QString told = oImage.BadPath();
-        basBMP::BMP_DrawWMF(m_oDest->hDC(), oImage.FullPath(), told, lLeft, lY, lSide, lSide);
+        oImage.DrawMetafile(m_oDest->hDC(), lLeft, lTop, lSide, lSide);
         return;
     }
     PictureHolder original;
-    oImage.PaintPictureZoomed(*m_oDest, original, ScaleModeKind::Pixels, lLeft, lY, lLeft + lSide, lY + lSide,
+    oImage.PaintPictureZoomed(*m_oDest, original, ScaleModeKind::Pixels, lLeft, lTop, lLeft + lSide, lTop + lSide,
                               Color::None());
 }
 
@@ -57,14 +51,17 @@ void clsRenderDestination::StickerText(const QStringList& saLines, const C_FontI
 }
 
 void clsRenderDestination::SpaceStickerImageV6(int iSpace, double dblX, double dblY) try {
-    StickerImage(basTAVL::g_oSpaces(iSpace).Image, basTAVL::g_dblLabelSizes(5), basTAVL::g_dblLabelSizes(6), dblX,
-                 dblY);
+    const double w = basTAVL::g_dblLabelSizes(5) * dblDPI;
+    const double h = basTAVL::g_dblLabelSizes(6) * dblDPI;
+    const int lSide = CLng(h / 2);
+    StickerImage(basTAVL::g_oSpaces(iSpace).Image, CLng((w - lSide) / 2 + Pixels(dblX)), Pixels(dblY), lSide);
 } catch (...) {
     ErrTail("clsRenderDestination!", "SpaceStickerImageV6", iSpace, dblX, dblY);
 }
 
 void clsRenderDestination::CornerStickerImageV6(int iCorner, double dblX, double dblY) try {
-    StickerImage(basTAVL::g_oCorners(iCorner).Image, CornerContent(), CornerContent(), dblX, dblY);
+    const double g = CornerContent() * dblDPI;
+    StickerImage(basTAVL::g_oCorners(iCorner).Image, CLng(g / 4 + Pixels(dblX)), Pixels(dblY), CLng(g / 2));
 } catch (...) {
     ErrTail("clsRenderDestination!", "CornerStickerImageV6", iCorner, dblX, dblY);
 }

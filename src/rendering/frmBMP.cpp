@@ -3,7 +3,6 @@
 
 #include "document/basTAVL.h"
 #include "drawing/basBMP.h"
-#include "drawing/basBMP_metafile.h"
 #include "drawing/clsBMP.h"
 #include "platform/BinaryFile.h"
 #include "platform/Files.h"
@@ -58,8 +57,7 @@ QImage frmBMP::Drawn(C_Image& oImage, QSize size, Color backColor) {
     ScratchForm form(size);
     form.SetBackColor(backColor);
     if (oImage.IsWMF()) {
-        QString vBadPath = oImage.BadPath();
-        basBMP::BMP_DrawWMF(form.hDC(), oImage.FullPath(), vBadPath, 0, 0, size.width(), size.height());
+        oImage.DrawMetafile(form.hDC(), 0, 0, size.width(), size.height());
         return form.Image();
     }
     oImage.PaintPictureZoomed(form, picOriginal, ScaleModeKind::Pixels, 0, 0, size.width(), size.height(),
