@@ -9,6 +9,7 @@
 
 #include <QFile>
 #include <QLabel>
+#include <QPushButton>
 
 #include <cmath>
 
@@ -91,6 +92,20 @@ TEST_F(ShowTokensTest, TokensStandInTwoRowsAndTheButtonUnderTheLast) {
         }
         const QRect last = Picture(5).geometry();
         EXPECT_EQ(Find<QWidget>("cmdOK")->pos(), QPoint(last.x(), last.y() + last.height() + 360 / 15));
+    });
+}
+
+TEST_F(ShowTokensTest, AHighButtonIsNotCutOff) {
+    Show([&] {
+        auto* const done = Find<QPushButton>("cmdOK");
+        done->setIconSize(QSize(70, 70));
+        done->setIcon(QPixmap(70, 70));
+        ASSERT_GT(done->sizeHint().height(), 60);
+        for (const QSize size : {QSize(687, 600), gallery.minimumSize()}) {
+            gallery.resize(size);
+            EXPECT_TRUE(gallery.rect().contains(done->geometry())) << size.height();
+            EXPECT_EQ(Picture(5).width(), Picture(5).height());
+        }
     });
 }
 

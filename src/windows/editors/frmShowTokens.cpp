@@ -105,7 +105,9 @@ void frmShowTokens::Form_Resize() try {
     const QSize window = frameGeometry().size() * Screen::kTwipsPerPixel;
     const int fW = CLng((window.width() - kBesideTokens) / double(kAcross));
     const int fH = CLng((window.height() - kAroundTokens) / double(kDown));
-    const int lSide = std::min(fW, fH);
+    // A high title bar or a large font needs more than the rows leave for the button; it is never cut off.
+    const int rows = (height() - cmdOK->sizeHint().height()) * Screen::kTwipsPerPixel - kTop - kGap - kAboveButton;
+    const int lSide = std::min({fW, fH, rows / kDown});
     for (int i = 0; i < basTAVL::kTokens; ++i) {
         const int r = i / kAcross;
         const int c = i % kAcross;
