@@ -40,6 +40,8 @@ constexpr double kTextHeight = 0.5;
 constexpr double kDashInches = 0.05;
 // The user's picture has at least as many dots an inch, whatever the note is drawn at.
 constexpr double kPhotoDpi = 300;
+// Dots of the oval's mask to one of the picture, across and down, which make its edge smooth.
+constexpr int kMaskDots = 4;
 
 const QString kNewLine = QStringLiteral("\r\n");
 
@@ -128,7 +130,7 @@ Picture C_Money::FaceInOval(double dblDPI) {
     Picture face(form.Image());
     if (drawing) face = WithoutWhite(face);
     clsBMP mask;
-    return ThroughMask(face, mask.GetEllipticalWhite());
+    return ThroughMask(face, mask.GetEllipticalWhite(size * kMaskDots));
 }
 
 void C_Money::DrawMoney(Surface& objDest, double dblDPI, int xStart, int yStart, bool bIncludeImage, bool bIncludeText,

@@ -77,8 +77,9 @@ public:
     /// as the picture doesn't change. Null, after a box unless the path was told before, when it can't be had.
     ::Picture GetEllipticalPicture(const QString& sImagePath, const QString& sImageBadPath, bool bGray);
 
-    /// White in the oval and black outside: the mask of a banknote's oval.
-    ::Picture GetEllipticalWhite();
+    /// White in the oval and black outside: the mask of a banknote's oval, kept as a file in My Games. Wanted
+    /// finer than the file, it is drawn anew by the same rule: the file's steps would show on paper.
+    ::Picture GetEllipticalWhite(QSize size = kOval);
 
     /// A picture with white outside the inscribed ellipse; in greys with bGray.
     static QImage CutElliptical(const QImage& image, bool bGray);

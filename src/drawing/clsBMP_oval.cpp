@@ -36,6 +36,17 @@ QRgb Grey(QRgb color) {
 
 QRgb* RowOf(QImage& image, int y) { return reinterpret_cast<QRgb*>(image.scanLine(y)); }
 
+QImage WhiteEllipse(QSize size) {
+    QImage mask(size, QImage::Format_RGB32);
+    for (int y = 0; y < mask.height(); ++y) {
+        const EllipseSpan span = EllipseSpan::At(y, mask.width(), mask.height());
+        QRgb* row = RowOf(mask, y);
+        std::fill(row, row + mask.width(), kBlack);
+        std::fill(row + span.iFirst, row + span.iStop, kWhite);
+    }
+    return mask;
+}
+
 } // namespace
 
 EllipseSpan EllipseSpan::At(int y, int lW, int lH) {
@@ -58,24 +69,17 @@ QImage clsBMP::CutElliptical(const QImage& image, bool bGray) {
     return cut;
 }
 
-Picture clsBMP::GetEllipticalWhite() try {
+Picture clsBMP::GetEllipticalWhite(QSize size) try {
     const QString sMask = InMyGames(QStringLiteral("WhiteEllipse.dat"));
     if (!basCommon::DoesFileExist(sMask)) {
-        QImage mask(kOval, QImage::Format_RGB32);
-        for (int y = 0; y < mask.height(); ++y) {
-            const EllipseSpan span = EllipseSpan::At(y, mask.width(), mask.height());
-            QRgb* row = RowOf(mask, y);
-            std::fill(row, row + mask.width(), kBlack);
-            std::fill(row + span.iFirst, row + span.iStop, kWhite);
-        }
         Let_FullPathToBmpFile(sMask);
-        WriteImage(mask);
+        WriteImage(WhiteEllipse(kOval));
     }
     QString error;
-    m_oPicture = LoadPicture(sMask, error);
+    m_oPicture = size == kOval ? LoadPicture(sMask, error) : ::Picture(WhiteEllipse(size));
     return m_oPicture;
 } catch (...) {
-    ErrTail("clsBMP!", "GetEllipticalWhite");
+    ErrTail("clsBMP!", "GetEllipticalWhite", size.width(), size.height());
 }
 
 // An old copy that can't be deleted is used all the same.

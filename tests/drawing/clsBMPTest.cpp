@@ -195,6 +195,26 @@ TEST_F(clsBMPTest, OvalMaskIsWhiteInsideAndBlackOutside) {
     EXPECT_TRUE(bmp.Picture().IsNull());
 }
 
+TEST_F(clsBMPTest, AFinerMaskIsTheSameOvalInFinerSteps) {
+    const QImage coarse = bmp.GetEllipticalWhite().Image();
+    const QImage fine = bmp.GetEllipticalWhite(clsBMP::kOval * 4).Image();
+    ASSERT_EQ(fine.size(), clsBMP::kOval * 4);
+    int different = 0;
+    for (int y = 0; y < fine.height(); ++y) {
+        for (int x = 0; x < fine.width(); ++x)
+            different += fine.pixel(x, y) != coarse.pixel(x / 4, y / 4) ? 1 : 0;
+    }
+    EXPECT_LT(different, fine.width() * fine.height() / 100) << "the same shape";
+    const auto firstWhite = [&fine](int y) {
+        int x = 0;
+        while (qGreen(fine.pixel(x, y)) == 0)
+            ++x;
+        return x;
+    };
+    for (int y = 60; y < 700; ++y)
+        EXPECT_LE(std::abs(firstWhite(y) - firstWhite(y + 1)), 3) << y << ": a step of the coarse one is four or more";
+}
+
 TEST_F(clsBMPTest, OvalPictureIsKeptUntilThePictureIsYounger) {
     const QString path = WriteFile(QStringLiteral("cat.png"), Encoded(Quarters(400, 300), "png"));
     const QImage oval = bmp.GetEllipticalPicture(path, QString(), false).Image();
