@@ -55,16 +55,6 @@ protected:
         }
         return count;
     }
-    // The part of a picture that has a colour.
-    static QRect BoxOf(const QImage& image, QColor color) {
-        QRect box;
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                if (image.pixelColor(x, y) == color) box |= QRect(x, y, 1, 1);
-            }
-        }
-        return box;
-    }
     static QString TextOf(const QString& sPdf) {
         QProcess reader;
         reader.start(QStringLiteral("pdftotext"), {sPdf, QStringLiteral("-")});
@@ -186,27 +176,6 @@ TEST_F(PiecesTest, ACornerIs612PixelsWithItsPictureInTheUpperHalf) {
     EXPECT_EQ(image.pixelColor(306, 8), QColor(0xB6, 0xDD, 0xC7)) << "content starts 0.05 inch inside";
 }
 
-TEST_F(PiecesTest, PicturesOfStickersStandToTheDot) {
-    struct Row {
-        double scale;
-        QRect space;
-        QRect corner;
-    };
-    for (const Row& row : {Row{1.0, QRect(38, 48, 102, 102), QRect(59, 19, 97, 97)},
-                           Row{1.25, QRect(48, 60, 128, 128), QRect(73, 24, 122, 122)}}) {
-        ScratchForm form(QSize(500, 400));
-        clsRenderDestination destination;
-        destination.Init(form, row.scale);
-        basTAVL::g_oSpaces(2).Image.Init(Photo(Qt::red), QStringLiteral("Space"), 2);
-        destination.SpaceStickerImageV6(2, 0.25, 0.5);
-        EXPECT_EQ(BoxOf(form.Image(), Qt::red), row.space) << row.scale;
-        form.Cls();
-        basTAVL::g_oCorners(1).Image.Init(Photo(Qt::red), QStringLiteral("Corner"), 1);
-        destination.CornerStickerImageV6(1, 0.1, 0.2);
-        EXPECT_EQ(BoxOf(form.Image(), Qt::red), row.corner) << row.scale;
-    }
-}
-
 TEST_F(PiecesTest, Edge_ANoteIs1125By600PixelsAt300DotsAnInch) {
     ScratchForm form(QSize(1200, 700));
     form.SetBackColor(Color::Rgb(1, 2, 3));
@@ -246,36 +215,6 @@ TEST_F(PiecesTest, ANotesOvalShowsThePictureAndTheNoteAroundItStays) {
     EXPECT_EQ(image.size(), QSize(720, 384));
     EXPECT_EQ(image.pixelColor(int(1.84 * 192), int(0.995 * 192)), QColor(Qt::red));
     EXPECT_EQ(image.pixelColor(int(1.44 * 192), int(0.54 * 192)), QColor(Qt::green)) << "outside the oval";
-}
-
-TEST_F(PiecesTest, EverythingOnANoteStandsToTheDot) {
-    QImage green(700, 350, QImage::Format_RGB32);
-    green.fill(Qt::green);
-    ASSERT_TRUE(green.save(PathOf(QStringLiteral("blank.png"))));
-    C_Money& money = basTAVL::g_oMoney(1);
-    money.BackColor = Color::Rgb(0, 0, 255);
-    money.BackImage.Let_FullPath(PathOf(QStringLiteral("blank.png")));
-    money.FaceImage.Init(Photo(Qt::red), QStringLiteral("Money"), 1);
-    ScratchForm form(QSize(1700, 1000));
-    const int x = 100;
-    const int y = 50;
-    money.DrawMoney(form, 400, x, y, true, false, false);
-    EXPECT_EQ(BoxOf(form.Image(), Qt::green), QRect(x + 50, y + 49, 1400, 700)) << "the panel";
-    const QRect oval = BoxOf(form.Image(), Qt::red);
-    const QRect whole(x + 572, y + 208, 328, 380);
-    EXPECT_TRUE(whole.adjusted(-1, -1, 1, 1).contains(oval)) << "the oval";
-    EXPECT_TRUE(oval.contains(whole.adjusted(6, 6, -6, -6))) << "the oval";
-    // The plates alone, which the texts stand on.
-    form.Cls();
-    money.DrawMoney(form, 400, x, y, false, true, false);
-    const QImage plates = form.Image();
-    const QRect left = BoxOf(plates.copy(0, 0, x + 750, 1000), Qt::blue);
-    EXPECT_EQ(left.topLeft(), QPoint(x + 165, y + 300));
-    EXPECT_LE(std::abs(left.width() - 350), 1);
-    EXPECT_LE(std::abs(left.height() - 200), 1);
-    const QRect right = BoxOf(plates.copy(x + 750, 0, 850, 1000), Qt::blue).translated(x + 750, 0);
-    EXPECT_EQ(right.topLeft(), QPoint(x + 960, y + 300));
-    EXPECT_EQ(right.size(), left.size());
 }
 
 TEST_F(PiecesTest, ABadMetafileIsToldOnceHoweverOftenItsPieceIsMade) {
