@@ -7,6 +7,7 @@
 #include "services/basErrLog.h"
 #include "services/basMsgQueue.h"
 #include "services/basPath.h"
+#include "services/FileRefused.h"
 
 #include <QHash>
 
@@ -213,12 +214,12 @@ bool ChangeMonoBmpBackColor(const QString& sFile, const QString& sNewFile, Color
     info.bmiColors[1] = InValueOrder(lColor);
 
     BinaryFile to;
-    if (!to.OpenForWriting(sNewFile, error)) ErrRaise(ErrNumber::kFileAccess, error);
+    if (!to.OpenForWriting(sNewFile, error)) ErrRaiseRefused(sNewFile, error);
     WriteFileHead(to, head);
     WriteInfoHead(to, info);
     WriteColorTable(to, info, Color::Black());
     CopyRows(from, to, info.bmiHeader);
-    if (!to.WasWritten(error)) ErrRaise(ErrNumber::kFileAccess, error);
+    if (!to.WasWritten(error)) ErrRaiseRefused(sNewFile, error);
     return true;
 } catch (...) {
     ErrTail("basBMP!", "ChangeMonoBmpBackColor", sFile, sNewFile, lColor);

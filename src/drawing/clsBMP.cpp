@@ -7,6 +7,7 @@
 #include "services/basErrLog.h"
 #include "services/basMsgQueue.h"
 #include "services/basPath.h"
+#include "services/FileRefused.h"
 
 #include <vector>
 
@@ -66,7 +67,7 @@ bool clsBMP::OpenFileAndSaveHeaders(int lWidth, int lHeight, int lBitsPerPixel, 
     m_info.bmiHeader =
         basBMP::InfoHead{basBMP::InfoHead::kSize, lWidth,        lHeight, 1, quint16(lBitsPerPixel), 0, quint32(pixels),
                          kDotsPerMetre,           kDotsPerMetre, 0,       0};
-    if (!m_file.OpenEmpty(m_sFullPathToBmpFile, error)) ErrRaise(ErrNumber::kFileAccess, error);
+    if (!m_file.OpenEmpty(m_sFullPathToBmpFile, error)) ErrRaiseRefused(m_sFullPathToBmpFile, error);
     basBMP::WriteFileHead(m_file, m_fileHead);
     basBMP::WriteInfoHead(m_file, m_info);
     if (mono) {
@@ -83,7 +84,7 @@ void clsBMP::CloseFile() {
     QString error;
     const bool written = m_file.WasWritten(error);
     m_file.Close();
-    if (!written) ErrRaise(ErrNumber::kFileAccess, error);
+    if (!written) ErrRaiseRefused(m_sFullPathToBmpFile, error);
 }
 
 bool clsBMP::WriteImage(const QImage& image) {

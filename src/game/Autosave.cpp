@@ -4,6 +4,7 @@
 #include "platform/Files.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
+#include "services/FileRefused.h"
 
 #include <optional>
 
@@ -25,7 +26,7 @@ QString InMyGames(const QString& sName) { return basCommon::JoinPath(basCommon::
 
 void RemoveOrRaise(const QString& sPath) {
     QString error;
-    if (!Files::Remove(sPath, error)) ErrRaise(ErrNumber::kFileAccess, error);
+    if (!Files::Remove(sPath, error)) ErrRaiseRefused(sPath, error);
 }
 
 QString FreeRescuedPath(const QString& sGameName) {
@@ -70,7 +71,7 @@ void Rotate() try {
     // Renamed in one step, so that at every moment one of the two holds the game whole.
     QString error;
     if (Files::Exists(DataPath()) && !Files::Rename(DataPath(), BackupPath(), error))
-        ErrRaise(ErrNumber::kFileAccess, error);
+        ErrRaiseRefused(DataPath(), error);
 } catch (...) {
     ErrTail("Autosave!", "Rotate");
 }

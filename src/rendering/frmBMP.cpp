@@ -10,6 +10,7 @@
 #include "rendering/frmBMP_turning.h"
 #include "services/basErrLog.h"
 #include "services/basPath.h"
+#include "services/FileRefused.h"
 
 #include <algorithm>
 #include <array>
@@ -154,7 +155,7 @@ void frmBMP::DropOldRenderings() {
 
 void frmBMP::DeleteThumb(const QString& sThumb) {
     QString error;
-    if (!Files::Remove(sThumb, error)) ErrRaise(ErrNumber::kFileAccess, error);
+    if (!Files::Remove(sThumb, error)) ErrRaiseRefused(sThumb, error);
 }
 
 void frmBMP::WriteFileHead(BinaryFile& file, int lWidth, int lHeight) {
@@ -183,7 +184,7 @@ void frmBMP::WriteInfoHead(BinaryFile& file, int lWidth, int lHeight) {
 void frmBMP::WriteThumb(const QString& sThumb, const QImage& image) {
     BinaryFile file;
     QString error;
-    if (!file.OpenEmpty(sThumb, error)) ErrRaise(ErrNumber::kFileAccess, error);
+    if (!file.OpenEmpty(sThumb, error)) ErrRaiseRefused(sThumb, error);
     WriteFileHead(file, image.width(), image.height());
     WriteInfoHead(file, image.width(), image.height());
     QByteArray row(basBMP::RowBytes24(image.width()), '\0');
@@ -191,7 +192,7 @@ void frmBMP::WriteThumb(const QString& sThumb, const QImage& image) {
         basBMP::PackRow24(RowOf(image, y), row);
         file.PutBytes(row);
     }
-    if (!file.WasWritten(error)) ErrRaise(ErrNumber::kFileAccess, error);
+    if (!file.WasWritten(error)) ErrRaiseRefused(sThumb, error);
 }
 
 void frmBMP::GetSpaceFromArrayCoordinates(int iBlock, int iRow, int iCol, int& iSpace) {

@@ -327,6 +327,28 @@ TEST_F(SaveTest, ChangeWhoseAutosaveRaisesIsAChangeAllTheSame) {
     EXPECT_TRUE(session.m_bChanged);
 }
 
+TEST_F(SaveTest, FailureOfTheDiskNamesTheFile) {
+    const auto told = [](auto action) {
+        try {
+            action();
+        } catch (const TavloraError& error) {
+            return basErrLog::ErrDismiss(error.Description());
+        }
+        return QString();
+    };
+    const auto sentence = [](const QString& path) {
+        return QStringLiteral("The file named '") + path +
+               QStringLiteral("' could not be written or deleted: disk says no");
+    };
+    Edit(QStringLiteral("one"));
+    Edit(QStringLiteral("two"));
+    FailAt(Files::Operation::Remove);
+    EXPECT_EQ(told([this] { session.SetSomethingChanged(true); }), sentence(backup));
+    EXPECT_EQ(told([this] { session.SetSomethingChanged(false); }), sentence(autosave));
+    FailAt(Files::Operation::Rename);
+    EXPECT_EQ(told([this] { session.SetSomethingChanged(true); }), sentence(autosave));
+}
+
 TEST_F(SaveTest, CrashAtAnyMomentOfAnAutosaveLeavesTheLastStateOnDisk) {
     for (int moment = 0; moment < 9; ++moment) {
         QFile::remove(autosave);
