@@ -40,7 +40,8 @@ QByteArray Texts() {
     builder.Font(12).Text(5, 5, "Text").Font(9, "Symbol", 2).Text(5, 20, "abc").Font(9, "x", 128, 300);
     builder.Add(MetafileOrder::SetTextAlign, {7}).Add(MetafileOrder::SetTextCharExtra, {2});
     builder.Add(MetafileOrder::SetTextJustification, {1, 5}).Text(20, 20, "a b");
-    return builder.ExtText(9, 9, "ab", 6, QRect(3, 3, 30, 20), {5, 9}).Plain();
+    builder.ExtText(9, 9, "ab", 6, QRect(3, 3, 30, 20), {5, 9});
+    return builder.ExtText(9, 9, "ab", MetafileText::kDistancesInPairs, {}, {5, 1, 9, 1}).Plain();
 }
 
 QByteArray Mappings() {
@@ -72,7 +73,8 @@ QByteArray Objects() {
     builder.Add(MetafileOrder::DibCreatePatternBrush, {5, 0}, MetafileBuilder::Dib(Checks(), 4)).Select(2);
     builder.Rectangle(9, 9, 40, 30).Add(MetafileOrder::DeleteObject, {1}).Add(MetafileOrder::SetRop2, {7});
     builder.Add(MetafileOrder::CreateBrush, {2, 1, 0, 5}).Select(1).Rectangle(9, 9, 50, 30);
-    return builder.Plain();
+    builder.Add(MetafileOrder::CreateOldBrush, {0}).Add(MetafileOrder::CreateBitmap, {1, 2, 3});
+    return builder.Add(MetafileOrder::CreateBitmapIndirect, {4, 5}).Select(3).Plain();
 }
 
 QByteArray Blits(quint32 operation) {
