@@ -55,6 +55,15 @@ protected:
     static void ClickBehind(QDialog& form, const QRect& area) {
         ClickAt(form, QPoint(area.right() - 2, area.bottom() - 2));
     }
+    static void SelectSubtitle(QDialog& form) {
+        QWidget& canvas = Canvas(form);
+        const QPoint from(kSubtitle.left() + 1, kSubtitle.center().y());
+        const QPoint to(kSubtitle.right() - 1, kSubtitle.center().y());
+        QTest::mousePress(&canvas, Qt::LeftButton, {}, from);
+        QMouseEvent move(QEvent::MouseMove, to, canvas.mapToGlobal(QPointF(to)), Qt::NoButton, Qt::LeftButton, {});
+        QApplication::sendEvent(&canvas, &move);
+        QTest::mouseRelease(&canvas, Qt::LeftButton, {}, to);
+    }
     static QImage Shown(QDialog& form) { return Find<PictureBox>(form, "picForm").Image().copy(); }
     static QImage Shown(QDialog& form, const QRect& area) { return Shown(form).copy(area); }
 
@@ -207,16 +216,28 @@ TEST_F(EditCenterTest, WhileACaretStandsEnterAndBlankBelongToTheTextWhateverHasT
     });
 }
 
+TEST_F(EditCenterTest, EnterPressesTheButtonThatHasTheFocus) {
+    EXPECT_FALSE(Edit([](QDialog& form) {
+        Find<QPushButton>(form, "cmdCancel").setFocus();
+        Press(form, Qt::Key_Return);
+        EXPECT_FALSE(form.isVisible());
+    }));
+}
+
+TEST_F(EditCenterTest, ASelectionThatAKeyCollapsesIsSeenToBeGone) {
+    Edit([](QDialog& form) {
+        SelectSubtitle(form);
+        const QImage selected = Shown(form, kSubtitle);
+        // The caret stands at the start of the text already.
+        Press(form, Qt::Key_Left);
+        EXPECT_NE(Shown(form, kSubtitle), selected);
+    });
+}
+
 TEST_F(EditCenterTest, DraggingSelectsAndTypingReplacesWhatIsSelected) {
     Edit([](QDialog& form) {
-        const int middle = kSubtitle.center().y();
         const QImage plain = Shown(form);
-        QTest::mousePress(&Canvas(form), Qt::LeftButton, {}, QPoint(kSubtitle.left() + 1, middle));
-        QMouseEvent move(QEvent::MouseMove, QPointF(kSubtitle.right() - 1, middle),
-                         Canvas(form).mapToGlobal(QPointF(kSubtitle.right() - 1, middle)), Qt::NoButton, Qt::LeftButton,
-                         {});
-        QApplication::sendEvent(&Canvas(form), &move);
-        QTest::mouseRelease(&Canvas(form), Qt::LeftButton, {}, QPoint(kSubtitle.right() - 1, middle));
+        SelectSubtitle(form);
         EXPECT_NE(Shown(form), plain);
         Press(form, Qt::Key_C, Qt::ControlModifier);
         EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("A game"));

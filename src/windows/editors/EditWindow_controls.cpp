@@ -2,6 +2,7 @@
 #include "windows/editors/EditWindow.h"
 
 #include "pictures/C_Image.h"
+#include "platform/ButtonKeys.h"
 #include "platform/ElidedLabel.h"
 #include "platform/PictureBox.h"
 #include "platform/WidgetLook.h"
@@ -61,7 +62,7 @@ void EditWindow::ShowLegend() {
 QPushButton* EditWindow::MakeButton(const char* sName, const QString& sCaption) {
     auto* button = new QPushButton(sCaption, this);
     button->setObjectName(QString::fromLatin1(sName));
-    button->setAutoDefault(false);
+    LetEnterPressWithFocusOnly(*button);
     button->setMinimumWidth(kButtonWidth);
     Prepare(*button);
     return button;

@@ -2,6 +2,7 @@
 #include "windows/editors/ImageGroup.h"
 
 #include "pictures/C_Image.h"
+#include "platform/ButtonKeys.h"
 #include "platform/Desktop.h"
 #include "platform/ElidedLabel.h"
 #include "services/basCommon.h"
@@ -28,9 +29,9 @@ ImageGroup::ImageGroup(const QString& sTitle, const QString& sCropCaption, QWidg
     setObjectName(QStringLiteral("fraBitmap"));
     chkIncludeImage->setObjectName(QStringLiteral("chkIncludeImage"));
     cmdBitmap->setObjectName(QStringLiteral("cmdBitmap"));
-    cmdBitmap->setAutoDefault(false);
+    LetEnterPressWithFocusOnly(*cmdBitmap);
     cmdCropImage->setObjectName(QStringLiteral("cmdCropImage"));
-    cmdCropImage->setAutoDefault(false);
+    LetEnterPressWithFocusOnly(*cmdCropImage);
     lblImageFile->setObjectName(QStringLiteral("lblImageFile"));
     txtBitmapPath->setObjectName(QStringLiteral("txtBitmapPath"));
     txtBitmapPath->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);

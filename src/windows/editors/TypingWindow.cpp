@@ -8,7 +8,6 @@
 #include "windows/editors/TipLabel.h"
 
 #include <QKeyEvent>
-#include <QPushButton>
 
 using basEditTextArray::KeyResult;
 
@@ -91,21 +90,8 @@ void TypingWindow::ShowTyping() {
 
 // Sees the keys before the control that has the focus: while a caret stands, Space and Enter are text.
 bool TypingWindow::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::KeyPress) {
-        const auto& key = static_cast<QKeyEvent&>(*event);
-        if (TakesKey(key) || PressesButton(*watched, key)) return true;
-    }
+    if (event->type() == QEvent::KeyPress && TakesKey(static_cast<QKeyEvent&>(*event))) return true;
     return QDialog::eventFilter(watched, event);
-}
-
-// No button is the window's default, or Enter would press it where text is expected. The toolkit takes that for
-// Enter doing nothing even on the button that has the focus.
-bool TypingWindow::PressesButton(QObject& watched, const QKeyEvent& event) {
-    auto* const button = qobject_cast<QPushButton*>(&watched);
-    const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-    if (!button || !enter || event.isAutoRepeat()) return false;
-    button->click();
-    return true;
 }
 
 void TypingWindow::keyPressEvent(QKeyEvent* event) {

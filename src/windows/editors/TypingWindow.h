@@ -47,7 +47,6 @@ protected:
 
 private:
     bool TakesKey(const QKeyEvent& event);
-    static bool PressesButton(QObject& watched, const QKeyEvent& event);
     void Form_KeyDown(const TypedText::Key& key);
     void Form_KeyPress(const QString& sText);
     void StoreTyped(basEditTextArray::KeyResult result, const QStringList& sTextLines, const TextSelection& before);

@@ -3,6 +3,7 @@
 
 #include "board/basPosit.h"
 #include "drawing/basDraw.h"
+#include "platform/ButtonKeys.h"
 #include "platform/Desktop.h"
 #include "platform/Numbers.h"
 #include "platform/PictureBox.h"
@@ -125,7 +126,7 @@ QLabel* frmEditCenter::MakeLabel(const QString& sText, const QRect& place) {
 QPushButton* frmEditCenter::MakeButton(const char* sName, const QString& sCaption, const QString& sTip) {
     auto* const button = new QPushButton(sCaption, this);
     button->setObjectName(QString::fromLatin1(sName));
-    button->setAutoDefault(false);
+    LetEnterPressWithFocusOnly(*button);
     button->installEventFilter(this);
     WidgetLook::SetToolTip(*button, sTip);
     return button;
@@ -261,9 +262,10 @@ QStringList frmEditCenter::LinesUnderEdit() const {
 }
 
 void frmEditCenter::Form_KeyDown(const TypedText::Key& key) {
+    const TextSelection before = m_selection;
     QStringList lines = LinesUnderEdit();
     const KeyResult result = TypedText::Take(key, lines, m_selection);
-    StoreTyped(result, lines);
+    StoreTyped(result, lines, before);
 }
 
 void frmEditCenter::Form_KeyPress(const QString& sCharacters) try {
@@ -285,12 +287,14 @@ void frmEditCenter::TypeCharacter(const QString& sCharacter) {
     const bool full =
         m_iTextArea != kGameName && basPosit::m_CenterText(m_iTextArea).iNLines >= basEditTextArray::kMaxLines;
     if (full && !backspace) return;
+    const TextSelection before = m_selection;
     const KeyResult result = TypedText::Feed(lines, m_selection, sCharacter);
-    StoreTyped(result, lines);
+    StoreTyped(result, lines, before);
 }
 
-void frmEditCenter::StoreTyped(KeyResult result, const QStringList& sTextLines) {
-    if (result == KeyResult::Nothing) return;
+void frmEditCenter::StoreTyped(KeyResult result, const QStringList& sTextLines, const TextSelection& before) {
+    // A key that did nothing to the text may still have collapsed the selection.
+    if (result == KeyResult::Nothing && m_selection == before) return;
     if (result == KeyResult::TextChanged) {
         basDraw::Draw_SetHdc(&picForm->hDC());
         basPosit::SetSpecialText(m_iTextArea, TypedText::Joined(sTextLines));

@@ -93,7 +93,7 @@ private:
     void EditBehindText(int iArea);
     void Form_KeyDown(const TypedText::Key& key);
     void TypeCharacter(const QString& sCharacter);
-    void StoreTyped(basEditTextArray::KeyResult result, const QStringList& sTextLines);
+    void StoreTyped(basEditTextArray::KeyResult result, const QStringList& sTextLines, const TextSelection& before);
     QStringList LinesUnderEdit() const;
 
     bool RangeCheck();

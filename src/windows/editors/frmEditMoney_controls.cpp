@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "windows/editors/frmEditMoney.h"
 
+#include "platform/ButtonKeys.h"
 #include "platform/ElidedLabel.h"
 #include "platform/PictureBox.h"
 #include "services/basCommon.h"
@@ -121,7 +122,7 @@ QLayout* frmEditMoney::BuildRight() {
 QPushButton* frmEditMoney::MakeButton(const char* sName, const QString& sCaption, void (frmEditMoney::*click)()) {
     auto* const button = new QPushButton(sCaption, this);
     button->setObjectName(QString::fromLatin1(sName));
-    button->setAutoDefault(false);
+    LetEnterPressWithFocusOnly(*button);
     if (click) connect(button, &QPushButton::clicked, this, click);
     return button;
 }

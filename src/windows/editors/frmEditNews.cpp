@@ -5,6 +5,7 @@
 #include "board/basTAVL_news.h"
 #include "document/basTAVL.h"
 #include "drawing/basDraw.h"
+#include "platform/ButtonKeys.h"
 #include "platform/Desktop.h"
 #include "platform/Numbers.h"
 #include "platform/PictureBox.h"
@@ -109,7 +110,7 @@ QLayout* frmEditNews::MakeButtons() {
 QPushButton* frmEditNews::MakeButton(const char* sName, const QString& sCaption, void (frmEditNews::*click)()) {
     auto* const button = new QPushButton(sCaption, this);
     button->setObjectName(QString::fromLatin1(sName));
-    button->setAutoDefault(false);
+    LetEnterPressWithFocusOnly(*button);
     connect(button, &QPushButton::clicked, this, click);
     return button;
 }

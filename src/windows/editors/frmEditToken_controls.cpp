@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "windows/editors/frmEditToken.h"
 
+#include "platform/ButtonKeys.h"
 #include "platform/PictureBox.h"
 #include "platform/WidgetLook.h"
 #include "windows/editors/HoldFocusBox.h"
@@ -61,7 +62,7 @@ QRadioButton* frmEditToken::MakeOption(Include iIndex, const QString& sCaption, 
 QPushButton* frmEditToken::MakeButton(const char* sName, const QString& sCaption, const QString& sTip) {
     auto* button = new QPushButton(sCaption, this);
     button->setObjectName(QString::fromLatin1(sName));
-    button->setAutoDefault(false);
+    LetEnterPressWithFocusOnly(*button);
     button->setMinimumWidth(kButtonWidth);
     // A click leaves the focus where the keys go to the text.
     button->setFocusPolicy(Qt::TabFocus);

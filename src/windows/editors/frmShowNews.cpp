@@ -5,6 +5,7 @@
 #include "board/basTAVL_news.h"
 #include "document/basTAVL.h"
 #include "drawing/basDraw.h"
+#include "platform/ButtonKeys.h"
 #include "platform/HourGlass.h"
 #include "platform/Numbers.h"
 #include "platform/PictureBox.h"
@@ -54,7 +55,7 @@ frmShowNews::frmShowNews(QWidget* parent)
     picCards->setFocusPolicy(Qt::StrongFocus);
     picCards->installEventFilter(this);
     cmdDone->setObjectName(QStringLiteral("cmdDone"));
-    cmdDone->setAutoDefault(false);
+    LetEnterPressWithFocusOnly(*cmdDone);
     cmdHoleFiller->setObjectName(QStringLiteral("cmdHoleFiller"));
     cmdHoleFiller->setFocusPolicy(Qt::NoFocus);
     cmdHoleFiller->setEnabled(false);

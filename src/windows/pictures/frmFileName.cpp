@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "windows/pictures/frmFileName.h"
 
+#include "platform/ButtonKeys.h"
 #include "platform/Desktop.h"
 #include "platform/ElidedLabel.h"
 #include "services/basCommon.h"
@@ -65,7 +66,7 @@ void frmFileName::BuildControls() {
     for (int index = LeaveOriginal; index <= UseNewName; ++index) {
         auto* button = new QPushButton(QString::fromLatin1(kCaptions[index]), this);
         button->setObjectName(QStringLiteral("cmdGo_") + QString::number(index));
-        button->setAutoDefault(false);
+        LetEnterPressWithFocusOnly(*button);
         // A click leaves the focus on the name: a bad one would hold back whoever wants to leave without it.
         button->setFocusPolicy(Qt::TabFocus);
         cmdGo->addButton(button, index);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The window's controls: what they are, where they stand, and what they set off.
+#include "platform/ButtonKeys.h"
 #include "platform/Numbers.h"
 #include "platform/PictureBox.h"
 #include "platform/Screen.h"
@@ -75,7 +76,7 @@ QWidget* frmImagePosition::BuildTexts() {
     cmdCancel = Named(new QPushButton(QStringLiteral("&Cancel"), side), "cmdCancel",
                       QStringLiteral("Leave the picture as it was"));
     cmdOK->setDefault(true);
-    cmdSelectImage->setAutoDefault(false);
+    LetEnterPressWithFocusOnly(*cmdSelectImage);
     auto* column = new QVBoxLayout(side);
     column->setContentsMargins(0, 0, 0, 0);
     for (const char* text : kTexts) {

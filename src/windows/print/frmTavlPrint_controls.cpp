@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The window's controls: what they are, and where they stand.
 #include "document/basTAVL.h"
+#include "platform/ButtonKeys.h"
 #include "platform/ElidedLabel.h"
 #include "platform/PictureBox.h"
 #include "platform/Screen.h"
@@ -65,7 +66,7 @@ Control* Named(Control* control, const QString& sName) {
 
 QPushButton* MakeButton(QWidget* parent, const QString& sName, const QString& sCaption, const QString& sToolTip) {
     auto* button = Named(new QPushButton(sCaption, parent), sName);
-    button->setAutoDefault(false);
+    LetEnterPressWithFocusOnly(*button);
     if (!sToolTip.isEmpty()) WidgetLook::SetToolTip(*button, sToolTip);
     return button;
 }
