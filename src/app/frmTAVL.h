@@ -150,6 +150,7 @@ private:
     void SetTitle();
     void NewGame();
     void OpenGameFromDialog();
+    void AutosaveWhatStays();
     void LoadInstead(const QString& sPath);
     void Save();
     void SaveAs();

@@ -30,6 +30,7 @@ void frmTAVL::SetTitle() {
 }
 
 void frmTAVL::SetSomethingChanged(bool bChanged) try {
+    if (bChanged) setWindowModified(true);
     GameSession::SetSomethingChanged(bChanged);
     setWindowModified(m_bChanged);
 } catch (...) {
@@ -86,9 +87,17 @@ void frmTAVL::ShowDialogError() {
 void frmTAVL::NewGame() try {
     bool ok = false;
     OkToEndProgram(ok);
-    if (ok) BeginNewGame(m_iLoadResult);
+    if (!ok) return;
+    BeginNewGame(m_iLoadResult);
+    AutosaveWhatStays();
 } catch (...) {
     ErrTail("frmTAVL!", "NewGame");
+}
+
+// After No to the question about changes nothing of them is left on the disk, and then no other game came: what is
+// still being worked on must outlive a crash as before.
+void frmTAVL::AutosaveWhatStays() {
+    if (m_bChanged) SetSomethingChanged(true);
 }
 
 void frmTAVL::OpenGameFromDialog() try {
@@ -103,6 +112,7 @@ void frmTAVL::OpenGameFromDialog() try {
     dlgCommon.sError.clear();
     if (!dlgCommon.ShowOpen()) {
         ShowDialogError();
+        AutosaveWhatStays();
         return;
     }
     LoadInstead(dlgCommon.sFileName);
@@ -178,7 +188,8 @@ void frmTAVL::OkToEndProgram(bool& bOk) try {
 
 void frmTAVL::CalledByAnotherStart(const QString& sGame) try {
     if (m_bLoading) {
-        m_sGameToOpen = sGame;
+        // A start that only wants this one to come to the front takes back no game.
+        if (!sGame.isEmpty()) m_sGameToOpen = sGame;
         return;
     }
     setWindowState(windowState() & ~Qt::WindowMinimized);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "game/Autosave.h"
 
+#include "game/Rescue.h"
 #include "platform/Files.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
@@ -26,17 +27,15 @@ QString InMyGames(const QString& sName) { return basCommon::JoinPath(basCommon::
 
 void RemoveOrRaise(const QString& sPath) {
     QString error;
+    // On a full disk a state that nobody could read goes in favour of the one that is being written.
+    Rescue::KeepUnread(sPath, error);
     if (!Files::Remove(sPath, error)) ErrRaiseRefused(sPath, error);
 }
 
 QString FreeRescuedPath(const QString& sGameName) {
     QString drive, dir, base, ext;
     basCommon::FileNameFactor(sGameName, drive, dir, base, ext);
-    const QString name = QStringLiteral("Rescued ") + base;
-    QString path = InMyGames(name + QStringLiteral(".gam"));
-    for (int number = 2; Files::Exists(path); ++number)
-        path = InMyGames(name + u' ' + QString::number(number) + QStringLiteral(".gam"));
-    return path;
+    return Rescue::FreePath(base, QStringLiteral("gam"));
 }
 
 // Renaming needs no room on a full disk; only where there is no autosave does the content have to be written.
@@ -50,7 +49,7 @@ bool KeepAs(const QString& sPath, const QByteArray& content, QString& sError) {
 }
 
 // False when nothing could be kept: then nothing may be deleted either.
-bool Rescue(const FailedSave& failed) {
+bool KeepWork(const FailedSave& failed) {
     const QString path = FreeRescuedPath(failed.sGameName);
     QString error;
     const bool kept = KeepAs(path, failed.content, error);
@@ -66,14 +65,24 @@ bool Rescue(const FailedSave& failed) {
 QString DataPath() { return InMyGames(QStringLiteral("~AutoSave.dat")); }
 QString BackupPath() { return InMyGames(QStringLiteral("~AutoSave.bak")); }
 
-void Rotate() try {
+Rotated Rotate() try {
+    // Without a newer state the earlier one is the only copy there is.
+    if (!Files::Exists(DataPath())) return Rotated::BackupIsAll;
     RemoveOrRaise(BackupPath());
-    // Renamed in one step, so that at every moment one of the two holds the game whole.
     QString error;
-    if (Files::Exists(DataPath()) && !Files::Rename(DataPath(), BackupPath(), error))
-        ErrRaiseRefused(DataPath(), error);
+    Rescue::KeepUnread(DataPath(), error);
+    // Renamed in one step, so that at every moment one of the two holds the game whole.
+    if (!Files::Rename(DataPath(), BackupPath(), error)) ErrRaiseRefused(DataPath(), error);
+    return Rotated::DataBecameBackup;
 } catch (...) {
     ErrTail("Autosave!", "Rotate");
+}
+
+void EndRotation(Rotated rotated) try {
+    const bool bNewer = rotated == Rotated::BackupIsAll && Files::Exists(DataPath());
+    if (bNewer && Files::Exists(BackupPath())) RemoveOrRaise(BackupPath());
+} catch (...) {
+    ErrTail("Autosave!", "EndRotation");
 }
 
 void NoteSave(bool bInPlace, const QString& sGameName, const QByteArray& content) {
@@ -82,10 +91,11 @@ void NoteSave(bool bInPlace, const QString& sGameName, const QByteArray& content
 }
 
 void Forget() try {
-    if (Failed() && !Rescue(*Failed())) return;
+    if (Failed() && !KeepWork(*Failed())) return;
     Failed().reset();
-    RemoveOrRaise(DataPath());
+    // The newer one last: a program that ends here must not offer the state before the saved one.
     RemoveOrRaise(BackupPath());
+    RemoveOrRaise(DataPath());
 } catch (...) {
     ErrTail("Autosave!", "Forget");
 }
@@ -94,6 +104,9 @@ bool IsKeptNowhere(const QString& sGameName) {
     return Failed() && Failed()->sGameName == sGameName && !Files::Exists(DataPath());
 }
 
-void ResetForTest() { Failed().reset(); }
+void ResetForTest() {
+    Failed().reset();
+    Rescue::ResetForTest();
+}
 
 } // namespace Autosave

@@ -12,8 +12,14 @@ namespace Autosave {
 QString DataPath();
 QString BackupPath();
 
+/// What became of the two files ahead of writing a new state.
+enum class Rotated { DataBecameBackup, BackupIsAll };
+
 /// Makes the current state the earlier one, ahead of writing a new one. Raises when the disk refuses.
-void Rotate();
+Rotated Rotate();
+/// When the new state has been written: takes away an earlier one that had to stay as long as it was all there
+/// was. Raises when the disk refuses.
+void EndRotation(Rotated rotated);
 
 /// Tells how saving the game under its own name went; content is what should have been written.
 void NoteSave(bool bInPlace, const QString& sGameName, const QByteArray& content);

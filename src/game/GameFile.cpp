@@ -5,6 +5,7 @@
 #include "document/basTAVL.h"
 #include "document/GameHost.h"
 #include "game/Autosave.h"
+#include "game/Rescue.h"
 #include "platform/Desktop.h"
 #include "platform/Files.h"
 #include "platform/TextFile.h"
@@ -74,9 +75,10 @@ struct Failure {
 };
 
 // Open and head lines, each of them tested. What is left in the bytes is yet to be written.
-std::optional<Failure> WriteHead(Files::WholeFile& file, QByteArray& bytes) {
+std::optional<Failure> WriteHead(Files::WholeFile& file, const QString& sFileName, QByteArray& bytes) {
     QString error;
-    if (!file.Open(error)) return Failure{error, QStringLiteral("opening the file")};
+    if (!Rescue::KeepUnread(sFileName, error) || !file.Open(error))
+        return Failure{error, QStringLiteral("opening the file")};
     for (const char* during : kHeadLines) {
         if (!file.Write(TakeLine(bytes), error)) return Failure{error, QString::fromLatin1(during)};
     }
@@ -106,7 +108,7 @@ void GameSave(const QString& sFileName, bool& bResult) try {
     const QByteArray content = TextFile::Encode(TextFile::JoinLines(ComposeLines()));
     QByteArray rest = content;
     Files::WholeFile file(sFileName);
-    if (const std::optional<Failure> failure = WriteHead(file, rest)) {
+    if (const std::optional<Failure> failure = WriteHead(file, sFileName, rest)) {
         if (underItsName) Autosave::NoteSave(false, sFileName, content);
         int result = 0;
         ReportIOError(failure->sError, QStringLiteral("save"), sFileName, failure->sDuring, result);

@@ -5,6 +5,7 @@
 #include "document/Locale.h"
 #include "game/GameFile.h"
 #include "game/PrintCaptions.h"
+#include "game/Rescue.h"
 #include "platform/Files.h"
 #include "platform/Folders.h"
 #include "platform/ProgramSettings.h"
@@ -260,9 +261,11 @@ void GameLoad(QString& sFileName, int& iResult) try {
     basPosit::PosSethDC(&host.MeasuringDevice());
     GameReader reader(sFileName);
     if (!ReadWithQueuedMessages(reader)) {
+        Rescue::NoteUnread(sFileName);
         ReportIOError(reader.Error(), QStringLiteral("load"), sFileName, reader.During(), iResult);
         return;
     }
+    Rescue::NoteRead(sFileName);
     SetSpecialTextStringsForPrinting();
     if (reader.IsAutosave()) {
         sFileName = reader.NameInHeader();

@@ -12,9 +12,10 @@ void GameSession::SetSomethingChanged(bool bChanged) try {
     if (bChanged) {
         // Ahead of what may raise: the end of the program must ask about the change all the same.
         m_bChanged = true;
-        Autosave::Rotate();
+        const Autosave::Rotated rotated = Autosave::Rotate();
         bool written = false;
         GameFile::GameSave(Autosave::DataPath(), written);
+        Autosave::EndRotation(rotated);
     } else {
         Autosave::Forget();
         m_bChanged = Autosave::IsKeptNowhere(m_sGameName);

@@ -9,6 +9,16 @@ namespace {
 
 const QString kQuestion = QStringLiteral("Do you want to save the changes pending on the current game.?");
 
+// What another start does while this one still shows its splash.
+class CallWhileLoading : public TestDesktop {
+public:
+    explicit CallWhileLoading(std::function<void()> call) : m_call(std::move(call)) {}
+    void Sleep(int) override { m_call(); }
+
+private:
+    std::function<void()> m_call;
+};
+
 class GameCommandsTest : public AppTest {
 protected:
     /// The next file dialog is closed with this name.
@@ -244,16 +254,18 @@ TEST_F(GameCommandsTest, GameOfAnotherStartIsOpenedThroughTheSameQuestion) {
 }
 
 TEST_F(GameCommandsTest, GameOfAnotherStartWaitsUntilThisOneHasLoaded) {
-    class Calling : public TestDesktop {
-    public:
-        explicit Calling(std::function<void()> call) : m_call(std::move(call)) {}
-        void Sleep(int) override { m_call(); }
-
-    private:
-        std::function<void()> m_call;
-    } calling([this] { window->CalledByAnotherStart(QStringLiteral(TAVLORA_DATA_DIR "/Family_US.gam")); });
+    CallWhileLoading call([this] { window->CalledByAnotherStart(QStringLiteral(TAVLORA_DATA_DIR "/Family_US.gam")); });
     StartWith(QStringLiteral("Mine.gam"));
     EXPECT_EQ(TextOfSpace4(), QStringLiteral("Leo's\r\nDesk"));
+    EXPECT_TRUE(window->m_sGameName.endsWith(QStringLiteral("Family_US.gam")));
+}
+
+TEST_F(GameCommandsTest, StartWithoutAGameTakesBackNoneOfAnEarlierOne) {
+    CallWhileLoading call([this] {
+        window->CalledByAnotherStart(QStringLiteral(TAVLORA_DATA_DIR "/Family_US.gam"));
+        window->CalledByAnotherStart(QString());
+    });
+    StartWith(QStringLiteral("Mine.gam"));
     EXPECT_TRUE(window->m_sGameName.endsWith(QStringLiteral("Family_US.gam")));
 }
 

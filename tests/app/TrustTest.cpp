@@ -23,21 +23,25 @@ constexpr int kStatusOfTheEnd = 7;
 
 class TrustTest : public AppTest {
 protected:
-    enum class Step { Autosave, Save };
+    enum class Step { Autosave, AutosaveAfterBackup, Save, SaveOfTwoEdits };
 
-    void StartWithSavedGame() {
+    /// As saved and edited once, or in the state that the step needs ahead of it.
+    void StartWithSavedGame(Step step = Step::Autosave) {
         WriteGame(QStringLiteral("Mine.gam"), kOldText);
         SetIni(QStringLiteral("GameName"), InGames(QStringLiteral("Mine.gam")));
+        if (step == Step::AutosaveAfterBackup)
+            WriteGame(QStringLiteral("~AutoSave.bak"), kFirstEdit, InGames(QStringLiteral("Mine.gam")));
         Start();
-        Edit(kFirstEdit);
+        desktop.boxes.clear();
+        if (step != Step::AutosaveAfterBackup) Edit(kFirstEdit);
+        if (step == Step::SaveOfTwoEdits) Edit(kLastEdit);
     }
     /// The step during which things go wrong. Errors that reach the top are reported there, as in a window.
     void Do(Step step) const {
         try {
-            if (step == Step::Autosave) {
+            if (step == Step::Autosave || step == Step::AutosaveAfterBackup) {
                 Edit(kLastEdit);
             } else {
-                basTAVL::g_oSpaces(4).SetText(kFirstEdit);
                 ChooseMenu("mnuFile_3");
             }
         } catch (const TavloraError&) {
@@ -46,7 +50,8 @@ protected:
     }
     /// How many operations on files a step takes.
     int CountOperations(Step step) {
-        StartWithSavedGame();
+        CleanUp();
+        StartWithSavedGame(step);
         int count = 0;
         Files::SetFaultHook([&](Files::Operation, const QString&) {
             ++count;
@@ -90,7 +95,9 @@ protected:
         const QString found = TextOfSpace4();
         const bool putAside =
             !QDir(PathOf(QStringLiteral("games"))).entryList({QStringLiteral("Rescued*")}, QDir::Files).isEmpty();
-        EXPECT_TRUE(found == kFirstEdit || (step == Step::Autosave && found == kLastEdit) || putAside)
+        const bool hadFirst = step != Step::SaveOfTwoEdits;
+        const bool hasLast = step != Step::Save;
+        EXPECT_TRUE((hadFirst && found == kFirstEdit) || (hasLast && found == kLastEdit) || putAside)
             << when << ": " << found.toStdString();
         EXPECT_EQ(window->m_iLoadResult, 0) << when;
     }
@@ -100,7 +107,7 @@ protected:
         for (const char* reason : {"No space left on device", "Permission denied", "Input/output error"}) {
             for (int fail = 0; fail < count; ++fail) {
                 CleanUp();
-                StartWithSavedGame();
+                StartWithSavedGame(step);
                 int at = 0;
                 Files::SetFaultHook([&](Files::Operation, const QString&) -> std::optional<QString> {
                     if (at++ != fail) return std::nullopt;
@@ -135,7 +142,7 @@ protected:
         ASSERT_GT(count, 3);
         for (int end = 0; end < count; ++end) {
             CleanUp();
-            StartWithSavedGame();
+            StartWithSavedGame(step);
             EXPECT_EQ(StatusOfAnEndAt(end, step), kStatusOfTheEnd);
             ExpectRecovered(step, "ended at operation " + std::to_string(end));
         }
@@ -150,6 +157,113 @@ TEST_F(TrustTest, EveryFailureOfAnAutosaveLeavesTheWorkRecoverable) { FailEachOp
 TEST_F(TrustTest, EndAtAnyMomentOfASaveLeavesTheWorkRecoverable) { EndTheProgramAtEachOperationOf(Step::Save); }
 TEST_F(TrustTest, EndAtAnyMomentOfAnAutosaveLeavesTheWorkRecoverable) {
     EndTheProgramAtEachOperationOf(Step::Autosave);
+}
+
+TEST_F(TrustTest, EndAtAnyMomentOfASaveNeverBringsBackTheStateBeforeIt) {
+    EndTheProgramAtEachOperationOf(Step::SaveOfTwoEdits);
+}
+// The backup is then the only copy of the work.
+TEST_F(TrustTest, FirstChangeAfterABackupWasLoadedLeavesTheWorkRecoverable) {
+    FailEachOperationOf(Step::AutosaveAfterBackup);
+    EndTheProgramAtEachOperationOf(Step::AutosaveAfterBackup);
+}
+
+TEST_F(TrustTest, FirstChangeAfterABackupWasLoadedLeavesTheCurrentStateOnly) {
+    StartWithSavedGame(Step::AutosaveAfterBackup);
+    Edit(kLastEdit);
+    EXPECT_TRUE(HasAutosave());
+    EXPECT_FALSE(HasBackup());
+}
+
+TEST_F(TrustTest, ChangesOnAFullDiskLeaveTheLastAutosaveThatWasWritten) {
+    StartWithSavedGame();
+    Files::SetFaultHook([](Files::Operation operation, const QString&) -> std::optional<QString> {
+        if (operation == Files::Operation::OpenWrite) return QStringLiteral("No space left on device");
+        return std::nullopt;
+    });
+    for (int change = 0; change < 3; ++change)
+        Edit(kLastEdit);
+    Files::SetFaultHook({});
+    EXPECT_TRUE(TextsOnDisk().contains(kFirstEdit));
+}
+
+TEST_F(TrustTest, ChangeWhoseAutosaveTheDiskRefusesIsAskedAboutAllTheSame) {
+    WriteGame(QStringLiteral("Mine.gam"), kOldText);
+    WriteGame(QStringLiteral("~AutoSave.bak"), kOldText);
+    SetIni(QStringLiteral("GameName"), InGames(QStringLiteral("Mine.gam")));
+    Start();
+    Edit(kFirstEdit);
+    ChooseMenu("mnuFile_3");
+    Edit(kFirstEdit);
+    ChooseMenu("mnuFile_3");
+    ASSERT_FALSE(window->m_bChanged);
+    WriteGame(QStringLiteral("~AutoSave.dat"), kOldText);
+    Files::SetFaultHook([](Files::Operation operation, const QString&) -> std::optional<QString> {
+        if (operation == Files::Operation::Remove || operation == Files::Operation::Rename)
+            return QStringLiteral("Permission denied");
+        return std::nullopt;
+    });
+    EXPECT_THROW(Edit(kLastEdit), TavloraError);
+    Files::SetFaultHook({});
+    EXPECT_TRUE(window->m_bChanged);
+    EXPECT_TRUE(window->isWindowModified());
+}
+
+TEST_F(TrustTest, GameThatStaysAfterNoIsAutosavedAgain) {
+    StartWithSavedGame();
+    desktop.onDialog = [](CommonDialog&) { return false; };
+    desktop.answers = {vbNo};
+    ChooseMenu("mnuFile_2");
+    EXPECT_EQ(TextOfSpace4(), kFirstEdit);
+    EXPECT_TRUE(HasAutosave()) << "a crash would lose what is still on the board";
+    Start();
+    EXPECT_EQ(TextOfSpace4(), kFirstEdit);
+}
+
+TEST_F(TrustTest, FileThatIsNoGameIsKeptWhenItIsSavedOver) {
+    StartWithSavedGame();
+    const QByteArray photo = "\xFF\xD8: the only photo of its kind";
+    WriteFile(QStringLiteral("games/photo.jpg"), photo);
+    desktop.onDialog = [this](CommonDialog& dialog) {
+        dialog.sFileName = InGames(QStringLiteral("photo.jpg"));
+        return true;
+    };
+    desktop.answers = {vbNo};
+    ChooseMenu("mnuFile_2");
+    ASSERT_EQ(window->m_iLoadResult, -1);
+    EXPECT_EQ(ReadFile(InGames(QStringLiteral("photo.jpg"))), photo);
+    ChooseMenu("mnuFile_3");
+    EXPECT_TRUE(ReadFile(InGames(QStringLiteral("photo.jpg"))).startsWith("\"TavloraGameBoard\"")) << "as told";
+    EXPECT_EQ(ReadFile(InGames(QStringLiteral("Rescued photo.jpg"))), photo);
+    EXPECT_TRUE(Log().contains(QStringLiteral("Rescued photo.jpg")));
+    ChooseMenu("mnuFile_3");
+    EXPECT_FALSE(HasFile(QStringLiteral("Rescued photo 2.jpg"))) << "from then on it is a game";
+}
+
+TEST_F(TrustTest, FileThatCantBeKeptIsNotSavedOver) {
+    WriteFile(QStringLiteral("games/Bad.gam"), "nonsense\r\n");
+    SetIni(QStringLiteral("GameName"), InGames(QStringLiteral("Bad.gam")));
+    Start();
+    desktop.boxes.clear();
+    Files::SetFaultHook([](Files::Operation operation, const QString&) -> std::optional<QString> {
+        if (operation == Files::Operation::Copy) return QStringLiteral("No space left on device");
+        return std::nullopt;
+    });
+    ChooseMenu("mnuFile_3");
+    Files::SetFaultHook({});
+    ASSERT_EQ(desktop.boxes.size(), 1);
+    EXPECT_TRUE(desktop.boxes[0].sText.contains(QStringLiteral("No space left on device")));
+    EXPECT_EQ(ReadFile(InGames(QStringLiteral("Bad.gam"))), "nonsense\r\n");
+}
+
+TEST_F(TrustTest, AutosaveThatCantBeReadIsKept) {
+    WriteGame(QStringLiteral("Mine.gam"), kOldText);
+    SetIni(QStringLiteral("GameName"), InGames(QStringLiteral("Mine.gam")));
+    WriteFile(QStringLiteral("games/~AutoSave.dat"), "of a later version\r\n");
+    Start();
+    Edit(kFirstEdit);
+    ChooseMenu("mnuFile_3");
+    EXPECT_EQ(ReadFile(InGames(QStringLiteral("Rescued ~AutoSave.dat"))), "of a later version\r\n");
 }
 
 TEST_F(TrustTest, FailedAutosaveIsToldAndTheEditGoesOn) {

@@ -344,7 +344,10 @@ TEST_F(SaveTest, FailureOfTheDiskNamesTheFile) {
     Edit(QStringLiteral("two"));
     FailAt(Files::Operation::Remove);
     EXPECT_EQ(told([this] { session.SetSomethingChanged(true); }), sentence(backup));
+    EXPECT_EQ(told([this] { session.SetSomethingChanged(false); }), sentence(backup));
+    FailAt(Files::Operation::Remove, 0, QStringLiteral("~AutoSave.dat"));
     EXPECT_EQ(told([this] { session.SetSomethingChanged(false); }), sentence(autosave));
+    session.SetSomethingChanged(true);
     FailAt(Files::Operation::Rename);
     EXPECT_EQ(told([this] { session.SetSomethingChanged(true); }), sentence(autosave));
 }
