@@ -2,7 +2,7 @@
 #pragma once
 
 /// The main window's doors to the editors and the other windows that it opens. Each shows its window modally
-/// and tells whether the game has changed.
+/// and tells whether the game has changed by anything that wasn't autosaved while the window stood.
 class EditorRoutes {
 public:
     virtual ~EditorRoutes() = default;

@@ -36,10 +36,20 @@ bool EditorWindows::EditCenter() {
 }
 
 bool EditorWindows::ShowNews(int iGoodOrBad) {
-    if (!m_frmShowNews) m_frmShowNews = new frmShowNews(&m_main);
+    if (!m_frmShowNews) {
+        m_frmShowNews = new frmShowNews(&m_main);
+        m_frmShowNews->TellChange = std::bind_front(&EditorWindows::ChangedMeanwhile, this);
+    }
     bool changed = false;
+    m_bToldAll = false;
     m_frmShowNews->ShowForm(iGoodOrBad, changed);
-    return changed;
+    return changed && !m_bToldAll;
+}
+
+void EditorWindows::ChangedMeanwhile() {
+    m_bToldAll = false;
+    m_main.SetSomethingChanged(true);
+    m_bToldAll = true;
 }
 
 bool EditorWindows::EditMoney() {
@@ -48,10 +58,14 @@ bool EditorWindows::EditMoney() {
 }
 
 bool EditorWindows::ShowTokens() {
-    if (!m_frmShowTokens) m_frmShowTokens = new frmShowTokens(&m_main);
+    if (!m_frmShowTokens) {
+        m_frmShowTokens = new frmShowTokens(&m_main);
+        m_frmShowTokens->TellChange = std::bind_front(&EditorWindows::ChangedMeanwhile, this);
+    }
     bool changed = false;
+    m_bToldAll = false;
     m_frmShowTokens->ShowForm(changed);
-    return changed;
+    return changed && !m_bToldAll;
 }
 
 bool EditorWindows::Print() {

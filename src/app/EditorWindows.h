@@ -28,6 +28,12 @@ public:
     void Setup() override;
 
 private:
+    /// A window that lets many records be changed has let one be changed: autosaved at once, so that a crash
+    /// loses that one at most.
+    void ChangedMeanwhile();
+    /// All that the window now open has changed was autosaved as it changed.
+    bool m_bToldAll = false;
+
     /// Owns the windows.
     frmTAVL& m_main;
     frmEditSpace* m_frmEditSpace = nullptr;

@@ -4,6 +4,7 @@
 
 #include "app/EditorWindows.h"
 #include "board/basTAVL_news.h"
+#include "platform/Files.h"
 
 #include <QPlainTextEdit>
 
@@ -95,6 +96,59 @@ TEST_F(EditorWindowsTest, ACardOfEachDeckReachesTheAutosave) {
     ClickBoardAt(kBadNews);
     EXPECT_TRUE(CardText(1, 0).endsWith(QStringLiteral(" Hurrah")));
     EXPECT_EQ(ReadFile(InGames(QStringLiteral("~AutoSave.dat"))).count(" Hurrah"), 2);
+}
+
+TEST_F(EditorWindowsTest, EachCardIsAutosavedWhileItsDeckStillStandsOpen) {
+    WithModal("frmShowNews", [this](QWidget& deck) {
+        auto* const cards = deck.findChild<QWidget*>(QStringLiteral("picCards"));
+        for (int card = 0; card < 2; ++card) {
+            WithModal("frmEditNews", [](QWidget& editor) {
+                QTest::keyClicks(editor.findChild<QPlainTextEdit*>(QStringLiteral("txtSpace")),
+                                 QStringLiteral(" Hurrah"));
+                ClickIn(editor, "cmdOK");
+            });
+            QTest::mouseClick(cards, Qt::LeftButton, {}, QPoint(9 + card * 300, 9));
+            EXPECT_EQ(ReadFile(InGames(QStringLiteral("~AutoSave.dat"))).count(" Hurrah"), card + 1);
+            EXPECT_EQ(HasBackup(), card > 0);
+        }
+    });
+    ClickBoardAt(kGoodNews);
+    EXPECT_EQ(ReadFile(InGames(QStringLiteral("~AutoSave.bak"))).count(" Hurrah"), 1) << "one change earlier";
+}
+
+TEST_F(EditorWindowsTest, ATokenIsAutosavedWhileTheOthersStillShow) {
+    basTAVL::g_oTokens(0).SetImagePath(QString());
+    WithModal("frmShowTokens", [this](QWidget& gallery) {
+        WithModal("frmEditToken", [](QWidget& token) {
+            QTest::mouseClick(token.findChild<QWidget*>(QStringLiteral("picDest")), Qt::LeftButton);
+            QTest::keyClicks(token.findChild<QWidget*>(QStringLiteral("txtHoldFocus")), QStringLiteral("zap"));
+            ClickIn(token, "cmdOK");
+        });
+        QTest::mouseClick(gallery.findChild<QWidget*>(QStringLiteral("picToken_0")), Qt::LeftButton);
+        EXPECT_TRUE(ReadFile(InGames(QStringLiteral("~AutoSave.dat"))).contains("zap"));
+    });
+    ClickBoardAt(kTokens);
+    EXPECT_TRUE(window->m_bChanged);
+    EXPECT_FALSE(HasBackup()) << "one change is one autosave";
+}
+
+TEST_F(EditorWindowsTest, CardWhoseAutosaveFailedIsAutosavedAgainWhenItsDeckCloses) {
+    WriteGame(QStringLiteral("~AutoSave.dat"), QStringLiteral("Desk"));
+    Files::SetFaultHook([](Files::Operation operation, const QString&) -> std::optional<QString> {
+        if (operation == Files::Operation::Rename) return QStringLiteral("Permission denied");
+        return std::nullopt;
+    });
+    WithModal("frmShowNews", [](QWidget& deck) {
+        WithModal("frmEditNews", [](QWidget& editor) {
+            QTest::keyClicks(editor.findChild<QPlainTextEdit*>(QStringLiteral("txtSpace")), QStringLiteral(" Hurrah"));
+            ClickIn(editor, "cmdOK");
+        });
+        QTest::mouseClick(deck.findChild<QWidget*>(QStringLiteral("picCards")), Qt::LeftButton, {}, QPoint(9, 9));
+        Files::SetFaultHook({});
+    });
+    ClickBoardAt(kGoodNews);
+    Files::SetFaultHook({});
+    EXPECT_TRUE(ReadFile(InGames(QStringLiteral("~AutoSave.dat"))).contains(" Hurrah"));
 }
 
 TEST_F(EditorWindowsTest, ACardThatIsCancelledIsNoChange) {

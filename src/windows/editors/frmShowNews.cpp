@@ -187,6 +187,7 @@ void frmShowNews::EditCard() {
     if (!changed) return;
     m_bChanged = true;
     Redraw();
+    if (TellChange) TellChange();
 }
 
 void frmShowNews::MoveToCard(int iCard) {

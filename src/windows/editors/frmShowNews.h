@@ -3,6 +3,8 @@
 
 #include <QDialog>
 
+#include <functional>
+
 class frmEditNews;
 class PictureBox;
 class QPushButton;
@@ -18,6 +20,9 @@ public:
 
     /// Shows a deck (0 Good News, 1 Bad News) modally; bChanged tells whether the game has changed.
     void ShowForm(int iGoodOrBad, bool& bChanged);
+
+    /// Called after each card that was changed, so that it is autosaved while the deck still stands open.
+    std::function<void()> TellChange;
 
     /// Card that was hit last, -1 when none was.
     int Card() const { return m_iCard; }

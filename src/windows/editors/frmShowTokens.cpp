@@ -85,19 +85,26 @@ void frmShowTokens::ShowForm(bool& bChanged) try {
     cmdOK->setFocus(Qt::OtherFocusReason);
     Form_Resize();
     exec();
-    CopyBack();
+    if (CopyBack()) NoteChange();
     bChanged = m_bChanged;
 } catch (...) {
     ErrTail("frmShowTokens!", "ShowForm");
 }
 
-void frmShowTokens::CopyBack() {
+bool frmShowTokens::CopyBack() {
+    bool changed = false;
     for (int i = 0; i < basTAVL::kTokens; ++i) {
         const C_Token& copy = m_oTokens[size_t(i)];
         if (!copy.IsDifferentFrom(basTAVL::g_oTokens(i))) continue;
         basTAVL::g_oTokens(i).LoadFromObject(copy);
-        m_bChanged = true;
+        changed = true;
     }
+    return changed;
+}
+
+void frmShowTokens::NoteChange() {
+    m_bChanged = true;
+    if (TellChange) TellChange();
 }
 
 void frmShowTokens::Form_Resize() try {
@@ -155,15 +162,14 @@ void frmShowTokens::EditToken(int iToken) try {
     if (!m_frmEditToken) m_frmEditToken = new frmEditToken(this);
     m_frmEditToken->ShowForm(iToken);
     C_Token& token = m_oTokens[size_t(iToken)];
-    if (m_frmEditToken->Token().IsDifferentFrom(token)) {
-        // The editor has put it into the game by itself.
-        token.LoadFromObject(m_frmEditToken->Token());
-        m_bChanged = true;
-    }
+    // The editor has put it into the game by itself.
+    bool changed = m_frmEditToken->Token().IsDifferentFrom(token);
+    if (changed) token.LoadFromObject(m_frmEditToken->Token());
     if (m_frmEditToken->SetsAllFonts()) GiveFontToAll(token.Font);
     // Another token's editor starts from the game.
-    CopyBack();
+    if (CopyBack()) changed = true;
     Zoom();
+    if (changed) NoteChange();
 } catch (...) {
     ErrTail("frmShowTokens!", "EditToken", iToken);
 }

@@ -8,6 +8,7 @@
 #include <QDialog>
 
 #include <array>
+#include <functional>
 
 class PictureBox;
 class QLabel;
@@ -23,6 +24,8 @@ public:
 
     /// Shows the window modally; bChanged tells whether any token of the game has changed.
     void ShowForm(bool& bChanged);
+    /// Called after each change of the game, so that it is autosaved while the window still stands open.
+    std::function<void()> TellChange;
     void EditToken(int iToken);
     /// Paints the tokens at the size that their places have.
     void Zoom();
@@ -45,7 +48,9 @@ private:
     void picToken_BackingChanged();
     void cmdOK_Click();
     void GiveFontToAll(const C_FontInfo& font);
-    void CopyBack();
+    /// Tells whether the game has changed by it.
+    bool CopyBack();
+    void NoteChange();
 
     /// Copies of the game's tokens, which are what is shown.
     std::array<C_Token, basTAVL::kTokens> m_oTokens;
