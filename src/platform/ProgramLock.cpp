@@ -3,14 +3,19 @@
 
 #include <QCryptographicHash>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QLocalServer>
 #include <QLocalSocket>
+#include <QThread>
+
+#include <algorithm>
 
 namespace {
 
 const char* const kLockName = ".tavlora.lock";
 constexpr int kAnswerMilliseconds = 2000;
+constexpr int kBetweenTries = 20;
 
 // The file of a process that is gone can't be taken over where nothing can be deleted.
 bool TakesFiles(const QString& sFolder) { return QFileInfo(sFolder).isWritable(); }
@@ -30,6 +35,18 @@ bool ProgramLock::Take() {
     if (!m_file.tryLock() && m_file.error() == QLockFile::LockFailedError && TakesFiles(m_folder)) return false;
     Listen();
     return true;
+}
+
+ProgramLock::Start ProgramLock::TakeOrCall(const QString& sGame, int milliseconds) {
+    QElapsedTimer tried;
+    tried.start();
+    for (;;) {
+        if (Take()) return Start::Taken;
+        const int left = int(std::max<qint64>(milliseconds - tried.elapsed(), 0));
+        if (CallHolder(sGame, left)) return Start::HandedOver;
+        if (tried.elapsed() >= milliseconds) return Start::NoAnswer;
+        QThread::msleep(kBetweenTries);
+    }
 }
 
 void ProgramLock::Release() {

@@ -24,6 +24,10 @@ public:
     /// False when another living program works in the folder. In a folder that takes no new file nobody is
     /// kept out, as nobody could keep anything in it.
     bool Take();
+    /// Takes the folder, or asks the program that holds it as CallHolder does. Tried until one of the two works
+    /// or the time is over: the holder may just be starting, and not listen yet, or be about to end.
+    enum class Start { Taken, HandedOver, NoAnswer };
+    Start TakeOrCall(const QString& sGame, int milliseconds = 5000);
     /// Gives the folder free; the end of the program does it too.
     void Release();
     /// Process number of the program that holds the folder; 0 when it can't be told.

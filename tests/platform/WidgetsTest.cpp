@@ -9,11 +9,13 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QLockFile>
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
+#include <QThread>
 #include <QTimer>
 
 namespace {
@@ -244,6 +246,27 @@ TEST_F(ProgramLockTest, CallHandsOverTheGameWhateverItsName) {
         QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
     EXPECT_TRUE(answered);
     EXPECT_EQ(called, (QStringList{game, QString()}));
+}
+
+TEST_F(ProgramLockTest, StartWaitsForOneThatIsAboutToEnd) {
+    // It holds the folder, but listens no more.
+    QLockFile ending(PathOf(QStringLiteral(".tavlora.lock")));
+    ASSERT_TRUE(ending.tryLock());
+    std::unique_ptr<QThread> end(QThread::create([&] {
+        QThread::msleep(150);
+        ending.unlock();
+    }));
+    end->start();
+    ProgramLock lock(folder.path());
+    EXPECT_EQ(lock.TakeOrCall(QStringLiteral("x.gam"), 10000), ProgramLock::Start::Taken);
+    end->wait();
+    EXPECT_EQ(lock.Holder(), QCoreApplication::applicationPid());
+}
+
+TEST_F(ProgramLockTest, FolderHeldBySomebodyWhoNeverAnswersIsToldInTime) {
+    QLockFile silent(PathOf(QStringLiteral(".tavlora.lock")));
+    ASSERT_TRUE(silent.tryLock());
+    EXPECT_EQ(ProgramLock(folder.path()).TakeOrCall(QString(), 100), ProgramLock::Start::NoAnswer);
 }
 
 TEST_F(ProgramLockTest, NobodyAnswersWhereNobodyIs) {
