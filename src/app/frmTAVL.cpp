@@ -22,6 +22,8 @@ namespace {
 
 constexpr std::array<const char*, MainLayout::kButtons> kButtonCaptions = {"&Money", "&Good News", "&Bad News", "Print",
                                                                            "E&xit"};
+// Of the window on a small screen, in pixels: all the height there is, and no wider than its board needs.
+constexpr QSize kSizeOnSmallScreen(512, 600);
 constexpr int kScrollMax = 32767;
 constexpr int kSmallestZoom = 1;
 constexpr int kLargestZoom = 4;
@@ -50,6 +52,7 @@ frmTAVL::frmTAVL() : m_about(std::make_unique<frmAbout>(this)) {
     connect(&TimerPictures, &QTimer::timeout, this, &frmTAVL::TimerPictures_Timer);
     const QSize client = SmallestClient(Twips(ToolBarTable::kPictureHeight), Twips(cmd[0]->sizeHint().height()));
     centralWidget()->setMinimumSize(PixelRect(QRect(QPoint(0, 0), client)).size());
+    resize(kSizeOnSmallScreen);
 }
 
 frmTAVL::~frmTAVL() = default;

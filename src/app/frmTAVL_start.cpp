@@ -66,7 +66,8 @@ void frmTAVL::WarnOfFewColors() try {
 void frmTAVL::SizeMainWindow() try {
     if (isMinimized()) return;
     const int side = MainWindowSizeWanted(Screen::Size().height() * Screen::kTwipsPerPixel, Screen::kTwipsPerPixel);
-    if (side > 0) Screen::PlaceWindow(*this, QRect(pos(), QSize(side, side) / Screen::kTwipsPerPixel));
+    const QSize wanted = side > 0 ? QSize(side, side) / Screen::kTwipsPerPixel : size();
+    Screen::PlaceWindow(*this, QRect(pos(), wanted));
     Screen::PlaceAtFraction(*this, 1.0 / 2, 1.0 / 2);
 } catch (...) {
     ErrTail("frmTAVL!", "SizeMainWindow");

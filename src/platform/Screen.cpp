@@ -35,6 +35,8 @@ int BitsPerPixel() {
     return Primary() ? Primary()->depth() : 32;
 }
 
+double PixelRatio() { return Primary() ? Primary()->devicePixelRatio() : 1.0; }
+
 QSize FrameBorder() {
     const int width = QApplication::style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
     return QSize(width, width);
@@ -50,8 +52,19 @@ namespace {
 QSize FrameOf(const QWidget& window) {
     const QSize known = window.frameGeometry().size() - window.size();
     if (!known.isNull()) return known;
-    const int border = 2 * QApplication::style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
-    return QSize(border, border + QApplication::style()->pixelMetric(QStyle::PM_TitleBarHeight));
+    return FrameBorder() * 2 + QSize(0, QApplication::style()->pixelMetric(QStyle::PM_TitleBarHeight));
+}
+
+// Before a window has been shown some desktops take the place of its frame for that of its inner part, which would
+// push the title out of the screen's top. So the inner part is placed, and room left for the frame.
+void MoveFrameTo(QWidget& window, QPoint at, QSize size, QSize frame) {
+    if (window.frameGeometry().size() != window.size()) {
+        window.resize(size);
+        window.move(at);
+        return;
+    }
+    const int border = frame.width() / 2;
+    window.setGeometry(QRect(at + QPoint(border, frame.height() - border), size));
 }
 
 } // namespace
@@ -64,8 +77,7 @@ void PlaceWindow(QWidget& window, QRect wanted) {
     if (wanted.bottom() > area.bottom()) wanted.moveBottom(area.bottom());
     if (wanted.left() < area.left()) wanted.moveLeft(area.left());
     if (wanted.top() < area.top()) wanted.moveTop(area.top());
-    window.resize(wanted.size() - frame);
-    window.move(wanted.topLeft());
+    MoveFrameTo(window, wanted.topLeft(), wanted.size() - frame, frame);
 }
 
 MousePointer CurrentMousePointer() { return TheState().pointer; }
@@ -81,7 +93,7 @@ void SetMousePointer(MousePointer pointer) {
 
 void PlaceAtFraction(QWidget& window, double ofFreeWidth, double ofFreeHeight) {
     const QRect area = FreeArea();
-    const QSize size = window.frameGeometry().size();
+    const QSize size = window.size() + FrameOf(window);
     const QPoint at(area.left() + int((area.width() - size.width()) * ofFreeWidth),
                     area.top() + int((area.height() - size.height()) * ofFreeHeight));
     PlaceWindow(window, QRect(at, window.size()));

@@ -19,6 +19,8 @@ QSize Size();
 /// The part of the screen that windows may cover.
 QRect FreeArea();
 int BitsPerPixel();
+/// Dots of the display to a pixel.
+double PixelRatio();
 /// Thickness of a sizable window's frame.
 QSize FrameBorder();
 

@@ -244,6 +244,14 @@ TEST_F(StartUpTest, AboutTellsTheVersionInTwoPartsAndOnAClickInThree) {
     EXPECT_EQ(desktop.Texts(), (QStringList{full, full}));
 }
 
+TEST_F(StartUpTest, WindowOfASmallScreenIsNoWiderThanItsBoardNeeds) {
+    frmTAVL unsized;
+    unsized.show();
+    EXPECT_GT(unsized.Board().width(), 400);
+    EXPECT_LT(unsized.width() - unsized.Board().width(), 80);
+    EXPECT_LE(unsized.height(), 600);
+}
+
 TEST_F(StartUpTest, WindowStaysWithinTheScreen) {
     Start();
     const QRect area = Screen::FreeArea();
