@@ -3,12 +3,16 @@
 
 #include "app/EditorWindows.h"
 #include "app/frmTAVL.h"
+#include "app/MainLayout.h"
+#include "board/basPositTables.h"
 #include "platform/Application.h"
 #include "platform/DesktopWidgets.h"
 #include "platform/Folders.h"
 #include "platform/LoadPicture.h"
+#include "platform/Numbers.h"
 #include "platform/ProgramLock.h"
 #include "platform/ProgramSettings.h"
+#include "platform/Screen.h"
 #include "platform/SystemPrinter.h"
 #include "platform/WidgetLook.h"
 #include "rendering/frmBMP.h"
@@ -25,10 +29,21 @@ QString OwnFile(const char* sName) {
     return basCommon::JoinPath(Folders::ProgramDirectory(), QString::fromLatin1(sName));
 }
 
+// What the board will measure, near enough: a picture wanted in another size later would be decoded a second time.
+double RoughBoardSide() {
+    constexpr int kSmallWindow = 600;
+    constexpr int kMenusAndButtons = 90;
+    constexpr int kTwips = Screen::kTwipsPerPixel;
+    const int wanted = MainWindowSizeWanted(Screen::Size().height() * kTwips, kTwips) / kTwips;
+    return std::min(wanted > 0 ? wanted : kSmallWindow, Screen::FreeArea().height()) - kMenusAndButtons;
+}
+
 // What the first paint shows of the program's own pictures is decoded on other processors meanwhile.
 void PrefetchOwnPictures() {
-    for (const char* name : {"tavlora.png", "toolbar.dat", "fate.dat"})
+    for (const char* name : {"tavlora.png", "toolbar.dat"})
         PrefetchPicture(OwnFile(name));
+    const double corner = double(basPosit::kFateImage) * RoughBoardSide() * Screen::PixelRatio();
+    PrefetchPicture(OwnFile("fate.dat"), CLng(corner));
 }
 
 } // namespace
@@ -42,8 +57,9 @@ int RunProgram(int argc, char** argv, DesktopWidgets& desktop) {
     const QStringList arguments = Application::arguments();
     const QString game = arguments.size() > 1 ? Folders::CompletePath(arguments.at(1)) : QString();
     ProgramLock lock(basCommon::GetMyGamesDirectory());
-    if (!lock.Take()) {
-        if (lock.CallHolder(game)) return 0;
+    const ProgramLock::Start start = lock.TakeOrCall(game);
+    if (start == ProgramLock::Start::HandedOver) return 0;
+    if (start == ProgramLock::Start::NoAnswer) {
         MsgBox(QStringLiteral("Tavlora is already running, but it does not answer. Please close it first."),
                vbExclamation);
         return 1;

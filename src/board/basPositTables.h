@@ -23,6 +23,9 @@ constexpr int kStripCells = 32;
 constexpr int kColumnCells = 5;
 constexpr int kTextLines = 10;
 
+/// Size of the picture that belongs to the kit and fills its corner.
+constexpr float kFateImage = 0.1684F;
+
 struct BoardRect {
     float x1 = 0;
     float y1 = 0;

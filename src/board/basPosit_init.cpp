@@ -101,7 +101,7 @@ constexpr CornerPlace kCornerPlace[kCornersOnBoard] = {
     {{0.8087F, 0.8087F}, 0.0884F, {0.8867F, 0.8867F}},
     {{0.1029F, 0.8087F}, 0.0884F, {0.1133F, 0.8867F}},
     {{0.1029F, 0.1029F}, 0.0884F, {0.1133F, 0.1133F}},
-    {{0.8037F, 0.0279F}, 0.1684F, {0.84F, 0.16F}},
+    {{0.8037F, 0.0279F}, kFateImage, {0.84F, 0.16F}},
 };
 
 Color GroupColor(int iGroup) { return iGroup == kNoGroup ? Color::None() : m_lPropColor(iGroup); }

@@ -1,25 +1,16 @@
 // SPDX-License-Identifier: MIT
+#include "platform/HeifLibrary.h"
 #include "platform/PictureDecoder.h"
 #include "platform/PictureFormat.h"
 
-#include <libheif/heif.h>
-
-#include <cstring>
 #include <memory>
 
 namespace PictureDecoder {
 namespace {
 
-template <auto End>
-struct Ends {
-    template <typename T>
-    void operator()(T* object) const {
-        End(object);
-    }
-};
-using Context = std::unique_ptr<heif_context, Ends<heif_context_free>>;
-using ImageHandle = std::unique_ptr<heif_image_handle, Ends<heif_image_handle_release>>;
-using Image = std::unique_ptr<heif_image, Ends<heif_image_release>>;
+using Context = std::unique_ptr<heif_context, decltype(&heif_context_free)>;
+using ImageHandle = std::unique_ptr<const heif_image_handle, decltype(&heif_image_handle_release)>;
+using Image = std::unique_ptr<const heif_image, decltype(&heif_image_release)>;
 
 bool Failed(const heif_error& error, QString& sError) {
     if (error.code == heif_error_Ok) return false;
@@ -27,9 +18,9 @@ bool Failed(const heif_error& error, QString& sError) {
     return true;
 }
 
-QByteArray ColorProfileOf(const heif_image_handle* handle) {
-    QByteArray profile(qsizetype(heif_image_handle_get_raw_color_profile_size(handle)), '\0');
-    if (profile.isEmpty() || heif_image_handle_get_raw_color_profile(handle, profile.data()).code != heif_error_Ok)
+QByteArray ColorProfileOf(const HeifLibrary& heif, const heif_image_handle* handle) {
+    QByteArray profile(qsizetype(heif.image_handle_get_raw_color_profile_size(handle)), '\0');
+    if (profile.isEmpty() || heif.image_handle_get_raw_color_profile(handle, profile.data()).code != heif_error_Ok)
         return {};
     return profile;
 }
@@ -39,14 +30,20 @@ QByteArray ColorProfileOf(const heif_image_handle* handle) {
 // The library turns and mirrors the picture as the file says, so the orientation tag that such files carry
 // as well must not be looked at: the picture would be turned twice.
 Picture DecodeHeif(QByteArrayView bytes, QString& sError) {
-    const Context context(heif_context_alloc());
-    if (Failed(heif_context_read_from_memory_without_copy(context.get(), bytes.data(), size_t(bytes.size()), nullptr),
+    const HeifLibrary* const library = HeifLibrary::Get();
+    if (!library) {
+        sError = QStringLiteral("This computer lacks the library for such photos (libheif)");
+        return {};
+    }
+    const HeifLibrary& heif = *library;
+    const Context context(heif.context_alloc(), heif.context_free);
+    if (Failed(heif.context_read_from_memory_without_copy(context.get(), bytes.data(), size_t(bytes.size()), nullptr),
                sError))
         return {};
     heif_image_handle* rawHandle = nullptr;
-    if (Failed(heif_context_get_primary_image_handle(context.get(), &rawHandle), sError)) return {};
-    const ImageHandle handle(rawHandle);
-    const QSize told(heif_image_handle_get_width(rawHandle), heif_image_handle_get_height(rawHandle));
+    if (Failed(heif.context_get_primary_image_handle(context.get(), &rawHandle), sError)) return {};
+    const ImageHandle handle(rawHandle, heif.image_handle_release);
+    const QSize told(heif.image_handle_get_width(rawHandle), heif.image_handle_get_height(rawHandle));
     if (!IsSizeAllowed(told)) {
         sError = QStringLiteral("The picture claims to be %1 by %2 pixels, which is more than can be opened")
                      .arg(told.width())
@@ -54,21 +51,21 @@ Picture DecodeHeif(QByteArrayView bytes, QString& sError) {
         return {};
     }
     heif_image* rawImage = nullptr;
-    if (Failed(heif_decode_image(rawHandle, &rawImage, heif_colorspace_RGB, heif_chroma_interleaved_RGBA, nullptr),
+    if (Failed(heif.decode_image(rawHandle, &rawImage, heif_colorspace_RGB, heif_chroma_interleaved_RGBA, nullptr),
                sError))
         return {};
-    const Image decoded(rawImage);
-    const QSize size(heif_image_get_primary_width(rawImage), heif_image_get_primary_height(rawImage));
+    const Image decoded(rawImage, heif.image_release);
+    const QSize size(heif.image_get_primary_width(rawImage), heif.image_get_primary_height(rawImage));
     int stride = 0;
-    const uint8_t* plane = heif_image_get_plane_readonly(rawImage, heif_channel_interleaved, &stride);
+    const uint8_t* plane = heif.image_get_plane_readonly(rawImage, heif_channel_interleaved, &stride);
     if (!plane || !IsSizeAllowed(size) || stride < size.width() * 4) {
         sError = QStringLiteral("The picture could not be decoded");
         return {};
     }
     QImage image(plane, size.width(), size.height(), stride, QImage::Format_RGBA8888);
-    const bool transparent = heif_image_handle_has_alpha_channel(rawHandle);
+    const bool transparent = heif.image_handle_has_alpha_channel(rawHandle);
     image = image.convertToFormat(transparent ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
-    return Picture(InScreenColors(std::move(image), ColorProfileOf(rawHandle)));
+    return Picture(InScreenColors(std::move(image), ColorProfileOf(heif, rawHandle)));
 }
 
 } // namespace PictureDecoder
