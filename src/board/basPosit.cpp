@@ -46,8 +46,8 @@ int GetOffsetY() { return Module().m_lOffsetY; }
 void PosSethDC(DeviceContext* hDC) { basDraw::Draw_SetHdc(hDC); }
 
 // The product is rounded to single precision ahead of the offset; places that should meet then do.
-int PosX(float fx) { return CLng(double(Module().m_fScale * fx) + Module().m_lOffsetX); }
-int PosY(float fy) { return CLng(double(Module().m_fScale * fy) + Module().m_lOffsetY); }
+int PosX(float fx, int lFurther) { return CLng(double(Module().m_fScale * fx) + Module().m_lOffsetX + lFurther); }
+int PosY(float fy, int lFurther) { return CLng(double(Module().m_fScale * fy) + Module().m_lOffsetY + lFurther); }
 double PosLength(float fLength) { return Module().m_fScale * fLength; }
 
 int PosSide(int iSpace) try {

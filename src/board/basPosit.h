@@ -35,9 +35,9 @@ int GetOffsetY();
 /// The context that the board is measured and drawn on.
 void PosSethDC(DeviceContext* hDC);
 
-/// Device coordinate of a fraction.
-int PosX(float fx);
-int PosY(float fy);
+/// Device coordinate of a fraction, and so many device units further out.
+int PosX(float fx, int lFurther = 0);
+int PosY(float fy, int lFurther = 0);
 /// Device units of a length, before any rounding.
 double PosLength(float fLength);
 

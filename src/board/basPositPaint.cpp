@@ -128,9 +128,10 @@ void DrawSpaces() try {
         const C_Space& space = basTAVL::g_oSpaces(iSpace);
         if (space.SpaceColor.IsNone() || !space.IsShowing) continue;
         Draw_SetBrush(space.SpaceColor);
-        // One unit further out than the space itself, which closes the gap under the pen.
-        DeviceRect band = Mapped(m_SpaceRect(iSpace, SpacePart::Band));
-        Draw_Rect(band.x1, band.y1, band.x2 + 1, band.y2 + 1);
+        // One unit further out than the space itself, which closes the gap under the pen. Ahead of the rounding: of
+        // two halves in a row one is rounded down and one up.
+        const BoardRect& band = m_SpaceRect(iSpace, SpacePart::Band);
+        Draw_Rect(PosX(band.x1), PosY(band.y1), PosX(band.x2, 1), PosY(band.y2, 1));
     }
 } catch (...) {
     ErrTail("basPosit!", "DrawSpaces");

@@ -446,6 +446,21 @@ TEST_F(PaintTest, DenseScreenIsAsSharpAsAPlainOne) {
     EXPECT_EQ(dense.RunOfColor(0.0249F, 0.9F, Color::Black()), 2 * plain.RunOfColor(0.0249F, 0.9F, Color::Black()));
 }
 
+// The band's end falls on a half at this size: 4251.5 goes to the even 4252, and one further, 4252.5, as well.
+TEST_F(PaintTest, EndOfABandIsRoundedWithItsOneUnitFurther) {
+    PosSetScale(5000);
+    const float end = m_SpaceRect(0, SpacePart::Band).y2;
+    ASSERT_EQ(5000.0F * end, 4251.5F);
+    EXPECT_EQ(PosY(end), 4252);
+    EXPECT_EQ(PosY(end, 1), 4252);
+    PosSetOffsetY(-1);
+    EXPECT_EQ(PosY(end), 4250);
+    EXPECT_EQ(PosY(end, 1), 4252);
+    PosSetOffsetY(0);
+    PosSetScale(1000);
+    EXPECT_EQ(PosX(0.5F, 1), 501);
+}
+
 TEST_F(PaintTest, AllObjectsAreGivenBack) {
     ScratchForm picBoard(QSize(200, 200));
     const PenHandle pen = picBoard.hDC().CurrentPen();
