@@ -105,10 +105,23 @@ TEST_F(ToolBarAndMenusTest, ToolbarTableHoldsEveryTipAndItsTwoWords) {
                        QStringLiteral("Zoom 2X"),
                        QStringLiteral("Zoom 3x"),
                        QStringLiteral("Zoom 4X")};
+    const Strings words{
+        QStringLiteral("New\r\nGame"),       QStringLiteral("Existing\r\nGame"), QStringLiteral("Save\r\nCurrent Game"),
+        QStringLiteral("Print\r\nDialog"),   QStringLiteral("Edit\r\nMoney"),    QStringLiteral("Good News\r\nCards"),
+        QStringLiteral("Bad News\r\nCards"), QStringLiteral("Tokens\r\n1X"),     QStringLiteral("Zoom\r\n1X"),
+        QStringLiteral("Zoom\r\n2X"),        QStringLiteral("Zoom\r\n3X"),       QStringLiteral("Zoom\r\n4X")};
     for (int i = 0; i < ToolBarTable::kLiveButtons; ++i) {
         QTest::mouseMove(&ToolBar(), OnToolBar(i));
         EXPECT_EQ(ToolBar().toolTip(), tips[i]);
+        EXPECT_EQ(Find<QLabel>("txtToolTip").text(), words[i]);
     }
+}
+
+TEST_F(ToolBarAndMenusTest, ButtonsBelowTheBoardCarryTheirCaptions) {
+    const Strings captions{QStringLiteral("&Money"), QStringLiteral("&Good News"), QStringLiteral("&Bad News"),
+                           QStringLiteral("Print"), QStringLiteral("E&xit")};
+    for (int i = 0; i < MainLayout::kButtons; ++i)
+        EXPECT_EQ(Find<QPushButton>(qPrintable(QStringLiteral("cmd_%1").arg(i))).text(), captions[i]);
 }
 
 TEST_F(ToolBarAndMenusTest, MenusCarryTheirCaptionsAndShortcuts) {
