@@ -11,6 +11,7 @@
 #include "game/Autosave.h"
 #include "game/SampleGames.h"
 #include "platform/PictureBox.h"
+#include "platform/ProfileFile.h"
 #include "platform/ProgramSettings.h"
 #include "platform/Screen.h"
 #include "services/basAPI.h"
@@ -35,11 +36,15 @@ void frmTAVL::Form_Load() try {
     WarnOfFewColors();
     basErrLog::ErrLogToFile(QStringLiteral("Starting Tavlora Version 6 running as ") + GameKit::ExeName(programName),
                             true);
-    GameKit::SetUp(programName);
-    basTAVL::g_vCurrencySign() = QStringLiteral("$");
-    SizeMainWindow();
-    basTAVL::g_lMagicColor() = basDraw::Draw_ReverseColor(Color::FromValue(kBoardFace));
-    GameKit::ReadGameVersion();
+    {
+        // The first start writes back many defaults.
+        const ProfileFile::Together together;
+        GameKit::SetUp(programName);
+        basTAVL::g_vCurrencySign() = QStringLiteral("$");
+        SizeMainWindow();
+        basTAVL::g_lMagicColor() = basDraw::Draw_ReverseColor(Color::FromValue(kBoardFace));
+        GameKit::ReadGameVersion();
+    }
     ShowSplash();
     basCommon::ShowEntireForm(*this);
     Init();

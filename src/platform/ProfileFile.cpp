@@ -9,6 +9,9 @@
 #define SI_CONVERT_ICU
 #include <SimpleIni.h>
 
+#include <memory>
+#include <utility>
+
 namespace ProfileFile {
 namespace {
 
@@ -28,6 +31,36 @@ bool Load(CSimpleIniA& ini, const QString& sPath) {
     return ini.LoadData(text.constData(), size_t(text.size())) >= 0;
 }
 
+// A file whose writes wait for each other.
+struct Waiting {
+    QString sPath;
+    CSimpleIniA ini;
+};
+
+struct State {
+    int together = 0;
+    std::unique_ptr<Waiting> waiting;
+};
+
+State& TheState() {
+    static State state;
+    return state;
+}
+
+bool Save(const CSimpleIniA& ini, const QString& sPath) {
+    std::string text;
+    if (ini.Save(text) < 0) return false;
+    QString error;
+    QString lines = QString::fromStdString(text);
+    lines.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(QStringLiteral("\n"), QStringLiteral("\r\n"));
+    return Files::WriteWhole(sPath, TextFile::Encode(lines), error);
+}
+
+bool WriteWhatWaits() {
+    const std::unique_ptr<Waiting> waiting = std::move(TheState().waiting);
+    return !waiting || Save(waiting->ini, waiting->sPath);
+}
+
 QString OneLine(QString sValue) {
     sValue.replace(QStringLiteral("\r\n"), QStringLiteral(" "));
     sValue.replace(u'\n', u' ').replace(u'\r', u' ').remove(QChar(0));
@@ -37,23 +70,35 @@ QString OneLine(QString sValue) {
 } // namespace
 
 QString Read(const QString& sPath, const QString& sSection, const QString& sKey) {
-    CSimpleIniA ini;
-    if (!Load(ini, sPath)) return {};
+    const Waiting* const waiting = TheState().waiting.get();
+    CSimpleIniA onDisk;
+    const bool bWaits = waiting && waiting->sPath == sPath;
+    if (!bWaits && !Load(onDisk, sPath)) return {};
+    const CSimpleIniA& ini = bWaits ? waiting->ini : onDisk;
     const char* const value = ini.GetValue(sSection.toUtf8().constData(), sKey.toUtf8().constData(), "");
     return QString::fromUtf8(value).left(kMaxValueLength);
 }
 
 bool Write(const QString& sPath, const QString& sSection, const QString& sKey, const QString& sValue) {
-    CSimpleIniA ini;
-    // All other settings would be gone.
-    if (!Load(ini, sPath) && Files::Exists(sPath)) return false;
-    ini.SetValue(sSection.toUtf8().constData(), sKey.toUtf8().constData(), OneLine(sValue).toUtf8().constData());
-    std::string text;
-    if (ini.Save(text) < 0) return false;
-    QString error;
-    QString lines = QString::fromStdString(text);
-    lines.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(QStringLiteral("\n"), QStringLiteral("\r\n"));
-    return Files::WriteWhole(sPath, TextFile::Encode(lines), error);
+    std::unique_ptr<Waiting>& waiting = TheState().waiting;
+    const bool bOther = waiting && waiting->sPath != sPath;
+    if (bOther && !WriteWhatWaits()) return false;
+    if (!waiting) {
+        auto file = std::make_unique<Waiting>();
+        file->sPath = sPath;
+        // All other settings would be gone.
+        if (!Load(file->ini, sPath) && Files::Exists(sPath)) return false;
+        waiting = std::move(file);
+    }
+    waiting->ini.SetValue(sSection.toUtf8().constData(), sKey.toUtf8().constData(),
+                          OneLine(sValue).toUtf8().constData());
+    return TheState().together > 0 || WriteWhatWaits();
+}
+
+Together::Together() { ++TheState().together; }
+
+Together::~Together() {
+    if (--TheState().together == 0) WriteWhatWaits();
 }
 
 } // namespace ProfileFile

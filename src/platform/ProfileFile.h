@@ -17,4 +17,14 @@ QString Read(const QString& sPath, const QString& sSection, const QString& sKey)
 /// blanks, as a value is one line.
 bool Write(const QString& sPath, const QString& sSection, const QString& sKey, const QString& sValue);
 
+/// While one lives, what is written waits, is read back all the same, and goes to the disk in one write at its end:
+/// each write of its own is waited for until it has reached the disk.
+class Together {
+public:
+    Together();
+    ~Together();
+    Together(const Together&) = delete;
+    Together& operator=(const Together&) = delete;
+};
+
 } // namespace ProfileFile

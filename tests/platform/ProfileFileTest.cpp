@@ -58,3 +58,35 @@ TEST_F(ProfileFileTest, SettingsThatCannotBeReadAreNotReplacedByTheOneThatIsWrit
     Files::SetFaultHook({});
     EXPECT_EQ(ReadFile(path), old);
 }
+
+TEST_F(ProfileFileTest, WritesThatWaitForEachOtherAreOneAndAreReadBackAtOnce) {
+    const QString path = PathOf(QStringLiteral("a.ini"));
+    const QString other = PathOf(QStringLiteral("b.ini"));
+    ASSERT_TRUE(ProfileFile::Write(path, sSection, QStringLiteral("before"), QStringLiteral("0")));
+    int commits = 0;
+    Files::SetFaultHook([&](Files::Operation operation, const QString&) {
+        commits += operation == Files::Operation::Commit ? 1 : 0;
+        return std::optional<QString>();
+    });
+    {
+        const ProfileFile::Together together;
+        for (const char* key : {"one", "two", "three"})
+            EXPECT_TRUE(ProfileFile::Write(path, sSection, QString::fromLatin1(key), QString::fromLatin1(key)));
+        EXPECT_EQ(commits, 0);
+        EXPECT_EQ(ProfileFile::Read(path, sSection, QStringLiteral("two")), QStringLiteral("two"));
+        EXPECT_EQ(ProfileFile::Read(path, sSection, QStringLiteral("before")), QStringLiteral("0"));
+        EXPECT_EQ(ProfileFile::Read(other, sSection, QStringLiteral("two")), QString());
+    }
+    EXPECT_EQ(commits, 1);
+    {
+        const ProfileFile::Together together;
+        ProfileFile::Write(path, sSection, QStringLiteral("four"), QStringLiteral("4"));
+        ProfileFile::Write(other, sSection, QStringLiteral("five"), QStringLiteral("5"));
+    }
+    Files::SetFaultHook({});
+    EXPECT_EQ(commits, 3) << "one more for each file";
+    for (const char* key : {"one", "two", "three"})
+        EXPECT_EQ(ProfileFile::Read(path, sSection, QString::fromLatin1(key)), QString::fromLatin1(key));
+    EXPECT_EQ(ProfileFile::Read(path, sSection, QStringLiteral("four")), QStringLiteral("4"));
+    EXPECT_EQ(ProfileFile::Read(other, sSection, QStringLiteral("five")), QStringLiteral("5"));
+}
