@@ -16,10 +16,12 @@ const QString kBackground = QStringLiteral("MoneyBg");
 const QString kBitmap = QStringLiteral(".bmp");
 
 void CopyUnlessThere(const QString& sFrom, const QString& sTo) {
-    if (!basCommon::DoesFileExist(sFrom) || basCommon::DoesFileExist(sTo)) return;
+    // An empty one is what a power cut left of an earlier copy.
+    const bool bThere = Files::Size(Files::InDiskSpelling(sTo)) > 0;
+    if (bThere || !basCommon::DoesFileExist(sFrom)) return;
     QString error;
     // A start mustn't fail for want of a sample: the folder may be read-only.
-    if (!Files::Copy(sFrom, sTo, error))
+    if (!Files::CopyReplaceable(sFrom, sTo, error))
         basErrLog::ErrLogToFile(QStringLiteral("A sample could not be copied to ") + sTo + u' ' + error, true);
 }
 

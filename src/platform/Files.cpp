@@ -212,6 +212,17 @@ bool Copy(const QString& sFrom, const QString& sTo, QString& sError) {
     return bytes && WriteWhole(sTo, *bytes, sError);
 }
 
+bool CopyReplaceable(const QString& sFrom, const QString& sTo, QString& sError) {
+    if (Memory()) return Copy(sFrom, sTo, sError);
+    if (!IsPermitted(Operation::Copy, sTo, sError)) return false;
+    if (Exists(sTo) && Size(sTo) == 0 && !Remove(sTo, sError)) return false;
+    QFile from(InDiskSpelling(sFrom));
+    if (!from.copy(sTo)) return Failed(from, sError);
+    // A program's own files may be installed as nobody's to write.
+    QFile to(sTo);
+    return to.setPermissions(to.permissions() | QFile::WriteOwner) || Failed(to, sError);
+}
+
 bool MakeDirectory(const QString& sPath, QString& sError) {
     if (!IsPermitted(Operation::MakeDirectory, sPath, sError)) return false;
     if (IsDirectory(sPath) || QDir().mkdir(sPath)) return true;

@@ -45,6 +45,15 @@ TEST_F(GameCommandsTest, Edge_SampleOfTheUserIsNeverReplaced) {
     EXPECT_TRUE(HasFile(QStringLiteral("Town.gam")));
 }
 
+TEST_F(GameCommandsTest, SampleThatAPowerCutLeftEmptyIsCopiedAgainAndOneInOtherSpellingIsLeftAlone) {
+    WriteFile(QStringLiteral("games/Town.gam"), "");
+    WriteFile(QStringLiteral("games/blank.gam"), "mine");
+    basErrLog::ErrInit(60000);
+    basTAVL::CopySampleGames();
+    EXPECT_EQ(ReadFile(InGames(QStringLiteral("Town.gam"))), ReadFile(QStringLiteral(TAVLORA_DATA_DIR "/Town_US.gam")));
+    EXPECT_FALSE(HasFile(QStringLiteral("Blank.gam")));
+}
+
 TEST_F(GameCommandsTest, Edge_NewGameTakesTheFirstFreeNumber) {
     WriteGame(QStringLiteral("Game1.gam"), QStringLiteral("One"));
     WriteGame(QStringLiteral("Game2.gam"), QStringLiteral("Two"));
