@@ -83,7 +83,7 @@ bool PrintCards(SheetJob& job, clsRenderDestination& destination, int iSheet) {
     bool whole = true;
     for (int p = 0; p < kCards; ++p) {
         job.Piece("Deed", p + 1, kCards);
-        job.Progress(p * 1000 / kCards + kProgressBefore);
+        job.Progress(CLng(p * 1000.0 / kCards + kProgressBefore));
         const int iRow = p / kColumns;
         const int lX = CLng((p % kColumns * kCardSide + kFirstX) * destination.DPI());
         const int lY = CLng((iRow * kCardSide + kFirstY) * destination.DPI());

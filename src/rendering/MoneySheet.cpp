@@ -43,7 +43,7 @@ void PrintMoneySheet(SheetJob& job, int iMoney, const Picture& picture, int iCop
     const int lH = CLng(kNoteHeight * dblDPI);
     for (int i = 0; i < kNotes; ++i) {
         job.Piece("Note", i + 1, kNotes);
-        job.Progress(iCopy * 1000 / nCopies + i * 100 / nCopies);
+        job.Progress(CLng(iCopy * 1000.0 / nCopies + i * 100.0 / nCopies));
         const int iRow = i / kColumns;
         const int lX = CLng((i % kColumns * kNoteWidth + kFirstX) * dblDPI);
         const int lY = CLng((iRow * kNoteHeight + kFirstY) * dblDPI);

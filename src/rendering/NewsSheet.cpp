@@ -61,7 +61,7 @@ bool PrintNewsSheet(SheetJob& job, int iDeck) try {
     bool whole = true;
     for (int i = 0; i < basTAVL::kCards; ++i) {
         job.Piece("Card", i + 1, basTAVL::kCards);
-        job.Progress(i * 1000 / basTAVL::kCards);
+        job.Progress(CLng(i * 1000.0 / basTAVL::kCards));
         const int iRow = i / kColumns;
         const int lX = CLng((i % kColumns * kCardWidth + kFirst) * destination.DPI());
         const int lY = CLng((iRow * kCardHeight + kFirst) * destination.DPI());
