@@ -54,14 +54,22 @@ void CutRound(Surface& picDest, int xStart, int yStart, int xEnd, int yEnd, Colo
                           CLng(yEnd + half - 1));
 }
 
+// The round cut alone would leave hairlines on paper: a printer inks every dot that a picture or a colour touches,
+// and white over it only the dots it covers.
+ClipScope InCircle(DeviceContext& context, int xStart, int yStart, int xEnd, int yEnd) {
+    return {context, QRect(QPoint(xStart, yStart), QPoint(xEnd - 1, yEnd - 1)), ClipShape::Ellipse};
+}
+
+void FillCircle(DeviceContext& context, int xStart, int yStart, int xEnd, int yEnd, Color color) {
+    const ClipScope round = InCircle(context, xStart, yStart, xEnd, yEnd);
+    context.FillRect(xStart, yStart, xEnd, yEnd, color);
+}
+
 } // namespace
 
-// The round cut alone would leave hairlines on paper: a printer inks every dot that a picture touches, and white
-// over it only the dots it covers.
 bool C_Token::PaintImage(Surface& picDest, PictureHolder& picScratch, int xStart, int yStart, int xEnd, int yEnd) {
     if (!Image.IsWMF()) {
-        const ClipScope round(picDest.hDC(), QRect(QPoint(xStart, yStart), QPoint(xEnd - 1, yEnd - 1)),
-                              ClipShape::Ellipse);
+        const ClipScope round = InCircle(picDest.hDC(), xStart, yStart, xEnd, yEnd);
         return Image.PaintPictureZoomed(picDest, picScratch, ScaleModeKind::Pixels, xStart, yStart, xEnd, yEnd,
                                         Color::None());
     }
@@ -129,7 +137,7 @@ void C_Token::Redraw(int xStart, int yStart, int xEnd, int yEnd, bool bWithSelec
                      PictureHolder& picScratch, const TextSelection& selection, Color lBackColor) try {
     const PixelScale scale(picDest);
     picDest.Cls();
-    picDest.hDC().FillRect(xStart, yStart, xEnd, yEnd, BackColor);
+    FillCircle(picDest.hDC(), xStart, yStart, xEnd, yEnd, BackColor);
     basDraw::Draw_SetHdc(&picDest.hDC());
     basBMP::BMP_SetHDC(&picDest.hDC());
     if (!Image.FullPath().isEmpty() && !PaintImage(picDest, picScratch, xStart, yStart, xEnd, yEnd))
