@@ -32,6 +32,8 @@ public:
     virtual void SetDocumentName(const QString&) {}
     /// What the desktop calls the device; empty where there is none, as with pages that go into a file.
     virtual QString DeviceName() const { return {}; }
+    /// Asks the desktop for the device anew. False when it has gone, or whoever serves it.
+    virtual bool IsThere() const { return true; }
     /// Path of the PDF file that the last EndDoc wrote; empty when it went to a device or failed.
     virtual QString LastPdf() const { return {}; }
     /// Why the document being printed, or the last one, fails; empty when it doesn't.

@@ -48,6 +48,10 @@ bool SystemPrinter::PrintsToPdf() const {
 
 QString SystemPrinter::DeviceName() const { return PrintsToPdf() ? QString() : Device().printerName(); }
 
+bool SystemPrinter::IsThere() const {
+    return PrintsToPdf() || !QPrinterInfo::printerInfo(Device().printerName()).isNull();
+}
+
 double SystemPrinter::DotsPerInch() const {
     return PrintsToPdf() ? PdfPrinter::kDefaultDpi : double(Device().resolution());
 }
@@ -108,7 +112,8 @@ void SystemPrinter::SendJob() {
     device.setPageOrientation(landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
     device.setDocName(m_documentName);
     QPainter painter;
-    if (!painter.begin(&device)) {
+    // The toolkit itself doesn't look whether anybody has taken the job.
+    if (!IsThere() || !painter.begin(&device)) {
         m_lastError = QStringLiteral("The printer '%1' can't be opened").arg(device.printerName());
         return;
     }

@@ -19,6 +19,7 @@ public:
     /// Characters of the document's name that no file name takes become "-" in that of the PDF file.
     void SetDocumentName(const QString& sName) override { m_documentName = sName; }
     QString DeviceName() const override;
+    bool IsThere() const override;
     QString LastPdf() const override { return m_lastPdf; }
     QString LastError() const override { return m_lastError; }
     /// For the dialog that chooses another printer and its settings.

@@ -190,6 +190,12 @@ bool Holds(const Printer& printer) {
     return lacking.width() <= kToleranceInches && lacking.height() <= kToleranceInches;
 }
 
+QString NoPrinterMessage(const Printer& printer) {
+    return QStringLiteral("The printer '%1' doesn't answer. Please see that it is switched on and connected, then "
+                          "print again.\r\n\r\nClick 'OK' to print nevertheless.")
+        .arg(printer.DeviceName());
+}
+
 QString SmallPageMessage(const Printer& printer) {
     return QStringLiteral("The printer '%1' prints on only %2 inches of its paper. This sheet needs %3 inches, so "
                           "its edges would be missing.\r\n\r\nPlease choose US Letter paper or smaller margins in "

@@ -51,6 +51,8 @@ QString LittleDiskMessage(double dblFree, int iMegabytes);
 /// Inches that a sheet needs on its page.
 QSizeF NeededInches(PageOrientation orientation);
 bool Holds(const Printer& printer);
+/// The question whether to print on a printer that doesn't answer.
+QString NoPrinterMessage(const Printer& printer);
 /// The question whether to print on a printer whose page doesn't hold the sheet.
 QString SmallPageMessage(const Printer& printer);
 /// Tells where a PDF file is, and how it has to be printed.

@@ -38,11 +38,13 @@ public:
     }
     void SetDocumentName(const QString& sName) override { name = sName; }
     QString DeviceName() const override { return device; }
+    bool IsThere() const override { return there; }
     QString LastPdf() const override { return pdf; }
     QString LastError() const override { return error; }
 
     /// What it tells.
     QString device = QStringLiteral("Laser");
+    bool there = true;
     QString pdf;
     QString error;
     QSizeF printable;

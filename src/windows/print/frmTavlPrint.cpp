@@ -143,7 +143,7 @@ bool frmTavlPrint::RunJob(int Index, const QString& sDone) try {
     m_sWrittenPdf.clear();
     m_sFailure.clear();
     printer.SetOrientation(ConsoleSheets::OrientationOf(Index, basTAVL::g_sGameVersion()));
-    if (!AcceptsPage(printer)) return true;
+    if (!AcceptsPrinter(printer) || !AcceptsPage(printer)) return true;
     Screen::SetMousePointer(Screen::MousePointer::HourGlass);
     const double dblFree = basAPI::FreeSpaceOnDisk(QStringLiteral("C:\\"));
     if (dblFree < ConsoleSheets::kLeastFree) {
@@ -159,6 +159,12 @@ bool frmTavlPrint::RunJob(int Index, const QString& sDone) try {
     return true;
 } catch (...) {
     ErrTail("frmTavlPrint!", "RunJob", Index, sDone);
+}
+
+// A sheet sent to a printer that has gone would be lost without a word.
+bool frmTavlPrint::AcceptsPrinter(const Printer& printer) {
+    if (printer.IsThere()) return true;
+    return MsgBox(ConsoleSheets::NoPrinterMessage(printer), vbOKCancel | vbExclamation) == vbOK;
 }
 
 bool frmTavlPrint::AcceptsPage(const Printer& printer) {

@@ -79,6 +79,7 @@ private:
     Printer& JobPrinter();
     /// False when the console has to stay as it is, hourglass and all.
     bool RunJob(int Index, const QString& sDone);
+    static bool AcceptsPrinter(const Printer& printer);
     bool AcceptsPage(const Printer& printer);
     bool LoadMoneyPicture(int Index, Picture& picture);
     bool PrintCopies(int Index, const Picture& money, double dblFree, const QString& sDone);
