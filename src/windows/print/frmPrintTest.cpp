@@ -35,6 +35,8 @@ bool frmPrintTest::ShowForm(bool bPrintStarted) try { return m_frmTavlPrint->Sho
 void frmPrintTest::ShowPage(const Picture& page) try {
     const QSize most = (QSizeF(Screen::FreeArea().size()) * kMostOfScreen).toSize();
     const QSize shown = QSize(page.Width(), page.Height()).scaled(most, Qt::KeepAspectRatio);
+    // Disabled with the main window while a page is under way.
+    setEnabled(true);
     setFixedSize(shown);
     picPage->setGeometry(QRect(QPoint(0, 0), shown));
     picPage->PaintPicture(page, 0, 0, shown.width(), shown.height());
