@@ -117,6 +117,20 @@ TEST_F(PrintDoorTest, TheConsoleStaysAliveWhileAPageIsPrinted) {
     EXPECT_TRUE(acted);
 }
 
+TEST_F(PrintDoorTest, AfterAFailureAmidASheetTheGameIsEditedSavedAndLeft) {
+    desktop.onPump = [] { ErrRaise(ErrNumber::kOutOfMemory, QStringLiteral("Out of memory")); };
+    PrintNews([this](QWidget&) { desktop.onPump = nullptr; });
+    ASSERT_EQ(desktop.boxes.size(), 1);
+    EXPECT_TRUE(printer.ended.isEmpty());
+    EXPECT_TRUE(window->isEnabled());
+    Edit(QStringLiteral("Chair"));
+    EXPECT_TRUE(HasAutosave());
+    ChooseMenu("mnuFile_2");
+    EXPECT_TRUE(ReadFile(InGames(QStringLiteral("Ours.gam"))).contains("Chair"));
+    EXPECT_THROW(window->close(), ProgramEnded);
+    EXPECT_FALSE(HasAutosave()) << "nothing is left to be rescued";
+}
+
 TEST_F(PrintDoorTest, TheColourOfSetupIsTheInkAtOnce) {
     const auto choose = [this](const char* blue, bool defaults) {
         ModalSteps person;

@@ -10,7 +10,9 @@
 #include "support/ModalSteps.h"
 
 #include <QCheckBox>
+#include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 
 namespace {
 
@@ -82,9 +84,28 @@ TEST_F(SetupColorTest, Edge_AnEntryThatIsNoColourIsToldAndLeavesTheSample) {
     }
 }
 
-TEST_F(SetupColorTest, WhatIsTypedIsWhatShowsAndIsStored) {
+TEST_F(SetupColorTest, EveryWordOfTheWindow) {
     Open();
     EXPECT_EQ(form->windowTitle(), QStringLiteral("Setup"));
+    EXPECT_EQ(Find<QLabel>(*form, "lblExplain").text(),
+              QStringLiteral("Some color printers do better with a very dark color rather than pure black. Setting "
+                             "Red, Green, or Blue to something other than 10, 10, 10 will cause that color to be used "
+                             "for printing the green and red sheets."));
+    EXPECT_EQ(Default().text().remove(u'&'), QStringLiteral("Use Default Color"));
+    EXPECT_EQ(Default().toolTip(), QStringLiteral("Uncheck to allow changing the printing color."));
+    EXPECT_EQ(Find<QPushButton>(*form, "cmdOK").text().remove(u'&'), QStringLiteral("OK"));
+    EXPECT_EQ(Find<QPushButton>(*form, "cmdCancel").text().remove(u'&'), QStringLiteral("Cancel"));
+    QStringList labels;
+    for (int i = 0; i < 3; ++i) {
+        for (const QLabel* label : form->findChildren<QLabel*>()) {
+            if (label->buddy() == &Box(i)) labels.append(label->text().remove(u'&'));
+        }
+    }
+    EXPECT_EQ(labels, (QStringList{QStringLiteral("Red"), QStringLiteral("Green"), QStringLiteral("Blue")}));
+}
+
+TEST_F(SetupColorTest, WhatIsTypedIsWhatShowsAndIsStored) {
+    Open();
     Default().click();
     EXPECT_TRUE(Box(2).isEnabled());
     Enter(0, "1");
