@@ -96,7 +96,12 @@ QSize SystemPrinter::SizeInPixels() const { return (PrintableInches() * DotsPerI
 void SystemPrinter::EndDoc() {
     hDC(); // a document without a mark on it is a page all the same
     if (m_pdf) {
-        if (m_pdf->Close(m_lastError)) m_lastPdf = PdfPath();
+        QString error;
+        if (m_pdf->Close(error)) {
+            m_lastPdf = PdfPath();
+        } else {
+            m_lastError = QStringLiteral("The file '%1' could not be written: %2").arg(PdfPath(), error);
+        }
         m_pdf.reset();
         return;
     }

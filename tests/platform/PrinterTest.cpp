@@ -139,9 +139,13 @@ TEST_F(PrinterTest, AFolderThatCannotBeMadeIsTold) {
     WriteFile(QStringLiteral("Printed"), "a file stands in the way");
     SystemPrinter printer(PathOf(QStringLiteral("Printed")));
     if (!printer.PrintsToPdf()) GTEST_SKIP() << "a printer is set up on this machine";
+    printer.SetDocumentName(QStringLiteral("Ours - Rules"));
     printer.EndDoc();
     EXPECT_TRUE(printer.LastPdf().isEmpty());
-    EXPECT_FALSE(printer.LastError().isEmpty());
+    const QString told =
+        QStringLiteral("The file '%1' could not be written: ").arg(PathOf(QStringLiteral("Printed/Ours - Rules.pdf")));
+    EXPECT_TRUE(printer.LastError().startsWith(told)) << qPrintable(printer.LastError());
+    EXPECT_GT(printer.LastError().size(), told.size());
 }
 
 TEST_F(PrinterTest, AKilledDocumentOfTheDesktopLeavesNoFileAndTheNextOneIsFresh) {
