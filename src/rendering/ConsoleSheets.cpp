@@ -45,10 +45,8 @@ constexpr std::array<Row, kButtons> kRows = {{
     {2, "Property Deed Sheet #&2", nullptr, "Click to begin printing Deed Card Sheet #2"},
 }};
 
-constexpr int kLabelSheetOne = 0;
-constexpr int kLabelSheetTwo = 1;
 constexpr int kObsolete = 2;
-constexpr int kLabelSheetThree = 3;
+constexpr int kLastLabelSheet = 3;
 constexpr int kDeedLabels = 4;
 constexpr int kDeedSheetOne = 12;
 constexpr int kDeedSheetTwo = 13;
@@ -156,7 +154,7 @@ QString PaperPrompt(int iIndex, const QString& sVariant) {
 }
 
 PageOrientation OrientationOf(int iIndex, const QString& sVariant) {
-    const bool landscape = IsKit8(sVariant) ? iIndex <= kLabelSheetThree : iIndex == kLabelSheetThree;
+    const bool landscape = IsKit8(sVariant) ? iIndex <= kLastLabelSheet : iIndex == kLastLabelSheet;
     return landscape ? PageOrientation::Landscape : PageOrientation::Portrait;
 }
 
