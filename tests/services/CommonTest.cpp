@@ -8,6 +8,8 @@
 #include "services/basMsgQueue.h"
 #include "support/TestFixture.h"
 
+#include <QApplication>
+#include <QStyle>
 #include <QWidget>
 
 using namespace basCommon;
@@ -129,8 +131,11 @@ TEST_F(CommonTest, AWindowIsPlacedAQuarterFromTheLeftAndAThirdFromTheTop) {
     window.resize(400, 200);
     ShowEntireForm(window);
     const QRect area = Screen::FreeArea();
-    EXPECT_EQ(window.x(), area.left() + (area.width() - 400) / 4);
-    EXPECT_EQ(window.y(), area.top() + (area.height() - 200) / 3);
+    // Its frame and title stand around what is inside.
+    const int border = Screen::FrameBorder().width();
+    const int title = QApplication::style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    EXPECT_EQ(window.x() - border, area.left() + (area.width() - 400 - 2 * border) / 4);
+    EXPECT_EQ(window.y() - border - title, area.top() + (area.height() - 200 - 2 * border - title) / 3);
     window.resize(5000, 5000);
     ShowEntireForm(window);
     EXPECT_TRUE(area.contains(window.geometry())) << "never larger than the free area";
