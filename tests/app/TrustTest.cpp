@@ -233,7 +233,7 @@ TEST_F(TrustTest, FileThatIsNoGameIsKeptWhenItIsSavedOver) {
     ASSERT_EQ(window->m_iLoadResult, -1);
     EXPECT_EQ(ReadFile(InGames(QStringLiteral("photo.jpg"))), photo);
     ChooseMenu("mnuFile_3");
-    EXPECT_TRUE(ReadFile(InGames(QStringLiteral("photo.jpg"))).startsWith("\"TavloraGameBoard\"")) << "as told";
+    EXPECT_TRUE(ReadFile(InGames(QStringLiteral("photo.jpg"))).startsWith("\"TavloraGameBoard\""));
     EXPECT_EQ(ReadFile(InGames(QStringLiteral("Rescued photo.jpg"))), photo);
     EXPECT_TRUE(Log().contains(QStringLiteral("Rescued photo.jpg")));
     ChooseMenu("mnuFile_3");
@@ -292,7 +292,7 @@ TEST_F(TrustTest, YesAtTheExitQuestionWithAFailingSaveKeepsTheWork) {
     window->OkToEndProgram(ok);
     Files::SetFaultHook({});
     EXPECT_FALSE(ok);
-    EXPECT_FALSE(window->m_bChanged) << "as told, whether or not the save worked";
+    EXPECT_FALSE(window->m_bChanged) << "whether or not the save worked";
     EXPECT_TRUE(HasFile(QStringLiteral("Rescued Mine.gam")));
     EXPECT_TRUE(Log().contains(QStringLiteral("Rescued Mine.gam")));
 }
