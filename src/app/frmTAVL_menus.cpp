@@ -6,6 +6,7 @@
 #include "app/frmPrintManual.h"
 #include "services/basErrLog.h"
 #include "services/basPath.h"
+#include "windows/print/ChangePrinter.h"
 
 #include <QMenuBar>
 
@@ -201,19 +202,7 @@ void frmTAVL::Print() try {
     ErrTail("frmTAVL!", "Print");
 }
 
-void frmTAVL::PrinterSetup() try {
-    if (m_bPrintedSomething) {
-        MsgBox(QStringLiteral("Sorry, but you can't change printers once you have started the printing process.") +
-                   QStringLiteral("\r\n") +
-                   QStringLiteral("Please stop and restart the program before changing printers."),
-               vbInformation);
-        return;
-    }
-    dlgCommon.bPrinterDefault = true;
-    dlgCommon.sError.clear();
-    dlgCommon.ShowPrinter();
-    if (!dlgCommon.sError.isEmpty()) MsgBox(dlgCommon.sError, vbInformation);
-} catch (...) {
+void frmTAVL::PrinterSetup() try { ChangePrinter(dlgCommon, m_bPrintedSomething); } catch (...) {
     ErrTail("frmTAVL!", "PrinterSetup");
 }
 

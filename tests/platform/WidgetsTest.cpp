@@ -182,7 +182,17 @@ TEST(DesktopWidgetsTest, SleepLetsWindowsLive) {
     EXPECT_TRUE(ticked);
 }
 
-class ProgramLockTest : public TavloraTest {};
+class ProgramLockTest : public TavloraTest {
+protected:
+    void LeaveLockOfAProcessThatIsGone() const {
+        QProcess gone;
+        gone.start(QStringLiteral("true"), {});
+        const qint64 process = gone.processId();
+        ASSERT_TRUE(gone.waitForFinished());
+        WriteFile(QStringLiteral(".tavlora.lock"),
+                  QByteArray::number(process) + "\ntavlora\n" + QSysInfo::machineHostName().toUtf8() + "\n");
+    }
+};
 
 TEST_F(ProgramLockTest, SecondProgramIsKeptOutUntilTheFirstGoes) {
     ProgramLock first(folder.path());
@@ -195,24 +205,14 @@ TEST_F(ProgramLockTest, SecondProgramIsKeptOutUntilTheFirstGoes) {
 }
 
 TEST_F(ProgramLockTest, FileOfAProcessThatIsGoneIsIgnored) {
-    QProcess gone;
-    gone.start(QStringLiteral("true"), {});
-    const qint64 process = gone.processId();
-    ASSERT_TRUE(gone.waitForFinished());
-    WriteFile(QStringLiteral(".tavlora.lock"),
-              QByteArray::number(process) + "\ntavlora\n" + QSysInfo::machineHostName().toUtf8() + "\n");
+    ASSERT_NO_FATAL_FAILURE(LeaveLockOfAProcessThatIsGone());
     ProgramLock lock(folder.path());
     EXPECT_TRUE(lock.Take());
 }
 
 TEST_F(ProgramLockTest, FileThatCantBeDeletedKeepsNobodyOut) {
     const auto owner = QFileDevice::ReadOwner | QFileDevice::ExeOwner;
-    QProcess gone;
-    gone.start(QStringLiteral("true"), {});
-    const qint64 process = gone.processId();
-    ASSERT_TRUE(gone.waitForFinished());
-    WriteFile(QStringLiteral(".tavlora.lock"),
-              QByteArray::number(process) + "\ntavlora\n" + QSysInfo::machineHostName().toUtf8() + "\n");
+    ASSERT_NO_FATAL_FAILURE(LeaveLockOfAProcessThatIsGone());
     ASSERT_TRUE(QFile::setPermissions(folder.path(), owner));
     const bool refused = !QFileInfo(folder.path()).isWritable();
     const bool taken = ProgramLock(folder.path()).Take();

@@ -14,6 +14,7 @@
 #include "services/basAPI.h"
 #include "services/basErrLog.h"
 #include "services/basPath.h"
+#include "windows/print/ChangePrinter.h"
 #include "windows/print/frmPrntPrep.h"
 
 #include <QAbstractButton>
@@ -98,16 +99,7 @@ void frmTavlPrint::cmdCancel_Click() { hide(); }
 void frmTavlPrint::reject() { cmdCancel_Click(); }
 
 void frmTavlPrint::cmdChangePrinter_Click() try {
-    if (m_bPrintStarted) {
-        MsgBox(QStringLiteral("Sorry, but you can't change printers once you have started the printing process.\r\n"
-                              "Please stop and restart the program before changing printers."),
-               vbInformation);
-        return;
-    }
-    dlgCommon.bPrinterDefault = true;
-    dlgCommon.sError.clear();
-    dlgCommon.ShowPrinter();
-    if (!dlgCommon.sError.isEmpty()) MsgBox(dlgCommon.sError, vbInformation);
+    ChangePrinter(dlgCommon, m_bPrintStarted);
     ShowDestination();
 } catch (...) {
     ErrTop("frmTavlPrint!", "cmdChangePrinter_Click");

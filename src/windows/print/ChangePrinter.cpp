@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#include "windows/print/ChangePrinter.h"
+
+#include "platform/Desktop.h"
+#include "services/basErrLog.h"
+
+void ChangePrinter(CommonDialog& dlgCommon, bool bPrintStarted) try {
+    if (bPrintStarted) {
+        MsgBox(QStringLiteral("Sorry, but you can't change printers once you have started the printing process.\r\n"
+                              "Please stop and restart the program before changing printers."),
+               vbInformation);
+        return;
+    }
+    dlgCommon.bPrinterDefault = true;
+    dlgCommon.sError.clear();
+    dlgCommon.ShowPrinter();
+    if (!dlgCommon.sError.isEmpty()) MsgBox(dlgCommon.sError, vbInformation);
+} catch (...) {
+    ErrTail("ChangePrinter!", "ChangePrinter", bPrintStarted);
+}
