@@ -7,7 +7,7 @@
 #include "board/basPositPaint.h"
 #include "document/basTAVL.h"
 #include "game/GameFile.h"
-#include "rendering/frmBMP.h"
+#include "pieces/frmBMP.h"
 
 void LoadFamilyWith(const BenchPhotos& photos) {
     GameKit::SetUp(QStringLiteral("tavlora"));

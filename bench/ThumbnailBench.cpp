@@ -6,8 +6,8 @@
 #include "PeakMemory.h"
 
 #include "pictures/C_Image.h"
+#include "pieces/frmBMP.h"
 #include "platform/LoadPicture.h"
-#include "rendering/frmBMP.h"
 
 #include <benchmark/benchmark.h>
 

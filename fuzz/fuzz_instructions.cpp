@@ -3,7 +3,7 @@
 #include "FuzzHost.h"
 
 #include "platform/Surface.h"
-#include "rendering/clsRenderDestination.h"
+#include "render/clsRenderDestination.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     FuzzHost::Get().Write(QStringLiteral("GamePlay.dat"), data, size);

@@ -3,7 +3,7 @@
 #include "FuzzHost.h"
 
 #include "platform/TextFile.h"
-#include "rendering/clsRenderDestination.h"
+#include "render/clsRenderDestination.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const QByteArray bytes(reinterpret_cast<const char*>(data), qsizetype(size));

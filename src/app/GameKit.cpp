@@ -3,7 +3,7 @@
 
 #include "document/basTAVL.h"
 #include "platform/Numbers.h"
-#include "rendering/PrintBlackAs.h"
+#include "render/PrintBlackAs.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
 

@@ -5,6 +5,7 @@
 #include "app/frmTAVL.h"
 #include "app/MainLayout.h"
 #include "board/basPositTables.h"
+#include "pieces/frmBMP.h"
 #include "platform/Application.h"
 #include "platform/DesktopWidgets.h"
 #include "platform/Folders.h"
@@ -15,7 +16,6 @@
 #include "platform/Screen.h"
 #include "platform/SystemPrinter.h"
 #include "platform/WidgetLook.h"
-#include "rendering/frmBMP.h"
 #include "services/basErrLog.h"
 #include "services/basPath.h"
 

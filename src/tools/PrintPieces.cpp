@@ -3,13 +3,13 @@
 
 #include "board/basPositTables.h"
 #include "document/basTAVL.h"
+#include "kit/DeedCards.h"
+#include "kit/NewsSheet.h"
+#include "pieces/frmBMP.h"
+#include "pieces/MadePicture.h"
+#include "pieces/TitlePictures.h"
 #include "platform/LoadPicture.h"
 #include "platform/SavePicture.h"
-#include "rendering/DeedCards.h"
-#include "rendering/frmBMP.h"
-#include "rendering/MadePicture.h"
-#include "rendering/NewsSheet.h"
-#include "rendering/TitlePictures.h"
 #include "services/basPath.h"
 
 namespace {

@@ -2,13 +2,13 @@
 #include "tools/PrintSheets.h"
 
 #include "document/basTAVL.h"
+#include "kit/DeedCards.h"
+#include "kit/LabelSheets.h"
+#include "kit/MoneySheet.h"
+#include "kit/NewsSheet.h"
+#include "kit/RulesSheet.h"
 #include "platform/Desktop.h"
 #include "platform/LoadPicture.h"
-#include "rendering/DeedCards.h"
-#include "rendering/LabelSheets.h"
-#include "rendering/MoneySheet.h"
-#include "rendering/NewsSheet.h"
-#include "rendering/RulesSheet.h"
 #include "services/basErrLog.h"
 
 namespace {

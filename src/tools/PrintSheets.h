@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "kit/SheetJob.h"
 #include "platform/Printer.h"
-#include "rendering/SheetJob.h"
 
 #include <QString>
 

@@ -3,8 +3,8 @@
 #include "AppFixture.h"
 
 #include "app/EditorWindows.h"
+#include "pieces/frmBMP.h"
 #include "platform/Folders.h"
-#include "rendering/frmBMP.h"
 #include "support/ModalSteps.h"
 #include "support/TestPrinter.h"
 

@@ -2,10 +2,10 @@
 #include "board/basPositPaint.h"
 
 #include "board/BoardPicture.h"
+#include "pieces/frmBMP.h"
 #include "platform/LoadPicture.h"
 #include "platform/Numbers.h"
 #include "platform/Surface.h"
-#include "rendering/frmBMP.h"
 #include "support/BoardFixture.h"
 #include "support/PaintedBoard.h"
 

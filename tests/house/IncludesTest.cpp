@@ -19,10 +19,9 @@ struct Floor {
 
 // The longest prefix that fits decides.
 constexpr Floor kFloors[] = {
-    {"platform/", 1},        {"services/", 2},   {"drawing/", 3},  {"pictures/", 4},
-    {"document/", 5},        {"board/", 6},      {"game/", 7},     {"rendering/clsRenderDestination", 8},
-    {"rendering/frmBMP", 9}, {"rendering/", 10}, {"windows/", 11}, {"app/", 12},
-    {"tools/", 12},
+    {"platform/", 1}, {"services/", 2}, {"drawing/", 3}, {"pictures/", 4}, {"document/", 5},
+    {"board/", 6},    {"game/", 7},     {"render/", 8},  {"pieces/", 9},   {"kit/", 10},
+    {"windows/", 11}, {"app/", 12},     {"tools/", 12},
 };
 
 int FloorOf(const QString& path) {

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "pictures/C_Image.h"
+#include "pieces/frmBMP.h"
 #include "platform/Files.h"
 #include "platform/LoadPicture.h"
 #include "platform/PictureHolder.h"
 #include "platform/ProgramSettings.h"
-#include "rendering/frmBMP.h"
 #include "services/basErrLog.h"
 #include "services/basMsgQueue.h"
 #include "services/TavloraError.h"

@@ -3,10 +3,10 @@
 //   contact_sheet OUT.png [PHOTO]
 #include "document/basTAVL.h"
 #include "pictures/C_Image.h"
+#include "pieces/frmBMP.h"
 #include "platform/LoadPicture.h"
 #include "platform/ProgramSettings.h"
 #include "platform/Surface.h"
-#include "rendering/frmBMP.h"
 #include "support/PictureFiles.h"
 
 #include <QFile>

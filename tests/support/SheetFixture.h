@@ -3,11 +3,11 @@
 
 #include "app/GameKit.h"
 #include "board/basPosit.h"
+#include "kit/SheetJob.h"
+#include "pieces/frmBMP.h"
 #include "platform/Files.h"
 #include "platform/LoadPicture.h"
 #include "platform/Printer.h"
-#include "rendering/frmBMP.h"
-#include "rendering/SheetJob.h"
 #include "services/basCommon.h"
 #include "support/BoardFixture.h"
 #include "support/PdfReader.h"

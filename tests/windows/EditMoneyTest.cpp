@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "windows/editors/frmEditMoney.h"
 
+#include "pieces/frmBMP.h"
 #include "platform/LoadPicture.h"
 #include "platform/PictureBox.h"
-#include "rendering/frmBMP.h"
 #include "windows/EditWindowFixture.h"
 #include "windows/pictures/frmImagePosition.h"
 

@@ -4,9 +4,9 @@
 
 #include "board/basPosit.h"
 #include "board/BoardPicture.h"
+#include "pieces/frmBMP.h"
 #include "platform/PictureHolder.h"
 #include "platform/Surface.h"
-#include "rendering/frmBMP.h"
 #include "support/BoardFixture.h"
 
 #include <QImage>

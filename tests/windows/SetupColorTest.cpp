@@ -4,7 +4,7 @@
 
 #include "app/GameKit.h"
 #include "platform/PictureBox.h"
-#include "rendering/PrintBlackAs.h"
+#include "render/PrintBlackAs.h"
 #include "services/basCommon.h"
 #include "support/GameFixture.h"
 #include "support/ModalSteps.h"

@@ -4,7 +4,7 @@
 #include "platform/Desktop.h"
 #include "platform/Numbers.h"
 #include "platform/PictureBox.h"
-#include "rendering/PrintBlackAs.h"
+#include "render/PrintBlackAs.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "kit/SheetJob.h"
 #include "platform/Desktop.h"
 #include "platform/Picture.h"
 #include "platform/PicturePrinter.h"
-#include "rendering/SheetJob.h"
 
 #include <QDialog>
 #include <QString>

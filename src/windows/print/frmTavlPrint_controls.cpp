@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 // The window's controls: what they are, and where they stand.
 #include "document/basTAVL.h"
+#include "kit/ConsoleSheets.h"
 #include "platform/ButtonKeys.h"
 #include "platform/ElidedLabel.h"
 #include "platform/PictureBox.h"
 #include "platform/Screen.h"
 #include "platform/WidgetLook.h"
-#include "rendering/ConsoleSheets.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
 #include "windows/print/frmPrntPrep.h"

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#include "pieces/MadePicture.h"
+
+#include "platform/Files.h"
+#include "platform/LoadPicture.h"
+#include "platform/Surface.h"
+#include "services/basErrLog.h"
+#include "services/basPath.h"
+
+#include <QRect>
+
+namespace MadePicture {
+
+QString PathOf(const QString& sName) { return basCommon::JoinPath(basCommon::GetMyGamesDirectory(), sName); }
+
+void Paint(Surface& surface, const QString& sFile, const QRect& box) try {
+    QString error;
+    const Picture picture = LoadPicture(sFile, error);
+    if (picture.IsNull()) ErrRaise(ErrNumber::kInvalidPicture, error);
+    surface.PaintPicture(picture, box.x(), box.y(), box.width(), box.height());
+} catch (...) {
+    ErrTail("MadePicture!", "Paint", surface, sFile);
+}
+
+void Delete(const QString& sFile) {
+    QString error;
+    if (!Files::Remove(sFile, error)) basErrLog::ErrLogToFile(error, true);
+}
+
+} // namespace MadePicture

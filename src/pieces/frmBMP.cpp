@@ -1,0 +1,204 @@
+// SPDX-License-Identifier: MIT
+#include "pieces/frmBMP.h"
+
+#include "document/basTAVL.h"
+#include "drawing/basBMP.h"
+#include "drawing/clsBMP.h"
+#include "pieces/frmBMP_turning.h"
+#include "platform/BinaryFile.h"
+#include "platform/Files.h"
+#include "platform/Surface.h"
+#include "services/basErrLog.h"
+#include "services/basPath.h"
+#include "services/FileRefused.h"
+
+#include <algorithm>
+#include <array>
+#include <span>
+
+namespace {
+
+constexpr int kFirstCornerOrient = 4;
+constexpr int kDotsPerMetre = 3780; // 96 an inch
+constexpr int kHeadSize = basBMP::FileHead::kSize + basBMP::InfoHead::kSize;
+
+// Three times the true size of the pixels. Kept on purpose: thumbnails have always claimed it, and their
+// readers go by the dimensions.
+quint32 ClaimedSize(int lWidth, int lHeight) {
+    constexpr int kTimes = 3;
+    return quint32(kTimes * basBMP::RowBytes24(lWidth) * lHeight);
+}
+
+std::span<const QRgb> RowOf(const QImage& image, int y) {
+    return {reinterpret_cast<const QRgb*>(image.constScanLine(y)), size_t(image.width())};
+}
+
+// A line drawing's paper takes the colour of the board.
+void ReplaceWhite(QImage& image, QRgb by) {
+    for (int y = 0; y < image.height(); ++y) {
+        QRgb* row = reinterpret_cast<QRgb*>(image.scanLine(y));
+        std::replace(row, row + image.width(), qRgb(255, 255, 255), by);
+    }
+}
+
+QRgb AsRgb(Color color) { return qRgb(color.Red(), color.Green(), color.Blue()); }
+
+} // namespace
+
+frmBMP& frmBMP::Instance() {
+    static frmBMP form;
+    return form;
+}
+
+void frmBMP::InstallAsThumbnailMaker() {
+    ThumbnailMaker::Install([]() -> ThumbnailMaker& { return Instance(); });
+}
+
+QImage frmBMP::Drawn(C_Image& oImage, QSize size, Color backColor) {
+    ScratchForm form(size);
+    form.SetBackColor(backColor);
+    if (oImage.IsWMF()) {
+        oImage.DrawMetafile(form.hDC(), 0, 0, size.width(), size.height());
+        return form.Image();
+    }
+    oImage.PaintPictureZoomed(form, picOriginal, ScaleModeKind::Pixels, 0, 0, size.width(), size.height(),
+                              Color::None());
+    picOriginal.Picture = Picture();
+    return form.Image();
+}
+
+QImage frmBMP::DrawnSquare(C_Image& oImage, int lSide) {
+    QImage square = Drawn(oImage, QSize(lSide, lSide), basTAVL::g_lMagicColor());
+    if (basBMP::IsMonochromeBMP(oImage.FullPath())) ReplaceWhite(square, AsRgb(basTAVL::g_lMagicColor()));
+    return square;
+}
+
+QImage frmBMP::Rotated(C_Image& oImage, int lSide) {
+    const int orient = oImage.Orient();
+    const QImage square = DrawnSquare(oImage, lSide);
+    return orient < kFirstCornerOrient
+               ? Turning::ForSide(square, orient)
+               : Turning::ForCorner(square, orient - kFirstCornerOrient, basTAVL::g_lMagicColor());
+}
+
+void frmBMP::CreateThumbRotatedTo90(C_Image& oImage) try {
+    if (!basCommon::DoesFileExist(oImage.FullPath())) {
+        oImage.Let_BadPath(oImage.FullPath());
+        return;
+    }
+    const QImage square = DrawnSquare(oImage, kRotatedSide);
+    DeleteThumb(oImage.Thumbname());
+    WriteThumb(oImage.Thumbname(), Turning::ForSide(square, oImage.Orient()));
+} catch (...) {
+    ErrTail("frmBMP!", "CreateThumbRotatedTo90", oImage);
+}
+
+void frmBMP::CreateThumbRotatedTo45(C_Image& oImage) try {
+    if (!basCommon::DoesFileExist(oImage.FullPath())) {
+        oImage.Let_BadPath(oImage.FullPath());
+        return;
+    }
+    const QImage square = DrawnSquare(oImage, kRotatedSide);
+    DeleteThumb(oImage.Thumbname());
+    WriteThumb(oImage.Thumbname(),
+               Turning::ForCorner(square, oImage.Orient() - kFirstCornerOrient, basTAVL::g_lMagicColor()));
+} catch (...) {
+    ErrTail("frmBMP!", "CreateThumbRotatedTo45", oImage);
+}
+
+void frmBMP::CreateThumbElliptical(C_Image& oImage, bool bGray) try {
+    if (!basCommon::DoesFileExist(oImage.FullPath())) {
+        oImage.Let_BadPath(oImage.FullPath());
+        return;
+    }
+    const bool money = oImage.SpaceOrCorner == QStringLiteral("Money");
+    const Color back = money ? basTAVL::g_oMoney(oImage.Index).BackColor : basTAVL::g_lMagicColor();
+    const QImage drawn = Drawn(oImage, money ? kMoneySize : QSize(kTokenSide, kTokenSide), back);
+    DeleteThumb(oImage.Thumbname());
+    WriteThumb(oImage.Thumbname(), clsBMP::CutElliptical(drawn, bGray));
+} catch (...) {
+    ErrTail("frmBMP!", "CreateThumbElliptical", bGray);
+}
+
+Picture frmBMP::RenderRotated(C_Image& oImage, int lSide) try {
+    const Files::Stamp stamp = Files::StampOf(Files::InDiskSpelling(oImage.FullPath()));
+    if (stamp == Files::Stamp()) return {};
+    const auto look = [&oImage, lSide] {
+        return std::array<int, 5>{oImage.Zoom(), int(oImage.XCenter()), int(oImage.YCenter()), oImage.Orient(), lSide};
+    };
+    const auto kept = std::find_if(m_renderings.begin(), m_renderings.end(), [&](const Rendering& rendering) {
+        return rendering.sPath == oImage.FullPath() && rendering.stamp == stamp && rendering.look == look();
+    });
+    if (kept != m_renderings.end()) {
+        m_renderings.splice(m_renderings.begin(), m_renderings, kept);
+    } else {
+        const QImage image = Rotated(oImage, lSide);
+        // Painting may have centred the picture: the look is that of afterwards.
+        m_renderings.push_front({oImage.FullPath(), stamp, look(), image});
+        DropOldRenderings();
+    }
+    return Picture(m_renderings.front().image);
+} catch (...) {
+    ErrTail("frmBMP!", "RenderRotated", oImage, lSide);
+}
+
+// Room for the 32 pictures of a board as large as a screen; at least the newest stays.
+void frmBMP::DropOldRenderings() {
+    constexpr qint64 kMaxBytes = qint64(48) << 20;
+    qint64 bytes = 0;
+    for (auto rendering = m_renderings.begin(); rendering != m_renderings.end();) {
+        bytes += rendering->image.sizeInBytes();
+        const bool drops = bytes > kMaxBytes && rendering != m_renderings.begin();
+        rendering = drops ? m_renderings.erase(rendering) : std::next(rendering);
+    }
+}
+
+void frmBMP::DeleteThumb(const QString& sThumb) {
+    QString error;
+    if (!Files::Remove(sThumb, error)) ErrRaiseRefused(sThumb, error);
+}
+
+void frmBMP::WriteFileHead(BinaryFile& file, int lWidth, int lHeight) {
+    basBMP::FileHead head;
+    head.bfType = basBMP::FileHead::kType;
+    head.bfSize = kHeadSize + ClaimedSize(lWidth, lHeight);
+    head.bfOffBits = kHeadSize;
+    basBMP::WriteFileHead(file, head);
+}
+
+void frmBMP::WriteInfoHead(BinaryFile& file, int lWidth, int lHeight) {
+    basBMP::BitmapInfo info;
+    info.bmiHeader.biSize = basBMP::InfoHead::kSize;
+    info.bmiHeader.biWidth = lWidth;
+    info.bmiHeader.biHeight = lHeight;
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 24;
+    info.bmiHeader.biSizeImage = ClaimedSize(lWidth, lHeight);
+    info.bmiHeader.biXPelsPerMeter = kDotsPerMetre;
+    info.bmiHeader.biYPelsPerMeter = kDotsPerMetre;
+    basBMP::WriteInfoHead(file, info);
+}
+
+// Not through a file beside it and a rename: it can be made anew at any time, and a whole board of them
+// shall not wait for the disk.
+void frmBMP::WriteThumb(const QString& sThumb, const QImage& image) {
+    BinaryFile file;
+    QString error;
+    if (!file.OpenEmpty(sThumb, error)) ErrRaiseRefused(sThumb, error);
+    WriteFileHead(file, image.width(), image.height());
+    WriteInfoHead(file, image.width(), image.height());
+    QByteArray row(basBMP::RowBytes24(image.width()), '\0');
+    for (int y = image.height() - 1; y >= 0; --y) {
+        basBMP::PackRow24(RowOf(image, y), row);
+        file.PutBytes(row);
+    }
+    if (!file.WasWritten(error)) ErrRaiseRefused(sThumb, error);
+}
+
+void frmBMP::GetSpaceFromArrayCoordinates(int iBlock, int iRow, int iCol, int& iSpace) {
+    // The middle of each side, 3 and 10 of a half, has no sticker.
+    constexpr std::array<std::array<int, 6>, 2> kSpaces{{{13, 12, 11, 9, 8, 7}, {6, 5, 4, 2, 1, 0}}};
+    constexpr int kSecondHalf = 14;
+    iSpace = iCol >= 0 && iCol < 6 ? kSpaces[iRow == 0 ? 0 : 1][size_t(iCol)] : 0;
+    if (iBlock > 0) iSpace += kSecondHalf;
+}

@@ -1,0 +1,182 @@
+// SPDX-License-Identifier: MIT
+// Pictures of the pieces of the game: stickers, spaces, banknotes, tokens.
+#include "pieces/frmBMP.h"
+
+#include "document/basTAVL.h"
+#include "drawing/basDraw.h"
+#include "drawing/clsBMP.h"
+#include "platform/LoadPicture.h"
+#include "platform/Numbers.h"
+#include "platform/RecordingForm.h"
+#include "platform/Screen.h"
+#include "platform/Surface.h"
+#include "render/clsRenderDestination.h"
+#include "services/basErrLog.h"
+
+namespace {
+
+constexpr double kFormDpi = 96;
+constexpr double kLargestFactor = 3.0;
+// What the title of a maximised window takes of the screen's height.
+constexpr int kMarginHeight = 24;
+
+constexpr double kMoneyFactor = 2.0;
+constexpr int kMoneyMargin = 8;
+constexpr double kNoteWidth = 3.75;
+constexpr double kNoteHeight = 2.0;
+
+constexpr int kTokenPixels = 266;
+constexpr double kTokenInches = 0.875;
+// A corner's content starts this far from both edges of its sticker.
+constexpr double kCornerStart = 0.05;
+
+// Which of g_dblLabelSizes is what, in inches.
+enum LabelSize {
+    kFullLine = 0,
+    kFullWidth = 1,
+    kFullHeight = 2,
+    kFullBand = 3,
+    kFullCost = 4,
+    kWidth = 5,
+    kHeight = 6,
+    kCorner = 7
+};
+
+double Size(LabelSize size) { return basTAVL::g_dblLabelSizes(size); }
+
+// How many times 96 dots an inch a length can be drawn at on so many pixels of a surface.
+double FactorFor(double dblInches, double largest, int lMax) {
+    const int lNeed = CLng(dblInches * kFormDpi * largest);
+    return lNeed > lMax ? lMax * largest / lNeed : largest;
+}
+
+double StickerFactor(double dblHeight) {
+    return FactorFor(dblHeight, kLargestFactor, Screen::SurfaceLimit().height() - kMarginHeight);
+}
+
+// A note is wider than high, so its width may be what doesn't fit.
+double MoneyFactor() {
+    const QSize room = Screen::SurfaceLimit() - QSize(kMoneyMargin, kMoneyMargin);
+    return std::min(FactorFor(kNoteWidth, kMoneyFactor, room.width()),
+                    FactorFor(kNoteHeight, kMoneyFactor, room.height()));
+}
+
+int PixelsOf(double dblInches, double factor) { return CLng(dblInches * kFormDpi * factor); }
+
+} // namespace
+
+// Draws a piece twice: into the pixels of the file, and into a recording for the printer.
+bool frmBMP::WritePiece(const QString& sFullPathDest, QSize size, double dblDPI, const DrawPiece& draw) {
+    ScratchForm form(size);
+    draw(form);
+    clsBMP file;
+    if (!file.CreateFileHoldingImage(sFullPathDest, form.hDC(), size.width(), size.height(), size.width(),
+                                     size.height(), 24))
+        return false;
+    RecordingForm recording(size, dblDPI);
+    draw(recording);
+    KeepRecording(sFullPathDest, recording.Take());
+    return true;
+}
+
+bool frmBMP::GenerateCornerImage(const QString& sFullPathDest, int iCorner) try {
+    const double factor = StickerFactor(Size(kCorner));
+    const int lSide = PixelsOf(Size(kCorner), factor);
+    return WritePiece(sFullPathDest, QSize(lSide, lSide), factor * kFormDpi, [=](Surface& form) {
+        form.Line(0, 0, lSide, lSide, basTAVL::g_lPrintBack(), LineForm::FilledBox);
+        clsRenderDestination sticker;
+        sticker.Init(form, factor);
+        sticker.CornerStickerImageV6(iCorner, kCornerStart, kCornerStart);
+        const bool picture = !basTAVL::g_oCorners(iCorner).Image.FullPath().isEmpty();
+        sticker.CornerStickerText(iCorner, kCornerStart, kCornerStart, picture);
+    });
+} catch (...) {
+    ErrTail("frmBMP!", "GenerateCornerImage", sFullPathDest, iCorner);
+}
+
+bool frmBMP::GenerateSpaceStickerImage(const QString& sFullPathDest, int iSpace) try {
+    const double factor = StickerFactor(Size(kHeight));
+    const QSize size(PixelsOf(Size(kWidth), factor), PixelsOf(Size(kHeight), factor));
+    return WritePiece(sFullPathDest, size, factor * kFormDpi, [=](Surface& form) {
+        form.Line(0, 0, size.width(), size.height(), basTAVL::g_lPrintBack(), LineForm::FilledBox);
+        clsRenderDestination sticker;
+        sticker.Init(form, factor);
+        sticker.SpaceStickerImageV6(iSpace, 0, 0);
+        const bool picture = !basTAVL::g_oSpaces(iSpace).Image.FullPath().isEmpty();
+        sticker.SpaceStickerText(iSpace, 0, 0, picture);
+    });
+} catch (...) {
+    ErrTail("frmBMP!", "GenerateSpaceStickerImage", sFullPathDest, iSpace);
+}
+
+namespace {
+
+void DrawBox(Surface& form, int lWidth, int lHeight, Color fill) {
+    form.Line(0, 0, lWidth, lHeight, fill, LineForm::FilledBox);
+    form.Line(0, 0, lWidth, lHeight, Color::Black(), LineForm::Box);
+}
+
+void DrawCost(Surface& form, const C_Space& space, int lWidth, int lBand, double factor) {
+    const int lLine = PixelsOf(Size(kFullCost), factor);
+    basDraw::Draw_SetHdc(&form.hDC());
+    const auto useWidth = [lLine](int lFont) {
+        basDraw::Draw_SetFont(QStringLiteral("Arial"), lLine, lFont, 0, 0, false, false, false);
+    };
+    const int lFont = CLng(lLine / 2.0);
+    useWidth(lFont);
+    // Only words are as wide as this, as on the Lotto space; their first and last letter would be cut off.
+    const int lRoom = lWidth - 2 * CLng(form.DrawWidth);
+    const int lText = basDraw::Draw_GetWidth(space.Cost);
+    if (lText > lRoom) useWidth(Int(double(lFont) * lRoom / lText));
+    basDraw::Draw_Text(space.Cost, QStringLiteral("C"), CLng(lWidth / 2.0), CLng(0.25 * lBand), space.CostColor);
+    basDraw::Draw_ReleaseObjects();
+}
+
+void DrawFullSpace(Surface& form, int iSpace, double factor) {
+    const C_Space& space = basTAVL::g_oSpaces(iSpace);
+    const int lW = PixelsOf(Size(kFullWidth), factor);
+    const int lH = PixelsOf(Size(kFullHeight), factor);
+    const int lBand = PixelsOf(Size(kFullBand), factor);
+    form.DrawWidth = PixelsOf(Size(kFullLine), factor);
+    DrawBox(form, lW, lH, basTAVL::g_lPrintBack());
+    if (space.SpaceColor.Value() >= 0) DrawBox(form, lW, lBand, space.SpaceColor);
+    DrawCost(form, space, lW, lBand, factor);
+    clsRenderDestination sticker;
+    sticker.Init(form, factor);
+    // The sticker's own area, centred in what remains under the band.
+    const double dblX = (Size(kFullWidth) - Size(kWidth)) / 2;
+    const double dblY = (Size(kFullHeight) - Size(kFullBand) - Size(kHeight)) / 2 + Size(kFullBand);
+    sticker.SpaceStickerImageV6(iSpace, dblX, dblY);
+    sticker.SpaceStickerText(iSpace, dblX, dblY, !space.Image.FullPath().isEmpty());
+}
+
+} // namespace
+
+bool frmBMP::GenerateSpaceFullImage(const QString& sFullPathDest, int iSpace) try {
+    const double factor = StickerFactor(Size(kFullHeight));
+    const QSize size(PixelsOf(Size(kFullWidth), factor), PixelsOf(Size(kFullHeight), factor));
+    return WritePiece(sFullPathDest, size, factor * kFormDpi,
+                      [=](Surface& form) { DrawFullSpace(form, iSpace, factor); });
+} catch (...) {
+    ErrTail("frmBMP!", "GenerateSpaceFullImage", sFullPathDest, iSpace);
+}
+
+bool frmBMP::GenerateMoneyImage(const QString& sFullPathDest, int iMoney) try {
+    const double factor = MoneyFactor();
+    const QSize size(PixelsOf(kNoteWidth, factor), PixelsOf(kNoteHeight, factor));
+    return WritePiece(sFullPathDest, size, factor * kFormDpi, [=](Surface& form) {
+        basTAVL::g_oMoney(iMoney).DrawMoney(form, factor * kFormDpi, 0, 0, true, true, false);
+    });
+} catch (...) {
+    ErrTail("frmBMP!", "GenerateMoneyImage", sFullPathDest, iMoney);
+}
+
+bool frmBMP::GenerateTokenImage(const QString& sFullPathDest, int iToken) try {
+    return WritePiece(sFullPathDest, QSize(kTokenPixels, kTokenPixels), kTokenPixels / kTokenInches,
+                      [this, iToken](Surface& form) {
+                          basTAVL::g_oTokens(iToken).Redraw(0, 0, kTokenPixels, kTokenPixels, false, form, picOriginal,
+                                                            {}, Color::White());
+                      });
+} catch (...) {
+    ErrTail("frmBMP!", "GenerateTokenImage", sFullPathDest, iToken);
+}

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+#include "render/clsRenderDestination.h"
+
+#include "document/basTAVL.h"
+#include "platform/Numbers.h"
+#include "platform/PictureHolder.h"
+#include "platform/Surface.h"
+#include "services/basErrLog.h"
+
+namespace {
+
+constexpr double kMarginInches = 0.02;
+// Turn a line height in fractions of the board's width into the nominal size in inches that gives a text the
+// same proportion on its sticker as on the board.
+constexpr double kSpaceTextInches = 15.91435;
+constexpr double kCornerTextInches = 9.7656;
+// A corner's content stays this much smaller than its sticker.
+constexpr double kCornerInset = 0.1;
+
+double CornerContent() { return basTAVL::g_dblLabelSizes(7) - kCornerInset; }
+
+} // namespace
+
+void clsRenderDestination::StickerImage(C_Image& oImage, int lLeft, int lTop, int lSide) {
+    if (oImage.FullPath().isEmpty()) return;
+    if (oImage.IsWMF()) {
+        oImage.DrawMetafile(m_oDest->hDC(), lLeft, lTop, lSide, lSide);
+        return;
+    }
+    PictureHolder original;
+    oImage.PaintPictureZoomed(*m_oDest, original, ScaleModeKind::Pixels, lLeft, lTop, lLeft + lSide, lTop + lSide,
+                              Color::None());
+}
+
+void clsRenderDestination::StickerText(const QStringList& saLines, const C_FontInfo& oFont, double dblSizeLimit,
+                                       double dblWidth, double dblHeight, double dblX, double dblY,
+                                       bool bIncludeImage) {
+    const double w = dblWidth * dblDPI;
+    const double h = dblHeight * dblDPI;
+    const int lX = Pixels(dblX);
+    const int lY = Pixels(dblY);
+    const int lMargin = Pixels(kMarginInches);
+    const int lTop = bIncludeImage ? CLng(h / 2 + lY + lMargin) : lY;
+    const int lHeight = bIncludeImage ? CLng(h / 2 - lMargin) : CLng(h - lMargin);
+    const QStringList lines = saLines.isEmpty() ? QStringList{QString()} : saLines;
+    // The text routine leaves the colour to its caller.
+    m_oDest->ForeColor = basTAVL::g_lPrintBlack();
+    MultiLineTextAutofitWithSize(lines, int(lines.size()), CLng(dblSizeLimit * dblDPI), oFont.Family, oFont.Bold,
+                                 oFont.Italic, lX + lMargin, lTop, CLng(w - 2 * lMargin), lHeight,
+                                 basTAVL::g_lPrintBlack());
+}
+
+void clsRenderDestination::SpaceStickerImageV6(int iSpace, double dblX, double dblY) try {
+    const double w = basTAVL::g_dblLabelSizes(5) * dblDPI;
+    const double h = basTAVL::g_dblLabelSizes(6) * dblDPI;
+    const int lSide = CLng(h / 2);
+    StickerImage(basTAVL::g_oSpaces(iSpace).Image, CLng((w - lSide) / 2 + Pixels(dblX)), Pixels(dblY), lSide);
+} catch (...) {
+    ErrTail("clsRenderDestination!", "SpaceStickerImageV6", iSpace, dblX, dblY);
+}
+
+void clsRenderDestination::CornerStickerImageV6(int iCorner, double dblX, double dblY) try {
+    const double g = CornerContent() * dblDPI;
+    StickerImage(basTAVL::g_oCorners(iCorner).Image, CLng(g / 4 + Pixels(dblX)), Pixels(dblY), CLng(g / 2));
+} catch (...) {
+    ErrTail("clsRenderDestination!", "CornerStickerImageV6", iCorner, dblX, dblY);
+}
+
+void clsRenderDestination::SpaceStickerText(int iSpace, double dblX, double dblY, bool bIncludeImage) try {
+    const C_Space& space = basTAVL::g_oSpaces(iSpace);
+    StickerText(space.TextArray(), space.Font, double(space.TextSize()) * kSpaceTextInches, basTAVL::g_dblLabelSizes(5),
+                basTAVL::g_dblLabelSizes(6), dblX, dblY, bIncludeImage);
+} catch (...) {
+    ErrTail("clsRenderDestination!", "SpaceStickerText", iSpace, dblX, dblY, bIncludeImage);
+}
+
+void clsRenderDestination::CornerStickerText(int iCorner, double dblX, double dblY, bool bIncludeImage) try {
+    const C_Corner& corner = basTAVL::g_oCorners(iCorner);
+    StickerText(corner.TextArray(0), corner.Font, double(corner.TextSize(0)) * kCornerTextInches, CornerContent(),
+                CornerContent(), dblX, dblY, bIncludeImage);
+} catch (...) {
+    ErrTail("clsRenderDestination!", "CornerStickerText", iCorner, dblX, dblY, bIncludeImage);
+}

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#include "kit/RulesSheet.h"
+
+#include "document/basTAVL.h"
+#include "platform/Printer.h"
+#include "platform/ProgramSettings.h"
+#include "support/TestFixture.h"
+
+class RulesSheetTest : public TavloraTest {};
+
+TEST_F(RulesSheetTest, RulesAreBlackWhateverWasPrintedBefore) {
+    Settings().sProgramDirectory = QStringLiteral(TAVLORA_DATA_DIR);
+    PdfPrinter printer(PathOf(QStringLiteral("rules.pdf")), QStringLiteral("Rules"), QPageSize::Letter, 72);
+    printer.ForeColor = Color::Rgb(0, 255, 0);
+    SheetJob job{printer};
+    EXPECT_TRUE(PrintRulesSheet(job));
+    EXPECT_EQ(printer.ForeColor, basTAVL::g_lPrintBlack());
+}

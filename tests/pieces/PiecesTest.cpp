@@ -1,0 +1,382 @@
+// SPDX-License-Identifier: MIT
+// Pictures of the pieces: what is in the files, and what a printer makes of them.
+#include "app/GameKit.h"
+#include "pieces/frmBMP.h"
+#include "pieces/StickersUsingBMP.h"
+#include "platform/Files.h"
+#include "platform/LoadPicture.h"
+#include "platform/Printer.h"
+#include "platform/ProgramSettings.h"
+#include "platform/Screen.h"
+#include "render/clsRenderDestination.h"
+#include "services/basCommon.h"
+#include "support/GameFixture.h"
+#include "support/MetafileBuilder.h"
+
+#include <QProcess>
+
+namespace {
+
+class PiecesTest : public GameTest {
+protected:
+    PiecesTest() {
+        ForgetPictures();
+        frmBMP::InstallAsThumbnailMaker();
+        basCommon::InitIniPath();
+        GameKit::SetUp(QStringLiteral("tavlora"));
+    }
+    ~PiecesTest() override {
+        basCommon::ResetForTest();
+        Screen::SetSurfaceLimit(QSize(3840, 2160));
+    }
+
+    QImage Load(const QString& sPath) {
+        QString error;
+        const Picture picture = LoadPicture(sPath, error);
+        EXPECT_FALSE(picture.IsNull()) << qPrintable(error);
+        return picture.Image();
+    }
+    QString Photo(QColor color) {
+        QImage photo(900, 900, QImage::Format_RGB32);
+        photo.fill(color);
+        EXPECT_TRUE(photo.save(PathOf(QStringLiteral("photo.png"))));
+        return PathOf(QStringLiteral("photo.png"));
+    }
+    bool Line(const QString& sPath, double width, const QString& sText) {
+        return frmBMP::Instance().GenerateSingleLineImage(sPath, width, 0.49, sText, QStringLiteral("Arial"), true,
+                                                          false, Color::Black(), Color::Rgb(255, 255, 0));
+    }
+    static int Different(const QImage& a, const QImage& b, int by) {
+        int count = 0;
+        for (int y = 0; y < a.height(); ++y) {
+            for (int x = 0; x < a.width(); ++x) {
+                if (std::abs(qGreen(a.pixel(x, y)) - qGreen(b.pixel(x, y))) > by) ++count;
+            }
+        }
+        return count;
+    }
+    static QString TextOf(const QString& sPdf) {
+        QProcess reader;
+        reader.start(QStringLiteral("pdftotext"), {sPdf, QStringLiteral("-")});
+        return reader.waitForFinished() ? QString::fromUtf8(reader.readAllStandardOutput()) : QString();
+    }
+
+    const QString file = PathOf(QStringLiteral("piece.bmp"));
+};
+
+} // namespace
+
+TEST_F(PiecesTest, Edge_ANineInchLineNeedsThreeBandsOn1024PixelsAndUnfoldsToTheSamePicture) {
+    const QString text = QStringLiteral("Our Own Town, the Game");
+    ASSERT_TRUE(Line(file, 9.0, text));
+    const QImage whole = Load(file);
+    Screen::SetSurfaceLimit(QSize(1024, 768));
+    const QString folded = PathOf(QStringLiteral("folded.bmp"));
+    ASSERT_TRUE(Line(folded, 9.0, text));
+    const QImage unfolded = Load(folded);
+    EXPECT_EQ(whole.size(), QSize(2700, 147));
+    EXPECT_EQ((whole.width() + 1015) / 1016, 3) << "bands of the narrow surface";
+    ASSERT_EQ(unfolded.size(), whole.size());
+    EXPECT_LT(Different(whole, unfolded, 40), 20) << "but for the smoothing of an edge";
+}
+
+TEST_F(PiecesTest, ALineTooLongForItsSurfaceBecomesLowerAndStaysWhole) {
+    Screen::SetSurfaceLimit(QSize(400, 300));
+    ASSERT_TRUE(Line(file, 0, QString(120, u'W')));
+    const QImage line = Load(file);
+    EXPECT_GT(line.width(), 4 * line.height());
+    EXPECT_LT(line.height(), 147);
+    int lastInk = 0;
+    for (int x = 0; x < line.width(); ++x) {
+        if (qGreen(line.pixel(x, line.height() / 2)) < 128) lastInk = x;
+    }
+    EXPECT_GT(lastInk, line.width() - line.height()) << "the last letter is there";
+}
+
+TEST_F(PiecesTest, ALineBreakBecomesABlank) {
+    ASSERT_TRUE(Line(file, 0, QStringLiteral("Our\r\nTown")));
+    const int broken = Load(file).width();
+    ASSERT_TRUE(Line(file, 0, QStringLiteral("Our Town")));
+    EXPECT_EQ(Load(file).width(), broken);
+}
+
+TEST_F(PiecesTest, ALinesWidthIsTakenAt300DotsAnInchThoughItsHeightIsRounded) {
+    // 0.375 inch are 112 and a half dots.
+    ASSERT_TRUE(frmBMP::Instance().GenerateSingleLineImage(file, 2.875, 0.375, QStringLiteral("Good News!"),
+                                                           QStringLiteral("Arial"), true, false, Color::Black(),
+                                                           Color::White()));
+    EXPECT_EQ(Load(file).size(), QSize(862, 112));
+}
+
+TEST_F(PiecesTest, PiecesBecomeSmallerOnASurfaceThatIsTooSmallForThem) {
+    Screen::SetSurfaceLimit(QSize(640, 480));
+    frmBMP& form = frmBMP::Instance();
+    ASSERT_TRUE(form.GenerateCornerImage(file, 0));
+    EXPECT_EQ(Load(file).size(), QSize(456, 456)) << "24 pixels are the window's";
+    ASSERT_TRUE(form.GenerateSpaceFullImage(file, 0));
+    EXPECT_EQ(Load(file).size(), QSize(268, 456));
+    ASSERT_TRUE(form.GenerateSpaceStickerImage(file, 0));
+    EXPECT_EQ(Load(file).size(), QSize(292, 456));
+    ASSERT_TRUE(form.GenerateTextImage(file, 4.0, 1.0, QStringLiteral("a"), QStringLiteral("Arial"), false, false, 0.2,
+                                       Color::Black(), Color::White()));
+    EXPECT_EQ(Load(file).size(), QSize(632, 158));
+    ASSERT_TRUE(form.GenerateMoneyImage(file, 0));
+    EXPECT_EQ(Load(file).size(), QSize(632, 337)) << "8 pixels are the window's";
+    Screen::SetSurfaceLimit(QSize(1000, 300));
+    ASSERT_TRUE(form.GenerateMoneyImage(file, 0));
+    EXPECT_EQ(Load(file).size(), QSize(548, 292));
+    ASSERT_TRUE(form.GenerateTokenImage(file, 0));
+    EXPECT_EQ(Load(file).size(), QSize(266, 266)) << "always";
+}
+
+TEST_F(PiecesTest, AWholeSpaceStandsOnThePrintGroundWithItsBandAndPrice) {
+    C_Space& space = basTAVL::g_oSpaces(5);
+    space.SpaceColor = Color::Rgb(192, 0, 96);
+    space.CostColor = Color::White();
+    space.Cost = QStringLiteral("$1,400");
+    space.SetText(QStringLiteral("Oak Street"));
+    ASSERT_TRUE(frmBMP::Instance().GenerateSpaceFullImage(file, 5));
+    const QImage image = Load(file);
+    EXPECT_EQ(image.size(), QSize(475, 810));
+    EXPECT_EQ(image.pixelColor(30, 100), QColor(192, 0, 96));
+    EXPECT_EQ(image.pixelColor(30, 300), QColor(0xB6, 0xDD, 0xC7));
+    EXPECT_EQ(image.pixelColor(2, 400), QColor(Qt::black));
+}
+
+TEST_F(PiecesTest, WordsInAPricesPlaceKeepTheirFirstAndLastLetter) {
+    C_Space& space = basTAVL::g_oSpaces(10);
+    space.SpaceColor = Color::Black();
+    space.CostColor = Color::Rgb(255, 255, 0);
+    space.Cost = QStringLiteral("PLAY LOTTO");
+    ASSERT_TRUE(frmBMP::Instance().GenerateSpaceFullImage(file, 10));
+    const QImage image = Load(file);
+    int first = image.width();
+    int last = 0;
+    for (int y = 0; y < 120; ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (qRed(image.pixel(x, y)) < 128) continue;
+            first = std::min(first, x);
+            last = std::max(last, x);
+        }
+    }
+    EXPECT_GT(first, 8) << "half of the outline";
+    EXPECT_LT(first, 40);
+    EXPECT_LT(last, image.width() - 8);
+    EXPECT_GT(last, image.width() - 40);
+}
+
+TEST_F(PiecesTest, ACornerIs612PixelsWithItsPictureInTheUpperHalf) {
+    basTAVL::g_oCorners(1).SetText(0, QStringLiteral("Lose Turn"));
+    basTAVL::g_oCorners(1).Image.Init(Photo(Qt::blue), QStringLiteral("Corner"), 1);
+    ASSERT_TRUE(frmBMP::Instance().GenerateCornerImage(file, 1));
+    const QImage image = Load(file);
+    EXPECT_EQ(image.size(), QSize(612, 612));
+    EXPECT_EQ(image.pixelColor(306, 150), QColor(Qt::blue));
+    EXPECT_EQ(image.pixelColor(60, 150), QColor(0xB6, 0xDD, 0xC7));
+    EXPECT_EQ(image.pixelColor(306, 8), QColor(0xB6, 0xDD, 0xC7)) << "content starts 0.05 inch inside";
+}
+
+TEST_F(PiecesTest, Edge_ANoteIs1125By600PixelsAt300DotsAnInch) {
+    ScratchForm form(QSize(1200, 700));
+    form.SetBackColor(Color::Rgb(1, 2, 3));
+    basTAVL::g_oMoney(0).BackColor = Color::Rgb(200, 220, 240);
+    basTAVL::g_oMoney(0).DrawMoney(form, 300, 0, 0, true, false, false);
+    EXPECT_EQ(form.hDC().GetPixel(1125, 600), Color::Rgb(200, 220, 240));
+    EXPECT_EQ(form.hDC().GetPixel(1127, 602), Color::Rgb(1, 2, 3));
+}
+
+TEST_F(PiecesTest, Edge_WithoutAPictureKitEightShowsTheCurrencyOvalAndItsAbsenceLeavesTheOvalEmpty) {
+    const auto ovalColors = [&] {
+        ScratchForm form(QSize(375, 200));
+        basTAVL::g_oMoney(0).BackColor = Color::White();
+        basTAVL::g_oMoney(0).DrawMoney(form, 100, 0, 0, true, false, false);
+        int inked = 0;
+        for (int y = 60; y < 140; ++y) {
+            for (int x = 150; x < 220; ++x) {
+                if (!(form.hDC().GetPixel(x, y) == Color::White())) ++inked;
+            }
+        }
+        return inked;
+    };
+    EXPECT_GT(ovalColors(), 500);
+    Settings().sProgramDirectory = folder.path();
+    EXPECT_EQ(ovalColors(), 0);
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+}
+
+TEST_F(PiecesTest, ANotesOvalShowsThePictureAndTheNoteAroundItStays) {
+    C_Money& money = basTAVL::g_oMoney(2);
+    money.Index = 2;
+    money.BackColor = Color::Rgb(0, 255, 0);
+    money.FaceImage.Init(Photo(Qt::red), QStringLiteral("Money"), 2);
+    money.Let_Text(0, QStringLiteral("In Oma\r\nwe trust"));
+    ASSERT_TRUE(frmBMP::Instance().GenerateMoneyImage(file, 2));
+    const QImage image = Load(file);
+    EXPECT_EQ(image.size(), QSize(720, 384));
+    EXPECT_EQ(image.pixelColor(int(1.84 * 192), int(0.995 * 192)), QColor(Qt::red));
+    EXPECT_EQ(image.pixelColor(int(1.44 * 192), int(0.54 * 192)), QColor(Qt::green)) << "outside the oval";
+}
+
+TEST_F(PiecesTest, ABadMetafileIsToldOnceHoweverOftenItsPieceIsMade) {
+    const QString path = PathOf(QStringLiteral("bad.wmf"));
+    WriteFile(QStringLiteral("bad.wmf"), "this is no metafile at all");
+    basTAVL::g_oSpaces(2).Image.Init(path, QStringLiteral("Space"), 2);
+    basTAVL::g_oCorners(1).Image.Init(path, QStringLiteral("Corner"), 1);
+    basTAVL::g_oMoney(0).FaceImage.Init(path, QStringLiteral("Money"), 0);
+    frmBMP& form = frmBMP::Instance();
+    const auto make = [&] {
+        ASSERT_TRUE(form.GenerateSpaceFullImage(file, 2));
+        ASSERT_TRUE(form.GenerateSpaceStickerImage(file, 2));
+        ASSERT_TRUE(form.GenerateCornerImage(file, 1));
+        ASSERT_TRUE(form.GenerateMoneyImage(file, 0));
+    };
+    make();
+    EXPECT_EQ(desktop.boxes.size(), 3) << "a space, a corner and a note";
+    make();
+    EXPECT_EQ(desktop.boxes.size(), 3);
+}
+
+TEST_F(PiecesTest, AMetafileThatIsGoodAgainIsDrawn) {
+    C_Token& token = basTAVL::g_oTokens(2);
+    token.Init(2);
+    const QString path = PathOf(QStringLiteral("late.wmf"));
+    token.Image.Init(path, QStringLiteral("Token"), 2);
+    ASSERT_EQ(desktop.boxes.size(), 1) << "it isn't there yet";
+    C_Money& money = basTAVL::g_oMoney(1);
+    money.FaceImage.Init(path, QStringLiteral("Money"), 1);
+    ASSERT_TRUE(frmBMP::Instance().GenerateMoneyImage(file, 1));
+    MetafileBuilder drawing(50, 50);
+    drawing.NullPen().Brush(Color::Rgb(255, 0, 0)).Rectangle(0, 0, 51, 51);
+    WriteFile(QStringLiteral("late.wmf"), drawing.Placeable());
+    ASSERT_TRUE(frmBMP::Instance().GenerateTokenImage(file, 2));
+    EXPECT_EQ(Load(file).pixelColor(133, 133), QColor(Qt::red));
+    EXPECT_EQ(token.Image.FullPath(), path);
+    ASSERT_TRUE(frmBMP::Instance().GenerateMoneyImage(file, 1));
+    EXPECT_EQ(Load(file).pixelColor(int(1.84 * 192), int(0.995 * 192)), QColor(Qt::red));
+}
+
+TEST_F(PiecesTest, DotsAreDashedInTheNotesOwnColourAndFillNothing) {
+    ScratchForm form(QSize(400, 220));
+    form.SetBackColor(Color::Black());
+    basTAVL::g_oMoney(0).BackColor = Color::Rgb(255, 0, 0);
+    basTAVL::g_oMoney(0).DrawMoney(form, 100, 10, 10, false, false, true);
+    EXPECT_EQ(form.hDC().GetPixel(11, 9), Color::Rgb(255, 0, 0));
+    EXPECT_EQ(form.hDC().GetPixel(200, 100), Color::Black());
+}
+
+TEST_F(PiecesTest, ATokenIsRoundOnWhite) {
+    C_Token& token = basTAVL::g_oTokens(3);
+    token.Init(3);
+    token.BackColor = Color::Rgb(255, 245, 0);
+    token.SetText(QStringLiteral("Dad"));
+    ASSERT_TRUE(frmBMP::Instance().GenerateTokenImage(file, 3));
+    const QImage image = Load(file);
+    EXPECT_EQ(image.size(), QSize(266, 266));
+    EXPECT_EQ(image.pixelColor(133, 20), QColor(255, 245, 0));
+    EXPECT_EQ(image.pixelColor(12, 12), QColor(Qt::white));
+    int ink = 0;
+    for (int x = 60; x < 206; ++x)
+        ink += qGreen(image.pixel(x, 133)) < 100 ? 1 : 0;
+    EXPECT_GT(ink, 5);
+}
+
+TEST_F(PiecesTest, ATokenWhosePictureIsGoneShowsItsText) {
+    C_Token& token = basTAVL::g_oTokens(0);
+    token.Init(0);
+    token.SetText(QStringLiteral("Mum"));
+    token.Image.Init(Photo(Qt::blue), QStringLiteral("Token"), 0);
+    QString error;
+    ASSERT_TRUE(Files::Remove(PathOf(QStringLiteral("photo.png")), error));
+    ForgetPictures();
+    ASSERT_TRUE(frmBMP::Instance().GenerateTokenImage(file, 0));
+    EXPECT_EQ(desktop.boxes.size(), 1);
+    EXPECT_TRUE(token.Image.FullPath().isEmpty());
+}
+
+TEST_F(PiecesTest, TextsFillTheirBoxesWithoutLeavingThem) {
+    const QString text = QStringLiteral("The South Side\r\nof our town");
+    ASSERT_TRUE(frmBMP::Instance().GenerateTextImage(file, 1.75, 0.571, text, QStringLiteral("Times New Roman"), true,
+                                                     true, 0.2, Color::Black(), Color::Rgb(255, 0, 0)));
+    EXPECT_EQ(Load(file).size(), QSize(504, 164));
+    EXPECT_EQ(Load(file).pixelColor(1, 1), QColor(Qt::red));
+    for (const bool stretch : {true, false}) {
+        ASSERT_TRUE(frmBMP::Instance().GenerateStretchedTextImage(file, 4.0, 0.5, QStringLiteral("HOH"),
+                                                                  QStringLiteral("Arial"), false, false, Color::Black(),
+                                                                  Color::White(), stretch));
+        const QImage image = Load(file);
+        int first = image.width();
+        int last = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                if (qGreen(image.pixel(x, y)) > 128) continue;
+                first = std::min(first, x);
+                last = std::max(last, x);
+            }
+        }
+        if (stretch) {
+            EXPECT_LT(first, 60);
+            EXPECT_GT(last, image.width() - 60);
+        } else {
+            EXPECT_GT(first, 300);
+        }
+    }
+}
+
+TEST_F(PiecesTest, ACornerThatCannotBeMadeSaysSo) {
+    ScratchForm form(QSize(400, 400));
+    clsRenderDestination destination;
+    destination.Init(form, 1.0);
+    WriteFile(QStringLiteral("CornerImage1.bmp"), "in the way");
+    Files::SetFaultHook([](Files::Operation operation, const QString& sPath) -> std::optional<QString> {
+        if (operation == Files::Operation::Remove && sPath.endsWith(QStringLiteral(".bmp")))
+            return QStringLiteral("Permission denied");
+        return std::nullopt;
+    });
+    CornerStickerUsingBMP(destination, 1, 0.5, 0.5);
+    EXPECT_EQ(form.hDC().GetPixel(150, 150), Color::White());
+    ASSERT_FALSE(desktop.boxes.isEmpty());
+    EXPECT_EQ(desktop.boxes.last().sText, QStringLiteral("Unable to create Money Image. Money will not be printed."));
+}
+
+TEST_F(PiecesTest, Edge_AStickersFileIsDeletedOnlyAfterItWasPainted) {
+    ScratchForm form(QSize(400, 400));
+    clsRenderDestination destination;
+    destination.Init(form, 1.0);
+    CornerStickerUsingBMP(destination, 1, 0.5, 0.5);
+    EXPECT_EQ(form.hDC().GetPixel(150, 150), Color::Rgb(0xB6, 0xDD, 0xC7));
+    EXPECT_FALSE(Files::Exists(PathOf(QStringLiteral("CornerImage1.bmp"))));
+    Files::SetFaultHook([](Files::Operation operation, const QString& sPath) -> std::optional<QString> {
+        if (operation == Files::Operation::Read && sPath.endsWith(QStringLiteral("CornerImage1.bmp")))
+            return QStringLiteral("Input/output error");
+        return std::nullopt;
+    });
+    ForgetPictures();
+    EXPECT_THROW(CornerStickerUsingBMP(destination, 1, 0.5, 0.5), TavloraError);
+    EXPECT_TRUE(Files::Exists(PathOf(QStringLiteral("CornerImage1.bmp"))));
+}
+
+TEST_F(PiecesTest, ASpaceStickerHasCutLinesRoundIt) {
+    ScratchForm form(QSize(400, 400));
+    clsRenderDestination destination;
+    destination.Init(form, 1.0);
+    SpaceStickerUsingBMP(destination, 4, 1.0, 1.0);
+    EXPECT_EQ(form.hDC().GetPixel(100, 200), Color::Rgb(0xB6, 0xDD, 0xC7));
+    EXPECT_EQ(form.hDC().GetPixel(96, 95), Color::Black());
+}
+
+TEST_F(PiecesTest, AMadePicturePrintsAsTextAndPhotos) {
+    C_Space& space = basTAVL::g_oSpaces(5);
+    space.SetText(QStringLiteral("Oak Street"));
+    space.Image.Init(Photo(Qt::darkGreen), QStringLiteral("Space"), 5);
+    ASSERT_TRUE(frmBMP::Instance().GenerateSpaceFullImage(file, 5));
+    const QString pdf = PathOf(QStringLiteral("sheet.pdf"));
+    PdfPrinter printer(pdf, QStringLiteral("sheet"));
+    clsRenderDestination destination;
+    destination.Init(printer, 1.0);
+    destination.OutputFromBMP(file, 1, 1, 1.65, 2.8125);
+    QString error;
+    ASSERT_TRUE(printer.Close(error)) << qPrintable(error);
+    const QString text = TextOf(pdf);
+    if (text.isNull()) GTEST_SKIP() << "no reader of PDF files is installed";
+    EXPECT_TRUE(text.contains(QStringLiteral("Oak Street"))) << qPrintable(text);
+}

@@ -1,0 +1,163 @@
+// SPDX-License-Identifier: MIT
+#include "render/clsRenderDestination.h"
+
+#include "platform/ProgramSettings.h"
+#include "platform/Surface.h"
+#include "services/basErrLog.h"
+#include "support/TestFixture.h"
+
+namespace {
+
+// A surface that keeps what is printed where.
+class PageOfText : public ScratchForm {
+public:
+    PageOfText() : ScratchForm(QSize(768, 1008)) {}
+    QRect Ink(QRect part) {
+        QRect box;
+        const QImage& image = Image();
+        for (int y = part.top(); y <= part.bottom(); ++y) {
+            for (int x = part.left(); x <= part.right(); ++x) {
+                if (qGreen(image.pixel(x, y)) < 200) box |= QRect(x, y, 1, 1);
+            }
+        }
+        return box;
+    }
+    QRect Ink() { return Ink(Image().rect()); }
+};
+
+struct ParsedLine {
+    QString sText;
+    QString sFont;
+    int lSize = 0;
+    QString sAlign;
+    bool bBold = false;
+    bool bItalic = false;
+    int iResult = 0;
+};
+
+ParsedLine Parse(const char* line) {
+    ParsedLine parsed;
+    parsed.sText = QString::fromUtf8(line);
+    clsRenderDestination::ParseGamePlayLine(parsed.sText, parsed.sFont, parsed.lSize, parsed.sAlign, parsed.bBold,
+                                            parsed.bItalic, parsed.iResult);
+    return parsed;
+}
+
+} // namespace
+
+class InstructionSheetTest : public TavloraTest {
+protected:
+    InstructionSheetTest() {
+        basErrLog::ResetForTest();
+        basErrLog::ErrInit(60000);
+        Settings().sProgramDirectory = folder.path();
+        destination.Init(page, 1.0);
+    }
+    void PrintRules(const QByteArray& text) {
+        WriteFile(QStringLiteral("GamePlay.dat"), text);
+        destination.InstructionSheet(names);
+    }
+
+    PageOfText page;
+    clsRenderDestination destination;
+    InstructionNames names{QStringLiteral("Family TAVLO"), QStringLiteral("Good News"), QStringLiteral("Bad News"),
+                           QStringLiteral("Start"),        QStringLiteral("Detention"), QStringLiteral("Rest Stop"),
+                           QStringLiteral("Fate!")};
+};
+
+TEST_F(InstructionSheetTest, Edge_ATextBeforeAnyTagPrintsOneCharacterALineAtTheLeftEdge) {
+    PrintRules("times,10,L,R:HHH\r\n");
+    const QRect ink = page.Ink();
+    EXPECT_LT(ink.right(), 15);
+    EXPECT_GT(ink.height(), 2 * 13);
+}
+
+TEST_F(InstructionSheetTest, Edge_TheSecondColumnStartsAtItsTopWhateverTheFirstHolds) {
+    PrintRules("<Col1>\r\ntimes,20,L,R:HHH\r\ntimes,20,L,R:HHH\r\ntimes,20,L,R:HHH\r\n<Col2>\r\ntimes,20,L,R:HHH\r\n");
+    const QRect first = page.Ink(QRect(0, 0, 384, 1008));
+    const QRect second = page.Ink(QRect(400, 0, 368, 1008));
+    EXPECT_EQ(first.top(), second.top());
+    EXPECT_GE(second.top(), 132);
+    EXPECT_GE(second.left(), 408);
+    EXPECT_GT(first.bottom(), second.bottom() + 40);
+}
+
+TEST_F(InstructionSheetTest, Edge_TimesSelectsArialWithAPitchOfTenPoints) {
+    const ParsedLine line = Parse("times,10,L,R:Hello");
+    EXPECT_EQ(line.sFont, QStringLiteral("Arial"));
+    EXPECT_EQ(line.lSize, 10);
+    EXPECT_EQ(line.sText, QStringLiteral("Hello"));
+    EXPECT_EQ(line.iResult, 0);
+    PrintRules("<Head>\r\ntimes,10,L,R:H\r\ntimes,10,L,R:H\r\ntimes,10,L,R:H\r\n");
+    const QRect three = page.Ink();
+    page.Cls();
+    PrintRules("<Head>\r\ntimes,10,L,R:H\r\n");
+    EXPECT_EQ(three.height() - page.Ink().height(), 2 * 13) << "10/72 inch at 96 dots is 13 pixels";
+}
+
+TEST_F(InstructionSheetTest, Edge_ATagThatOccursTwiceIsReplacedTwice) {
+    EXPECT_EQ(clsRenderDestination::MakeSubstitutions(QStringLiteral("<START> and <START>"), QStringLiteral("<START>"),
+                                                      QStringLiteral("Go")),
+              QStringLiteral("Go and Go"));
+}
+
+TEST_F(InstructionSheetTest, Edge_ATagWithATrailingBlankIsATextLineInABadForm) {
+    PrintRules("<Head> \r\ntimes,20,L,R:never printed\r\n");
+    EXPECT_EQ(desktop.Texts(), QStringList{QStringLiteral("An error occurred processing one of the lines in the "
+                                                          "GamePlay.dat file.")});
+    EXPECT_TRUE(page.Ink().isNull());
+}
+
+TEST_F(InstructionSheetTest, ANameHoldingItsOwnTagCannotHangThePrint) {
+    EXPECT_EQ(clsRenderDestination::MakeSubstitutions(QStringLiteral("<FATE>"), QStringLiteral("<FATE>"),
+                                                      QStringLiteral("x<FATE>x")),
+              QStringLiteral("x<FATE>x"));
+    EXPECT_EQ(clsRenderDestination::MakeSubstitutions(QStringLiteral("<fate>"), QStringLiteral("<FATE>"),
+                                                      QStringLiteral("x")),
+              QStringLiteral("<fate>"));
+}
+
+TEST_F(InstructionSheetTest, LinesAreTakenApart) {
+    ParsedLine line = Parse(" arial , 12.9 , C , BI : Rules: of <START> ");
+    EXPECT_EQ(line.iResult, 0);
+    EXPECT_EQ(line.sFont, QStringLiteral("Times New Roman"));
+    EXPECT_EQ(line.lSize, 12);
+    EXPECT_EQ(line.sAlign, QStringLiteral("C"));
+    EXPECT_TRUE(line.bBold);
+    EXPECT_TRUE(line.bItalic);
+    EXPECT_EQ(line.sText, QStringLiteral("Rules: of <START>"));
+    line = Parse("DejaVu Sans,8,R,I:");
+    EXPECT_EQ(line.sFont, QStringLiteral("DejaVu Sans"));
+    EXPECT_EQ(line.sText, QString());
+    EXPECT_EQ(line.iResult, 0) << "a blank text advances one line";
+}
+
+TEST_F(InstructionSheetTest, EachBadFieldIsAFormatError) {
+    for (const char* bad : {"times", "times,x,L,R:a", "times,10,M,R:a", "times,10,l,R:a", "times,10,L,IB:a",
+                            "times,10,L,R a", "times,10,L", ",,,:"}) {
+        EXPECT_LT(Parse(bad).iResult, 0) << bad;
+    }
+    EXPECT_EQ(desktop.boxes.size(), 8);
+}
+
+TEST_F(InstructionSheetTest, WithoutTheFileItSaysWhatIsMissing) {
+    destination.InstructionSheet(names);
+    ASSERT_EQ(desktop.boxes.size(), 1);
+    const QString text = desktop.boxes[0].sText;
+    EXPECT_TRUE(text.startsWith(QStringLiteral("Unable to open the file named '") +
+                                PathOf(QStringLiteral("GamePlay_US.dat")) +
+                                QStringLiteral(".The following error was reported: \r\n\r\n")))
+        << qPrintable(text);
+    EXPECT_TRUE(text.endsWith(QStringLiteral("\r\n\r\nThe instruction sheet cannot be printed without this file.")));
+    EXPECT_EQ(desktop.boxes[0].iStyle, vbInformation);
+}
+
+TEST_F(InstructionSheetTest, TheShippedRulesFitThePage) {
+    Settings().sProgramDirectory = QStringLiteral(TAVLORA_DATA_DIR);
+    destination.InstructionSheet(names);
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+    const QRect ink = page.Ink();
+    EXPECT_GT(ink.height(), 700);
+    EXPECT_LT(ink.bottom(), 1000) << "nothing runs off the page of 10.5 inches";
+    EXPECT_LE(ink.right(), int(7.05 * 96));
+}

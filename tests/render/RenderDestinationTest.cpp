@@ -1,0 +1,253 @@
+// SPDX-License-Identifier: MIT
+#include "render/clsRenderDestination.h"
+
+#include "board/basPositTables.h"
+#include "drawing/DrawDottedBox.h"
+#include "platform/Files.h"
+#include "platform/Printer.h"
+#include "platform/ProgramSettings.h"
+#include "services/basErrLog.h"
+#include "support/TestFixture.h"
+
+#include <QProcess>
+
+namespace {
+
+QRect InkBox(const QImage& image) {
+    QRect box;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (qGreen(image.pixel(x, y)) < 200) box |= QRect(x, y, 1, 1);
+        }
+    }
+    return box;
+}
+
+} // namespace
+
+class RenderDestinationTest : public TavloraTest {
+protected:
+    RenderDestinationTest() : form(QSize(600, 400)) {
+        basErrLog::ResetForTest();
+        basErrLog::ErrInit(60000);
+        destination.Init(form, 1.0);
+    }
+    QRect Ink() { return InkBox(form.Image()); }
+
+    ScratchForm form;
+    clsRenderDestination destination;
+    const QString sArial = QStringLiteral("Arial");
+};
+
+TEST_F(RenderDestinationTest, Edge_APrinterOf600DotsIsProbedWithSize150) {
+    PdfPrinter printer(PathOf(QStringLiteral("x.pdf")), QStringLiteral("x"));
+    clsRenderDestination onPrinter;
+    onPrinter.Init(printer, 1.0);
+    EXPECT_DOUBLE_EQ(onPrinter.DPI(), 600.0);
+    EXPECT_DOUBLE_EQ(printer.FontSize(), 150.0);
+    EXPECT_EQ(printer.FontName, sArial);
+    EXPECT_EQ(printer.ScaleMode, ScaleModeKind::Pixels);
+    // A line of 100 pixels has the nominal size 62.5; times the factor its text measures 100 pixels.
+    printer.SetFontSize(62.5 * onPrinter.FontFactor());
+    EXPECT_NEAR(printer.TextHeight(QStringLiteral("Test")), 100.0, 0.01);
+}
+
+TEST_F(RenderDestinationTest, Edge_OnAWindowTheFactorIs1AndTheDotsAre96) {
+    EXPECT_DOUBLE_EQ(destination.DPI(), 96.0);
+    EXPECT_DOUBLE_EQ(destination.FontFactor(), 1.0);
+    destination.Init(form, 2.5);
+    EXPECT_DOUBLE_EQ(destination.DPI(), 240.0);
+}
+
+TEST_F(RenderDestinationTest, Edge_AWordWiderThanTheBlockIsSplitBetweenLetters) {
+    QString text = QStringLiteral("Donaudampfschifffahrt");
+    int y = 10;
+    destination.TextBlock(text, 10, y, 60, sArial, 24, false, false, QStringLiteral("L"));
+    EXPECT_TRUE(text.isEmpty());
+    EXPECT_GE(y, 10 + 3 * 24);
+    EXPECT_LE(Ink().right(), 10 + 60 + 20) << "a line ends with the character that reaches the width";
+}
+
+TEST_F(RenderDestinationTest, Edge_ABoxWithoutLinesDrawsNoBackgroundEither) {
+    basPosit::m_CenterText(6).iNLines = 0;
+    destination.MultiLineBox(6, sArial, false, false, 1, 1, 2, 2, Color::Black(), Color::Rgb(255, 0, 0));
+    EXPECT_TRUE(Ink().isNull());
+}
+
+TEST_F(RenderDestinationTest, ABoxOfATitleRecordIsFilledAndHoldsItsLines) {
+    basPosit::CenterTextRecord& record = basPosit::m_CenterText(6);
+    record.sLine = {QStringLiteral("Our"), QStringLiteral("Town")};
+    record.iNLines = 2;
+    destination.MultiLineBox(6, sArial, true, false, 1, 1, 2, 1, Color::Black(), Color::Rgb(255, 255, 0));
+    EXPECT_EQ(form.hDC().GetPixel(97, 97), Color::Rgb(255, 255, 0));
+    EXPECT_TRUE(QRect(96, 96, 192, 96).contains(Ink()));
+    EXPECT_NEAR(Ink().center().x(), 192, 3);
+    basPosit::ResetTablesForTest();
+}
+
+TEST_F(RenderDestinationTest, Edge_AVeryLongSingleLineIsSqueezedIntoItsBox) {
+    basPosit::m_CenterText(1).sText = QStringLiteral("MMMMMMMMMM ").repeated(20).trimmed();
+    destination.SingleLine(1, sArial, false, false, 1, 1, 2, 0.5, 0.5, 0.05, Color::Black(), Color::Rgb(255, 255, 0));
+    // 192 by 48 pixels with a margin of 5.
+    EXPECT_TRUE(QRect(96 + 5, 96 + 5, 192 - 10, 48 - 10).contains(Ink()));
+    EXPECT_GT(Ink().width(), 170);
+    EXPECT_EQ(form.hDC().GetPixel(97, 97), Color::Rgb(255, 255, 0));
+    basPosit::ResetTablesForTest();
+}
+
+TEST_F(RenderDestinationTest, ASingleLineFillsItsBoxWhateverItsProportions) {
+    basPosit::m_CenterText(0).sText = QStringLiteral("H\r\nH");
+    destination.SingleLine(0, sArial, true, false, 1, 1, 4, 1, 0.5, 0, Color::Black(), Color::White());
+    EXPECT_GT(Ink().width(), 300);
+    EXPECT_GT(Ink().height(), 60);
+    EXPECT_FALSE(Files::Exists(PathOf(QStringLiteral("TempTextBMP0.temp"))));
+    basPosit::m_CenterText(2).sText = QStringLiteral("Sub");
+    destination.SingleLine(2, sArial, true, false, 1, 1, 4, 1, 0.5, 0, Color::Black(), Color::White());
+    EXPECT_TRUE(Files::Exists(PathOf(QStringLiteral("TempBMP2.temp"))));
+    basPosit::ResetTablesForTest();
+}
+
+TEST_F(RenderDestinationTest, ASingleLineIsPrintedAsText) {
+    basPosit::m_CenterText(1).sText = QStringLiteral("Tavloton");
+    const QString path = PathOf(QStringLiteral("line.pdf"));
+    {
+        PdfPrinter printer(path, QStringLiteral("line"));
+        clsRenderDestination onPrinter;
+        onPrinter.Init(printer, 1.0);
+        onPrinter.SingleLine(1, sArial, false, false, 1, 1, 4, 1, 0.5, 0.05, Color::Black(), Color::White());
+        printer.EndDoc();
+        QString error;
+        ASSERT_TRUE(printer.Close(error)) << qPrintable(error);
+    }
+    QProcess pdftotext;
+    pdftotext.start(QStringLiteral("pdftotext"), {path, QStringLiteral("-")});
+    if (!pdftotext.waitForStarted()) GTEST_SKIP() << "pdftotext isn't installed";
+    pdftotext.waitForFinished();
+    EXPECT_TRUE(QString::fromUtf8(pdftotext.readAllStandardOutput()).contains(QStringLiteral("Tavloton")));
+    basPosit::ResetTablesForTest();
+}
+
+TEST_F(RenderDestinationTest, Edge_ALegendWithoutAnArrowIsIndentedAllTheSame) {
+    destination.Legend(1.0F, 1.0F, QStringLiteral("none"), QStringLiteral("HHH"), Color::Black());
+    const QRect without = Ink();
+    EXPECT_GE(without.left(), 96 + 15);
+    form.Cls();
+    destination.Legend(1.0F, 1.0F, QStringLiteral("up"), QStringLiteral("HHH"), Color::Black());
+    EXPECT_EQ(Ink().right(), without.right());
+}
+
+TEST_F(RenderDestinationTest, LinesAreCentredAndFitTheirBox) {
+    destination.MultiLineTextAutofit({QStringLiteral("Our Town"), QStringLiteral("Game")}, 2, sArial, true, false, 100,
+                                     50, 300, 200, Color::Black());
+    const QRect ink = Ink();
+    EXPECT_TRUE(QRect(100, 50, 300, 190).contains(ink));
+    EXPECT_NEAR(ink.center().x(), 250, 3);
+}
+
+TEST_F(RenderDestinationTest, AWideLineShrinksTheWholeBlock) {
+    destination.MultiLineTextAutofit({QString(60, u'W'), QStringLiteral("x")}, 2, sArial, false, false, 50, 50, 500,
+                                     300, Color::Black());
+    const QRect ink = Ink();
+    EXPECT_GE(ink.left(), 50);
+    EXPECT_LE(ink.right(), 550);
+}
+
+TEST_F(RenderDestinationTest, ASizeLimitKeepsSeveralBoxesAlike) {
+    destination.MultiLineTextAutofitWithSize({QStringLiteral("Game")}, 1, 12, sArial, false, false, 0, 0, 600, 400,
+                                             Color::Black());
+    EXPECT_DOUBLE_EQ(form.FontSize(), 12.0);
+    destination.MultiLineTextAutofitWithSize({QStringLiteral("Game")}, 1, 0, sArial, false, false, 0, 0, 600, 400,
+                                             Color::Black());
+    EXPECT_DOUBLE_EQ(form.FontSize(), 1.0);
+    destination.MultiLineTextAutofitWithSize({QStringLiteral("Game")}, 1, 5000, sArial, false, false, 0, 0, 600, 40,
+                                             Color::Black());
+    EXPECT_LT(form.FontSize(), 40.0) << "a limit never makes a text larger";
+}
+
+TEST_F(RenderDestinationTest, ABlockBreaksAtBlanksAndMovesDown) {
+    QString text = QStringLiteral("Roll both dice and move that many spaces clockwise");
+    int y = 0;
+    destination.TextBlock(text, 20, y, 150, sArial, 20, false, false, QStringLiteral("L"));
+    EXPECT_EQ(y % 20, 0);
+    EXPECT_GE(y, 40);
+    EXPECT_LE(Ink().right(), 170);
+    QString empty;
+    const int before = y;
+    destination.TextBlock(empty, 20, y, 150, sArial, 20, false, false, QStringLiteral("L"));
+    EXPECT_EQ(y, before + 20) << "an empty text advances by one line";
+}
+
+TEST_F(RenderDestinationTest, BlocksAlignLeftCentreAndRight) {
+    for (const char* align : {"L", "C", "R"}) {
+        form.Cls();
+        QString text = QStringLiteral("HHH");
+        int y = 10;
+        destination.TextBlock(text, 100, y, 300, sArial, 24, false, false, QString::fromLatin1(align));
+        const QRect ink = Ink();
+        if (*align == 'L') {
+            EXPECT_NEAR(ink.left(), 100, 3);
+        }
+        if (*align == 'C') {
+            EXPECT_NEAR(ink.center().x(), 250, 3);
+        }
+        if (*align == 'R') {
+            EXPECT_NEAR(ink.right(), 400, 3);
+        }
+    }
+    QString text = QStringLiteral("x");
+    int y = 0;
+    EXPECT_THROW(destination.TextBlock(text, 0, y, 100, sArial, 20, false, false, QStringLiteral("J")), ProgramEnded);
+    EXPECT_TRUE(desktop.boxes[0].sText.endsWith(QStringLiteral("Unexpected Case in clsRenderDestination!TextBlock")));
+}
+
+TEST_F(RenderDestinationTest, ABreakNeverPartsACharacterFromItsAccents) {
+    QString text = QString::fromUtf8("ééé🎲🎲");
+    int y = 0;
+    destination.TextBlock(text, 0, y, 1, sArial, 20, false, false, QStringLiteral("L"));
+    EXPECT_EQ(y, 5 * 20);
+}
+
+TEST_F(RenderDestinationTest, ADottedBoxPutsItsDashesOnePixelOutside) {
+    basTAVL::DrawDottedBox(form, 50, 40, 250, 140, 5, Color::None());
+    EXPECT_EQ(Ink(), QRect(QPoint(49, 39), QPoint(251, 141)));
+    DeviceContext& context = form.hDC();
+    EXPECT_EQ(context.GetPixel(50, 39), Color::Black());
+    EXPECT_EQ(context.GetPixel(60, 39), Color::White()) << "the gap is three dashes long";
+    EXPECT_EQ(context.GetPixel(248, 39), Color::Black()) << "the corner has ink";
+    EXPECT_EQ(context.GetPixel(150, 90), Color::White());
+    EXPECT_EQ(form.DrawWidth, 1);
+}
+
+TEST_F(RenderDestinationTest, ABoxWithoutDashIsOnlyFilled) {
+    basTAVL::DrawDottedBox(form, 50, 40, 250, 140, 0, Color::Rgb(255, 0, 0));
+    EXPECT_EQ(Ink(), QRect(QPoint(50, 40), QPoint(250, 140)));
+}
+
+TEST_F(RenderDestinationTest, ARingStandsInItsSquare) {
+    destination.CircleRender(1.0, 1.0, 0.5);
+    const QRect ink = Ink();
+    EXPECT_NEAR(ink.left(), 96, 1);
+    EXPECT_NEAR(ink.right(), 192, 1);
+    EXPECT_NEAR(ink.bottom(), 192, 1);
+}
+
+TEST_F(RenderDestinationTest, AMissingPictureDrawsNothingAndRaisesNothing) {
+    destination.OutputFromBMP(QString(), 0, 0, 1, 1);
+    destination.OutputFromBMP(PathOf(QStringLiteral("none.bmp")), 0, 0, 1, 1);
+    destination.OutputFromBMP(WriteFile(QStringLiteral("bad.bmp"), "not a picture"), 0, 0, 1, 1);
+    EXPECT_TRUE(Ink().isNull());
+    QImage red(10, 10, QImage::Format_RGB32);
+    red.fill(Qt::red);
+    ASSERT_TRUE(red.save(PathOf(QStringLiteral("red.bmp"))));
+    destination.OutputFromBMP(PathOf(QStringLiteral("red.bmp")), 1, 1, 2, 1);
+    EXPECT_EQ(Ink(), QRect(96, 96, 192, 96));
+}
+
+TEST_F(RenderDestinationTest, AnUnknownDirectionEndsTheProgramAndAMissingArrowDoesNot) {
+    EXPECT_THROW(destination.Legend(1, 1, QStringLiteral("sideways"), QStringLiteral("x"), Color::Black()),
+                 ProgramEnded);
+    Settings().sProgramDirectory = folder.path();
+    form.Cls();
+    destination.Legend(1, 1, QStringLiteral("Left"), QStringLiteral("HHH"), Color::Black());
+    EXPECT_GE(Ink().left(), 96 + 15);
+}
