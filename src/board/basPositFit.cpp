@@ -10,7 +10,6 @@
 namespace basPosit {
 namespace {
 
-const QString kNewLine = QStringLiteral("\r\n");
 constexpr int kMinHeight = 2;
 
 // Widths are worked out on boards of these many units.
@@ -51,30 +50,17 @@ Widest WidestOf(const QStringList& lines, int iNLines) {
 // Product and quotient in single precision, as the fitted sizes have always been.
 int Scaled(int value, int limit, int measured) { return Int(float(value) * float(limit) / float(measured)); }
 
-void Split(CenterTextRecord& record) {
-    QString rest = record.sText;
-    record.sLine.fill(QString());
-    record.iNLines = 0;
-    qsizetype end = rest.indexOf(kNewLine);
-    while (end >= 0 && record.iNLines < kTextLines - 1) {
-        record.sLine[size_t(record.iNLines++)] = rest.left(end);
-        rest.remove(0, end + kNewLine.size());
-        end = rest.indexOf(kNewLine);
-    }
-    record.sLine[size_t(record.iNLines++)] = rest;
-}
-
-void FitSpecialText(CenterTextRecord& record, bool bSubtitle) {
+void FitSpecialText(SpecialText& record, const CenterTextLook& look, bool bSubtitle) {
     const int reference = bSubtitle ? kSubtitleReference : kReference;
-    const int h = CLng(reference * double(record.fFontHeight));
+    const int h = CLng(reference * double(look.fFontHeight));
     int w = CLng(h * 0.5);
-    if (record.fWidthLimit != 0) {
-        int limit = CLng(std::abs(reference * double(record.fWidthLimit)));
+    if (look.fWidthLimit != 0) {
+        int limit = CLng(std::abs(reference * double(look.fWidthLimit)));
         if (bSubtitle) limit = CLng(limit * kSubtitleLimitFactor);
-        Face{record.Family(), record.bBold, record.bItalic}.Select(h, w);
+        Face{look.Family(), look.bBold, look.bItalic}.Select(h, w);
         // As the board shows it: the whole text on one line.
         const int measured = basDraw::Draw_GetWidth(basTAVL::CRLF2Space(record.sText));
-        if (measured > 0 && (record.fWidthLimit < 0 || measured > limit)) w = Scaled(w, limit, measured);
+        if (measured > 0 && (look.fWidthLimit < 0 || measured > limit)) w = Scaled(w, limit, measured);
         basDraw::Draw_ReleaseObjects();
     }
     record.fFontWidth = float(w) / float(reference);
@@ -143,10 +129,9 @@ void SetSideText(int iSide, const QString& sText) try {
 }
 
 void SetSpecialText(int iIndex, const QString& sText) try {
-    CenterTextRecord& record = m_CenterText(iIndex);
-    record.sText = sText;
-    Split(record);
-    if (!sText.isEmpty()) FitSpecialText(record, iIndex == kSubtitle);
+    SpecialText& record = m_CenterText(iIndex);
+    record.SetText(sText);
+    if (!sText.isEmpty()) FitSpecialText(record, m_CenterLook(iIndex), iIndex == kSubtitle);
 } catch (...) {
     ErrTail("basPosit!", "SetSpecialText", iIndex, sText);
 }

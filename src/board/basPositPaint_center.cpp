@@ -169,10 +169,11 @@ private:
 
 void DrawTitles() {
     for (int i = 0; i < kTitles; ++i) {
-        const CenterTextRecord& text = m_CenterText(i);
-        Draw_SetFont(text.Family(), CLng(PosLength(text.fFontHeight)), CLng(PosLength(text.fFontWidth)), 0, 0,
-                     text.bBold, text.bItalic, false);
-        Draw_Text(basTAVL::CRLF2Space(text.sText), text.sAlign, PosX(text.anchor.x), PosY(text.anchor.y),
+        const SpecialText& text = m_CenterText(i);
+        const CenterTextLook& look = m_CenterLook(i);
+        Draw_SetFont(look.Family(), CLng(PosLength(look.fFontHeight)), CLng(PosLength(text.fFontWidth)), 0, 0,
+                     look.bBold, look.bItalic, false);
+        Draw_Text(basTAVL::CRLF2Space(text.sText), look.sAlign, PosX(look.anchor.x), PosY(look.anchor.y),
                   Color::Black());
     }
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "board/basPositTables.h"
 
+#include "document/Game.h"
 #include "document/Subscript.h"
 
 namespace basPosit {
@@ -11,7 +12,9 @@ struct Tables {
     std::array<SideRecord, kSidesOfBoard> sideRec;
     std::array<std::array<BoardPoint, kCornerPoints>, kCornersOnBoard> cornerPoly;
     std::array<BoardRect, kCenterBoxes> centerRect;
-    std::array<CenterTextRecord, kCenterTexts> centerText;
+    // Those of the game in hand aren't here; their places stay empty.
+    std::array<SpecialText, kCenterTexts> centerText;
+    std::array<CenterTextLook, kCenterTexts> centerLook;
     std::array<Color, kPropColors> propColor;
     std::array<Color, kStripCells> stripColor;
     std::array<Color, kColumnCells> columnColorA;
@@ -30,18 +33,14 @@ Entry& At(std::array<Entry, count>& table, int index) {
 
 } // namespace
 
-QStringList CenterTextRecord::Lines() const {
-    QStringList lines;
-    for (int i = 0; i < iNLines; ++i)
-        lines.append(sLine[CheckedSubscript(i, kTextLines)]);
-    return lines;
-}
-
 BoardRect& m_SpaceRect(int iSpace, SpacePart part) { return At(At(Module().spaceRect, iSpace), int(part)); }
 SideRecord& m_SideRec(int iSide) { return At(Module().sideRec, iSide); }
 std::array<BoardPoint, kCornerPoints>& m_CornerPoly(int iCorner) { return At(Module().cornerPoly, iCorner); }
 BoardRect& m_CenterRect(int iBox) { return At(Module().centerRect, iBox); }
-CenterTextRecord& m_CenterText(int iIndex) { return At(Module().centerText, iIndex); }
+SpecialText& m_CenterText(int iIndex) {
+    return Titles::Holds(iIndex) ? TheGame().titles.Text(iIndex) : At(Module().centerText, iIndex);
+}
+CenterTextLook& m_CenterLook(int iIndex) { return At(Module().centerLook, iIndex); }
 Color& m_lPropColor(int iGroup) { return At(Module().propColor, iGroup); }
 Color& m_lStripColor(int iCell) { return At(Module().stripColor, iCell); }
 Color& m_lColumnColorA(int iCell) { return At(Module().columnColorA, iCell); }

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "document/SpecialText.h"
 #include "platform/Color.h"
 
 #include <QString>
-#include <QStringList>
 
 #include <array>
 
@@ -21,7 +21,6 @@ constexpr int kCenterTexts = 17;
 constexpr int kPropColors = 8;
 constexpr int kStripCells = 32;
 constexpr int kColumnCells = 5;
-constexpr int kTextLines = 10;
 
 /// Size of the picture that belongs to the kit and fills its corner.
 constexpr float kFateImage = 0.1684F;
@@ -51,15 +50,11 @@ struct SideRecord {
     float fFontWidth = 0;
 };
 
-/// A text of the board's centre or of the printed sheets.
-struct CenterTextRecord {
-    QString sText;
-    std::array<QString, kTextLines> sLine;
-    qint16 iNLines = 0;
+/// How and where a text of the board's centre or of the printed sheets stands.
+struct CenterTextLook {
     /// Empty means "Arial".
     QString sFamily;
     float fFontHeight = 0;
-    float fFontWidth = 0;
     BoardPoint anchor;
     QString sAlign = QStringLiteral("C");
     bool bBold = false;
@@ -69,8 +64,6 @@ struct CenterTextRecord {
     float fWidthLimit = 0;
 
     QString Family() const { return sFamily.isEmpty() ? QStringLiteral("Arial") : sFamily; }
-    /// The lines in use.
-    QStringList Lines() const;
 };
 
 /// The boxes of the board's centre.
@@ -85,7 +78,9 @@ SideRecord& m_SideRec(int iSide);
 /// The outline of a corner.
 std::array<BoardPoint, kCornerPoints>& m_CornerPoly(int iCorner);
 BoardRect& m_CenterRect(int iBox);
-CenterTextRecord& m_CenterText(int iIndex);
+/// The special texts: 1 to 5 those of the game in hand, the others the kit's.
+SpecialText& m_CenterText(int iIndex);
+CenterTextLook& m_CenterLook(int iIndex);
 /// The eight groups of properties.
 Color& m_lPropColor(int iGroup);
 /// Cells of the strips and columns of the title box; none where a cell stays empty.

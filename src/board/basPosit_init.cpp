@@ -194,16 +194,6 @@ BoardPoint SideTextAnchor(int iSide, const BoardRect& rect) {
     }
 }
 
-// Look and place as at the start; the text, its lines and the width fitted to them stay.
-void ResetLook(CenterTextRecord& record) {
-    CenterTextRecord fresh;
-    fresh.sText = record.sText;
-    fresh.sLine = record.sLine;
-    fresh.iNLines = record.iNLines;
-    fresh.fFontWidth = record.fFontWidth;
-    record = fresh;
-}
-
 void InitCenterBoxes() {
     const BoardRect goodNews{0.2287F, 0.6F, 0.4158F, 0.7061F};
     m_CenterRect(kPanel) = {kInnerLow, kInnerLow, kInnerHigh, kInnerHigh};
@@ -217,12 +207,12 @@ void InitCenterBoxes() {
 }
 
 // One of the two words that share the title box.
-void InitTitleWord(CenterTextRecord& record, float fAnchorOfWidth, float fLimitOfWidth) {
+void InitTitleWord(CenterTextLook& look, float fAnchorOfWidth, float fLimitOfWidth) {
     const BoardRect& box = m_CenterRect(kTitleBox);
-    record.sFamily = QStringLiteral("Arial");
-    record.fFontHeight = 0.333F * box.Height();
-    record.anchor = {box.x1 + fAnchorOfWidth * box.Width(), box.y1 + 0.333F * box.Height()};
-    record.fWidthLimit = fLimitOfWidth * box.Width();
+    look.sFamily = QStringLiteral("Arial");
+    look.fFontHeight = 0.333F * box.Height();
+    look.anchor = {box.x1 + fAnchorOfWidth * box.Width(), box.y1 + 0.333F * box.Height()};
+    look.fWidthLimit = fLimitOfWidth * box.Width();
 }
 
 } // namespace
@@ -243,13 +233,13 @@ void PosInitColor() try {
 void PosInitCenter() try {
     InitCenterBoxes();
     for (int i = 0; i < kCenterTexts; ++i) {
-        ResetLook(m_CenterText(i));
+        m_CenterLook(i) = CenterTextLook{};
         // The last record keeps a height of 0, as it always has.
-        if (i < kCenterTexts - 1) m_CenterText(i).fFontHeight = kDefaultTextHeight;
+        if (i < kCenterTexts - 1) m_CenterLook(i).fFontHeight = kDefaultTextHeight;
     }
-    InitTitleWord(m_CenterText(0), 0.7556F, -0.3545F);
-    InitTitleWord(m_CenterText(1), 0.319F, -0.49F);
-    CenterTextRecord& subtitle = m_CenterText(2);
+    InitTitleWord(m_CenterLook(0), 0.7556F, -0.3545F);
+    InitTitleWord(m_CenterLook(1), 0.319F, -0.49F);
+    CenterTextLook& subtitle = m_CenterLook(2);
     subtitle.sFamily = QStringLiteral("Times New Roman");
     subtitle.fFontHeight = 0.02F;
     subtitle.anchor = {0.5F, 0.4F};

@@ -32,6 +32,11 @@ void C_Corner::SetText(int iBlock, const QString& sTextIn) try {
     ErrTail("C_Corner!", "SetText", iBlock, sTextIn);
 }
 
+bool C_Corner::operator==(const C_Corner& objOther) const {
+    return Index == objOther.Index && m_blocks == objOther.m_blocks && Font == objOther.Font &&
+           ShowTheSame(Image, objOther.Image);
+}
+
 bool C_Corner::IsDifferentFrom(const C_Corner& objOther) const {
     return Index != objOther.Index || X != objOther.X || Y != objOther.Y || IsShowing != objOther.IsShowing ||
            m_blocks != objOther.m_blocks || m_fTextSize0 != objOther.m_fTextSize0 ||

@@ -43,6 +43,9 @@ public:
     /// Splits the text of a block into lines and fits them. "UseExistingString" keeps the lines.
     void SetText(int iBlock, const QString& sTextIn);
 
+    /// Whether a family would call both equal: compares what a game file holds. IsDifferentFrom looks at what the
+    /// board works out, too.
+    bool operator==(const C_Corner& objOther) const;
     bool IsDifferentFrom(const C_Corner& objOther) const;
     /// Of each block only the lines in use are copied.
     void LoadFromObject(const C_Corner& objSource);

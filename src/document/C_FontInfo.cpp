@@ -34,9 +34,7 @@ void C_FontInfo::Load(const QString& sFamily, bool bItalic, bool bBold, float fS
 
 void C_FontInfo::LoadFromObject(const C_FontInfo& objSource) { *this = objSource; }
 
-bool C_FontInfo::IsDifferentFrom(const C_FontInfo& objOther) const {
-    return Family != objOther.Family || Italic != objOther.Italic || Bold != objOther.Bold || Size != objOther.Size;
-}
+bool C_FontInfo::IsDifferentFrom(const C_FontInfo& objOther) const { return !(*this == objOther); }
 
 QString C_FontInfo::GetQuotedString() const {
     return basTAVL::Quote(Family) + u',' + StyleOf(*this) + u',' + FloatToText(Size);

@@ -16,6 +16,8 @@ public:
     void LoadFromObject(const C_FontInfo& objSource);
     bool IsDifferentFrom(const C_FontInfo& objOther) const;
 
+    friend bool operator==(const C_FontInfo&, const C_FontInfo&) = default;
+
     /// Family, style and size as the three fields of a record.
     QString GetQuotedString() const;
     /// Reads the three fields off the front and returns what is left. What is missing or can't be read is

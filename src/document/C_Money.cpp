@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "document/C_Money.h"
 
+#include "document/RecordFields.h"
 #include "document/Subscript.h"
 #include "platform/Numbers.h"
 #include "services/basErrLog.h"
@@ -9,6 +10,10 @@
 QString C_Money::Text(int iIndex) const { return m_sText[CheckedSubscript(iIndex, kTexts)]; }
 
 void C_Money::Let_Text(int iIndex, const QString& sText) { m_sText[CheckedSubscript(iIndex, kTexts)] = sText; }
+
+bool C_Money::operator==(const C_Money& objOther) const {
+    return Index == objOther.Index && m_sText == objOther.m_sText && ShowTheSame(FaceImage, objOther.FaceImage);
+}
 
 bool C_Money::IsDifferentFrom(const C_Money& objOther) const {
     return Index != objOther.Index || FaceImage.IsDifferentFrom(objOther.FaceImage) ||

@@ -32,6 +32,9 @@ public:
     void DrawMoney(Surface& objDest, double dblDPI, int xStart, int yStart, bool bIncludeImage, bool bIncludeText,
                    bool bIncludeDots);
 
+    /// Whether a family would call both equal: compares what a game file holds. IsDifferentFrom looks at the
+    /// kit's blank and colour, too.
+    bool operator==(const C_Money& objOther) const;
     bool IsDifferentFrom(const C_Money& objOther) const;
     void LoadFromObject(const C_Money& objSource);
 

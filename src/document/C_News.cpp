@@ -20,10 +20,7 @@ QString ReadFont(C_FontInfo& font, const QString& sLine, bool bBoldByDefault) {
 
 } // namespace
 
-bool C_News::IsDifferentFrom(const C_News& objOther) const {
-    return Index != objOther.Index || m_sText != objOther.m_sText || FontBody.IsDifferentFrom(objOther.FontBody) ||
-           FontHead.IsDifferentFrom(objOther.FontHead);
-}
+bool C_News::IsDifferentFrom(const C_News& objOther) const { return !(*this == objOther); }
 
 void C_News::LoadFromObject(const C_News& objSource) {
     Index = objSource.Index;

@@ -15,6 +15,7 @@ public:
     QString Text() const { return m_sText; }
     void Let_Text(const QString& sText) { m_sText = sText; }
 
+    friend bool operator==(const C_News&, const C_News&) = default;
     bool IsDifferentFrom(const C_News& objOther) const;
     void LoadFromObject(const C_News& objSource);
 

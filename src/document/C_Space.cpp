@@ -37,6 +37,11 @@ void C_Space::SetImagePath(const QString& sFullPath) try {
     ErrTail("C_Space!", "SetImagePath", sFullPath);
 }
 
+bool C_Space::operator==(const C_Space& objOther) const {
+    return Index == objOther.Index && m_lines == objOther.m_lines && Font == objOther.Font &&
+           ShowTheSame(Image, objOther.Image);
+}
+
 bool C_Space::IsDifferentFrom(const C_Space& objOther) const {
     return Index != objOther.Index || Cost != objOther.Cost || m_lines != objOther.m_lines ||
            !(CostColor == objOther.CostColor) || m_fTextSize != objOther.m_fTextSize ||

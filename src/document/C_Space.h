@@ -43,6 +43,9 @@ public:
     /// A picture halves the room for text, so the text is fitted anew when one comes or goes.
     void SetImagePath(const QString& sFullPath);
 
+    /// Whether a family would call both equal: compares what a game file holds. IsDifferentFrom looks at what the
+    /// board works out, too.
+    bool operator==(const C_Space& objOther) const;
     bool IsDifferentFrom(const C_Space& objOther) const;
     void LoadFromObject(const C_Space& objSource);
 

@@ -52,6 +52,11 @@ void C_Token::SetImagePath(const QString& sFullPath) try {
     ErrTail("C_Token!", "SetImagePath", sFullPath);
 }
 
+bool C_Token::operator==(const C_Token& objOther) const {
+    return Index == objOther.Index && m_lines == objOther.m_lines && Font == objOther.Font &&
+           ShowTheSame(Image, objOther.Image);
+}
+
 bool C_Token::IsDifferentFrom(const C_Token& objOther) const {
     return Index != objOther.Index || m_lines != objOther.m_lines || m_fTextSize != objOther.m_fTextSize ||
            !(BackColor == objOther.BackColor) || Font.IsDifferentFrom(objOther.Font) ||

@@ -65,6 +65,9 @@ public:
     bool FindInsertPoint(int xStart, int yStart, int xEnd, int yEnd, Surface& picDest, int x, int y, int& iCol,
                          int& iRow) const;
 
+    /// Whether a family would call both equal: compares what a game file holds. IsDifferentFrom looks at the
+    /// kit's colour and the fitted size, too.
+    bool operator==(const C_Token& objOther) const;
     bool IsDifferentFrom(const C_Token& objOther) const;
     void LoadFromObject(const C_Token& objSource);
 

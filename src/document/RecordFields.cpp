@@ -17,6 +17,11 @@ qint16 IndexFromField(const QString& sVariable, const QString& sField) {
 
 float CappedTextSize(const C_FontInfo& font, float fTextSize) { return std::min(font.Size / 1000.0F, fTextSize); }
 
+bool ShowTheSame(const C_Image& a, const C_Image& b) {
+    return a.FullPath() == b.FullPath() && a.Zoom() == b.Zoom() && a.XCenter() == b.XCenter() &&
+           a.YCenter() == b.YCenter();
+}
+
 void ReplaceImage(C_Image& image, const C_Image& objSource) {
     if (!image.IsDifferentFrom(objSource)) return;
     C_Image fresh;

@@ -6,23 +6,13 @@
 #include "platform/ProgramSettings.h"
 
 #include <array>
-#include <memory>
 
 namespace basTAVL {
 namespace {
 
 constexpr int kScreenFonts = 1;
 
-template <typename Record, int count>
-using Table = std::array<std::unique_ptr<Record>, count>;
-
 struct State {
-    Table<C_Space, kSpaces> spaces;
-    Table<C_Corner, kCorners> corners;
-    Table<C_News, kNewsSets * kCards> news;
-    Table<C_Money, kMoney> money;
-    Table<C_Token, kTokens> tokens;
-
     QString currencySign = QStringLiteral("$");
     std::array<Color, kNewsSets> newsColor{Color::White(), Color::White()};
     Color printYellow = Color::White();
@@ -38,37 +28,28 @@ State& Module() {
     return state;
 }
 
-// The record in a slot. A new one knows its number, so that a game saved before any was loaded loads again.
 template <typename Record, size_t count>
-Record& Touch(std::array<std::unique_ptr<Record>, count>& table, int slotNumber, int index) {
-    std::unique_ptr<Record>& slot = table[CheckedSubscript(slotNumber, int(count))];
-    if (!slot) {
-        slot = std::make_unique<Record>();
-        slot->Index = qint16(index);
-    }
-    return *slot;
+Record& At(std::array<Record, count>& table, int index) {
+    return table[CheckedSubscript(index, int(count))];
 }
 
 } // namespace
 
-C_Space& g_oSpaces(int iSpace) { return Touch(Module().spaces, iSpace, iSpace); }
-C_Corner& g_oCorners(int iCorner) { return Touch(Module().corners, iCorner, iCorner); }
-C_News& g_oNews(int iGoodOrBad, int iCard) {
-    const int set = int(CheckedSubscript(iGoodOrBad, kNewsSets));
-    return Touch(Module().news, set * kCards + int(CheckedSubscript(iCard, kCards)), iCard);
-}
-C_Money& g_oMoney(int iMoney) { return Touch(Module().money, iMoney, iMoney); }
-C_Token& g_oTokens(int iToken) { return Touch(Module().tokens, iToken, iToken); }
+C_Space& g_oSpaces(int iSpace) { return At(TheGame().spaces, iSpace); }
+C_Corner& g_oCorners(int iCorner) { return At(TheGame().corners, iCorner); }
+C_News& g_oNews(int iGoodOrBad, int iCard) { return At(At(TheGame().news, iGoodOrBad), iCard); }
+C_Money& g_oMoney(int iMoney) { return At(TheGame().money, iMoney); }
+C_Token& g_oTokens(int iToken) { return At(TheGame().tokens, iToken); }
 
 QString& g_sGameVersion() { return Settings().sGameVersion; }
 QString& g_vCurrencySign() { return Module().currencySign; }
-Color& g_lNewsColor(int iGoodOrBad) { return Module().newsColor[CheckedSubscript(iGoodOrBad, kNewsSets)]; }
+Color& g_lNewsColor(int iGoodOrBad) { return At(Module().newsColor, iGoodOrBad); }
 Color& g_lPrintYellow() { return Module().printYellow; }
 Color& g_lPrintRed() { return Module().printRed; }
 Color& g_lPrintBlack() { return Module().printBlack; }
 Color& g_lPrintBack() { return Module().printBack; }
 Color& g_lMagicColor() { return Module().magicColor; }
-double& g_dblLabelSizes(int iSize) { return Module().labelSizes[CheckedSubscript(iSize, kLabelSizes)]; }
+double& g_dblLabelSizes(int iSize) { return At(Module().labelSizes, iSize); }
 
 QString CRLF2Space(const QString& sText) {
     QString text = sText;
@@ -87,6 +68,9 @@ void FontToDialog(CommonDialog& objDialog, const C_FontInfo& oFont) {
     objDialog.fFontSize = oFont.Size;
 }
 
-void ResetForTest() { Module() = State{}; }
+void ResetForTest() {
+    TheGame() = Game();
+    Module() = State{};
+}
 
 } // namespace basTAVL

@@ -1,11 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "document/C_Corner.h"
-#include "document/C_Money.h"
-#include "document/C_News.h"
-#include "document/C_Space.h"
-#include "document/C_Token.h"
+#include "document/Game.h"
 #include "platform/Color.h"
 #include "services/RecordText.h"
 
@@ -13,21 +9,12 @@
 
 struct CommonDialog;
 
-/// The one game in memory: a fixed set of records that every part reads and writes directly. A record is
-/// created when it is first touched and lives for the whole run; loading a game overwrites its fields.
+/// The records of the game in hand by their old names, and what the start sets beside them.
 namespace basTAVL {
 
-constexpr int kSpaces = 28;
-constexpr int kSpacesPerSide = 7;
-constexpr int kSides = 4;
-constexpr int kCorners = 4;
-constexpr int kNewsSets = 2;
-constexpr int kCards = 12;
-constexpr int kMoney = 4;
-constexpr int kTokens = 6;
 constexpr int kLabelSizes = 8;
 
-/// The records. Raise the subscript error outside the bounds of their tables.
+/// The records of the game in hand. Raise the subscript error outside the bounds of their tables.
 C_Space& g_oSpaces(int iSpace);
 C_Corner& g_oCorners(int iCorner);
 /// Set 0 is Good News, set 1 Bad News.
@@ -57,7 +44,7 @@ QString CRLF2Space(const QString& sText);
 void FontFromDialog(const CommonDialog& objDialog, C_FontInfo& oFont);
 void FontToDialog(CommonDialog& objDialog, const C_FontInfo& oFont);
 
-/// For tests: a game whose records nobody has touched yet.
+/// For tests: a new game in hand, and nothing set by a start.
 void ResetForTest();
 
 } // namespace basTAVL

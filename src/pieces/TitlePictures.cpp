@@ -41,7 +41,7 @@ bool Make(Title title) try {
     const bool style = layout.bBoldItalic;
     const Color fore = basTAVL::g_lPrintBlack();
     const Color back = layout.bOnRed ? basTAVL::g_lPrintRed() : basTAVL::g_lPrintBack();
-    const basPosit::CenterTextRecord& record = basPosit::m_CenterText(title == kTitle ? kTitleRecord : kSubtitleRecord);
+    const SpecialText& record = basPosit::m_CenterText(title == kTitle ? kTitleRecord : kSubtitleRecord);
     if (layout.dblLineHeight > 0) {
         return frmBMP::Instance().GenerateTextImage(FileOf(title), layout.dblWidth, layout.dblHeight,
                                                     record.Lines().join(QStringLiteral("\r\n")), family, style, style,

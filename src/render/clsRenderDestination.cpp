@@ -118,7 +118,7 @@ void clsRenderDestination::OutputFromBMP(const QString& sPath, double dblX, doub
 void clsRenderDestination::MultiLineBox(int iItem, const QString& sFontName, bool bBold, bool bItalic, double dblX,
                                         double dblY, double dblWidth, double dblHeight, Color lForeColor,
                                         Color lBackColor) try {
-    const basPosit::CenterTextRecord& record = basPosit::m_CenterText(iItem);
+    const SpecialText& record = basPosit::m_CenterText(iItem);
     if (record.iNLines == 0) return;
     const int lX = Pixels(dblX);
     const int lY = Pixels(dblY);

@@ -203,30 +203,30 @@ TEST_F(GeometryTest, CentreBoxesLieWhereTheTableSays) {
 TEST_F(GeometryTest, SpecialTextsStartWithTheirLook) {
     const float w = 0.7775F - 0.2204F;
     const float h = 0.3712F - 0.2473F;
-    const CenterTextRecord& word = m_CenterText(0);
+    const CenterTextLook& word = m_CenterLook(0);
     EXPECT_EQ(word.sFamily, QStringLiteral("Arial"));
     EXPECT_NEAR(word.fFontHeight, 0.333F * h, 1e-6F);
     EXPECT_NEAR(word.anchor.x, 0.2204F + 0.7556F * w, 1e-6F);
     EXPECT_NEAR(word.anchor.y, 0.2473F + 0.333F * h, 1e-6F);
     EXPECT_NEAR(word.fWidthLimit, -0.3545F * w, 1e-6F);
     EXPECT_FALSE(word.bItalic);
-    EXPECT_NEAR(m_CenterText(1).anchor.x, 0.2204F + 0.319F * w, 1e-6F);
-    EXPECT_EQ(m_CenterText(1).sFamily, QStringLiteral("Arial"));
-    EXPECT_NEAR(m_CenterText(1).fFontHeight, 0.333F * h, 1e-6F);
-    EXPECT_NEAR(m_CenterText(1).anchor.y, 0.2473F + 0.333F * h, 1e-6F);
-    EXPECT_NEAR(m_CenterText(1).fWidthLimit, -0.49F * w, 1e-6F);
-    EXPECT_FALSE(m_CenterText(1).bItalic);
-    EXPECT_FLOAT_EQ(m_CenterText(2).anchor.x, 0.5F);
-    EXPECT_FLOAT_EQ(m_CenterText(2).anchor.y, 0.4F);
+    EXPECT_NEAR(m_CenterLook(1).anchor.x, 0.2204F + 0.319F * w, 1e-6F);
+    EXPECT_EQ(m_CenterLook(1).sFamily, QStringLiteral("Arial"));
+    EXPECT_NEAR(m_CenterLook(1).fFontHeight, 0.333F * h, 1e-6F);
+    EXPECT_NEAR(m_CenterLook(1).anchor.y, 0.2473F + 0.333F * h, 1e-6F);
+    EXPECT_NEAR(m_CenterLook(1).fWidthLimit, -0.49F * w, 1e-6F);
+    EXPECT_FALSE(m_CenterLook(1).bItalic);
+    EXPECT_FLOAT_EQ(m_CenterLook(2).anchor.x, 0.5F);
+    EXPECT_FLOAT_EQ(m_CenterLook(2).anchor.y, 0.4F);
     for (int i = 0; i < 3; ++i)
-        EXPECT_EQ(m_CenterText(i).sAlign, QStringLiteral("C")) << i;
-    EXPECT_EQ(m_CenterText(2).sFamily, QStringLiteral("Times New Roman"));
-    EXPECT_FLOAT_EQ(m_CenterText(2).fFontHeight, 0.02F);
-    EXPECT_FLOAT_EQ(m_CenterText(2).fWidthLimit, 0.35919F);
-    EXPECT_TRUE(m_CenterText(2).bItalic);
+        EXPECT_EQ(m_CenterLook(i).sAlign, QStringLiteral("C")) << i;
+    EXPECT_EQ(m_CenterLook(2).sFamily, QStringLiteral("Times New Roman"));
+    EXPECT_FLOAT_EQ(m_CenterLook(2).fFontHeight, 0.02F);
+    EXPECT_FLOAT_EQ(m_CenterLook(2).fWidthLimit, 0.35919F);
+    EXPECT_TRUE(m_CenterLook(2).bItalic);
     for (int i = 3; i < 16; ++i)
-        EXPECT_FLOAT_EQ(m_CenterText(i).fFontHeight, 0.01F) << i;
-    EXPECT_FLOAT_EQ(m_CenterText(16).fFontHeight, 0.0F);
+        EXPECT_FLOAT_EQ(m_CenterLook(i).fFontHeight, 0.01F) << i;
+    EXPECT_FLOAT_EQ(m_CenterLook(16).fFontHeight, 0.0F);
 }
 
 TEST_F(GeometryTest, TitleBoxCellsHaveTheirColours) {
@@ -280,16 +280,16 @@ TEST_F(GeometryTest, SecondInitKeepsTextsAndFittedWidthsAndResetsTheRest) {
     basTAVL::g_oSpaces(5).Let_TextAll(QStringLiteral("Elm"));
     const float width = m_CenterText(1).fFontWidth;
     const float sideWidth = m_SideRec(2).fFontWidth;
-    m_CenterText(1).bBold = true;
-    m_CenterText(1).sFamily = QStringLiteral("Georgia");
+    m_CenterLook(1).bBold = true;
+    m_CenterLook(1).sFamily = QStringLiteral("Georgia");
     m_SideRec(2).lFill = Color::Black();
     basTAVL::g_oSpaces(5).SpaceColor = Color::None();
     PosInit();
     EXPECT_EQ(m_CenterText(1).sText, QStringLiteral("Family"));
     EXPECT_EQ(m_CenterText(1).Lines(), QStringList{QStringLiteral("Family")});
     EXPECT_FLOAT_EQ(m_CenterText(1).fFontWidth, width);
-    EXPECT_FALSE(m_CenterText(1).bBold);
-    EXPECT_EQ(m_CenterText(1).sFamily, QStringLiteral("Arial"));
+    EXPECT_FALSE(m_CenterLook(1).bBold);
+    EXPECT_EQ(m_CenterLook(1).sFamily, QStringLiteral("Arial"));
     EXPECT_EQ(m_SideRec(2).sText, QStringLiteral("Uptown"));
     EXPECT_FLOAT_EQ(m_SideRec(2).fFontWidth, sideWidth);
     EXPECT_EQ(m_SideRec(2).lFill, m_lPropColor(2));

@@ -207,15 +207,16 @@ TEST_F(RentsTest, TitleWordAlwaysSpansItsPartOfTheBox) {
     PosInit();
     for (const char* word : {"TAVLO", "WE", "Long"}) {
         SetSpecialText(0, QString::fromLatin1(word));
-        const CenterTextRecord& record = m_CenterText(0);
+        const SpecialText& record = m_CenterText(0);
+        const CenterTextLook& look = m_CenterLook(0);
         constexpr int kScale = 20;
-        basDraw::Draw_SetFont(QStringLiteral("Arial"), CLng(500 * double(record.fFontHeight)) * kScale,
+        basDraw::Draw_SetFont(QStringLiteral("Arial"), CLng(500 * double(look.fFontHeight)) * kScale,
                               CLng(500 * double(record.fFontWidth)) * kScale, 0, 0, false, false, false);
         const double span = basDraw::Draw_GetWidth(record.sText) / (500.0 * kScale);
         basDraw::Draw_ReleaseObjects();
         // Letter widths are whole units, so a step of one is as near as it gets.
-        EXPECT_LE(span, -record.fWidthLimit * 1.02) << word;
-        EXPECT_GE(span, -record.fWidthLimit * 0.85) << word;
+        EXPECT_LE(span, -look.fWidthLimit * 1.02) << word;
+        EXPECT_GE(span, -look.fWidthLimit * 0.85) << word;
     }
 }
 

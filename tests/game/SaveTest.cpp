@@ -30,45 +30,6 @@ protected:
     QByteArray Log() const { return ReadFile(basErrLog::ErrLogPath()); }
 };
 
-// Every field of the game that its file holds, as one text.
-QString Snapshot() {
-    QStringList parts;
-    for (int i = 1; i <= 5; ++i)
-        parts += basPosit::m_CenterText(i).sText;
-    const auto font = [](const C_FontInfo& f) {
-        return QStringLiteral("%1/%2/%3/%4").arg(f.Family).arg(f.Bold).arg(f.Italic).arg(double(f.Size));
-    };
-    const auto image = [](const C_Image& m) {
-        return QStringLiteral("%1/%2/%3/%4/%5/%6")
-            .arg(m.FullPath(), m.SpaceOrCorner)
-            .arg(m.Index)
-            .arg(m.Zoom())
-            .arg(double(m.XCenter()))
-            .arg(double(m.YCenter()));
-    };
-    for (int i = 0; i < 28; ++i) {
-        const C_Space& s = basTAVL::g_oSpaces(i);
-        parts += {QString::number(s.Index), s.TextAll(), font(s.Font), image(s.Image), QString::number(s.m_fTextSize)};
-    }
-    for (int i = 0; i < 4; ++i) {
-        const C_Corner& c = basTAVL::g_oCorners(i);
-        parts += {QString::number(c.Index), c.TextAll(0), c.TextAll(1), font(c.Font), image(c.Image)};
-    }
-    for (int i = 0; i < 24; ++i) {
-        const C_News& n = basTAVL::g_oNews(i / 12, i % 12);
-        parts += {QString::number(n.Index), n.Text(), font(n.FontBody), font(n.FontHead)};
-    }
-    for (int i = 0; i < 4; ++i) {
-        const C_Money& m = basTAVL::g_oMoney(i);
-        parts += {QString::number(m.Index), m.Text(0), m.Text(1), image(m.FaceImage)};
-    }
-    for (int i = 0; i < 6; ++i) {
-        const C_Token& t = basTAVL::g_oTokens(i);
-        parts += {QString::number(t.Index), t.TextAll(), font(t.Font), image(t.Image)};
-    }
-    return parts.join(u'|');
-}
-
 // Fills every text and font of the game with something of its own.
 void FillGame(const QString& flavour, const QString& picture) {
     int number = 0;
@@ -122,12 +83,14 @@ TEST_F(SaveTest, SavedGameComesBackEqualInAllScripts) {
     const QString picture = WriteFile(QStringLiteral("games/Żółw 🐢.bmp"), "picture");
     for (const char* flavour : {"Plain", "Zażółć gęślą", "شارع الزيتون", "Family 🏠👨‍👩‍👧", "Straße €"}) {
         FillGame(QString::fromUtf8(flavour), picture);
-        const QString before = Snapshot();
+        const Game before = TheGame();
         ASSERT_TRUE(Save(session.m_sGameName));
         basTAVL::ResetForTest();
         basPosit::PosInit();
         ASSERT_EQ(Load(QString(session.m_sGameName)), 0) << flavour;
-        EXPECT_EQ(Snapshot(), before) << flavour;
+        EXPECT_EQ(TheGame(), before) << flavour;
+        for (size_t i = 0; i < before.spaces.size(); ++i)
+            EXPECT_EQ(TheGame().spaces[i].m_fTextSize, before.spaces[i].m_fTextSize) << flavour << i;
     }
     EXPECT_TRUE(desktop.boxes.isEmpty());
 }

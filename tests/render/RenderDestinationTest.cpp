@@ -2,6 +2,7 @@
 #include "render/clsRenderDestination.h"
 
 #include "board/basPositTables.h"
+#include "document/Game.h"
 #include "drawing/DrawDottedBox.h"
 #include "platform/Files.h"
 #include "platform/Printer.h"
@@ -31,6 +32,10 @@ protected:
         basErrLog::ResetForTest();
         basErrLog::ErrInit(60000);
         destination.Init(form, 1.0);
+    }
+    ~RenderDestinationTest() override {
+        basPosit::ResetTablesForTest();
+        TheGame() = Game();
     }
     QRect Ink() { return InkBox(form.Image()); }
 
@@ -75,14 +80,13 @@ TEST_F(RenderDestinationTest, Edge_ABoxWithoutLinesDrawsNoBackgroundEither) {
 }
 
 TEST_F(RenderDestinationTest, ABoxOfATitleRecordIsFilledAndHoldsItsLines) {
-    basPosit::CenterTextRecord& record = basPosit::m_CenterText(6);
+    SpecialText& record = basPosit::m_CenterText(6);
     record.sLine = {QStringLiteral("Our"), QStringLiteral("Town")};
     record.iNLines = 2;
     destination.MultiLineBox(6, sArial, true, false, 1, 1, 2, 1, Color::Black(), Color::Rgb(255, 255, 0));
     EXPECT_EQ(form.hDC().GetPixel(97, 97), Color::Rgb(255, 255, 0));
     EXPECT_TRUE(QRect(96, 96, 192, 96).contains(Ink()));
     EXPECT_NEAR(Ink().center().x(), 192, 3);
-    basPosit::ResetTablesForTest();
 }
 
 TEST_F(RenderDestinationTest, Edge_AVeryLongSingleLineIsSqueezedIntoItsBox) {
@@ -92,7 +96,6 @@ TEST_F(RenderDestinationTest, Edge_AVeryLongSingleLineIsSqueezedIntoItsBox) {
     EXPECT_TRUE(QRect(96 + 5, 96 + 5, 192 - 10, 48 - 10).contains(Ink()));
     EXPECT_GT(Ink().width(), 170);
     EXPECT_EQ(form.hDC().GetPixel(97, 97), Color::Rgb(255, 255, 0));
-    basPosit::ResetTablesForTest();
 }
 
 TEST_F(RenderDestinationTest, ASingleLineFillsItsBoxWhateverItsProportions) {
@@ -104,7 +107,6 @@ TEST_F(RenderDestinationTest, ASingleLineFillsItsBoxWhateverItsProportions) {
     basPosit::m_CenterText(2).sText = QStringLiteral("Sub");
     destination.SingleLine(2, sArial, true, false, 1, 1, 4, 1, 0.5, 0, Color::Black(), Color::White());
     EXPECT_TRUE(Files::Exists(PathOf(QStringLiteral("TempBMP2.temp"))));
-    basPosit::ResetTablesForTest();
 }
 
 TEST_F(RenderDestinationTest, ASingleLineIsPrintedAsText) {
@@ -124,7 +126,6 @@ TEST_F(RenderDestinationTest, ASingleLineIsPrintedAsText) {
     if (!pdftotext.waitForStarted()) GTEST_SKIP() << "pdftotext isn't installed";
     pdftotext.waitForFinished();
     EXPECT_TRUE(QString::fromUtf8(pdftotext.readAllStandardOutput()).contains(QStringLiteral("Tavloton")));
-    basPosit::ResetTablesForTest();
 }
 
 TEST_F(RenderDestinationTest, Edge_ALegendWithoutAnArrowIsIndentedAllTheSame) {

@@ -255,7 +255,7 @@ void frmEditCenter::HoldFocus_Composing(const QString& sText) {
 
 QStringList frmEditCenter::LinesUnderEdit() const {
     basErrLog::ErrAssert(m_iTextArea >= 1 && m_iTextArea <= kAreas, QStringLiteral("Unexpected m_iTextArea"));
-    const basPosit::CenterTextRecord& record = basPosit::m_CenterText(m_iTextArea);
+    const SpecialText& record = basPosit::m_CenterText(m_iTextArea);
     if (m_iTextArea == kGameName) return {record.sText};
     const QStringList lines = record.Lines();
     return lines.isEmpty() ? QStringList{QString()} : lines;
