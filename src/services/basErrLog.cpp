@@ -74,13 +74,14 @@ QString BehindStack(const QString& sDescription) {
     return end < 0 ? sDescription : sDescription.mid(end + 2 * kNewLine.size());
 }
 
-QString DateText(const QDateTime& moment) {
-    if (!moment.isValid()) return QStringLiteral("NOT_DATE");
-    return QLocale::c().toString(moment, QStringLiteral("MM/dd/yyyy hh:mm:ss ap"));
-}
-
 QString DateText(QDate day) {
     return day.isValid() ? QLocale::c().toString(day, QStringLiteral("MM/dd/yyyy")) : QStringLiteral("NOT_DATE");
+}
+
+QString DateText(const QDateTime& moment) {
+    // At midnight there is no time part to be shown.
+    if (!moment.isValid() || moment.time().msecsSinceStartOfDay() == 0) return DateText(moment.date());
+    return QLocale::c().toString(moment, QStringLiteral("MM/dd/yyyy hh:mm:ss ap"));
 }
 
 QString DateText(QTime time) {

@@ -192,6 +192,7 @@ TEST_F(ErrLogTest, AnyValueHasAText) {
     EXPECT_EQ(ErrAny2String(QDate(2026, 3, 9)), QStringLiteral("03/09/2026"));
     EXPECT_EQ(ErrAny2String(QTime(15, 4, 5)), QStringLiteral("03:04:05 pm"));
     EXPECT_EQ(ErrAny2String(QDateTime(QDate(2026, 3, 9), QTime(15, 4, 5))), QStringLiteral("03/09/2026 03:04:05 pm"));
+    EXPECT_EQ(ErrAny2String(QDateTime(QDate(2026, 3, 9), QTime(0, 0))), QStringLiteral("03/09/2026")) << "midnight";
     EXPECT_EQ(ErrAny2String(QDate()), QStringLiteral("NOT_DATE"));
     EXPECT_EQ(ErrAny2String(QVariant::fromValue(&object)), QStringLiteral("OBJECT"));
     EXPECT_EQ(ErrAny2String(QVariant::fromValue(&data)), QStringLiteral("DATA_OBJECT"));
