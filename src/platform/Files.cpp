@@ -9,6 +9,8 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#include <filesystem>
+
 namespace Files {
 namespace {
 
@@ -181,6 +183,8 @@ bool Append(const QString& sPath, const QByteArray& bytes, QString& sError) {
         (*Memory())[sPath] += bytes;
         return true;
     }
+    // A pipe without a reader would be waited for.
+    if (!IsNoSpecialFile(sPath, sError)) return false;
     QFile file(sPath);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Append)) return Failed(file, sError);
     if (!IsPermitted(Operation::Append, sPath, sError)) return false;
@@ -225,8 +229,14 @@ bool CopyReplaceable(const QString& sFrom, const QString& sTo, QString& sError) 
 
 bool MakeDirectory(const QString& sPath, QString& sError) {
     if (!IsPermitted(Operation::MakeDirectory, sPath, sError)) return false;
-    if (IsDirectory(sPath) || QDir().mkdir(sPath)) return true;
-    sError = QStringLiteral("The folder '%1' can't be created").arg(sPath);
+    if (IsDirectory(sPath)) return true;
+    std::error_code error;
+    const QFileInfo inItsPlace(sPath);
+    if (!inItsPlace.exists() && std::filesystem::create_directory(std::filesystem::path(sPath.toStdU16String()), error))
+        return true;
+    const QString reason = inItsPlace.exists() ? QStringLiteral("a file of that name is in its place")
+                                               : QString::fromLocal8Bit(error.message().c_str());
+    sError = QStringLiteral("The folder '%1' can't be made: %2.").arg(sPath, reason);
     return false;
 }
 

@@ -7,6 +7,10 @@
 #include <QDateTime>
 #include <QMimeData>
 
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
+
 using namespace basErrLog;
 
 namespace {
@@ -104,6 +108,16 @@ TEST_F(ErrLogTest, Edge_WithAReadOnlyLogEverythingRunsAndNothingIsSaid) {
     EXPECT_TRUE(desktop.boxes.isEmpty());
     EXPECT_FALSE(Files::Exists(LogPath()));
 }
+
+#ifdef Q_OS_UNIX
+// Whoever opened it would wait for a reader for ever.
+TEST_F(ErrLogTest, LogThatIsAPipeLosesItsEntriesAtOnceAndNothingIsSaid) {
+    ASSERT_EQ(mkfifo(qPrintable(LogPath()), 0600), 0);
+    ErrInit(60000);
+    ErrLogToFile(QStringLiteral("lost"), true);
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+}
+#endif
 
 TEST_F(ErrLogTest, Edge_CancelEndsTheProgramAndTouchesNoAutosave) {
     ErrInit(60000);
