@@ -17,9 +17,13 @@ namespace {
 // A file that every installation of the program has; its presence tells a data folder.
 const char* const kDataMark = "GamePlay_US.dat";
 
-int& PretendedMajor() {
-    static int major = 0;
-    return major;
+// Windows before this one had no documents folder.
+constexpr int kFirstWindowsWithDocuments = 4;
+constexpr int kPlatformOtherThanWindows = 3;
+
+std::optional<SystemVersion>& PretendedSystem() {
+    static std::optional<SystemVersion> system;
+    return system;
 }
 
 QList<Volume>& PretendedVolumes() {
@@ -110,13 +114,18 @@ bool HasDrives() {
 }
 
 SystemVersion System() {
+    if (PretendedSystem()) return *PretendedSystem();
     const QStringList parts = QSysInfo::kernelVersion().split(u'.');
     const auto part = [&](qsizetype at) { return at < parts.size() ? parts[at].section(u'-', 0, 0).toInt() : 0; };
-    return {part(0), part(1), part(2), HasDrives() ? 2 : 3};
+    return {part(0), part(1), part(2), HasDrives() ? 2 : kPlatformOtherThanWindows};
 }
 
-int SystemMajorVersion() { return PretendedMajor() > 0 ? PretendedMajor() : System().major; }
-void PretendSystemMajorVersion(int major) { PretendedMajor() = major; }
+void PretendSystem(const std::optional<SystemVersion>& system) { PretendedSystem() = system; }
+
+bool SystemHasDocuments() {
+    const SystemVersion system = System();
+    return system.platform == kPlatformOtherThanWindows || system.major >= kFirstWindowsWithDocuments;
+}
 
 void PretendFreeBytes(double bytes) { PretendedFreeBytes() = bytes; }
 

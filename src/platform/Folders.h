@@ -4,6 +4,8 @@
 #include <QList>
 #include <QString>
 
+#include <optional>
+
 /// Where things lie on this machine.
 namespace Folders {
 
@@ -44,8 +46,9 @@ struct SystemVersion {
     int platform = 0;
 };
 SystemVersion System();
-/// Major version of the operating system, unless a test has said another; 0 gives the true one again.
-int SystemMajorVersion();
-void PretendSystemMajorVersion(int major);
+/// Tests say which system this is; nothing gives the true one again.
+void PretendSystem(const std::optional<SystemVersion>& system);
+/// False on an old Windows only. The major version of another system is its kernel's, which says nothing about folders.
+bool SystemHasDocuments();
 
 } // namespace Folders

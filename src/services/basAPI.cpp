@@ -10,7 +10,7 @@ namespace basAPI {
 
 bool GetOsVersion(int& lMajor, int& lMinor, int& lBuild, int& lPlatform) {
     const Folders::SystemVersion version = Folders::System();
-    lMajor = Folders::SystemMajorVersion();
+    lMajor = version.major;
     lMinor = version.minor;
     lBuild = version.build;
     lPlatform = version.platform;

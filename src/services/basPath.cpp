@@ -11,9 +11,6 @@
 namespace basCommon {
 namespace {
 
-// Systems older than this have no documents folder.
-constexpr int kFirstSystemWithDocuments = 4;
-
 bool HasDrive(const QString& sPath) { return sPath.size() >= 2 && sPath[1] == u':'; }
 bool IsUnc(const QString& sPath) { return sPath.startsWith(QStringLiteral("\\\\")); }
 
@@ -91,7 +88,7 @@ void Assert(bool bCondition, const QString& sMessage, const QString& sPlace) {
 QString GetMyGamesDirectory() {
     QString& cached = Settings().sMyGamesDirectory;
     if (!cached.isEmpty()) return cached;
-    if (Folders::SystemMajorVersion() < kFirstSystemWithDocuments) {
+    if (!Folders::SystemHasDocuments()) {
         cached = Folders::ProgramDirectory();
         return cached;
     }

@@ -137,10 +137,33 @@ TEST_F(PathTest, MyGamesIsMadeInTheDocumentsFolder) {
 }
 
 TEST_F(PathTest, OldSystemsKeepGamesBesideTheProgram) {
-    Folders::PretendSystemMajorVersion(3);
+    Folders::PretendSystem(Folders::SystemVersion{3, 51, 0, 1});
     Settings().sMyGamesDirectory.clear();
     EXPECT_EQ(GetMyGamesDirectory(), Folders::ProgramDirectory());
-    Folders::PretendSystemMajorVersion(0);
+    Folders::PretendSystem(std::nullopt);
+}
+
+// The number of a kernel says nothing about folders: an old network storage has kernel 3 and a documents folder.
+TEST_F(PathTest, OldKernelElsewhereKeepsGamesInTheDocumentsFolder) {
+    qputenv("HOME", folder.path().toLocal8Bit());
+    qputenv("XDG_CONFIG_HOME", folder.path().toLocal8Bit());
+    Folders::PretendSystem(Folders::SystemVersion{3, 10, 0, 3});
+    Settings().sMyGamesDirectory.clear();
+    EXPECT_EQ(GetMyGamesDirectory(), Folders::Documents() + QStringLiteral("/My Games"));
+    Folders::PretendSystem(std::nullopt);
+}
+
+TEST_F(PathTest, FolderThatCantBeMadeIsToldWithItsReason) {
+    const QString taken = WriteFile(QStringLiteral("Documents"), "a file");
+    try {
+        ForceDirToExist(taken + QStringLiteral("/My Games"));
+        FAIL();
+    } catch (const TavloraError& error) {
+        EXPECT_EQ(error.Number(), ErrNumber::kPathNotFound);
+        EXPECT_EQ(error.Description(), QStringLiteral("The folder '%1' can't be made: a file of that name is in its "
+                                                      "place.")
+                                           .arg(taken));
+    }
 }
 
 TEST_F(PathTest, TrimNullEndsAtTheFirstNull) {
