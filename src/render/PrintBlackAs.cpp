@@ -16,7 +16,9 @@ constexpr int kHexadecimal = 16;
 } // namespace
 
 Color Read() try {
-    const std::optional<double> value = ParseNumber(basCommon::GetIniString(kKey));
+    const QString text = basCommon::GetIniString(kKey);
+    const std::optional<double> value = ParseNumber(text);
+    if (!text.isEmpty() && !value) basCommon::TellUnreadableSetting(kKey, text);
     return Color::FromValue(value ? CLng(*value) & kColorBits : kDefault);
 } catch (...) {
     ErrTail("frmColor!", "Read");

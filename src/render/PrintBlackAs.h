@@ -11,7 +11,7 @@ namespace PrintBlackAs {
 /// What counts as no choice: red, green and blue 10.
 constexpr qint32 kDefault = 0x0A0A0A;
 
-/// The colour kept; the default when there is none or it isn't a number.
+/// The colour kept; the default when there is none or it isn't a number, which is told.
 Color Read();
 void Write(Color color);
 /// The user's own colour; nothing while the default holds.

@@ -1,10 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "services/basCommon.h"
 
+#include "platform/Desktop.h"
+#include "platform/Numbers.h"
 #include "platform/ProfileFile.h"
 #include "platform/ProgramSettings.h"
 #include "platform/Screen.h"
 #include "services/basErrLog.h"
+#include "services/basMsgQueue.h"
+
+#include <QSet>
+
+#include <algorithm>
 
 namespace basCommon {
 namespace {
@@ -18,6 +25,17 @@ int HexDigit(QChar c) {
     if (c >= u'0' && c <= u'9') return c.unicode() - u'0';
     if (c >= u'A' && c <= u'F') return c.unicode() - u'A' + 10;
     return -1;
+}
+
+bool IsColorString(const QString& sText) {
+    const QString text = sText.toUpper();
+    return std::all_of(text.begin(), text.end(), [](QChar c) { return HexDigit(c) >= 0; });
+}
+
+// Keys of settings that can't be read, each of them told.
+QSet<QString>& ToldKeys() {
+    static QSet<QString> keys;
+    return keys;
 }
 
 } // namespace
@@ -53,9 +71,26 @@ QString GetIniStringWithDefault(const QString& sKey, const QString& sDefault) tr
 }
 
 Color GetIniColor(const QString& sKey, const QString& sDefault) try {
-    return GetColorFromString(GetIniStringWithDefault(sKey, sDefault));
+    const QString value = GetIniStringWithDefault(sKey, sDefault);
+    if (IsColorString(value)) return GetColorFromString(QString(value));
+    TellUnreadableSetting(sKey, value);
+    return GetColorFromString(QString(sDefault));
 } catch (...) {
     ErrTail("basCommon!", "GetIniColor", sKey, sDefault);
+}
+
+void TellUnreadableSetting(const QString& sKey, const QString& sValue) try {
+    constexpr int kMostShown = 40;
+    if (ToldKeys().contains(sKey)) return;
+    ToldKeys().insert(sKey);
+    const QString shown = sValue.size() > kMostShown ? LeftStr(sValue, kMostShown) + QStringLiteral("...") : sValue;
+    const QString text = QStringLiteral("Tavlora can't read the setting '%1', which is '%2', and uses the usual value "
+                                        "instead. The setting stays as it is in the file '%3' until you change it.")
+                             .arg(sKey, shown, GetIniPath());
+    basErrLog::ErrLogToFile(text, true);
+    basMsgQueue::MsgQueue_Post(text, vbExclamation);
+} catch (...) {
+    ErrTail("basCommon!", "TellUnreadableSetting", sKey, sValue);
 }
 
 void WriteIniString(const QString& sKey, const QString& sValue) try {
@@ -96,6 +131,9 @@ QString InsertLineBreaks(const QString& sText) {
 
 void ShowEntireForm(QWidget& objForm) { Screen::PlaceAtFraction(objForm, 1.0 / 4, 1.0 / 3); }
 
-void ResetForTest() { IniPath().clear(); }
+void ResetForTest() {
+    IniPath().clear();
+    ToldKeys().clear();
+}
 
 } // namespace basCommon

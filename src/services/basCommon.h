@@ -23,8 +23,13 @@ QString GetIniString(const QString& sKey);
 /// The value, or the default, which is then also written; an empty value counts as absent.
 QString GetIniStringWithDefault(const QString& sKey, const QString& sDefault);
 
-/// The key's value as a colour; the default is a colour string too, and is written when the key is absent.
+/// The key's value as a colour; the default is a colour string too, and is written when the key is absent. It counts as
+/// well where the value is no colour, which is told and stays in the file.
 Color GetIniColor(const QString& sKey, const QString& sDefault);
+
+/// Says in a box, once in a run for each key, that what the settings file holds for it can't be read and that the
+/// usual value is used instead. For values that somebody has put there by hand.
+void TellUnreadableSetting(const QString& sKey, const QString& sValue);
 
 /// A file that can't be written is passed over: settings are never worth a message.
 void WriteIniString(const QString& sKey, const QString& sValue);
@@ -40,7 +45,7 @@ QString InsertLineBreaks(const QString& sText);
 /// Places a window a quarter of the free width from the left and a third of the free height from the top.
 void ShowEntireForm(QWidget& objForm);
 
-/// For tests: as before InitIniPath.
+/// For tests: as before InitIniPath, with nothing told.
 void ResetForTest();
 
 } // namespace basCommon

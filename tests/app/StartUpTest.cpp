@@ -155,6 +155,30 @@ TEST_F(StartUpTest, BothDecksTakeTheOneColourOfTheSettings) {
     EXPECT_EQ(basTAVL::g_lNewsColor(1), Color::Rgb(0x11, 0x22, 0x33));
 }
 
+TEST_F(StartUpTest, StartGoesOnWholeWithSettingsThatCantBeRead) {
+    WriteGame(QStringLiteral("~AutoSave.dat"), QStringLiteral("Kept"), InGames(QStringLiteral("Mine.gam")));
+    const struct {
+        const char* key;
+        const char* value;
+    } bad[] = {{"PrintRedColor", "red"}, {"PrintBlackAs", "dark"}, {"GoodNewsColor", "#FFF"}};
+    for (const auto& setting : bad)
+        SetIni(QString::fromLatin1(setting.key), QString::fromLatin1(setting.value));
+    Start();
+    ASSERT_EQ(desktop.boxes.size(), 4);
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_TRUE(desktop.boxes[i].sText.contains(
+            QStringLiteral("the setting '%1', which is '%2',")
+                .arg(QString::fromLatin1(bad[i].key), QString::fromLatin1(bad[i].value))))
+            << desktop.boxes[i].sText.toStdString();
+        EXPECT_EQ(Ini(bad[i].key), QString::fromLatin1(bad[i].value)) << "the user's to mend";
+    }
+    EXPECT_EQ(desktop.boxes[3].sText, kAutosaveFound);
+    EXPECT_EQ(basTAVL::g_lPrintRed(), Color::Rgb(255, 0, 0));
+    EXPECT_EQ(basTAVL::g_lPrintBlack(), Color::Black());
+    EXPECT_EQ(TextOfSpace4(), QStringLiteral("Kept"));
+    EXPECT_EQ(window->m_sGameName, InGames(QStringLiteral("Mine.gam")));
+}
+
 TEST_F(StartUpTest, LastGameIsOpenedAgainAndAMissingOneIsReplacedByANewOne) {
     WriteGame(QStringLiteral("Mine.gam"), QStringLiteral("Mine!"));
     SetIni(QStringLiteral("GameName"), InGames(QStringLiteral("Mine.gam")));

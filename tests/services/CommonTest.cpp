@@ -57,6 +57,28 @@ TEST_F(CommonTest, AColorStringIsConsumed) {
     EXPECT_EQ(GetColorFromString(QString()), Color::Black());
 }
 
+TEST_F(CommonTest, ColorThatCantBeReadIsToldOnceByItsKeyAndStaysInTheFile) {
+    const QByteArray ini = "[tavlora]\r\nPrintRedColor=red\r\nGoodNewsColor=00FFGG00\r\n";
+    WriteFile(QStringLiteral("tavlora.ini"), ini);
+    for (int time = 0; time < 2; ++time) {
+        EXPECT_EQ(GetIniColor(QStringLiteral("PrintRedColor"), QStringLiteral("00FF0000")), Color::Rgb(255, 0, 0));
+        EXPECT_EQ(GetIniColor(QStringLiteral("GoodNewsColor"), QStringLiteral("00FFFFFF")), Color::White());
+    }
+    ASSERT_EQ(desktop.boxes.size(), 2);
+    EXPECT_EQ(desktop.boxes[0].sText,
+              QStringLiteral("Tavlora can't read the setting 'PrintRedColor', which is 'red', and uses the usual value "
+                             "instead. The setting stays as it is in the file '%1' until you change it.")
+                  .arg(PathOf(QStringLiteral("tavlora.ini"))));
+    EXPECT_TRUE(desktop.boxes[1].sText.contains(QStringLiteral("'GoodNewsColor', which is '00FFGG00'")));
+    EXPECT_EQ(Ini(), ini);
+}
+
+TEST_F(CommonTest, SettingThatNobodyCouldHaveTypedIsShownCutShort) {
+    TellUnreadableSetting(QStringLiteral("PrintRedColor"), QString(2000, u'x'));
+    ASSERT_EQ(desktop.boxes.size(), 1);
+    EXPECT_TRUE(desktop.boxes[0].sText.contains(u'\'' + QString(40, u'x') + QStringLiteral("...'")));
+}
+
 TEST_F(CommonTest, IniAccessBeforeTheStartRaises) {
     basCommon::ResetForTest();
     try {
