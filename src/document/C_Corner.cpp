@@ -77,9 +77,9 @@ QString C_Corner::SetQuotedString(const QString& sLine) try {
     const QString sCorner = basTAVL::GetQuotedField(rest);
     const QString text0 = basTAVL::GetQuotedField(rest);
     const QString text1 = basTAVL::GetQuotedField(rest);
-    Image.SpaceOrCorner = QStringLiteral("Corner");
+    Image.Let_SpaceOrCorner(QStringLiteral("Corner"));
     Index = IndexFromField(QStringLiteral("sCorner"), sCorner);
-    rest = Image.SetQuotedString(rest, Image.SpaceOrCorner, Index);
+    rest = Image.SetQuotedString(rest, Image.SpaceOrCorner(), Index);
     rest = Font.SetQuotedString(rest);
     SetText(0, text0);
     SetText(1, text1);

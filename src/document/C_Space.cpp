@@ -75,10 +75,10 @@ QString C_Space::SetQuotedString(const QString& sLine) try {
     QString rest = sLine;
     const QString sSpace = basTAVL::GetQuotedField(rest);
     QString text = basTAVL::GetQuotedField(rest);
-    Image.SpaceOrCorner = QStringLiteral("Space");
+    Image.Let_SpaceOrCorner(QStringLiteral("Space"));
     Index = IndexFromField(QStringLiteral("sSpace"), sSpace);
     if (text.isEmpty()) text = kNotFilledIn;
-    rest = Image.SetQuotedString(rest, Image.SpaceOrCorner, Index);
+    rest = Image.SetQuotedString(rest, Image.SpaceOrCorner(), Index);
     rest = Font.SetQuotedString(rest);
     SetText(text);
     return rest;

@@ -87,9 +87,9 @@ QString C_Token::SetQuotedString(const QString& sLine) try {
     const QString sSpace = basTAVL::GetQuotedField(rest);
     QString text = basTAVL::GetQuotedField(rest);
     if (text == kNotFilledIn) text.clear();
-    Image.SpaceOrCorner = QStringLiteral("Token");
+    Image.Let_SpaceOrCorner(QStringLiteral("Token"));
     Index = IndexFromField(QStringLiteral("sSpace"), sSpace);
-    rest = Image.SetQuotedString(rest, Image.SpaceOrCorner, Index);
+    rest = Image.SetQuotedString(rest, Image.SpaceOrCorner(), Index);
     const bool withoutFont = rest.trimmed().isEmpty();
     rest = Font.SetQuotedString(rest);
     if (withoutFont) Font.Size = kSizeWithoutFont;

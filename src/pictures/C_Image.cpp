@@ -17,7 +17,6 @@
 namespace {
 
 const QString kNewLine = QStringLiteral("\r\n");
-constexpr int kFateCorner = 3;
 
 // Where relative pictures are looked for first.
 QString PictureBase() {
@@ -70,7 +69,7 @@ QString PlaceOf(const QString& sName) {
 } // namespace
 
 QString C_Image::ReportText() const {
-    return QStringLiteral("The file named '") + m_sFullPath + QStringLiteral("' is invalid or does not exist.") +
+    return QStringLiteral("The file named '") + m_ref.sPath + QStringLiteral("' is invalid or does not exist.") +
            kNewLine + QStringLiteral("Area will be left empty.");
 }
 
@@ -78,53 +77,52 @@ void C_Image::Let_BadPath(const QString& sNewBadPath) try {
     if (sNewBadPath == m_sBadPath) return;
     // Init clears what was told right after it was told: without the second test one bad path would get two
     // boxes.
-    const bool told = m_sBadPath == m_sFullPath;
-    if (!m_sFullPath.isEmpty() && !told) basMsgQueue::MsgQueue_Post(ReportText(), vbExclamation);
-    m_sBadPath = m_sFullPath;
+    const bool told = m_sBadPath == m_ref.sPath;
+    if (!m_ref.sPath.isEmpty() && !told) basMsgQueue::MsgQueue_Post(ReportText(), vbExclamation);
+    m_sBadPath = m_ref.sPath;
 } catch (...) {
     ErrTail("C_Image!", "Let_BadPath", sNewBadPath);
 }
 
 void C_Image::SetBadPath(const QString& sError) try {
-    if (m_sFullPath == m_sBadPath) return;
-    if (!m_sFullPath.isEmpty()) {
+    if (m_ref.sPath == m_sBadPath) return;
+    if (!m_ref.sPath.isEmpty()) {
         QString text = ReportText();
         if (!sError.isEmpty())
             text += kNewLine + kNewLine + QStringLiteral("The following error was reported") + kNewLine + sError;
         basMsgQueue::MsgQueue_Post(text, vbExclamation);
     }
-    m_sBadPath = m_sFullPath;
+    m_sBadPath = m_ref.sPath;
 } catch (...) {
     ErrTail("C_Image!", "SetBadPath", sError);
 }
 
 void C_Image::TakeBadPath(const QString& sTold) {
-    if (sTold == m_sFullPath) m_sBadPath = sTold;
+    if (sTold == m_ref.sPath) m_sBadPath = sTold;
 }
 
 void C_Image::Let_FullPath(const QString& sNewPath) try {
-    if (sNewPath == m_sFullPath) return;
-    m_sFullPath = sNewPath;
-    if (!basCommon::DoesFileExist(m_sFullPath)) Let_BadPath(m_sFullPath);
+    if (sNewPath == m_ref.sPath) return;
+    m_ref.sPath = sNewPath;
+    if (!basCommon::DoesFileExist(m_ref.sPath)) Let_BadPath(m_ref.sPath);
     KillThumb();
-    m_iZoom = 0;
-    m_fXCenter = 0;
-    m_fYCenter = 0;
+    m_ref.iZoom = 0;
+    m_ref.iXCenter = 0;
+    m_ref.iYCenter = 0;
 } catch (...) {
     ErrTail("C_Image!", "Let_FullPath", sNewPath);
 }
 
 QString C_Image::RelativePath() const try {
-    if (const std::optional<QString> part = PartBelow(PictureBase(), m_sFullPath)) return *part;
-    if (const std::optional<QString> part = PartBelow(Folders::ProgramDirectory(), m_sFullPath)) return *part;
-    return m_sFullPath;
+    if (const std::optional<QString> part = PartBelow(PictureBase(), m_ref.sPath)) return *part;
+    if (const std::optional<QString> part = PartBelow(Folders::ProgramDirectory(), m_ref.sPath)) return *part;
+    return m_ref.sPath;
 } catch (...) {
     ErrTail("C_Image!", "RelativePath");
 }
 
 void C_Image::Let_RelativePath(const QString& sRelativeFile) try {
-    const bool fate = Settings().sGameVersion == QStringLiteral("8") && SpaceOrCorner == QStringLiteral("Corner") &&
-                      Index == kFateCorner;
+    const bool fate = Settings().sGameVersion == QStringLiteral("8") && m_owner.IsFate();
     const QString name = fate ? QStringLiteral("fate.dat") : sRelativeFile.trimmed();
     Let_FullPath(name.isEmpty() ? QString() : Files::InDiskSpelling(PlaceOf(WithRootOfDrive(name))));
 } catch (...) {
@@ -138,24 +136,24 @@ void C_Image::StoreCenter(qint16& iCenter, float fCenter) {
     iCenter = rounded;
 }
 
-void C_Image::Let_XCenter(float fXCenter) try { StoreCenter(m_fXCenter, fXCenter); } catch (...) {
+void C_Image::Let_XCenter(float fXCenter) try { StoreCenter(m_ref.iXCenter, fXCenter); } catch (...) {
     ErrTail("C_Image!", "Let_XCenter", fXCenter);
 }
 
-void C_Image::Let_YCenter(float fYCenter) try { StoreCenter(m_fYCenter, fYCenter); } catch (...) {
+void C_Image::Let_YCenter(float fYCenter) try { StoreCenter(m_ref.iYCenter, fYCenter); } catch (...) {
     ErrTail("C_Image!", "Let_YCenter", fYCenter);
 }
 
 void C_Image::TakeCenterFrom(const C_Image& objCopy) {
-    if (IsCentered() || m_sFullPath != objCopy.m_sFullPath) return;
-    m_fXCenter = objCopy.m_fXCenter;
-    m_fYCenter = objCopy.m_fYCenter;
+    if (IsCentered() || m_ref.sPath != objCopy.m_ref.sPath) return;
+    m_ref.iXCenter = objCopy.m_ref.iXCenter;
+    m_ref.iYCenter = objCopy.m_ref.iYCenter;
 }
 
 void C_Image::Let_Zoom(qint16 iZoom) try {
-    if (iZoom == m_iZoom) return;
+    if (iZoom == m_ref.iZoom) return;
     KillThumb();
-    m_iZoom = iZoom;
+    m_ref.iZoom = iZoom;
 } catch (...) {
     ErrTail("C_Image!", "Let_Zoom", iZoom);
 }
@@ -163,8 +161,7 @@ void C_Image::Let_Zoom(qint16 iZoom) try {
 void C_Image::Init(const QString& sNewPath, const QString& sSpaceOrCorner, qint16 iIndex) try {
     Let_FullPath(sNewPath);
     Let_BadPath(QString());
-    SpaceOrCorner = sSpaceOrCorner;
-    Index = iIndex;
+    m_owner = {PictureOwner::KindOf(sSpaceOrCorner), iIndex};
 } catch (...) {
     ErrTail("C_Image!", "Init", sNewPath, sSpaceOrCorner, iIndex);
 }
@@ -176,24 +173,20 @@ void C_Image::LoadFromObject(const C_Image& objMaster, bool bBadPathReport) try 
         m_sBadPath = objMaster.m_sBadPath;
     }
     // The writers delete the thumbnail of the old owner: kind and number come last.
-    Let_FullPath(objMaster.m_sFullPath);
-    Let_Zoom(objMaster.m_iZoom);
-    Let_XCenter(objMaster.m_fXCenter);
-    Let_YCenter(objMaster.m_fYCenter);
-    SpaceOrCorner = objMaster.SpaceOrCorner;
-    Index = objMaster.Index;
+    Let_FullPath(objMaster.m_ref.sPath);
+    Let_Zoom(objMaster.m_ref.iZoom);
+    Let_XCenter(objMaster.m_ref.iXCenter);
+    Let_YCenter(objMaster.m_ref.iYCenter);
+    m_owner = objMaster.m_owner;
 } catch (...) {
     ErrTail("C_Image!", "LoadFromObject", objMaster, bBadPathReport);
 }
 
-bool C_Image::IsDifferentFrom(const C_Image& objMaster) const {
-    return m_sFullPath != objMaster.m_sFullPath || m_iZoom != objMaster.m_iZoom || m_fXCenter != objMaster.m_fXCenter ||
-           m_fYCenter != objMaster.m_fYCenter || SpaceOrCorner != objMaster.SpaceOrCorner || Index != objMaster.Index;
-}
+bool C_Image::IsDifferentFrom(const C_Image& objMaster) const { return !(*this == objMaster); }
 
 QString C_Image::GetQuotedString() const try {
-    return basTAVL::Quote(RelativePath()) + u',' + QString::number(m_fXCenter) + u',' + QString::number(m_fYCenter) +
-           u',' + QString::number(m_iZoom);
+    return basTAVL::Quote(RelativePath()) + u',' + QString::number(m_ref.iXCenter) + u',' +
+           QString::number(m_ref.iYCenter) + u',' + QString::number(m_ref.iZoom);
 } catch (...) {
     ErrTail("C_Image!", "GetQuotedString");
 }
@@ -202,8 +195,7 @@ QString C_Image::GetNextTest(QString& sText) { return basTAVL::GetQuotedField(sT
 
 QString C_Image::SetQuotedString(const QString& sIn, const QString& sSpaceOrCorner, qint16 iIndex) try {
     QString rest = sIn;
-    SpaceOrCorner = sSpaceOrCorner;
-    Index = iIndex;
+    m_owner = {PictureOwner::KindOf(sSpaceOrCorner), iIndex};
     Let_RelativePath(GetNextTest(rest));
     Let_XCenter(basTAVL::IntegerOrZero(GetNextTest(rest)));
     Let_YCenter(basTAVL::IntegerOrZero(GetNextTest(rest)));
@@ -213,32 +205,19 @@ QString C_Image::SetQuotedString(const QString& sIn, const QString& sSpaceOrCorn
     ErrTail("C_Image!", "SetQuotedString", sIn, sSpaceOrCorner, iIndex);
 }
 
-bool C_Image::IsWMF() const { return m_sFullPath.endsWith(QStringLiteral(".wmf"), Qt::CaseInsensitive); }
-
-qint16 C_Image::Orient() const {
-    constexpr int kSpacesPerSide = 7;
-    constexpr int kFirstCornerOrient = 4;
-    if (SpaceOrCorner == QStringLiteral("Space")) return qint16(Index / kSpacesPerSide);
-    if (SpaceOrCorner == QStringLiteral("Corner")) return qint16(Index + kFirstCornerOrient);
-    return 0;
-}
-
-bool C_Image::HasKnownKind() const {
-    return SpaceOrCorner == QStringLiteral("Space") || SpaceOrCorner == QStringLiteral("Corner") ||
-           SpaceOrCorner == QStringLiteral("Money") || SpaceOrCorner == QStringLiteral("Token");
-}
+bool C_Image::IsWMF() const { return m_ref.sPath.endsWith(QStringLiteral(".wmf"), Qt::CaseInsensitive); }
 
 QString C_Image::Thumbname() const try {
-    if (SpaceOrCorner.isEmpty()) return {};
-    if (!HasKnownKind()) basErrLog::ErrUnexVal(QStringLiteral("SpaceOrCorner"), SpaceOrCorner);
+    if (m_owner.kind == PictureOwner::Kind::None) return {};
+    if (!m_owner.IsPiece()) basErrLog::ErrUnexVal(QStringLiteral("SpaceOrCorner"), SpaceOrCorner());
     return basCommon::JoinPath(basCommon::GetMyGamesDirectory(),
-                               SpaceOrCorner + QString::number(Index) + QStringLiteral(".bmp"));
+                               m_owner.KindName() + QString::number(m_owner.iNumber) + QStringLiteral(".bmp"));
 } catch (...) {
     ErrTail("C_Image!", "Thumbname");
 }
 
 void C_Image::KillThumb() {
-    if (!HasKnownKind()) return;
+    if (!m_owner.IsPiece()) return;
     const QString name = Thumbname();
     QString error;
     if (Files::Remove(name, error)) {

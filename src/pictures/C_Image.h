@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "pictures/PictureOwner.h"
+#include "pictures/PictureRef.h"
 #include "platform/Color.h"
 #include "platform/Picture.h"
 
@@ -55,15 +57,19 @@ struct FittedBox {
 /// Nothing wrong with a picture ever stops the program: it is told once per path, and the area stays empty.
 class C_Image {
 public:
-    /// Kind of the owner: "Space", "Corner", "Money" or "Token"; empty for a free-standing image.
-    QString SpaceOrCorner;
-    /// The owner's number.
-    qint16 Index = 0;
     /// The image's rectangle on the board, in fractions of the board's width. Kept here for the board.
     float X = 0;
     float Y = 0;
     float W = 0;
     float H = 0;
+
+    const PictureOwner& Owner() const { return m_owner; }
+    /// Kind of the owner: "Space", "Corner", "Money" or "Token"; empty for a free-standing image.
+    QString SpaceOrCorner() const { return m_owner.KindName(); }
+    void Let_SpaceOrCorner(const QString& sKind) { m_owner.kind = PictureOwner::KindOf(sKind); }
+    /// The owner's number.
+    qint16 Index() const { return m_owner.iNumber; }
+    void Let_Index(qint16 iIndex) { m_owner.iNumber = iIndex; }
 
     /// The path last told to be bad.
     QString BadPath() const { return m_sBadPath; }
@@ -76,7 +82,7 @@ public:
     void TakeBadPath(const QString& sTold);
 
     /// Absolute path of the picture; empty for none.
-    QString FullPath() const { return m_sFullPath; }
+    QString FullPath() const { return m_ref.sPath; }
     /// A new picture starts unzoomed and uncentred, without a thumbnail. A missing file is told.
     void Let_FullPath(const QString& sNewPath);
 
@@ -87,22 +93,23 @@ public:
 
     /// Source column and row, in picture pixels, that come to the centre; whole numbers, halves to even.
     /// Both 0: not yet centred. Raise the overflow error outside 16 bits.
-    float XCenter() const { return m_fXCenter; }
+    float XCenter() const { return m_ref.iXCenter; }
     void Let_XCenter(float fXCenter);
-    float YCenter() const { return m_fYCenter; }
+    float YCenter() const { return m_ref.iYCenter; }
     void Let_YCenter(float fYCenter);
-    bool IsCentered() const { return m_fXCenter != 0 || m_fYCenter != 0; }
+    bool IsCentered() const { return m_ref.IsCentered(); }
     /// Takes the centre that a paint has just given to a copy of this image, so that looking at a picture never
     /// counts as a change. Nothing where this one is centred already or shows another picture.
     void TakeCenterFrom(const C_Image& objCopy);
     /// Zoom step z magnifies 2^(z/10) times; 0 is the whole picture.
-    qint16 Zoom() const { return m_iZoom; }
+    qint16 Zoom() const { return m_ref.iZoom; }
     void Let_Zoom(qint16 iZoom);
 
     void Init(const QString& sNewPath, const QString& sSpaceOrCorner, qint16 iIndex);
     /// Copies another image; with bBadPathReport a bad path may be told on the way.
     void LoadFromObject(const C_Image& objMaster, bool bBadPathReport);
-    /// BadPath and the rectangle aren't compared.
+    /// The same part of the same picture for the same owner. BadPath and the rectangle aren't compared.
+    bool operator==(const C_Image& objOther) const { return m_ref == objOther.m_ref && m_owner == objOther.m_owner; }
     bool IsDifferentFrom(const C_Image& objMaster) const;
 
     /// The image's four fields, without a separator behind them.
@@ -115,7 +122,7 @@ public:
 
     bool IsWMF() const;
     /// Side of the board for a space, 4 and the corner's number for a corner, else 0.
-    qint16 Orient() const;
+    qint16 Orient() const { return m_owner.Orient(); }
     /// Path of the thumbnail's file; empty for a free-standing image. Raises for an unknown kind.
     QString Thumbname() const;
 
@@ -150,7 +157,6 @@ public:
     void PrepareForPaper(Surface& oPrinter, double side) const;
 
 private:
-    bool HasKnownKind() const;
     bool NeedsThumbnail() const;
     /// False when the disk refuses its file.
     bool MakeThumbnail();
@@ -162,8 +168,6 @@ private:
     QString PartShown() const;
     /// In pixels.
     int LongerThumbSide() const;
-    /// True for a corner whose picture belongs to the kit.
-    bool ShowsFate() const;
     void PaintThumbnail(Surface& picDest, double xStart, double yStart, double xEnd, double yEnd);
     /// Pixels of the rendering that a box takes in place of the thumbnail; 0 where that one has enough of them.
     int RenderingSide(Surface& picDest, double w, double h) const;
@@ -185,13 +189,11 @@ private:
     /// Deletes the thumbnail's file; a failure is told, once for each file, and passed over.
     void KillThumb();
 
-    QString m_sFullPath;
+    PictureRef m_ref;
+    PictureOwner m_owner;
     QString m_sBadPath;
     /// The thumbnail last told to be bad: the picture itself may be good.
     QString m_sBadThumb;
     /// The metafile last told to be bad while it was drawn.
     QString m_sBadMetafile;
-    qint16 m_iZoom = 0;
-    qint16 m_fXCenter = 0;
-    qint16 m_fYCenter = 0;
 };

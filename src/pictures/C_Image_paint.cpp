@@ -63,7 +63,7 @@ void C_Image::TellLoadFailure(const QString& sName, const QString& sSystemText) 
 
 int C_Image::LongerSideWanted(double boxPixels) const {
     constexpr double kAnyMore = 1 << 16;
-    return CLng(std::min(Magnification(m_iZoom) * boxPixels, kAnyMore));
+    return CLng(std::min(Magnification(m_ref.iZoom) * boxPixels, kAnyMore));
 }
 
 ZoomedSource ZoomedSource::Of(int lW, int lH, int iZoom, double fXCenter, double fYCenter) {
@@ -87,36 +87,36 @@ FittedBox FittedBox::Of(const Picture& picture, double xStart, double yStart, do
 }
 
 Picture C_Image::LoadOrTell(int longerSideWanted) {
-    const bool told = m_sBadPath == m_sFullPath;
-    if (!basCommon::DoesFileExist(m_sFullPath)) {
-        if (!told) TellMissing(m_sFullPath);
-        m_sBadPath = m_sFullPath;
+    const bool told = m_sBadPath == m_ref.sPath;
+    if (!basCommon::DoesFileExist(m_ref.sPath)) {
+        if (!told) TellMissing(m_ref.sPath);
+        m_sBadPath = m_ref.sPath;
         return {};
     }
     QString error;
-    Picture picture = LoadPicture(m_sFullPath, error, longerSideWanted);
+    Picture picture = LoadPicture(m_ref.sPath, error, longerSideWanted);
     if (picture.IsNull()) {
-        if (!told) TellLoadFailure(m_sFullPath, error);
-        m_sBadPath = m_sFullPath;
+        if (!told) TellLoadFailure(m_ref.sPath, error);
+        m_sBadPath = m_ref.sPath;
     }
     return picture;
 }
 
 void C_Image::PaintPictureCentered(Surface& picDest, double xStart, double yStart, double xEnd, double yEnd,
                                    Color lBackColor) try {
-    if (m_sFullPath.isEmpty()) return;
+    if (m_ref.sPath.isEmpty()) return;
     const Picture picture = LoadOrTell(LongerSide(picDest, xEnd - xStart, yEnd - yStart));
     if (picture.IsNull()) return;
     const FittedBox box = FittedBox::Of(picture, xStart, yStart, xEnd, yEnd);
     const auto paint = [&](const Picture& source, RasterOp operation) {
         picDest.PaintPicture(source, box.left, box.top, box.width, box.height, operation);
     };
-    if (!basBMP::IsMonochromeBMP(m_sFullPath)) {
+    if (!basBMP::IsMonochromeBMP(m_ref.sPath)) {
         paint(picture, RasterOp::SourceCopy);
     } else if (lBackColor.IsNone()) {
         paint(picture, RasterOp::SourceAnd);
     } else {
-        const Picture recolored = Recolored(m_sFullPath, lBackColor);
+        const Picture recolored = Recolored(m_ref.sPath, lBackColor);
         paint(recolored.IsNull() ? picture : recolored, RasterOp::SourceCopy);
     }
 } catch (...) {
@@ -125,10 +125,10 @@ void C_Image::PaintPictureCentered(Surface& picDest, double xStart, double yStar
 
 bool C_Image::ReloadOrTell(PictureHolder& picOriginal, int longerSideWanted) const {
     QString error;
-    picOriginal.Picture = LoadPicture(m_sFullPath, error, longerSideWanted);
+    picOriginal.Picture = LoadPicture(m_ref.sPath, error, longerSideWanted);
     if (!picOriginal.Picture.IsNull()) return true;
     // The sentence in the middle was never finished, and people search for it as it stands.
-    const QString sText = QStringLiteral("Unable to LoadPicture for file named '") + m_sFullPath + u'\'' + kNewLine +
+    const QString sText = QStringLiteral("Unable to LoadPicture for file named '") + m_ref.sPath + u'\'' + kNewLine +
                           QStringLiteral("Area will be left blank. & vbcrlf & vbcrlf") +
                           QStringLiteral("The following error was reported: ") + error;
     Tell(sText);
@@ -138,10 +138,11 @@ bool C_Image::ReloadOrTell(PictureHolder& picOriginal, int longerSideWanted) con
 
 void C_Image::PaintPart(Surface& objDest, const Picture& picture, double xStart, double yStart, double xEnd,
                         double yEnd, Color lBackColor) const {
-    const ZoomedSource source = ZoomedSource::Of(picture.Width(), picture.Height(), m_iZoom, m_fXCenter, m_fYCenter);
-    const bool monochrome = basBMP::IsMonochromeBMP(m_sFullPath);
+    const ZoomedSource source =
+        ZoomedSource::Of(picture.Width(), picture.Height(), m_ref.iZoom, m_ref.iXCenter, m_ref.iYCenter);
+    const bool monochrome = basBMP::IsMonochromeBMP(m_ref.sPath);
     // The recoloured copy is made and the drawing itself painted all the same: kept on purpose.
-    if (monochrome && !lBackColor.IsNone()) Recolored(m_sFullPath, lBackColor);
+    if (monochrome && !lBackColor.IsNone()) Recolored(m_ref.sPath, lBackColor);
     objDest.PaintPicture(picture, xStart, yStart, xEnd - xStart, yEnd - yStart,
                          QRectF(source.xSrc, source.ySrc, source.iSide, source.iSide),
                          monochrome ? RasterOp::SourceAnd : RasterOp::SourceCopy);
@@ -157,7 +158,7 @@ bool C_Image::PaintPictureZoomed(Surface& objDest, PictureHolder& picOriginal, S
     const double perPixel = twips ? Screen::kTwipsPerPixel : 1;
     const int lW = CLng(picOriginal.Width(ScaleMode) / perPixel);
     const int lH = CLng(picOriginal.Height(ScaleMode) / perPixel);
-    if (m_fXCenter == 0 && m_fYCenter == 0) {
+    if (m_ref.iXCenter == 0 && m_ref.iYCenter == 0) {
         Let_XCenter(MiddleOf(lW));
         Let_YCenter(MiddleOf(lH));
     }
@@ -175,9 +176,9 @@ bool C_Image::PaintPictureZoomed(Surface& objDest, PictureHolder& picOriginal, S
 
 bool C_Image::DrawMetafile(DeviceContext& hDC, int x, int y, int w, int h) try {
     // One that was told before is tried all the same: it may be good by now.
-    QString vBadPath = m_sBadMetafile == m_sFullPath ? m_sBadMetafile : m_sBadPath;
-    const bool played = basBMP::BMP_DrawWMF(hDC, m_sFullPath, vBadPath, x, y, w, h);
-    m_sBadMetafile = played ? QString() : m_sFullPath;
+    QString vBadPath = m_sBadMetafile == m_ref.sPath ? m_sBadMetafile : m_sBadPath;
+    const bool played = basBMP::BMP_DrawWMF(hDC, m_ref.sPath, vBadPath, x, y, w, h);
+    m_sBadMetafile = played ? QString() : m_ref.sPath;
     return played;
 } catch (...) {
     ErrTail("C_Image!", "DrawMetafile", hDC, x, y, w, h);

@@ -17,7 +17,6 @@ namespace {
 
 const QString kNewLine = QStringLiteral("\r\n");
 constexpr int kThumbSide = 100;
-constexpr int kFateCorner = 3;
 
 ThumbnailMaker::Creator& Creator() {
     static ThumbnailMaker::Creator creator = nullptr;
@@ -49,25 +48,25 @@ ThumbnailMaker::Creator ThumbnailMaker::Install(ThumbnailMaker::Creator creator)
     return std::exchange(::Creator(), creator);
 }
 
-bool C_Image::ShowsFate() const { return SpaceOrCorner == QStringLiteral("Corner") && Index == kFateCorner; }
-
 int C_Image::LongerThumbSide() const {
     constexpr int kTokenSide = 200;
     constexpr int kMoneyHeight = 190;
-    if (SpaceOrCorner == QStringLiteral("Token")) return kTokenSide;
-    return SpaceOrCorner == QStringLiteral("Money") ? kMoneyHeight : kThumbSide;
+    if (m_owner.kind == PictureOwner::Kind::Token) return kTokenSide;
+    return m_owner.kind == PictureOwner::Kind::Money ? kMoneyHeight : kThumbSide;
 }
 
-QString C_Image::PartShown() const { return QStringLiteral("%1 %2 %3").arg(m_iZoom).arg(m_fXCenter).arg(m_fYCenter); }
+QString C_Image::PartShown() const {
+    return QStringLiteral("%1 %2 %3").arg(m_ref.iZoom).arg(m_ref.iXCenter).arg(m_ref.iYCenter);
+}
 
 bool C_Image::NeedsThumbnail() const {
     const QString sThumb = Thumbname();
     const auto origin = MadeOf().constFind(sThumb);
     if (origin != MadeOf().constEnd()) {
-        if (origin->sPath != m_sFullPath || origin->sPart != PartShown()) return true;
+        if (origin->sPath != m_ref.sPath || origin->sPart != PartShown()) return true;
         if (!origin->bOnDisk) return false;
     }
-    const Files::Stamp picture = Files::StampOf(Files::InDiskSpelling(m_sFullPath));
+    const Files::Stamp picture = Files::StampOf(Files::InDiskSpelling(m_ref.sPath));
     const Files::Stamp thumbnail = Files::StampOf(sThumb);
     return thumbnail == Files::Stamp() || thumbnail.modifiedMs < picture.modifiedMs;
 }
@@ -80,9 +79,9 @@ bool C_Image::IsThumbnailRefused() const {
 void C_Image::DistrustThumbnail(const QString& sThumb) { MadeOf().insert(sThumb, Origin()); }
 
 bool C_Image::MakeThumbnail() try {
-    if (SpaceOrCorner == QStringLiteral("Space")) {
+    if (m_owner.kind == PictureOwner::Kind::Space) {
         Maker().CreateThumbRotatedTo90(*this);
-    } else if (SpaceOrCorner == QStringLiteral("Corner")) {
+    } else if (m_owner.kind == PictureOwner::Kind::Corner) {
         Maker().CreateThumbRotatedTo45(*this);
     } else {
         Maker().CreateThumbElliptical(*this, false);
@@ -96,49 +95,49 @@ bool C_Image::MakeThumbnail() try {
 }
 
 QString C_Image::GetThumbnail(bool bGrayOnly) try {
-    if (m_sFullPath.isEmpty()) return {};
-    if (!basCommon::DoesFileExist(m_sFullPath)) {
-        if (m_sBadPath.compare(m_sFullPath, Qt::CaseInsensitive) == 0) return {};
-        basMsgQueue::MsgQueue_Post(QStringLiteral("The file named '") + m_sFullPath +
+    if (m_ref.sPath.isEmpty()) return {};
+    if (!basCommon::DoesFileExist(m_ref.sPath)) {
+        if (m_sBadPath.compare(m_ref.sPath, Qt::CaseInsensitive) == 0) return {};
+        basMsgQueue::MsgQueue_Post(QStringLiteral("The file named '") + m_ref.sPath +
                                        QStringLiteral("' was not found.") + kNewLine +
                                        QStringLiteral("The image will not be drawn."),
                                    vbOKOnly);
-        m_sBadPath = m_sFullPath;
-        return m_sFullPath;
+        m_sBadPath = m_ref.sPath;
+        return m_ref.sPath;
     }
     const QString sThumb = Thumbname();
-    if (!HasKnownKind()) basErrLog::ErrUnexVal(QStringLiteral("SpaceOrCorner"), SpaceOrCorner);
+    if (!m_owner.IsPiece()) basErrLog::ErrUnexVal(QStringLiteral("SpaceOrCorner"), SpaceOrCorner());
     if (!NeedsThumbnail()) return sThumb;
     const bool bOnDisk = MakeThumbnail();
     // Making it may have centred the picture: the part is that of afterwards.
-    MadeOf().insert(sThumb, {m_sFullPath, PartShown(), bOnDisk});
+    MadeOf().insert(sThumb, {m_ref.sPath, PartShown(), bOnDisk});
     return sThumb;
 } catch (...) {
     ErrTail("C_Image!", "GetThumbnail", bGrayOnly);
 }
 
 void C_Image::PrepareThumbnail() const try {
-    if (m_sFullPath.isEmpty() || !HasKnownKind() || IsWMF() || !NeedsThumbnail()) return;
-    PrefetchPicture(m_sFullPath, LongerSideWanted(LongerThumbSide()));
+    if (m_ref.sPath.isEmpty() || !m_owner.IsPiece() || IsWMF() || !NeedsThumbnail()) return;
+    PrefetchPicture(m_ref.sPath, LongerSideWanted(LongerThumbSide()));
 } catch (...) {
     ErrTail("C_Image!", "PrepareThumbnail");
 }
 
 void C_Image::PrepareForPaper(Surface& oPrinter, double side) const try {
-    if (m_sFullPath.isEmpty() || IsWMF()) return;
-    PrefetchPicture(m_sFullPath, LongerSideWanted(oPrinter.PicturePixels(side)));
+    if (m_ref.sPath.isEmpty() || IsWMF()) return;
+    PrefetchPicture(m_ref.sPath, LongerSideWanted(oPrinter.PicturePixels(side)));
 } catch (...) {
     ErrTail("C_Image!", "PrepareForPaper", oPrinter, side);
 }
 
 void C_Image::DrawBitmapToScreen(Surface& picDest, double x, double y, double w, double h) try {
-    if (m_sFullPath.isEmpty()) return;
+    if (m_ref.sPath.isEmpty()) return;
     const QString sThumb = GetThumbnail(false);
     if (sThumb.isEmpty() || !(IsThumbnailRefused() || basCommon::DoesFileExist(sThumb))) return;
-    if (SpaceOrCorner == QStringLiteral("Space") || SpaceOrCorner == QStringLiteral("Corner")) {
+    if (m_owner.kind == PictureOwner::Kind::Space || m_owner.kind == PictureOwner::Kind::Corner) {
         PaintThumbnail(picDest, x, y, x + w, y + h);
-    } else if (SpaceOrCorner == QStringLiteral("Token") || SpaceOrCorner == QStringLiteral("Money")) {
-        basErrLog::ErrUnexVal(QStringLiteral("SpaceOrCorner"), SpaceOrCorner);
+    } else if (m_owner.kind == PictureOwner::Kind::Token || m_owner.kind == PictureOwner::Kind::Money) {
+        basErrLog::ErrUnexVal(QStringLiteral("SpaceOrCorner"), SpaceOrCorner());
     }
 } catch (...) {
     ErrTail("C_Image!", "DrawBitmapToScreen", picDest, x, y, w, h);
@@ -164,11 +163,11 @@ bool C_Image::PaintRendering(Surface& picDest, double xStart, double yStart, dou
 }
 
 void C_Image::PaintThumbnail(Surface& picDest, double xStart, double yStart, double xEnd, double yEnd) try {
-    const bool fate = ShowsFate();
+    const bool fate = m_owner.IsFate();
     const QString sFile =
         fate ? basCommon::JoinPath(Folders::ProgramDirectory(), QStringLiteral("fate.dat")) : Thumbname();
     if (!fate && (PaintRendering(picDest, xStart, yStart, xEnd, yEnd) || IsThumbnailRefused())) return;
-    const bool told = m_sBadPath == m_sFullPath || m_sBadThumb == sFile;
+    const bool told = m_sBadPath == m_ref.sPath || m_sBadThumb == sFile;
     if (!basCommon::DoesFileExist(sFile)) {
         if (!told) TellMissing(sFile);
         m_sBadThumb = sFile;
@@ -181,7 +180,7 @@ void C_Image::PaintThumbnail(Surface& picDest, double xStart, double yStart, dou
 
 void C_Image::PaintThumbnailFile(Surface& picDest, const QString& sFile, double xStart, double yStart, double xEnd,
                                  double yEnd) {
-    const bool told = m_sBadPath == m_sFullPath || m_sBadThumb == sFile;
+    const bool told = m_sBadPath == m_ref.sPath || m_sBadThumb == sFile;
     QString error;
     const Picture picture = LoadPicture(sFile, error);
     if (picture.IsNull()) {
@@ -196,10 +195,10 @@ void C_Image::PaintThumbnailFile(Surface& picDest, const QString& sFile, double 
 
 bool C_Image::PrepareForScreen(Surface& picDest, double w, double h) const try {
     // Metafiles are played where they are painted; the kit's own corner has no file of the user's.
-    if (m_sFullPath.isEmpty() || !HasKnownKind() || IsWMF() || ShowsFate()) return true;
-    const bool bThumb = !NeedsThumbnail() || PrefetchPicture(m_sFullPath, LongerSideWanted(LongerThumbSide()));
+    if (m_ref.sPath.isEmpty() || !m_owner.IsPiece() || IsWMF() || m_owner.IsFate()) return true;
+    const bool bThumb = !NeedsThumbnail() || PrefetchPicture(m_ref.sPath, LongerSideWanted(LongerThumbSide()));
     const int side = RenderingSide(picDest, w, h);
-    const bool bRendering = side == 0 || PrefetchPicture(m_sFullPath, LongerSideWanted(side));
+    const bool bRendering = side == 0 || PrefetchPicture(m_ref.sPath, LongerSideWanted(side));
     return bThumb && bRendering;
 } catch (...) {
     ErrTail("C_Image!", "PrepareForScreen", picDest, w, h);

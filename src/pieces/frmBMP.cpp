@@ -111,8 +111,8 @@ void frmBMP::CreateThumbElliptical(C_Image& oImage, bool bGray) try {
         oImage.Let_BadPath(oImage.FullPath());
         return;
     }
-    const bool money = oImage.SpaceOrCorner == QStringLiteral("Money");
-    const Color back = money ? basTAVL::g_oMoney(oImage.Index).BackColor : basTAVL::g_lMagicColor();
+    const bool money = oImage.Owner().kind == PictureOwner::Kind::Money;
+    const Color back = money ? basTAVL::g_oMoney(oImage.Index()).BackColor : basTAVL::g_lMagicColor();
     const QImage drawn = Drawn(oImage, money ? kMoneySize : QSize(kTokenSide, kTokenSide), back);
     DeleteThumb(oImage.Thumbname());
     WriteThumb(oImage.Thumbname(), clsBMP::CutElliptical(drawn, bGray));

@@ -51,8 +51,8 @@ protected:
     static C_Space& SetSpace(int iSpace, const QString& text, float size = 0.014F) {
         C_Space& space = g_oSpaces(iSpace);
         space.Index = qint16(iSpace);
-        space.Image.SpaceOrCorner = QStringLiteral("Space");
-        space.Image.Index = qint16(iSpace);
+        space.Image.Let_SpaceOrCorner(QStringLiteral("Space"));
+        space.Image.Let_Index(qint16(iSpace));
         space.Font.Load(QStringLiteral("Arial"), false, false, 48);
         space.Let_TextAll(text);
         space.Let_TextSize(size);
@@ -61,8 +61,8 @@ protected:
     static C_Corner& SetCorner(int iCorner, const QString& text, float size = 0.02F) {
         C_Corner& corner = g_oCorners(iCorner);
         corner.Index = qint16(iCorner);
-        corner.Image.SpaceOrCorner = QStringLiteral("Corner");
-        corner.Image.Index = qint16(iCorner);
+        corner.Image.Let_SpaceOrCorner(QStringLiteral("Corner"));
+        corner.Image.Let_Index(qint16(iCorner));
         corner.Font.Load(QStringLiteral("Arial"), false, false, 48);
         corner.Let_TextAll(0, text);
         corner.Let_TextSize(0, size);

@@ -217,7 +217,7 @@ TEST_F(RecordTextTest, BadIndexIsToldWithItsNameByBoardRecordsAndPassedOverByCar
     money.Index = 3;
     money.SetQuotedString(line);
     EXPECT_EQ(money.Index, 3);
-    EXPECT_EQ(money.FaceImage.SpaceOrCorner, QStringLiteral("Money"));
+    EXPECT_EQ(money.FaceImage.SpaceOrCorner(), QStringLiteral("Money"));
 }
 
 TEST_F(RecordTextTest, IndexBeyondSixteenBitsOverflows) {
@@ -232,16 +232,16 @@ TEST_F(RecordTextTest, IndexBeyondSixteenBitsOverflows) {
 TEST_F(RecordTextTest, ImagesOfRecordsKnowTheirOwner) {
     C_Space space;
     space.SetQuotedString(QStringLiteral("9, \"t\""));
-    EXPECT_EQ(space.Image.SpaceOrCorner, QStringLiteral("Space"));
-    EXPECT_EQ(space.Image.Index, 9);
+    EXPECT_EQ(space.Image.SpaceOrCorner(), QStringLiteral("Space"));
+    EXPECT_EQ(space.Image.Index(), 9);
     C_Corner corner;
     corner.SetQuotedString(QStringLiteral("2, \"t\""));
-    EXPECT_EQ(corner.Image.SpaceOrCorner, QStringLiteral("Corner"));
-    EXPECT_EQ(corner.Image.Index, 2);
+    EXPECT_EQ(corner.Image.SpaceOrCorner(), QStringLiteral("Corner"));
+    EXPECT_EQ(corner.Image.Index(), 2);
     C_Token token;
     token.SetQuotedString(QStringLiteral("5, \"t\""));
-    EXPECT_EQ(token.Image.SpaceOrCorner, QStringLiteral("Token"));
-    EXPECT_EQ(token.Image.Index, 5);
+    EXPECT_EQ(token.Image.SpaceOrCorner(), QStringLiteral("Token"));
+    EXPECT_EQ(token.Image.Index(), 5);
 }
 
 } // namespace

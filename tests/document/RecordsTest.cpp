@@ -215,8 +215,8 @@ TEST_F(RecordsTest, TokenStartsAsArialTwelveWithoutPicture) {
     token.Init(4);
     EXPECT_EQ(token.Index, 4);
     EXPECT_EQ(token.Font.GetQuotedString(), QStringLiteral("\"Arial\",R,12"));
-    EXPECT_EQ(token.Image.SpaceOrCorner, QStringLiteral("Token"));
-    EXPECT_EQ(token.Image.Index, 4);
+    EXPECT_EQ(token.Image.SpaceOrCorner(), QStringLiteral("Token"));
+    EXPECT_EQ(token.Image.Index(), 4);
     EXPECT_EQ(token.Image.FullPath(), QString());
 }
 

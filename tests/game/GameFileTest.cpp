@@ -307,8 +307,8 @@ public:
 
 private:
     void Note(const C_Image& image) {
-        wanted.append(image.SpaceOrCorner + QString::number(image.Index));
-        if (image.Index == 1) ErrRaise(ErrNumber::kInvalidPicture, QStringLiteral("no picture"));
+        wanted.append(image.SpaceOrCorner() + QString::number(image.Index()));
+        if (image.Index() == 1) ErrRaise(ErrNumber::kInvalidPicture, QStringLiteral("no picture"));
     }
 };
 

@@ -56,7 +56,7 @@ TEST_F(C_ImagePaintTest, ImageWithoutPathPaintsNothingWithoutABox) {
     basErrLog::ErrInit(0);
     C_Image image;
     image.PaintPictureCentered(form, 0, 0, 100, 100, Color::None());
-    image.SpaceOrCorner = QStringLiteral("Space");
+    image.Let_SpaceOrCorner(QStringLiteral("Space"));
     image.DrawBitmapToScreen(form, 0, 0, 100, 100);
     EXPECT_EQ(image.GetThumbnail(false), QString());
     EXPECT_TRUE(desktop.boxes.isEmpty());
@@ -267,8 +267,8 @@ TEST_F(C_ImagePaintTest, ThumbnailOfAnotherGameThatCantBeDeletedIsNeverShown) {
         return changes && sPath == thumb ? std::optional(QStringLiteral("Permission denied")) : std::nullopt;
     });
     C_Image image;
-    image.SpaceOrCorner = QStringLiteral("Space");
-    image.Index = 7;
+    image.Let_SpaceOrCorner(QStringLiteral("Space"));
+    image.Let_Index(7);
     image.Let_FullPath(WriteFile(QStringLiteral("q.png"), Encoded(Quarters(300, 300), "png")));
     image.Let_XCenter(150);
     image.Let_YCenter(150);

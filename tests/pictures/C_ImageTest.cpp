@@ -62,8 +62,8 @@ TEST_F(C_ImageTest, Edge_CornerThreeOfKitEightHoldsFateWhateverTheRecordSays) {
 
 TEST_F(C_ImageTest, RecordSurvivesWritingAndReading) {
     const QString path = Make(QStringLiteral("Straße \"1\".bmp"));
-    image.SpaceOrCorner = QStringLiteral("Space");
-    image.Index = 12;
+    image.Let_SpaceOrCorner(QStringLiteral("Space"));
+    image.Let_Index(12);
     image.Let_FullPath(path);
     image.Let_XCenter(120);
     image.Let_YCenter(88);
@@ -215,7 +215,7 @@ TEST_F(C_ImageTest, ThumbnameAndOrientFollowTheOwner) {
     EXPECT_EQ(image.Orient(), 7);
     image.Init(QString(), QStringLiteral("Money"), 3);
     EXPECT_EQ(image.Orient(), 0);
-    image.SpaceOrCorner = QStringLiteral("Card");
+    image.Let_SpaceOrCorner(QStringLiteral("Card"));
     EXPECT_THROW(image.Thumbname(), TavloraError);
 }
 
@@ -235,8 +235,8 @@ TEST_F(C_ImageTest, CopyIsNotDifferentAndEachComparedMemberCounts) {
     EXPECT_TRUE(differs([](C_Image& copy) { copy.Let_XCenter(1); }));
     EXPECT_TRUE(differs([](C_Image& copy) { copy.Let_YCenter(1); }));
     EXPECT_TRUE(differs([](C_Image& copy) { copy.Let_Zoom(1); }));
-    EXPECT_TRUE(differs([](C_Image& copy) { copy.Index = 1; }));
-    EXPECT_TRUE(differs([](C_Image& copy) { copy.SpaceOrCorner = QStringLiteral("Corner"); }));
+    EXPECT_TRUE(differs([](C_Image& copy) { copy.Let_Index(1); }));
+    EXPECT_TRUE(differs([](C_Image& copy) { copy.Let_SpaceOrCorner(QStringLiteral("Corner")); }));
     EXPECT_FALSE(differs([](C_Image& copy) { copy.SetBadPath(QString()); }));
     EXPECT_FALSE(differs([](C_Image& copy) { copy.X = 1; }));
 }

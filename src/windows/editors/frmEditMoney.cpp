@@ -23,8 +23,8 @@ constexpr const char* kIndexProperty = "Tag";
 
 // A note that no game file has filled yet doesn't know whose picture it has.
 void NameOwner(C_Money& note, int index) {
-    note.FaceImage.SpaceOrCorner = QStringLiteral("Money");
-    note.FaceImage.Index = qint16(index);
+    note.FaceImage.Let_SpaceOrCorner(QStringLiteral("Money"));
+    note.FaceImage.Let_Index(qint16(index));
 }
 
 } // namespace
