@@ -40,6 +40,27 @@ protected:
         return DarkBox(image, image.rect(), kPale).translated(-kCard.width(), -kCard.height());
     }
 
+    /// Upper edge of each stretch of rows with ink, in pixels of the card.
+    static QList<int> TopsOfText(const QString& sText, float size = 48) {
+        const QImage image = Text(sText, size);
+        QList<int> tops;
+        bool before = false;
+        for (int y = 0; y < image.height(); ++y) {
+            const bool here = !DarkBox(image, QRect(0, y, image.width(), 1), kPale).isEmpty();
+            if (here && !before) tops.append(y - kCard.height());
+            before = here;
+        }
+        return tops;
+    }
+
+    /// A text with letters on every so manieth line only, so that lines are told apart however low they are.
+    static QString SparseLines(int count, int apart) {
+        QStringList lines(count);
+        for (int i = apart / 2; i < count; i += apart)
+            lines[i] = QStringLiteral("HHHH");
+        return lines.join(QStringLiteral("\r\n"));
+    }
+
     static QString Lines(int count) { return QStringList(count, QStringLiteral("Hx")).join(QStringLiteral("\r\n")); }
 };
 
@@ -50,21 +71,58 @@ TEST_F(NewsCardTest, Edge_AShortTitleIsStretchedAndALongOneIsSqueezedToTheSameWi
         const QRect ink = DarkBox(Title(title), kTitleInside);
         EXPECT_GE(ink.width(), 160) << title.toStdString();
         EXPECT_LE(ink.width(), 190) << title.toStdString();
-        EXPECT_NEAR(ink.center().x(), basTAVL::kNewsCardWidth / 2, 3) << title.toStdString();
+        EXPECT_NEAR(ink.center().x(), 120, 3) << title.toStdString();
     }
 }
 
 TEST_F(NewsCardTest, Edge_ManyLinesGetSmallLettersAndNeverLeaveTheBoxByHeight) {
-    int before = INT_MAX;
-    for (const int lines : {1, 4, 10, 20, 40}) {
-        const QRect ink = InkOfText(Lines(lines));
-        EXPECT_FALSE(ink.isEmpty());
-        EXPECT_TRUE(basTAVL::kNewsTextBox.contains(ink)) << lines;
-        EXPECT_LE(ink.height() / lines, before) << lines;
-        before = ink.height() / lines;
+    // The box is 80 pixels high, and no line gets lower than 2 pixels.
+    const struct {
+        int lines;
+        int apart; ///< Lines from one with letters to the next; those between are empty.
+        int pitch; ///< Pixels from one with letters to the next.
+    } rows[] = {{2, 1, 40},  {4, 1, 20},  {5, 1, 16},   {8, 1, 10},   {10, 2, 16},   {13, 2, 12},
+                {20, 4, 16}, {26, 4, 12}, {40, 10, 20}, {41, 10, 20}, {100, 10, 20}, {200, 10, 20}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.lines);
+        const QList<int> tops = TopsOfText(SparseLines(row.lines, row.apart));
+        ASSERT_GE(tops.size(), 2);
+        for (int i = 1; i < tops.size(); ++i)
+            EXPECT_EQ(tops[i] - tops[i - 1], row.pitch) << "from line to line";
+        EXPECT_TRUE(basTAVL::kNewsTextBox.contains(InkOfText(Lines(row.lines))));
     }
-    // More lines than the smallest letters have room for.
-    EXPECT_TRUE(basTAVL::kNewsTextBox.contains(InkOfText(Lines(200))));
+}
+
+TEST_F(NewsCardTest, TheBlockOfLinesStandsInTheMiddleOfItsBox) {
+    // Half of 80 less the height of all lines, and 48 down from the card's edge.
+    const struct {
+        float size;
+        int lines;
+        int top;
+        int pitch;
+    } rows[] = {{48, 4, 48, 20}, {12, 1, 80, 16}, {12, 2, 72, 16}, {12, 3, 64, 16}, {9, 4, 64, 12}, {6, 5, 68, 8}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.size);
+        const QList<int> tops = TopsOfText(Lines(row.lines), row.size);
+        ASSERT_EQ(tops.size(), row.lines);
+        // Letters begin below the top of their line: by less than a third of its height.
+        EXPECT_GE(tops.first(), row.top);
+        EXPECT_LE(tops.first(), row.top + row.pitch / 3);
+        EXPECT_EQ(tops.last() - tops.first(), (row.lines - 1) * row.pitch);
+    }
+}
+
+// Letters are as wide as the box allows, at most half as wide as high; 224 pixels are the box's width.
+TEST_F(NewsCardTest, ALongLineGetsLettersThatFitTheBoxByWidth) {
+    for (const int letters : {20, 30, 60}) {
+        const QRect ink = InkOfText(QString(letters, u'H'));
+        EXPECT_GT(ink.width(), 224 * 0.8) << letters;
+        EXPECT_LE(ink.width(), 224) << letters;
+        EXPECT_GT(ink.left(), basTAVL::kNewsTextBox.left()) << letters;
+        EXPECT_LT(ink.right(), basTAVL::kNewsTextBox.right()) << letters;
+        EXPECT_NEAR(ink.center().x(), 120, 1) << letters;
+        EXPECT_NEAR(ink.center().y(), 48 + 40, 3) << letters;
+    }
 }
 
 TEST_F(NewsCardTest, Edge_ASmallFontSizeCapsTheTextHoweverShort) {
