@@ -18,6 +18,8 @@ const QRect kSubtitle(127, 144, 207, 80);
 const QRect kOccasion(467, 144, 207, 96);
 const QRect kArea[] = {kName, kSubtitle, kOccasion};
 constexpr QPoint kOutside(60, 200);
+const QPoint kAheadOfSubtitle(kSubtitle.left() + 1, kSubtitle.center().y());
+const QPoint kBehindSubtitle(kSubtitle.right() - 1, kSubtitle.center().y());
 // The place of the game's name within its area.
 constexpr QPoint kInName(150, 75);
 
@@ -55,14 +57,15 @@ protected:
     static void ClickBehind(QDialog& form, const QRect& area) {
         ClickAt(form, QPoint(area.right() - 2, area.bottom() - 2));
     }
-    static void SelectSubtitle(QDialog& form) {
+    static void MoveWith(QDialog& form, Qt::MouseButton button, QPoint to) {
         QWidget& canvas = Canvas(form);
-        const QPoint from(kSubtitle.left() + 1, kSubtitle.center().y());
-        const QPoint to(kSubtitle.right() - 1, kSubtitle.center().y());
-        QTest::mousePress(&canvas, Qt::LeftButton, {}, from);
-        QMouseEvent move(QEvent::MouseMove, to, canvas.mapToGlobal(QPointF(to)), Qt::NoButton, Qt::LeftButton, {});
+        QMouseEvent move(QEvent::MouseMove, to, canvas.mapToGlobal(QPointF(to)), Qt::NoButton, button, {});
         QApplication::sendEvent(&canvas, &move);
-        QTest::mouseRelease(&canvas, Qt::LeftButton, {}, to);
+    }
+    static void SelectSubtitle(QDialog& form) {
+        QTest::mousePress(&Canvas(form), Qt::LeftButton, {}, kAheadOfSubtitle);
+        MoveWith(form, Qt::LeftButton, kBehindSubtitle);
+        QTest::mouseRelease(&Canvas(form), Qt::LeftButton, {}, kBehindSubtitle);
     }
     static QImage Shown(QDialog& form) { return Find<PictureBox>(form, "picForm").Image().copy(); }
     static QImage Shown(QDialog& form, const QRect& area) { return Shown(form).copy(area); }
@@ -243,6 +246,50 @@ TEST_F(EditCenterTest, DraggingSelectsAndTypingReplacesWhatIsSelected) {
         EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("A game"));
         Type(form, QStringLiteral("Z"));
         EXPECT_EQ(Text(kSubtitleRecord), QStringLiteral("Z"));
+    });
+}
+
+TEST_F(EditCenterTest, ADragThatLeavesItsTextKeepsWhatItHasSelectedThere) {
+    // Longer than the subtitle, so that a column of it would be beyond the subtitle's end.
+    basPosit::SetSpecialText(kOccasionRecord, QStringLiteral("Summer holidays"));
+    const QPoint besideAllAreas(kSubtitle.right() + 60, kSubtitle.center().y());
+    const QPoint atTheEndOfTheOccasion(kOccasion.right() - 1, kOccasion.center().y());
+    Edit([&](QDialog& form) {
+        for (const QPoint outside : {besideAllAreas, atTheEndOfTheOccasion, kName.center()}) {
+            QTest::mousePress(&Canvas(form), Qt::LeftButton, {}, kAheadOfSubtitle);
+            MoveWith(form, Qt::LeftButton, kBehindSubtitle);
+            const QImage selected = Shown(form);
+            MoveWith(form, Qt::LeftButton, outside);
+            EXPECT_EQ(Shown(form), selected);
+            QTest::mouseRelease(&Canvas(form), Qt::LeftButton, {}, outside);
+            QGuiApplication::clipboard()->clear();
+            Press(form, Qt::Key_C, Qt::ControlModifier);
+            EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("A game"));
+        }
+        EXPECT_TRUE(desktop.boxes.isEmpty());
+    });
+}
+
+TEST_F(EditCenterTest, OnlyADragWithTheLeftButtonThatBeganOnTheTextSelects) {
+    const auto typedAfter = [](QDialog& form) {
+        Type(form, QStringLiteral("!"));
+        const QString text = Text(kSubtitleRecord);
+        basPosit::SetSpecialText(kSubtitleRecord, QStringLiteral("A game"));
+        return text;
+    };
+    Edit([&](QDialog& form) {
+        ClickAt(form, kAheadOfSubtitle);
+        MoveWith(form, Qt::LeftButton, kBehindSubtitle);
+        EXPECT_EQ(typedAfter(form), QStringLiteral("!A game")) << "the button was released before";
+        ClickAt(form, kAheadOfSubtitle);
+        QTest::mousePress(&Canvas(form), Qt::RightButton, {}, kAheadOfSubtitle);
+        MoveWith(form, Qt::RightButton, kBehindSubtitle);
+        EXPECT_EQ(typedAfter(form), QStringLiteral("!A game")) << "the right button selects nothing";
+        ClickAt(form, kAheadOfSubtitle);
+        QTest::mousePress(&Canvas(form), Qt::LeftButton, {}, kAheadOfSubtitle);
+        QTest::mouseRelease(&Canvas(form), Qt::RightButton, {}, kAheadOfSubtitle);
+        MoveWith(form, Qt::RightButton, kBehindSubtitle);
+        EXPECT_EQ(typedAfter(form), QStringLiteral("!")) << "still held: any button counts while it moves";
     });
 }
 

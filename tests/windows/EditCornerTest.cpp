@@ -58,6 +58,21 @@ TEST_F(EditCornerTest, Edge_TypingOnACornerIsNotCutAtFortyCharacters) {
         Click("cmdOK");
     }));
     EXPECT_EQ(Corner().TextLine(0, 0), QString(39, u'i') + QStringLiteral("wxyz"));
+    EXPECT_EQ(Corner().TextLine(0, 1), QStringLiteral("end"));
+}
+
+// Typing cuts no line of a corner; a record cuts the last one when it takes a text, of corners as of spaces.
+TEST_F(EditCornerTest, TheLastLineOfACornerIsCutWhereItIsStored) {
+    const QString almost(39, u'i');
+    for (const QString& above : {QString(), QString(45, u'j') + QStringLiteral("\r\n")}) {
+        Corner().SetText(0, above + almost);
+        EXPECT_TRUE(Edit([&] {
+            ClickBehindText();
+            Type(QStringLiteral("wxyz"));
+            Click("cmdOK");
+        }));
+        EXPECT_EQ(Corner().TextAll(0), above + almost + u'w');
+    }
 }
 
 TEST_F(EditCornerTest, Edge_TheSecondBlocksTextSurvivesAnEditOfTheFirst) {

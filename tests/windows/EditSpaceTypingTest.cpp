@@ -27,6 +27,32 @@ TEST_F(EditSpaceTest, Edge_ClickingOutsideTheTextDropsTheCaretUntilTheNextClickI
     EXPECT_EQ(Space().TextAll(), QStringLiteral("Elm\r\nStreet!"));
 }
 
+TEST_F(EditSpaceTest, Edge_DownAtTheVeryEndChangesNothingAndDrawsNothing) {
+    Edit([&] {
+        ClickBehindText();
+        EXPECT_FALSE(Redraws([&] { Press(Qt::Key_Down); }));
+        EXPECT_TRUE(Redraws([&] { Press(Qt::Key_Left); })) << "a caret that moves is seen to move";
+        EXPECT_EQ(form.GetTextArray().join(u'|'), QStringLiteral("Elm|Street"));
+        Type(QStringLiteral("x"));
+        EXPECT_EQ(form.GetTextArray().join(u'|'), QStringLiteral("Elm|Streext"));
+    });
+}
+
+TEST_F(EditSpaceTest, KeysThatDoNothingDrawNothing) {
+    Edit([&] {
+        ClickBehindText();
+        for (const Qt::Key key : {Qt::Key_Right, Qt::Key_Down, Qt::Key_Delete})
+            EXPECT_FALSE(Redraws([&] { Press(key); })) << "at the end: " << key;
+        for (int i = 0; i < 10; ++i)
+            EXPECT_TRUE(Redraws([&] { Press(Qt::Key_Left); })) << "step " << i;
+        for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Up})
+            EXPECT_FALSE(Redraws([&] { Press(key); })) << "at the start: " << key;
+        EXPECT_TRUE(Redraws([&] { Press(Qt::Key_Delete); }));
+        EXPECT_TRUE(Redraws([&] { Type(QStringLiteral("W")); }));
+        EXPECT_EQ(form.GetTextArray().join(u'|'), QStringLiteral("Wlm|Street"));
+    });
+}
+
 TEST_F(EditSpaceTest, ATypedNameReachesTheGameOnOk) {
     EXPECT_TRUE(Edit([&] {
         ClickBehindText();
@@ -94,13 +120,40 @@ TEST_F(EditSpaceTest, EnterPressesTheButtonThatHasTheFocus) {
     EXPECT_TRUE(Space().Font.Bold);
 }
 
-TEST_F(EditSpaceTest, AFortyFirstCharacterIsDropped) {
-    Space().SetText(QString(39, u'i'));
+TEST_F(EditSpaceTest, AFortyFirstCharacterIsDroppedFromWhicheverLine) {
+    const QString almost(39, u'i');
+    Space().SetText(almost);
     Edit([&] {
         ClickBehindText();
         Type(QStringLiteral("xyz"));
-        EXPECT_EQ(form.GetTextArray(), QStringList{QString(39, u'i') + u'x'});
+        EXPECT_EQ(form.GetTextArray(), QStringList{almost + u'x'});
     });
+    Space().SetText(almost + QStringLiteral("\r\nend"));
+    Edit([&] {
+        ClickBehindText();
+        for (int i = 0; i < 4; ++i)
+            Press(Qt::Key_Left);
+        Type(QStringLiteral("xyz"));
+        EXPECT_EQ(form.GetTextArray(), QStringList({almost + u'x', QStringLiteral("end")}));
+    });
+}
+
+// What the key removes isn't handed back with ten lines there, so the window keeps the text as it was.
+TEST_F(EditSpaceTest, EnterOnTheTenthLineTakesTheMarkingAwayAndLeavesTheText) {
+    const QString tenLines = QStringList(10, QStringLiteral("line")).join(QStringLiteral("\r\n"));
+    Space().SetText(tenLines);
+    EXPECT_FALSE(Edit([&] {
+        ClickPicture(20, 258);
+        const QImage caret = Shown();
+        DragPicture({20, 258}, {186, 258});
+        const QImage marked = Shown();
+        EXPECT_NE(marked, caret);
+        Press(Qt::Key_Return);
+        EXPECT_EQ(form.GetTextArray(), QStringList(10, QStringLiteral("line")));
+        EXPECT_EQ(Shown(), caret) << "the caret stands where the marking began";
+        Click("cmdOK");
+    }));
+    EXPECT_EQ(Space().TextAll(), tenLines);
 }
 
 TEST_F(EditSpaceTest, DraggingSelectsAndTypingReplaces) {

@@ -5,6 +5,7 @@
 #include "services/basErrLog.h"
 #include "services/TavloraError.h"
 #include "support/GameFixture.h"
+#include "windows/editors/TypedText.h"
 
 using namespace basEditTextArray;
 
@@ -76,21 +77,26 @@ TEST_F(EditTextArrayTest, Edge_UpAtTheStartOfALineGoesToTheEndOfThePreviousOne) 
     EXPECT_EQ(Where(), QStringLiteral("6,1"));
 }
 
-TEST_F(EditTextArrayTest, Edge_DownAtTheVeryEndDoesNothing) {
-    CaretAt(4, 2);
-    EXPECT_EQ(Down(vbKeyDown), KeyResult::Nothing);
-    EXPECT_EQ(Where(), QStringLiteral("4,2"));
+TEST_F(EditTextArrayTest, DownAndRightAtTheVeryEndAreReportedAsNothing) {
+    for (const int code : {vbKeyDown, vbKeyRight}) {
+        CaretAt(4, 2);
+        EXPECT_EQ(Down(code), KeyResult::Nothing);
+        EXPECT_EQ(Where(), QStringLiteral("4,2"));
+    }
 }
 
 TEST_F(EditTextArrayTest, Edge_The41stCharacterIsAcceptedAndLostWhenTheTextIsStored) {
-    lines = {QString(40, u'i')};
-    CaretAt(40, 0);
-    EXPECT_EQ(Press('x'), KeyResult::TextChanged);
-    EXPECT_EQ(lines[0].size(), 41);
-    EXPECT_EQ(Where(), QStringLiteral("41,0"));
+    const QString full(40, u'i');
+    lines = {full, QStringLiteral("mid"), full};
+    for (const int row : {0, 2}) {
+        CaretAt(40, row);
+        EXPECT_EQ(Press('x'), KeyResult::TextChanged);
+        EXPECT_EQ(lines[row], full + u'x');
+        EXPECT_EQ(Where(), QStringLiteral("41,%1").arg(row));
+    }
     C_Space space;
-    space.SetText(lines.join(QStringLiteral("\r\n")));
-    EXPECT_EQ(space.TextAll(), QString(40, u'i'));
+    space.SetText(TypedText::Joined(lines));
+    EXPECT_EQ(space.TextAll(), full + QStringLiteral("\r\nmid\r\n") + full);
 }
 
 TEST_F(EditTextArrayTest, Edge_DeleteAtTheEndOfTheLastLineDoesNothing) {

@@ -87,18 +87,23 @@ void EditWindowTest::ClickPicture(int x, int y, Qt::MouseButton button) {
     QTest::mouseClick(Find<PictureBox>("picDest"), button, {}, {x, y});
 }
 
-void EditWindowTest::DragPicture(QPoint from, QPoint to) {
-    auto* picture = Find<PictureBox>("picDest");
-    QTest::mousePress(picture, Qt::LeftButton, {}, from);
-    QMouseEvent move(QEvent::MouseMove, to, picture->mapToGlobal(to), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(picture, &move);
-    QTest::mouseRelease(picture, Qt::LeftButton, {}, to);
+void EditWindowTest::PressPicture(QPoint at) { QTest::mousePress(Find<PictureBox>("picDest"), Qt::LeftButton, {}, at); }
+
+void EditWindowTest::ReleasePicture(QPoint at) {
+    QTest::mouseRelease(Find<PictureBox>("picDest"), Qt::LeftButton, {}, at);
 }
 
-void EditWindowTest::MovePicture(int x, int y) {
+void EditWindowTest::DragPicture(QPoint from, QPoint to) {
+    PressPicture(from);
+    MovePictureWith(Qt::LeftButton, to);
+    ReleasePicture(to);
+}
+
+void EditWindowTest::MovePicture(int x, int y) { MovePictureWith(Qt::NoButton, {x, y}); }
+
+void EditWindowTest::MovePictureWith(Qt::MouseButton button, QPoint at) {
     auto* picture = Find<PictureBox>("picDest");
-    const QPoint at(x, y);
-    QMouseEvent move(QEvent::MouseMove, at, picture->mapToGlobal(at), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QMouseEvent move(QEvent::MouseMove, at, picture->mapToGlobal(at), Qt::NoButton, button, Qt::NoModifier);
     QApplication::sendEvent(picture, &move);
 }
 
@@ -125,6 +130,17 @@ QString EditWindowTest::Tip() {
 }
 
 QImage EditWindowTest::Shown() { return Find<PictureBox>("picDest")->Image(); }
+
+bool EditWindowTest::Redraws(const std::function<void()>& doIt) {
+    // On a space and on a corner alike: filled with the board's colour, and no text comes there.
+    constexpr QPoint kBelowTheText(180, 305);
+    constexpr QRgb kMark = qRgb(1, 2, 3);
+    auto* picture = Find<PictureBox>("picDest");
+    picture->hDC().SetPixel(kBelowTheText.x(), kBelowTheText.y(), Color::Rgb(1, 2, 3));
+    EXPECT_EQ(picture->Image().pixel(kBelowTheText), kMark);
+    doIt();
+    return picture->Image().pixel(kBelowTheText) != kMark;
+}
 
 void EditWindowTest::InBrowser(const std::function<void(frmBrowse&)>& doIt) {
     QTimer::singleShot(0, window, [this, doIt] {

@@ -45,7 +45,11 @@ protected:
     void Click(const char* button);
     void ClickPicture(int x, int y, Qt::MouseButton button = Qt::LeftButton);
     void DragPicture(QPoint from, QPoint to);
+    void PressPicture(QPoint at);
+    void ReleasePicture(QPoint at);
+    /// The mouse moves over the picture; the left button is held or none is.
     void MovePicture(int x, int y);
+    void MovePictureWith(Qt::MouseButton button, QPoint at);
     /// Goes to whatever has the focus.
     void Type(const QString& text);
     void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
@@ -53,6 +57,8 @@ protected:
     QString Tip();
     /// What the picture box shows.
     QImage Shown();
+    /// Whether something draws the picture anew: nothing but a redraw takes a dot off that nobody draws.
+    bool Redraws(const std::function<void()>& doIt);
 
     /// Does something in the image browser that the next action opens, then closes it.
     void InBrowser(const std::function<void(frmBrowse&)>& doIt);

@@ -5,6 +5,7 @@
 #include "board/basTAVL_news.h"
 #include "platform/PictureBox.h"
 #include "support/EditorFixture.h"
+#include "support/HourGlassWatch.h"
 #include "support/Ink.h"
 
 #include <QLineEdit>
@@ -64,21 +65,46 @@ protected:
 };
 
 TEST_F(NewsTest, Edge_AClickBesideTheThirdColumnOrBelowTheFourthRowOpensNothing) {
+    constexpr QPoint kBesideTheColumns(720, 100);
+    constexpr QPoint kBelowTheRows(100, 560);
     int opened = 0;
     Show(kGood, [&](QDialog& form) {
         Enlarge(form);
-        QTest::mouseClick(&Find<QWidget>(form, "picCards"), Qt::LeftButton, {}, QPoint(725, 100));
-        EXPECT_EQ(viewer.Card(), -1);
-        QTest::mouseClick(&Find<QWidget>(form, "picCards"), Qt::LeftButton, {}, QPoint(100, 565));
-        EXPECT_EQ(viewer.Card(), -1);
-        WhenModal([&](QDialog& inner) {
-            ++opened;
-            Click(inner, "cmdCancel");
-        });
-        ClickCards(form, QPoint(719, 559));
-        EXPECT_EQ(viewer.Card(), 11);
+        for (const QPoint beside : {kBesideTheColumns, kBelowTheRows}) {
+            WhenModal([&](QDialog& inner) {
+                ++opened;
+                Click(inner, "cmdCancel");
+            });
+            ClickCards(form, QPoint(719, 559));
+            EXPECT_EQ(viewer.Card(), 11);
+            const QImage chosen = Shown(form, "picCards");
+            ClickCards(form, beside);
+            EXPECT_EQ(viewer.Card(), -1);
+            EXPECT_NE(Shown(form, "picCards"), chosen) << "the frame round the chosen card is gone";
+        }
     });
-    EXPECT_EQ(opened, 1);
+    EXPECT_EQ(opened, 2);
+}
+
+TEST_F(NewsTest, AnotherButtonOnACardChoosesNoneAndOpensNothing) {
+    Show(kGood, [&](QDialog& form) {
+        for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
+            QTest::keyClick(&form, Qt::Key_Right);
+            EXPECT_EQ(viewer.Card(), 0);
+            ClickCards(form, QPoint(100, 100), button);
+            EXPECT_EQ(viewer.Card(), -1);
+        }
+    });
+}
+
+TEST_F(NewsTest, ThePointerIsAnHourglassWhileTheCardsAreDrawn) {
+    Show(kGood, [&](QDialog& form) {
+        form.resize(500, 400);
+        const HourGlassWatch watch;
+        Find<QScrollBar>(form, "vscrl").setValue(300);
+        EXPECT_GT(watch.TimesWorking("picCards"), 0);
+        EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr) << "it goes when the drawing is done";
+    });
 }
 
 TEST_F(NewsTest, Edge_AFontChangedOnOneCardReachesTheOthersOfItsDeck) {
