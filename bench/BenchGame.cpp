@@ -17,7 +17,7 @@ void LoadFamilyWith(const BenchPhotos& photos) {
     GameFile::GameLoad(name, result);
     int photo = 0;
     for (int iSpace = 0; iSpace < basTAVL::kSpaces; ++iSpace) {
-        if (!basPosit::IsLotto(iSpace)) basTAVL::g_oSpaces(iSpace).SetImagePath(photos.Path(photo++));
+        if (!BoardFacts::IsLotto(iSpace)) basTAVL::g_oSpaces(iSpace).SetImagePath(photos.Path(photo++));
     }
     for (int iCorner = 0; photo < kPicturesOfAGame; ++iCorner)
         basTAVL::g_oCorners(iCorner).Image.Let_FullPath(photos.Path(photo++));

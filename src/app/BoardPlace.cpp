@@ -7,28 +7,18 @@
 
 #include <array>
 
+using namespace BoardFacts;
+
 namespace {
-
-// The seven-by-seven grid between the corners, and where the spaces' inner edges lie.
-constexpr float kGridStart = 0.2017F;
-constexpr float kPitch = 0.0852F;
-constexpr int kCells = 7;
-constexpr float kNearEdge = 0.1705F;
-constexpr float kFarEdge = 0.8295F;
-
-constexpr int kLottoSpaces[] = {10, 24};
-constexpr int kNewsSpaces[] = {3, 17};
-constexpr int kFateCorner = 3;
 
 // No blank behind it: on the board's tips the quoted names have always followed at once.
 const QString kClickToEdit = QStringLiteral("Click to edit");
 const QString kCrLf = QStringLiteral("\r\n");
 
-constexpr std::array<const char*, 4> kCornerNames = {"Start", "Lose Turn", "Free Space", "Fate!"};
+constexpr std::array<const char*, kCorners> kCornerNames = {"Start", "Lose Turn", "Free Space", "Fate!"};
 
-bool IsLotto(int iSpace) { return iSpace == kLottoSpaces[0] || iSpace == kLottoSpaces[1]; }
-bool IsNews(int iSpace) { return iSpace == kNewsSpaces[0] || iSpace == kNewsSpaces[1]; }
-bool OnGrid(int cell) { return cell >= 0 && cell < kCells; }
+// The seven-by-seven grid between the corners.
+bool OnGrid(int cell) { return cell >= 0 && cell < kSpacesPerSide; }
 
 int CornerAt(int iCol, int iRow) {
     const bool left = iCol < 0;
@@ -38,10 +28,10 @@ int CornerAt(int iCol, int iRow) {
 }
 
 int SpaceAt(float fX, float fY, int iCol, int iRow) {
-    if (fY > kFarEdge) return 6 - iCol;
-    if (fX < kNearEdge) return 13 - iRow;
-    if (fY < kNearEdge) return iCol + 14;
-    if (fX > kFarEdge) return iRow + 21;
+    if (fY > kInnerHigh) return 6 - iCol;
+    if (fX < kInnerLow) return 13 - iRow;
+    if (fY < kInnerLow) return iCol + 14;
+    if (fX > kInnerHigh) return iRow + 21;
     return -1;
 }
 
@@ -85,8 +75,8 @@ bool BoardPlace::IsEditable() const { return IsSomething() && WhyNotEditable(*th
 
 BoardPlace PlaceAt(float fX, float fY) try {
     BoardPlace place;
-    const int iCol = Int(double((fX - kGridStart) / kPitch));
-    const int iRow = Int(double((fY - kGridStart) / kPitch));
+    const int iCol = Int(double((fX - kNearEndLow) / kPitch));
+    const int iRow = Int(double((fY - kNearEndLow) / kPitch));
     if (!OnGrid(iCol) && !OnGrid(iRow)) {
         place.m_iOverCorner = CornerAt(iCol, iRow);
         return place;
@@ -137,12 +127,10 @@ QPoint TipBoxPosition(const BoardPlace& place, float X, float Y, QSize boxSize, 
     constexpr int kRightOfMouse = 120;
     constexpr int kBelowMouse = 420;
     constexpr int kBottomSideMargin = 240;
-    constexpr int kFirstOfRightSide = 21;
-    constexpr int kSpacesOfBottomSide = 7;
+    constexpr int kFirstOfRightSide = 3 * kSpacesPerSide;
     QPoint at(CLng(double(X)) + kRightOfMouse, CLng(double(Y)) + kBelowMouse);
     if (place.m_iOverSpace >= kFirstOfRightSide || place.m_iOverCorner == 0)
         at.setX(std::min(CLng(double(X)), boardSize.width()) - boxSize.width());
-    if (place.m_iOverSpace >= 0 && place.m_iOverSpace < kSpacesOfBottomSide)
-        at.setY(boardSize.height() - kBottomSideMargin);
+    if (place.m_iOverSpace >= 0 && place.m_iOverSpace < kSpacesPerSide) at.setY(boardSize.height() - kBottomSideMargin);
     return at;
 }

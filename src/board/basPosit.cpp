@@ -51,7 +51,7 @@ int PosY(float fy, int lFurther) { return CLng(double(Module().m_fScale * fy) + 
 double PosLength(float fLength) { return Module().m_fScale * fLength; }
 
 int PosSide(int iSpace) try {
-    const int iSide = Int(iSpace / 7.0);
+    const int iSide = Int(double(iSpace) / BoardFacts::kSpacesPerSide);
     basErrLog::ErrAssert(iSide >= 0 && iSide < kSidesOfBoard, QStringLiteral("Unexpected Case"));
     return iSide;
 } catch (...) {

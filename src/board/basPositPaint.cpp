@@ -18,7 +18,6 @@ constexpr float kCostHeight = 0.012F;
 constexpr float kCostGap = 0.005F;
 
 constexpr int kEscapement[kSidesOfBoard] = {0, 2700, 1800, 900};
-constexpr int kFixedCorner = 3;
 
 struct DeviceRect {
     int x1;
@@ -63,7 +62,7 @@ int EscapementOfSide(int iSide, const QString& sMessage) {
 
 bool IsFixedCorner(int iCorner) {
     const QString& version = basTAVL::g_sGameVersion();
-    return iCorner == kFixedCorner && (version == QStringLiteral("8") || version == QStringLiteral("5"));
+    return iCorner == BoardFacts::kFateCorner && (version == QStringLiteral("8") || version == QStringLiteral("5"));
 }
 
 void PosDrawAll() try {
@@ -83,7 +82,7 @@ void PosDrawAll() try {
         PosDrawCorner(iCorner);
     }
     for (int iSpace = 0; iSpace < kSpacesOnBoard; ++iSpace) {
-        if (IsLotto(iSpace)) DrawLotto(iSpace);
+        if (BoardFacts::IsLotto(iSpace)) DrawLotto(iSpace);
     }
     Draw_ReleaseObjects();
 } catch (...) {

@@ -65,9 +65,6 @@ void DrawLotto(int iSpace);
 /// the message outside 0 to 3.
 int EscapementOfSide(int iSide, const QString& sMessage);
 
-/// True for the two spaces that show the lotto's panel.
-bool IsLotto(int iSpace);
-
 /// True for the corner whose picture belongs to the kit and not to the game.
 bool IsFixedCorner(int iCorner);
 

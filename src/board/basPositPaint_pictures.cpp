@@ -96,7 +96,7 @@ void StartPictures() {
         image.PrepareForScreen(*module.picBoard, box.width(), box.height());
     };
     for (int iSpace = 0; iSpace < kSpacesOnBoard; ++iSpace) {
-        if (!IsLotto(iSpace)) prepare(basTAVL::g_oSpaces(iSpace).Image);
+        if (!BoardFacts::IsLotto(iSpace)) prepare(basTAVL::g_oSpaces(iSpace).Image);
     }
     for (int iCorner = 0; iCorner < kCornersOnBoard; ++iCorner)
         prepare(basTAVL::g_oCorners(iCorner).Image);
@@ -129,7 +129,7 @@ void PosDrawCorner(int iCorner) try {
 
 void PosDrawSpaceBMP(int iSpace) try {
     C_Space& space = basTAVL::g_oSpaces(iSpace);
-    if (!space.IsShowing || IsLotto(iSpace)) return;
+    if (!space.IsShowing || BoardFacts::IsLotto(iSpace)) return;
     Paste(space.Image, iSpace);
 } catch (...) {
     ErrTail("basPosit!", "PosDrawSpaceBMP", iSpace);

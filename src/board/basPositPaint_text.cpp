@@ -7,6 +7,8 @@
 #include "platform/Numbers.h"
 #include "services/basErrLog.h"
 
+#include <array>
+
 using namespace basDraw;
 
 namespace basPosit {
@@ -29,16 +31,15 @@ constexpr int kCornerEscapement[kCornersOnBoard] = {450, 3150, 2250, 1350};
 
 // The lotto panel, in fractions of the board's width.
 struct LottoPlace {
-    int iSpace;
     BoardPoint start;
     int iEscapement;
     /// Along x, from the inner edge outward.
     int iDirection;
 };
-constexpr LottoPlace kLotto[] = {
-    {10, {0.14138F, 0.46156F}, 2700, -1},
-    {24, {0.85862F, 0.53824F}, 900, 1},
-};
+constexpr std::array<LottoPlace, BoardFacts::kLottoSpaces.size()> kLotto = {{
+    {{0.14138F, 0.46156F}, 2700, -1},
+    {{0.85862F, 0.53824F}, 900, 1},
+}};
 struct LottoFont {
     float fHeight;
     float fWidth;
@@ -58,11 +59,11 @@ constexpr LottoPay kLottoPay[] = {
     {"#5 or #9 pays", "8 to 1"},   {"#6 or #8 pays", "6 to 1"},   {"#7 pays", "5 to 1"},
 };
 // The answers end where the space does, less a margin as wide as the one at the start.
-constexpr double kLottoAnswers = 0.9 * 0.0852;
+constexpr double kLottoAnswers = 0.9 * BoardFacts::kPitchOfBoard;
 
 const LottoPlace& PlaceOfLotto(int iSpace) {
-    basErrLog::ErrAssert(IsLotto(iSpace), QStringLiteral("DrawLotto called with unexpected index"));
-    return iSpace == kLotto[0].iSpace ? kLotto[0] : kLotto[1];
+    basErrLog::ErrAssert(BoardFacts::IsLotto(iSpace), QStringLiteral("DrawLotto called with unexpected index"));
+    return iSpace == BoardFacts::kLottoSpaces[0] ? kLotto[0] : kLotto[1];
 }
 
 BoardPoint TextAnchor(int iSide, const BoardRect& rect, float fAcross) {
@@ -94,12 +95,10 @@ void WriteLotto(const char* sText, const QString& sAlign, int x, int y) {
 
 } // namespace
 
-bool IsLotto(int iSpace) { return iSpace == kLotto[0].iSpace || iSpace == kLotto[1].iSpace; }
-
 void PosDrawSpaceText(int iSpace) try {
     const C_Space& space = basTAVL::g_oSpaces(iSpace);
-    if (!space.IsShowing || IsLotto(iSpace)) return;
-    const int iSide = Int(iSpace / 7.0);
+    if (!space.IsShowing || BoardFacts::IsLotto(iSpace)) return;
+    const int iSide = Int(double(iSpace) / BoardFacts::kSpacesPerSide);
     const int iEscapement = EscapementOfSide(iSide, QStringLiteral("Unexpected Case"));
     const int h = LetterHeight(space.TextSize());
     const TextDepth& part = space.Image.FullPath().isEmpty() ? kWithoutImage : kWithImage;

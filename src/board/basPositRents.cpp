@@ -21,8 +21,6 @@ namespace {
 const QString kMainKit = QStringLiteral("8");
 const QString kNewLine = QStringLiteral("\r\n");
 const QString kBlankLine = kNewLine + kNewLine;
-// The middle space of each side has no price.
-constexpr int kMiddleOfSide = 3;
 
 using RentTable = std::array<RentRecord, basTAVL::kSpaces>;
 
@@ -130,8 +128,7 @@ void ReadRents() try {
         module.stamp = stamp;
     }
     for (int iSpace = 0; iSpace < basTAVL::kSpaces; ++iSpace) {
-        if (iSpace % basTAVL::kSpacesPerSide == kMiddleOfSide) continue;
-        basTAVL::g_oSpaces(iSpace).Cost = FormatCost(m_Rent(iSpace).Cost);
+        if (BoardFacts::IsForSale(iSpace)) basTAVL::g_oSpaces(iSpace).Cost = FormatCost(m_Rent(iSpace).Cost);
     }
 } catch (...) {
     ErrTail("basPosit!", "ReadRents");

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "document/BoardFacts.h"
 #include "document/SpecialText.h"
 #include "platform/Color.h"
 
@@ -12,9 +13,9 @@
 /// top and left edge; a view turns them into device units when it draws.
 namespace basPosit {
 
-constexpr int kSpacesOnBoard = 28;
-constexpr int kCornersOnBoard = 4;
-constexpr int kSidesOfBoard = 4;
+constexpr int kSpacesOnBoard = BoardFacts::kSpaces;
+constexpr int kCornersOnBoard = BoardFacts::kCorners;
+constexpr int kSidesOfBoard = BoardFacts::kSides;
 constexpr int kCornerPoints = 5;
 constexpr int kCenterBoxes = 7;
 constexpr int kCenterTexts = 17;

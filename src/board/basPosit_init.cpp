@@ -4,17 +4,14 @@
 #include "document/basTAVL.h"
 #include "services/basErrLog.h"
 
+using namespace BoardFacts;
+
 namespace basPosit {
 namespace {
 
-// Lines that the whole board is built on.
-constexpr float kPitch = 0.0852F;       // width of a space along its side
-constexpr float kNearEndHigh = 0.7983F; // where the spaces of the sides 0 and 1 start
-constexpr float kNearEndLow = 0.2017F;  // where those of the sides 2 and 3 start
+// Lines that the whole board is built on, besides its grid.
 constexpr float kOuterHigh = 0.9751F;
 constexpr float kOuterLow = 0.0249F;
-constexpr float kInnerHigh = 0.8295F;
-constexpr float kInnerLow = 0.1705F;
 constexpr float kBandDepth = 0.0208F;
 constexpr float kTipHigh = 0.8087F; // the corners' cut tips, and the side bands' inner edges
 constexpr float kTipLow = 0.1913F;
@@ -27,17 +24,19 @@ constexpr float kImageAcross = 0.0239F;
 constexpr float kSideTextGap = 0.0011F;
 constexpr float kDefaultTextHeight = 0.01F;
 
-constexpr int kNoGroup = -1;
-
-struct Rgb {
+// A group of properties.
+struct GroupLook {
     int red;
     int green;
     int blue;
+    /// Prices are white on the band.
+    bool bWhiteCost;
     Color Value() const { return Color::Rgb(red, green, blue); }
 };
 
-constexpr Rgb kPropColorRow[kPropColors] = {{0, 128, 0},   {192, 0, 96},   {255, 128, 0}, {0, 70, 127},
-                                            {255, 255, 0}, {221, 19, 223}, {0, 147, 221}, {255, 0, 0}};
+constexpr GroupLook kGroupLook[kPropColors] = {{0, 128, 0, true},    {192, 0, 96, true},   {255, 128, 0, true},
+                                               {0, 70, 127, true},   {255, 255, 0, false}, {221, 19, 223, true},
+                                               {0, 147, 221, false}, {255, 0, 0, true}};
 
 // Groups of the cells of the title box, from left to right or from the top.
 constexpr int kStripGroup[kStripCells] = {7, 7,        0,        0, 0,        kNoGroup, 1, 1,        1, 4, 4,
@@ -45,33 +44,6 @@ constexpr int kStripGroup[kStripCells] = {7, 7,        0,        0, 0,        kN
                                           5, 5,        kNoGroup, 4, kNoGroup, 4,        4, kNoGroup, 3, 3};
 constexpr int kColumnGroupA[kColumnCells] = {4, 4, kNoGroup, 0, 0};
 constexpr int kColumnGroupB[kColumnCells] = {0, 0, kNoGroup, 1, 1};
-
-enum class Cost { White, Black, Yellow, Unset };
-
-// A run of spaces that look alike.
-struct SpaceKind {
-    const char* sType;
-    int iGroup;
-    Cost cost;
-};
-constexpr SpaceKind kUtility{"U", kNoGroup, Cost::Unset};
-// Only the first letter counts; the rest is how it was always stored.
-constexpr SpaceKind kNews{"N    'News", kNoGroup, Cost::Unset};
-constexpr SpaceKind kLotto{"L", kNoGroup, Cost::Yellow};
-constexpr SpaceKind kGroup0{"P", 0, Cost::White};
-constexpr SpaceKind kGroup1{"P", 1, Cost::White};
-constexpr SpaceKind kGroup2{"P", 2, Cost::White};
-constexpr SpaceKind kGroup3{"P", 3, Cost::White};
-constexpr SpaceKind kGroup4{"P", 4, Cost::Black};
-constexpr SpaceKind kGroup5{"P", 5, Cost::White};
-constexpr SpaceKind kGroup6{"P", 6, Cost::Black};
-constexpr SpaceKind kGroup7{"P", 7, Cost::White};
-constexpr SpaceKind kSpaceKind[kSpacesOnBoard] = {
-    kGroup0, kUtility, kGroup0, kNews,  kGroup1, kGroup1,  kGroup1, // bottom, right to left
-    kGroup2, kGroup2,  kGroup2, kLotto, kGroup3, kGroup3,  kGroup3, // left, upward
-    kGroup4, kGroup4,  kGroup4, kNews,  kGroup5, kGroup5,  kGroup5, // top, left to right
-    kGroup6, kGroup6,  kGroup6, kLotto, kGroup7, kUtility, kGroup7, // right, downward
-};
 
 struct SideRow {
     int iGroup;
@@ -159,24 +131,29 @@ void PlaceImageOfSpace(int iSide, const BoardRect& rect, C_Image& image) {
     }
 }
 
-void ColorSpace(C_Space& space, const SpaceKind& kind) {
-    space.SpaceType = QString::fromLatin1(kind.sType);
-    space.SpaceColor = GroupColor(kind.iGroup);
-    switch (kind.cost) {
-        case Cost::White:
-            space.CostColor = Color::White();
-            break;
-        case Cost::Black:
-            space.CostColor = Color::Black();
-            break;
-        case Cost::Yellow:
-            space.CostColor = Color::Rgb(255, 255, 0);
-            space.SpaceColor = Color::Black();
-            space.Cost = QStringLiteral("PLAY LOTTO");
-            break;
-        case Cost::Unset:
-            break;
+// Only the first letter counts; the rest is how it was always stored.
+const char* TypeOf(SpaceKind kind) {
+    switch (kind) {
+        case SpaceKind::Utility:
+            return "U";
+        case SpaceKind::News:
+            return "N    'News";
+        case SpaceKind::Lotto:
+            return "L";
+        default:
+            return "P";
     }
+}
+
+void ColorSpace(C_Space& space, const BoardFacts::Space& facts) {
+    space.SpaceType = QString::fromLatin1(TypeOf(facts.kind));
+    space.SpaceColor = GroupColor(facts.iGroup);
+    if (facts.kind == SpaceKind::Property)
+        space.CostColor = kGroupLook[facts.iGroup].bWhiteCost ? Color::White() : Color::Black();
+    if (facts.kind != SpaceKind::Lotto) return;
+    space.CostColor = Color::Rgb(255, 255, 0);
+    space.SpaceColor = Color::Black();
+    space.Cost = QStringLiteral("PLAY LOTTO");
 }
 
 BoardPoint SideTextAnchor(int iSide, const BoardRect& rect) {
@@ -219,7 +196,7 @@ void InitTitleWord(CenterTextLook& look, float fAnchorOfWidth, float fLimitOfWid
 
 void PosInitColor() try {
     for (int i = 0; i < kPropColors; ++i)
-        m_lPropColor(i) = kPropColorRow[i].Value();
+        m_lPropColor(i) = kGroupLook[i].Value();
     for (int i = 0; i < kStripCells; ++i)
         m_lStripColor(i) = GroupColor(kStripGroup[i]);
     for (int i = 0; i < kColumnCells; ++i) {
@@ -257,7 +234,7 @@ void PosInitSpace() try {
         m_SpaceRect(iSpace, SpacePart::Band) = BandOf(iSide, rect);
         C_Space& space = basTAVL::g_oSpaces(iSpace);
         PlaceImageOfSpace(iSide, rect, space.Image);
-        ColorSpace(space, kSpaceKind[iSpace]);
+        ColorSpace(space, BoardFacts::kTable[size_t(iSpace)]);
     }
 } catch (...) {
     ErrTail("basPosit!", "PosInitSpace");

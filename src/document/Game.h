@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "document/BoardFacts.h"
 #include "document/C_Corner.h"
 #include "document/C_Money.h"
 #include "document/C_News.h"
@@ -12,10 +13,10 @@
 
 namespace basTAVL {
 
-constexpr int kSpaces = 28;
-constexpr int kSpacesPerSide = 7;
-constexpr int kSides = 4;
-constexpr int kCorners = 4;
+constexpr int kSpaces = BoardFacts::kSpaces;
+constexpr int kSpacesPerSide = BoardFacts::kSpacesPerSide;
+constexpr int kSides = BoardFacts::kSides;
+constexpr int kCorners = BoardFacts::kCorners;
 constexpr int kNewsSets = 2;
 constexpr int kCards = 12;
 constexpr int kMoney = 4;

@@ -88,8 +88,8 @@ bool PrintCards(SheetJob& job, clsRenderDestination& destination, int iSheet) {
         const int lX = CLng((p % kColumns * kCardSide + kFirstX) * destination.DPI());
         const int lY = CLng((iRow * kCardSide + kFirstY) * destination.DPI());
         const int space = kSpaceOnSheet[iSheet - 1][p];
-        const bool printed = IsUtility(space) ? DeedCardTrans(destination, space, lX, lY, true)
-                                              : DeedCardProp(destination, space, lX, lY, true);
+        const bool printed = BoardFacts::IsUtility(space) ? DeedCardTrans(destination, space, lX, lY, true)
+                                                          : DeedCardProp(destination, space, lX, lY, true);
         whole = whole && printed;
     }
     return whole;

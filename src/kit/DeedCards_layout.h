@@ -15,9 +15,6 @@ constexpr double kPenInches = 1.0 / 32;
 constexpr InchBox kSideBand{0.125, 0.125, 2.25, 0.125};
 constexpr InchBox kPriceBand{0.125, 0.25, 2.25, 0.5};
 
-/// The two spaces whose deed is that of a utility.
-constexpr bool IsUtility(int iDeed) { return iDeed == 1 || iDeed == 26; }
-
 QString SideFile(int iSide);
 void TellNoDeeds();
 /// An outline in the ink of the game, as wide as the surface's pen.

@@ -97,7 +97,7 @@ private:
 };
 
 QString LabelOf(const RentRow& row, int iDeed) {
-    if (DeedLayout::IsUtility(iDeed)) return QString::fromLatin1(row.sUtility);
+    if (BoardFacts::IsUtility(iDeed)) return QString::fromLatin1(row.sUtility);
     const bool kit8 = basTAVL::g_sGameVersion() == QStringLiteral("8");
     return QString::fromLatin1(kit8 ? row.sProperty : row.sOlderKits);
 }
@@ -159,7 +159,7 @@ void DeedTextRent(clsRenderDestination& destination, int iDeed, int lX, int lY, 
 
 bool DeedTextTitle(clsRenderDestination& destination, int iDeed, int lX, int lY) try {
     const C_Space& space = basTAVL::g_oSpaces(iDeed);
-    const TitleBox& title = DeedLayout::IsUtility(iDeed) ? kTitleOfUtility : kTitleOfProperty;
+    const TitleBox& title = BoardFacts::IsUtility(iDeed) ? kTitleOfUtility : kTitleOfProperty;
     const QString file = MadePicture::PathOf(QStringLiteral("TempDeedBMP%1.temp").arg(iDeed));
     if (!frmBMP::Instance().GenerateTextImage(file, title.box.width, title.box.height, TitleLines(space.TextAll()),
                                               space.Font.Family, space.Font.Bold, space.Font.Italic, title.line,

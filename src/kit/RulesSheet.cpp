@@ -8,9 +8,6 @@
 
 namespace {
 
-constexpr int kGoodNewsSpace = 3;
-constexpr int kBadNewsSpace = 17;
-
 QString SpaceName(int iSpace) { return basTAVL::CRLF2Space(basTAVL::g_oSpaces(iSpace).TextAll()); }
 QString CornerName(int iCorner) { return basTAVL::CRLF2Space(basTAVL::g_oCorners(iCorner).TextAll(0)); }
 
@@ -20,8 +17,8 @@ InstructionNames NamesOfGame() {
     // The game's own word follows the title directly, as on the board.
     const QString title = basPosit::m_CenterText(1).sText + basPosit::m_CenterText(0).sText;
     return {basTAVL::CRLF2Space(title),
-            SpaceName(kGoodNewsSpace),
-            SpaceName(kBadNewsSpace),
+            SpaceName(BoardFacts::kNewsSpaces[0]),
+            SpaceName(BoardFacts::kNewsSpaces[1]),
             CornerName(0),
             CornerName(1),
             CornerName(2),

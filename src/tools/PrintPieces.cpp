@@ -73,14 +73,12 @@ void AddTitles(QList<PrintPiece>& pieces) {
     pieces.append({QStringLiteral("BmpTitleStretched"), MakeStretchedTitle});
 }
 
-bool IsProperty(int iSpace) { return basTAVL::g_oSpaces(iSpace).SpaceType.startsWith(u'P'); }
-
 void AddBandsAndHeads(QList<PrintPiece>& pieces) {
     for (int i = 0; i < basPosit::kSidesOfBoard; ++i)
         pieces.append(
             {QStringLiteral("Side%1Image").arg(i), [i](QString& sFile) { return DeedSideColorBitmap(i, sFile); }});
     for (int i = 0; i < basTAVL::kSpaces; ++i) {
-        if (IsProperty(i))
+        if (BoardFacts::IsProperty(i))
             pieces.append(
                 {QStringLiteral("Rent%1Image").arg(i), [i](QString& sFile) { return DeedGroupColorBitmap(i, sFile); }});
     }

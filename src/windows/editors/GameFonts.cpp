@@ -7,7 +7,6 @@
 namespace GameFonts {
 
 void GiveToAllBut(const C_FontInfo& font, int iSpace, int iCorner) try {
-    constexpr int kFixedCorner = 3;
     constexpr int kBlock = 0;
     for (int i = 0; i < basTAVL::kSpaces; ++i) {
         if (i == iSpace) continue;
@@ -15,8 +14,8 @@ void GiveToAllBut(const C_FontInfo& font, int iSpace, int iCorner) try {
         space.Font.LoadFromObject(font);
         space.SetText(TextLines::kUseExisting);
     }
-    for (int i = 0; i < kFixedCorner; ++i) {
-        if (i == iCorner) continue;
+    for (int i = 0; i < basTAVL::kCorners; ++i) {
+        if (i == iCorner || i == BoardFacts::kFateCorner) continue;
         C_Corner& corner = basTAVL::g_oCorners(i);
         corner.Font.LoadFromObject(font);
         corner.SetText(kBlock, TextLines::kUseExisting);
