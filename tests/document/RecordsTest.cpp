@@ -49,9 +49,14 @@ TEST_F(RecordsTest, Edge_TextSizeIsTheSmallerOfFontAndFit) {
 TEST_F(RecordsTest, Edge_WritingTheSecondBlocksSizeOfACornerChangesTheFirst) {
     C_Corner corner;
     UseLargeFont(corner.Font);
+    corner.m_fTextSize0 = 0.01F;
+    corner.m_fTextSize1 = 0.03F;
     corner.Let_TextSize(1, 0.02F);
     EXPECT_FLOAT_EQ(corner.TextSize(0), 0.02F);
-    EXPECT_FLOAT_EQ(corner.TextSize(1), 0.0F);
+    EXPECT_FLOAT_EQ(corner.TextSize(1), 0.03F);
+    corner.Let_TextSize(0, 0.04F);
+    EXPECT_FLOAT_EQ(corner.TextSize(0), 0.04F);
+    EXPECT_FLOAT_EQ(corner.TextSize(1), 0.03F);
 }
 
 TEST_F(RecordsTest, Edge_SpacesThatDifferInASlotBehindTheTextCompareAsDifferent) {
