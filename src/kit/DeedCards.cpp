@@ -51,7 +51,6 @@ constexpr Ornament kOrnaments[] = {
 };
 
 constexpr int kProgressBefore = 40;
-constexpr int kProgressDone = -1;
 
 // The wide pen has to be chosen after this: the cut line leaves one of a dot.
 void CutLine(Surface& surface, const PiecePlace& place) {
@@ -109,10 +108,15 @@ bool PrintDeeds(SheetJob& job, int iSheet) try {
     const bool whole = PrintCards(job, destination, iSheet);
     for (const QString& band : bands)
         MadePicture::Delete(band);
-    job.Progress(kProgressDone);
+    job.Progress(SheetJob::kDone);
     return whole;
 } catch (...) {
     ErrTail("frmTavlPrint!", "PrintDeeds", iSheet);
+}
+
+template <>
+bool PaintSheet<class DeedSheet>(SheetJob& job, int iWhich) {
+    return PrintDeeds(job, iWhich);
 }
 
 bool DeedCardProp(clsRenderDestination& destination, int iDeed, int lX, int lY, bool bColor) try {
@@ -131,7 +135,7 @@ bool DeedCardProp(clsRenderDestination& destination, int iDeed, int lX, int lY, 
     MadePicture::Delete(price);
     return whole;
 } catch (...) {
-    ErrTail("frmTavlPrint!", "DeedCardProp", iDeed, lX, lY, bColor);
+    ErrTail("clsRenderDestination!", "DeedCardProp", iDeed, lX, lY, bColor);
 }
 
 bool DeedCardTrans(clsRenderDestination& destination, int iDeed, int lX, int lY, bool bColor) try {
@@ -145,5 +149,5 @@ bool DeedCardTrans(clsRenderDestination& destination, int iDeed, int lX, int lY,
     DeedTextValue(destination, iDeed, lX, lY);
     return DeedTextTitle(destination, iDeed, lX, lY);
 } catch (...) {
-    ErrTail("frmTavlPrint!", "DeedCardTrans", iDeed, lX, lY, bColor);
+    ErrTail("clsRenderDestination!", "DeedCardTrans", iDeed, lX, lY, bColor);
 }

@@ -68,7 +68,7 @@ bool DeedSideColorBitmap(int iSide, QString& sPath) try {
     sPath = DeedLayout::SideFile(iSide);
     return MakeSideBand(iSide, kSidePicture);
 } catch (...) {
-    ErrTail("frmTavlPrint!", "DeedSideColorBitmap", iSide);
+    ErrTail("clsRenderDestination!", "DeedSideColorBitmap", iSide);
 }
 
 bool DeedGroupColorBitmap(int iDeed, QString& sPath) try {
@@ -76,7 +76,7 @@ bool DeedGroupColorBitmap(int iDeed, QString& sPath) try {
     const QString price = basTAVL::g_vCurrencySign() + WithThousands(basPosit::m_Rent(iDeed).Cost);
     return MakeGroupBand(iDeed, kPricePicture, price);
 } catch (...) {
-    ErrTail("frmTavlPrint!", "DeedGroupColorBitmap", iDeed);
+    ErrTail("clsRenderDestination!", "DeedGroupColorBitmap", iDeed);
 }
 
 bool DeedTextInColor(clsRenderDestination& destination, int iDeed, int lX, int lY) try {
@@ -95,5 +95,5 @@ bool DeedTextInColor(clsRenderDestination& destination, int iDeed, int lX, int l
     MadePicture::Delete(PriceFile(iDeed));
     return true;
 } catch (...) {
-    ErrTail("frmTavlPrint!", "DeedTextInColor", iDeed, lX, lY);
+    ErrTail("clsRenderDestination!", "DeedTextInColor", iDeed, lX, lY);
 }

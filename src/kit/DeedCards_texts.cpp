@@ -154,7 +154,7 @@ void DeedTextRent(clsRenderDestination& destination, int iDeed, int lX, int lY, 
                         WithThousands(basPosit::m_Rent(iDeed).Extra),
                     lTop);
 } catch (...) {
-    ErrTail("frmTavlPrint!", "DeedTextRent", iDeed, lX, lY, sngTop);
+    ErrTail("clsRenderDestination!", "DeedTextRent", iDeed, lX, lY, sngTop);
 }
 
 bool DeedTextTitle(clsRenderDestination& destination, int iDeed, int lX, int lY) try {
@@ -172,7 +172,7 @@ bool DeedTextTitle(clsRenderDestination& destination, int iDeed, int lX, int lY)
     MadePicture::Delete(file);
     return true;
 } catch (...) {
-    ErrTail("frmTavlPrint!", "DeedTextTitle", iDeed, lX, lY);
+    ErrTail("clsRenderDestination!", "DeedTextTitle", iDeed, lX, lY);
 }
 
 void DeedTextValue(clsRenderDestination& destination, int iDeed, int lX, int lY) try {
@@ -182,5 +182,5 @@ void DeedTextValue(clsRenderDestination& destination, int iDeed, int lX, int lY)
     writer.Centered(QStringLiteral("UTILITY"), kKind);
     writer.Centered(QStringLiteral("DEED"), kDeed);
 } catch (...) {
-    ErrTail("frmTavlPrint!", "DeedTextValue", iDeed, lX, lY);
+    ErrTail("clsRenderDestination!", "DeedTextValue", iDeed, lX, lY);
 }

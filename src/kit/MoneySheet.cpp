@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "kit/MoneySheet.h"
-
+// A sheet of banknotes: ten of one denomination (0 to 3), all from one picture.
 #include "document/basTAVL.h"
 #include "drawing/basDraw.h"
+#include "kit/SheetJob.h"
 #include "pieces/frmBMP.h"
 #include "pieces/MadePicture.h"
 #include "platform/Desktop.h"
+#include "platform/LoadPicture.h"
 #include "platform/Numbers.h"
-#include "platform/Picture.h"
 #include "platform/Printer.h"
 #include "services/basErrLog.h"
 
@@ -24,18 +24,23 @@ constexpr double kFirstY = 0.125;
 
 } // namespace
 
-bool MakeMoneyImage(int iMoney, QString& sPath) try {
+template <>
+bool PrepareSheet<class MoneySheet>(SheetJob& job, int iWhich) {
     // Told here, once, if the user's picture can't be had; the note is then printed without it.
-    basTAVL::g_oMoney(iMoney).FaceImage.GetThumbnail(false);
-    sPath = MadePicture::PathOf(QStringLiteral("MoneyImage.bmp"));
-    if (frmBMP::Instance().GenerateMoneyImage(sPath, iMoney)) return true;
-    MsgBox(QStringLiteral("Unable to create Money Image. Money will not be printed."));
-    return false;
-} catch (...) {
-    ErrTail("frmTavlPrint!", "MakeMoneyImage", iMoney);
+    basTAVL::g_oMoney(iWhich).FaceImage.GetThumbnail(false);
+    const QString path = MadePicture::PathOf(QStringLiteral("MoneyImage.bmp"));
+    if (!frmBMP::Instance().GenerateMoneyImage(path, iWhich)) {
+        MsgBox(QStringLiteral("Unable to create Money Image. Money will not be printed."));
+        return false;
+    }
+    QString error;
+    job.prepared = LoadPicture(path, error);
+    if (job.prepared.IsNull()) ErrRaise(ErrNumber::kInvalidPicture, error);
+    return true;
 }
 
-void PrintMoneySheet(SheetJob& job, int iMoney, const Picture& picture, int iCopy, int nCopies) try {
+template <>
+bool PaintSheet<class MoneySheet>(SheetJob& job, int iWhich) {
     double dblDPI = 0;
     double dblRatio = 0;
     basDraw::Draw_GetDPIandPrinterSizeRatio(job.printer, dblDPI, dblRatio, 1.0);
@@ -43,13 +48,12 @@ void PrintMoneySheet(SheetJob& job, int iMoney, const Picture& picture, int iCop
     const int lH = CLng(kNoteHeight * dblDPI);
     for (int i = 0; i < kNotes; ++i) {
         job.Piece("Note", i + 1, kNotes);
-        job.Progress(CLng(iCopy * 1000.0 / nCopies + i * 100.0 / nCopies));
+        job.Progress(CLng(job.iCopy * 1000.0 / job.nCopies + i * 100.0 / job.nCopies));
         const int iRow = i / kColumns;
         const int lX = CLng((i % kColumns * kNoteWidth + kFirstX) * dblDPI);
         const int lY = CLng((iRow * kNoteHeight + kFirstY) * dblDPI);
-        job.printer.PaintPicture(picture, lX, lY, lW, lH);
-        basTAVL::g_oMoney(iMoney).DrawMoney(job.printer, dblDPI, lX, lY, false, false, true);
+        job.printer.PaintPicture(job.prepared, lX, lY, lW, lH);
+        basTAVL::g_oMoney(iWhich).DrawMoney(job.printer, dblDPI, lX, lY, false, false, true);
     }
-} catch (...) {
-    ErrTail("frmTavlPrint!", "PrintMoneySheet", iMoney, iCopy, nCopies);
+    return true;
 }

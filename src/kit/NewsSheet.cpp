@@ -5,6 +5,7 @@
 #include "board/basTAVL_news.h"
 #include "document/basTAVL.h"
 #include "drawing/DrawDottedBox.h"
+#include "kit/SheetJob.h"
 #include "pieces/frmBMP.h"
 #include "pieces/MadePicture.h"
 #include "platform/Desktop.h"
@@ -32,12 +33,12 @@ constexpr InchBox kText{0.125, 0.52, 2.75, 1.0};
 // Inches of nominal size for each point that the user chose.
 constexpr double kInchesPerPoint = 0.0118;
 
-void DrawFrame(Surface& surface, const PiecePlace& place, int iDeck) {
+void DrawFrame(Surface& surface, const PiecePlace& place, bool bFilled) {
     const QRect box = place.Box(kFrame);
     const auto draw = [&](LineForm form) {
         surface.Line(box.x(), box.y(), box.x() + box.width(), box.y() + box.height(), basTAVL::g_lPrintBlack(), form);
     };
-    if (iDeck == kBadNews) draw(LineForm::FilledBox);
+    if (bFilled) draw(LineForm::FilledBox);
     draw(LineForm::Box);
 }
 
@@ -55,7 +56,8 @@ void PrintText(clsRenderDestination& destination, const PiecePlace& place, const
 
 } // namespace
 
-bool PrintNewsSheet(SheetJob& job, int iDeck) try {
+template <>
+bool PaintSheet<class NewsSheet>(SheetJob& job, int iWhich) {
     clsRenderDestination destination;
     destination.Init(job.printer, 1.0);
     bool whole = true;
@@ -65,12 +67,10 @@ bool PrintNewsSheet(SheetJob& job, int iDeck) try {
         const int iRow = i / kColumns;
         const int lX = CLng((i % kColumns * kCardWidth + kFirst) * destination.DPI());
         const int lY = CLng((iRow * kCardHeight + kFirst) * destination.DPI());
-        const bool printed = NewsRender(destination, lX, lY, iDeck, i);
+        const bool printed = NewsRender(destination, lX, lY, iWhich, i);
         whole = whole && printed;
     }
     return whole;
-} catch (...) {
-    ErrTail("frmTavlPrint!", "PrintNewsSheet", iDeck);
 }
 
 bool NewsRender(clsRenderDestination& destination, int lX, int lY, int iDeck, int iCard) try {
@@ -82,21 +82,22 @@ bool NewsRender(clsRenderDestination& destination, int lX, int lY, int iDeck, in
     surface.DrawWidth = place.Length(kPenInches);
 
     QString file;
+    const bool bad = iDeck == kBadNews;
     if (!NewsHeadBitmap(iDeck, news.FontHead, file)) {
-        MsgBox(iDeck == kBadNews ? QStringLiteral("Cannot create bad news card bitmap.")
-                                 : QStringLiteral("Cannot create good news card bitmap."));
+        MsgBox(bad ? QStringLiteral("Cannot create bad news card bitmap.")
+                   : QStringLiteral("Cannot create good news card bitmap."));
         return false;
     }
-    DrawFrame(surface, place, iDeck);
+    DrawFrame(surface, place, bad);
     MadePicture::Paint(surface, file, place.Box(kHead));
     PrintText(destination, place, news);
     MadePicture::Delete(file);
     return true;
 } catch (...) {
-    ErrTail("frmTavlPrint!", "NewsRender", lX, lY, iDeck, iCard);
+    ErrTail("clsRenderDestination!", "NewsRender", lX, lY, iDeck, iCard);
 }
 
-bool NewsHeadBitmap(int iDeck, const C_FontInfo& oFont, QString& sPath) try {
+bool NewsHeadBitmap(int iDeck, const C_FontInfo& oFont, QString& sPath) {
     sPath = MadePicture::PathOf(QStringLiteral("TempNewsBMP%1.temp").arg(iDeck));
     Color ink = basTAVL::g_lPrintBlack();
     Color ground = Color::White();
@@ -104,6 +105,4 @@ bool NewsHeadBitmap(int iDeck, const C_FontInfo& oFont, QString& sPath) try {
     const QString& title = basPosit::m_CenterText(basTAVL::NewsTitleRecord(iDeck)).sText;
     return frmBMP::Instance().GenerateSingleLineImage(sPath, kFrame.width, kFrame.height, title, oFont.Family,
                                                       oFont.Bold, oFont.Italic, ink, ground);
-} catch (...) {
-    ErrTail("frmTavlPrint!", "NewsHeadBitmap", iDeck);
 }

@@ -1,19 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "kit/SheetJob.h"
-
 #include <QString>
 
 class C_FontInfo;
 class clsRenderDestination;
 
-/// Prints the twelve cards of a deck (0 Good News, 1 Bad News) on a page that the caller has set upright,
-/// without ending the document. False when a card isn't whole; the reason has then been told.
-bool PrintNewsSheet(SheetJob& job, int iDeck);
-
-/// A card, 3 by 1.62 inches, with its top left in the given pixel. Where its head can't be made a box says so,
-/// the card ends there and the answer is false.
+/// A card of a deck (0 Good News, 1 Bad News), 3 by 1.62 inches, with its top left in the given pixel. Where its head
+/// can't be made a box says so, the card ends there and the answer is false.
 bool NewsRender(clsRenderDestination& destination, int lX, int lY, int iDeck, int iCard);
 
 /// Writes the picture of a deck's title: white on black for Bad News. Its file is named in sPath. False when

@@ -1,18 +1,17 @@
 // SPDX-License-Identifier: MIT
-#include "kit/RulesSheet.h"
-
+// The rules, with what the game calls itself, its news spaces and its corners.
 #include "board/basPositTables.h"
 #include "document/basTAVL.h"
+#include "kit/SheetJob.h"
 #include "platform/Printer.h"
-#include "services/basErrLog.h"
+#include "render/clsRenderDestination.h"
 
 namespace {
 
 QString SpaceName(int iSpace) { return basTAVL::CRLF2Space(basTAVL::g_oSpaces(iSpace).TextAll()); }
 QString CornerName(int iCorner) { return basTAVL::CRLF2Space(basTAVL::g_oCorners(iCorner).TextAll(0)); }
 
-} // namespace
-
+// The texts of the game in memory, each on one line.
 InstructionNames NamesOfGame() {
     // The game's own word follows the title directly, as on the board.
     const QString title = basPosit::m_CenterText(1).sText + basPosit::m_CenterText(0).sText;
@@ -25,12 +24,13 @@ InstructionNames NamesOfGame() {
             CornerName(3)};
 }
 
-bool PrintRulesSheet(SheetJob& job) try {
+} // namespace
+
+template <>
+bool PaintSheet<class RulesSheet>(SheetJob& job, int) {
     // The sheet before this one may have left its own.
     job.printer.ForeColor = basTAVL::g_lPrintBlack();
     clsRenderDestination destination;
     destination.Init(job.printer, 1.0);
     return destination.InstructionSheet(NamesOfGame());
-} catch (...) {
-    ErrTail("frmTavlPrint!", "PrintRulesSheet");
 }

@@ -13,13 +13,11 @@ namespace MadePicture {
 
 QString PathOf(const QString& sName) { return basCommon::JoinPath(basCommon::GetMyGamesDirectory(), sName); }
 
-void Paint(Surface& surface, const QString& sFile, const QRect& box) try {
+void Paint(Surface& surface, const QString& sFile, const QRect& box) {
     QString error;
     const Picture picture = LoadPicture(sFile, error);
     if (picture.IsNull()) ErrRaise(ErrNumber::kInvalidPicture, error);
     surface.PaintPicture(picture, box.x(), box.y(), box.width(), box.height());
-} catch (...) {
-    ErrTail("MadePicture!", "Paint", surface, sFile);
 }
 
 void Delete(const QString& sFile) {

@@ -5,7 +5,6 @@
 #include "document/basTAVL.h"
 #include "pieces/frmBMP.h"
 #include "pieces/MadePicture.h"
-#include "services/basErrLog.h"
 
 namespace TitlePictures {
 namespace {
@@ -35,7 +34,7 @@ constexpr Layout kLayouts[kCount] = {
 
 QString FileOf(Title title) { return MadePicture::PathOf(QString::fromLatin1(kLayouts[title].sFile)); }
 
-bool Make(Title title) try {
+bool Make(Title title) {
     const Layout& layout = kLayouts[title];
     const QString family = QString::fromLatin1(layout.sFamily);
     const bool style = layout.bBoldItalic;
@@ -49,8 +48,6 @@ bool Make(Title title) try {
     }
     return frmBMP::Instance().GenerateSingleLineImage(FileOf(title), layout.dblWidth, layout.dblHeight, record.sText,
                                                       family, style, style, fore, back);
-} catch (...) {
-    ErrTail("TitlePictures!", "Make", int(title));
 }
 
 } // namespace TitlePictures

@@ -120,7 +120,7 @@ void frmBMP::CreateThumbElliptical(C_Image& oImage, bool bGray) try {
     ErrTail("frmBMP!", "CreateThumbElliptical", bGray);
 }
 
-Picture frmBMP::RenderRotated(C_Image& oImage, int lSide) try {
+Picture frmBMP::RenderRotated(C_Image& oImage, int lSide) {
     const Files::Stamp stamp = Files::StampOf(Files::InDiskSpelling(oImage.FullPath()));
     if (stamp == Files::Stamp()) return {};
     const auto look = [&oImage, lSide] {
@@ -138,8 +138,6 @@ Picture frmBMP::RenderRotated(C_Image& oImage, int lSide) try {
         DropOldRenderings();
     }
     return Picture(m_renderings.front().image);
-} catch (...) {
-    ErrTail("frmBMP!", "RenderRotated", oImage, lSide);
 }
 
 // Room for the 32 pictures of a board as large as a screen; at least the newest stays.

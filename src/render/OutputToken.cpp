@@ -39,5 +39,5 @@ void OutputToken(clsRenderDestination& destination, int iToken, double dblX, dou
     token.DrawText(box.left(), box.top(), lRight, lBottom, false, {});
     basDraw::Draw_ReleaseObjects();
 } catch (...) {
-    ErrTail("frmTavlPrint!", "OutputToken", iToken, dblX, dblY, dblSize);
+    ErrTail("clsRenderDestination!", "OutputToken", iToken, dblX, dblY, dblSize);
 }

@@ -3,7 +3,6 @@
 
 #include "platform/Numbers.h"
 #include "services/basCommon.h"
-#include "services/basErrLog.h"
 
 namespace PrintBlackAs {
 namespace {
@@ -15,28 +14,22 @@ constexpr int kHexadecimal = 16;
 
 } // namespace
 
-Color Read() try {
+Color Read() {
     const QString text = basCommon::GetIniString(kKey);
     const std::optional<double> value = ParseNumber(text);
     if (!text.isEmpty() && !value) basCommon::TellUnreadableSetting(kKey, text);
     return Color::FromValue(value ? CLng(*value) & kColorBits : kDefault);
-} catch (...) {
-    ErrTail("frmColor!", "Read");
 }
 
-void Write(Color color) try {
+void Write(Color color) {
     const QString digits =
         QStringLiteral("000000") + QString::number(color.Value() & kColorBits, kHexadecimal).toUpper();
     basCommon::WriteIniString(kKey, QStringLiteral("&H") + RightStr(digits, kDigits));
-} catch (...) {
-    ErrTail("frmColor!", "Write", color);
 }
 
-std::optional<Color> Chosen() try {
+std::optional<Color> Chosen() {
     const Color color = Read();
     return color == Color::FromValue(kDefault) ? std::nullopt : std::optional(color);
-} catch (...) {
-    ErrTail("frmColor!", "Chosen");
 }
 
 } // namespace PrintBlackAs

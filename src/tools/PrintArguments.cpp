@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/PrintArguments.h"
 
-#include "tools/PrintSheets.h"
+#include "kit/Sheets.h"
 
 namespace {
 
@@ -111,9 +111,9 @@ private:
     bool Sheets() {
         QString name;
         if (!Text(name)) return false;
-        if (!FindPrintSheet(name)) return Fail(QStringLiteral("there is no sheet '%1'; see --list").arg(name));
+        if (!FindSheet(name)) return Fail(QStringLiteral("there is no sheet '%1'; see --list").arg(name));
         m_arguments.sheets.append(name);
-        while (m_at < m_words.size() && FindPrintSheet(m_words.at(m_at)))
+        while (m_at < m_words.size() && FindSheet(m_words.at(m_at)))
             m_arguments.sheets.append(m_words.at(m_at++));
         return true;
     }

@@ -4,8 +4,10 @@
 #include "app/GameKit.h"
 #include "board/basPosit.h"
 #include "board/BoardPicture.h"
+#include "document/basTAVL.h"
 #include "game/GameFile.h"
 #include "game/GameSession.h"
+#include "kit/Sheets.h"
 #include "pieces/frmBMP.h"
 #include "platform/Console.h"
 #include "platform/Files.h"
@@ -17,7 +19,6 @@
 #include "tools/PrintArguments.h"
 #include "tools/PrintDesktop.h"
 #include "tools/PrintPieces.h"
-#include "tools/PrintSheets.h"
 
 #include <ostream>
 
@@ -25,10 +26,12 @@ namespace {
 
 // The program whose settings are read.
 const QString kProgramName = QStringLiteral("tavlora");
+// The sheets are listed and named as this kit has them.
+const QString kKitOfList = QStringLiteral("8");
 
 QStringList AllSheets() {
     QStringList names;
-    for (const PrintSheet& sheet : PrintSheets())
+    for (const Sheet& sheet : Sheets())
         names.append(QString::fromLatin1(sheet.sName));
     return names;
 }
@@ -81,11 +84,11 @@ void PrintCommand::List() {
     constexpr int kNameWidth = 11;
     constexpr int kTitleWidth = 38;
     constexpr int kStockWidth = 20;
-    for (const PrintSheet& sheet : PrintSheets()) {
-        const bool portrait = sheet.orientation == PageOrientation::Portrait;
+    for (const Sheet& sheet : Sheets()) {
+        const bool portrait = sheet.OrientationOf(kKitOfList) == PageOrientation::Portrait;
         m_out << QByteArray(sheet.sName).leftJustified(kNameWidth).constData()
-              << QByteArray(sheet.sTitle).leftJustified(kTitleWidth).constData()
-              << QByteArray(sheet.sStock).leftJustified(kStockWidth).constData()
+              << sheet.Title(kKitOfList).toUtf8().leftJustified(kTitleWidth).constData()
+              << QByteArray(sheet.paper->white.sStock).leftJustified(kStockWidth).constData()
               << (portrait ? "portrait" : "landscape") << '\n';
     }
 }
@@ -180,22 +183,32 @@ bool PrintCommand::WritePieces(const QString& sFolder) {
     return true;
 }
 
+bool PrintCommand::PrintOneSheet(Printer& printer, const Sheet& sheet, const QString& sTold) {
+    const QString& variant = basTAVL::g_sGameVersion();
+    if (const QString why = sheet.WhyLeftOut(variant); !why.isEmpty()) {
+        Complain(why);
+        return false;
+    }
+    printer.SetOrientation(sheet.OrientationOf(variant));
+    SheetJob job{printer, [this, sTold](int iThousandths) { Progress(sTold, iThousandths); }};
+    if (sheet.prepare && !sheet.prepare(job, sheet.iWhich)) return false;
+    if (!sheet.paint(job, sheet.iWhich)) return false;
+    printer.EndDoc();
+    return true;
+}
+
 int PrintCommand::PrintSheetsOf(const PrintArguments& arguments, const QStringList& sheets) {
     PdfPrinter printer(arguments.sOutput, TitleOf(arguments.sGame), arguments.bA4 ? QPageSize::A4 : QPageSize::Letter,
                        arguments.iDpi);
     int number = 0;
     for (const QString& name : sheets) {
-        const PrintSheet& sheet = *FindPrintSheet(name);
-        const QString told =
-            QStringLiteral("%1/%2 %3").arg(++number).arg(sheets.size()).arg(QString::fromLatin1(sheet.sTitle));
+        const Sheet& sheet = *FindSheet(name);
+        const QString told = QStringLiteral("%1/%2 %3").arg(++number).arg(sheets.size()).arg(sheet.Title(kKitOfList));
         Progress(told, 0);
-        printer.SetOrientation(sheet.orientation);
-        SheetJob job{printer, [this, told](int iThousandths) { Progress(told, iThousandths); }};
-        if (!sheet.print(job)) {
+        if (!PrintOneSheet(printer, sheet, told)) {
             EndProgress();
             return kFailed;
         }
-        printer.EndDoc();
     }
     EndProgress();
     QString error;

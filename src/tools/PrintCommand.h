@@ -5,7 +5,9 @@
 
 #include <iosfwd>
 
+class Printer;
 struct PrintArguments;
+struct Sheet;
 
 /// The work of tavlora-print: reads a game and prints it into files. It leaves nothing of the user's changed
 /// but the files it was asked for: settings are read only, and log and temporary files go to a folder that
@@ -24,6 +26,8 @@ public:
 private:
     int Carry(const PrintArguments& arguments);
     int PrintGame(const PrintArguments& arguments);
+    /// A page of the printer's; sTold is shown with its progress. False when it isn't whole, which has then been told.
+    bool PrintOneSheet(Printer& printer, const Sheet& sheet, const QString& sTold);
     int PrintSheetsOf(const PrintArguments& arguments, const QStringList& sheets);
     /// The board as a PNG file of so many pixels square.
     bool PaintBoard(const QString& sPath, int lSize);

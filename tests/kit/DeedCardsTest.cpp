@@ -239,7 +239,7 @@ TEST_F(DeedCardsTest, Edge_AnOrnamentMissingInBothFormsFailsInsteadOfLeavingABla
     } catch (const TavloraError& error) {
         EXPECT_TRUE(error.Description().contains(QStringLiteral("frmTavlPrint!PrintDeeds")))
             << error.Description().toStdString();
-        EXPECT_TRUE(error.Description().contains(QStringLiteral("frmTavlPrint!DeedCardTrans")))
+        EXPECT_TRUE(error.Description().contains(QStringLiteral("clsRenderDestination!DeedCardTrans")))
             << error.Description().toStdString();
     }
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The play money as a reader of the printed page finds it.
-#include "kit/MoneySheet.h"
-
+#include "kit/Sheets.h"
+#include "platform/PicturePrinter.h"
 #include "support/SheetFixture.h"
 
 namespace {
@@ -23,24 +23,19 @@ protected:
     }
 
     static QRectF NoteAt(int i) { return {i % 2 * 3.75 + 0.3, i / 2 * 2.0 + 0.125, 3.75, 2.0}; }
-    Picture MakePicture() {
-        QString path;
-        EXPECT_TRUE(MakeMoneyImage(1, path));
-        EXPECT_EQ(path, PathOf(QStringLiteral("games/MoneyImage.bmp")));
-        QString error;
-        const Picture picture = LoadPicture(path, error);
-        EXPECT_FALSE(picture.IsNull()) << qPrintable(error);
-        return picture;
-    }
-    bool PrintCopies(const Picture& picture, int nCopies) {
+    bool PrintCopies(int nCopies) {
         return Print([&](SheetJob& job) {
-            for (int copy = 0; copy < nCopies; ++copy) {
-                PrintMoneySheet(job, 1, picture, copy, nCopies);
-                if (copy + 1 < nCopies) job.printer.EndDoc();
+            EXPECT_TRUE(money500.prepare(job, money500.iWhich));
+            EXPECT_TRUE(QFile::exists(PathOf(QStringLiteral("games/MoneyImage.bmp"))));
+            job.nCopies = nCopies;
+            for (job.iCopy = 0; job.iCopy < nCopies; ++job.iCopy) {
+                if (!money500.paint(job, money500.iWhich)) return false;
+                if (job.iCopy + 1 < nCopies) job.printer.EndDoc();
             }
             return true;
         });
     }
+    const Sheet& money500 = *FindSheet(QStringLiteral("money500"));
     void ExpectNotes(int iPage) const {
         const QList<QRectF> left = reader.BoxesOf(iPage, QStringLiteral("Bank"));
         const QList<QRectF> right = reader.BoxesOf(iPage, QStringLiteral("Hundred"));
@@ -65,7 +60,7 @@ protected:
 
 TEST_F(MoneySheetTest, EveryNoteStandsAtItsPlaceAndTouchesItsNeighbours) {
     if (!PdfReader::IsInstalled()) GTEST_SKIP() << "poppler's tools are not installed";
-    ASSERT_TRUE(PrintCopies(MakePicture(), 1));
+    ASSERT_TRUE(PrintCopies(1));
     EXPECT_EQ(reader.PaperInches(1), QSizeF(8.5, 11));
     ExpectNotes(1);
     for (const double x : {4.03, 4.05, 4.07})
@@ -81,7 +76,7 @@ TEST_F(MoneySheetTest, Edge_SeveralCopiesMakeThePictureOnceAndRepeatThePage) {
         if (operation == Files::Operation::OpenWrite && sPath.endsWith(QStringLiteral("MoneyImage.bmp"))) ++written;
         return std::nullopt;
     });
-    ASSERT_TRUE(PrintCopies(MakePicture(), 3));
+    ASSERT_TRUE(PrintCopies(3));
     EXPECT_EQ(written, 1);
     ASSERT_EQ(reader.Pages(), 3);
     for (int page = 1; page <= 3; ++page)
@@ -97,7 +92,7 @@ TEST_F(MoneySheetTest, APhotoIsStoredOnceForAllNotes) {
     photo.fill(Qt::blue);
     photo.save(PathOf(QStringLiteral("photo.jpg")), "JPG");
     basTAVL::g_oMoney(1).FaceImage.Init(PathOf(QStringLiteral("photo.jpg")), QStringLiteral("Money"), 1);
-    ASSERT_TRUE(PrintCopies(MakePicture(), 1));
+    ASSERT_TRUE(PrintCopies(1));
     QSet<int> objects;
     for (const PdfReader::StoredImage& image : reader.Images(1))
         objects.insert(image.iObject);
@@ -112,20 +107,10 @@ TEST_F(MoneySheetTest, APhotoIsStoredOnceForAllNotes) {
 TEST_F(MoneySheetTest, APictureThatCannotBeMadeIsTold) {
     WriteFile(QStringLiteral("games/MoneyImage.bmp"), "in the way");
     RefuseToReplace(QStringLiteral("MoneyImage.bmp"));
-    QString path;
-    EXPECT_FALSE(MakeMoneyImage(2, path));
+    PicturePrinter page(60);
+    SheetJob job{page};
+    EXPECT_FALSE(money500.prepare(job, 2));
     EXPECT_EQ(desktop.boxes.last().sText, QStringLiteral("Unable to create Money Image. Money will not be printed."));
-}
-
-TEST_F(MoneySheetTest, FailuresAreOnTheStackOfTheConsole) {
-    QString path;
-    try {
-        MakeMoneyImage(4, path);
-        FAIL() << "nothing was raised";
-    } catch (const TavloraError& error) {
-        EXPECT_TRUE(error.Description().contains(QStringLiteral("frmTavlPrint!MakeMoneyImage(4)")))
-            << error.Description().toStdString();
-    }
 }
 
 } // namespace

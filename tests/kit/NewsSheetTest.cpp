@@ -3,6 +3,7 @@
 #include "kit/NewsSheet.h"
 
 #include "board/basPositFit.h"
+#include "kit/Sheets.h"
 #include "platform/Numbers.h"
 #include "render/clsRenderDestination.h"
 #include "support/SheetFixture.h"
@@ -28,7 +29,7 @@ protected:
     }
 
     bool PrintDeck(int iDeck) {
-        return Print([iDeck](SheetJob& job) { return PrintNewsSheet(job, iDeck); });
+        return Print([iDeck](SheetJob& job) { return FindSheet(QStringLiteral("good"))->paint(job, iDeck); });
     }
     // One card alone, an inch from the top and the left.
     bool PrintCard(int iDeck) {
@@ -121,7 +122,7 @@ TEST_F(NewsSheetTest, GoodNewsAfterBadIsNotWrittenInWhite) {
     if (!PdfReader::IsInstalled()) GTEST_SKIP() << "poppler's tools are not installed";
     ASSERT_TRUE(Print([](SheetJob& job) {
         job.printer.ForeColor = Color::White();
-        return PrintNewsSheet(job, kGood);
+        return FindSheet(QStringLiteral("good"))->paint(job, kGood);
     }));
     EXPECT_FALSE(reader.InkBox(1, {0.4, 0.8, 2.7, 0.95}).isEmpty());
 }
@@ -147,14 +148,15 @@ TEST_F(NewsSheetTest, AHeadThatCannotBeMadeIsToldAndEndsItsCard) {
     }
 }
 
-TEST_F(NewsSheetTest, FailuresAreOnTheStackOfTheConsole) {
+TEST_F(NewsSheetTest, FailuresAreOnTheStackWithTheirArguments) {
     PdfPrinter printer(pdf, QStringLiteral("cards"));
-    SheetJob job{printer};
+    clsRenderDestination destination;
+    destination.Init(printer, 1.0);
     try {
-        PrintNewsSheet(job, 2);
+        NewsRender(destination, 0, 1, 2, 3);
         FAIL() << "nothing was raised";
     } catch (const TavloraError& error) {
-        EXPECT_TRUE(error.Description().contains(QStringLiteral("frmTavlPrint!PrintNewsSheet(2)")))
+        EXPECT_TRUE(error.Description().contains(QStringLiteral("clsRenderDestination!NewsRender(0, 1, 2, 3)")))
             << error.Description().toStdString();
     }
 }

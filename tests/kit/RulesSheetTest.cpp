@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "kit/RulesSheet.h"
-
 #include "document/basTAVL.h"
+#include "kit/Sheets.h"
 #include "platform/Printer.h"
 #include "platform/ProgramSettings.h"
 #include "support/TestFixture.h"
@@ -13,6 +12,6 @@ TEST_F(RulesSheetTest, RulesAreBlackWhateverWasPrintedBefore) {
     PdfPrinter printer(PathOf(QStringLiteral("rules.pdf")), QStringLiteral("Rules"), QPageSize::Letter, 72);
     printer.ForeColor = Color::Rgb(0, 255, 0);
     SheetJob job{printer};
-    EXPECT_TRUE(PrintRulesSheet(job));
+    EXPECT_TRUE(FindSheet(QStringLiteral("rules"))->paint(job, 0));
     EXPECT_EQ(printer.ForeColor, basTAVL::g_lPrintBlack());
 }

@@ -2,6 +2,7 @@
 // Every word that stands in the print console, in the order of its controls.
 #include "ConsoleFixture.h"
 
+#include "support/ToldSheets.h"
 #include "windows/print/frmPrntPrep.h"
 
 #include <QGroupBox>
@@ -34,38 +35,14 @@ constexpr Row kAlike[] = {
     {"cmdNav_3", 0, "Good News or Bad News Cards", ""},
     {"cmdNav_4", 0, "Money", ""},
     {"cmdNav_5", 0, "Instruction Sheet", ""},
-    {"cmdPrint_2", 1, "Game Box Light Green Sheet", ""},
-    {"cmdPrint_4", 2, "Deed Card Label Sheet", "Click to print Deel Card Lable Sheet"},
-    {"cmdPrint_5", 3, "Good News Cards", ""},
-    {"cmdPrint_6", 3, "Bad News Cards", ""},
-    {"cmdPrint_7", 4, "$ 100", ""},
-    {"cmdPrint_8", 4, "$ 500", ""},
-    {"cmdPrint_9", 4, "$ 1,000", ""},
-    {"cmdPrint_10", 4, "$ 5,000", ""},
-    {"cmdPrint_11", 5, "Game Play Instruction Sheet",
-     "Once you have created your game, this gives you the rules for playing it."},
-    {"cmdPrint_12", 2, "Property Deed Sheet #1", "Click to begin printing Deed Card Sheet #1"},
-    {"cmdPrint_13", 2, "Property Deed Sheet #2", "Click to begin printing Deed Card Sheet #2"},
 };
 
-constexpr Row kOfKit8[] = {
-    {"cmdPrint_0", 1, "Box Top & Token Stickers", ""},
-    {"cmdPrint_1", 1, "West, South & Corner Board Stickers", ""},
-    {"cmdPrint_3", 1, "East, North & Title Board Stickers", ""},
-};
-
-constexpr Row kOfOtherKits[] = {
-    {"cmdPrint_0", 1, "Green  Box & Board Labels #1", ""},
-    {"cmdPrint_1", 1, "Green Game Board Labels #2", ""},
-    {"cmdPrint_3", 1, "Game  Box Red Sheet", ""},
-};
-
-struct Frame {
+struct ToldFrame {
     const char* caption;
     const char* label;
 };
 
-constexpr Frame kFrames[] = {
+constexpr ToldFrame kFrames[] = {
     {"What would you like to print?", "Please select the part of the game you would like to print:"},
     {"Which sheet would you like to print?", " Click below to print a label sheet:"},
     {"Which title sheet would you like to print?", "Select the sheet of cards you would like to print:"},
@@ -78,20 +55,41 @@ constexpr Frame kFrames[] = {
 } // namespace
 
 TEST_F(ConsoleTest, EveryButtonHasItsCaptionItsTipAndItsFrame) {
-    const auto expect = [this](std::span<const Row> rows) {
-        for (const Row& row : rows) {
-            const QAbstractButton& button = Button(row.control);
-            EXPECT_EQ(Plain(button.text()), QString::fromLatin1(row.caption)) << row.control;
-            EXPECT_EQ(button.toolTip(), QString::fromLatin1(row.toolTip)) << row.control;
-            const QString parent =
-                row.frame < 0 ? QStringLiteral("frmTavlPrint") : QStringLiteral("fraPrint_%1").arg(row.frame);
-            EXPECT_EQ(button.parentWidget()->objectName(), parent) << row.control;
-        }
+    const auto expect = [this](const char* control, int frame, const char* caption, const char* toolTip) {
+        const QAbstractButton& button = Button(control);
+        EXPECT_EQ(Plain(button.text()), QString::fromLatin1(caption)) << control;
+        EXPECT_EQ(button.toolTip(), QString::fromLatin1(toolTip)) << control;
+        const QString parent = frame < 0 ? QStringLiteral("frmTavlPrint") : QStringLiteral("fraPrint_%1").arg(frame);
+        EXPECT_EQ(button.parentWidget()->objectName(), parent) << control;
     };
     for (const char* kit : {"8", "5", "2", "2A"}) {
         Open(kit);
-        expect(kAlike);
-        expect(qstrcmp(kit, "8") == 0 ? kOfKit8 : kOfOtherKits);
+        for (const Row& row : kAlike)
+            expect(row.control, row.frame, row.caption, row.toolTip);
+        for (const ToldSheet& told : kToldSheets) {
+            if (told.frame < 0) continue;
+            expect(qPrintable(QStringLiteral("cmdPrint_%1").arg(told.button)), told.frame,
+                   qstrcmp(kit, "8") == 0 ? told.caption : told.captionOfOthers, told.toolTip);
+        }
+    }
+}
+
+TEST_F(ConsoleTest, EveryRowOfTheTableHasOneButtonInTheOrderOfTheTable) {
+    QMap<QString, QStringList> inFrames;
+    for (const std::span<const Sheet> table : {Sheets(), ButtonsWithoutSheet()}) {
+        for (const Sheet& sheet : table) {
+            if (!sheet.frame) continue;
+            inFrames[QStringLiteral("fraPrint_%1").arg(int(*sheet.frame))].append(
+                QStringLiteral("cmdPrint_%1").arg(sheet.iButton));
+        }
+    }
+    for (auto frame = inFrames.begin(); frame != inFrames.end(); ++frame) {
+        QStringList built;
+        for (const QAbstractButton* button :
+             Find<QGroupBox>(*console, qPrintable(frame.key())).findChildren<QAbstractButton*>()) {
+            if (button->objectName().startsWith(QStringLiteral("cmdPrint_"))) built.append(button->objectName());
+        }
+        EXPECT_EQ(built, frame.value()) << qPrintable(frame.key());
     }
 }
 

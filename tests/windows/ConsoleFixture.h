@@ -59,7 +59,7 @@ protected:
         ClickSheet(index);
     }
     void ClickSheet(int index) {
-        Click(*console, qPrintable(QStringLiteral("cmdNav_%1").arg(ConsoleSheets::FrameOf(index))));
+        Click(*console, qPrintable(QStringLiteral("cmdNav_%1").arg(int(*ConsoleSheets::SheetOf(index).frame))));
         Press(index);
     }
     void Press(int index) { Click(*console, qPrintable(QStringLiteral("cmdPrint_%1").arg(index))); }

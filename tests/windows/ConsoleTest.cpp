@@ -69,7 +69,7 @@ TEST_F(ConsoleTest, Edge_TheNumberOfSheetsIsClampedToOneToFive) {
         Print(kMoney100);
         EXPECT_EQ(printer.ended.size(), copies) << qPrintable(text);
     }
-    EXPECT_EQ(ConsoleSheets::Copies(kDeeds1, QStringLiteral("9")), 1) << "money only";
+    EXPECT_EQ(ConsoleSheets::Copies(ConsoleSheets::SheetOf(kDeeds1), QStringLiteral("9")), 1) << "money only";
 }
 
 TEST_F(ConsoleTest, Edge_SixMillionBytesAreEnoughForDeedsAndNotForMoney) {
@@ -213,25 +213,13 @@ TEST_F(ConsoleTest, ClosingTheQuestionPrintsNothing) {
 // ---- Jobs.
 
 TEST_F(ConsoleTest, EverySheetComesInItsOrientationUnderItsName) {
-    const QList<std::pair<int, QString>> sheets{{0, QStringLiteral("Ours - Box Top & Token Stickers")},
-                                                {1, QStringLiteral("Ours - West, South & Corner Board Stickers")},
-                                                {3, QStringLiteral("Ours - East, North & Title Board Stickers")},
-                                                {12, QStringLiteral("Ours - Property Deed Sheet #1")},
-                                                {13, QStringLiteral("Ours - Property Deed Sheet #2")},
-                                                {5, QStringLiteral("Ours - Good News Cards")},
-                                                {6, QStringLiteral("Ours - Bad News Cards")},
-                                                {7, QStringLiteral("Ours - $ 100")},
-                                                {8, QStringLiteral("Ours - $ 500")},
-                                                {9, QStringLiteral("Ours - $ 1,000")},
-                                                {10, QStringLiteral("Ours - $ 5,000")},
-                                                {11, QStringLiteral("Ours - Game Play Instruction Sheet")}};
-    for (const auto& [index, name] : sheets) {
+    const QString kit = QStringLiteral("8");
+    for (const Sheet& sheet : Sheets()) {
         printer.ended.clear();
         printer.orientations.clear();
-        Print(index);
-        EXPECT_EQ(printer.ended, QStringList{name});
-        const auto wanted = index <= 3 ? PageOrientation::Landscape : PageOrientation::Portrait;
-        EXPECT_EQ(printer.orientations, QList<PageOrientation>{wanted}) << index;
+        Print(sheet.iButton);
+        EXPECT_EQ(printer.ended, QStringList{QStringLiteral("Ours - ") + sheet.Title(kit)});
+        EXPECT_EQ(printer.orientations, QList<PageOrientation>{sheet.OrientationOf(kit)}) << sheet.sName;
     }
     EXPECT_TRUE(desktop.boxes.isEmpty()) << qPrintable(desktop.Texts().join(u'\n'));
     EXPECT_EQ(printer.killed, 0);

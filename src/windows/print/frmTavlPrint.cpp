@@ -5,9 +5,7 @@
 #include "document/GameHost.h"
 #include "drawing/basBMP.h"
 #include "kit/ConsoleSheets.h"
-#include "kit/MoneySheet.h"
 #include "platform/ElidedLabel.h"
-#include "platform/LoadPicture.h"
 #include "platform/PictureBox.h"
 #include "platform/Printer.h"
 #include "platform/Screen.h"
@@ -84,8 +82,8 @@ void frmTavlPrint::ShowDestination() {
 void frmTavlPrint::cmdNav_Click(int Index) try {
     for (QGroupBox* frame : fraPrint)
         frame->hide();
-    fraPrint.at(size_t(Index))->show();
-    for (QAbstractButton* button : fraPrint[size_t(Index)]->findChildren<QAbstractButton*>()) {
+    fraPrint.at(Index)->show();
+    for (QAbstractButton* button : fraPrint[Index]->findChildren<QAbstractButton*>()) {
         if (button->isHidden()) continue;
         button->setFocus();
         break;
@@ -109,9 +107,10 @@ void frmTavlPrint::cmdPrint_Click(int Index) try {
     m_bPrintStarted = true;
     if (bInPrint) return;
     bInPrint = true;
+    const Sheet& sheet = ConsoleSheets::SheetOf(Index);
     QString answer;
-    if (Index != ConsoleSheets::kNoPrompt) answer = m_frmPrntPrep->ShowForm(m_sPrompt.at(size_t(Index)));
-    if (answer != kCancelled && !RunJob(Index, ConsoleSheets::DoneMark(answer))) {
+    if (const auto prompt = sheet.Prompt(basTAVL::g_sGameVersion())) answer = m_frmPrntPrep->ShowForm(*prompt);
+    if (answer != kCancelled && !RunJob(sheet, ConsoleSheets::DoneMark(answer))) {
         TellStopped();
         return;
     }
@@ -130,12 +129,13 @@ Printer& frmTavlPrint::JobPrinter() {
     return *Printer::Current();
 }
 
-bool frmTavlPrint::RunJob(int Index, const QString& sDone) try {
+bool frmTavlPrint::RunJob(const Sheet& sheet, const QString& sDone) {
+    const QString variant = basTAVL::g_sGameVersion();
     Printer& printer = JobPrinter();
     m_sWrittenPdf.clear();
     m_sFailure.clear();
-    printer.SetOrientation(ConsoleSheets::OrientationOf(Index, basTAVL::g_sGameVersion()));
-    if (!AcceptsPrinter(printer) || !AcceptsPage(printer)) return true;
+    printer.SetOrientation(sheet.OrientationOf(variant));
+    if (!AcceptsPrinter(printer) || !AcceptsPage(printer, sheet.NeededInches(variant))) return true;
     Screen::SetMousePointer(Screen::MousePointer::HourGlass);
     const double dblFree = basAPI::FreeSpaceOnDisk(QStringLiteral("C:\\"));
     if (dblFree < ConsoleSheets::kLeastFree) {
@@ -143,14 +143,13 @@ bool frmTavlPrint::RunJob(int Index, const QString& sDone) try {
         return true;
     }
     const PageUnderWay page(*this, printer);
-    lblSheet->SetWholeText(ConsoleSheets::Title(Index, basTAVL::g_sGameVersion()));
+    lblSheet->SetWholeText(sheet.Title(variant));
     lblPiece->SetWholeText(QString());
-    Picture money;
-    if (ConsoleSheets::IsMoney(Index) && !LoadMoneyPicture(Index, money)) return false;
-    if (PrintCopies(Index, money, dblFree, sDone)) Let_Progress(kHidden);
+    SheetJob job{printer, std::bind_front(&frmTavlPrint::Let_Progress, this),
+                 std::bind_front(&frmTavlPrint::ShowPiece, this)};
+    if (sheet.prepare && !sheet.prepare(job, sheet.iWhich)) return false;
+    if (PrintCopies(job, sheet, dblFree, sDone)) Let_Progress(kHidden);
     return true;
-} catch (...) {
-    ErrTail("frmTavlPrint!", "RunJob", Index, sDone);
 }
 
 // A sheet sent to a printer that has gone would be lost without a word.
@@ -159,58 +158,39 @@ bool frmTavlPrint::AcceptsPrinter(const Printer& printer) {
     return MsgBox(ConsoleSheets::NoPrinterMessage(printer), vbOKCancel | vbExclamation) == vbOK;
 }
 
-bool frmTavlPrint::AcceptsPage(const Printer& printer) {
-    if (printer.DeviceName().isEmpty() || ConsoleSheets::Holds(printer)) return true;
-    const QString question = ConsoleSheets::SmallPageMessage(printer);
+bool frmTavlPrint::AcceptsPage(const Printer& printer, QSizeF needed) {
+    if (printer.DeviceName().isEmpty() || ConsoleSheets::Holds(printer, needed)) return true;
+    const QString question = ConsoleSheets::SmallPageMessage(printer, needed);
     if (question == m_sAcceptedPage) return true;
     if (MsgBox(question, vbOKCancel | vbExclamation) != vbOK) return false;
     m_sAcceptedPage = question;
     return true;
 }
 
-bool frmTavlPrint::LoadMoneyPicture(int Index, Picture& picture) try {
-    QString path;
-    if (!MakeMoneyImage(ConsoleSheets::MoneyOf(Index), path)) return false;
-    QString error;
-    picture = LoadPicture(path, error);
-    if (picture.IsNull()) ErrRaise(ErrNumber::kInvalidPicture, error);
-    return true;
-} catch (...) {
-    ErrTail("frmTavlPrint!", "LoadMoneyPicture", Index);
-}
-
 // False when the disk has too little room for money.
-bool frmTavlPrint::PrintCopies(int Index, const Picture& money, double dblFree, const QString& sDone) try {
+bool frmTavlPrint::PrintCopies(SheetJob& job, const Sheet& sheet, double dblFree, const QString& sDone) {
     const QString variant = basTAVL::g_sGameVersion();
-    const int copies = ConsoleSheets::Copies(Index, cboNumberOfSheets->currentText());
-    SheetJob job{JobPrinter(), std::bind_front(&frmTavlPrint::Let_Progress, this),
-                 std::bind_front(&frmTavlPrint::ShowPiece, this)};
-    for (int copy = 0; copy < copies; ++copy) {
-        if (ConsoleSheets::IsMoney(Index) && dblFree < ConsoleSheets::kLeastFreeForMoney) {
+    job.nCopies = ConsoleSheets::Copies(sheet, cboNumberOfSheets->currentText());
+    for (job.iCopy = 0; job.iCopy < job.nCopies; ++job.iCopy) {
+        if (sheet.bMoney && dblFree < ConsoleSheets::kLeastFreeForMoney) {
             MsgBox(ConsoleSheets::LittleDiskMessage(dblFree, ConsoleSheets::kMegabytesToldForMoney));
             return false;
         }
-        job.printer.SetDocumentName(
-            ConsoleSheets::DocumentName(GameHost::Current().GameName(), ConsoleSheets::Title(Index, variant)));
-        if (!PaintSheet(job, Index, money, copy, copies)) return true;
-        MarkDone(Index, sDone);
+        job.printer.SetDocumentName(ConsoleSheets::DocumentName(GameHost::Current().GameName(), sheet.Title(variant)));
+        if (const QString why = ConsoleSheets::WhyNotPrinted(sheet, variant); !why.isEmpty()) {
+            MsgBox(why);
+            return true;
+        }
+        // A sheet that isn't whole has said why, and what there is of it comes on paper.
+        sheet.paint(job, sheet.iWhich);
+        MarkDone(sheet, sDone);
         CloseDocument(job.printer);
     }
     return true;
-} catch (...) {
-    ErrTail("frmTavlPrint!", "PrintCopies", Index, dblFree, sDone);
 }
 
-bool frmTavlPrint::PaintSheet(SheetJob& job, int Index, const Picture& money, int iCopy, int nCopies) try {
-    if (!ConsoleSheets::IsMoney(Index)) return ConsoleSheets::PrintSheet(job, Index, basTAVL::g_sGameVersion());
-    PrintMoneySheet(job, ConsoleSheets::MoneyOf(Index), money, iCopy, nCopies);
-    return true;
-} catch (...) {
-    ErrTail("frmTavlPrint!", "PaintSheet", Index, iCopy, nCopies);
-}
-
-void frmTavlPrint::MarkDone(int Index, const QString& sDone) {
-    QAbstractButton* const button = cmdPrint->button(Index);
+void frmTavlPrint::MarkDone(const Sheet& sheet, const QString& sDone) {
+    QAbstractButton* const button = cmdPrint->button(sheet.iButton);
     if (!button || sDone.isEmpty() || button->text().endsWith(sDone)) return;
     button->setText(button->text() + sDone);
 }

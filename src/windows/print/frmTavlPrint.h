@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "kit/SheetJob.h"
+#include "kit/Sheets.h"
 #include "platform/Desktop.h"
 #include "platform/Picture.h"
 #include "platform/PicturePrinter.h"
 
 #include <QDialog>
+#include <QList>
 #include <QString>
 
-#include <array>
 #include <functional>
 
 class ElidedLabel;
@@ -60,13 +60,13 @@ public Q_SLOTS:
     void picTest_Click();
 
 private:
-    static constexpr int kFrames = 6;
     class PageUnderWay;
 
     // Building the window.
     void BuildControls();
-    QGroupBox* BuildFrame(int iFrame);
-    void AddButtons(int iFrame, QVBoxLayout* column);
+    QGroupBox* BuildFrame(Frame frame);
+    void AddMenuButtons(QVBoxLayout* column);
+    void AddButtons(Frame frame, QVBoxLayout* column);
     void BuildNumberOfSheets(QVBoxLayout* column);
     void BuildProgress();
     void BuildClosing();
@@ -78,21 +78,19 @@ private:
     // A job.
     Printer& JobPrinter();
     /// False when the console has to stay as it is, hourglass and all.
-    bool RunJob(int Index, const QString& sDone);
+    bool RunJob(const Sheet& sheet, const QString& sDone);
     static bool AcceptsPrinter(const Printer& printer);
-    bool AcceptsPage(const Printer& printer);
-    bool LoadMoneyPicture(int Index, Picture& picture);
-    bool PrintCopies(int Index, const Picture& money, double dblFree, const QString& sDone);
-    bool PaintSheet(SheetJob& job, int Index, const Picture& money, int iCopy, int nCopies);
-    void MarkDone(int Index, const QString& sDone);
+    bool AcceptsPage(const Printer& printer, QSizeF needed);
+    bool PrintCopies(SheetJob& job, const Sheet& sheet, double dblFree, const QString& sDone);
+    void MarkDone(const Sheet& sheet, const QString& sDone);
     void CloseDocument(Printer& printer);
     void CleanUp();
     void TellWhereItWent();
     void ShowPiece(const char* sPiece, int iPiece, int nPieces);
     void TellStopped();
 
-    std::array<QGroupBox*, kFrames> fraPrint{};
-    std::array<QLabel*, kFrames> lbl{};
+    QList<QGroupBox*> fraPrint;
+    QList<QLabel*> lbl;
     QButtonGroup* cmdNav = nullptr;
     QButtonGroup* cmdPrint = nullptr;
     QPushButton* cmdCancel = nullptr;
@@ -112,7 +110,6 @@ private:
     PicturePrinter m_screen;
 
     bool m_bPrintStarted = false;
-    std::array<QString, 15> m_sPrompt;
     int m_lProgress = -1;
     /// Guards against a second job: events run while a sheet is being printed.
     bool bInPrint = false;

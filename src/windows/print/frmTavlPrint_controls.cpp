@@ -37,27 +37,6 @@ const Color kProgressFill = Color::Rgb(0xC0, 0xC0, 0xC0);
 const Color kBarBack = Color::White();
 const Color kBarFore = Color::Rgb(0, 0, 128);
 
-constexpr std::array<const char*, 6> kFrameCaptions = {
-    "What would you like to print?",
-    "Which sheet would you like to print?",
-    "Which title sheet would you like to print?",
-    "Which News Cards  would you like to print?",
-    "What currency amount would you like to print?",
-    "Would you like to print the game rules?",
-};
-
-constexpr int kMenuFrame = 0;
-constexpr int kMoneyFrame = 4;
-
-// By the number of the frame that a button opens.
-constexpr std::array<const char*, 6> kNavCaptions = {
-    "Printer &Main Menu", "Game &Board, Box && Tokens", "&Title Deed Cards", "&Good News or Bad News Cards", "Mone&y",
-    "&Instruction Sheet",
-};
-
-// In the order they stand in their frames.
-constexpr std::array<int, ConsoleSheets::kButtons> kButtonOrder = {0, 1, 3, 2, 12, 13, 4, 5, 6, 7, 8, 9, 10, 11};
-
 template <typename Control>
 Control* Named(Control* control, const QString& sName) {
     control->setObjectName(sName);
@@ -85,8 +64,8 @@ void frmTavlPrint::BuildControls() {
     setWindowTitle(QStringLiteral("Print Your Own Tavlo"));
     cmdNav = new QButtonGroup(this);
     cmdPrint = new QButtonGroup(this);
-    for (int i = 0; i < kFrames; ++i)
-        fraPrint[size_t(i)] = BuildFrame(i);
+    for (int i = 0; i < int(ConsoleSheets::Frames().size()); ++i)
+        fraPrint.append(BuildFrame(Frame(i)));
     BuildClosing();
     BuildProgress();
     BuildDebugAids();
@@ -97,36 +76,43 @@ void frmTavlPrint::BuildControls() {
     connect(cmdChangePrinter, &QPushButton::clicked, this, &frmTavlPrint::cmdChangePrinter_Click);
 }
 
-QGroupBox* frmTavlPrint::BuildFrame(int iFrame) {
-    const QString number = QString::number(iFrame);
-    auto* frame = Named(new QGroupBox(QString::fromLatin1(kFrameCaptions.at(size_t(iFrame))), this),
-                        QStringLiteral("fraPrint_") + number);
-    lbl[size_t(iFrame)] =
-        MakeLabel(frame, QStringLiteral("lbl_") + number, ConsoleSheets::FrameLabel(iFrame, basTAVL::g_sGameVersion()));
-    auto* column = new QVBoxLayout(frame);
-    column->addWidget(lbl[size_t(iFrame)]);
+QGroupBox* frmTavlPrint::BuildFrame(Frame frame) {
+    const QString number = QString::number(int(frame));
+    auto* box = Named(new QGroupBox(QString::fromLatin1(ConsoleSheets::Frames()[size_t(frame)].sCaption), this),
+                      QStringLiteral("fraPrint_") + number);
+    lbl.append(
+        MakeLabel(box, QStringLiteral("lbl_") + number, ConsoleSheets::FrameLabel(frame, basTAVL::g_sGameVersion())));
+    auto* column = new QVBoxLayout(box);
+    column->addWidget(lbl.constLast());
     column->addSpacing(kGap);
-    AddButtons(iFrame, column);
-    if (iFrame == kMoneyFrame) BuildNumberOfSheets(column);
+    if (frame == Frame::Menu) AddMenuButtons(column);
+    AddButtons(frame, column);
+    if (frame == Frame::Money) BuildNumberOfSheets(column);
     column->addStretch();
-    return frame;
+    return box;
 }
 
-void frmTavlPrint::AddButtons(int iFrame, QVBoxLayout* column) {
-    const QString variant = basTAVL::g_sGameVersion();
-    for (int i = 1; iFrame == kMenuFrame && i < kFrames; ++i) {
+void frmTavlPrint::AddMenuButtons(QVBoxLayout* column) {
+    for (int i = 1; i < int(ConsoleSheets::Frames().size()); ++i) {
         auto* button = MakeButton(column->parentWidget(), QStringLiteral("cmdNav_") + QString::number(i),
-                                  QString::fromLatin1(kNavCaptions.at(size_t(i))), QString());
+                                  QString::fromLatin1(ConsoleSheets::Frames()[size_t(i)].sButton), QString());
         cmdNav->addButton(button, i);
         column->addWidget(button);
     }
-    for (const int i : kButtonOrder) {
-        if (ConsoleSheets::FrameOf(i) != iFrame) continue;
-        auto* button = MakeButton(column->parentWidget(), QStringLiteral("cmdPrint_") + QString::number(i),
-                                  ConsoleSheets::Caption(i, variant), ConsoleSheets::ToolTip(i));
-        button->setVisible(ConsoleSheets::IsShown(i, variant));
-        cmdPrint->addButton(button, i);
-        column->addWidget(button);
+}
+
+void frmTavlPrint::AddButtons(Frame frame, QVBoxLayout* column) {
+    const QString variant = basTAVL::g_sGameVersion();
+    for (const std::span<const Sheet> table : {Sheets(), ButtonsWithoutSheet()}) {
+        for (const Sheet& sheet : table) {
+            if (sheet.frame != frame) continue;
+            auto* button =
+                MakeButton(column->parentWidget(), QStringLiteral("cmdPrint_") + QString::number(sheet.iButton),
+                           sheet.Caption(variant), QString::fromLatin1(sheet.sToolTip));
+            button->setVisible(sheet.IsShown(variant));
+            cmdPrint->addButton(button, sheet.iButton);
+            column->addWidget(button);
+        }
     }
 }
 
@@ -166,9 +152,10 @@ void frmTavlPrint::BuildProgress() {
 }
 
 void frmTavlPrint::BuildClosing() {
-    auto* menu = MakeButton(this, QStringLiteral("cmdNav_0"), QString::fromLatin1(kNavCaptions[0]),
-                            QStringLiteral("Go back to the first menu"));
-    cmdNav->addButton(menu, kMenuFrame);
+    auto* menu =
+        MakeButton(this, QStringLiteral("cmdNav_0"), QString::fromLatin1(ConsoleSheets::Frames().front().sButton),
+                   QStringLiteral("Go back to the first menu"));
+    cmdNav->addButton(menu, int(Frame::Menu));
     cmdChangePrinter = MakeButton(this, QStringLiteral("cmdChangePrinter"), QStringLiteral("&Change Printer"),
                                   QStringLiteral("Change the destination printer"));
     cmdCancel = MakeButton(this, QStringLiteral("cmdCancel"), QStringLiteral("&Done"),
@@ -188,7 +175,7 @@ void frmTavlPrint::BuildDebugAids() {
 // All frames lie in one place. With large letters the window grows beyond its usual size, so that nothing is cut.
 void frmTavlPrint::PlaceControls() {
     const QPoint leftTop(Screen::TwipsToPixels(kFrameLeftTop), Screen::TwipsToPixels(kFrameLeftTop));
-    const std::array<QWidget*, 3> row = {cmdNav->button(kMenuFrame), cmdChangePrinter, cmdCancel};
+    const std::array<QWidget*, 3> row = {cmdNav->button(int(Frame::Menu)), cmdChangePrinter, cmdCancel};
     QSize frame;
     for (const QGroupBox* each : fraPrint)
         frame = frame.expandedTo(each->sizeHint());
@@ -214,9 +201,6 @@ void frmTavlPrint::PlaceControls() {
 }
 
 void frmTavlPrint::Form_Load() try {
-    const QString variant = basTAVL::g_sGameVersion();
-    for (int i = 0; i < int(m_sPrompt.size()); ++i)
-        m_sPrompt[size_t(i)] = ConsoleSheets::PaperPrompt(i, variant);
     ConsoleSheets::ReadBoxLabelSizes();
     PlaceControls();
     basCommon::ShowEntireForm(*this);

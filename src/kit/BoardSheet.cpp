@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: MIT
+#include "kit/BoardSheet.h"
+
+#include "document/basTAVL.h"
+#include "kit/LabelSheet.h"
+#include "pieces/frmBMP.h"
+#include "pieces/MadePicture.h"
+#include "pieces/StickersUsingBMP.h"
+#include "pieces/TitlePictures.h"
+#include "platform/Printer.h"
+#include "render/clsRenderDestination.h"
+#include "services/basErrLog.h"
+
+namespace {
+
+using namespace TitlePictures;
+
+// Which of g_dblLabelSizes is what, in inches.
+constexpr int kSpaceWidth = 1;
+constexpr int kSpaceHeight = 2;
+constexpr int kStickerHeight = 6;
+constexpr int kCornerSide = 7;
+
+constexpr int kRows = 2;
+constexpr int kColumns = 6;
+// Half of the columns hang on the left edge and half on the right one.
+constexpr int kLeftColumns = 3;
+constexpr double kLeftEdge = 0.02;
+constexpr double kRightEdge = 9.98;
+constexpr double kRowGap = 0.05;
+
+constexpr int kProgressOfSpaces = 50;
+constexpr int kProgressPerSpace = 50;
+
+/// A title picture of the board and the caption under it.
+struct TitlePiece {
+    Title picture;
+    double dblX;
+    double dblY;
+    double dblWidth;
+    double dblHeight;
+    float sngLegendY;
+    const char* sLegend;
+    int iProgressBefore;
+};
+
+constexpr TitlePiece kTitlePieces[] = {
+    {kTitle, 0.05, 5.85, 5.6, 1.054, 6.924F, "Game Board Title", 900},
+    {kSubtitle, 0.05, 7.1, 7.275, 0.49, 7.61F, "Game Board Subtitle", 950},
+};
+
+/// A corner; its caption stands in a column at the right.
+struct CornerPiece {
+    double dblX;
+    double dblY;
+    float sngLegendX;
+    float sngLegendY;
+    const char* sLegend;
+    int iProgressBefore;
+};
+
+// By number of the corner. The fourth has no sticker.
+constexpr CornerPiece kCornerPieces[] = {
+    {0.05, 5.85, 7.5F, 6.5F, "'Start' Board Corner", 700},
+    {2.55, 5.85, 7.5F, 7.0F, "'Lose A Turn' Board Corner", 800},
+    {5.075, 5.85, 7.5F, 7.5F, "'Free Space' Board Corner", 900},
+};
+
+// Other processors decode the photographs of the sheet while this one draws. A sticker's picture is half as high
+// as the sticker.
+void PreparePictures(SheetJob& job, clsRenderDestination& sheet, int iSide, bool bCorners) {
+    const auto prepare = [&](const C_Image& image, int labelSize) {
+        image.PrepareForPaper(job.printer, basTAVL::g_dblLabelSizes(labelSize) / 2 * sheet.DPI());
+    };
+    for (int iPlace = 0; iPlace < kRows * kColumns; ++iPlace) {
+        const int iSpace = GetSpaceFromArrayCoordinates(iSide, iPlace / kColumns, iPlace % kColumns);
+        prepare(basTAVL::g_oSpaces(iSpace).Image, kStickerHeight);
+    }
+    for (size_t iCorner = 0; bCorners && iCorner < std::size(kCornerPieces); ++iCorner)
+        prepare(basTAVL::g_oCorners(int(iCorner)).Image, kCornerSide);
+}
+
+bool PlaceSpace(clsRenderDestination& sheet, int iSide, int iRow, int iCol) {
+    const double dblWidth = basTAVL::g_dblLabelSizes(kSpaceWidth);
+    const double dblHeight = basTAVL::g_dblLabelSizes(kSpaceHeight);
+    const double dblX = iCol < kLeftColumns ? iCol * dblWidth + kLeftEdge : kRightEdge - (kColumns - iCol) * dblWidth;
+    const QString file = MadePicture::PathOf(QStringLiteral("BmpOneFullSpace.bmp"));
+    if (!frmBMP::Instance().GenerateSpaceFullImage(file, GetSpaceFromArrayCoordinates(iSide, iRow, iCol))) return false;
+    sheet.OutputFromBMP(file, dblX, (dblHeight + kRowGap) * iRow, dblWidth, dblHeight);
+    return true;
+}
+
+bool PlaceSpaces(SheetJob& job, clsRenderDestination& sheet, int iSide) {
+    bool made = true;
+    int progress = kProgressOfSpaces;
+    job.Progress(progress);
+    for (int iRow = 0; iRow < kRows; ++iRow) {
+        for (int iCol = 0; iCol < kColumns; ++iCol) {
+            job.Piece("Space", iRow * kColumns + iCol + 1, kRows * kColumns);
+            made = PlaceSpace(sheet, iSide, iRow, iCol) && made;
+            job.Progress(progress += kProgressPerSpace);
+        }
+    }
+    return made;
+}
+
+bool PlaceTitles(SheetJob& job, clsRenderDestination& sheet) {
+    job.Progress(800);
+    if (!Make(kTitle)) return LabelSheet::Tell("Cannot create Title Image");
+    if (!Make(kSubtitle)) return LabelSheet::Tell("Cannot Subtitle Image");
+    int title = 0;
+    for (const TitlePiece& piece : kTitlePieces) {
+        job.Piece("Title", ++title, int(std::size(kTitlePieces)));
+        job.Progress(piece.iProgressBefore);
+        sheet.OutputFromBMP(FileOf(piece.picture), piece.dblX, piece.dblY, piece.dblWidth, piece.dblHeight);
+        sheet.Legend(float(piece.dblX), piece.sngLegendY, QStringLiteral("up"), QString::fromLatin1(piece.sLegend),
+                     basTAVL::g_lPrintBlack());
+    }
+    for (const TitlePiece& piece : kTitlePieces)
+        MadePicture::Delete(FileOf(piece.picture));
+    return true;
+}
+
+bool PlaceCorners(SheetJob& job, clsRenderDestination& sheet) {
+    bool made = true;
+    int iCorner = 0;
+    for (const CornerPiece& piece : kCornerPieces) {
+        job.Piece("Corner", iCorner + 1, int(std::size(kCornerPieces)));
+        job.Progress(piece.iProgressBefore);
+        made = CornerStickerUsingBMP(sheet, iCorner++, piece.dblX, piece.dblY) && made;
+        sheet.Legend(piece.sngLegendX, piece.sngLegendY, QStringLiteral("left"), QString::fromLatin1(piece.sLegend),
+                     basTAVL::g_lPrintBlack());
+    }
+    return made;
+}
+
+} // namespace
+
+bool StickerSpaceSheet(SheetJob& job, int iSide, bool bCorners, bool bTitle) try {
+    clsRenderDestination sheet;
+    LabelSheet::Begin(job, sheet);
+    PreparePictures(job, sheet, iSide, bCorners);
+    bool made = PlaceSpaces(job, sheet, iSide);
+    if (bTitle && !PlaceTitles(job, sheet)) return false;
+    if (bCorners) made = PlaceCorners(job, sheet) && made;
+    job.Progress(SheetJob::kDone);
+    return made;
+} catch (...) {
+    ErrTail("frmTavlPrint!", "StickerSpaceSheet", iSide, bCorners, bTitle);
+}
+
+int GetSpaceFromArrayCoordinates(int iSide, int iRow, int iCol) {
+    int iSpace = 0;
+    frmBMP::GetSpaceFromArrayCoordinates(iSide, iRow, iCol, iSpace);
+    return iSpace;
+}
+
+template <>
+bool PaintSheet<class BoardSheet>(SheetJob& job, int iWhich) {
+    const bool east = iWhich > 0;
+    return StickerSpaceSheet(job, iWhich, !east, east);
+}

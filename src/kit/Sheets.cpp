@@ -1,0 +1,270 @@
+// SPDX-License-Identifier: MIT
+// The table of the sheets. To add one, see CONTRIBUTING.
+#include "kit/Sheets.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr Paper kLabelPaper{"white label paper",
+                            "Position white peel && stick label paper in your printer.  Make sure the printing side "
+                            "is faced properly "};
+constexpr Paper kColoredCard{"colored card stock", "Please position a sheet of colored card stock in the printer "};
+constexpr Paper kWhitePaper{"white paper", "Please load white paper into the printer "};
+constexpr Paper kWhiteCard{"white card stock", "Please load white card stock into the printer "};
+
+// Of the kits on coloured stock.
+constexpr Paper kGreenLabels{"light green label stock",
+                             "Please position a sheet of light green label stock in the printer "};
+constexpr Paper kRedLabels{"red label stock", "Please position a sheet of red label stock in the printer "};
+constexpr Paper kWhiteLabels{"white label stock", "Please position a sheet of white label stock in the printer "};
+constexpr Paper kPinkCard{"pink card stock", "Please position a sheet of pink card stock in the printer "};
+constexpr Paper kGreenCard{"green card stock", "Please position a sheet of green  card stock in the printer "};
+constexpr Paper kPinkPaper{"pink paper", "Please load pink paper into the printer "};
+constexpr Paper kBluePaper{"light blue paper", "Please load light blue paper into the printer "};
+constexpr Paper kGreenPaper{"light green paper", "Please load light green paper into the printer "};
+constexpr Paper kMustardPaper{"mustard paper", "Please load mustard paper into the printer "};
+
+// A kit without such a sheet: asked all the same by whoever presses the hidden button.
+constexpr Paper kNotUsed{"", "Not used for this version.", ""};
+constexpr Paper kObsolete{"", "Obsolete", ""};
+constexpr Paper kUnasked{"", "", ""};
+
+constexpr Sheet::ByKit<PageOrientation> kUpright{PageOrientation::Portrait, PageOrientation::Portrait};
+constexpr Sheet::ByKit<PageOrientation> kLengthwise{PageOrientation::Landscape, PageOrientation::Landscape};
+constexpr Sheet::ByKit<PageOrientation> kLengthwiseInKit8{PageOrientation::Landscape, PageOrientation::Portrait};
+
+constexpr Sheet::ByKit<const char*> InAllKits(const char* sCaption) { return {sCaption, sCaption}; }
+
+constexpr QSizeF kWholePage(8.0, 10.5);
+constexpr QSizeF kWholePageLengthwise(10.5, 8.0);
+
+// What is printed for a button that prints nothing: the page that the console then ends stays empty.
+bool PrintNothing(SheetJob&, int) { return true; }
+
+} // namespace
+
+// Out here, so that the classes which the rows name are those of the sheets' files.
+constexpr Sheet kSheets[] = {
+    {.iButton = 0,
+     .sName = "box",
+     .frame = Frame::Labels,
+     .caption = {"&Box Top && Token Stickers", "&Green  Box && Board Labels #1"},
+     .paper = {{kLabelPaper, kGreenLabels}},
+     .orientation = kLengthwiseInKit8,
+     .neededInches = kWholePageLengthwise,
+     .otherKits = OtherKits::LeftOutOrNameless,
+     .paint = PaintSheet<class BoxSheet>},
+    {.iButton = 1,
+     .sName = "west",
+     .frame = Frame::Labels,
+     .caption = {"&West, South && Corner Board Stickers", "Green Game &Board Labels #2"},
+     .paper = {{kLabelPaper, kGreenLabels}},
+     .orientation = kLengthwiseInKit8,
+     .neededInches = kWholePageLengthwise,
+     .otherKits = OtherKits::LeftOut,
+     .paint = PaintSheet<class BoardSheet>},
+    {.iButton = 3,
+     .sName = "east",
+     .frame = Frame::Labels,
+     .caption = {"&East, North && Title Board Stickers", "Game  Box &Red Sheet"},
+     .paper = {{kLabelPaper, kRedLabels}},
+     .orientation = kLengthwise,
+     .neededInches = kWholePageLengthwise,
+     .otherKits = OtherKits::LeftOutOrNameless,
+     .iWhich = 1,
+     .paint = PaintSheet<class BoardSheet>},
+    {.iButton = 12,
+     .sName = "deeds1",
+     .frame = Frame::Deeds,
+     .caption = InAllKits("Property Deed Sheet #&1"),
+     .sToolTip = "Click to begin printing Deed Card Sheet #1",
+     .paper = {{kWhiteCard, kNotUsed}},
+     .orientation = kUpright,
+     .neededInches = kWholePage,
+     .otherKits = OtherKits::Same,
+     .iWhich = 1,
+     .paint = PaintSheet<class DeedSheet>},
+    {.iButton = 13,
+     .sName = "deeds2",
+     .frame = Frame::Deeds,
+     .caption = InAllKits("Property Deed Sheet #&2"),
+     .sToolTip = "Click to begin printing Deed Card Sheet #2",
+     .paper = {{kWhiteCard, kNotUsed}},
+     .orientation = kUpright,
+     .neededInches = kWholePage,
+     .otherKits = OtherKits::Same,
+     .iWhich = 2,
+     .paint = PaintSheet<class DeedSheet>},
+    {.iButton = 5,
+     .sName = "good",
+     .frame = Frame::News,
+     .caption = InAllKits("&Good News Cards"),
+     .paper = {{kColoredCard, kPinkCard}},
+     .orientation = kUpright,
+     .neededInches = kWholePage,
+     .otherKits = OtherKits::Same,
+     .paint = PaintSheet<class NewsSheet>},
+    {.iButton = 6,
+     .sName = "bad",
+     .frame = Frame::News,
+     .caption = InAllKits("&Bad News Cards"),
+     .paper = {{kColoredCard, kGreenCard}},
+     .orientation = kUpright,
+     .neededInches = kWholePage,
+     .otherKits = OtherKits::Same,
+     .iWhich = 1,
+     .paint = PaintSheet<class NewsSheet>},
+    {.iButton = 7,
+     .sName = "money100",
+     .frame = Frame::Money,
+     .caption = InAllKits("$ &100"),
+     .paper = {{kWhitePaper, kPinkPaper}},
+     .orientation = kUpright,
+     .neededInches = kWholePage,
+     .otherKits = OtherKits::Same,
+     .bMoney = true,
+     .prepare = PrepareSheet<class MoneySheet>,
+     .paint = PaintSheet<class MoneySheet>},
+    {.iButton = 8,
+     .sName = "money500",
+     .frame = Frame::Money,
+     .caption = InAllKits("$ &500"),
+     .paper = {{kWhitePaper, kBluePaper}},
+     .orientation = kUpright,
+     .neededInches = kWholePage,
+     .otherKits = OtherKits::Same,
+     .bMoney = true,
+     .iWhich = 1,
+     .prepare = PrepareSheet<class MoneySheet>,
+     .paint = PaintSheet<class MoneySheet>},
+    {.iButton = 9,
+     .sName = "money1000",
+     .frame = Frame::Money,
+     .caption = InAllKits("$ 1,00&0"),
+     .paper = {{kWhitePaper, kGreenPaper}},
+     .orientation = kUpright,
+     .neededInches = kWholePage,
+     .otherKits = OtherKits::Same,
+     .bMoney = true,
+     .iWhich = 2,
+     .prepare = PrepareSheet<class MoneySheet>,
+     .paint = PaintSheet<class MoneySheet>},
+    {.iButton = 10,
+     .sName = "money5000",
+     .frame = Frame::Money,
+     .caption = InAllKits("$ 5&,000"),
+     .paper = {{kWhitePaper, kMustardPaper}},
+     .orientation = kUpright,
+     .neededInches = kWholePage,
+     .otherKits = OtherKits::Same,
+     .bMoney = true,
+     .iWhich = 3,
+     .prepare = PrepareSheet<class MoneySheet>,
+     .paint = PaintSheet<class MoneySheet>},
+    {.iButton = 11,
+     .sName = "rules",
+     .frame = Frame::Rules,
+     .caption = InAllKits("Game &Play Instruction Sheet"),
+     .sToolTip = "Once you have created your game, this gives you the rules for playing it.",
+     .paper = {{kWhitePaper, kWhitePaper}},
+     .orientation = kUpright,
+     .neededInches = kWholePage,
+     .otherKits = OtherKits::Same,
+     .paint = PaintSheet<class RulesSheet>},
+};
+
+constexpr Sheet kButtonsWithoutSheet[] = {
+    {.iButton = 2,
+     .sName = "",
+     .frame = Frame::Labels,
+     .caption = InAllKits("Game Box &Light Green Sheet"),
+     .paper = {{kObsolete, kObsolete}},
+     .orientation = kLengthwiseInKit8,
+     .neededInches = kWholePageLengthwise,
+     .otherKits = OtherKits::Same,
+     .paint = PrintNothing},
+    {.iButton = 4,
+     .sName = "",
+     .frame = Frame::Deeds,
+     .caption = InAllKits("Deed Card &Label Sheet"),
+     .sToolTip = "Click to print Deel Card Lable Sheet",
+     .paper = {{kUnasked, kWhiteLabels}},
+     .orientation = kUpright,
+     .neededInches = kWholePage,
+     .otherKits = OtherKits::LeftOut,
+     .paint = nullptr},
+    // The one index that no paper is asked for. It never had a button.
+    {.iButton = 14,
+     .sName = "",
+     .frame = std::nullopt,
+     .caption = InAllKits(""),
+     .paper = std::nullopt,
+     .orientation = kUpright,
+     .neededInches = kWholePage,
+     .otherKits = OtherKits::Same,
+     .paint = PrintNothing},
+};
+
+namespace {
+
+bool IsKit8(const QString& sVariant) { return sVariant == QStringLiteral("8"); }
+bool OnColouredStock(const QString& sVariant) {
+    return sVariant == QStringLiteral("2") || sVariant == QStringLiteral("2A");
+}
+
+const Paper& PaperOf(const Sheet::ByStock& papers, const QString& sVariant) {
+    return OnColouredStock(sVariant) ? papers.coloured : papers.white;
+}
+
+} // namespace
+
+std::span<const Sheet> Sheets() { return kSheets; }
+
+std::span<const Sheet> ButtonsWithoutSheet() { return kButtonsWithoutSheet; }
+
+const Sheet* FindSheet(const QString& sName) {
+    const auto named = [&](const Sheet& sheet) { return sName == QString::fromLatin1(sheet.sName); };
+    const auto found = std::ranges::find_if(kSheets, named);
+    return found == std::end(kSheets) ? nullptr : &*found;
+}
+
+const Sheet* FindButton(int iButton) {
+    for (const std::span<const Sheet> table : {Sheets(), ButtonsWithoutSheet()}) {
+        const auto found = std::ranges::find(table, iButton, &Sheet::iButton);
+        if (found != table.end()) return &*found;
+    }
+    return nullptr;
+}
+
+QString Sheet::Caption(const QString& sVariant) const {
+    return QString::fromLatin1(IsKit8(sVariant) ? caption.kit8 : caption.others);
+}
+
+QString Sheet::Title(const QString& sVariant) const {
+    const QChar kept(0x1);
+    QString title = Caption(sVariant);
+    title.replace(QStringLiteral("&&"), kept).remove(u'&');
+    return title.replace(kept, u'&');
+}
+
+bool Sheet::IsShown(const QString& sVariant) const { return frame && paper && *PaperOf(*paper, sVariant).sStock; }
+
+std::optional<QString> Sheet::Prompt(const QString& sVariant) const {
+    if (!paper) return std::nullopt;
+    const Paper& asked = PaperOf(*paper, sVariant);
+    return QString::fromLatin1(asked.sPrompt) + QString::fromLatin1(asked.sTail);
+}
+
+PageOrientation Sheet::OrientationOf(const QString& sVariant) const {
+    return IsKit8(sVariant) ? orientation.kit8 : orientation.others;
+}
+
+QSizeF Sheet::NeededInches(const QString& sVariant) const {
+    return OrientationOf(sVariant) == orientation.kit8 ? neededInches : neededInches.transposed();
+}
+
+QString Sheet::WhyLeftOut(const QString& sVariant) const {
+    if (paint && (otherKits == OtherKits::Same || IsKit8(sVariant))) return {};
+    return QStringLiteral("The label sheets of this kit are not part of this build.");
+}

@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "kit/SheetJob.h"
+#include "platform/Printer.h"
+
+#include <QSizeF>
+#include <QString>
+
+#include <optional>
+#include <span>
+
+/// The frames of the print window, by their told numbers.
+enum class Frame { Menu, Labels, Deeds, News, Money, Rules };
+
+/// A kind of paper, and how a person is asked to load it.
+struct Paper {
+    /// Empty where a kit has no such sheet.
+    const char* sStock;
+    const char* sPrompt;
+    /// The words that the question ends in.
+    const char* sTail = "and click 'Print' to begin printing.";
+};
+
+/// What kits other than "8" make of a sheet.
+enum class OtherKits {
+    Same,
+    LeftOut,           ///< Not part of this build.
+    LeftOutOrNameless, ///< The same, and a kit that nobody knows hears under which names the program prints.
+};
+
+/// A sheet of the boxed kit: all that the print window and tavlora-print know of it. A kit variant is "2", "2A",
+/// "5" or "8"; kits "2" and "2A" are printed on coloured stock.
+struct Sheet {
+    /// Of kit "8", and of the others.
+    template <class T>
+    struct ByKit {
+        T kit8;
+        T others;
+    };
+    /// On white stock, which the printer gives its colours, and on stock that is coloured already.
+    struct ByStock {
+        Paper white;
+        Paper coloured;
+    };
+
+    /// Index of its button: the 3 of "cmdPrint_3".
+    int iButton;
+    /// Its word on the command line; empty for a button that this build prints nothing for.
+    const char* sName;
+    /// Where its button stands; nothing for an index without one.
+    std::optional<Frame> frame;
+    /// With its mnemonic.
+    ByKit<const char*> caption;
+    const char* sToolTip = "";
+    /// Nothing: no paper is asked for.
+    std::optional<ByStock> paper;
+    ByKit<PageOrientation> orientation;
+    /// Width and height that it needs on its page, in kit "8"'s orientation.
+    QSizeF neededInches;
+    OtherKits otherKits;
+    /// Banknotes: in copies, with more room on the disk.
+    bool bMoney = false;
+    /// Which of its kind.
+    int iWhich = 0;
+    /// Nothing where copies share nothing.
+    bool (*prepare)(SheetJob& job, int iWhich) = nullptr;
+    /// Nothing where it isn't part of this build in any kit.
+    bool (*paint)(SheetJob& job, int iWhich);
+
+    /// The button's caption with its mnemonic, and in plain words.
+    QString Caption(const QString& sVariant) const;
+    QString Title(const QString& sVariant) const;
+    bool IsShown(const QString& sVariant) const;
+    /// What to load into the printer; nothing where no paper is asked for.
+    std::optional<QString> Prompt(const QString& sVariant) const;
+    PageOrientation OrientationOf(const QString& sVariant) const;
+    QSizeF NeededInches(const QString& sVariant) const;
+    /// Why this build doesn't print it for a kit; empty when it does.
+    QString WhyLeftOut(const QString& sVariant) const;
+};
+
+/// The sheets that this build prints, a row each, in the order of the menus and of the whole kit.
+std::span<const Sheet> Sheets();
+
+/// Buttons of the print window that no sheet of this build stands behind.
+std::span<const Sheet> ButtonsWithoutSheet();
+
+/// Nothing for a name that no sheet has.
+const Sheet* FindSheet(const QString& sName);
+
+/// Of both tables; nothing for an index that none has.
+const Sheet* FindButton(int iButton);

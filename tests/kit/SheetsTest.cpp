@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: MIT
+// The table of the sheets: every row is whole, and says what is told of it.
+#include "kit/Sheets.h"
+
+#include "kit/ConsoleSheets.h"
+#include "platform/PicturePrinter.h"
+#include "support/TestFixture.h"
+#include "support/ToldSheets.h"
+
+#include <QRegularExpression>
+
+namespace {
+
+const QString kEight = QStringLiteral("8");
+constexpr QSizeF kMostInches(8.0, 10.5);
+
+std::vector<const Sheet*> AllRows() {
+    std::vector<const Sheet*> rows;
+    for (const std::span<const Sheet> table : {Sheets(), ButtonsWithoutSheet()}) {
+        for (const Sheet& sheet : table)
+            rows.push_back(&sheet);
+    }
+    return rows;
+}
+
+// The letter that a person presses with Alt; nothing without one or with several.
+QChar Mnemonic(QString caption) {
+    caption.remove(QStringLiteral("&&"));
+    return caption.count(u'&') == 1 ? caption.at(caption.indexOf(u'&') + 1).toUpper() : QChar();
+}
+
+// What a row lacks, in words.
+QStringList LackingIn(const Sheet& sheet) {
+    static const QRegularExpression word(QStringLiteral("^[a-z0-9]+$"));
+    QStringList lacking;
+    const auto want = [&lacking](bool is, const char* what) {
+        if (!is) lacking.append(QString::fromLatin1(what));
+    };
+    want(word.match(QString::fromLatin1(sheet.sName)).hasMatch(), "a name for the command line");
+    want(sheet.frame && *sheet.frame != Frame::Menu, "a frame for its button");
+    for (const char* kit : {"8", "5", "2", "2A"}) {
+        const QString variant = QString::fromLatin1(kit);
+        want(!Mnemonic(sheet.Caption(variant)).isNull(), "a caption with one mnemonic");
+        const QSizeF needed = sheet.NeededInches(variant);
+        const bool upright = sheet.OrientationOf(variant) == PageOrientation::Portrait;
+        const QSizeF most = upright ? kMostInches : kMostInches.transposed();
+        want(!needed.isEmpty() && needed.boundedTo(most) == needed, "inches that a page has");
+    }
+    want(sheet.paper && *sheet.paper->white.sStock, "a stock for the list");
+    want(sheet.paint, "a routine that paints it");
+    lacking.removeDuplicates();
+    return lacking;
+}
+
+using SheetsTest = TavloraTest;
+
+} // namespace
+
+TEST_F(SheetsTest, EveryRowIsWhole) {
+    for (const Sheet& sheet : Sheets()) {
+        EXPECT_EQ(LackingIn(sheet).join(QStringLiteral(", ")).toStdString(), "")
+            << "in the row of button " << sheet.iButton << ", '" << sheet.sName << "'";
+    }
+}
+
+TEST_F(SheetsTest, TheCheckFindsWhatARowLacks) {
+    Sheet sheet = *FindSheet(QStringLiteral("rules"));
+    ASSERT_TRUE(LackingIn(sheet).isEmpty());
+    sheet.sName = "";
+    sheet.frame.reset();
+    sheet.caption.others = "&Two &mnemonics";
+    sheet.paper.reset();
+    sheet.neededInches = QSizeF(8.5, 11);
+    sheet.paint = nullptr;
+    EXPECT_EQ(LackingIn(sheet).size(), 6);
+}
+
+TEST_F(SheetsTest, NoTwoRowsShareANameAButtonOrAMnemonicOfTheirFrame) {
+    const std::vector<const Sheet*> rows = AllRows();
+    for (size_t i = 0; i < rows.size(); ++i) {
+        for (size_t j = 0; j < i; ++j) {
+            const std::string both = std::to_string(rows[j]->iButton) + " and " + std::to_string(rows[i]->iButton);
+            EXPECT_NE(rows[i]->iButton, rows[j]->iButton);
+            EXPECT_TRUE(!*rows[i]->sName || qstrcmp(rows[i]->sName, rows[j]->sName) != 0) << both << " share a name";
+            for (const char* kit : {"8", "5", "2", "2A"}) {
+                const QString variant = QString::fromLatin1(kit);
+                if (rows[i]->frame != rows[j]->frame || !rows[i]->IsShown(variant) || !rows[j]->IsShown(variant))
+                    continue;
+                EXPECT_NE(Mnemonic(rows[i]->Caption(variant)), Mnemonic(rows[j]->Caption(variant))) << both;
+            }
+        }
+    }
+}
+
+TEST_F(SheetsTest, EveryIndexSaysWhatIsToldOfIt) {
+    for (const ToldSheet& told : kToldSheets) {
+        SCOPED_TRACE(told.button);
+        const Sheet* const sheet = FindButton(told.button);
+        ASSERT_TRUE(sheet);
+        EXPECT_STREQ(sheet->sName, told.name);
+        EXPECT_EQ(sheet->frame ? int(*sheet->frame) : -1, told.frame);
+        EXPECT_STREQ(sheet->sToolTip, told.toolTip);
+        for (const char* kit : {"8", "5", "9", "2", "2A"}) {
+            const QString variant = QString::fromLatin1(kit);
+            const bool eight = variant == kEight;
+            const bool coloured = variant.startsWith(u'2');
+            EXPECT_EQ(sheet->Title(variant), QString::fromLatin1(eight ? told.caption : told.captionOfOthers)) << kit;
+            EXPECT_EQ(sheet->IsShown(variant), coloured ? told.shownColoured : told.shown) << kit;
+            EXPECT_EQ(sheet->OrientationOf(variant) == PageOrientation::Landscape,
+                      eight ? told.lengthwise : told.lengthwiseOfOthers)
+                << kit;
+            const char* const prompt = coloured ? told.promptColoured : told.prompt;
+            ASSERT_EQ(sheet->Prompt(variant).has_value(), prompt != nullptr);
+            EXPECT_EQ(sheet->Prompt(variant).value_or(QString()), ToldSheet::Asked(prompt)) << kit;
+        }
+    }
+}
+
+TEST_F(SheetsTest, CaptionsCarryMnemonicsAndTitlesNone) {
+    EXPECT_EQ(FindButton(0)->Caption(kEight), QStringLiteral("&Box Top && Token Stickers"));
+    EXPECT_EQ(FindButton(0)->Title(kEight), QStringLiteral("Box Top & Token Stickers"));
+    EXPECT_EQ(FindButton(10)->Caption(QStringLiteral("5")), QStringLiteral("$ 5&,000"));
+}
+
+TEST_F(SheetsTest, WhatIsNeededTurnsWithThePageOfTheKit) {
+    const Sheet& box = *FindSheet(QStringLiteral("box"));
+    EXPECT_EQ(box.NeededInches(kEight), QSizeF(10.5, 8.0));
+    EXPECT_EQ(box.NeededInches(QStringLiteral("2")), QSizeF(8.0, 10.5));
+    EXPECT_EQ(FindSheet(QStringLiteral("east"))->NeededInches(QStringLiteral("2")), QSizeF(10.5, 8.0));
+}
+
+TEST_F(SheetsTest, WhatThisBuildCannotPrintIsSaidPlainly) {
+    const QString left = QStringLiteral("The label sheets of this kit are not part of this build.");
+    for (const Sheet& sheet : Sheets()) {
+        EXPECT_EQ(sheet.WhyLeftOut(kEight), QString()) << sheet.sName;
+        for (const char* kit : {"5", "2", "2A"}) {
+            const bool labels = sheet.frame == Frame::Labels;
+            EXPECT_EQ(sheet.WhyLeftOut(QString::fromLatin1(kit)), labels ? left : QString()) << sheet.sName << kit;
+        }
+    }
+    EXPECT_EQ(FindButton(4)->WhyLeftOut(kEight), left) << "the labels of the deeds";
+    EXPECT_EQ(FindButton(2)->WhyLeftOut(QStringLiteral("2")), QString()) << "the obsolete sheet is an empty page";
+}
+
+TEST_F(SheetsTest, ButtonsWithoutASheetPaintNothing) {
+    for (const Sheet& sheet : ButtonsWithoutSheet()) {
+        if (!sheet.paint) continue;
+        PicturePrinter page(60);
+        SheetJob job{page};
+        EXPECT_TRUE(sheet.paint(job, sheet.iWhich)) << sheet.iButton;
+        EXPECT_EQ(page.Page().Image(), PicturePrinter(60).Page().Image()) << sheet.iButton;
+    }
+}
+
+TEST_F(SheetsTest, ANameOrAnIndexThatNoSheetHasIsNotFound) {
+    EXPECT_EQ(FindSheet(QStringLiteral("rulez")), nullptr);
+    EXPECT_EQ(FindSheet(QString()), nullptr);
+    EXPECT_EQ(FindButton(99), nullptr);
+}
