@@ -2,7 +2,7 @@
 #pragma once
 
 #include "game/GameSession.h"
-#include "platform/Console.h"
+#include "platform/files/Console.h"
 
 /// What the benchmarks run in: a folder of their own as My Games directory, the data of the build, and a
 /// board that is set up.

@@ -4,7 +4,7 @@
 #include <QSize>
 #include <QString>
 
-#include "platform/Console.h"
+#include "platform/files/Console.h"
 
 /// Photographs of a benchmark's own making, in a folder of their own.
 class BenchPhotos {

@@ -5,8 +5,8 @@
 
 #include "board/basPosit.h"
 #include "board/basPositPaint.h"
-#include "platform/LoadPicture.h"
-#include "platform/Surface.h"
+#include "platform/paint/Surface.h"
+#include "platform/pictures/LoadPicture.h"
 
 #include <QElapsedTimer>
 #include <QEventLoop>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "game/GameFile.h"
-#include "platform/TextFile.h"
+#include "platform/files/TextFile.h"
 #include "services/basCommon.h"
 
 #include <benchmark/benchmark.h>

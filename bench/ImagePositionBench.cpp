@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Dragging a photograph of 12 megapixels behind its box: each step from the mouse's move to the painted
 // window. TAVLORA_BENCH_PHOTOS names a folder with a real one; without it a made one is used.
-#include "platform/Console.h"
-#include "platform/PictureBox.h"
+#include "platform/files/Console.h"
+#include "windowing/PictureBox.h"
 #include "windows/pictures/frmImagePosition.h"
 
 #include <benchmark/benchmark.h>

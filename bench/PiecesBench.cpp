@@ -9,7 +9,7 @@
 #include "PeakMemory.h"
 
 #include "document/basTAVL.h"
-#include "platform/LoadPicture.h"
+#include "platform/pictures/LoadPicture.h"
 #include "tools/PrintPieces.h"
 
 #include <benchmark/benchmark.h>

@@ -3,9 +3,9 @@
 #include "BenchGame.h"
 #include "BenchPhotos.h"
 
-#include "platform/Files.h"
-#include "platform/LoadPicture.h"
-#include "platform/Printer.h"
+#include "platform/files/Files.h"
+#include "platform/pictures/LoadPicture.h"
+#include "platform/printing/Printer.h"
 #include "services/basPath.h"
 #include "tools/PrintSheets.h"
 

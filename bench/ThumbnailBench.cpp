@@ -7,7 +7,7 @@
 
 #include "pictures/C_Image.h"
 #include "pieces/frmBMP.h"
-#include "platform/LoadPicture.h"
+#include "platform/pictures/LoadPicture.h"
 
 #include <benchmark/benchmark.h>
 

@@ -5,12 +5,13 @@
 #include "drawing/basDraw.h"
 #include "game/GameSession.h"
 #include "pictures/C_Image.h"
-#include "platform/Console.h"
-#include "platform/Desktop.h"
-#include "platform/Files.h"
-#include "platform/ProgramSettings.h"
+#include "platform/files/Console.h"
+#include "platform/files/Files.h"
+#include "platform/files/Folders.h"
 #include "services/basErrLog.h"
 #include "services/basMsgQueue.h"
+#include "services/Desktop.h"
+#include "services/ProgramSettings.h"
 
 #include <QByteArray>
 #include <QGuiApplication>
@@ -79,7 +80,7 @@ private:
         Desktop::Install(this);
         Files::UseMemory(&m_files);
         Settings().sMyGamesDirectory = QString::fromLatin1(kFolder);
-        Settings().sProgramDirectory = QString::fromLatin1(kProgramFolder);
+        Folders::SetProgramDirectory(QString::fromLatin1(kProgramFolder));
         ThumbnailMaker::Install(EmptyThumbnails::Get);
         m_session = std::make_unique<GameSession>();
         basDraw::Draw_SetHdc(&m_session->MeasuringDevice());

@@ -2,10 +2,10 @@
 // Takes any bytes for the heads, table and rows of a bitmap file: asks what it is, copies it in another
 // colour, and reads the copy again.
 #include "drawing/basBMP.h"
-#include "platform/BinaryFile.h"
-#include "platform/Desktop.h"
-#include "platform/Files.h"
-#include "platform/PictureFormat.h"
+#include "platform/files/BinaryFile.h"
+#include "platform/files/Files.h"
+#include "platform/pictures/PictureFormat.h"
+#include "services/Desktop.h"
 
 #include <QCoreApplication>
 #include <QFile>

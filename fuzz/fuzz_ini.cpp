@@ -2,7 +2,7 @@
 // Reads any bytes as a settings file, writes a key into it and reads that key back.
 #include "FuzzHost.h"
 
-#include "platform/ProfileFile.h"
+#include "platform/files/ProfileFile.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const QString path = FuzzHost::Get().Write(QStringLiteral("input.ini"), data, size);

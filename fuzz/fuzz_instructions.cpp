@@ -2,7 +2,7 @@
 // Prints any bytes as the rules of the game, with names that hold tags themselves.
 #include "FuzzHost.h"
 
-#include "platform/Surface.h"
+#include "platform/paint/Surface.h"
 #include "render/clsRenderDestination.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {

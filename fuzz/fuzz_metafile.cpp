@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Plays any bytes as a metafile: straight onto a picture, and turned, as onto a destination that can't be
 // read back.
-#include "platform/Metafile.h"
+#include "platform/pictures/Metafile.h"
 
 #include <QGuiApplication>
 #include <QPainter>

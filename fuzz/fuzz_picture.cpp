@@ -2,10 +2,10 @@
 // Takes any bytes for a picture file and makes the decisions that come before and behind the decoders: which
 // kind it is, whether it is whole and of a bearable size, how a camera held it, how much of it is decoded.
 // Small photographs and bitmaps are decoded, too.
-#include "platform/JpegMarkers.h"
-#include "platform/PictureDecoder.h"
-#include "platform/PictureFormat.h"
-#include "platform/Resample.h"
+#include "platform/paint/Resample.h"
+#include "platform/pictures/JpegMarkers.h"
+#include "platform/pictures/PictureDecoder.h"
+#include "platform/pictures/PictureFormat.h"
 
 #include <QGuiApplication>
 #include <QtEndian>

@@ -4,7 +4,7 @@
 #include "FuzzHost.h"
 
 #include "document/basTAVL.h"
-#include "platform/TextFile.h"
+#include "platform/files/TextFile.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 // Takes any bytes apart as lines of the rules, without laying them out: fast enough for millions.
 #include "FuzzHost.h"
 
-#include "platform/TextFile.h"
+#include "platform/files/TextFile.h"
 #include "render/clsRenderDestination.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {

@@ -2,7 +2,7 @@
 // The program itself, but it ends with the first paint of the board, and shows its splash without waiting.
 #include "app/RunProgram.h"
 #include "FirstPaint.h"
-#include "platform/DesktopWidgets.h"
+#include "windowing/DesktopWidgets.h"
 
 namespace {
 

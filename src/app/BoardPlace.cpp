@@ -2,7 +2,7 @@
 #include "app/BoardPlace.h"
 
 #include "board/basPosit.h"
-#include "platform/Numbers.h"
+#include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
 
 #include <array>

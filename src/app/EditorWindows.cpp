@@ -3,7 +3,7 @@
 
 #include "app/frmTAVL.h"
 #include "app/GameKit.h"
-#include "platform/ProgramSettings.h"
+#include "services/ProgramSettings.h"
 #include "windows/editors/frmEditCenter.h"
 #include "windows/editors/frmEditCorner.h"
 #include "windows/editors/frmEditMoney.h"

@@ -2,7 +2,7 @@
 #include "app/GameKit.h"
 
 #include "document/basTAVL.h"
-#include "platform/Numbers.h"
+#include "platform/text/Numbers.h"
 #include "render/PrintBlackAs.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/GameNames.h"
 
-#include "platform/Numbers.h"
+#include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
 #include "services/basPath.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/MainLayout.h"
 
-#include "platform/Numbers.h"
+#include "platform/text/Numbers.h"
 
 #include <algorithm>
 

@@ -6,18 +6,19 @@
 #include "app/MainLayout.h"
 #include "board/basPositTables.h"
 #include "pieces/frmBMP.h"
-#include "platform/Application.h"
-#include "platform/DesktopWidgets.h"
-#include "platform/Folders.h"
-#include "platform/LoadPicture.h"
-#include "platform/Numbers.h"
-#include "platform/ProgramLock.h"
-#include "platform/ProgramSettings.h"
-#include "platform/Screen.h"
-#include "platform/SystemPrinter.h"
-#include "platform/WidgetLook.h"
+#include "platform/files/Folders.h"
+#include "platform/paint/Units.h"
+#include "platform/pictures/LoadPicture.h"
+#include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
 #include "services/basPath.h"
+#include "services/ProgramSettings.h"
+#include "windowing/Application.h"
+#include "windowing/DesktopWidgets.h"
+#include "windowing/ProgramLock.h"
+#include "windowing/Screen.h"
+#include "windowing/SystemPrinter.h"
+#include "windowing/WidgetLook.h"
 
 namespace {
 
@@ -33,7 +34,7 @@ QString OwnFile(const char* sName) {
 double RoughBoardSide() {
     constexpr int kSmallWindow = 600;
     constexpr int kMenusAndButtons = 90;
-    constexpr int kTwips = Screen::kTwipsPerPixel;
+    constexpr int kTwips = kTwipsPerPixel;
     const int wanted = MainWindowSizeWanted(Screen::Size().height() * kTwips, kTwips) / kTwips;
     return std::min(wanted > 0 ? wanted : kSmallWindow, Screen::FreeArea().height()) - kMenusAndButtons;
 }

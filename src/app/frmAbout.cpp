@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "app/frmAbout.h"
 
-#include "platform/Desktop.h"
-#include "platform/Folders.h"
-#include "platform/WidgetLook.h"
+#include "platform/files/Folders.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
+#include "services/Desktop.h"
+#include "windowing/basCommon_forms.h"
+#include "windowing/WidgetLook.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -3,10 +3,10 @@
 
 #include "app/frmAbout.h"
 #include "board/basPosit.h"
-#include "platform/PictureBox.h"
-#include "platform/Screen.h"
-#include "platform/WidgetLook.h"
+#include "platform/paint/Units.h"
 #include "services/basErrLog.h"
+#include "windowing/PictureBox.h"
+#include "windowing/WidgetLook.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -32,12 +32,12 @@ constexpr int kWheelNotch = 120;
 constexpr int kStepsPerNotch = 3;
 constexpr int kStepsPerPage = 10;
 
-int Twips(int pixels) { return pixels * Screen::kTwipsPerPixel; }
-QSize Twips(QSize pixels) { return pixels * Screen::kTwipsPerPixel; }
+int Twips(int pixels) { return pixels * kTwipsPerPixel; }
+QSize Twips(QSize pixels) { return pixels * kTwipsPerPixel; }
 
 QRect PixelRect(const QRect& twips) {
-    return QRect(twips.left() / Screen::kTwipsPerPixel, twips.top() / Screen::kTwipsPerPixel,
-                 twips.width() / Screen::kTwipsPerPixel, twips.height() / Screen::kTwipsPerPixel);
+    return QRect(twips.left() / kTwipsPerPixel, twips.top() / kTwipsPerPixel, twips.width() / kTwipsPerPixel,
+                 twips.height() / kTwipsPerPixel);
 }
 
 } // namespace
@@ -145,7 +145,7 @@ void frmTAVL::SetZoom(int iZoom) try {
 }
 
 int frmTAVL::ScrollOffsetOf(const QScrollBar& bar) const {
-    return ScrollOffset(bar.value(), bar.maximum(), m_fZoom, Twips(picBoard->width()), Screen::kTwipsPerPixel);
+    return ScrollOffset(bar.value(), bar.maximum(), m_fZoom, Twips(picBoard->width()), kTwipsPerPixel);
 }
 
 void frmTAVL::hscrl_Change() try {

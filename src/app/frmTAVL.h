@@ -5,8 +5,8 @@
 #include "app/MainLayout.h"
 #include "app/ToolBarTable.h"
 #include "game/GameSession.h"
-#include "platform/Color.h"
-#include "platform/Desktop.h"
+#include "platform/paint/Color.h"
+#include "services/Desktop.h"
 
 #include <QMainWindow>
 #include <QPointF>

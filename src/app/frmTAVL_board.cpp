@@ -6,13 +6,13 @@
 #include "board/basPositPaint.h"
 #include "document/basTAVL.h"
 #include "drawing/basBMP.h"
-#include "platform/Numbers.h"
-#include "platform/PictureBox.h"
-#include "platform/Screen.h"
-#include "platform/WidgetLook.h"
+#include "platform/paint/Units.h"
+#include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
 #include "services/basMsgQueue.h"
 #include "services/basPath.h"
+#include "windowing/PictureBox.h"
+#include "windowing/WidgetLook.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -107,9 +107,9 @@ void frmTAVL::picBoard_Paint() try { Redraw(); } catch (...) {
 }
 
 void frmTAVL::WhatIsMouseOver(float X, float Y) try {
-    const float fSide = float(picBoard->width() * Screen::kTwipsPerPixel);
-    const float fX = (X - float(basPosit::GetOffsetX() * Screen::kTwipsPerPixel)) / fSide / m_fZoom;
-    const float fY = (Y - float(basPosit::GetOffsetY() * Screen::kTwipsPerPixel)) / fSide / m_fZoom;
+    const float fSide = float(picBoard->width() * kTwipsPerPixel);
+    const float fX = (X - float(basPosit::GetOffsetX() * kTwipsPerPixel)) / fSide / m_fZoom;
+    const float fY = (Y - float(basPosit::GetOffsetY() * kTwipsPerPixel)) / fSide / m_fZoom;
     const BoardPlace place = PlaceAt(fX, fY);
     m_bOverChanged = place != m_over;
     m_over = place;
@@ -176,7 +176,7 @@ void frmTAVL::ShowTips() {
 }
 
 void frmTAVL::PlaceTipBox(float X, float Y) {
-    const int twips = Screen::kTwipsPerPixel;
+    const int twips = kTwipsPerPixel;
     const QPoint at = TipBoxPosition(m_over, X, Y, txtToolTip->sizeHint() * twips, picBoard->size() * twips);
     txtToolTip->move(picBoard->pos() + at / twips);
     // The desktop's own tips say the same, so the box stays out of sight.

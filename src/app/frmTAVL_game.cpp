@@ -5,11 +5,11 @@
 #include "document/Locale.h"
 #include "game/Autosave.h"
 #include "game/GameFile.h"
-#include "platform/Folders.h"
-#include "platform/PictureBox.h"
-#include "platform/WidgetLook.h"
+#include "platform/files/Folders.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
+#include "windowing/PictureBox.h"
+#include "windowing/WidgetLook.h"
 
 #include <QApplication>
 

@@ -10,13 +10,15 @@
 #include "drawing/basDraw.h"
 #include "game/Autosave.h"
 #include "game/SampleGames.h"
-#include "platform/PictureBox.h"
-#include "platform/ProfileFile.h"
-#include "platform/ProgramSettings.h"
-#include "platform/Screen.h"
-#include "services/basAPI.h"
+#include "platform/files/ProfileFile.h"
+#include "platform/paint/Units.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
+#include "services/ProgramSettings.h"
+#include "windowing/basAPI_screen.h"
+#include "windowing/basCommon_forms.h"
+#include "windowing/PictureBox.h"
+#include "windowing/Screen.h"
 
 namespace {
 
@@ -70,8 +72,8 @@ void frmTAVL::WarnOfFewColors() try {
 
 void frmTAVL::SizeMainWindow() try {
     if (isMinimized()) return;
-    const int side = MainWindowSizeWanted(Screen::Size().height() * Screen::kTwipsPerPixel, Screen::kTwipsPerPixel);
-    const QSize wanted = side > 0 ? QSize(side, side) / Screen::kTwipsPerPixel : size();
+    const int side = MainWindowSizeWanted(Screen::Size().height() * kTwipsPerPixel, kTwipsPerPixel);
+    const QSize wanted = side > 0 ? QSize(side, side) / kTwipsPerPixel : size();
     Screen::PlaceWindow(*this, QRect(pos(), wanted));
     Screen::PlaceAtFraction(*this, 1.0 / 2, 1.0 / 2);
 } catch (...) {

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "app/frmTAVL.h"
 
-#include "platform/Folders.h"
-#include "platform/LoadPicture.h"
-#include "platform/Numbers.h"
-#include "platform/PictureBox.h"
-#include "platform/Screen.h"
-#include "platform/WidgetLook.h"
+#include "platform/files/Folders.h"
+#include "platform/paint/Units.h"
+#include "platform/pictures/LoadPicture.h"
+#include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
 #include "services/basPath.h"
+#include "windowing/PictureBox.h"
+#include "windowing/WidgetLook.h"
 
 #include <QLabel>
 
@@ -26,7 +26,7 @@ QWidget* MakeLine(QWidget* parent, const char* sName) {
     return line;
 }
 
-int Pixels(float twips) { return CLng(double(twips) / Screen::kTwipsPerPixel); }
+int Pixels(float twips) { return CLng(double(twips) / kTwipsPerPixel); }
 
 } // namespace
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/RunProgram.h"
-#include "platform/DesktopWidgets.h"
+#include "windowing/DesktopWidgets.h"
 
 int main(int argc, char** argv) {
     DesktopWidgets desktop;

@@ -3,7 +3,7 @@
 
 #include "board/basPosit.h"
 #include "board/basPositPaint.h"
-#include "platform/Surface.h"
+#include "platform/paint/Surface.h"
 #include "services/basErrLog.h"
 
 namespace basPosit {

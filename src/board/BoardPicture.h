@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/Picture.h"
+#include "platform/paint/Picture.h"
 
 /// The whole board of the game in memory as a picture.
 namespace basPosit {

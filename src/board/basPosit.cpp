@@ -2,7 +2,7 @@
 #include "board/basPosit.h"
 
 #include "drawing/basDraw.h"
-#include "platform/Numbers.h"
+#include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
 
 namespace basPosit {

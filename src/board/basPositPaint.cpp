@@ -5,7 +5,7 @@
 #include "board/basPositPaint_state.h"
 #include "document/basTAVL.h"
 #include "drawing/basDraw.h"
-#include "platform/Numbers.h"
+#include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
 
 using namespace basDraw;

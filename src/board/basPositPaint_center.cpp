@@ -4,7 +4,7 @@
 #include "board/basPosit.h"
 #include "document/basTAVL.h"
 #include "drawing/basDraw.h"
-#include "platform/Numbers.h"
+#include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
 
 #include <QRect>

@@ -5,9 +5,9 @@
 #include "board/basPositPaint_state.h"
 #include "document/basTAVL.h"
 #include "drawing/basDraw.h"
-#include "platform/Folders.h"
-#include "platform/Numbers.h"
-#include "platform/Surface.h"
+#include "platform/files/Folders.h"
+#include "platform/paint/Surface.h"
+#include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
 #include "services/basPath.h"
 

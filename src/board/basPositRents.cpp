@@ -4,14 +4,14 @@
 #include "document/basTAVL.h"
 #include "document/Locale.h"
 #include "document/Subscript.h"
-#include "platform/Desktop.h"
-#include "platform/Files.h"
-#include "platform/Folders.h"
-#include "platform/Numbers.h"
-#include "platform/SequentialInput.h"
-#include "platform/TextFile.h"
+#include "platform/files/Files.h"
+#include "platform/files/Folders.h"
+#include "platform/files/SequentialInput.h"
+#include "platform/files/TextFile.h"
+#include "platform/text/Numbers.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
+#include "services/Desktop.h"
 
 #include <array>
 

@@ -3,7 +3,7 @@
 
 #include "document/BoardFacts.h"
 #include "document/SpecialText.h"
-#include "platform/Color.h"
+#include "platform/paint/Color.h"
 
 #include <QString>
 

@@ -4,9 +4,9 @@
 #include "board/basPositFit.h"
 #include "document/basTAVL.h"
 #include "drawing/basDraw.h"
-#include "platform/ClipScope.h"
-#include "platform/Numbers.h"
-#include "platform/Screen.h"
+#include "platform/paint/ClipScope.h"
+#include "platform/paint/Units.h"
+#include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
 
 namespace basTAVL {
@@ -23,7 +23,6 @@ constexpr int kTitleLimit = -180;
 constexpr int kMiddle = kNewsCardWidth / 2;
 constexpr int kTitleTop = 10;
 
-constexpr double kTwipsPerInch = 1440;
 constexpr double kPointsPerInch = 72;
 
 void DrawBox(const QRect& box, int penWidth) {
@@ -32,9 +31,7 @@ void DrawBox(const QRect& box, int penWidth) {
     basDraw::Draw_Rect(box.x(), box.y(), box.x() + box.width(), box.y() + box.height());
 }
 
-int LargestHeight(const C_FontInfo& font) {
-    return CLng(font.Size * (kTwipsPerInch / Screen::kTwipsPerPixel) / kPointsPerInch);
-}
+int LargestHeight(const C_FontInfo& font) { return CLng(font.Size * kScreenDotsPerInch / kPointsPerInch); }
 
 int FittedHeight(const C_FontInfo& font, const QStringList& lines) {
     const int fitted = basPosit::Pos_ComputeSize(font.Family, font.Bold, font.Italic, lines, int(lines.size()),

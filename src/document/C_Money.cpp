@@ -3,7 +3,7 @@
 
 #include "document/RecordFields.h"
 #include "document/Subscript.h"
-#include "platform/Numbers.h"
+#include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
 #include "services/RecordText.h"
 

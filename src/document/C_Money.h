@@ -2,7 +2,7 @@
 #pragma once
 
 #include "pictures/C_Image.h"
-#include "platform/Color.h"
+#include "platform/paint/Color.h"
 
 #include <array>
 

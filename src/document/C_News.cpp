@@ -2,7 +2,7 @@
 #include "document/C_News.h"
 
 #include "document/RecordFields.h"
-#include "platform/Numbers.h"
+#include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
 #include "services/RecordText.h"
 

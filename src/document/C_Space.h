@@ -4,7 +4,7 @@
 #include "document/C_FontInfo.h"
 #include "document/TextLines.h"
 #include "pictures/C_Image.h"
-#include "platform/Color.h"
+#include "platform/paint/Color.h"
 
 /// One of the 28 spaces along the sides of the board.
 class C_Space {

@@ -3,10 +3,10 @@
 
 #include "drawing/basBMP.h"
 #include "drawing/basDraw.h"
-#include "platform/ClipScope.h"
-#include "platform/Numbers.h"
-#include "platform/PictureHolder.h"
-#include "platform/Surface.h"
+#include "platform/paint/ClipScope.h"
+#include "platform/paint/Surface.h"
+#include "platform/pictures/PictureHolder.h"
+#include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
 
 #include <QRect>

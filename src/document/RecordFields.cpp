@@ -3,7 +3,7 @@
 
 #include "document/C_FontInfo.h"
 #include "pictures/C_Image.h"
-#include "platform/Numbers.h"
+#include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
 #include "services/RecordText.h"
 

@@ -4,8 +4,8 @@
 #include "document/C_FontInfo.h"
 #include "document/Subscript.h"
 #include "drawing/basDraw.h"
-#include "platform/Numbers.h"
-#include "platform/TextColumns.h"
+#include "platform/text/Numbers.h"
+#include "platform/text/TextColumns.h"
 #include "services/basErrLog.h"
 
 namespace {

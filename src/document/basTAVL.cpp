@@ -2,8 +2,8 @@
 #include "document/basTAVL.h"
 
 #include "document/Subscript.h"
-#include "platform/Desktop.h"
-#include "platform/ProgramSettings.h"
+#include "services/Desktop.h"
+#include "services/ProgramSettings.h"
 
 #include <array>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "document/Game.h"
-#include "platform/Color.h"
+#include "platform/paint/Color.h"
 #include "services/RecordText.h"
 
 #include <QString>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "drawing/DrawDottedBox.h"
 
-#include "platform/Surface.h"
+#include "platform/paint/Surface.h"
 #include "services/basErrLog.h"
 
 namespace basTAVL {

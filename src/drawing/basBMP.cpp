@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "drawing/basBMP.h"
 
-#include "platform/BinaryFile.h"
-#include "platform/Desktop.h"
-#include "platform/Files.h"
+#include "platform/files/BinaryFile.h"
+#include "platform/files/Files.h"
 #include "services/basErrLog.h"
 #include "services/basMsgQueue.h"
 #include "services/basPath.h"
+#include "services/Desktop.h"
 #include "services/FileRefused.h"
 
 #include <QHash>

@@ -2,12 +2,12 @@
 #include "drawing/basBMP_metafile.h"
 
 #include "drawing/basBMP.h"
-#include "platform/Desktop.h"
-#include "platform/DeviceContext.h"
-#include "platform/Files.h"
+#include "platform/files/Files.h"
+#include "platform/paint/DeviceContext.h"
 #include "services/basErrLog.h"
 #include "services/basMsgQueue.h"
 #include "services/basPath.h"
+#include "services/Desktop.h"
 
 namespace basBMP {
 namespace {

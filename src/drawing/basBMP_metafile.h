@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/Metafile.h"
+#include "platform/pictures/Metafile.h"
 
 #include <QString>
 

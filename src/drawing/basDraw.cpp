@@ -2,9 +2,9 @@
 #include "drawing/basDraw.h"
 
 #include "drawing/basDraw_state.h"
-#include "platform/Desktop.h"
-#include "platform/Numbers.h"
+#include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
+#include "services/Desktop.h"
 
 namespace basDraw {
 namespace {

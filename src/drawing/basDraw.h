@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/Color.h"
-#include "platform/DeviceContext.h"
+#include "platform/paint/Color.h"
+#include "platform/paint/DeviceContext.h"
 
 #include <QPoint>
 #include <QString>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/DeviceContext.h"
+#include "platform/paint/DeviceContext.h"
 
 #include <optional>
 

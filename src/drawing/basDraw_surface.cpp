@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "drawing/basDraw.h"
 
-#include "platform/Numbers.h"
-#include "platform/Surface.h"
+#include "platform/paint/Surface.h"
+#include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
 
 namespace basDraw {
@@ -27,8 +27,6 @@ double Widest(Surface& objDest, const QStringList& sTextLines, int iNLines) {
 } // namespace
 
 void Draw_GetDPIandPrinterSizeRatio(Surface& objDest, double& dblDPI, double& dblRatio, double dblScale) try {
-    constexpr double kTwipsPerInch = 1440;
-    constexpr double kTwipsPerWindowPixel = 15;
     if (objDest.IsPrinter()) {
         dblDPI = kTwipsPerInch / objDest.TwipsPerPixelX();
         objDest.ScaleMode = ScaleModeKind::Pixels;
@@ -37,7 +35,7 @@ void Draw_GetDPIandPrinterSizeRatio(Surface& objDest, double& dblDPI, double& db
         objDest.SetFontSize(probe);
         dblRatio = probe / (objDest.TextHeight(QStringLiteral("Test")) * kSizeOfHeight);
     } else {
-        dblDPI = kTwipsPerInch / kTwipsPerWindowPixel;
+        dblDPI = kScreenDotsPerInch;
         dblRatio = 1.0;
     }
     dblDPI *= dblScale;

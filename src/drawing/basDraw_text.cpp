@@ -2,8 +2,8 @@
 #include "drawing/basDraw.h"
 
 #include "drawing/basDraw_state.h"
-#include "platform/Numbers.h"
-#include "platform/TextColumns.h"
+#include "platform/text/Numbers.h"
+#include "platform/text/TextColumns.h"
 #include "services/basErrLog.h"
 
 #include <cmath>

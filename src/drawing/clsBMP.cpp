@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "drawing/clsBMP.h"
 
-#include "platform/Desktop.h"
-#include "platform/DeviceContext.h"
-#include "platform/Files.h"
+#include "platform/files/Files.h"
+#include "platform/paint/DeviceContext.h"
 #include "services/basErrLog.h"
 #include "services/basMsgQueue.h"
 #include "services/basPath.h"
+#include "services/Desktop.h"
 #include "services/FileRefused.h"
 
 #include <vector>

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "drawing/basBMP.h"
-#include "platform/BinaryFile.h"
-#include "platform/Color.h"
-#include "platform/Picture.h"
+#include "platform/files/BinaryFile.h"
+#include "platform/paint/Color.h"
+#include "platform/paint/Picture.h"
 
 #include <QString>
 #include <QStringList>

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "drawing/clsBMP.h"
-#include "platform/Desktop.h"
-#include "platform/Files.h"
-#include "platform/LoadPicture.h"
-#include "platform/Numbers.h"
-#include "platform/Surface.h"
+#include "platform/files/Files.h"
+#include "platform/paint/Surface.h"
+#include "platform/pictures/LoadPicture.h"
+#include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
 #include "services/basMsgQueue.h"
 #include "services/basPath.h"
+#include "services/Desktop.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "drawing/basDraw.h"
 #include "drawing/clsBMP.h"
-#include "platform/LoadPicture.h"
-#include "platform/Numbers.h"
-#include "platform/Recording.h"
-#include "platform/Screen.h"
-#include "platform/Surface.h"
+#include "platform/paint/Recording.h"
+#include "platform/paint/Surface.h"
+#include "platform/pictures/LoadPicture.h"
+#include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
 
 #include <algorithm>
@@ -14,7 +13,6 @@
 namespace {
 
 constexpr int kMonochrome = 1;
-constexpr double kDotsPerInch = 96;
 
 // Black gives the first colour and white the second, what lies between a mixture: smooth edges.
 QRgb Mixed(QRgb grey, Color fore, Color back) {
@@ -37,7 +35,7 @@ int clsBMP::FitText(const QStringList& lines, int& lLine) const {
     for (const QString& line : lines)
         lW = std::max(lW, basDraw::Draw_GetWidth(line));
     lW = std::max((lW + kEight - 1) / kEight * kEight, kEight);
-    const int lMax = Screen::SurfaceLimit().width();
+    const int lMax = ScratchForm::LargestSize().width();
     if (lW <= lMax) return lW;
     const double dblScale = double(lMax) / lW;
     lLine = std::max(Int(m_lFontSize * dblScale), 1);
@@ -97,7 +95,7 @@ bool clsBMP::CreateFileHoldingText(const QString& sText, Color lForeColor, Color
     WriteText(form.hDC(), size, lForeColor, lBackColor);
     CloseFile();
 
-    const auto recording = std::make_shared<Recording>(size, kDotsPerInch);
+    const auto recording = std::make_shared<Recording>(size, kScreenDotsPerInch);
     {
         QPainter painter(recording.get());
         DeviceContext context(painter);

@@ -2,7 +2,7 @@
 #include "game/Autosave.h"
 
 #include "game/Rescue.h"
-#include "platform/Files.h"
+#include "platform/files/Files.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
 #include "services/FileRefused.h"

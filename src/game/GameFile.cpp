@@ -6,11 +6,11 @@
 #include "document/GameHost.h"
 #include "game/Autosave.h"
 #include "game/Rescue.h"
-#include "platform/Desktop.h"
-#include "platform/Files.h"
-#include "platform/TextFile.h"
+#include "platform/files/Files.h"
+#include "platform/files/TextFile.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
+#include "services/Desktop.h"
 
 #include <array>
 

@@ -6,13 +6,13 @@
 #include "game/GameFile.h"
 #include "game/PrintCaptions.h"
 #include "game/Rescue.h"
-#include "platform/Files.h"
-#include "platform/Folders.h"
-#include "platform/ProgramSettings.h"
-#include "platform/TextFile.h"
+#include "platform/files/Files.h"
+#include "platform/files/Folders.h"
+#include "platform/files/TextFile.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
 #include "services/basMsgQueue.h"
+#include "services/ProgramSettings.h"
 
 #include <functional>
 

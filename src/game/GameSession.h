@@ -2,7 +2,7 @@
 #pragma once
 
 #include "document/GameHost.h"
-#include "platform/Surface.h"
+#include "platform/paint/Surface.h"
 
 /// The game being edited: its name, whether it holds unsaved changes, and the autosave that each change
 /// writes. Serves as host of the game file while it lives.

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "game/Rescue.h"
 
-#include "platform/Files.h"
+#include "platform/files/Files.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
 

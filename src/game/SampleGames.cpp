@@ -2,8 +2,8 @@
 #include "game/SampleGames.h"
 
 #include "document/Locale.h"
-#include "platform/Files.h"
-#include "platform/Folders.h"
+#include "platform/files/Files.h"
+#include "platform/files/Folders.h"
 #include "services/basErrLog.h"
 #include "services/basPath.h"
 

@@ -7,7 +7,7 @@
 #include "pieces/MadePicture.h"
 #include "pieces/StickersUsingBMP.h"
 #include "pieces/TitlePictures.h"
-#include "platform/Printer.h"
+#include "platform/printing/Printer.h"
 #include "render/clsRenderDestination.h"
 #include "services/basErrLog.h"
 

@@ -6,7 +6,7 @@
 #include "pieces/frmBMP.h"
 #include "pieces/MadePicture.h"
 #include "pieces/TitlePictures.h"
-#include "platform/Printer.h"
+#include "platform/printing/Printer.h"
 #include "render/clsRenderDestination.h"
 #include "services/basErrLog.h"
 

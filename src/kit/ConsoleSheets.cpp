@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "kit/ConsoleSheets.h"
 
-#include "platform/Numbers.h"
+#include "platform/text/Numbers.h"
 #include "services/basCommon.h"
 
 #include <algorithm>

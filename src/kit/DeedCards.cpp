@@ -7,11 +7,11 @@
 #include "drawing/DrawDottedBox.h"
 #include "kit/DeedCards_layout.h"
 #include "pieces/MadePicture.h"
-#include "platform/Desktop.h"
-#include "platform/Folders.h"
-#include "platform/Printer.h"
+#include "platform/files/Folders.h"
+#include "platform/printing/Printer.h"
 #include "services/basErrLog.h"
 #include "services/basPath.h"
+#include "services/Desktop.h"
 
 using namespace DeedLayout;
 

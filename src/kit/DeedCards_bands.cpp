@@ -7,9 +7,9 @@
 #include "kit/DeedCards_layout.h"
 #include "pieces/frmBMP.h"
 #include "pieces/MadePicture.h"
-#include "platform/Desktop.h"
-#include "platform/Surface.h"
+#include "platform/paint/Surface.h"
 #include "services/basErrLog.h"
+#include "services/Desktop.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include "kit/DeedCards_layout.h"
 #include "pieces/frmBMP.h"
 #include "pieces/MadePicture.h"
-#include "platform/Surface.h"
+#include "platform/paint/Surface.h"
 #include "services/basErrLog.h"
 
 #include <cstdlib>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "kit/DimensionString.h"
 
-#include "platform/Numbers.h"
+#include "platform/text/Numbers.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "kit/LabelSheet.h"
 
-#include "platform/Desktop.h"
-#include "platform/Printer.h"
+#include "platform/printing/Printer.h"
 #include "render/clsRenderDestination.h"
+#include "services/Desktop.h"
 
 namespace LabelSheet {
 

@@ -5,11 +5,11 @@
 #include "kit/SheetJob.h"
 #include "pieces/frmBMP.h"
 #include "pieces/MadePicture.h"
-#include "platform/Desktop.h"
-#include "platform/LoadPicture.h"
-#include "platform/Numbers.h"
-#include "platform/Printer.h"
+#include "platform/pictures/LoadPicture.h"
+#include "platform/printing/Printer.h"
+#include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
+#include "services/Desktop.h"
 
 namespace {
 

@@ -8,10 +8,10 @@
 #include "kit/SheetJob.h"
 #include "pieces/frmBMP.h"
 #include "pieces/MadePicture.h"
-#include "platform/Desktop.h"
-#include "platform/Printer.h"
+#include "platform/printing/Printer.h"
 #include "render/PiecePlace.h"
 #include "services/basErrLog.h"
+#include "services/Desktop.h"
 
 namespace {
 

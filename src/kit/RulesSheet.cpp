@@ -3,7 +3,7 @@
 #include "board/basPositTables.h"
 #include "document/basTAVL.h"
 #include "kit/SheetJob.h"
-#include "platform/Printer.h"
+#include "platform/printing/Printer.h"
 #include "render/clsRenderDestination.h"
 
 namespace {

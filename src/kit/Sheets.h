@@ -2,7 +2,7 @@
 #pragma once
 
 #include "kit/SheetJob.h"
-#include "platform/Printer.h"
+#include "platform/printing/Printer.h"
 
 #include <QSizeF>
 #include <QString>

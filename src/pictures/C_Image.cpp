@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "pictures/C_Image.h"
 
-#include "platform/Desktop.h"
-#include "platform/Files.h"
-#include "platform/Folders.h"
-#include "platform/ProgramSettings.h"
+#include "platform/files/Files.h"
+#include "platform/files/Folders.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
 #include "services/basMsgQueue.h"
+#include "services/Desktop.h"
+#include "services/ProgramSettings.h"
 #include "services/RecordText.h"
 
 #include <QSet>

@@ -3,8 +3,8 @@
 
 #include "pictures/PictureOwner.h"
 #include "pictures/PictureRef.h"
-#include "platform/Color.h"
-#include "platform/Picture.h"
+#include "platform/paint/Color.h"
+#include "platform/paint/Picture.h"
 
 #include <QString>
 

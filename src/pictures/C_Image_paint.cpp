@@ -3,14 +3,15 @@
 
 #include "drawing/basBMP.h"
 #include "drawing/basBMP_metafile.h"
-#include "platform/Desktop.h"
-#include "platform/Folders.h"
-#include "platform/LoadPicture.h"
-#include "platform/Numbers.h"
-#include "platform/PictureHolder.h"
+#include "platform/files/Folders.h"
+#include "platform/paint/Units.h"
+#include "platform/pictures/LoadPicture.h"
+#include "platform/pictures/PictureHolder.h"
+#include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
 #include "services/basMsgQueue.h"
 #include "services/basPath.h"
+#include "services/Desktop.h"
 
 #include <algorithm>
 #include <cmath>
@@ -155,7 +156,7 @@ bool C_Image::PaintPictureZoomed(Surface& objDest, PictureHolder& picOriginal, S
     if (LoadOrTell(wanted).IsNull() || !ReloadOrTell(picOriginal, wanted)) return false;
 
     const bool twips = ScaleMode == ScaleModeKind::Twips;
-    const double perPixel = twips ? Screen::kTwipsPerPixel : 1;
+    const double perPixel = twips ? kTwipsPerPixel : 1;
     const int lW = CLng(picOriginal.Width(ScaleMode) / perPixel);
     const int lH = CLng(picOriginal.Height(ScaleMode) / perPixel);
     if (m_ref.iXCenter == 0 && m_ref.iYCenter == 0) {

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "pictures/C_Image.h"
-#include "platform/Desktop.h"
-#include "platform/Files.h"
-#include "platform/Folders.h"
-#include "platform/LoadPicture.h"
-#include "platform/Surface.h"
+#include "platform/files/Files.h"
+#include "platform/files/Folders.h"
+#include "platform/paint/Surface.h"
+#include "platform/pictures/LoadPicture.h"
 #include "services/basErrLog.h"
 #include "services/basMsgQueue.h"
 #include "services/basPath.h"
+#include "services/Desktop.h"
 
 #include <QHash>
 

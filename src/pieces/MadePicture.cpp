@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "pieces/MadePicture.h"
 
-#include "platform/Files.h"
-#include "platform/LoadPicture.h"
-#include "platform/Surface.h"
+#include "platform/files/Files.h"
+#include "platform/paint/Surface.h"
+#include "platform/pictures/LoadPicture.h"
 #include "services/basErrLog.h"
 #include "services/basPath.h"
 

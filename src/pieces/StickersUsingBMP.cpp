@@ -5,18 +5,17 @@
 #include "drawing/DrawDottedBox.h"
 #include "pieces/frmBMP.h"
 #include "pieces/MadePicture.h"
-#include "platform/Desktop.h"
-#include "platform/Numbers.h"
-#include "platform/Surface.h"
+#include "platform/paint/Surface.h"
+#include "platform/text/Numbers.h"
 #include "render/clsRenderDestination.h"
 #include "services/basErrLog.h"
+#include "services/Desktop.h"
 
 #include <QRect>
 
 namespace {
 
 constexpr double kDashInches = 0.05;
-constexpr double kTwipsPerInch = 1440;
 
 // The wording is that of banknotes; it stands for stickers too.
 bool TellNotMade() {

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "pictures/C_Image.h"
-#include "platform/Files.h"
-#include "platform/PictureHolder.h"
+#include "platform/files/Files.h"
+#include "platform/pictures/PictureHolder.h"
 
 #include <array>
 #include <functional>

@@ -5,17 +5,15 @@
 #include "document/basTAVL.h"
 #include "drawing/basDraw.h"
 #include "drawing/clsBMP.h"
-#include "platform/LoadPicture.h"
-#include "platform/Numbers.h"
-#include "platform/RecordingForm.h"
-#include "platform/Screen.h"
-#include "platform/Surface.h"
+#include "platform/paint/RecordingForm.h"
+#include "platform/paint/Surface.h"
+#include "platform/pictures/LoadPicture.h"
+#include "platform/text/Numbers.h"
 #include "render/clsRenderDestination.h"
 #include "services/basErrLog.h"
 
 namespace {
 
-constexpr double kFormDpi = 96;
 constexpr double kLargestFactor = 3.0;
 // What the title of a maximised window takes of the screen's height.
 constexpr int kMarginHeight = 24;
@@ -46,22 +44,22 @@ double Size(LabelSize size) { return basTAVL::g_dblLabelSizes(size); }
 
 // How many times 96 dots an inch a length can be drawn at on so many pixels of a surface.
 double FactorFor(double dblInches, double largest, int lMax) {
-    const int lNeed = CLng(dblInches * kFormDpi * largest);
+    const int lNeed = CLng(dblInches * kScreenDotsPerInch * largest);
     return lNeed > lMax ? lMax * largest / lNeed : largest;
 }
 
 double StickerFactor(double dblHeight) {
-    return FactorFor(dblHeight, kLargestFactor, Screen::SurfaceLimit().height() - kMarginHeight);
+    return FactorFor(dblHeight, kLargestFactor, ScratchForm::LargestSize().height() - kMarginHeight);
 }
 
 // A note is wider than high, so its width may be what doesn't fit.
 double MoneyFactor() {
-    const QSize room = Screen::SurfaceLimit() - QSize(kMoneyMargin, kMoneyMargin);
+    const QSize room = ScratchForm::LargestSize() - QSize(kMoneyMargin, kMoneyMargin);
     return std::min(FactorFor(kNoteWidth, kMoneyFactor, room.width()),
                     FactorFor(kNoteHeight, kMoneyFactor, room.height()));
 }
 
-int PixelsOf(double dblInches, double factor) { return CLng(dblInches * kFormDpi * factor); }
+int PixelsOf(double dblInches, double factor) { return CLng(dblInches * kScreenDotsPerInch * factor); }
 
 } // namespace
 
@@ -82,7 +80,7 @@ bool frmBMP::WritePiece(const QString& sFullPathDest, QSize size, double dblDPI,
 bool frmBMP::GenerateCornerImage(const QString& sFullPathDest, int iCorner) try {
     const double factor = StickerFactor(Size(kCorner));
     const int lSide = PixelsOf(Size(kCorner), factor);
-    return WritePiece(sFullPathDest, QSize(lSide, lSide), factor * kFormDpi, [=](Surface& form) {
+    return WritePiece(sFullPathDest, QSize(lSide, lSide), factor * kScreenDotsPerInch, [=](Surface& form) {
         form.Line(0, 0, lSide, lSide, basTAVL::g_lPrintBack(), LineForm::FilledBox);
         clsRenderDestination sticker;
         sticker.Init(form, factor);
@@ -97,7 +95,7 @@ bool frmBMP::GenerateCornerImage(const QString& sFullPathDest, int iCorner) try 
 bool frmBMP::GenerateSpaceStickerImage(const QString& sFullPathDest, int iSpace) try {
     const double factor = StickerFactor(Size(kHeight));
     const QSize size(PixelsOf(Size(kWidth), factor), PixelsOf(Size(kHeight), factor));
-    return WritePiece(sFullPathDest, size, factor * kFormDpi, [=](Surface& form) {
+    return WritePiece(sFullPathDest, size, factor * kScreenDotsPerInch, [=](Surface& form) {
         form.Line(0, 0, size.width(), size.height(), basTAVL::g_lPrintBack(), LineForm::FilledBox);
         clsRenderDestination sticker;
         sticker.Init(form, factor);
@@ -155,7 +153,7 @@ void DrawFullSpace(Surface& form, int iSpace, double factor) {
 bool frmBMP::GenerateSpaceFullImage(const QString& sFullPathDest, int iSpace) try {
     const double factor = StickerFactor(Size(kFullHeight));
     const QSize size(PixelsOf(Size(kFullWidth), factor), PixelsOf(Size(kFullHeight), factor));
-    return WritePiece(sFullPathDest, size, factor * kFormDpi,
+    return WritePiece(sFullPathDest, size, factor * kScreenDotsPerInch,
                       [=](Surface& form) { DrawFullSpace(form, iSpace, factor); });
 } catch (...) {
     ErrTail("frmBMP!", "GenerateSpaceFullImage", sFullPathDest, iSpace);
@@ -164,8 +162,8 @@ bool frmBMP::GenerateSpaceFullImage(const QString& sFullPathDest, int iSpace) tr
 bool frmBMP::GenerateMoneyImage(const QString& sFullPathDest, int iMoney) try {
     const double factor = MoneyFactor();
     const QSize size(PixelsOf(kNoteWidth, factor), PixelsOf(kNoteHeight, factor));
-    return WritePiece(sFullPathDest, size, factor * kFormDpi, [=](Surface& form) {
-        basTAVL::g_oMoney(iMoney).DrawMoney(form, factor * kFormDpi, 0, 0, true, true, false);
+    return WritePiece(sFullPathDest, size, factor * kScreenDotsPerInch, [=](Surface& form) {
+        basTAVL::g_oMoney(iMoney).DrawMoney(form, factor * kScreenDotsPerInch, 0, 0, true, true, false);
     });
 } catch (...) {
     ErrTail("frmBMP!", "GenerateMoneyImage", sFullPathDest, iMoney);

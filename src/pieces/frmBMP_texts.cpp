@@ -5,16 +5,15 @@
 #include "document/basTAVL.h"
 #include "drawing/basDraw.h"
 #include "drawing/clsBMP.h"
-#include "platform/LoadPicture.h"
-#include "platform/Numbers.h"
-#include "platform/RecordingForm.h"
-#include "platform/Screen.h"
-#include "platform/Surface.h"
+#include "platform/paint/RecordingForm.h"
+#include "platform/paint/Surface.h"
+#include "platform/paint/Units.h"
+#include "platform/pictures/LoadPicture.h"
+#include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
 
 namespace {
 
-constexpr double kFormDpi = 96;
 constexpr double kLargestFactor = 3.0;
 constexpr int kMarginWidth = 8;
 constexpr int kMarginHeight = 24;
@@ -51,19 +50,20 @@ void UseSize(Surface& form, double size) { form.SetFontSize(size > 0 ? size : 1)
 
 // How many times 96 dots an inch a box can be drawn at on the largest surface.
 double FactorFor(double dblwInches, double dblhInches) {
-    const QSize limit = Screen::SurfaceLimit();
+    const QSize limit = ScratchForm::LargestSize();
     const int lMaxW = limit.width() - kMarginWidth;
     const int lMaxH = limit.height() - kMarginHeight;
     double factor = kLargestFactor;
-    const int lNeedW = CLng(factor * dblwInches * kFormDpi);
+    const int lNeedW = CLng(factor * dblwInches * kScreenDotsPerInch);
     if (lNeedW > lMaxW) factor = lMaxW * factor / lNeedW;
-    const int lNeedH = CLng(factor * dblhInches * kFormDpi);
+    const int lNeedH = CLng(factor * dblhInches * kScreenDotsPerInch);
     if (lNeedH > lMaxH) factor = lMaxH * factor / lNeedH;
     return factor;
 }
 
 QSize BoxOf(double dblwInches, double dblhInches, double factor) {
-    return {std::max(CLng(factor * dblwInches * kFormDpi), 1), std::max(CLng(factor * dblhInches * kFormDpi), 1)};
+    return {std::max(CLng(factor * dblwInches * kScreenDotsPerInch), 1),
+            std::max(CLng(factor * dblhInches * kScreenDotsPerInch), 1)};
 }
 
 /// A block of lines fitted into a box of pixels.
@@ -117,8 +117,8 @@ bool frmBMP::GenerateTextImage(const QString& sFullPathDest, double dblwInches, 
     const QSize box = BoxOf(dblwInches, dblhInches, factor);
     const TextStyle style{sFamily, bBold, bItalic, lForeColor, lBackColor};
     const QStringList lines = sText.split(QStringLiteral("\r\n"));
-    const FittedBlock block = FitBlock(lines, style, box, CLng(factor * dblSize * kFormDpi));
-    return WritePiece(sFullPathDest, box, factor * kFormDpi,
+    const FittedBlock block = FitBlock(lines, style, box, CLng(factor * dblSize * kScreenDotsPerInch));
+    return WritePiece(sFullPathDest, box, factor * kScreenDotsPerInch,
                       [&](Surface& form) { DrawBlock(form, lines, style, box, block); });
 } catch (...) {
     ErrTail("frmBMP!", "GenerateTextImage", sFullPathDest, dblwInches, dblhInches, sText, sFamily, bBold, bItalic,
@@ -161,7 +161,7 @@ bool frmBMP::GenerateStretchedTextImage(const QString& sFullPathDest, double dbl
     const TextStyle style{sFamily, bBold, bItalic, lForeColor, lBackColor};
     const QString line = basTAVL::CRLF2Space(sText);
     const int lWidth = StretchedWidth(line, style, box, bStretch);
-    return WritePiece(sFullPathDest, box, factor * kFormDpi,
+    return WritePiece(sFullPathDest, box, factor * kScreenDotsPerInch,
                       [&](Surface& form) { DrawStretched(form, line, style, box, lWidth); });
 } catch (...) {
     ErrTail("frmBMP!", "GenerateStretchedTextImage", sFullPathDest, dblwInches, dblhInches, sText, sFamily, bBold,
@@ -194,8 +194,8 @@ struct FoldedLine {
 };
 
 FoldedLine Fold(const QString& sText, const TextStyle& style, double dblwInches, double dblhInches) {
-    const QSize limit = Screen::SurfaceLimit();
-    constexpr double kTwips = Screen::kTwipsPerPixel;
+    const QSize limit = ScratchForm::LargestSize();
+    constexpr double kTwips = kTwipsPerPixel;
     const int lMaxW = std::max(CLng((limit.width() * kTwips - kMarginTwipsAcross) / kTwips), 1);
     const int lMaxH = std::max(CLng((limit.height() * kTwips - kMarginTwipsDown) / kTwips), 2);
     ScratchForm probe(QSize(1, 1));

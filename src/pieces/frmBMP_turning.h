@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/Color.h"
-#include "platform/Picture.h"
+#include "platform/paint/Color.h"
+#include "platform/paint/Picture.h"
 
 #include <QPoint>
 

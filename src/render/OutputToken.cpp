@@ -3,8 +3,8 @@
 
 #include "document/basTAVL.h"
 #include "drawing/basDraw.h"
-#include "platform/PictureHolder.h"
-#include "platform/Surface.h"
+#include "platform/paint/Surface.h"
+#include "platform/pictures/PictureHolder.h"
 #include "render/PiecePlace.h"
 #include "services/basErrLog.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/Numbers.h"
+#include "platform/text/Numbers.h"
 #include "render/clsRenderDestination.h"
 
 #include <QRect>

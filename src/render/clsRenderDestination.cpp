@@ -3,17 +3,15 @@
 
 #include "board/basPositTables.h"
 #include "drawing/DrawDottedBox.h"
-#include "platform/Folders.h"
-#include "platform/LoadPicture.h"
-#include "platform/Numbers.h"
-#include "platform/Surface.h"
+#include "platform/files/Folders.h"
+#include "platform/paint/Surface.h"
+#include "platform/pictures/LoadPicture.h"
+#include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
 #include "services/basPath.h"
 
 namespace {
 
-constexpr double kTwipsPerInch = 1440;
-constexpr double kWindowDpi = 96;
 constexpr double kProbeSize = 0.25;
 
 constexpr double kLegendLineInches = 0.1;
@@ -26,7 +24,7 @@ constexpr double kRingInches = 0.01;
 void clsRenderDestination::Init(Surface& oDest, double dblScale) try {
     m_oDest = &oDest;
     oDest.FontTransparent = true;
-    dblDPI = kWindowDpi;
+    dblDPI = kScreenDotsPerInch;
     m_dblFontFactor = 1.0;
     if (oDest.IsPrinter()) {
         dblDPI = kTwipsPerInch / oDest.TwipsPerPixelX();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/Color.h"
+#include "platform/paint/Color.h"
 
 #include <QString>
 #include <QStringList>

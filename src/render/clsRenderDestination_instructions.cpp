@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "render/clsRenderDestination.h"
 
-#include "platform/Desktop.h"
-#include "platform/Folders.h"
-#include "platform/Numbers.h"
-#include "platform/TextFile.h"
+#include "platform/files/Folders.h"
+#include "platform/files/TextFile.h"
+#include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
 #include "services/basPath.h"
+#include "services/Desktop.h"
 
 namespace {
 

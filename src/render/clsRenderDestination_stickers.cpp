@@ -2,9 +2,9 @@
 #include "render/clsRenderDestination.h"
 
 #include "document/basTAVL.h"
-#include "platform/Numbers.h"
-#include "platform/PictureHolder.h"
-#include "platform/Surface.h"
+#include "platform/paint/Surface.h"
+#include "platform/pictures/PictureHolder.h"
+#include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
 
 namespace {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "services/RecordText.h"
 
-#include "platform/Numbers.h"
+#include "platform/text/Numbers.h"
 #include "services/basCommon.h"
 #include "services/TavloraError.h"
 

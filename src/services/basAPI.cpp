@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "services/basAPI.h"
 
-#include "platform/Folders.h"
-#include "platform/Screen.h"
+#include "platform/files/Folders.h"
 #include "services/basErrLog.h"
 #include "services/basPath.h"
 
@@ -16,10 +15,6 @@ bool GetOsVersion(int& lMajor, int& lMinor, int& lBuild, int& lPlatform) {
     lPlatform = version.platform;
     return true;
 }
-
-int FrameBorderThicknessX() { return Screen::FrameBorder().width(); }
-int FrameBorderThicknessY() { return Screen::FrameBorder().height(); }
-int ScreenBitsPerPixel() { return Screen::BitsPerPixel(); }
 
 double FreeSpaceOnDisk(const QString& sRoot) try {
     const bool native = basCommon::PathFamilyOf(sRoot) == basCommon::PathFamily::Native;

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "services/basCommon.h"
 
-#include "platform/Desktop.h"
-#include "platform/Numbers.h"
-#include "platform/ProfileFile.h"
-#include "platform/ProgramSettings.h"
-#include "platform/Screen.h"
+#include "platform/files/ProfileFile.h"
+#include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
 #include "services/basMsgQueue.h"
+#include "services/Desktop.h"
+#include "services/ProgramSettings.h"
 
 #include <QSet>
 
@@ -128,8 +127,6 @@ QString InsertLineBreaks(const QString& sText) {
     }
     return text;
 }
-
-void ShowEntireForm(QWidget& objForm) { Screen::PlaceAtFraction(objForm, 1.0 / 4, 1.0 / 3); }
 
 void ResetForTest() {
     IniPath().clear();

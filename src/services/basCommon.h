@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/Color.h"
+#include "platform/paint/Color.h"
 #include "services/basPath.h"
 
 #include <QString>
 
-class QWidget;
-
-/// What everybody needs: the settings file, colour strings, line breaks of record text, placing of windows.
+/// What everybody needs: the settings file, colour strings, line breaks of record text; windowing/basCommon_forms.h
+/// has the placing of windows.
 namespace basCommon {
 
 /// Fixes the settings file, in the My Games directory and named after the program; before any access to it.
@@ -41,9 +40,6 @@ Color GetColorFromString(QString&& sColor);
 
 /// Record text with backslash escapes undone: \n a line break, \q a double quote, \\ one backslash.
 QString InsertLineBreaks(const QString& sText);
-
-/// Places a window a quarter of the free width from the left and a third of the free height from the top.
-void ShowEntireForm(QWidget& objForm);
 
 /// For tests: as before InitIniPath, with nothing told.
 void ResetForTest();

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "services/basErrLog.h"
 
-#include "platform/Desktop.h"
-#include "platform/Files.h"
-#include "platform/ProgramSettings.h"
+#include "platform/files/Files.h"
 #include "services/basPath.h"
+#include "services/Desktop.h"
+#include "services/ProgramSettings.h"
 
 #include <QDateTime>
 #include <QMimeData>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "services/basGetFolderPath.h"
 
-#include "platform/Folders.h"
+#include "platform/files/Folders.h"
 
 namespace basGetFolderPath {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "services/basMsgQueue.h"
 
-#include "platform/Desktop.h"
+#include "services/Desktop.h"
 
 #include <QList>
 #include <QStringList>

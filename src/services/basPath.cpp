@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "services/basPath.h"
 
-#include "platform/Desktop.h"
-#include "platform/Files.h"
-#include "platform/Folders.h"
-#include "platform/ProgramSettings.h"
+#include "platform/files/Files.h"
+#include "platform/files/Folders.h"
 #include "services/basGetFolderPath.h"
+#include "services/Desktop.h"
+#include "services/ProgramSettings.h"
 #include "services/TavloraError.h"
 
 namespace basCommon {

@@ -9,13 +9,13 @@
 #include "game/GameSession.h"
 #include "kit/Sheets.h"
 #include "pieces/frmBMP.h"
-#include "platform/Console.h"
-#include "platform/Files.h"
-#include "platform/Folders.h"
-#include "platform/ProgramSettings.h"
-#include "platform/SavePicture.h"
+#include "platform/files/Console.h"
+#include "platform/files/Files.h"
+#include "platform/files/Folders.h"
+#include "platform/pictures/SavePicture.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
+#include "services/ProgramSettings.h"
 #include "tools/PrintArguments.h"
 #include "tools/PrintDesktop.h"
 #include "tools/PrintPieces.h"
@@ -52,7 +52,7 @@ void PrepareSettings(const PrintArguments& arguments, const QString& sPrivateFol
     if (settings.sRelativePictureBase.isEmpty()) settings.sRelativePictureBase = userFolder;
     if (settings.sIniDirectory.isEmpty()) settings.sIniDirectory = userFolder;
     settings.bIniReadOnly = true;
-    if (!arguments.sData.isEmpty()) settings.sProgramDirectory = Console::CompletePath(arguments.sData);
+    if (!arguments.sData.isEmpty()) Folders::SetProgramDirectory(Console::CompletePath(arguments.sData));
     basErrLog::ErrInit(0);
     basCommon::InitIniPath();
     if (arguments.sVariant.isEmpty()) {

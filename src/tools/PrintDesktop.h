@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/Desktop.h"
+#include "services/Desktop.h"
 
 #include <functional>
 

@@ -8,8 +8,8 @@
 #include "pieces/frmBMP.h"
 #include "pieces/MadePicture.h"
 #include "pieces/TitlePictures.h"
-#include "platform/LoadPicture.h"
-#include "platform/SavePicture.h"
+#include "platform/pictures/LoadPicture.h"
+#include "platform/pictures/SavePicture.h"
 #include "services/basPath.h"
 
 namespace {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/Console.h"
+#include "platform/files/Console.h"
 #include "tools/PrintCommand.h"
 
 #include <QGuiApplication>

@@ -8,12 +8,12 @@
 #include "drawing/basDraw.h"
 #include "game/Autosave.h"
 #include "pieces/frmBMP.h"
-#include "platform/PictureBox.h"
-#include "platform/ProgramSettings.h"
-#include "platform/Screen.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
+#include "services/ProgramSettings.h"
 #include "support/TestFixture.h"
+#include "windowing/PictureBox.h"
+#include "windowing/Screen.h"
 
 #include <QAction>
 #include <QApplication>

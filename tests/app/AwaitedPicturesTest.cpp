@@ -3,7 +3,7 @@
 #include "MainWindowFixture.h"
 #include "support/PictureFiles.h"
 
-#include "platform/LoadPicture.h"
+#include "platform/pictures/LoadPicture.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 
 #include "app/EditorWindows.h"
 #include "board/basTAVL_news.h"
-#include "platform/Files.h"
+#include "platform/files/Files.h"
 
 #include <QPlainTextEdit>
 

@@ -4,6 +4,7 @@
 
 #include "app/GameNames.h"
 #include "game/SampleGames.h"
+#include "platform/files/Folders.h"
 
 namespace {
 
@@ -241,7 +242,7 @@ TEST_F(GameCommandsTest, MissingDefaultGameIsToldAndLeavesTheGameUnderANewName) 
     StartWith(QStringLiteral("Mine.gam"));
     QDir(folder.path()).mkdir(QStringLiteral("program"));
     QFile::copy(QStringLiteral(TAVLORA_DATA_DIR "/Rents_US.dat"), PathOf(QStringLiteral("program/Rents.dat")));
-    Settings().sProgramDirectory = PathOf(QStringLiteral("program"));
+    Folders::SetProgramDirectory(PathOf(QStringLiteral("program")));
     ChooseMenu("mnuFile_0");
     ASSERT_FALSE(desktop.boxes.isEmpty());
     EXPECT_TRUE(desktop.boxes[0].sText.contains(QStringLiteral("opening the file")));

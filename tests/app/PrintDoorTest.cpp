@@ -4,7 +4,7 @@
 
 #include "app/EditorWindows.h"
 #include "pieces/frmBMP.h"
-#include "platform/Folders.h"
+#include "platform/files/Folders.h"
 #include "support/ModalSteps.h"
 #include "support/TestPrinter.h"
 

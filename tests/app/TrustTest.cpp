@@ -2,7 +2,7 @@
 // Nothing that anybody has done is ever lost: whatever fails on the disk, and wherever the program ends.
 #include "AppFixture.h"
 
-#include "platform/Files.h"
+#include "platform/files/Files.h"
 
 #include <QDirIterator>
 #include <QStorageInfo>

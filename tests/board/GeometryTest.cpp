@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/Numbers.h"
+#include "platform/text/Numbers.h"
 #include "support/BoardFixture.h"
 
 using namespace basPosit;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "board/basTAVL_news.h"
-#include "platform/Printer.h"
-#include "platform/Surface.h"
+#include "platform/paint/Surface.h"
+#include "platform/printing/Printer.h"
 #include "support/GameFixture.h"
 #include "support/Ink.h"
 

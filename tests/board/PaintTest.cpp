@@ -3,9 +3,10 @@
 
 #include "board/BoardPicture.h"
 #include "pieces/frmBMP.h"
-#include "platform/LoadPicture.h"
-#include "platform/Numbers.h"
-#include "platform/Surface.h"
+#include "platform/files/Folders.h"
+#include "platform/paint/Surface.h"
+#include "platform/pictures/LoadPicture.h"
+#include "platform/text/Numbers.h"
 #include "support/BoardFixture.h"
 #include "support/PaintedBoard.h"
 
@@ -168,7 +169,7 @@ TEST_F(PaintTest, Edge_FixedCornerShowsTheKitsPictureAndNeverItsText) {
         SetCorner(3, kWord);
         const bool fixed = g_sGameVersion() != QStringLiteral("2");
         EXPECT_EQ(Paint().Has(corner, Color::Black()), !fixed) << version;
-        const QString fate = Settings().sProgramDirectory + QStringLiteral("/fate.dat");
+        const QString fate = Folders::ProgramDirectory() + QStringLiteral("/fate.dat");
         EXPECT_EQ(g_oCorners(3).Image.FullPath() == fate, fixed) << version;
         g_oCorners(3).Image.Let_FullPath(QString());
     }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "document/Locale.h"
-#include "platform/Desktop.h"
-#include "platform/Files.h"
-#include "platform/Numbers.h"
+#include "platform/files/Files.h"
+#include "platform/text/Numbers.h"
+#include "services/Desktop.h"
 #include "support/BoardFixture.h"
 
 #include <QFile>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "document/Game.h"
 
-#include "platform/ProgramSettings.h"
+#include "services/ProgramSettings.h"
 #include "support/GameFixture.h"
 
 #include <QFile>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "support/GameFixture.h"
 
-#include "platform/Desktop.h"
-#include "platform/Numbers.h"
+#include "platform/text/Numbers.h"
+#include "services/Desktop.h"
 
 namespace {
 

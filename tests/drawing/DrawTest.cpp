@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "drawing/basDraw.h"
 
-#include "platform/Numbers.h"
-#include "platform/Surface.h"
+#include "platform/paint/Surface.h"
+#include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
 #include "support/TestFixture.h"
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "drawing/basBMP.h"
 
-#include "platform/BinaryFile.h"
-#include "platform/Files.h"
-#include "platform/LoadPicture.h"
+#include "platform/files/BinaryFile.h"
+#include "platform/files/Files.h"
+#include "platform/pictures/LoadPicture.h"
 #include "services/TavloraError.h"
 #include "support/PictureFiles.h"
 #include "support/TestFixture.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "drawing/basBMP_metafile.h"
 #include "drawing/basBMP.h"
-#include "platform/DeviceContext.h"
+#include "platform/paint/DeviceContext.h"
 #include "support/MetafileBuilder.h"
 #include "support/TestFixture.h"
 

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "drawing/clsBMP.h"
 
-#include "platform/Files.h"
-#include "platform/LoadPicture.h"
-#include "platform/Recording.h"
-#include "platform/Screen.h"
-#include "platform/Surface.h"
+#include "platform/files/Files.h"
+#include "platform/paint/Recording.h"
+#include "platform/paint/Surface.h"
+#include "platform/pictures/LoadPicture.h"
 #include "services/TavloraError.h"
 #include "support/PictureFiles.h"
 #include "support/TestFixture.h"
@@ -24,7 +23,7 @@ constexpr QRgb kBlack = 0xFF000000;
 class clsBMPTest : public TavloraTest {
 protected:
     clsBMPTest() { ForgetPictures(); }
-    ~clsBMPTest() override { Screen::SetSurfaceLimit(QSize(3840, 2160)); }
+    ~clsBMPTest() override { ScratchForm::SetLargestSize(QSize(3840, 2160)); }
 
     QImage Loaded(const QString& sPath) {
         QString error;
@@ -141,7 +140,7 @@ TEST_F(clsBMPTest, TextIsInkOnPaperAtBothDepths) {
 
 TEST_F(clsBMPTest, TextWiderThanASurfaceMayBeComesSmaller) {
     const int wide = TextFile(QStringLiteral("A rather long line"), 24).width();
-    Screen::SetSurfaceLimit(QSize(160, 100));
+    ScratchForm::SetLargestSize(QSize(160, 100));
     const QImage image = TextFile(QStringLiteral("A rather long line"), 24);
     EXPECT_EQ(image.width(), 160);
     EXPECT_EQ(image.height(), int(40 * 160.0 / wide));

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "support/FileFixture.h"
 
-#include "platform/Files.h"
+#include "platform/files/Files.h"
 
 namespace {
 

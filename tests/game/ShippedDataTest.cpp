@@ -3,8 +3,9 @@
 #include "support/FileFixture.h"
 
 #include "game/SampleGames.h"
-#include "platform/LoadPicture.h"
-#include "platform/TextFile.h"
+#include "platform/files/Folders.h"
+#include "platform/files/TextFile.h"
+#include "platform/pictures/LoadPicture.h"
 
 namespace {
 
@@ -12,7 +13,7 @@ class ShippedDataTest : public GameFileTest {
 protected:
     ShippedDataTest() {
         basPosit::ResetForTest();
-        Settings().sProgramDirectory = QStringLiteral(TAVLORA_DATA_DIR);
+        Folders::SetProgramDirectory(QStringLiteral(TAVLORA_DATA_DIR));
     }
     static QString Shipped(const QString& name) { return QStringLiteral(TAVLORA_DATA_DIR "/") + name; }
 };

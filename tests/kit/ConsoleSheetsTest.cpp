@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "kit/ConsoleSheets.h"
 
-#include "platform/Desktop.h"
+#include "services/Desktop.h"
 #include "support/TestFixture.h"
 
 namespace {

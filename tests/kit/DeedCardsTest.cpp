@@ -4,7 +4,7 @@
 
 #include "board/basPositRents.h"
 #include "board/basPositTables.h"
-#include "platform/Numbers.h"
+#include "platform/text/Numbers.h"
 #include "render/clsRenderDestination.h"
 #include "support/SheetFixture.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The play money as a reader of the printed page finds it.
 #include "kit/Sheets.h"
-#include "platform/PicturePrinter.h"
+#include "platform/printing/PicturePrinter.h"
 #include "support/SheetFixture.h"
 
 namespace {

@@ -4,7 +4,7 @@
 
 #include "board/basPositFit.h"
 #include "kit/Sheets.h"
-#include "platform/Numbers.h"
+#include "platform/text/Numbers.h"
 #include "render/clsRenderDestination.h"
 #include "support/SheetFixture.h"
 

@@ -3,7 +3,7 @@
 #include "kit/Sheets.h"
 
 #include "kit/ConsoleSheets.h"
-#include "platform/PicturePrinter.h"
+#include "platform/printing/PicturePrinter.h"
 #include "support/TestFixture.h"
 #include "support/ToldSheets.h"
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "pictures/C_Image.h"
 #include "pieces/frmBMP.h"
-#include "platform/Files.h"
-#include "platform/LoadPicture.h"
-#include "platform/PictureHolder.h"
-#include "platform/ProgramSettings.h"
+#include "platform/files/Files.h"
+#include "platform/files/Folders.h"
+#include "platform/pictures/LoadPicture.h"
+#include "platform/pictures/PictureHolder.h"
 #include "services/basErrLog.h"
 #include "services/basMsgQueue.h"
 #include "services/TavloraError.h"
@@ -310,7 +310,7 @@ TEST_F(C_ImagePaintTest, BoardShowsTheThumbnailAndAFinerRenderingWhereItIsLarge)
 }
 
 TEST_F(C_ImagePaintTest, FateIsPaintedFromTheKit) {
-    Settings().sProgramDirectory = folder.path();
+    Folders::SetProgramDirectory(folder.path());
     const QString fate = Photo(QStringLiteral("fate.dat"), 40, 40);
     C_Image image;
     image.Init(WriteFile(QStringLiteral("q.png"), Encoded(Quarters(40, 40), "png")), QStringLiteral("Corner"), 3);

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "pictures/C_Image.h"
 
-#include "platform/Files.h"
-#include "platform/ProgramSettings.h"
+#include "platform/files/Files.h"
+#include "platform/files/Folders.h"
+#include "services/ProgramSettings.h"
 #include "services/TavloraError.h"
 #include "support/TestFixture.h"
 
@@ -48,7 +49,7 @@ TEST_F(C_ImageTest, Edge_CentreIsRoundedWithHalvesToEven) {
 TEST_F(C_ImageTest, Edge_CornerThreeOfKitEightHoldsFateWhateverTheRecordSays) {
     QDir(folder.path()).mkdir(QStringLiteral("program"));
     QDir(folder.path()).mkdir(QStringLiteral("games"));
-    Settings().sProgramDirectory = PathOf(QStringLiteral("program"));
+    Folders::SetProgramDirectory(PathOf(QStringLiteral("program")));
     Settings().sMyGamesDirectory = PathOf(QStringLiteral("games"));
     WriteFile(QStringLiteral("program/fate.dat"), "picture");
     Settings().sGameVersion = QStringLiteral("8");
@@ -102,7 +103,7 @@ TEST_F(C_ImageTest, RelativePictureIsLookedForInMyGamesThenBesideTheGameThenInTh
         QDir(folder.path()).mkdir(QString::fromLatin1(name));
     Settings().sMyGamesDirectory = PathOf(QStringLiteral("games"));
     Settings().sGameDirectory = PathOf(QStringLiteral("beside"));
-    Settings().sProgramDirectory = PathOf(QStringLiteral("program"));
+    Folders::SetProgramDirectory(PathOf(QStringLiteral("program")));
     const QString inProgram = Make(QStringLiteral("program/x.bmp"));
     image.Let_RelativePath(QStringLiteral("x.bmp"));
     EXPECT_EQ(image.FullPath(), inProgram);

@@ -2,9 +2,9 @@
 // Where everything stands on a sticker, a banknote and a token, to the dot.
 #include "app/GameKit.h"
 #include "pieces/frmBMP.h"
-#include "platform/LoadPicture.h"
-#include "platform/PictureHolder.h"
-#include "platform/Surface.h"
+#include "platform/paint/Surface.h"
+#include "platform/pictures/LoadPicture.h"
+#include "platform/pictures/PictureHolder.h"
 #include "render/clsRenderDestination.h"
 #include "services/basCommon.h"
 #include "support/GameFixture.h"

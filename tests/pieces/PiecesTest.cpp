@@ -3,11 +3,11 @@
 #include "app/GameKit.h"
 #include "pieces/frmBMP.h"
 #include "pieces/StickersUsingBMP.h"
-#include "platform/Files.h"
-#include "platform/LoadPicture.h"
-#include "platform/Printer.h"
-#include "platform/ProgramSettings.h"
-#include "platform/Screen.h"
+#include "platform/files/Files.h"
+#include "platform/files/Folders.h"
+#include "platform/paint/Surface.h"
+#include "platform/pictures/LoadPicture.h"
+#include "platform/printing/Printer.h"
 #include "render/clsRenderDestination.h"
 #include "services/basCommon.h"
 #include "support/GameFixture.h"
@@ -27,7 +27,7 @@ protected:
     }
     ~PiecesTest() override {
         basCommon::ResetForTest();
-        Screen::SetSurfaceLimit(QSize(3840, 2160));
+        ScratchForm::SetLargestSize(QSize(3840, 2160));
     }
 
     QImage Load(const QString& sPath) {
@@ -70,7 +70,7 @@ TEST_F(PiecesTest, Edge_ANineInchLineNeedsThreeBandsOn1024PixelsAndUnfoldsToTheS
     const QString text = QStringLiteral("Our Own Town, the Game");
     ASSERT_TRUE(Line(file, 9.0, text));
     const QImage whole = Load(file);
-    Screen::SetSurfaceLimit(QSize(1024, 768));
+    ScratchForm::SetLargestSize(QSize(1024, 768));
     const QString folded = PathOf(QStringLiteral("folded.bmp"));
     ASSERT_TRUE(Line(folded, 9.0, text));
     const QImage unfolded = Load(folded);
@@ -81,7 +81,7 @@ TEST_F(PiecesTest, Edge_ANineInchLineNeedsThreeBandsOn1024PixelsAndUnfoldsToTheS
 }
 
 TEST_F(PiecesTest, ALineTooLongForItsSurfaceBecomesLowerAndStaysWhole) {
-    Screen::SetSurfaceLimit(QSize(400, 300));
+    ScratchForm::SetLargestSize(QSize(400, 300));
     ASSERT_TRUE(Line(file, 0, QString(120, u'W')));
     const QImage line = Load(file);
     EXPECT_GT(line.width(), 4 * line.height());
@@ -109,7 +109,7 @@ TEST_F(PiecesTest, ALinesWidthIsTakenAt300DotsAnInchThoughItsHeightIsRounded) {
 }
 
 TEST_F(PiecesTest, PiecesBecomeSmallerOnASurfaceThatIsTooSmallForThem) {
-    Screen::SetSurfaceLimit(QSize(640, 480));
+    ScratchForm::SetLargestSize(QSize(640, 480));
     frmBMP& form = frmBMP::Instance();
     ASSERT_TRUE(form.GenerateCornerImage(file, 0));
     EXPECT_EQ(Load(file).size(), QSize(456, 456)) << "24 pixels are the window's";
@@ -122,7 +122,7 @@ TEST_F(PiecesTest, PiecesBecomeSmallerOnASurfaceThatIsTooSmallForThem) {
     EXPECT_EQ(Load(file).size(), QSize(632, 158));
     ASSERT_TRUE(form.GenerateMoneyImage(file, 0));
     EXPECT_EQ(Load(file).size(), QSize(632, 337)) << "8 pixels are the window's";
-    Screen::SetSurfaceLimit(QSize(1000, 300));
+    ScratchForm::SetLargestSize(QSize(1000, 300));
     ASSERT_TRUE(form.GenerateMoneyImage(file, 0));
     EXPECT_EQ(Load(file).size(), QSize(548, 292));
     ASSERT_TRUE(form.GenerateTokenImage(file, 0));
@@ -199,7 +199,7 @@ TEST_F(PiecesTest, Edge_WithoutAPictureKitEightShowsTheCurrencyOvalAndItsAbsence
         return inked;
     };
     EXPECT_GT(ovalColors(), 500);
-    Settings().sProgramDirectory = folder.path();
+    Folders::SetProgramDirectory(folder.path());
     EXPECT_EQ(ovalColors(), 0);
     EXPECT_TRUE(desktop.boxes.isEmpty());
 }

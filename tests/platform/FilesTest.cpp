@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "platform/Files.h"
+#include "platform/files/Files.h"
 
-#include "platform/BinaryFile.h"
+#include "platform/files/BinaryFile.h"
 #include "support/TestFixture.h"
 
 #ifdef Q_OS_UNIX

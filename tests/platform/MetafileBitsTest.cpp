@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "support/MetafilePlaying.h"
 
-#include "platform/metafile/MetafileBudget.h"
-#include "platform/metafile/MetafileDib.h"
-#include "platform/metafile/MetafileObjects.h"
+#include "platform/pictures/metafile/MetafileBudget.h"
+#include "platform/pictures/metafile/MetafileDib.h"
+#include "platform/pictures/metafile/MetafileObjects.h"
 
 namespace {
 

@@ -2,8 +2,8 @@
 #include "PictureComparison.h"
 #include "support/TestFixture.h"
 
-#include "platform/Files.h"
-#include "platform/Metafile.h"
+#include "platform/files/Files.h"
+#include "platform/pictures/Metafile.h"
 
 #include <QDir>
 #include <QJsonDocument>

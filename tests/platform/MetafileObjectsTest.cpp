@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "support/MetafilePlaying.h"
 
-#include "platform/metafile/MetafileObjects.h"
+#include "platform/pictures/metafile/MetafileObjects.h"
 
 class MetafileObjectsTest : public MetafileTest {};
 

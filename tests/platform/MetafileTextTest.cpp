@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "support/MetafilePlaying.h"
 
-#include "platform/metafile/MetafileCharset.h"
-#include "platform/metafile/MetafileObjects.h"
+#include "platform/pictures/metafile/MetafileCharset.h"
+#include "platform/pictures/metafile/MetafileObjects.h"
 
 namespace {
 

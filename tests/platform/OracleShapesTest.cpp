@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Shapes and lines against the measured behaviour of the old drawing platform.
-#include "platform/DeviceContext.h"
+#include "platform/paint/DeviceContext.h"
 
 #include "support/TestFixture.h"
 

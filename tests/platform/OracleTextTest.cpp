@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Text against the measured behaviour of the old drawing platform.
-#include "platform/DeviceContext.h"
-#include "platform/FontFace.h"
+#include "platform/paint/DeviceContext.h"
+#include "platform/paint/FontFace.h"
 
 #include "support/TestFixture.h"
 

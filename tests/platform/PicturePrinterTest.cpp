@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "platform/PicturePrinter.h"
+#include "platform/printing/PicturePrinter.h"
 
-#include "platform/Screen.h"
 #include "support/TestFixture.h"
+#include "windowing/Screen.h"
 
 #include <QGuiApplication>
 

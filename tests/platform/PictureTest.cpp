@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "platform/LoadPicture.h"
+#include "platform/pictures/LoadPicture.h"
 
-#include "platform/Files.h"
-#include "platform/PictureCache.h"
-#include "platform/PictureDecoder.h"
-#include "platform/Recording.h"
+#include "platform/files/Files.h"
+#include "platform/paint/Recording.h"
+#include "platform/pictures/PictureCache.h"
+#include "platform/pictures/PictureDecoder.h"
 #include "support/PictureFiles.h"
 #include "support/TestFixture.h"
 

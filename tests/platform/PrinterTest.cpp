@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "platform/Printer.h"
-#include "platform/SystemPrinter.h"
+#include "platform/printing/Printer.h"
+#include "windowing/SystemPrinter.h"
 
-#include "platform/DesktopWidgets.h"
-#include "platform/Files.h"
+#include "platform/files/Files.h"
 #include "support/TestFixture.h"
+#include "windowing/DesktopWidgets.h"
 
 #ifdef Q_OS_UNIX
 #include "support/SmallDisk.h"

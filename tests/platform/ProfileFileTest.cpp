@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "platform/ProfileFile.h"
+#include "platform/files/ProfileFile.h"
 
-#include "platform/Files.h"
+#include "platform/files/Files.h"
 #include "support/TestFixture.h"
 
 class ProfileFileTest : public TavloraTest {

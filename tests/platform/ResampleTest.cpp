@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "platform/Resample.h"
+#include "platform/paint/Resample.h"
 
-#include "platform/Picture.h"
-#include "platform/Surface.h"
+#include "platform/paint/Picture.h"
+#include "platform/paint/Surface.h"
 #include "support/TestFixture.h"
 
 #include <QColor>

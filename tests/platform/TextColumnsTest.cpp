@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/TextColumns.h"
+#include "platform/text/TextColumns.h"
 
 #include <gtest/gtest.h>
 

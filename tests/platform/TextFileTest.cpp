@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/TextFile.h"
+#include "platform/files/TextFile.h"
 
 #include "support/TestFixture.h"
 

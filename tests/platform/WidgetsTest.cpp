@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 // Picture boxes, looks with a trap in them, the forms of dialogs, and one program at a time.
-#include "platform/Application.h"
-#include "platform/DesktopWidgets.h"
-#include "platform/PictureBox.h"
-#include "platform/ProgramLock.h"
-#include "platform/WidgetLook.h"
 #include "support/TestFixture.h"
+#include "windowing/Application.h"
+#include "windowing/DesktopWidgets.h"
+#include "windowing/PictureBox.h"
+#include "windowing/ProgramLock.h"
+#include "windowing/WidgetLook.h"
 
 #include <QApplication>
 #include <QLabel>

@@ -2,7 +2,7 @@
 // A build that shows its sheets on the screen: this program holds the print test window as such a build has it.
 #include "windows/ConsoleFixture.h"
 
-#include "platform/PictureBox.h"
+#include "windowing/PictureBox.h"
 #include "windows/print/frmPrintTest.h"
 
 using PreviewTest = ConsoleTest;

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "render/clsRenderDestination.h"
 
-#include "platform/ProgramSettings.h"
-#include "platform/Surface.h"
+#include "platform/files/Folders.h"
+#include "platform/paint/Surface.h"
 #include "services/basErrLog.h"
 #include "support/TestFixture.h"
 
@@ -50,7 +50,7 @@ protected:
     InstructionSheetTest() {
         basErrLog::ResetForTest();
         basErrLog::ErrInit(60000);
-        Settings().sProgramDirectory = folder.path();
+        Folders::SetProgramDirectory(folder.path());
         destination.Init(page, 1.0);
     }
     void PrintRules(const QByteArray& text) {
@@ -153,7 +153,7 @@ TEST_F(InstructionSheetTest, WithoutTheFileItSaysWhatIsMissing) {
 }
 
 TEST_F(InstructionSheetTest, TheShippedRulesFitThePage) {
-    Settings().sProgramDirectory = QStringLiteral(TAVLORA_DATA_DIR);
+    Folders::SetProgramDirectory(QStringLiteral(TAVLORA_DATA_DIR));
     destination.InstructionSheet(names);
     EXPECT_TRUE(desktop.boxes.isEmpty());
     const QRect ink = page.Ink();

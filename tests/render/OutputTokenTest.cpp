@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "render/OutputToken.h"
 
-#include "platform/Files.h"
+#include "platform/files/Files.h"
 #include "render/clsRenderDestination.h"
 #include "support/SheetFixture.h"
 

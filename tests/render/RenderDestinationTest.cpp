@@ -4,9 +4,9 @@
 #include "board/basPositTables.h"
 #include "document/Game.h"
 #include "drawing/DrawDottedBox.h"
-#include "platform/Files.h"
-#include "platform/Printer.h"
-#include "platform/ProgramSettings.h"
+#include "platform/files/Files.h"
+#include "platform/files/Folders.h"
+#include "platform/printing/Printer.h"
 #include "services/basErrLog.h"
 #include "support/TestFixture.h"
 
@@ -247,7 +247,7 @@ TEST_F(RenderDestinationTest, AMissingPictureDrawsNothingAndRaisesNothing) {
 TEST_F(RenderDestinationTest, AnUnknownDirectionEndsTheProgramAndAMissingArrowDoesNot) {
     EXPECT_THROW(destination.Legend(1, 1, QStringLiteral("sideways"), QStringLiteral("x"), Color::Black()),
                  ProgramEnded);
-    Settings().sProgramDirectory = folder.path();
+    Folders::SetProgramDirectory(folder.path());
     form.Cls();
     destination.Legend(1, 1, QStringLiteral("Left"), QStringLiteral("HHH"), Color::Black());
     EXPECT_GE(Ink().left(), 96 + 15);

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "services/basCommon.h"
 
-#include "platform/ProgramSettings.h"
-#include "platform/Screen.h"
 #include "services/basAPI.h"
 #include "services/basErrLog.h"
 #include "services/basMsgQueue.h"
+#include "services/ProgramSettings.h"
 #include "support/TestFixture.h"
+#include "windowing/basAPI_screen.h"
+#include "windowing/basCommon_forms.h"
+#include "windowing/Screen.h"
 
 #include <QApplication>
 #include <QStyle>

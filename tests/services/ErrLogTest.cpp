@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "services/basErrLog.h"
 
-#include "platform/Files.h"
+#include "platform/files/Files.h"
 #include "support/TestFixture.h"
 
 #include <QDateTime>

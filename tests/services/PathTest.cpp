@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "services/basPath.h"
 
-#include "platform/Folders.h"
-#include "platform/ProgramSettings.h"
+#include "platform/files/Folders.h"
 #include "services/basGetFolderPath.h"
+#include "services/ProgramSettings.h"
 #include "services/TavloraError.h"
 #include "support/TestFixture.h"
 

@@ -2,7 +2,8 @@
 #pragma once
 
 #include "board/basPosit.h"
-#include "platform/ProgramSettings.h"
+#include "platform/files/Folders.h"
+#include "services/ProgramSettings.h"
 #include "support/GameFixture.h"
 
 #include <QDir>
@@ -14,7 +15,7 @@ protected:
         basPosit::ResetForTest();
         QDir(folder.path()).mkdir(QStringLiteral("program"));
         QDir(folder.path()).mkdir(QStringLiteral("games"));
-        Settings().sProgramDirectory = PathOf(QStringLiteral("program"));
+        Folders::SetProgramDirectory(PathOf(QStringLiteral("program")));
         Settings().sMyGamesDirectory = PathOf(QStringLiteral("games"));
         WriteRents(28);
     }

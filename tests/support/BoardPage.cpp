@@ -3,7 +3,7 @@
 
 #include "board/basPositPaint.h"
 #include "pieces/frmBMP.h"
-#include "platform/Printer.h"
+#include "platform/printing/Printer.h"
 
 #include <QImage>
 #include <QLineF>

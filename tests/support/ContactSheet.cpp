@@ -4,9 +4,9 @@
 #include "document/basTAVL.h"
 #include "pictures/C_Image.h"
 #include "pieces/frmBMP.h"
-#include "platform/LoadPicture.h"
-#include "platform/ProgramSettings.h"
-#include "platform/Surface.h"
+#include "platform/paint/Surface.h"
+#include "platform/pictures/LoadPicture.h"
+#include "services/ProgramSettings.h"
 #include "support/PictureFiles.h"
 
 #include <QFile>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Ends an application while many large pictures are being decoded. The threads that decode must be done by
 // then: whoever outlives the application meets a toolkit that is half gone.
-#include "platform/LoadPicture.h"
+#include "platform/pictures/LoadPicture.h"
 #include "support/PictureFiles.h"
 
 #include <QFile>

@@ -3,7 +3,7 @@
 
 #include "document/basTAVL.h"
 #include "drawing/basDraw.h"
-#include "platform/DeviceContext.h"
+#include "platform/paint/DeviceContext.h"
 #include "services/basErrLog.h"
 #include "services/TavloraError.h"
 #include "support/TestFixture.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/Color.h"
-#include "platform/metafile/MetafileRecords.h"
+#include "platform/paint/Color.h"
+#include "platform/pictures/metafile/MetafileRecords.h"
 
 #include <QByteArray>
 #include <QImage>

@@ -4,7 +4,7 @@
 #include "support/MetafileBuilder.h"
 #include "support/TestFixture.h"
 
-#include "platform/Metafile.h"
+#include "platform/pictures/Metafile.h"
 
 /// Plays metafiles onto white pictures and asks for single pixels.
 class MetafileTest : public TavloraTest {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "support/PageMarks.h"
 
-#include "platform/Printer.h"
+#include "platform/printing/Printer.h"
 
 #include <QFile>
 #include <QHash>

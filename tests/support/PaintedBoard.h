@@ -2,7 +2,7 @@
 #pragma once
 
 #include "board/basPositTables.h"
-#include "platform/Color.h"
+#include "platform/paint/Color.h"
 
 #include <QImage>
 #include <QRect>

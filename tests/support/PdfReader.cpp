@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "support/PdfReader.h"
 
-#include "platform/Printer.h"
+#include "platform/printing/Printer.h"
 
 #include <QProcess>
 #include <QRegularExpression>

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "support/TestFixture.h"
 
-#include "platform/Files.h"
-#include "platform/ProgramSettings.h"
+#include "platform/files/Files.h"
+#include "platform/files/Folders.h"
+#include "services/ProgramSettings.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -10,11 +11,12 @@
 TavloraTest::TavloraTest() {
     Settings() = ProgramSettings{};
     Settings().sMyGamesDirectory = folder.path();
-    Settings().sProgramDirectory = QStringLiteral(TAVLORA_DATA_DIR);
+    Folders::SetProgramDirectory(QStringLiteral(TAVLORA_DATA_DIR));
 }
 
 TavloraTest::~TavloraTest() {
     Files::SetFaultHook({});
+    Folders::SetProgramDirectory({});
     Settings() = ProgramSettings{};
 }
 

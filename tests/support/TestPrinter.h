@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/PicturePrinter.h"
+#include "platform/printing/PicturePrinter.h"
 
 #include <QList>
 #include <QStringList>

@@ -2,8 +2,8 @@
 #include "tools/PrintCommand.h"
 
 #include "kit/Sheets.h"
-#include "platform/Console.h"
-#include "platform/Files.h"
+#include "platform/files/Console.h"
+#include "platform/files/Files.h"
 #include "support/FileFixture.h"
 #include "support/PdfReader.h"
 #include "tools/PrintArguments.h"

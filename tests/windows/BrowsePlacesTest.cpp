@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "windows/pictures/BrowsePlaces.h"
-#include "platform/Folders.h"
+#include "platform/files/Folders.h"
 #include "support/TestFixture.h"
 
 using namespace BrowsePlaces;

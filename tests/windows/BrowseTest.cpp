@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "platform/ElidedLabel.h"
-#include "platform/Files.h"
-#include "platform/Folders.h"
-#include "platform/LoadPicture.h"
-#include "platform/PictureBox.h"
-#include "platform/Screen.h"
+#include "platform/files/Files.h"
+#include "platform/files/Folders.h"
+#include "platform/pictures/LoadPicture.h"
 #include "support/ModalSteps.h"
 #include "support/PictureFiles.h"
 #include "support/TestFixture.h"
+#include "windowing/ElidedLabel.h"
+#include "windowing/PictureBox.h"
+#include "windowing/Screen.h"
 #include "windows/pictures/frmBrowse.h"
 
 #include <QComboBox>

@@ -8,13 +8,13 @@
 #include "game/GameSession.h"
 #include "kit/ConsoleSheets.h"
 #include "pieces/frmBMP.h"
-#include "platform/Files.h"
-#include "platform/Folders.h"
-#include "platform/Screen.h"
+#include "platform/files/Files.h"
+#include "platform/files/Folders.h"
 #include "services/basCommon.h"
 #include "support/BoardFixture.h"
 #include "support/ModalSteps.h"
 #include "support/TestPrinter.h"
+#include "windowing/Screen.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
@@ -27,7 +27,7 @@ class ConsoleTest : public BoardTest {
 protected:
     ConsoleTest() {
         frmBMP::InstallAsThumbnailMaker();
-        Settings().sProgramDirectory = QStringLiteral(TAVLORA_DATA_DIR);
+        Folders::SetProgramDirectory(QStringLiteral(TAVLORA_DATA_DIR));
         basCommon::InitIniPath();
         basErrLog::ErrInit(60000);
         GameKit::SetUp(QStringLiteral("tavlora"));

@@ -2,7 +2,7 @@
 // The print console as a person works it, with a printer and a disk of the test's making.
 #include "ConsoleFixture.h"
 
-#include "platform/PictureBox.h"
+#include "windowing/PictureBox.h"
 #include "windows/print/frmPrintTest.h"
 
 namespace {

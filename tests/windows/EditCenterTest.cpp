@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "windows/editors/frmEditCenter.h"
 
-#include "platform/PictureBox.h"
 #include "support/EditorFixture.h"
 #include "support/Ink.h"
+#include "windowing/PictureBox.h"
 
 #include <QClipboard>
 #include <QInputMethodEvent>

@@ -3,7 +3,7 @@
 
 #include "board/basPosit.h"
 #include "board/BoardPicture.h"
-#include "platform/PictureBox.h"
+#include "windowing/PictureBox.h"
 #include "windows/EditWindowFixture.h"
 
 #include <QGroupBox>

@@ -2,8 +2,8 @@
 #include "windows/editors/frmEditMoney.h"
 
 #include "pieces/frmBMP.h"
-#include "platform/LoadPicture.h"
-#include "platform/PictureBox.h"
+#include "platform/pictures/LoadPicture.h"
+#include "windowing/PictureBox.h"
 #include "windows/EditWindowFixture.h"
 #include "windows/pictures/frmImagePosition.h"
 

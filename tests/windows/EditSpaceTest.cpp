@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/PictureBox.h"
+#include "windowing/PictureBox.h"
 #include "windows/EditSpaceFixture.h"
 
 #include <QCheckBox>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "windows/editors/frmEditToken.h"
 
-#include "platform/PictureBox.h"
+#include "windowing/PictureBox.h"
 #include "windows/EditWindowFixture.h"
 #include "windows/pictures/frmImagePosition.h"
 

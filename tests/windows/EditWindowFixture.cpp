@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "windows/EditWindowFixture.h"
 
-#include "platform/PictureBox.h"
 #include "services/basPath.h"
 #include "support/PictureFiles.h"
+#include "windowing/PictureBox.h"
 
 #include <QBuffer>
 #include <QDataStream>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "platform/PictureBox.h"
 #include "support/HourGlassWatch.h"
+#include "windowing/PictureBox.h"
 #include "windows/editors/frmEditCorner.h"
 #include "windows/editors/frmEditSpace.h"
 #include "windows/EditWindowFixture.h"

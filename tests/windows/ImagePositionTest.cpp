@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "platform/Files.h"
-#include "platform/LoadPicture.h"
-#include "platform/Numbers.h"
-#include "platform/PictureBox.h"
+#include "platform/files/Files.h"
+#include "platform/pictures/LoadPicture.h"
+#include "platform/text/Numbers.h"
 #include "support/ModalSteps.h"
 #include "support/PictureFiles.h"
 #include "support/TestFixture.h"
+#include "windowing/PictureBox.h"
 #include "windows/pictures/frmBrowse.h"
 #include "windows/pictures/frmImagePosition.h"
 

@@ -5,8 +5,8 @@
 #include "board/basPosit.h"
 #include "board/BoardPicture.h"
 #include "pieces/frmBMP.h"
-#include "platform/PictureHolder.h"
-#include "platform/Surface.h"
+#include "platform/paint/Surface.h"
+#include "platform/pictures/PictureHolder.h"
 #include "support/BoardFixture.h"
 
 #include <QImage>

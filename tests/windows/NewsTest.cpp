@@ -3,10 +3,10 @@
 #include "windows/editors/frmShowNews.h"
 
 #include "board/basTAVL_news.h"
-#include "platform/PictureBox.h"
 #include "support/EditorFixture.h"
 #include "support/HourGlassWatch.h"
 #include "support/Ink.h"
+#include "windowing/PictureBox.h"
 
 #include <QLineEdit>
 #include <QPlainTextEdit>

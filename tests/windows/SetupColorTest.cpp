@@ -3,11 +3,11 @@
 #include "windows/print/frmColor.h"
 
 #include "app/GameKit.h"
-#include "platform/PictureBox.h"
 #include "render/PrintBlackAs.h"
 #include "services/basCommon.h"
 #include "support/GameFixture.h"
 #include "support/ModalSteps.h"
+#include "windowing/PictureBox.h"
 
 #include <QCheckBox>
 #include <QLabel>

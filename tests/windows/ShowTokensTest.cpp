@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "windows/editors/frmShowTokens.h"
 
-#include "platform/PictureBox.h"
-#include "platform/Screen.h"
+#include "platform/paint/Units.h"
 #include "support/ModalSteps.h"
+#include "windowing/PictureBox.h"
 #include "windows/editors/frmEditToken.h"
 #include "windows/EditWindowFixture.h"
 
@@ -58,7 +58,7 @@ protected:
         QTest::keyClicks(editor.focusWidget(), text);
     }
     /// The whole window's, in twips.
-    QSize WindowSize() const { return gallery.frameGeometry().size() * Screen::kTwipsPerPixel; }
+    QSize WindowSize() const { return gallery.frameGeometry().size() * kTwipsPerPixel; }
 
     frmShowTokens gallery;
 };
@@ -66,8 +66,8 @@ protected:
 TEST_F(ShowTokensTest, Edge_AGalleryMadeTooSmallSnapsBack) {
     Show([&] {
         gallery.resize(100, 100);
-        EXPECT_EQ(gallery.size(), QSize(4230, 5730) / Screen::kTwipsPerPixel);
-        EXPECT_EQ(Picture(0).width(), (WindowSize().width() - 1305) / 3 / Screen::kTwipsPerPixel);
+        EXPECT_EQ(gallery.size(), QSize(4230, 5730) / kTwipsPerPixel);
+        EXPECT_EQ(Picture(0).width(), (WindowSize().width() - 1305) / 3 / kTwipsPerPixel);
         EXPECT_EQ(Picture(0).width(), Picture(0).height());
         EXPECT_TRUE(gallery.rect().contains(Find<QWidget>("cmdOK")->geometry()));
     });
@@ -76,7 +76,7 @@ TEST_F(ShowTokensTest, Edge_AGalleryMadeTooSmallSnapsBack) {
 TEST_F(ShowTokensTest, Edge_AWideGalleryKeepsTokensSquare) {
     Show([&] {
         gallery.resize(780, 500);
-        const int side = (WindowSize().height() - 3780) / 2 / Screen::kTwipsPerPixel;
+        const int side = (WindowSize().height() - 3780) / 2 / kTwipsPerPixel;
         for (int i = 0; i < basTAVL::kTokens; ++i)
             EXPECT_EQ(Picture(i).size(), QSize(side, side)) << i;
     });
@@ -88,7 +88,7 @@ TEST_F(ShowTokensTest, TokensStandInTwoRowsAndTheButtonUnderTheLast) {
         const double lSide = std::round((WindowSize().width() - 1305) / 3.0);
         for (int i = 0; i < basTAVL::kTokens; ++i) {
             const QPointF corner((lSide + 240) * (i % kAcross) + 240, (lSide + 240) * (i / kAcross) + 2280);
-            EXPECT_EQ(Picture(i).pos(), (corner / Screen::kTwipsPerPixel).toPoint()) << i;
+            EXPECT_EQ(Picture(i).pos(), (corner / kTwipsPerPixel).toPoint()) << i;
         }
         const QRect last = Picture(5).geometry();
         EXPECT_EQ(Find<QWidget>("cmdOK")->pos(), QPoint(last.x(), last.y() + last.height() + 360 / 15));

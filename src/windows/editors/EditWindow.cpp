@@ -3,10 +3,11 @@
 
 #include "document/basTAVL.h"
 #include "pictures/C_Image.h"
-#include "platform/ElidedLabel.h"
-#include "platform/PictureBox.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
+#include "windowing/basCommon_forms.h"
+#include "windowing/ElidedLabel.h"
+#include "windowing/PictureBox.h"
 #include "windows/editors/HoldFocusBox.h"
 #include "windows/editors/ImageGroup.h"
 #include "windows/editors/Redrawing.h"

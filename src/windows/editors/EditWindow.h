@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/Desktop.h"
-#include "platform/PictureHolder.h"
+#include "platform/pictures/PictureHolder.h"
+#include "services/Desktop.h"
 #include "windows/editors/Likeness.h"
 #include "windows/editors/TypingWindow.h"
 

@@ -2,10 +2,10 @@
 #include "windows/editors/EditWindow.h"
 
 #include "pictures/C_Image.h"
-#include "platform/ButtonKeys.h"
-#include "platform/ElidedLabel.h"
-#include "platform/PictureBox.h"
-#include "platform/WidgetLook.h"
+#include "windowing/ButtonKeys.h"
+#include "windowing/ElidedLabel.h"
+#include "windowing/PictureBox.h"
+#include "windowing/WidgetLook.h"
 #include "windows/editors/HoldFocusBox.h"
 #include "windows/editors/ImageGroup.h"
 

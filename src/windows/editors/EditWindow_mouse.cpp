@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "windows/editors/EditWindow.h"
 
-#include "platform/ElidedLabel.h"
-#include "platform/PictureBox.h"
-#include "platform/Screen.h"
+#include "platform/paint/Units.h"
 #include "services/basErrLog.h"
+#include "windowing/ElidedLabel.h"
+#include "windowing/PictureBox.h"
 #include "windows/editors/HoldFocusBox.h"
 #include "windows/editors/TipLabel.h"
 
@@ -20,12 +20,12 @@ QString TwoLines(const char* first, const char* second) {
     return QString::fromLatin1(first) + QStringLiteral("\r\n") + QString::fromLatin1(second);
 }
 
-QPoint Pixels(float X, float Y) { return {int(X / Screen::kTwipsPerPixel), int(Y / Screen::kTwipsPerPixel)}; }
+QPoint Pixels(float X, float Y) { return {int(X / kTwipsPerPixel), int(Y / kTwipsPerPixel)}; }
 
 } // namespace
 
 Likeness::Spot EditWindow::WhereIsMouse(float X, float Y) try {
-    return m_likeness.WhereIsMouse(*picDest, X / Screen::kTwipsPerPixel, Y / Screen::kTwipsPerPixel);
+    return m_likeness.WhereIsMouse(*picDest, X / kTwipsPerPixel, Y / kTwipsPerPixel);
 } catch (...) {
     ErrTail(m_wording.sModule, "WhereIsMouse", X, Y);
 }

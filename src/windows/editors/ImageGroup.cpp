@@ -2,10 +2,10 @@
 #include "windows/editors/ImageGroup.h"
 
 #include "pictures/C_Image.h"
-#include "platform/ButtonKeys.h"
-#include "platform/Desktop.h"
-#include "platform/ElidedLabel.h"
 #include "services/basCommon.h"
+#include "services/Desktop.h"
+#include "windowing/ButtonKeys.h"
+#include "windowing/ElidedLabel.h"
 #include "windows/pictures/frmBrowse.h"
 #include "windows/pictures/frmImagePosition.h"
 

@@ -5,9 +5,9 @@
 #include "drawing/basBMP.h"
 #include "drawing/basBMP_metafile.h"
 #include "drawing/basDraw.h"
-#include "platform/Numbers.h"
-#include "platform/PictureHolder.h"
-#include "platform/Surface.h"
+#include "platform/paint/Surface.h"
+#include "platform/pictures/PictureHolder.h"
+#include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
 
 namespace {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/HourGlass.h"
 #include "services/basMsgQueue.h"
+#include "windowing/HourGlass.h"
 
 /// The hourglass for the length of a redraw, and no boxes until it is done: whoever answers one would find
 /// the drawing layer in the middle of its work.

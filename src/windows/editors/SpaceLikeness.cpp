@@ -3,7 +3,7 @@
 
 #include "document/basTAVL.h"
 #include "drawing/basDraw.h"
-#include "platform/Numbers.h"
+#include "platform/text/Numbers.h"
 #include "windows/editors/GameFonts.h"
 #include "windows/editors/TypedText.h"
 

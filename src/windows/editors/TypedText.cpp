@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "windows/editors/TypedText.h"
 
-#include "platform/TextColumns.h"
+#include "platform/text/TextColumns.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

@@ -2,8 +2,8 @@
 #include "windows/editors/TypingWindow.h"
 
 #include "drawing/basDraw.h"
-#include "platform/PictureBox.h"
 #include "services/basErrLog.h"
+#include "windowing/PictureBox.h"
 #include "windows/editors/HoldFocusBox.h"
 #include "windows/editors/TipLabel.h"
 

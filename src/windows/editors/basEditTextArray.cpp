@@ -2,7 +2,7 @@
 #include "windows/editors/basEditTextArray.h"
 
 #include "document/Subscript.h"
-#include "platform/TextColumns.h"
+#include "platform/text/TextColumns.h"
 #include "services/basErrLog.h"
 
 #include <algorithm>

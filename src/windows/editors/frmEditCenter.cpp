@@ -3,13 +3,14 @@
 
 #include "board/basPosit.h"
 #include "drawing/basDraw.h"
-#include "platform/ButtonKeys.h"
-#include "platform/Desktop.h"
-#include "platform/Numbers.h"
-#include "platform/PictureBox.h"
-#include "platform/Screen.h"
-#include "platform/WidgetLook.h"
+#include "platform/paint/Units.h"
+#include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
+#include "services/Desktop.h"
+#include "windowing/ButtonKeys.h"
+#include "windowing/PictureBox.h"
+#include "windowing/Screen.h"
+#include "windowing/WidgetLook.h"
 #include "windows/editors/HoldFocusBox.h"
 #include "windows/editors/TipLabel.h"
 
@@ -32,7 +33,7 @@ struct TwipsRect {
     int iHeight;
 
     QRect Pixels() const {
-        const auto pixels = [](int twips) { return CLng(double(twips) / Screen::kTwipsPerPixel); };
+        const auto pixels = [](int twips) { return CLng(double(twips) / kTwipsPerPixel); };
         return {pixels(iLeft), pixels(iTop), pixels(iWidth), pixels(iHeight)};
     }
 };

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/Color.h"
+#include "platform/paint/Color.h"
 #include "windows/editors/TextSelection.h"
 #include "windows/editors/TypedText.h"
 

@@ -3,11 +3,11 @@
 #include "board/basPositPaint.h"
 #include "document/basTAVL.h"
 #include "drawing/basDraw.h"
-#include "platform/Numbers.h"
-#include "platform/PictureBox.h"
-#include "platform/Screen.h"
-#include "platform/WidgetLook.h"
+#include "platform/paint/Units.h"
+#include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
+#include "windowing/PictureBox.h"
+#include "windowing/WidgetLook.h"
 #include "windows/editors/frmEditCenter.h"
 
 #include <QLabel>
@@ -170,7 +170,7 @@ void frmEditCenter::WhereIsMouse(float X, float Y, PerArea<bool>& bInArea, int& 
 }
 
 void frmEditCenter::CheckMouseInArea(int iArea, float X, float Y, PerArea<bool>& bInArea, int& iRow, int& iCol) try {
-    const QPoint point(CLng(double(X) / Screen::kTwipsPerPixel), CLng(double(Y) / Screen::kTwipsPerPixel));
+    const QPoint point(CLng(double(X) / kTwipsPerPixel), CLng(double(Y) / kTwipsPerPixel));
     bInArea[size_t(iArea)] = m_area[size_t(iArea)].contains(point);
     if (!bInArea[size_t(iArea)]) return;
     DeviceContext& hDC = picForm->hDC();

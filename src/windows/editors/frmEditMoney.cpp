@@ -2,9 +2,9 @@
 #include "windows/editors/frmEditMoney.h"
 
 #include "drawing/basDraw.h"
-#include "platform/ElidedLabel.h"
-#include "platform/PictureBox.h"
 #include "services/basErrLog.h"
+#include "windowing/ElidedLabel.h"
+#include "windowing/PictureBox.h"
 #include "windows/editors/BoxText.h"
 #include "windows/editors/ImageGroup.h"
 #include "windows/editors/Redrawing.h"

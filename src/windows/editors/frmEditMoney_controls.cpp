@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "windows/editors/frmEditMoney.h"
 
-#include "platform/ButtonKeys.h"
-#include "platform/ElidedLabel.h"
-#include "platform/PictureBox.h"
 #include "services/basCommon.h"
+#include "windowing/basCommon_forms.h"
+#include "windowing/ButtonKeys.h"
+#include "windowing/ElidedLabel.h"
+#include "windowing/PictureBox.h"
 #include "windows/editors/ImageGroup.h"
 
 #include <QBoxLayout>

@@ -5,14 +5,15 @@
 #include "board/basTAVL_news.h"
 #include "document/basTAVL.h"
 #include "drawing/basDraw.h"
-#include "platform/ButtonKeys.h"
-#include "platform/Desktop.h"
-#include "platform/Numbers.h"
-#include "platform/PictureBox.h"
-#include "platform/Screen.h"
-#include "platform/WidgetLook.h"
+#include "platform/paint/Units.h"
+#include "platform/text/Numbers.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
+#include "services/Desktop.h"
+#include "windowing/basCommon_forms.h"
+#include "windowing/ButtonKeys.h"
+#include "windowing/PictureBox.h"
+#include "windowing/WidgetLook.h"
 #include "windows/editors/BoxText.h"
 
 #include <QBoxLayout>
@@ -35,8 +36,7 @@ constexpr int kBoxesWidth = 320;
 constexpr int kHeight = 290;
 
 QPoint CardCorner() {
-    return {CLng(double(kCardLeftTwips) / Screen::kTwipsPerPixel),
-            CLng(double(kCardTopTwips) / Screen::kTwipsPerPixel)};
+    return {CLng(double(kCardLeftTwips) / kTwipsPerPixel), CLng(double(kCardTopTwips) / kTwipsPerPixel)};
 }
 
 bool FontsDiffer(const C_News& one, const C_News& other) {

@@ -2,10 +2,11 @@
 #include "windows/editors/frmEditToken.h"
 
 #include "document/basTAVL.h"
-#include "platform/PictureBox.h"
-#include "platform/WidgetLook.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
+#include "windowing/basCommon_forms.h"
+#include "windowing/PictureBox.h"
+#include "windowing/WidgetLook.h"
 #include "windows/editors/Redrawing.h"
 #include "windows/pictures/frmBrowse.h"
 #include "windows/pictures/frmImagePosition.h"

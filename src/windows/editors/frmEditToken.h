@@ -2,8 +2,8 @@
 #pragma once
 
 #include "document/C_Token.h"
-#include "platform/Desktop.h"
-#include "platform/PictureHolder.h"
+#include "platform/pictures/PictureHolder.h"
+#include "services/Desktop.h"
 #include "windows/editors/TypingWindow.h"
 
 #include <array>

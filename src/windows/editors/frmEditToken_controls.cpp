@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "windows/editors/frmEditToken.h"
 
-#include "platform/ButtonKeys.h"
-#include "platform/PictureBox.h"
-#include "platform/WidgetLook.h"
+#include "windowing/ButtonKeys.h"
+#include "windowing/PictureBox.h"
+#include "windowing/WidgetLook.h"
 #include "windows/editors/HoldFocusBox.h"
 
 #include <QButtonGroup>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "windows/editors/frmEditToken.h"
 
-#include "platform/Numbers.h"
-#include "platform/PictureBox.h"
-#include "platform/Screen.h"
+#include "platform/paint/Units.h"
+#include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
+#include "windowing/PictureBox.h"
 #include "windows/editors/HoldFocusBox.h"
 
 #include <QKeyEvent>
@@ -48,8 +48,7 @@ void frmEditToken::txtToken_Change() try {
 
 bool frmEditToken::WhereIsMouse(float X, float Y, int& iCol, int& iRow) try {
     return m_oToken.FindInsertPoint(0, 0, picDest->width(), picDest->height(), *picDest,
-                                    CLng(X / double(Screen::kTwipsPerPixel)), CLng(Y / double(Screen::kTwipsPerPixel)),
-                                    iCol, iRow);
+                                    CLng(X / double(kTwipsPerPixel)), CLng(Y / double(kTwipsPerPixel)), iCol, iRow);
 } catch (...) {
     ErrTail("frmEditToken!", "WhereIsMouse", X, Y);
 }

@@ -5,14 +5,15 @@
 #include "board/basTAVL_news.h"
 #include "document/basTAVL.h"
 #include "drawing/basDraw.h"
-#include "platform/ButtonKeys.h"
-#include "platform/HourGlass.h"
-#include "platform/Numbers.h"
-#include "platform/PictureBox.h"
-#include "platform/Screen.h"
-#include "platform/WidgetLook.h"
+#include "platform/paint/Units.h"
+#include "platform/text/Numbers.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
+#include "windowing/basCommon_forms.h"
+#include "windowing/ButtonKeys.h"
+#include "windowing/HourGlass.h"
+#include "windowing/PictureBox.h"
+#include "windowing/WidgetLook.h"
 #include "windows/editors/frmEditNews.h"
 
 #include <QCoreApplication>
@@ -30,13 +31,13 @@ constexpr int kAcross = 3;
 constexpr int kDown = 4;
 
 // Lengths of the window in twips, as its bars count.
-constexpr int kGridWidth = kAcross * basTAVL::kNewsCardWidth * Screen::kTwipsPerPixel;
-constexpr int kGridHeight = kDown * basTAVL::kNewsCardHeight * Screen::kTwipsPerPixel;
+constexpr int kGridWidth = kAcross * basTAVL::kNewsCardWidth * kTwipsPerPixel;
+constexpr int kGridHeight = kDown * basTAVL::kNewsCardHeight * kTwipsPerPixel;
 constexpr int kBarThickness = 300;
 // A bar takes a little less than its thickness when it is asked whether it forces the other to show, so a
 // few dots of the last cards may lie under a bar; kept on purpose.
 constexpr int kRoomForBar = 240;
-constexpr int kBarStep = 20 * Screen::kTwipsPerPixel;
+constexpr int kBarStep = 20 * kTwipsPerPixel;
 
 // Pixels round the button below the cards.
 constexpr int kButtonMargin = 8;
@@ -62,8 +63,7 @@ frmShowNews::frmShowNews(QWidget* parent)
     connect(picCards, &PictureBox::MouseDown, this, &frmShowNews::Form_MouseDown);
     connect(picCards, &PictureBox::BackingChanged, this, &frmShowNews::Redraw);
     connect(cmdDone, &QPushButton::clicked, this, &frmShowNews::cmdDone_Click);
-    resize(Screen::TwipsToPixels(kGridWidth),
-           Screen::TwipsToPixels(kGridHeight) + cmdDone->sizeHint().height() + 2 * kButtonMargin);
+    resize(TwipsToPixels(kGridWidth), TwipsToPixels(kGridHeight) + cmdDone->sizeHint().height() + 2 * kButtonMargin);
     basCommon::ShowEntireForm(*this);
 }
 
@@ -97,8 +97,8 @@ void frmShowNews::Form_Resize() try {
     const int rowTop = height() - button.height() - 2 * kButtonMargin;
     cmdDone->setGeometry(QRect(QPoint(width() - button.width() - kButtonMargin, rowTop + kButtonMargin), button));
 
-    const int W = width() * Screen::kTwipsPerPixel;
-    const int H = std::max(rowTop, 1) * Screen::kTwipsPerPixel;
+    const int W = width() * kTwipsPerPixel;
+    const int H = std::max(rowTop, 1) * kTwipsPerPixel;
     const bool both =
         (W < kGridWidth && H < kGridHeight + kRoomForBar) || (W < kGridWidth + kRoomForBar && H < kGridHeight);
     const bool horizontal = both || W < kGridWidth;
@@ -106,8 +106,8 @@ void frmShowNews::Form_Resize() try {
     const int visibleWidth = W - (vertical ? kBarThickness : 0);
     const int visibleHeight = H - (horizontal ? kBarThickness : 0);
 
-    const int thickness = Screen::TwipsToPixels(kBarThickness);
-    const QSize area(Screen::TwipsToPixels(visibleWidth), Screen::TwipsToPixels(visibleHeight));
+    const int thickness = TwipsToPixels(kBarThickness);
+    const QSize area(TwipsToPixels(visibleWidth), TwipsToPixels(visibleHeight));
     picCards->setGeometry(QRect(QPoint(0, 0), area));
     hscrl->setGeometry(0, area.height(), area.width(), thickness);
     vscrl->setGeometry(area.width(), 0, thickness, area.height());
@@ -125,8 +125,8 @@ void frmShowNews::Form_Resize() try {
 }
 
 QPoint frmShowNews::CornerOf(int iCard) const {
-    const double scrolledX = double(hscrl->value()) / Screen::kTwipsPerPixel;
-    const double scrolledY = double(vscrl->value()) / Screen::kTwipsPerPixel;
+    const double scrolledX = double(hscrl->value()) / kTwipsPerPixel;
+    const double scrolledY = double(vscrl->value()) / kTwipsPerPixel;
     const int column = iCard % kAcross;
     const int row = iCard / kAcross;
     return {CLng(column * basTAVL::kNewsCardWidth - scrolledX), CLng(row * basTAVL::kNewsCardHeight - scrolledY)};
@@ -166,8 +166,8 @@ void frmShowNews::DrawCards() {
 }
 
 void frmShowNews::Form_MouseDown(int Button, int Shift, float X, float Y) try {
-    const int column = Int((hscrl->value() + X) / (Screen::kTwipsPerPixel * basTAVL::kNewsCardWidth));
-    const int row = Int((vscrl->value() + Y) / (Screen::kTwipsPerPixel * basTAVL::kNewsCardHeight));
+    const int column = Int((hscrl->value() + X) / (kTwipsPerPixel * basTAVL::kNewsCardWidth));
+    const int row = Int((vscrl->value() + Y) / (kTwipsPerPixel * basTAVL::kNewsCardHeight));
     const bool hit = Button == PictureBox::kLeftButton && column >= 0 && column < kAcross && row >= 0 && row < kDown;
     MoveToCard(hit ? row * kAcross + column : kNoCard);
     if (hit) EditCard();
@@ -198,10 +198,10 @@ void frmShowNews::MoveToCard(int iCard) {
 
 // Moves the bars no further than it takes to show all of the card.
 void frmShowNews::ScrollToCard() {
-    const int left = m_iCard % kAcross * basTAVL::kNewsCardWidth * Screen::kTwipsPerPixel;
-    const int top = m_iCard / kAcross * basTAVL::kNewsCardHeight * Screen::kTwipsPerPixel;
-    const int right = left + basTAVL::kNewsCardWidth * Screen::kTwipsPerPixel;
-    const int bottom = top + basTAVL::kNewsCardHeight * Screen::kTwipsPerPixel;
+    const int left = m_iCard % kAcross * basTAVL::kNewsCardWidth * kTwipsPerPixel;
+    const int top = m_iCard / kAcross * basTAVL::kNewsCardHeight * kTwipsPerPixel;
+    const int right = left + basTAVL::kNewsCardWidth * kTwipsPerPixel;
+    const int bottom = top + basTAVL::kNewsCardHeight * kTwipsPerPixel;
     hscrl->setValue(std::min(std::max(hscrl->value(), right - hscrl->pageStep()), left));
     vscrl->setValue(std::min(std::max(vscrl->value(), bottom - vscrl->pageStep()), top));
 }

@@ -2,12 +2,13 @@
 #include "windows/editors/frmShowTokens.h"
 
 #include "drawing/basDraw.h"
-#include "platform/Numbers.h"
-#include "platform/PictureBox.h"
-#include "platform/Screen.h"
-#include "platform/WidgetLook.h"
+#include "platform/paint/Units.h"
+#include "platform/text/Numbers.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
+#include "windowing/basCommon_forms.h"
+#include "windowing/PictureBox.h"
+#include "windowing/WidgetLook.h"
 #include "windows/editors/frmEditToken.h"
 #include "windows/editors/Redrawing.h"
 
@@ -38,7 +39,7 @@ constexpr double kLabelScale = 1.6;
 const Color kFrameColor = Color::Rgb(0, 96, 192);
 constexpr int kFramePen = 3;
 
-int Pixels(double twips) { return CLng(twips / Screen::kTwipsPerPixel); }
+int Pixels(double twips) { return CLng(twips / kTwipsPerPixel); }
 
 } // namespace
 
@@ -109,11 +110,11 @@ void frmShowTokens::NoteChange() {
 
 void frmShowTokens::Form_Resize() try {
     if (isMinimized()) return;
-    const QSize window = frameGeometry().size() * Screen::kTwipsPerPixel;
+    const QSize window = frameGeometry().size() * kTwipsPerPixel;
     const int fW = CLng((window.width() - kBesideTokens) / double(kAcross));
     const int fH = CLng((window.height() - kAroundTokens) / double(kDown));
     // A high title bar or a large font needs more than the rows leave for the button; it is never cut off.
-    const int rows = (height() - cmdOK->sizeHint().height()) * Screen::kTwipsPerPixel - kTop - kGap - kAboveButton;
+    const int rows = (height() - cmdOK->sizeHint().height()) * kTwipsPerPixel - kTop - kGap - kAboveButton;
     const int lSide = std::min({fW, fH, rows / kDown});
     for (int i = 0; i < basTAVL::kTokens; ++i) {
         const int r = i / kAcross;
@@ -190,7 +191,7 @@ void frmShowTokens::picToken_Click(int Index) try { EditToken(Index); } catch (.
 void frmShowTokens::picToken_MouseUp(int iButton, int, float X, float Y) {
     const auto found = std::find(picToken.begin(), picToken.end(), sender());
     if (iButton != PictureBox::kLeftButton || found == picToken.end()) return;
-    const QPointF at(double(X) / Screen::kTwipsPerPixel, double(Y) / Screen::kTwipsPerPixel);
+    const QPointF at(double(X) / kTwipsPerPixel, double(Y) / kTwipsPerPixel);
     if (QRectF((*found)->rect()).contains(at)) picToken_Click(int(found - picToken.begin()));
 }
 

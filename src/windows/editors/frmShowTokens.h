@@ -3,7 +3,7 @@
 
 #include "document/basTAVL.h"
 #include "document/C_Token.h"
-#include "platform/PictureHolder.h"
+#include "platform/pictures/PictureHolder.h"
 
 #include <QDialog>
 

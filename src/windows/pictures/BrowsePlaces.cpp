@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "windows/pictures/BrowsePlaces.h"
 
-#include "platform/Folders.h"
+#include "platform/files/Folders.h"
 #include "services/basPath.h"
 
 namespace BrowsePlaces {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "windows/pictures/ImagePlacing.h"
 
-#include "platform/Numbers.h"
+#include "platform/text/Numbers.h"
 
 #include <algorithm>
 #include <cmath>

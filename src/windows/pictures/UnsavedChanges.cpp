@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "windows/pictures/UnsavedChanges.h"
 
-#include "platform/Desktop.h"
 #include "services/basErrLog.h"
+#include "services/Desktop.h"
 
 UnsavedChanges AskAboutUnsavedChanges() try {
     const int lResponse = MsgBox(QStringLiteral("There are unsaved changes. Do you want to save them?"), vbYesNoCancel,

@@ -3,16 +3,17 @@
 
 #include "drawing/basBMP.h"
 #include "drawing/basBMP_metafile.h"
-#include "platform/Desktop.h"
-#include "platform/ElidedLabel.h"
-#include "platform/Files.h"
-#include "platform/FolderListing.h"
-#include "platform/Folders.h"
-#include "platform/PictureBox.h"
-#include "platform/PreviewLoader.h"
-#include "services/basAPI.h"
+#include "platform/files/Files.h"
+#include "platform/files/FolderListing.h"
+#include "platform/files/Folders.h"
+#include "platform/pictures/PreviewLoader.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
+#include "services/Desktop.h"
+#include "windowing/basAPI_screen.h"
+#include "windowing/basCommon_forms.h"
+#include "windowing/ElidedLabel.h"
+#include "windowing/PictureBox.h"
 
 #include <QComboBox>
 #include <QKeyEvent>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The window's controls: what they are, where they stand, and what they set off.
-#include "platform/ElidedLabel.h"
-#include "platform/PictureBox.h"
-#include "platform/PreviewLoader.h"
+#include "platform/pictures/PreviewLoader.h"
+#include "windowing/ElidedLabel.h"
+#include "windowing/PictureBox.h"
 #include "windows/pictures/frmBrowse.h"
 
 #include <QComboBox>

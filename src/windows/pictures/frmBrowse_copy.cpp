@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Pictures from disks that may go away are kept in the My Games directory.
-#include "platform/Desktop.h"
-#include "platform/Files.h"
-#include "platform/Folders.h"
+#include "platform/files/Files.h"
+#include "platform/files/Folders.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
+#include "services/Desktop.h"
 #include "windows/pictures/frmBrowse.h"
 
 namespace {

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "windows/pictures/frmFileName.h"
 
-#include "platform/ButtonKeys.h"
-#include "platform/Desktop.h"
-#include "platform/ElidedLabel.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
+#include "services/Desktop.h"
+#include "windowing/basCommon_forms.h"
+#include "windowing/ButtonKeys.h"
+#include "windowing/ElidedLabel.h"
 
 #include <QButtonGroup>
 #include <QFocusEvent>

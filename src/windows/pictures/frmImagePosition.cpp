@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "windows/pictures/frmImagePosition.h"
 
-#include "platform/Desktop.h"
-#include "platform/LoadPicture.h"
-#include "platform/Numbers.h"
-#include "platform/PictureBox.h"
-#include "platform/WidgetLook.h"
+#include "platform/paint/Units.h"
+#include "platform/pictures/LoadPicture.h"
+#include "platform/text/Numbers.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
+#include "services/Desktop.h"
+#include "windowing/basCommon_forms.h"
+#include "windowing/PictureBox.h"
+#include "windowing/WidgetLook.h"
 #include "windows/pictures/frmBrowse.h"
 #include "windows/pictures/UnsavedChanges.h"
 
@@ -30,7 +32,7 @@ QString& StartFolder() {
     return folder;
 }
 
-QPointF InPixels(float X, float Y) { return {X / double(Screen::kTwipsPerPixel), Y / double(Screen::kTwipsPerPixel)}; }
+QPointF InPixels(float X, float Y) { return {X / double(kTwipsPerPixel), Y / double(kTwipsPerPixel)}; }
 
 } // namespace
 

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "pictures/C_Image.h"
-#include "platform/PictureHolder.h"
-#include "platform/PicturePyramid.h"
+#include "platform/pictures/PictureHolder.h"
+#include "platform/pictures/PicturePyramid.h"
 #include "windows/pictures/ImagePlacing.h"
 
 #include <QDialog>

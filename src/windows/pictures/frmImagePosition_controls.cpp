@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The window's controls: what they are, where they stand, and what they set off.
-#include "platform/ButtonKeys.h"
-#include "platform/Numbers.h"
-#include "platform/PictureBox.h"
-#include "platform/Screen.h"
+#include "platform/text/Numbers.h"
+#include "windowing/ButtonKeys.h"
+#include "windowing/PictureBox.h"
+#include "windowing/Screen.h"
 #include "windows/pictures/frmImagePosition.h"
 
 #include <QFrame>

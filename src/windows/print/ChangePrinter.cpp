@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "windows/print/ChangePrinter.h"
 
-#include "platform/Desktop.h"
 #include "services/basErrLog.h"
+#include "services/Desktop.h"
 
 void ChangePrinter(CommonDialog& dlgCommon, bool bPrintStarted) try {
     if (bPrintStarted) {

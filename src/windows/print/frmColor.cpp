@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "windows/print/frmColor.h"
 
-#include "platform/Desktop.h"
-#include "platform/Numbers.h"
-#include "platform/PictureBox.h"
+#include "platform/text/Numbers.h"
 #include "render/PrintBlackAs.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
+#include "services/Desktop.h"
+#include "windowing/basCommon_forms.h"
+#include "windowing/PictureBox.h"
 
 #include <QCheckBox>
 #include <QFocusEvent>

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "windows/print/frmPrintTest.h"
 
-#include "platform/Picture.h"
-#include "platform/PictureBox.h"
-#include "platform/Screen.h"
+#include "platform/paint/Picture.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
+#include "windowing/basCommon_forms.h"
+#include "windowing/PictureBox.h"
+#include "windowing/Screen.h"
 #include "windows/print/frmTavlPrint.h"
 
 namespace {

@@ -3,6 +3,7 @@
 
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
+#include "windowing/basCommon_forms.h"
 
 #include <QButtonGroup>
 #include <QHBoxLayout>

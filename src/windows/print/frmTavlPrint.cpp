@@ -5,13 +5,14 @@
 #include "document/GameHost.h"
 #include "drawing/basBMP.h"
 #include "kit/ConsoleSheets.h"
-#include "platform/ElidedLabel.h"
-#include "platform/PictureBox.h"
-#include "platform/Printer.h"
-#include "platform/Screen.h"
+#include "platform/paint/Units.h"
+#include "platform/printing/Printer.h"
 #include "services/basAPI.h"
 #include "services/basErrLog.h"
 #include "services/basPath.h"
+#include "windowing/ElidedLabel.h"
+#include "windowing/PictureBox.h"
+#include "windowing/Screen.h"
 #include "windows/print/ChangePrinter.h"
 #include "windows/print/frmPrntPrep.h"
 
@@ -229,7 +230,7 @@ void frmTavlPrint::Let_Progress(int lValue) try {
     if (lValue > 0) {
         shpProgressFore->resize(shpProgressBack->width() * lValue / kWholeBar, shpProgressFore->height());
     } else if (lValue == 0) {
-        shpProgressFore->resize(Screen::TwipsToPixels(kFirstWidthTwips), shpProgressFore->height());
+        shpProgressFore->resize(TwipsToPixels(kFirstWidthTwips), shpProgressFore->height());
     }
     fraProgress->setVisible(lValue >= 0);
     if (lValue >= 0) fraProgress->raise();

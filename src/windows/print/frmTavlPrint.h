@@ -2,9 +2,9 @@
 #pragma once
 
 #include "kit/Sheets.h"
-#include "platform/Desktop.h"
-#include "platform/Picture.h"
-#include "platform/PicturePrinter.h"
+#include "platform/paint/Picture.h"
+#include "platform/printing/PicturePrinter.h"
+#include "services/Desktop.h"
 
 #include <QDialog>
 #include <QList>

@@ -2,13 +2,14 @@
 // The window's controls: what they are, and where they stand.
 #include "document/basTAVL.h"
 #include "kit/ConsoleSheets.h"
-#include "platform/ButtonKeys.h"
-#include "platform/ElidedLabel.h"
-#include "platform/PictureBox.h"
-#include "platform/Screen.h"
-#include "platform/WidgetLook.h"
+#include "platform/paint/Units.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
+#include "windowing/basCommon_forms.h"
+#include "windowing/ButtonKeys.h"
+#include "windowing/ElidedLabel.h"
+#include "windowing/PictureBox.h"
+#include "windowing/WidgetLook.h"
 #include "windows/print/frmPrntPrep.h"
 #include "windows/print/frmTavlPrint.h"
 
@@ -174,7 +175,7 @@ void frmTavlPrint::BuildDebugAids() {
 
 // All frames lie in one place. With large letters the window grows beyond its usual size, so that nothing is cut.
 void frmTavlPrint::PlaceControls() {
-    const QPoint leftTop(Screen::TwipsToPixels(kFrameLeftTop), Screen::TwipsToPixels(kFrameLeftTop));
+    const QPoint leftTop(TwipsToPixels(kFrameLeftTop), TwipsToPixels(kFrameLeftTop));
     const std::array<QWidget*, 3> row = {cmdNav->button(int(Frame::Menu)), cmdChangePrinter, cmdCancel};
     QSize frame;
     for (const QGroupBox* each : fraPrint)
@@ -184,10 +185,10 @@ void frmTavlPrint::PlaceControls() {
         button = button.expandedTo(each->sizeHint());
     const int progress = fraProgress->sizeHint().height();
 
-    const int inner = std::max({Screen::TwipsToPixels(kWidth) - 2 * leftTop.x(), frame.width(),
+    const int inner = std::max({TwipsToPixels(kWidth) - 2 * leftTop.x(), frame.width(),
                                 int(row.size()) * button.width() + int(row.size() - 1) * kGap});
     const int below = kGap + progress + kGap + button.height() + kMargin;
-    const int height = std::max(Screen::TwipsToPixels(kHeight), leftTop.y() + frame.height() + below);
+    const int height = std::max(TwipsToPixels(kHeight), leftTop.y() + frame.height() + below);
     setFixedSize(inner + 2 * leftTop.x(), height);
 
     for (QGroupBox* each : fraPrint)

@@ -1,0 +1,183 @@
+// SPDX-License-Identifier: MIT
+#include "platform/paint/Recording.h"
+
+#include "platform/paint/PaintImage.h"
+#include "platform/text/Numbers.h"
+
+#include <QFont>
+#include <QPaintEngine>
+#include <QPainterPath>
+
+#include <functional>
+#include <vector>
+
+namespace {
+
+/// All of a painter that decides how the next thing looks.
+struct Look {
+    QPen pen;
+    QBrush brush;
+    QTransform transform;
+    QPainterPath clip;
+    bool clips = false;
+    double opacity = 1;
+    QPainter::CompositionMode mode = QPainter::CompositionMode_SourceOver;
+    QPainter::RenderHints hints;
+};
+
+using Act = std::function<void(QPainter&)>;
+
+struct Step {
+    std::shared_ptr<const Look> look;
+    Act act;
+};
+
+} // namespace
+
+class RecordingEngine : public QPaintEngine {
+public:
+    RecordingEngine() : QPaintEngine(QPaintEngine::AllFeatures), m_look(std::make_shared<Look>()) {}
+
+    bool begin(QPaintDevice*) override { return true; }
+    bool end() override { return true; }
+    Type type() const override { return QPaintEngine::User; }
+
+    void updateState(const QPaintEngineState& now) override {
+        auto look = std::make_shared<Look>(*m_look);
+        const DirtyFlags dirty = now.state();
+        if (dirty & DirtyPen) look->pen = now.pen();
+        if (dirty & DirtyBrush) look->brush = now.brush();
+        if (dirty & DirtyTransform) look->transform = now.transform();
+        if (dirty & DirtyOpacity) look->opacity = now.opacity();
+        if (dirty & DirtyCompositionMode) look->mode = now.compositionMode();
+        if (dirty & DirtyHints) look->hints = now.renderHints();
+        if (dirty & (DirtyClipPath | DirtyClipRegion | DirtyClipEnabled)) UpdateClip(*look);
+        m_look = std::move(look);
+    }
+
+    void drawPath(const QPainterPath& path) override {
+        Keep([path](QPainter& painter) { painter.drawPath(path); });
+    }
+    void drawPolygon(const QPointF* points, int count, PolygonDrawMode mode) override {
+        const QPolygonF polygon(QList<QPointF>(points, points + count));
+        Keep([polygon, mode](QPainter& painter) {
+            if (mode == PolylineMode) {
+                painter.drawPolyline(polygon);
+            } else {
+                painter.drawPolygon(polygon, mode == WindingMode ? Qt::WindingFill : Qt::OddEvenFill);
+            }
+        });
+    }
+    void drawLines(const QLineF* lines, int count) override {
+        const QList<QLineF> kept(lines, lines + count);
+        Keep([kept](QPainter& painter) { painter.drawLines(kept); });
+    }
+    void drawRects(const QRectF* rects, int count) override {
+        const QList<QRectF> kept(rects, rects + count);
+        Keep([kept](QPainter& painter) { painter.drawRects(kept); });
+    }
+    void drawEllipse(const QRectF& rect) override {
+        Keep([rect](QPainter& painter) { painter.drawEllipse(rect); });
+    }
+    void drawImage(const QRectF& target, const QImage& image, const QRectF& source, Qt::ImageConversionFlags) override {
+        Keep([target, image, source](QPainter& painter) {
+            PaintImage(painter, target, image, source, painter.compositionMode());
+        });
+    }
+    void drawPixmap(const QRectF& target, const QPixmap& pixmap, const QRectF& source) override {
+        drawImage(target, pixmap.toImage(), source, Qt::AutoColor);
+    }
+    void drawTextItem(const QPointF& point, const QTextItem& item) override {
+        QFont font = item.font();
+        // The painter that is recorded draws these by itself.
+        font.setUnderline(false);
+        const QString text = item.text();
+        Keep([point, font, text](QPainter& painter) {
+            painter.setFont(font);
+            painter.drawText(point, text);
+        });
+    }
+
+    const std::vector<Step>& Steps() const { return m_steps; }
+
+private:
+    // A clip is kept in device units, as the transform may have changed since it was set.
+    void UpdateClip(Look& look) const {
+        const QPainter* from = painter();
+        look.clips = from->hasClipping();
+        if (look.clips) look.clip = look.transform.map(from->clipPath());
+    }
+    void Keep(Act act) { m_steps.push_back({m_look, std::move(act)}); }
+
+    std::shared_ptr<const Look> m_look;
+    std::vector<Step> m_steps;
+};
+
+namespace {
+
+// Clips are set only where they change: a page would otherwise hold thousands of them.
+void Apply(const Look& look, const Look* before, QPainter& painter, const QTransform& base, const QPainterPath& frame) {
+    if (!before || before->clips || look.clips) {
+        painter.setWorldTransform(base);
+        painter.setClipPath(look.clips ? frame.intersected(look.clip) : frame);
+    }
+    painter.setWorldTransform(look.transform * base);
+    painter.setPen(look.pen);
+    painter.setBrush(look.brush);
+    painter.setOpacity(look.opacity);
+    painter.setCompositionMode(look.mode);
+    painter.setRenderHints(painter.renderHints(), false);
+    painter.setRenderHints(look.hints);
+}
+
+} // namespace
+
+Recording::Recording(QSize size, double unitsPerInch)
+    : m_size(size), m_unitsPerInch(unitsPerInch), m_engine(std::make_unique<RecordingEngine>()) {}
+Recording::~Recording() = default;
+
+QPaintEngine* Recording::paintEngine() const { return m_engine.get(); }
+
+void Recording::Play(QPainter& painter, const QRectF& target) const {
+    if (m_size.isEmpty() || target.isEmpty()) return;
+    painter.save();
+    QTransform base = painter.worldTransform();
+    base.translate(target.x(), target.y());
+    base.scale(target.width() / m_size.width(), target.height() / m_size.height());
+    QPainterPath frame;
+    frame.addRect(QRectF(QPointF(0, 0), m_size));
+    const Look* shown = nullptr;
+    for (const Step& step : m_engine->Steps()) {
+        if (step.look.get() != shown) Apply(*step.look, shown, painter, base, frame);
+        shown = step.look.get();
+        step.act(painter);
+    }
+    painter.restore();
+}
+
+int Recording::metric(PaintDeviceMetric metric) const {
+    constexpr double kMillimetresPerInch = 25.4;
+    switch (metric) {
+        case PdmWidth:
+            return m_size.width();
+        case PdmHeight:
+            return m_size.height();
+        case PdmWidthMM:
+            return int(m_size.width() * kMillimetresPerInch / m_unitsPerInch);
+        case PdmHeightMM:
+            return int(m_size.height() * kMillimetresPerInch / m_unitsPerInch);
+        case PdmDepth:
+            return 32;
+        case PdmDpiX:
+        case PdmDpiY:
+        case PdmPhysicalDpiX:
+        case PdmPhysicalDpiY:
+            return CLng(m_unitsPerInch);
+        case PdmDevicePixelRatio:
+            return 1;
+        case PdmDevicePixelRatioScaled:
+            return int(devicePixelRatioFScale());
+        default:
+            return 0;
+    }
+}

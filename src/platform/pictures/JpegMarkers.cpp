@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: MIT
+#include "platform/pictures/JpegMarkers.h"
+
+#include <QImage>
+#include <QTransform>
+
+#include <map>
+#include <optional>
+
+namespace {
+
+/// Reads numbers of either byte order and never past the end.
+class ByteReader {
+public:
+    explicit ByteReader(QByteArrayView bytes) : m_bytes(bytes) {}
+    void SetLittleEndian(bool little) { m_little = little; }
+
+    std::optional<quint32> Number(qint64 offset, int length) const {
+        if (offset < 0 || offset > m_bytes.size() - length) return std::nullopt;
+        quint32 value = 0;
+        for (int i = 0; i < length; ++i) {
+            const qint64 at = offset + (m_little ? length - 1 - i : i);
+            value = value << 8 | quint8(m_bytes[at]);
+        }
+        return value;
+    }
+
+private:
+    QByteArrayView m_bytes;
+    bool m_little = false;
+};
+
+constexpr QByteArrayView kExif("Exif\0\0", 6);
+constexpr QByteArrayView kProfile("ICC_PROFILE\0", 12);
+constexpr QByteArrayView kAdobe("Adobe", 5);
+constexpr quint32 kOrientationTag = 0x0112;
+constexpr int kEntrySize = 12;
+
+// The TIFF structure behind the word Exif: byte order, a pointer to a directory, its entries.
+int OrientationOf(QByteArrayView tiff) {
+    ByteReader reader(tiff);
+    const std::optional<quint32> order = reader.Number(0, 2);
+    constexpr quint32 kLittleEndian = 0x4949;
+    constexpr quint32 kBigEndian = 0x4D4D;
+    const quint32 mark = order.value_or(0);
+    if (mark != kLittleEndian && mark != kBigEndian) return 1;
+    reader.SetLittleEndian(mark == kLittleEndian);
+    const std::optional<quint32> directory = reader.Number(4, 4);
+    if (!directory) return 1;
+    const std::optional<quint32> count = reader.Number(*directory, 2);
+    if (!count) return 1;
+    for (quint32 i = 0; i < *count; ++i) {
+        const qint64 entry = qint64(*directory) + 2 + qint64(i) * kEntrySize;
+        const std::optional<quint32> tag = reader.Number(entry, 2);
+        if (!tag) return 1;
+        if (*tag != kOrientationTag) continue;
+        const quint32 value = reader.Number(entry + 8, 2).value_or(1);
+        return value >= 1 && value <= 8 ? int(value) : 1;
+    }
+    return 1;
+}
+
+// A long profile comes in numbered parts, in any order.
+class ProfileParts {
+public:
+    void Add(QByteArrayView segment) {
+        if (segment.size() < 2) return;
+        m_expected = quint8(segment[1]);
+        m_parts[quint8(segment[0])] = segment.sliced(2);
+    }
+    QByteArray Whole() const {
+        QByteArray whole;
+        int next = 1;
+        for (const auto& [number, part] : m_parts) {
+            if (number != next++) return {};
+            whole.append(part.data(), part.size());
+        }
+        return next - 1 == m_expected ? whole : QByteArray();
+    }
+
+private:
+    std::map<int, QByteArrayView> m_parts;
+    int m_expected = 0;
+};
+
+} // namespace
+
+JpegMarkers ReadJpegMarkers(QByteArrayView bytes) {
+    constexpr quint32 kFirstApplication = 0xE0;
+    constexpr quint32 kStartOfScan = 0xDA;
+    JpegMarkers markers;
+    ProfileParts profile;
+    const ByteReader reader(bytes);
+    qint64 at = 2;
+    while (true) {
+        const std::optional<quint32> lead = reader.Number(at, 1);
+        const std::optional<quint32> marker = reader.Number(at + 1, 1);
+        if (!lead || !marker || *lead != 0xFF || *marker == kStartOfScan) break;
+        if (*marker == 0xFF) { // fill byte
+            ++at;
+            continue;
+        }
+        const std::optional<quint32> length = reader.Number(at + 2, 2);
+        if (!length || *length < 2 || at + 2 + *length > bytes.size()) break;
+        const QByteArrayView segment = bytes.sliced(at + 4, *length - 2);
+        if (*marker == kFirstApplication + 1 && segment.startsWith(kExif)) {
+            markers.orientation = OrientationOf(segment.sliced(kExif.size()));
+        } else if (*marker == kFirstApplication + 2 && segment.startsWith(kProfile)) {
+            profile.Add(segment.sliced(kProfile.size()));
+        } else if (*marker == kFirstApplication + 14 && segment.startsWith(kAdobe)) {
+            markers.isAdobe = true;
+        }
+        at += 2 + qint64(*length);
+    }
+    markers.colorProfile = profile.Whole();
+    return markers;
+}
+
+QImage Upright(const QImage& image, int orientation) {
+    const auto turned = [&image](int degrees) { return image.transformed(QTransform().rotate(degrees)); };
+    switch (orientation) {
+        case 2:
+            return image.mirrored(true, false);
+        case 3:
+            return image.mirrored(true, true);
+        case 4:
+            return image.mirrored(false, true);
+        case 5:
+            return turned(90).mirrored(true, false);
+        case 6:
+            return turned(90);
+        case 7:
+            return turned(90).mirrored(false, true);
+        case 8:
+            return turned(270);
+        default:
+            return image;
+    }
+}

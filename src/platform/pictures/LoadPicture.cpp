@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: MIT
+#include "platform/pictures/LoadPicture.h"
+
+#include "platform/files/Files.h"
+#include "platform/pictures/PictureCache.h"
+#include "platform/pictures/PictureDecoder.h"
+
+#include <QCoreApplication>
+#include <QThreadPool>
+
+#include <algorithm>
+#include <atomic>
+#include <deque>
+#include <mutex>
+
+namespace {
+
+// Sizes wanted are kept in few steps, so that dragging a zoom slider doesn't decode at every step.
+int StepAbove(int longerSideWanted) {
+    constexpr int kSmallestStep = 128;
+    if (longerSideWanted <= 0) return kAllPixels;
+    int step = kSmallestStep;
+    while (step < longerSideWanted && step < INT_MAX / 2)
+        step *= 2;
+    return step;
+}
+
+PictureCache::Entry Decode(const PictureCache::Key& key) {
+    PictureCache::Entry entry;
+    try {
+        const std::optional<QByteArray> bytes = Files::ReadAll(key.sPath, entry.sError);
+        if (!bytes) return entry;
+        entry.picture = PictureDecoder::Decode(*bytes, key.longerSideWanted, entry.sError);
+    } catch (const std::bad_alloc&) {
+        entry.sError = QStringLiteral("There is not enough memory for the picture");
+    }
+    if (entry.picture.IsNull() && entry.sError.isEmpty())
+        entry.sError = QStringLiteral("The picture could not be decoded");
+    return entry;
+}
+
+PictureCache::Key KeyFor(const QString& sPath, int longerSideWanted) {
+    return {sPath, Files::StampOf(Files::InDiskSpelling(sPath)), StepAbove(longerSideWanted)};
+}
+
+struct KeptRecording {
+    QString sPath;
+    Files::Stamp stamp;
+    std::shared_ptr<const Recording> recording;
+};
+
+/// Those of the sheet at work and of the one before. Made on the main thread, and asked for on any.
+class KeptRecordings {
+public:
+    static KeptRecordings& Instance() {
+        static KeptRecordings kept;
+        return kept;
+    }
+
+    void Keep(KeptRecording recording) {
+        constexpr size_t kMost = 80;
+        const std::scoped_lock lock(m_mutex);
+        std::erase_if(m_kept, [&](const KeptRecording& kept) { return kept.sPath == recording.sPath; });
+        if (m_kept.size() >= kMost) m_kept.pop_front();
+        m_kept.push_back(std::move(recording));
+    }
+
+    std::shared_ptr<const Recording> Find(const QString& sPath) const {
+        const std::scoped_lock lock(m_mutex);
+        for (const KeptRecording& kept : m_kept) {
+            if (kept.sPath == sPath && kept.stamp == Files::StampOf(sPath)) return kept.recording;
+        }
+        return nullptr;
+    }
+
+    void Clear() {
+        const std::scoped_lock lock(m_mutex);
+        m_kept.clear();
+    }
+
+private:
+    mutable std::mutex m_mutex;
+    std::deque<KeptRecording> m_kept;
+};
+
+// Not the toolkit's pool: painting a picture waits for a turn in that one, and would wait for every photograph
+// queued before it.
+QThreadPool& Decoders() {
+    // Made first, so that it outlives the threads that fill it.
+    PictureCache::Instance();
+    static QThreadPool pool;
+    return pool;
+}
+
+// Set while the application ends: what is queued by then is answered without being decoded.
+std::atomic<bool> s_bEnding = false;
+
+// A decoder still at work while the toolkit takes itself down would meet what is gone already.
+void WaitForDecoders() {
+    s_bEnding = true;
+    Decoders().waitForDone();
+    s_bEnding = false;
+}
+
+void SeeToTheEnd() { qAddPostRoutine(&WaitForDecoders); }
+Q_COREAPP_STARTUP_FUNCTION(SeeToTheEnd)
+
+PictureCache::Entry DecodeUnlessEnding(const PictureCache::Key& key) {
+    if (!s_bEnding) return Decode(key);
+    return {Picture(), QStringLiteral("The program is ending")};
+}
+
+} // namespace
+
+Picture LoadPicture(const QString& sPath, QString& sError, int longerSideWanted) {
+    const PictureCache::Key key = KeyFor(sPath, longerSideWanted);
+    const PictureCache::Entry entry = PictureCache::Instance().Get(key, Decode);
+    sError = entry.sError;
+    Picture picture = entry.picture;
+    if (!picture.IsNull()) picture.SetRecording(KeptRecordings::Instance().Find(sPath));
+    return picture;
+}
+
+void KeepRecording(const QString& sPath, std::shared_ptr<const Recording> recording) {
+    KeptRecordings::Instance().Keep({sPath, Files::StampOf(sPath), std::move(recording)});
+}
+
+bool PrefetchPicture(const QString& sPath, int longerSideWanted) {
+    const PictureCache::Key key = KeyFor(sPath, longerSideWanted);
+    // A missing file is nothing to decode; the one who asks for it will be told.
+    if (key.stamp == Files::Stamp()) return true;
+    if (PictureCache::Instance().Holds(key)) return true;
+    if (!PictureCache::Instance().Reserve(key)) return false;
+    Decoders().start([key] { PictureCache::Instance().Fulfil(key, DecodeUnlessEnding(key)); });
+    return false;
+}
+
+void ForgetPictures() {
+    Decoders().waitForDone();
+    PictureCache::Instance().Clear();
+    KeptRecordings::Instance().Clear();
+}

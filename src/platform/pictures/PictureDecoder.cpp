@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: MIT
+#include "platform/pictures/PictureDecoder.h"
+
+#include "platform/paint/Resample.h"
+#include "platform/pictures/Metafile.h"
+#include "platform/pictures/PictureFormat.h"
+
+#include <QBuffer>
+#include <QColorSpace>
+#include <QImageReader>
+#include <QPainter>
+
+#include <mutex>
+
+namespace PictureDecoder {
+namespace {
+
+const char* ReaderName(PictureFormat format) {
+    switch (format) {
+        case PictureFormat::Bmp:
+            return "bmp";
+        case PictureFormat::Gif:
+            return "gif";
+        case PictureFormat::Png:
+            return "png";
+        case PictureFormat::WebP:
+            return "webp";
+        case PictureFormat::Tiff:
+            return "tiff";
+        default:
+            return "";
+    }
+}
+
+QString TooLarge(QSize size) {
+    return QStringLiteral("The picture claims to be %1 by %2 pixels, which is more than can be opened")
+        .arg(size.width())
+        .arg(size.height());
+}
+
+// One of the toolkit's readers.
+QImage Read(const QByteArray& bytes, PictureFormat format, QString& sError) {
+    static std::once_flag limit;
+    std::call_once(limit, [] { QImageReader::setAllocationLimit(int(kMaxPictureBytes >> 20)); });
+    if ((format == PictureFormat::Bmp && !IsBmpWhole(bytes)) || (format == PictureFormat::Gif && !IsGifWhole(bytes))) {
+        sError = QStringLiteral("The picture file is damaged or cut short");
+        return {};
+    }
+    QBuffer buffer;
+    buffer.setData(bytes);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer, ReaderName(format));
+    reader.setAutoDetectImageFormat(false);
+    reader.setAutoTransform(true);
+    const QSize size = reader.size();
+    if (size.isValid() && !IsSizeAllowed(size)) {
+        sError = TooLarge(size);
+        return {};
+    }
+    QImage image = reader.read();
+    if (image.isNull()) sError = reader.errorString();
+    return image;
+}
+
+QImage AsPixels(const QImage& image) {
+    return image.convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
+}
+
+// Keeps no more pixels than will be drawn; formats without a fast reduced decoding come whole.
+Picture Reduced(const QImage& image, int longerSideWanted) {
+    const int reduction = ReductionFor(std::max(image.width(), image.height()), longerSideWanted);
+    if (reduction == 1) return Picture(image);
+    const QSize size((image.width() + reduction - 1) / reduction, (image.height() + reduction - 1) / reduction);
+    return Picture(Resample(image, QRectF(image.rect()), size), image.size());
+}
+
+// A drawing has no pixels of its own: it gets as many as are wanted, on nothing.
+Picture DecodeMetafile(const QByteArray& bytes, int longerSideWanted, QString& sError) {
+    constexpr int kLongerSide = 1200;
+    const std::optional<Metafile> metafile = Metafile::FromBytes(bytes, sError);
+    if (!metafile) return {};
+    const QSize told = metafile->PlaceableSize();
+    const QSize shape = told.isEmpty() ? QSize(1, 1) : told;
+    const int side = longerSideWanted == kAllPixels ? kLongerSide : std::min(longerSideWanted, 2 * kLongerSide);
+    QImage image(shape.scaled(side, side, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)),
+                 QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+    if (!metafile->Play(painter, QRectF(image.rect()))) {
+        sError = QStringLiteral("The metafile holds nothing that can be drawn");
+        return {};
+    }
+    painter.end();
+    return Picture(image, shape.scaled(kLongerSide, kLongerSide, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
+}
+
+} // namespace
+
+int ReductionFor(int longerSide, int longerSideWanted) {
+    constexpr int kMostReduction = 8;
+    if (longerSideWanted == kAllPixels) return 1;
+    int reduction = 1;
+    while (reduction < kMostReduction && longerSide / (reduction * 2) >= longerSideWanted)
+        reduction *= 2;
+    return reduction;
+}
+
+QImage InScreenColors(QImage image, const QByteArray& colorProfile) {
+    if (!colorProfile.isEmpty()) image.setColorSpace(QColorSpace::fromIccProfile(colorProfile));
+    if (image.colorSpace().isValid() && image.colorSpace() != QColorSpace(QColorSpace::SRgb))
+        image.convertToColorSpace(QColorSpace(QColorSpace::SRgb));
+    image.setColorSpace(QColorSpace());
+    return image;
+}
+
+Picture Decode(const QByteArray& bytes, int longerSideWanted, QString& sError) {
+    const PictureFormat format = PictureFormatOf(bytes);
+    switch (format) {
+        case PictureFormat::Jpeg:
+            return DecodeJpeg(bytes, longerSideWanted, sError);
+        case PictureFormat::Heif: {
+            const Picture picture = DecodeHeif(bytes, sError);
+            return picture.IsNull() ? picture : Reduced(picture.Image(), longerSideWanted);
+        }
+        case PictureFormat::Metafile:
+            return DecodeMetafile(bytes, longerSideWanted, sError);
+        case PictureFormat::Unknown:
+            sError = QStringLiteral("The file does not hold a picture of a known kind");
+            return {};
+        default:
+            break;
+    }
+    const QImage image = Read(bytes, format, sError);
+    if (image.isNull()) return {};
+    if (!IsSizeAllowed(image.size())) {
+        sError = TooLarge(image.size());
+        return {};
+    }
+    return Reduced(InScreenColors(AsPixels(image), {}), longerSideWanted);
+}
+
+} // namespace PictureDecoder

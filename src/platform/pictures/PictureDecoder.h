@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/paint/Picture.h"
+
+#include <QByteArray>
+#include <QByteArrayView>
+
+/// Decodes picture files from memory. All of it may run on any thread. A null picture comes with a sentence
+/// in sError; longerSideWanted as in LoadPicture.
+namespace PictureDecoder {
+
+/// Any known kind. Gives 32-bit pixels, with transparency (premultiplied) or without.
+Picture Decode(const QByteArray& bytes, int longerSideWanted, QString& sError);
+
+Picture DecodeJpeg(const QByteArray& bytes, int longerSideWanted, QString& sError);
+Picture DecodeHeif(QByteArrayView bytes, QString& sError);
+
+/// By which power of two (1, 2, 4 or 8) a side may be divided while it keeps the pixels wanted.
+int ReductionFor(int longerSide, int longerSideWanted);
+
+/// The colours as this program means them, whatever profile the camera used.
+QImage InScreenColors(QImage image, const QByteArray& colorProfile);
+
+} // namespace PictureDecoder

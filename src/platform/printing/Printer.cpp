@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#include "platform/printing/Printer.h"
+
+#include "platform/files/Files.h"
+#include "platform/files/SaveFile.h"
+
+#include <QPageLayout>
+#include <QPdfWriter>
+
+namespace {
+
+Printer*& CurrentPrinter() {
+    static Printer* current = nullptr;
+    return current;
+}
+
+} // namespace
+
+Printer* Printer::Install(Printer* printer) { return std::exchange(CurrentPrinter(), printer); }
+Printer* Printer::Current() { return CurrentPrinter(); }
+
+PdfPrinter::PdfPrinter(const QString& sPath, const QString& sTitle, QPageSize::PageSizeId paper, int dpi)
+    : m_title(sTitle), m_dpi(dpi), m_paper(paper), m_file(std::make_unique<SaveFile>(sPath)) {}
+
+PdfPrinter::~PdfPrinter() { KillDoc(); }
+
+bool PdfPrinter::OpenFile() {
+    if (!Files::CanBeReplaced(m_file->fileName(), m_openError)) return false;
+    if (!m_file->open(QIODevice::WriteOnly)) {
+        m_openError = m_file->errorString();
+        return false;
+    }
+    m_writer = std::make_unique<QPdfWriter>(m_file.get());
+    m_writer->setResolution(m_dpi);
+    m_writer->setTitle(m_title);
+    m_writer->setCreator(QStringLiteral("Tavlora"));
+    return true;
+}
+
+void PdfPrinter::OpenPage() {
+    const bool first = m_pages == 0;
+    const bool opened = !first || OpenFile();
+    m_pageOpen = true;
+    ++m_pages;
+    if (!opened || !m_writer) {
+        // What the page before was painted with still holds the picture.
+        m_context.reset();
+        m_nowhere = QImage(1, 1, QImage::Format_RGB32);
+        m_context = std::make_unique<DeviceContext>(m_nowhere);
+        return;
+    }
+    const double margin = kMarginInches * 72;
+    m_writer->setPageLayout(QPageLayout(
+        m_paper, m_orientation == PageOrientation::Landscape ? QPageLayout::Landscape : QPageLayout::Portrait,
+        QMarginsF(margin, margin, margin, margin), QPageLayout::Point));
+    if (first) {
+        m_painter = std::make_unique<QPainter>(m_writer.get());
+        m_painter->setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
+                                  QPainter::LosslessImageRendering);
+        m_context = std::make_unique<DeviceContext>(*m_painter);
+    } else {
+        m_writer->newPage();
+    }
+}
+
+DeviceContext& PdfPrinter::hDC() {
+    if (!m_pageOpen) OpenPage();
+    return *m_context;
+}
+
+QSizeF PdfPrinter::PrintableInches() const {
+    QSizeF inches = m_paper.size(QPageSize::Inch);
+    if (m_orientation == PageOrientation::Landscape) inches.transpose();
+    return inches - QSizeF(2 * kMarginInches, 2 * kMarginInches);
+}
+
+QSize PdfPrinter::SizeInPixels() const { return (PrintableInches() * m_dpi).toSize(); }
+
+void PdfPrinter::KillDoc() {
+    if (m_file->isOpen()) m_file->cancelWriting();
+    m_context.reset();
+    m_painter.reset();
+    m_writer.reset();
+    m_pageOpen = false;
+}
+
+bool PdfPrinter::Close(QString& sError) {
+    if (m_pages == 0) hDC();
+    m_context.reset();
+    m_painter.reset();
+    m_writer.reset();
+    m_pageOpen = false;
+    if (!m_file->isOpen()) {
+        sError = m_openError;
+        return false;
+    }
+    return m_file->Commit(sError);
+}

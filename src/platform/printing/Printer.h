@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/paint/Surface.h"
+
+#include <QPageSize>
+
+#include <memory>
+
+class QPdfWriter;
+class SaveFile;
+
+enum class PageOrientation { Portrait = 1, Landscape = 2 };
+
+/// A printer. Its pixel (0, 0) is the printable origin; nothing corrects margins any further. It starts in
+/// twips, as drawing code sets the mode that it wants.
+class Printer : public Surface {
+public:
+    Printer() { ScaleMode = ScaleModeKind::Twips; }
+    bool IsPrinter() const override { return true; }
+    /// Holds from the next page on.
+    virtual void SetOrientation(PageOrientation orientation) = 0;
+    virtual PageOrientation Orientation() const = 0;
+    /// Ends the page and, on a real printer, the job.
+    virtual void EndDoc() = 0;
+    /// Throws the document away.
+    virtual void KillDoc() = 0;
+    /// Printable width and height in inches, in the orientation that holds.
+    virtual QSizeF PrintableInches() const = 0;
+
+    /// Name of the next document; a printer that writes files names them after it.
+    virtual void SetDocumentName(const QString&) {}
+    /// What the desktop calls the device; empty where there is none, as with pages that go into a file.
+    virtual QString DeviceName() const { return {}; }
+    /// Asks the desktop for the device anew. False when it has gone, or whoever serves it.
+    virtual bool IsThere() const { return true; }
+    /// Path of the PDF file that the last EndDoc wrote; empty when it went to a device or failed.
+    virtual QString LastPdf() const { return {}; }
+    /// Why the document being printed, or the last one, fails; empty when it doesn't.
+    virtual QString LastError() const { return {}; }
+
+    /// The printer that sheets go to; the caller keeps ownership. Returns the one that was in force, which
+    /// is nothing before the first call.
+    static Printer* Install(Printer* printer);
+    static Printer* Current();
+};
+
+/// Prints into one PDF file, a page to each EndDoc, 0.25 inch of margin on every side.
+class PdfPrinter : public Printer {
+public:
+    static constexpr int kDefaultDpi = 600;
+    static constexpr double kMarginInches = 0.25;
+
+    PdfPrinter(const QString& sPath, const QString& sTitle, QPageSize::PageSizeId paper = QPageSize::Letter,
+               int dpi = kDefaultDpi);
+    ~PdfPrinter() override;
+
+    double DotsPerInch() const override { return m_dpi; }
+    DeviceContext& hDC() override;
+    QSize SizeInPixels() const override;
+    void SetOrientation(PageOrientation orientation) override { m_orientation = orientation; }
+    PageOrientation Orientation() const override { return m_orientation; }
+    void EndDoc() override { m_pageOpen = false; }
+    void KillDoc() override;
+    QSizeF PrintableInches() const override;
+
+    /// Completes the file and puts it in place. False and a sentence in sError when that fails; no part of
+    /// it is then left, and a file that stood there before stands as it was.
+    bool Close(QString& sError);
+    /// Pages begun so far.
+    int Pages() const { return m_pages; }
+
+private:
+    void OpenPage();
+    bool OpenFile();
+
+    QString m_title;
+    int m_dpi;
+    QPageSize m_paper;
+    PageOrientation m_orientation = PageOrientation::Portrait;
+    bool m_pageOpen = false;
+    int m_pages = 0;
+    std::unique_ptr<SaveFile> m_file;
+    QString m_openError;
+    std::unique_ptr<QPdfWriter> m_writer;
+    std::unique_ptr<QPainter> m_painter;
+    std::unique_ptr<DeviceContext> m_context;
+    // Where drawing goes when the file can't be opened, so that the failure is told once, by Close.
+    QImage m_nowhere;
+};

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/paint/Surface.h"
+
+#include <QWidget>
+
+#include <memory>
+
+/// A window's drawing area. What is drawn on it lies in a backing picture and stays: a paint event of the
+/// toolkit only copies that picture, so nothing is ever drawn while the window is being painted. The backing
+/// picture has the dots of the screen, while all coordinates are device-independent pixels.
+class PictureBox : public QWidget, public Surface {
+    Q_OBJECT
+
+public:
+    explicit PictureBox(QWidget* parent = nullptr);
+    ~PictureBox() override;
+
+    double DotsPerInch() const override;
+    DeviceContext& hDC() override;
+    QSize SizeInPixels() const override { return size(); }
+    /// What is drawn on it so far, in the dots of the screen.
+    const QImage& Image();
+    /// Asks the toolkit to show what was drawn.
+    void Refresh() { update(); }
+
+    /// The dots of a pixel; 0 takes those of the screen. For tests.
+    static void PretendPixelRatio(double ratio);
+
+    /// Mouse buttons as the old platform numbers them.
+    static constexpr int kLeftButton = 1;
+    static constexpr int kRightButton = 2;
+    static constexpr int kMiddleButton = 4;
+
+Q_SIGNALS:
+    // Coordinates are twips. iButton is the button pressed or released; for a move the sum of all that are
+    // down. iShift: 1 Shift, 2 Ctrl, 4 Alt.
+    void MouseDown(int iButton, int iShift, float X, float Y);
+    void MouseMove(int iButton, int iShift, float X, float Y);
+    void MouseUp(int iButton, int iShift, float X, float Y);
+    void MouseLeft();
+    /// The backing picture was made anew for another kind of screen; what it showed has been enlarged.
+    void BackingChanged();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+
+private:
+    void MakeBacking();
+    void KeepBackingFitting();
+    double WantedRatio() const;
+    QSize WantedSize() const;
+
+    QImage m_image;
+    std::unique_ptr<DeviceContext> m_context;
+};

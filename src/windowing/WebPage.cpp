@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#include "windowing/WebPage.h"
+
+#include "platform/files/Files.h"
+
+#include <QDesktopServices>
+#include <QUrl>
+
+namespace WebPage {
+
+bool Open(const QString& sLocalPath, const QString& sAddress) {
+    if (Files::Exists(sLocalPath) && QDesktopServices::openUrl(QUrl::fromLocalFile(sLocalPath))) return true;
+    return QDesktopServices::openUrl(QUrl(sAddress));
+}
+
+} // namespace WebPage
