@@ -18,11 +18,11 @@ const QString kPlainName = QStringLiteral("TAVLORA2");
 // Inches, by index of g_dblLabelSizes.
 constexpr std::array<double, basTAVL::kLabelSizes> kLabelSizes = {0.06, 1.65, 2.8125, 0.4375, 0.25, 1.65, 1.83, 2.125};
 
-// A space sticker of kit "8" covers the middle of the printed space only.
+// A slim space sticker covers the middle of the printed space only.
 constexpr int kStickerWidth = 5;
 constexpr int kStickerHeight = 6;
-constexpr double kStickerWidthOfKit8 = 1.36;
-constexpr double kStickerHeightOfKit8 = 2.125;
+constexpr double kSlimStickerWidth = 1.36;
+constexpr double kSlimStickerHeight = 2.125;
 
 constexpr std::array<const char*, basTAVL::kMoney> kMoneyColors = {"00C7C7E8", "00FAD3D8", "00C7E4C8", "00FAD085"};
 constexpr std::array<const char*, basTAVL::kTokens> kTokenColors = {"00DA251D", "000093DD", "0000923F",
@@ -51,12 +51,12 @@ void SetFullColors() {
     basTAVL::g_lPrintBack() = ColorOf("00B6DDC7");
 }
 
-void SetLabelSizes(bool bKit8) {
+void SetLabelSizes(Kit kit) {
     for (int i = 0; i < basTAVL::kLabelSizes; ++i)
         basTAVL::g_dblLabelSizes(i) = kLabelSizes[size_t(i)];
-    if (!bKit8) return;
-    basTAVL::g_dblLabelSizes(kStickerWidth) = kStickerWidthOfKit8;
-    basTAVL::g_dblLabelSizes(kStickerHeight) = kStickerHeightOfKit8;
+    if (!HasSlimStickers(kit)) return;
+    basTAVL::g_dblLabelSizes(kStickerWidth) = kSlimStickerWidth;
+    basTAVL::g_dblLabelSizes(kStickerHeight) = kSlimStickerHeight;
 }
 
 } // namespace
@@ -66,17 +66,18 @@ QString ExeName(const QString& sProgramName) { return LeftStr(sProgramName, kNam
 QString VariantOf(const QString& sProgramName) {
     const QString exeName = ExeName(sProgramName);
     if (exeName == kPlainName) return MidStr(sProgramName, kNameLength).toUpper();
-    return exeName == QStringLiteral("TAVLORA5") ? QStringLiteral("5") : QStringLiteral("8");
+    return ::VariantOf(exeName == QStringLiteral("TAVLORA5") ? Kit::Five : Kit::Eight);
 }
 
 QString ProgramNameOf(const QString& sVariant) {
-    return sVariant == QStringLiteral("8") ? QStringLiteral("tavlora") : QStringLiteral("tavlora") + sVariant.toLower();
+    const QString name = QStringLiteral("tavlora");
+    return KitOf(sVariant) == Kit::Eight ? name : name + sVariant.toLower();
 }
 
 void SetUp(const QString& sProgramName) try {
     const QString variant = VariantOf(sProgramName);
-    basTAVL::g_sGameVersion() = variant;
-    SetLabelSizes(variant == QStringLiteral("8"));
+    basTAVL::Let_g_sGameVersion(variant);
+    SetLabelSizes(TheGame().kit);
     if (ExeName(sProgramName) == kPlainName) {
         SetPlainColors();
     } else {
@@ -101,8 +102,8 @@ void SetPrintBlack(const QString& sProgramName) try {
 }
 
 void ReadGameVersion() try {
-    basTAVL::g_sGameVersion() =
-        basCommon::GetIniStringWithDefault(QStringLiteral("GameVersion"), basTAVL::g_sGameVersion());
+    basTAVL::Let_g_sGameVersion(
+        basCommon::GetIniStringWithDefault(QStringLiteral("GameVersion"), basTAVL::g_sGameVersion()));
 } catch (...) {
     ErrTail("frmTAVL!", "ReadGameVersion");
 }

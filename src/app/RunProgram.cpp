@@ -44,7 +44,7 @@ void PrefetchOwnPictures() {
     for (const char* name : {"tavlora.png", "toolbar.dat"})
         PrefetchPicture(OwnFile(name));
     const double corner = double(basPosit::kFateImage) * RoughBoardSide() * Screen::PixelRatio();
-    PrefetchPicture(OwnFile("fate.dat"), CLng(corner));
+    PrefetchPicture(OwnFile(BoardFacts::kFatePicture), CLng(corner));
 }
 
 } // namespace

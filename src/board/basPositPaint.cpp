@@ -60,10 +60,7 @@ int EscapementOfSide(int iSide, const QString& sMessage) {
     return kEscapement[iSide];
 }
 
-bool IsFixedCorner(int iCorner) {
-    const QString& version = basTAVL::g_sGameVersion();
-    return iCorner == BoardFacts::kFateCorner && (version == QStringLiteral("8") || version == QStringLiteral("5"));
-}
+bool IsFixedCorner(int iCorner) { return iCorner == BoardFacts::kFateCorner && PaintsFateItself(TheGame().kit); }
 
 void PosDrawAll() try {
     StartPictures();

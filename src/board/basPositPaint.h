@@ -53,7 +53,7 @@ void PosDrawSpaceBMP(int iSpace);
 
 /// A corner's picture and, above it, its text; the text waits for a picture that is awaited.
 void PosDrawCorner(int iCorner);
-/// Kits "8" and "5" have a picture of their own on corner 3, whatever the game says.
+/// Some kits have a picture of their own on corner 3, whatever the game says.
 void PosDrawCornerBMP(int iCorner);
 /// The board shows block 0; block 1, in its fixed typeface, is for other output.
 void PosDrawCornerText(int iBlock, int iCorner);

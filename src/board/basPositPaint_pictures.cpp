@@ -70,7 +70,7 @@ void Paste(C_Image& image, int iPlace) {
 }
 
 void PasteFate(C_Image& image) {
-    image.Let_FullPath(basCommon::JoinPath(Folders::ProgramDirectory(), QStringLiteral("fate.dat")));
+    image.Let_FullPath(basCommon::JoinPath(Folders::ProgramDirectory(), QString::fromLatin1(BoardFacts::kFatePicture)));
     if (!Module().picBoard) return;
     const QRect box = BoxOf(image);
     image.PaintPictureCentered(*Module().picBoard, box.x(), box.y(), box.x() + box.width(), box.y() + box.height(),

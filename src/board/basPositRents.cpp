@@ -18,7 +18,6 @@
 namespace basPosit {
 namespace {
 
-const QString kMainKit = QStringLiteral("8");
 const QString kNewLine = QStringLiteral("\r\n");
 const QString kBlankLine = kNewLine + kNewLine;
 
@@ -28,7 +27,7 @@ struct State {
     RentTable rents;
     // Which file the rents stand for; nothing while the path is empty.
     QString sPath;
-    QString sKit;
+    Kit kit = Kit::Unknown;
     Files::Stamp stamp;
 };
 
@@ -69,7 +68,7 @@ void TellUnreadable(const QString& sPath, const QString& sError) {
 }
 
 bool ReadRow(SequentialInput& input, qint16& iRow, RentRecord& rent, QString& sError) {
-    const bool withAddStory = basTAVL::g_sGameVersion() == kMainKit;
+    const bool withAddStory = HasAddedStoreys(TheGame().kit);
     return input.Read(iRow, sError) && input.Read(rent.Cost, sError) && input.Read(rent.RentSingle, sError) &&
            input.Read(rent.RentTwo, sError) && input.Read(rent.RentStory1, sError) &&
            input.Read(rent.RentStory2, sError) && (!withAddStory || input.Read(rent.RentAddStory, sError)) &&
@@ -111,7 +110,7 @@ QString FormatCost(int lCost) {
 QString RentsPath() {
     QString folder = Folders::ProgramDirectory();
     // The other kits' rents have a column less and lie in a folder of their own.
-    if (basTAVL::g_sGameVersion() != kMainKit) folder = basCommon::JoinPath(folder, QStringLiteral("older"));
+    if (!LiesBesideTheProgram(TheGame().kit)) folder = basCommon::JoinPath(folder, QStringLiteral("older"));
     const QString path = basCommon::JoinPath(folder, QStringLiteral("Rents.dat"));
     return basCommon::DoesFileExist(path) ? path : basCommon::JoinPath(folder, QString::fromLatin1(Locale::kRents));
 }
@@ -120,11 +119,11 @@ void ReadRents() try {
     State& module = Module();
     const QString path = RentsPath();
     const Files::Stamp stamp = Files::StampOf(path);
-    const bool known = module.sPath == path && module.sKit == basTAVL::g_sGameVersion() && module.stamp == stamp;
+    const bool known = module.sPath == path && module.kit == TheGame().kit && module.stamp == stamp;
     if (!known || stamp == Files::Stamp{}) {
         module.rents = ReadTable(path);
         module.sPath = path;
-        module.sKit = basTAVL::g_sGameVersion();
+        module.kit = TheGame().kit;
         module.stamp = stamp;
     }
     for (int iSpace = 0; iSpace < basTAVL::kSpaces; ++iSpace) {

@@ -14,7 +14,7 @@ struct RentRecord {
     qint16 RentTwo = 0;
     qint16 RentStory1 = 0;
     qint16 RentStory2 = 0;
-    /// In the file of kit "8" only.
+    /// In the files of some kits only.
     qint16 RentAddStory = 0;
     qint16 Extra = 0;
     /// Shown in the board's tool tip.

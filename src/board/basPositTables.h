@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "document/BoardFacts.h"
 #include "document/SpecialText.h"
 #include "platform/paint/Color.h"
+#include "services/BoardFacts.h"
 
 #include <QString>
 

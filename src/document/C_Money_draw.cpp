@@ -15,6 +15,7 @@
 #include "services/basMsgQueue.h"
 #include "services/basPath.h"
 #include "services/Desktop.h"
+#include "services/Kit.h"
 #include "services/ProgramSettings.h"
 
 #include <algorithm>
@@ -89,8 +90,7 @@ private:
 
 // The oval of a note without a picture; empty in kits before these, and where there is none.
 QString CurrencyOval() {
-    const QString& version = Settings().sGameVersion;
-    if (version != QStringLiteral("5") && version != QStringLiteral("8")) return {};
+    if (!HasCurrencyOval(KitInUse())) return {};
     const QString path = basCommon::JoinPath(Folders::ProgramDirectory(), QStringLiteral("$$$ellipse.dat"));
     return basCommon::DoesFileExist(path) ? path : QString();
 }

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "document/BoardFacts.h"
 #include "document/C_Corner.h"
 #include "document/C_Money.h"
 #include "document/C_News.h"
 #include "document/C_Space.h"
 #include "document/C_Token.h"
 #include "document/SpecialText.h"
+#include "services/BoardFacts.h"
+#include "services/Kit.h"
 
 #include <array>
 
@@ -29,7 +30,7 @@ constexpr int kTokens = 6;
 ///
 /// Colours of the print, sizes of labels and the board's face belong to the kit and the settings, not to a game.
 struct Game {
-    /// Empty records that know their numbers.
+    /// Empty records that know their numbers, for the kit that the settings say.
     Game();
 
     std::array<C_Space, basTAVL::kSpaces> spaces;
@@ -39,9 +40,11 @@ struct Game {
     std::array<C_Money, basTAVL::kMoney> money;
     std::array<C_Token, basTAVL::kTokens> tokens;
     Titles titles;
+    /// What the game is laid out and printed for. No game file holds it.
+    Kit kit;
 
-    /// Compares what a family can change and a game file holds: texts in all their slots, fonts, pictures with
-    /// zoom and centre. What the start or a paint works out isn't looked at: places on the board, prices,
+    /// Compares the kits, and what a family can change and a game file holds: texts in all their slots, fonts,
+    /// pictures with zoom and centre. What the start or a paint works out isn't looked at: places on the board, prices,
     /// colours, sizes fitted to a text.
     friend bool operator==(const Game& a, const Game& b);
 };

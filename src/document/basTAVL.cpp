@@ -41,7 +41,11 @@ C_News& g_oNews(int iGoodOrBad, int iCard) { return At(At(TheGame().news, iGoodO
 C_Money& g_oMoney(int iMoney) { return At(TheGame().money, iMoney); }
 C_Token& g_oTokens(int iToken) { return At(TheGame().tokens, iToken); }
 
-QString& g_sGameVersion() { return Settings().sGameVersion; }
+QString g_sGameVersion() { return Settings().sGameVersion; }
+void Let_g_sGameVersion(const QString& sVariant) {
+    Settings().sGameVersion = sVariant;
+    TheGame().kit = KitOf(sVariant);
+}
 QString& g_vCurrencySign() { return Module().currencySign; }
 Color& g_lNewsColor(int iGoodOrBad) { return At(Module().newsColor, iGoodOrBad); }
 Color& g_lPrintYellow() { return Module().printYellow; }

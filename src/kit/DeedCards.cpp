@@ -63,8 +63,7 @@ QString OrnamentFile(const char* sName) {
     const QString folder = Folders::ProgramDirectory();
     const QString name = QString::fromLatin1(sName);
     const QString plain = basCommon::JoinPath(folder, QStringLiteral("deco2") + name + QStringLiteral(".bmp"));
-    const QString& version = basTAVL::g_sGameVersion();
-    if (version != QStringLiteral("8") && version != QStringLiteral("5")) return plain;
+    if (!HasColouredOrnaments(TheGame().kit)) return plain;
     const QString colored = basCommon::JoinPath(folder, QStringLiteral("deco") + name + QStringLiteral(".dat"));
     return basCommon::DoesFileExist(colored) ? colored : plain;
 }

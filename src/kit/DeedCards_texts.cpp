@@ -98,8 +98,7 @@ private:
 
 QString LabelOf(const RentRow& row, int iDeed) {
     if (BoardFacts::IsUtility(iDeed)) return QString::fromLatin1(row.sUtility);
-    const bool kit8 = basTAVL::g_sGameVersion() == QStringLiteral("8");
-    return QString::fromLatin1(kit8 ? row.sProperty : row.sOlderKits);
+    return QString::fromLatin1(HasAddedStoreys(TheGame().kit) ? row.sProperty : row.sOlderKits);
 }
 
 // The lines of the table that have a value; gives the top of what follows.

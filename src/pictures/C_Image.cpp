@@ -6,7 +6,9 @@
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
 #include "services/basMsgQueue.h"
+#include "services/BoardFacts.h"
 #include "services/Desktop.h"
+#include "services/Kit.h"
 #include "services/ProgramSettings.h"
 #include "services/RecordText.h"
 
@@ -122,8 +124,8 @@ QString C_Image::RelativePath() const try {
 }
 
 void C_Image::Let_RelativePath(const QString& sRelativeFile) try {
-    const bool fate = Settings().sGameVersion == QStringLiteral("8") && m_owner.IsFate();
-    const QString name = fate ? QStringLiteral("fate.dat") : sRelativeFile.trimmed();
+    const bool fate = ReadsFateItself(KitInUse()) && m_owner.IsFate();
+    const QString name = fate ? QString::fromLatin1(BoardFacts::kFatePicture) : sRelativeFile.trimmed();
     Let_FullPath(name.isEmpty() ? QString() : Files::InDiskSpelling(PlaceOf(WithRootOfDrive(name))));
 } catch (...) {
     ErrTail("C_Image!", "Let_RelativePath", sRelativeFile);

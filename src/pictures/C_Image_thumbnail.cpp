@@ -7,6 +7,7 @@
 #include "services/basErrLog.h"
 #include "services/basMsgQueue.h"
 #include "services/basPath.h"
+#include "services/BoardFacts.h"
 #include "services/Desktop.h"
 
 #include <QHash>
@@ -165,7 +166,8 @@ bool C_Image::PaintRendering(Surface& picDest, double xStart, double yStart, dou
 void C_Image::PaintThumbnail(Surface& picDest, double xStart, double yStart, double xEnd, double yEnd) try {
     const bool fate = m_owner.IsFate();
     const QString sFile =
-        fate ? basCommon::JoinPath(Folders::ProgramDirectory(), QStringLiteral("fate.dat")) : Thumbname();
+        fate ? basCommon::JoinPath(Folders::ProgramDirectory(), QString::fromLatin1(BoardFacts::kFatePicture))
+             : Thumbname();
     if (!fate && (PaintRendering(picDest, xStart, yStart, xEnd, yEnd) || IsThumbnailRefused())) return;
     const bool told = m_sBadPath == m_ref.sPath || m_sBadThumb == sFile;
     if (!basCommon::DoesFileExist(sFile)) {

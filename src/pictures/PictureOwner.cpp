@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "pictures/PictureOwner.h"
 
+#include "services/BoardFacts.h"
+
 #include <algorithm>
 #include <array>
 
@@ -15,9 +17,7 @@ constexpr std::array<NamedKind, 4> kNames{{{PictureOwner::Kind::Space, "Space"},
                                            {PictureOwner::Kind::Money, "Money"},
                                            {PictureOwner::Kind::Token, "Token"}}};
 
-constexpr int kSpacesPerSide = 7;
-constexpr int kFirstCornerOrient = 4;
-constexpr int kFateCorner = 3;
+constexpr int kFirstCornerOrient = BoardFacts::kSides;
 
 } // namespace
 
@@ -34,10 +34,10 @@ QString PictureOwner::KindName() const {
     return found == kNames.end() ? QString() : QString::fromLatin1(found->sName);
 }
 
-bool PictureOwner::IsFate() const { return kind == Kind::Corner && iNumber == kFateCorner; }
+bool PictureOwner::IsFate() const { return kind == Kind::Corner && iNumber == BoardFacts::kFateCorner; }
 
 qint16 PictureOwner::Orient() const {
-    if (kind == Kind::Space) return qint16(iNumber / kSpacesPerSide);
+    if (kind == Kind::Space) return qint16(iNumber / BoardFacts::kSpacesPerSide);
     if (kind == Kind::Corner) return qint16(iNumber + kFirstCornerOrient);
     return 0;
 }

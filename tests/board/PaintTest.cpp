@@ -25,7 +25,7 @@ const Color kMagic = Color::Rgb(224, 255, 224);
 class PaintTest : public BoardTest {
 protected:
     PaintTest() {
-        g_sGameVersion() = QStringLiteral("8");
+        Let_g_sGameVersion(QStringLiteral("8"));
         g_lMagicColor() = kMagic;
         frmBMP::InstallAsThumbnailMaker();
         PosInit();
@@ -165,7 +165,7 @@ TEST_F(PaintTest, Edge_FixedCornerShowsTheKitsPictureAndNeverItsText) {
     const BoardRect corner{0.8F, 0.03F, 0.97F, 0.19F};
     WriteOlderRents();
     for (const char* version : {"8", "5", "2"}) {
-        g_sGameVersion() = QString::fromLatin1(version);
+        Let_g_sGameVersion(QString::fromLatin1(version));
         SetCorner(3, kWord);
         const bool fixed = g_sGameVersion() != QStringLiteral("2");
         EXPECT_EQ(Paint().Has(corner, Color::Black()), !fixed) << version;

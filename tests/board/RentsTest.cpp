@@ -164,7 +164,7 @@ TEST_F(RentsTest, OtherKitsReadAColumnLessFromAFolderOfTheirOwn) {
     for (int r = 0; r < 28; ++r)
         text += QByteArray::number(r) + ", 500 ,1,2,3,4,5, Street " + QByteArray::number(r) + "\n";
     WriteFile(QStringLiteral("program/older/Rents.dat"), text);
-    Settings().sGameVersion = QStringLiteral("2A");
+    basTAVL::Let_g_sGameVersion(QStringLiteral("2A"));
     ReadRents();
     EXPECT_EQ(m_Rent(27).Extra, 5);
     EXPECT_EQ(m_Rent(27).RentAddStory, 0);

@@ -89,6 +89,31 @@ TEST_F(GameValueTest, WhatTheStartOrThePaintWorksOutIsNoDifference) {
     EXPECT_EQ(mine, yours);
 }
 
+TEST_F(GameValueTest, PictureOfFateIsTheKitsWhereTheKitPaintsIt) {
+    const QString photo = WriteFile(QStringLiteral("photo.bmp"), "x");
+    for (const Kit kit : {Kit::Five, Kit::Eight, Kit::TwoA}) {
+        mine.kit = yours.kit = kit;
+        mine.corners[3].Image.Let_FullPath(photo);
+        EXPECT_EQ(mine == yours, kit != Kit::TwoA);
+        mine.corners[3].Image.Let_FullPath(QString());
+    }
+    mine.corners[3].SetText(0, QStringLiteral("Luck"));
+    EXPECT_FALSE(mine == yours) << "its text is the family's in every kit: the rules are printed with it";
+    yours = mine;
+    yours.kit = Kit::Five;
+    EXPECT_FALSE(mine == yours);
+}
+
+TEST_F(GameValueTest, NewGameIsForTheKitInUse) {
+    EXPECT_EQ(mine.kit, Kit::Eight);
+    basTAVL::Let_g_sGameVersion(QStringLiteral("2A"));
+    EXPECT_EQ(TheGame().kit, Kit::TwoA);
+    EXPECT_EQ(Game().kit, Kit::TwoA);
+    basTAVL::Let_g_sGameVersion(QStringLiteral("house"));
+    EXPECT_EQ(basTAVL::g_sGameVersion(), QStringLiteral("house"));
+    EXPECT_EQ(TheGame().kit, Kit::Unknown);
+}
+
 TEST_F(GameValueTest, AnotherGameTakesThePlaceOfTheOneInHandAndItsRecordsStayWhereTheyAre) {
     const C_Space& elm = basTAVL::g_oSpaces(4);
     const C_News& rain = basTAVL::g_oNews(1, 11);

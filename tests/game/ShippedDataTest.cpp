@@ -20,7 +20,7 @@ protected:
 
 TEST_F(ShippedDataTest, RentsOfEveryKitHoldTwentyEightRows) {
     for (const char* kit : {"8", "5", "2A", "2"}) {
-        Settings().sGameVersion = QString::fromLatin1(kit);
+        basTAVL::Let_g_sGameVersion(QString::fromLatin1(kit));
         QString error;
         const auto lines = TextFile::ReadLines(basPosit::RentsPath(), error);
         ASSERT_TRUE(lines) << kit << error.toStdString();

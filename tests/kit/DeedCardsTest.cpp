@@ -254,7 +254,7 @@ TEST_F(DeedCardsTest, PlainOrnamentStandsInForAMissingColoredOne) {
 
 TEST_F(DeedCardsTest, PlainKitsHaveThePlainOrnamentsAndRentsOfTheirOwn) {
     if (!PdfReader::IsInstalled()) GTEST_SKIP() << "poppler's tools are not installed";
-    basTAVL::g_sGameVersion() = QStringLiteral("2A");
+    basTAVL::Let_g_sGameVersion(QStringLiteral("2A"));
     ASSERT_TRUE(PrintUtility(26));
     EXPECT_EQ(reader.ColorAt(1, 1.15, 1.15), kPlain);
     ASSERT_TRUE(PrintProperty(5));

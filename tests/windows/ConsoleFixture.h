@@ -46,7 +46,7 @@ protected:
 
     /// A console of a kit, on the screen.
     frmTavlPrint& Open(const char* variant = "8") {
-        basTAVL::g_sGameVersion() = QString::fromLatin1(variant);
+        basTAVL::Let_g_sGameVersion(QString::fromLatin1(variant));
         console = std::make_unique<frmTavlPrint>();
         console->TellInPrint = [this](bool now) { pages.append(now); };
         console->show();

@@ -30,7 +30,7 @@ TEST_F(EditCornerTest, Edge_TheCornerOfFateTakesTextThatItsBoardNeverShows) {
     constexpr int kFate = 3;
     constexpr int kBoard = 600;
     for (const char* kit : {"8", "5"}) {
-        basTAVL::g_sGameVersion() = QString::fromLatin1(kit);
+        basTAVL::Let_g_sGameVersion(QString::fromLatin1(kit));
         basPosit::PosInit();
         basTAVL::g_oCorners(kFate).LoadFromObject(C_Corner());
         const QImage before = basPosit::BoardPicture(kBoard).Image();

@@ -26,7 +26,7 @@ struct Ink {
 class LikenessTest : public BoardTest {
 protected:
     LikenessTest() {
-        basTAVL::g_sGameVersion() = QStringLiteral("8");
+        basTAVL::Let_g_sGameVersion(QStringLiteral("8"));
         basPosit::PosInit();
         basTAVL::g_oSpaces(kSpace).Index = kSpace;
         basTAVL::g_oSpaces(kSpace).Font.Size = 48;

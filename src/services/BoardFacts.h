@@ -65,6 +65,8 @@ constexpr std::array<int, 2> kNewsSpaces = BothOf(SpaceKind::News);
 constexpr std::array<int, 2> kLottoSpaces = BothOf(SpaceKind::Lotto);
 
 constexpr int kFateCorner = 3;
+/// Its picture, in the program's directory. Kit.h tells where it takes the place of a game's own.
+constexpr const char* kFatePicture = "fate.dat";
 
 // The grid, in fractions of the board's width. The ends of a side differ by a hair from the corners' edges.
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "document/BoardFacts.h"
+#include "services/BoardFacts.h"
 
 #include <gtest/gtest.h>
 
