@@ -10,7 +10,6 @@
 
 #include <QCloseEvent>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScrollBar>
@@ -42,44 +41,41 @@ QRect PixelRect(const QRect& twips) {
 
 } // namespace
 
-frmTAVL::frmTAVL() : m_about(std::make_unique<frmAbout>(this)) {
+frmTAVL::frmTAVL()
+    : m_client(new QWidget(this)), m_tips(*m_client),
+      m_toolBar(*m_client, m_tips, std::bind_front(&frmTAVL::RunToolBarButton, this)),
+      m_about(std::make_unique<frmAbout>(this)) {
     setObjectName(QStringLiteral("frmTAVL"));
     MakeControls();
     MakeMenus();
-    Timer1.setObjectName(QStringLiteral("Timer1"));
-    connect(&Timer1, &QTimer::timeout, this, &frmTAVL::Timer1_Timer);
     TimerPictures.setObjectName(QStringLiteral("TimerPictures"));
     connect(&TimerPictures, &QTimer::timeout, this, &frmTAVL::TimerPictures_Timer);
     const QSize client = SmallestClient(Twips(ToolBarTable::kPictureHeight), Twips(cmd[0]->sizeHint().height()));
-    centralWidget()->setMinimumSize(PixelRect(QRect(QPoint(0, 0), client)).size());
+    m_client->setMinimumSize(PixelRect(QRect(QPoint(0, 0), client)).size());
     resize(kSizeOnSmallScreen);
 }
 
 frmTAVL::~frmTAVL() = default;
 
 void frmTAVL::MakeControls() {
-    setCentralWidget(new QWidget(this));
-    MakeToolBar();
-    picBoard = new PictureBox(centralWidget());
+    setCentralWidget(m_client);
+    picBoard = new PictureBox(m_client);
     picBoard->setObjectName(QStringLiteral("picBoard"));
     picBoard->setFocusPolicy(Qt::StrongFocus);
     picBoard->setAccessibleName(QStringLiteral("Game board"));
     connect(picBoard, &PictureBox::MouseDown, this, &frmTAVL::picBoard_MouseDown);
     connect(picBoard, &PictureBox::MouseMove, this, &frmTAVL::picBoard_MouseMove);
+    m_tips.Watch(*picBoard);
     connect(picBoard, &PictureBox::BackingChanged, this, &frmTAVL::picBoard_Paint);
     MakeScrollBars();
     MakeButtons();
-    txtToolTip = new QLabel(centralWidget());
-    txtToolTip->setObjectName(QStringLiteral("txtToolTip"));
-    txtToolTip->setTextFormat(Qt::PlainText);
-    txtToolTip->hide();
     picBoard->setFocus();
 }
 
 void frmTAVL::MakeScrollBars() {
-    hscrl = new QScrollBar(Qt::Horizontal, centralWidget());
+    hscrl = new QScrollBar(Qt::Horizontal, m_client);
     hscrl->setObjectName(QStringLiteral("hscrl"));
-    vscrl = new QScrollBar(Qt::Vertical, centralWidget());
+    vscrl = new QScrollBar(Qt::Vertical, m_client);
     vscrl->setObjectName(QStringLiteral("vscrl"));
     for (QScrollBar* bar : {hscrl, vscrl}) {
         bar->setRange(0, kScrollMax);
@@ -92,7 +88,7 @@ void frmTAVL::MakeScrollBars() {
 void frmTAVL::MakeButtons() {
     for (int i = 0; i < MainLayout::kButtons; ++i) {
         QPushButton*& button = cmd[size_t(i)];
-        button = new QPushButton(QString::fromLatin1(kButtonCaptions[size_t(i)]), centralWidget());
+        button = new QPushButton(QString::fromLatin1(kButtonCaptions[size_t(i)]), m_client);
         button->setObjectName(QStringLiteral("cmd_%1").arg(i));
         connect(button, &QPushButton::clicked, this, &frmTAVL::ButtonClicked);
     }
@@ -106,7 +102,7 @@ void frmTAVL::ButtonClicked() try {
 }
 
 void frmTAVL::Form_Resize() try {
-    const MainWindowSize sizes{Twips(frameGeometry().size()), Twips(centralWidget()->size()),
+    const MainWindowSize sizes{Twips(frameGeometry().size()), Twips(m_client->size()),
                                Twips(ToolBarTable::kPictureHeight), Twips(cmd[0]->sizeHint().height())};
     ApplyLayout(ComputeMainLayout(sizes, m_fZoom));
     const bool bNoRedraw = m_bNoRedraw;
@@ -136,7 +132,7 @@ void frmTAVL::ApplyLayout(const MainLayout& layout) {
 
 void frmTAVL::SetZoom(int iZoom) try {
     ClearHitState();
-    txtToolTip->hide();
+    m_tips.HideBox();
     m_fZoom = float(iZoom);
     basPosit::PosSetScale(m_fZoom);
     Form_Resize();
@@ -246,7 +242,7 @@ void frmTAVL::showEvent(QShowEvent* event) try {
 void frmTAVL::changeEvent(QEvent* event) try {
     QMainWindow::changeEvent(event);
     // The toolbar's picture lies on the colour of the desktop's theme.
-    if (event->type() == QEvent::PaletteChange && imgToolBar) DrawToolBar();
+    if (event->type() == QEvent::PaletteChange) m_toolBar.Draw();
 } catch (...) {
     ErrTop("frmTAVL!", "changeEvent");
 }

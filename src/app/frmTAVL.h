@@ -3,7 +3,8 @@
 
 #include "app/BoardPlace.h"
 #include "app/MainLayout.h"
-#include "app/ToolBarTable.h"
+#include "app/ToolBar.h"
+#include "app/ToolTips.h"
 #include "game/GameSession.h"
 #include "platform/paint/Color.h"
 #include "services/Desktop.h"
@@ -17,7 +18,6 @@
 class frmAbout;
 class PictureBox;
 class QAction;
-class QLabel;
 class QMenu;
 class QPushButton;
 class QScrollBar;
@@ -77,8 +77,6 @@ public:
     void EditToken();
 
     void Redraw();
-    /// Keeps the toolbar button under the mouse, in twips, and frames it.
-    void WhichButton(int Button, int Shift, float X, float Y);
     /// Finds what is at a place of picBoard, in twips.
     void WhatIsMouseOver(float X, float Y);
     const BoardPlace& Over() const { return m_over; }
@@ -87,19 +85,12 @@ public:
 
     PictureBox& Board() { return *picBoard; }
     DeviceContext& MeasuringDevice() override;
-    /// Interval of the tool tips' timer; 0 while it is stopped.
-    int TimerInterval() const { return Timer1.isActive() ? Timer1.interval() : 0; }
+    ToolTips& Tips() { return m_tips; }
 
 public Q_SLOTS:
     void picBoard_MouseDown(int Button, int Shift, float X, float Y);
     void picBoard_MouseMove(int Button, int Shift, float X, float Y);
     void picBoard_Paint();
-    void imgToolBar_MouseDown(int Button, int Shift, float X, float Y);
-    void imgToolBar_MouseMove(int Button, int Shift, float X, float Y);
-    void imgToolBar_MouseUp(int Button, int Shift, float X, float Y);
-    void imgToolBar_MouseLeft();
-    void txtToolTip_MouseMove();
-    void Timer1_Timer();
     /// Pastes pictures that have been decoded since the board was painted.
     void TimerPictures_Timer();
     void hscrl_Change();
@@ -118,17 +109,14 @@ protected:
 private Q_SLOTS:
     void MenuTriggered();
     void ButtonClicked();
-    void DrawToolBar();
 
 private:
     // Building the window.
     void MakeControls();
     void MakeScrollBars();
     void MakeButtons();
-    void MakeToolBar();
     void MakeMenus();
     QMenu* MakeMenu(QMenu* menu, const QString& sCaption, const QString& sName);
-    QSize ToolBarPictureSize() const;
 
     // The start.
     void SizeMainWindow();
@@ -137,7 +125,6 @@ private:
     void HideSplash();
     void Init();
     void InitColors();
-    void InitButtonPositions();
     bool LoadAutosave(const QString& sPath, const QString& sMessage);
     void LoadLastGame();
     bool m_bSplash = false;
@@ -174,36 +161,24 @@ private:
     // Tips and toolbar.
     void ShowTips();
     void PlaceTipBox(float X, float Y);
-    void RestartTipTimer(bool bStart);
-    void FrameButton(int iButton, bool bPressed);
-    void HideButtonFrame();
-    void SetButtonTips(int iButton);
-    void RunToolBarButton(int iButton);
+    void RunToolBarButton(const ToolBarTable::Row& row);
+
+    /// What the other parts of the window lie on.
+    QWidget* const m_client;
+    ToolTips m_tips;
+    ToolBar m_toolBar;
 
     PictureBox* picBoard = nullptr;
-    PictureBox* imgToolBar = nullptr;
     QScrollBar* hscrl = nullptr;
     QScrollBar* vscrl = nullptr;
     std::array<QPushButton*, MainLayout::kButtons> cmd{};
-    QWidget* linButTop = nullptr;
-    QWidget* linButLeft = nullptr;
-    QWidget* linButBottom = nullptr;
-    QWidget* linButRight = nullptr;
-    QLabel* txtToolTip = nullptr;
-    QTimer Timer1;
     QTimer TimerPictures;
     CommonDialog dlgCommon;
     std::unique_ptr<frmAbout> m_about;
 
     std::array<Color, 8> m_lColor{};
-    std::array<qint16, ToolBarTable::kButtons> m_iButtonLeft{};
-    int m_iButton = -1;
-    int m_iButtonState = 0;
     BoardPlace m_over;
-    bool m_bToolTips = true;
     QString m_sBoardTip;
-    QString m_sToolBarTip;
     QPointF m_lastOnBoard{-1, -1};
-    QPointF m_lastOnToolBar{-1, -1};
     int m_wheelTurn = 0;
 };

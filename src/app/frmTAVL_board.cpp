@@ -15,15 +15,10 @@
 #include "windowing/WidgetLook.h"
 
 #include <QApplication>
-#include <QLabel>
 
 #include <utility>
 
 namespace {
-
-// A tip that isn't wanted any more goes after a second's grace and seven more.
-constexpr int kFirstInterval = 1000;
-constexpr int kSecondInterval = 7000;
 
 /// The hourglass while work is under way, whatever way it ends.
 class Hourglass {
@@ -158,55 +153,27 @@ void frmTAVL::picBoard_MouseMove(int Button, int Shift, float X, float Y) try {
         ShowTips();
         PlaceTipBox(X, Y);
     } else {
-        txtToolTip->hide();
+        m_tips.HideBox();
         m_sBoardTip.clear();
         WidgetLook::SetToolTip(*picBoard, m_sBoardTip);
     }
     picBoard->setCursor(m_over.IsEditable() ? Qt::PointingHandCursor : Qt::ArrowCursor);
-    RestartTipTimer(m_bToolTips && m_over.IsEditable());
+    m_tips.Restart(m_tips.AreTimed() && m_over.IsEditable());
 } catch (...) {
     ErrTop("frmTAVL!", "picBoard_MouseMove", Button, Shift, X, Y);
 }
 
 void frmTAVL::ShowTips() {
-    const QString text = TipBoxTextOf(m_over);
-    if (!text.isEmpty()) txtToolTip->setText(text);
+    m_tips.SetBoxText(TipBoxTextOf(m_over));
     m_sBoardTip = BoardTipOf(m_over);
     WidgetLook::SetToolTip(*picBoard, m_sBoardTip);
 }
 
 void frmTAVL::PlaceTipBox(float X, float Y) {
     const int twips = kTwipsPerPixel;
-    const QPoint at = TipBoxPosition(m_over, X, Y, txtToolTip->sizeHint() * twips, picBoard->size() * twips);
-    txtToolTip->move(picBoard->pos() + at / twips);
-    // The desktop's own tips say the same, so the box stays out of sight.
-    txtToolTip->hide();
+    const QPoint at = TipBoxPosition(m_over, X, Y, m_tips.BoxSize() * twips, picBoard->size() * twips);
+    m_tips.MoveBox(picBoard->pos() + at / twips);
 }
-
-void frmTAVL::RestartTipTimer(bool bStart) {
-    Timer1.stop();
-    if (bStart) Timer1.start(kFirstInterval);
-}
-
-void frmTAVL::Timer1_Timer() try {
-    switch (Timer1.interval()) {
-        case kFirstInterval:
-            Timer1.setInterval(kSecondInterval);
-            break;
-        case kSecondInterval:
-            txtToolTip->hide();
-            Timer1.stop();
-            WidgetLook::SetToolTip(*picBoard, QString());
-            WidgetLook::SetToolTip(*imgToolBar, QString());
-            break;
-        default:
-            basCommon::Assert(false, QStringLiteral("Unexpected Interval"), QStringLiteral("frmTAVL!Timer1_Timer"));
-    }
-} catch (...) {
-    ErrTop("frmTAVL!", "Timer1_Timer");
-}
-
-void frmTAVL::txtToolTip_MouseMove() { txtToolTip->hide(); }
 
 void frmTAVL::ChangedByEditor(bool bChanged, bool bRedraw) try {
     if (!bChanged) return;

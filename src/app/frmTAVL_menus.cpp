@@ -143,8 +143,7 @@ void frmTAVL::mnuView_Click(int Index) try {
         case 7:
             return;
         case 6:
-            m_bToolTips = !m_bToolTips;
-            return;
+            return m_tips.Toggle();
         case 8:
             return EditorRoutes::Current().Setup();
         case 9:
@@ -169,6 +168,17 @@ void frmTAVL::mnuHelp_Click(int Index) try {
     }
 } catch (...) {
     ErrTail("frmTAVL!", "mnuHelp_Click", Index);
+}
+
+void frmTAVL::RunToolBarButton(const ToolBarTable::Row& row) {
+    switch (row.menu) {
+        case ToolBarTable::Menu::File:
+            return mnuFile_Click(row.iItem);
+        case ToolBarTable::Menu::View:
+            return mnuView_Click(row.iItem);
+        case ToolBarTable::Menu::Zoom:
+            return mnuZoom_Click(row.iItem);
+    }
 }
 
 void frmTAVL::cmd_Click(int Index) try {

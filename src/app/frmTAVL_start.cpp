@@ -3,13 +3,13 @@
 
 #include "app/frmAbout.h"
 #include "app/frmPrintManual.h"
-#include "app/GameKit.h"
 #include "board/basPosit.h"
 #include "document/basTAVL.h"
 #include "drawing/basBMP.h"
 #include "drawing/basDraw.h"
 #include "game/Autosave.h"
 #include "game/SampleGames.h"
+#include "app/GameKit.h"
 #include "platform/files/ProfileFile.h"
 #include "platform/paint/Units.h"
 #include "services/basCommon.h"
@@ -105,7 +105,7 @@ void frmTAVL::HideSplash() try {
 void frmTAVL::Init() try {
     m_fZoom = 1.0F;
     InitColors();
-    InitButtonPositions();
+    m_toolBar.InitButtonPositions();
     basPosit::PosInit();
     basDraw::Draw_SetHdc(&picBoard->hDC());
     basBMP::BMP_SetHDC(&picBoard->hDC());

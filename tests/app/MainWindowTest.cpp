@@ -212,23 +212,23 @@ TEST_F(MainWindowTest, TipsOfTheBoardNameWhatIsUnderTheMouse) {
 TEST_F(MainWindowTest, TipsGoAfterASecondAndSevenMore) {
     const QPointF money = MiddleOfBox(5);
     MoveOnBoard(money.x(), money.y());
-    EXPECT_EQ(window->TimerInterval(), 1000);
-    window->Timer1_Timer();
-    EXPECT_EQ(window->TimerInterval(), 7000);
+    EXPECT_EQ(window->Tips().TimerInterval(), 1000);
+    window->Tips().Timer1_Timer();
+    EXPECT_EQ(window->Tips().TimerInterval(), 7000);
     EXPECT_FALSE(BoardTip().isEmpty());
-    window->Timer1_Timer();
-    EXPECT_EQ(window->TimerInterval(), 0);
+    window->Tips().Timer1_Timer();
+    EXPECT_EQ(window->Tips().TimerInterval(), 0);
     EXPECT_TRUE(BoardTip().isEmpty());
     const QPointF lotto = MiddleOf(10);
     MoveOnBoard(lotto.x(), lotto.y());
-    EXPECT_EQ(window->TimerInterval(), 0) << "nothing editable";
+    EXPECT_EQ(window->Tips().TimerInterval(), 0) << "nothing editable";
     ChooseMenu("mnuView_6");
     MoveOnBoard(money.x(), money.y());
-    EXPECT_EQ(window->TimerInterval(), 0) << "switched off";
+    EXPECT_EQ(window->Tips().TimerInterval(), 0) << "switched off";
     EXPECT_FALSE(Find<QAction>("mnuView_6").isChecked());
     ChooseMenu("mnuView_6");
     MoveOnBoard(money.x() + 0.01, money.y());
-    EXPECT_EQ(window->TimerInterval(), 1000);
+    EXPECT_EQ(window->Tips().TimerInterval(), 1000);
 }
 
 TEST_F(MainWindowTest, HitTestTellsWhetherAnythingChanged) {

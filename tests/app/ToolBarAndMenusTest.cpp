@@ -82,7 +82,7 @@ TEST_F(ToolBarAndMenusTest, ToolbarFramesTheButtonUnderTheMouse) {
     EXPECT_EQ(top.palette().window().color(), QColor(Qt::white));
     EXPECT_EQ(ToolBar().toolTip(), QStringLiteral("Open Previous Game"));
     EXPECT_EQ(Find<QLabel>("txtToolTip").text(), QStringLiteral("Existing\r\nGame"));
-    EXPECT_EQ(window->TimerInterval(), 1000);
+    EXPECT_EQ(window->Tips().TimerInterval(), 1000);
     QTest::mousePress(&ToolBar(), Qt::LeftButton, {}, OnToolBar(1));
     EXPECT_EQ(top.palette().window().color(), QColor(128, 128, 128));
     QTest::mouseMove(&ToolBar(), QPoint(73, 12));

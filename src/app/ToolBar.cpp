@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "app/frmTAVL.h"
+#include "app/ToolBar.h"
 
+#include "app/ToolTips.h"
 #include "platform/files/Folders.h"
+#include "platform/paint/Color.h"
 #include "platform/paint/Units.h"
 #include "platform/pictures/LoadPicture.h"
 #include "platform/text/Numbers.h"
@@ -10,7 +12,7 @@
 #include "windowing/PictureBox.h"
 #include "windowing/WidgetLook.h"
 
-#include <QLabel>
+#include <utility>
 
 namespace {
 
@@ -30,28 +32,27 @@ int Pixels(float twips) { return CLng(double(twips) / kTwipsPerPixel); }
 
 } // namespace
 
-void frmTAVL::MakeToolBar() {
-    imgToolBar = new PictureBox(centralWidget());
+ToolBar::ToolBar(QWidget& parent, ToolTips& tips, std::function<void(const ToolBarTable::Row&)> run)
+    : m_tips(tips), m_run(std::move(run)), imgToolBar(new PictureBox(&parent)),
+      linButTop(MakeLine(imgToolBar, "linButTop")), linButLeft(MakeLine(imgToolBar, "linButLeft")),
+      linButBottom(MakeLine(imgToolBar, "linButBottom")), linButRight(MakeLine(imgToolBar, "linButRight")) {
     imgToolBar->setObjectName(QStringLiteral("imgToolBar"));
     imgToolBar->setAccessibleName(QStringLiteral("Toolbar; all its commands are in the menus"));
     imgToolBar->setGeometry(0, 0, ToolBarTable::kPictureWidth, ToolBarTable::kPictureHeight);
-    linButTop = MakeLine(imgToolBar, "linButTop");
-    linButLeft = MakeLine(imgToolBar, "linButLeft");
-    linButBottom = MakeLine(imgToolBar, "linButBottom");
-    linButRight = MakeLine(imgToolBar, "linButRight");
-    connect(imgToolBar, &PictureBox::MouseDown, this, &frmTAVL::imgToolBar_MouseDown);
-    connect(imgToolBar, &PictureBox::MouseMove, this, &frmTAVL::imgToolBar_MouseMove);
-    connect(imgToolBar, &PictureBox::MouseUp, this, &frmTAVL::imgToolBar_MouseUp);
-    connect(imgToolBar, &PictureBox::MouseLeft, this, &frmTAVL::imgToolBar_MouseLeft);
-    connect(imgToolBar, &PictureBox::BackingChanged, this, &frmTAVL::DrawToolBar);
-    DrawToolBar();
+    m_tips.Watch(*imgToolBar);
+    connect(imgToolBar, &PictureBox::MouseDown, this, &ToolBar::imgToolBar_MouseDown);
+    connect(imgToolBar, &PictureBox::MouseMove, this, &ToolBar::imgToolBar_MouseMove);
+    connect(imgToolBar, &PictureBox::MouseUp, this, &ToolBar::imgToolBar_MouseUp);
+    connect(imgToolBar, &PictureBox::MouseLeft, this, &ToolBar::imgToolBar_MouseLeft);
+    connect(imgToolBar, &PictureBox::BackingChanged, this, &ToolBar::imgToolBar_BackingChanged);
+    Draw();
 }
 
-void frmTAVL::DrawToolBar() try {
+void ToolBar::Draw() {
     QString error;
     const Picture picture =
         LoadPicture(basCommon::JoinPath(Folders::ProgramDirectory(), QStringLiteral("toolbar.dat")), error);
-    imgToolBar->SetBackColor(WidgetLook::FillOf(*this));
+    imgToolBar->SetBackColor(WidgetLook::FillOf(*imgToolBar->window()));
     if (picture.IsNull()) {
         // The menus hold the same commands, so a missing picture is no reason to disturb anybody.
         basErrLog::ErrLogToFile(QStringLiteral("The toolbar's picture can't be shown: ") + error, true);
@@ -59,11 +60,13 @@ void frmTAVL::DrawToolBar() try {
     }
     imgToolBar->PaintPicture(picture, 0, 0, ToolBarTable::kPictureWidth, ToolBarTable::kPictureHeight);
     imgToolBar->Refresh();
-} catch (...) {
-    ErrTop("frmTAVL!", "DrawToolBar");
 }
 
-void frmTAVL::InitButtonPositions() try {
+void ToolBar::imgToolBar_BackingChanged() try { Draw(); } catch (...) {
+    ErrTop("frmTAVL!", "imgToolBar_BackingChanged");
+}
+
+void ToolBar::InitButtonPositions() try {
     for (int i = 0; i < ToolBarTable::kButtons; ++i)
         m_iButtonLeft[size_t(i)] = qint16(ToolBarTable::kRows[size_t(i)].iLeft);
     linButTop->move(linButTop->x(), ToolBarTable::kTop);
@@ -72,7 +75,7 @@ void frmTAVL::InitButtonPositions() try {
     ErrTail("frmTAVL!", "InitButtonPositions");
 }
 
-void frmTAVL::WhichButton(int Button, int Shift, float X, float Y) try {
+void ToolBar::WhichButton(int Button, int Shift, float X, float Y) try {
     const int iButton = ToolBarTable::ButtonAt(Pixels(X), Pixels(Y));
     if (Button == m_iButtonState && iButton == m_iButton) return;
     if (iButton < 0) {
@@ -86,7 +89,7 @@ void frmTAVL::WhichButton(int Button, int Shift, float X, float Y) try {
     ErrTail("frmTAVL!", "WhichButton", Button, Shift, X, Y);
 }
 
-void frmTAVL::FrameButton(int iButton, bool bPressed) {
+void ToolBar::FrameButton(int iButton, bool bPressed) {
     const int left = m_iButtonLeft[size_t(iButton)];
     const int right = left + ToolBarTable::kButtonWidth;
     linButTop->setGeometry(left, ToolBarTable::kTop, ToolBarTable::kButtonWidth + 1, 1);
@@ -103,72 +106,54 @@ void frmTAVL::FrameButton(int iButton, bool bPressed) {
         line->show();
 }
 
-void frmTAVL::HideButtonFrame() {
+void ToolBar::HideButtonFrame() {
     for (QWidget* line : {linButTop, linButLeft, linButBottom, linButRight})
         line->hide();
     m_iButton = -1;
     m_iButtonState = 0;
 }
 
-void frmTAVL::imgToolBar_MouseMove(int Button, int Shift, float X, float Y) try {
+void ToolBar::imgToolBar_MouseMove(int Button, int Shift, float X, float Y) try {
     const QPointF position{double(X), double(Y)};
-    if (position == m_lastOnToolBar) return;
-    m_lastOnToolBar = position;
-    txtToolTip->hide();
-    Timer1.stop();
+    if (position == m_last) return;
+    m_last = position;
+    m_tips.HideBox();
+    m_tips.Restart(false);
     WhichButton(Button, Shift, X, Y);
     if (m_iButton < 0) {
         WidgetLook::SetToolTip(*imgToolBar, QString());
         return;
     }
     SetButtonTips(m_iButton);
-    RestartTipTimer(true);
+    m_tips.Restart(true);
 } catch (...) {
     ErrTop("frmTAVL!", "imgToolBar_MouseMove", Button, Shift, X, Y);
 }
 
-void frmTAVL::SetButtonTips(int iButton) {
+void ToolBar::SetButtonTips(int iButton) {
     const ToolBarTable::Row& row = ToolBarTable::kRows.at(size_t(iButton));
-    txtToolTip->setText(QString::fromLatin1(row.sBoxLine1) + QStringLiteral("\r\n") +
-                        QString::fromLatin1(row.sBoxLine2));
+    m_tips.SetBoxText(QString::fromLatin1(row.sBoxLine1) + QStringLiteral("\r\n") + QString::fromLatin1(row.sBoxLine2));
     m_sToolBarTip = QString::fromLatin1(row.sTip);
     WidgetLook::SetToolTip(*imgToolBar, m_sToolBarTip);
 }
 
-void frmTAVL::imgToolBar_MouseDown(int Button, int Shift, float X, float Y) try {
+void ToolBar::imgToolBar_MouseDown(int Button, int Shift, float X, float Y) try {
     // One twip aside, so that it counts as a movement and the pressed frame shows at once.
     imgToolBar_MouseMove(Button, Shift, X + 1, Y);
 } catch (...) {
     ErrTop("frmTAVL!", "imgToolBar_MouseDown", Button, Shift, X, Y);
 }
 
-void frmTAVL::imgToolBar_MouseUp(int Button, int Shift, float X, float Y) try {
+void ToolBar::imgToolBar_MouseUp(int Button, int Shift, float X, float Y) try {
     const int iButton = m_iButton;
     const bool pressed = m_iButtonState != 0;
     // Raised again before the command runs: it may show a window.
     WhichButton(0, Shift, X, Y);
-    if (pressed && iButton >= 0) RunToolBarButton(iButton);
+    if (pressed && iButton >= 0) m_run(ToolBarTable::kRows.at(size_t(iButton)));
 } catch (...) {
     ErrTop("frmTAVL!", "imgToolBar_MouseUp", Button, Shift, X, Y);
 }
 
-void frmTAVL::imgToolBar_MouseLeft() try { HideButtonFrame(); } catch (...) {
+void ToolBar::imgToolBar_MouseLeft() try { HideButtonFrame(); } catch (...) {
     ErrTop("frmTAVL!", "imgToolBar_MouseLeft");
-}
-
-void frmTAVL::RunToolBarButton(int iButton) try {
-    const ToolBarTable::Row& row = ToolBarTable::kRows.at(size_t(iButton));
-    switch (row.menu) {
-        case ToolBarTable::Menu::File:
-            mnuFile_Click(row.iItem);
-            break;
-        case ToolBarTable::Menu::View:
-            mnuView_Click(row.iItem);
-            break;
-        case ToolBarTable::Menu::Zoom:
-            mnuZoom_Click(row.iItem);
-            break;
-    }
-} catch (...) {
-    ErrTail("frmTAVL!", "RunToolBarButton", iButton);
 }
