@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/MainLayout.h"
 
+#include "platform/paint/Units.h"
 #include "platform/text/Numbers.h"
 
 #include <algorithm>
@@ -38,6 +39,11 @@ MainLayout ComputeMainLayout(const MainWindowSize& sizes, float fZoom) {
                                       at.y() + lSize + MainLayout::kGap, lWidth, sizes.lButtonHeight);
     }
     return layout;
+}
+
+QRect InPixels(const QRect& twips) {
+    return QRect(twips.left() / kTwipsPerPixel, twips.top() / kTwipsPerPixel, twips.width() / kTwipsPerPixel,
+                 twips.height() / kTwipsPerPixel);
 }
 
 QSize SmallestClient(int lToolBarHeight, int lButtonHeight) {

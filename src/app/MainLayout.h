@@ -32,6 +32,9 @@ struct MainWindowSize {
 
 MainLayout ComputeMainLayout(const MainWindowSize& sizes, float fZoom);
 
+/// A rectangle of the layout in pixels.
+QRect InPixels(const QRect& twips);
+
 /// The smallest client area in which the smallest board and its buttons show.
 QSize SmallestClient(int lToolBarHeight, int lButtonHeight);
 

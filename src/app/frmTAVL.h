@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/BoardPlace.h"
+#include "app/BoardView.h"
 #include "app/MainLayout.h"
 #include "app/ToolBar.h"
 #include "app/ToolTips.h"
@@ -10,17 +10,13 @@
 #include "services/Desktop.h"
 
 #include <QMainWindow>
-#include <QPointF>
-#include <QTimer>
 
 #include <array>
 
 class frmAbout;
-class PictureBox;
 class QAction;
 class QMenu;
 class QPushButton;
-class QScrollBar;
 
 /// The main window, and the program's start: loading it starts the program, unloading it ends it. It shows
 /// the board, on which everything is a door to an editor, and holds the commands on the game as a whole.
@@ -39,12 +35,8 @@ public:
     /// Ends the program.
     void Form_Unload();
 
-    /// Board view: 1.0 shows it whole.
-    float m_fZoom = 1.0F;
     /// Of the last load: 0 good, -1 failed.
     int m_iLoadResult = 0;
-    /// While true, Redraw returns at once.
-    bool m_bNoRedraw = false;
     /// Printing has been done; the printer can't be changed any more.
     bool m_bPrintedSomething = false;
     /// A page is being printed; the program can't be closed.
@@ -76,25 +68,11 @@ public:
     void EditMoney();
     void EditToken();
 
-    void Redraw();
-    /// Finds what is at a place of picBoard, in twips.
-    void WhatIsMouseOver(float X, float Y);
-    const BoardPlace& Over() const { return m_over; }
-    bool m_bOverChanged = false;
-    bool m_bOverSomething = false;
-
-    PictureBox& Board() { return *picBoard; }
-    DeviceContext& MeasuringDevice() override;
+    BoardView& View() { return m_view; }
     ToolTips& Tips() { return m_tips; }
+    DeviceContext& MeasuringDevice() override;
 
 public Q_SLOTS:
-    void picBoard_MouseDown(int Button, int Shift, float X, float Y);
-    void picBoard_MouseMove(int Button, int Shift, float X, float Y);
-    void picBoard_Paint();
-    /// Pastes pictures that have been decoded since the board was painted.
-    void TimerPictures_Timer();
-    void hscrl_Change();
-    void vscrl_Change();
     /// Another start of the program wants this one, with a game to open or an empty text.
     void CalledByAnotherStart(const QString& sGame);
 
@@ -112,8 +90,6 @@ private Q_SLOTS:
 
 private:
     // Building the window.
-    void MakeControls();
-    void MakeScrollBars();
     void MakeButtons();
     void MakeMenus();
     QMenu* MakeMenu(QMenu* menu, const QString& sCaption, const QString& sName);
@@ -147,38 +123,19 @@ private:
     void ChangedByEditor(bool bChanged, bool bRedraw);
     void ShowDialogError();
 
-    // The view.
-    void PaintBoard();
-    void SetZoom(int iZoom);
-    void ClearHitState();
-    void ApplyLayout(const MainLayout& layout);
-    int ScrollOffsetOf(const QScrollBar& bar) const;
-    void ScrollBy(int iSteps, Qt::Orientation orientation, bool bPages);
-    void ZoomAtMouse(int iZoom, QPointF position);
-
-    void AwaitPictures(bool bAwaited);
-
-    // Tips and toolbar.
-    void ShowTips();
-    void PlaceTipBox(float X, float Y);
+    // What the parts of the window ask for.
+    void OpenPlace(const BoardPlace& place);
     void RunToolBarButton(const ToolBarTable::Row& row);
 
     /// What the other parts of the window lie on.
     QWidget* const m_client;
     ToolTips m_tips;
     ToolBar m_toolBar;
+    BoardView m_view;
 
-    PictureBox* picBoard = nullptr;
-    QScrollBar* hscrl = nullptr;
-    QScrollBar* vscrl = nullptr;
     std::array<QPushButton*, MainLayout::kButtons> cmd{};
-    QTimer TimerPictures;
     CommonDialog dlgCommon;
     std::unique_ptr<frmAbout> m_about;
 
     std::array<Color, 8> m_lColor{};
-    BoardPlace m_over;
-    QString m_sBoardTip;
-    QPointF m_lastOnBoard{-1, -1};
-    int m_wheelTurn = 0;
 };

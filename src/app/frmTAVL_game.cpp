@@ -20,7 +20,7 @@ const QString kGameExtension = QStringLiteral("gam");
 
 } // namespace
 
-DeviceContext& frmTAVL::MeasuringDevice() { return picBoard->hDC(); }
+DeviceContext& frmTAVL::MeasuringDevice() { return m_view.Board().hDC(); }
 
 void frmTAVL::GameLoad(QString& sFileName) { GameFile::GameLoad(sFileName, m_iLoadResult); }
 
@@ -45,7 +45,7 @@ void frmTAVL::BeginNewGame(int& iResult) try {
     iResult = m_iLoadResult;
     GetNewGameName(m_sGameName);
     SetTitle();
-    Redraw();
+    m_view.Redraw();
 } catch (...) {
     ErrTail("frmTAVL!", "BeginNewGame", iResult);
 }
@@ -135,7 +135,7 @@ void frmTAVL::LoadInstead(const QString& sPath) try {
     // A game that was read only in part isn't the file any more.
     SetSomethingChanged(m_iLoadResult != 0);
     basCommon::WriteIniString(QStringLiteral("GameName"), m_sGameName);
-    Redraw();
+    m_view.Redraw();
 } catch (...) {
     ErrTail("frmTAVL!", "LoadInstead", sPath);
 }

@@ -122,15 +122,15 @@ void frmTAVL::mnuFile_Click(int Index) try {
     ErrTail("frmTAVL!", "mnuFile_Click", Index);
 }
 
-void frmTAVL::mnuZoom_Click(int Index) try { SetZoom(Index + 1); } catch (...) {
+void frmTAVL::mnuZoom_Click(int Index) try { m_view.SetZoom(Index + 1); } catch (...) {
     ErrTail("frmTAVL!", "mnuZoom_Click", Index);
 }
 
 void frmTAVL::mnuView_Click(int Index) try {
     switch (Index) {
         case 0:
-            SetZoom(1);
-            return Redraw();
+            m_view.SetZoom(1);
+            return m_view.Redraw();
         case 1:
             return EditMoney();
         case 2:

@@ -95,20 +95,20 @@ void frmTAVL::ShowSplash() try {
 }
 
 void frmTAVL::HideSplash() try {
-    m_bNoRedraw = true;
+    m_view.SetNoRedraw(true);
     if (m_bSplash) m_about->EndSplash();
-    m_bNoRedraw = false;
+    m_view.SetNoRedraw(false);
 } catch (...) {
     ErrTail("frmTAVL!", "HideSplash");
 }
 
 void frmTAVL::Init() try {
-    m_fZoom = 1.0F;
+    m_view.ForgetZoom();
     InitColors();
     m_toolBar.InitButtonPositions();
     basPosit::PosInit();
-    basDraw::Draw_SetHdc(&picBoard->hDC());
-    basBMP::BMP_SetHDC(&picBoard->hDC());
+    basDraw::Draw_SetHdc(&m_view.Board().hDC());
+    basBMP::BMP_SetHDC(&m_view.Board().hDC());
     basBMP::BMP_SetBackColor(basTAVL::g_lMagicColor());
     basBMP::BMP_SetMagicColor(basTAVL::g_lMagicColor());
     const bool recovered =

@@ -134,12 +134,12 @@ protected:
     void ChooseMenu(const char* name) const { Find<QAction>(name).trigger(); }
     /// A click on a place of the board, given as fractions of what is visible.
     void ClickBoard(double fX, double fY) const {
-        PictureBox& board = window->Board();
+        PictureBox& board = window->View().Board();
         QTest::mouseClick(&board, Qt::LeftButton, {}, PointOnBoard(fX, fY));
     }
-    void MoveOnBoard(double fX, double fY) const { QTest::mouseMove(&window->Board(), PointOnBoard(fX, fY)); }
+    void MoveOnBoard(double fX, double fY) const { QTest::mouseMove(&window->View().Board(), PointOnBoard(fX, fY)); }
     QPoint PointOnBoard(double fX, double fY) const {
-        const PictureBox& board = window->Board();
+        const PictureBox& board = window->View().Board();
         return QPoint(int(board.width() * fX), int(board.height() * fY));
     }
 

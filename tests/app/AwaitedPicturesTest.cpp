@@ -38,7 +38,7 @@ protected:
 
     /// Pixels of the photograph's colour on the space, as the window shows it.
     int PurplePixels() const {
-        const QImage seen = window->Board().grab().toImage();
+        const QImage seen = window->View().Board().grab().toImage();
         const basPosit::BoardRect& rect = basPosit::m_SpaceRect(kSpace, basPosit::SpacePart::Whole);
         const QPoint first = PointOnBoard(double(std::min(rect.x1, rect.x2)), double(std::min(rect.y1, rect.y2)));
         const QPoint last = PointOnBoard(double(std::max(rect.x1, rect.x2)), double(std::max(rect.y1, rect.y2)));
@@ -59,9 +59,9 @@ TEST_F(AwaitedPicturesTest, PictureComesByItselfBehindTheBoard) {
     EXPECT_EQ(PurplePixels(), 0) << "the board doesn't wait for it";
     EXPECT_TRUE(QTest::qWaitFor([this] { return PurplePixels() > kEnough; }, kMilliseconds));
     // What came later is part of the board as if it had been there at once.
-    const QImage filledIn = window->Board().Image();
-    window->Redraw();
-    EXPECT_EQ(window->Board().Image(), filledIn);
+    const QImage filledIn = window->View().Board().Image();
+    window->View().Redraw();
+    EXPECT_EQ(window->View().Board().Image(), filledIn);
 }
 
 TEST_F(AwaitedPicturesTest, PictureWaitsWhileAnotherWindowStandsOnTop) {
@@ -80,7 +80,7 @@ TEST_F(AwaitedPicturesTest, PictureThatCannotBeReadIsToldOnceAndTheRestOfTheBoar
     EXPECT_TRUE(QTest::qWaitFor([this] { return !desktop.boxes.isEmpty(); }, kMilliseconds));
     QTest::qWait(kLongerThanDecoding);
     Strings told = desktop.Texts();
-    window->Redraw();
+    window->View().Redraw();
     QTest::qWait(kLongerThanDecoding);
     EXPECT_EQ(desktop.Texts(), told);
     EXPECT_EQ(told.removeDuplicates(), 0);

@@ -25,7 +25,7 @@ protected:
     }
 
     void ClickBoardAt(QPointF place) const { ClickBoard(place.x(), place.y()); }
-    QImage Board() const { return window->Board().Image().copy(); }
+    QImage Board() const { return window->View().Board().Image().copy(); }
     static QString Title(int record) { return basPosit::m_CenterText(record).sText; }
     static QString CardText(int deck, int card) { return basTAVL::g_oNews(deck, card).Text(); }
 

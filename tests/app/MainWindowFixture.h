@@ -36,16 +36,16 @@ protected:
         QTest::mousePress(&ToolBar(), Qt::LeftButton, {}, OnToolBar(button));
         QTest::mouseRelease(&ToolBar(), Qt::LeftButton, {}, OnToolBar(button));
     }
-    QString BoardTip() const { return window->Board().toolTip(); }
+    QString BoardTip() const { return window->View().Board().toolTip(); }
     void Wheel(int notches, Qt::KeyboardModifiers modifiers, QPoint at) const {
         // Only turns of a real wheel climb from the board to its window.
-        const PictureBox& board = window->Board();
+        const PictureBox& board = window->View().Board();
         QWheelEvent event(board.mapTo(window.get(), QPointF(at)), board.mapToGlobal(QPointF(at)), QPoint(),
                           QPoint(0, notches * 120), Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
         QApplication::sendEvent(window.get(), &event);
     }
     Color SeenAt(double fX, double fY) const {
         const QPoint at = PointOnBoard(fX, fY);
-        return window->Board().hDC().GetPixel(at.x(), at.y());
+        return window->View().Board().hDC().GetPixel(at.x(), at.y());
     }
 };

@@ -6,7 +6,7 @@ namespace {
 
 TEST_F(MainWindowTest, Edge_VerySmallWindowKeepsTheBoardAt1800Twips) {
     window->resize(10, 10);
-    EXPECT_EQ(window->Board().size(), QSize(120, 120));
+    EXPECT_EQ(window->View().Board().size(), QSize(120, 120));
     // Told straight, where no desktop keeps a window from becoming too small.
     EXPECT_EQ(ComputeMainLayout({QSize(150, 150), QSize(150, 150), 390, 375}, 1.0F).picBoard.size(), QSize(1800, 1800));
 }
@@ -29,12 +29,12 @@ TEST_F(MainWindowTest, Edge_ClickOnAZoomedBoardFindsWhatIsReallyThere) {
 TEST_F(MainWindowTest, Edge_MouseThatDoesNotMoveChangesNoTip) {
     const QPointF money = MiddleOfBox(5);
     const QPoint at = PointOnBoard(money.x(), money.y());
-    window->picBoard_MouseMove(0, 0, float(at.x() * 15), float(at.y() * 15));
+    window->View().picBoard_MouseMove(0, 0, float(at.x() * 15), float(at.y() * 15));
     EXPECT_EQ(BoardTip(), QStringLiteral("Click to edit Money"));
-    window->Board().setToolTip(QStringLiteral("untouched"));
-    window->picBoard_MouseMove(0, 0, float(at.x() * 15), float(at.y() * 15));
+    window->View().Board().setToolTip(QStringLiteral("untouched"));
+    window->View().picBoard_MouseMove(0, 0, float(at.x() * 15), float(at.y() * 15));
     EXPECT_EQ(BoardTip(), QStringLiteral("untouched"));
-    window->picBoard_MouseMove(0, 0, float(at.x() * 15 + 15), float(at.y() * 15));
+    window->View().picBoard_MouseMove(0, 0, float(at.x() * 15 + 15), float(at.y() * 15));
     EXPECT_EQ(BoardTip(), QStringLiteral("Click to edit Money"));
 }
 
@@ -79,7 +79,7 @@ TEST_F(MainWindowTest, ChangeIsAutosavedAndSpaceRepaints) {
         basTAVL::g_oSpaces(4).SetText(QStringLiteral("XXXX"));
         return true;
     };
-    window->Board().SetBackColor(Color::White());
+    window->View().Board().SetBackColor(Color::White());
     window->EditNews(0);
     EXPECT_TRUE(HasAutosave());
     EXPECT_TRUE(window->m_bChanged);
@@ -118,33 +118,33 @@ TEST_F(MainWindowTest, BoardShowsTheColoursOfItsTables) {
 
 TEST_F(MainWindowTest, ZoomShowsScrollBarsAndAPartOfTheBoard) {
     EXPECT_FALSE(Find<QScrollBar>("hscrl").isVisible());
-    const int whole = window->Board().width();
+    const int whole = window->View().Board().width();
     ChooseMenu("mnuZoom_2");
-    EXPECT_FLOAT_EQ(window->m_fZoom, 3.0F);
+    EXPECT_FLOAT_EQ(window->View().Zoom(), 3.0F);
     EXPECT_TRUE(Find<QScrollBar>("hscrl").isVisible());
     EXPECT_TRUE(Find<QScrollBar>("vscrl").isVisible());
-    EXPECT_EQ(window->Board().width(), whole - 16);
-    EXPECT_EQ(Find<QScrollBar>("vscrl").geometry().left(), window->Board().geometry().right() + 1);
+    EXPECT_EQ(window->View().Board().width(), whole - 16);
+    EXPECT_EQ(Find<QScrollBar>("vscrl").geometry().left(), window->View().Board().geometry().right() + 1);
     Find<QScrollBar>("hscrl").setValue(32767);
-    EXPECT_EQ(basPosit::GetOffsetX(), -2 * window->Board().width());
+    EXPECT_EQ(basPosit::GetOffsetX(), -2 * window->View().Board().width());
     EXPECT_EQ(SeenAt(0.99, 0.5), Color::White()) << "the margin at the right of the board";
     ChooseMenu("mnuZoom_0");
     EXPECT_FALSE(Find<QScrollBar>("hscrl").isVisible());
     EXPECT_EQ(basPosit::GetOffsetX(), 0);
     window->mnuZoom_Click(3);
     window->mnuView_Click(0);
-    EXPECT_FLOAT_EQ(window->m_fZoom, 1.0F);
+    EXPECT_FLOAT_EQ(window->View().Zoom(), 1.0F);
 }
 
 TEST_F(MainWindowTest, WheelZoomsWithCtrlAndScrollsWithout) {
     const QPointF at = MiddleOf(5);
     const QPoint mouse = PointOnBoard(at.x(), at.y());
     Wheel(1, Qt::ControlModifier, mouse);
-    EXPECT_FLOAT_EQ(window->m_fZoom, 2.0F);
-    QTest::mouseClick(&window->Board(), Qt::LeftButton, {}, mouse);
+    EXPECT_FLOAT_EQ(window->View().Zoom(), 2.0F);
+    QTest::mouseClick(&window->View().Board(), Qt::LeftButton, {}, mouse);
     EXPECT_EQ(routes.Take(), Strings{QStringLiteral("space 5")}) << "what was under the mouse stays there";
     Wheel(9, Qt::ControlModifier, mouse);
-    EXPECT_FLOAT_EQ(window->m_fZoom, 4.0F);
+    EXPECT_FLOAT_EQ(window->View().Zoom(), 4.0F);
     Find<QScrollBar>("vscrl").setValue(0);
     Wheel(-1, {}, mouse);
     EXPECT_GT(Find<QScrollBar>("vscrl").value(), 0);
@@ -152,13 +152,13 @@ TEST_F(MainWindowTest, WheelZoomsWithCtrlAndScrollsWithout) {
     Wheel(-1, Qt::ShiftModifier, mouse);
     EXPECT_GT(Find<QScrollBar>("hscrl").value(), 0);
     Wheel(-9, Qt::ControlModifier, mouse);
-    EXPECT_FLOAT_EQ(window->m_fZoom, 1.0F);
+    EXPECT_FLOAT_EQ(window->View().Zoom(), 1.0F);
 }
 
 TEST_F(MainWindowTest, KeysScrollAZoomedBoard) {
     const QScrollBar& across = Find<QScrollBar>("hscrl");
     const QScrollBar& down = Find<QScrollBar>("vscrl");
-    PictureBox& board = window->Board();
+    PictureBox& board = window->View().Board();
     QTest::keyClick(&board, Qt::Key_Right);
     EXPECT_EQ(across.value(), 0) << "nothing to scroll";
     ChooseMenu("mnuZoom_1");
@@ -232,16 +232,16 @@ TEST_F(MainWindowTest, TipsGoAfterASecondAndSevenMore) {
 }
 
 TEST_F(MainWindowTest, HitTestTellsWhetherAnythingChanged) {
-    const float side = float(window->Board().width() * 15);
-    window->WhatIsMouseOver(side * 0.5F, side * 0.45F);
-    EXPECT_FALSE(window->m_bOverSomething);
+    const float side = float(window->View().Board().width() * 15);
+    window->View().WhatIsMouseOver(side * 0.5F, side * 0.45F);
+    EXPECT_FALSE(window->View().IsOverSomething());
     const QPointF space = MiddleOf(4);
-    window->WhatIsMouseOver(side * float(space.x()), side * float(space.y()));
-    EXPECT_TRUE(window->m_bOverChanged);
-    EXPECT_TRUE(window->m_bOverSomething);
-    EXPECT_EQ(window->Over().m_iOverSpace, 4);
-    window->WhatIsMouseOver(side * float(space.x()) + 15, side * float(space.y()));
-    EXPECT_FALSE(window->m_bOverChanged);
+    window->View().WhatIsMouseOver(side * float(space.x()), side * float(space.y()));
+    EXPECT_TRUE(window->View().IsOverChanged());
+    EXPECT_TRUE(window->View().IsOverSomething());
+    EXPECT_EQ(window->View().Over().m_iOverSpace, 4);
+    window->View().WhatIsMouseOver(side * float(space.x()) + 15, side * float(space.y()));
+    EXPECT_FALSE(window->View().IsOverChanged());
 }
 
 TEST_F(MainWindowTest, WindowCantBeClosedWhileAPageIsPrinted) {
@@ -254,7 +254,7 @@ TEST_F(MainWindowTest, WindowCantBeClosedWhileAPageIsPrinted) {
 TEST_F(MainWindowTest, MessagesOfAPaintComeWhenItIsDone) {
     basTAVL::g_oSpaces(5).Image.Let_FullPath(QString());
     desktop.boxes.clear();
-    window->Redraw();
+    window->View().Redraw();
     EXPECT_TRUE(desktop.boxes.isEmpty());
     EXPECT_FALSE(QApplication::overrideCursor()) << "the hourglass is gone";
 }
@@ -266,9 +266,9 @@ TEST_F(MainWindowTest, NothingIsClippedAtTheUsualSize) {
         for (int i = 0; i < MainLayout::kButtons; ++i) {
             const auto& button = Find<QPushButton>(qPrintable(QStringLiteral("cmd_%1").arg(i)));
             EXPECT_TRUE(inside.contains(button.geometry())) << i << " at " << size.width();
-            EXPECT_GE(button.y(), window->Board().geometry().bottom());
+            EXPECT_GE(button.y(), window->View().Board().geometry().bottom());
         }
-        EXPECT_TRUE(inside.contains(window->Board().geometry()));
+        EXPECT_TRUE(inside.contains(window->View().Board().geometry()));
     }
 }
 

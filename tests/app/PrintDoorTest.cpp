@@ -95,9 +95,9 @@ TEST_F(PrintDoorTest, DoneDuringAJobLeavesTheMainWindowDisabledAndTheProgramOpen
 TEST_F(PrintDoorTest, TheBoardIsNotPaintedWhileAPageIs) {
     bool painted = true;
     desktop.onPump = [&] {
-        window->Board().SetBackColor(Color::Rgb(1, 2, 3));
-        window->Redraw();
-        painted = window->Board().Image().pixel(50, 50) != qRgb(1, 2, 3);
+        window->View().Board().SetBackColor(Color::Rgb(1, 2, 3));
+        window->View().Redraw();
+        painted = window->View().Board().Image().pixel(50, 50) != qRgb(1, 2, 3);
     };
     PrintNews();
     desktop.onPump = nullptr;

@@ -218,7 +218,7 @@ TEST_F(StartUpTest, SplashShowsThatItIsLoadingWithoutAButton) {
     } watching(seen);
     Start();
     EXPECT_TRUE(seen);
-    EXPECT_FALSE(window->m_bNoRedraw);
+    EXPECT_FALSE(window->View().IsNoRedraw());
     for (const QWidget* top : QApplication::topLevelWidgets())
         EXPECT_FALSE(top->objectName() == QStringLiteral("frmAbout") && top->isVisible());
 }
@@ -271,8 +271,8 @@ TEST_F(StartUpTest, AboutTellsTheVersionInTwoPartsAndOnAClickInThree) {
 TEST_F(StartUpTest, WindowOfASmallScreenIsNoWiderThanItsBoardNeeds) {
     frmTAVL unsized;
     unsized.show();
-    EXPECT_GT(unsized.Board().width(), 400);
-    EXPECT_LT(unsized.width() - unsized.Board().width(), 80);
+    EXPECT_GT(unsized.View().Board().width(), 400);
+    EXPECT_LT(unsized.width() - unsized.View().Board().width(), 80);
     EXPECT_LE(unsized.height(), 600);
 }
 

@@ -56,7 +56,7 @@ TEST_F(ToolBarAndMenusTest, ToolbarButtonsRunTheirCommands) {
                                       QStringLiteral("print")}));
     for (int zoom : {4, 3, 2, 1}) {
         ClickToolBar(7 + zoom);
-        EXPECT_FLOAT_EQ(window->m_fZoom, float(zoom));
+        EXPECT_FLOAT_EQ(window->View().Zoom(), float(zoom));
     }
     QStringList dialogs;
     desktop.onDialog = [&](const CommonDialog& dialog) {
