@@ -48,7 +48,7 @@ bool EditorWindows::ShowNews(int iGoodOrBad) {
 
 void EditorWindows::ChangedMeanwhile() {
     m_bToldAll = false;
-    m_main.SetSomethingChanged(true);
+    m_main.Commands().SetSomethingChanged(true);
     m_bToldAll = true;
 }
 

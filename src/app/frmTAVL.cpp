@@ -8,6 +8,7 @@
 #include "windowing/PictureBox.h"
 #include "windowing/WidgetLook.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMenuBar>
@@ -32,7 +33,7 @@ frmTAVL::frmTAVL()
       m_view(
           *m_client, m_tips,
           {.layOut = std::bind_front(&frmTAVL::Form_Resize, this), .open = std::bind_front(&frmTAVL::OpenPlace, this)}),
-      m_about(std::make_unique<frmAbout>(this)) {
+      m_commands(*this, m_view), m_about(std::make_unique<frmAbout>(this)) {
     setObjectName(QStringLiteral("frmTAVL"));
     setCentralWidget(m_client);
     MakeButtons();
@@ -132,7 +133,7 @@ void frmTAVL::SetInPrint(bool bNow) try {
 
 void frmTAVL::Form_QueryUnload(bool& bCancel) try {
     bool ok = false;
-    if (!bInPrint) OkToEndProgram(ok);
+    if (!bInPrint) m_commands.OkToEndProgram(ok);
     bCancel = !ok;
 } catch (...) {
     ErrTail("frmTAVL!", "Form_QueryUnload", bCancel);
@@ -143,4 +144,23 @@ void frmTAVL::Form_Unload() try {
     EndProgram();
 } catch (...) {
     ErrTail("frmTAVL!", "Form_Unload");
+}
+
+void frmTAVL::CalledByAnotherStart(const QString& sGame) try {
+    if (m_bLoading) {
+        // A start that only wants this one to come to the front takes back no game.
+        if (!sGame.isEmpty()) m_sGameToOpen = sGame;
+        return;
+    }
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    raise();
+    activateWindow();
+    if (sGame.isEmpty()) return;
+    if (QApplication::activeModalWidget() || bInPrint) {
+        MsgBox(QStringLiteral("Please close the window you are working in, then open the game again."), vbInformation);
+        return;
+    }
+    m_commands.OpenGame(sGame);
+} catch (...) {
+    ErrTop("frmTAVL!", "CalledByAnotherStart", sGame);
 }

@@ -2,10 +2,10 @@
 #pragma once
 
 #include "app/BoardView.h"
+#include "app/GameCommands.h"
 #include "app/MainLayout.h"
 #include "app/ToolBar.h"
 #include "app/ToolTips.h"
-#include "game/GameSession.h"
 #include "platform/paint/Color.h"
 #include "services/Desktop.h"
 
@@ -20,7 +20,7 @@ class QPushButton;
 
 /// The main window, and the program's start: loading it starts the program, unloading it ends it. It shows
 /// the board, on which everything is a door to an editor, and holds the commands on the game as a whole.
-class frmTAVL : public QMainWindow, public GameSession {
+class frmTAVL : public QMainWindow {
     Q_OBJECT
 
 public:
@@ -35,25 +35,12 @@ public:
     /// Ends the program.
     void Form_Unload();
 
-    /// Of the last load: 0 good, -1 failed.
-    int m_iLoadResult = 0;
     /// Printing has been done; the printer can't be changed any more.
     bool m_bPrintedSomething = false;
     /// A page is being printed; the program can't be closed.
     bool bInPrint = false;
     /// Meanwhile the window takes no input, and the board isn't painted: sheets use the same drawing state.
     void SetInPrint(bool bNow);
-
-    // Commands on the game.
-    void BeginNewGame(int& iResult);
-    /// The first "GameN.gam" of the My Games directory that doesn't exist.
-    void GetNewGameName(QString& sName);
-    /// Asks for a name; iResult is 0, or -1 when there is none.
-    void SetNewGameName(int& iResult);
-    void OkToEndProgram(bool& bOk);
-    void SetSomethingChanged(bool bChanged) override;
-    /// The question about unsaved changes, then this game instead of the current one.
-    void OpenGame(const QString& sPath);
 
     void mnuFile_Click(int Index);
     void mnuView_Click(int Index);
@@ -70,7 +57,7 @@ public:
 
     BoardView& View() { return m_view; }
     ToolTips& Tips() { return m_tips; }
-    DeviceContext& MeasuringDevice() override;
+    GameCommands& Commands() { return m_commands; }
 
 public Q_SLOTS:
     /// Another start of the program wants this one, with a game to open or an empty text.
@@ -101,27 +88,15 @@ private:
     void HideSplash();
     void Init();
     void InitColors();
-    bool LoadAutosave(const QString& sPath, const QString& sMessage);
-    void LoadLastGame();
     bool m_bSplash = false;
     bool m_bLoading = false;
     /// What another start asked for while this one was still loading.
     QString m_sGameToOpen;
 
-    // The game.
-    void GameLoad(QString& sFileName);
-    void SetTitle();
-    void NewGame();
-    void OpenGameFromDialog();
-    void AutosaveWhatStays();
-    void LoadInstead(const QString& sPath);
-    void Save();
-    void SaveAs();
     void PrinterSetup();
     void Print();
     void ExitWithQuestion();
     void ChangedByEditor(bool bChanged, bool bRedraw);
-    void ShowDialogError();
 
     // What the parts of the window ask for.
     void OpenPlace(const BoardPlace& place);
@@ -132,6 +107,7 @@ private:
     ToolTips m_tips;
     ToolBar m_toolBar;
     BoardView m_view;
+    GameCommands m_commands;
 
     std::array<QPushButton*, MainLayout::kButtons> cmd{};
     CommonDialog dlgCommon;

@@ -25,7 +25,7 @@ void frmTAVL::OpenPlace(const BoardPlace& place) {
 
 void frmTAVL::ChangedByEditor(bool bChanged, bool bRedraw) try {
     if (!bChanged) return;
-    SetSomethingChanged(true);
+    m_commands.SetSomethingChanged(true);
     if (bRedraw) m_view.Redraw();
 } catch (...) {
     ErrTail("frmTAVL!", "ChangedByEditor", bChanged, bRedraw);

@@ -98,13 +98,13 @@ void frmTAVL::MenuTriggered() try {
 void frmTAVL::mnuFile_Click(int Index) try {
     switch (Index) {
         case 0:
-            return NewGame();
+            return m_commands.New();
         case 2:
-            return OpenGameFromDialog();
+            return m_commands.Open();
         case 3:
-            return Save();
+            return m_commands.Save();
         case 4:
-            return SaveAs();
+            return m_commands.SaveAs();
         case 6:
             return PrinterSetup();
         case 7:
@@ -203,7 +203,7 @@ void frmTAVL::cmd_Click(int Index) try {
 }
 
 void frmTAVL::Print() try {
-    if (m_bChanged) {
+    if (m_commands.m_bChanged) {
         MsgBox(QStringLiteral("Please save your changes before printing."));
         return;
     }

@@ -7,7 +7,6 @@
 #include "document/basTAVL.h"
 #include "drawing/basBMP.h"
 #include "drawing/basDraw.h"
-#include "game/Autosave.h"
 #include "game/SampleGames.h"
 #include "app/GameKit.h"
 #include "platform/files/ProfileFile.h"
@@ -52,7 +51,7 @@ void frmTAVL::Form_Load() try {
     Init();
     HideSplash();
     m_bLoading = false;
-    if (!m_sGameToOpen.isEmpty()) OpenGame(m_sGameToOpen);
+    if (!m_sGameToOpen.isEmpty()) m_commands.OpenGame(m_sGameToOpen);
 } catch (...) {
     m_bLoading = false;
     ErrTop("frmTAVL!", "Form_Load");
@@ -111,13 +110,7 @@ void frmTAVL::Init() try {
     basBMP::BMP_SetHDC(&m_view.Board().hDC());
     basBMP::BMP_SetBackColor(basTAVL::g_lMagicColor());
     basBMP::BMP_SetMagicColor(basTAVL::g_lMagicColor());
-    const bool recovered =
-        LoadAutosave(Autosave::DataPath(),
-                     QStringLiteral("An Autosave version of a previous game has been found on your disk. ")) ||
-        LoadAutosave(
-            Autosave::BackupPath(),
-            QStringLiteral("The backup of an autosave version of a previous game has been found on your disk. "));
-    if (!recovered) LoadLastGame();
+    m_commands.TakeUpGame();
 } catch (...) {
     ErrTail("frmTAVL!", "Init");
 }
@@ -126,30 +119,4 @@ void frmTAVL::InitColors() {
     // Nothing reads this table; it documents the window's colours.
     m_lColor = {Color::Rgb(0, 128, 0),   Color::Rgb(255, 0, 128), Color::Rgb(255, 128, 0),   Color::Rgb(0, 0, 255),
                 Color::Rgb(255, 255, 0), Color::Rgb(255, 0, 255), Color::Rgb(128, 128, 255), Color::Rgb(255, 0, 0)};
-}
-
-bool frmTAVL::LoadAutosave(const QString& sPath, const QString& sMessage) try {
-    if (!basCommon::DoesFileExist(sPath)) return false;
-    MsgBox(sMessage + QStringLiteral("This game is being loaded."));
-    QString name = sPath;
-    GameLoad(name);
-    if (m_iLoadResult != 0) return false;
-    m_sGameName = name;
-    m_bChanged = true;
-    SetTitle();
-    return true;
-} catch (...) {
-    ErrTail("frmTAVL!", "LoadAutosave", sPath);
-}
-
-void frmTAVL::LoadLastGame() try {
-    m_sGameName = basCommon::GetIniString(QStringLiteral("GameName"));
-    if (m_sGameName.isEmpty() || !basCommon::ResolveFullPath(m_sGameName)) {
-        BeginNewGame(m_iLoadResult);
-    } else {
-        GameLoad(m_sGameName);
-    }
-    SetTitle();
-} catch (...) {
-    ErrTail("frmTAVL!", "LoadLastGame");
 }

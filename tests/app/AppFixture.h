@@ -119,7 +119,7 @@ protected:
     /// An edit that an editor hands back.
     void Edit(const QString& text) const {
         basTAVL::g_oSpaces(4).SetText(text);
-        window->SetSomethingChanged(true);
+        window->Commands().SetSomethingChanged(true);
     }
 
     template <typename Widget>

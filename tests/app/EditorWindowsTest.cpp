@@ -20,7 +20,7 @@ class EditorWindowsTest : public AppTest {
 protected:
     EditorWindowsTest() : editors(Start()) {
         WriteGame(QStringLiteral("Ours.gam"), QStringLiteral("Desk"));
-        window->OpenGame(InGames(QStringLiteral("Ours.gam")));
+        window->Commands().OpenGame(InGames(QStringLiteral("Ours.gam")));
         EditorRoutes::Install(&editors);
     }
 
@@ -128,7 +128,7 @@ TEST_F(EditorWindowsTest, ATokenIsAutosavedWhileTheOthersStillShow) {
         EXPECT_TRUE(ReadFile(InGames(QStringLiteral("~AutoSave.dat"))).contains("zap"));
     });
     ClickBoardAt(kTokens);
-    EXPECT_TRUE(window->m_bChanged);
+    EXPECT_TRUE(window->Commands().m_bChanged);
     EXPECT_FALSE(HasBackup()) << "one change is one autosave";
 }
 

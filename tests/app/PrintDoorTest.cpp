@@ -18,7 +18,7 @@ protected:
     PrintDoorTest() : doors(Start()) {
         frmBMP::InstallAsThumbnailMaker();
         WriteGame(QStringLiteral("Ours.gam"), QStringLiteral("Desk"));
-        window->OpenGame(InGames(QStringLiteral("Ours.gam")));
+        window->Commands().OpenGame(InGames(QStringLiteral("Ours.gam")));
         EditorRoutes::Install(&doors);
         Folders::PretendFreeBytes(1e12);
     }

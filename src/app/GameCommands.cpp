@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "app/frmTAVL.h"
+#include "app/GameCommands.h"
 
+#include "app/BoardView.h"
 #include "app/GameNames.h"
 #include "document/Locale.h"
 #include "game/Autosave.h"
@@ -11,8 +12,6 @@
 #include "windowing/PictureBox.h"
 #include "windowing/WidgetLook.h"
 
-#include <QApplication>
-
 namespace {
 
 const QString kGameFilter = QStringLiteral("Tavlora games|*.gam|All files|*.*");
@@ -20,43 +19,75 @@ const QString kGameExtension = QStringLiteral("gam");
 
 } // namespace
 
-DeviceContext& frmTAVL::MeasuringDevice() { return m_view.Board().hDC(); }
+DeviceContext& GameCommands::MeasuringDevice() { return m_view.Board().hDC(); }
 
-void frmTAVL::GameLoad(QString& sFileName) { GameFile::GameLoad(sFileName, m_iLoadResult); }
+void GameCommands::GameLoad(QString& sFileName) { GameFile::GameLoad(sFileName, m_iLoadResult); }
 
-void frmTAVL::SetTitle() {
-    setWindowTitle(WidgetLook::WindowTitle(QStringLiteral("Tavlora: ") + m_sGameName));
-    setWindowModified(m_bChanged);
+void GameCommands::ShowState() {
+    m_window.setWindowTitle(WidgetLook::WindowTitle(QStringLiteral("Tavlora: ") + m_sGameName));
+    m_window.setWindowModified(m_bChanged);
 }
 
-void frmTAVL::SetSomethingChanged(bool bChanged) try {
-    if (bChanged) setWindowModified(true);
+void GameCommands::SetSomethingChanged(bool bChanged) try {
+    if (bChanged) m_window.setWindowModified(true);
     GameSession::SetSomethingChanged(bChanged);
-    setWindowModified(m_bChanged);
+    m_window.setWindowModified(m_bChanged);
 } catch (...) {
     ErrTail("frmTAVL!", "SetSomethingChanged", bChanged);
 }
 
-void frmTAVL::BeginNewGame(int& iResult) try {
+void GameCommands::TakeUpGame() {
+    const bool recovered =
+        LoadAutosave(Autosave::DataPath(),
+                     QStringLiteral("An Autosave version of a previous game has been found on your disk. ")) ||
+        LoadAutosave(
+            Autosave::BackupPath(),
+            QStringLiteral("The backup of an autosave version of a previous game has been found on your disk. "));
+    if (!recovered) LoadLastGame();
+}
+
+bool GameCommands::LoadAutosave(const QString& sPath, const QString& sMessage) {
+    if (!basCommon::DoesFileExist(sPath)) return false;
+    MsgBox(sMessage + QStringLiteral("This game is being loaded."));
+    QString name = sPath;
+    GameLoad(name);
+    if (m_iLoadResult != 0) return false;
+    m_sGameName = name;
+    m_bChanged = true;
+    ShowState();
+    return true;
+}
+
+void GameCommands::LoadLastGame() {
+    m_sGameName = basCommon::GetIniString(QStringLiteral("GameName"));
+    if (m_sGameName.isEmpty() || !basCommon::ResolveFullPath(m_sGameName)) {
+        BeginNewGame(m_iLoadResult);
+    } else {
+        GameLoad(m_sGameName);
+    }
+    ShowState();
+}
+
+void GameCommands::BeginNewGame(int& iResult) try {
     const QString folder = Folders::ProgramDirectory();
     QString game = basCommon::JoinPath(folder, QStringLiteral("Default.dat"));
     if (!basCommon::DoesFileExist(game)) game = basCommon::JoinPath(folder, QString::fromLatin1(Locale::kDefaultGame));
     GameLoad(game);
     iResult = m_iLoadResult;
     GetNewGameName(m_sGameName);
-    SetTitle();
+    ShowState();
     m_view.Redraw();
 } catch (...) {
     ErrTail("frmTAVL!", "BeginNewGame", iResult);
 }
 
-void frmTAVL::GetNewGameName(QString& sName) try {
+void GameCommands::GetNewGameName(QString& sName) try {
     sName = GameNames::FirstFreeName(basCommon::GetMyGamesDirectory());
 } catch (...) {
     ErrTail("frmTAVL!", "GetNewGameName", sName);
 }
 
-void frmTAVL::SetNewGameName(int& iResult) try {
+void GameCommands::SetNewGameName(int& iResult) try {
     QString name;
     GetNewGameName(name);
     dlgCommon.sDialogTitle = QStringLiteral("Save Game Under New Name");
@@ -77,33 +108,33 @@ void frmTAVL::SetNewGameName(int& iResult) try {
     ErrTail("frmTAVL!", "SetNewGameName", iResult);
 }
 
-void frmTAVL::ShowDialogError() {
+void GameCommands::ShowDialogError() {
     if (dlgCommon.sError.isEmpty()) return;
     const QString blankLine = QStringLiteral("\r\n\r\n");
     MsgBox(QStringLiteral("The following error was encountered while processing the File Dialog: ") + blankLine +
            dlgCommon.sError + blankLine + QStringLiteral("The game was NOT saved."));
 }
 
-void frmTAVL::NewGame() try {
+bool GameCommands::MayGo() {
     bool ok = false;
     OkToEndProgram(ok);
-    if (!ok) return;
+    return ok;
+}
+
+void GameCommands::New() {
+    if (!MayGo()) return;
     BeginNewGame(m_iLoadResult);
     AutosaveWhatStays();
-} catch (...) {
-    ErrTail("frmTAVL!", "NewGame");
 }
 
 // After No to the question about changes nothing of them is left on the disk, and then no other game came: what is
 // still being worked on must outlive a crash as before.
-void frmTAVL::AutosaveWhatStays() {
+void GameCommands::AutosaveWhatStays() {
     if (m_bChanged) SetSomethingChanged(true);
 }
 
-void frmTAVL::OpenGameFromDialog() try {
-    bool ok = false;
-    OkToEndProgram(ok);
-    if (!ok) return;
+void GameCommands::Open() {
+    if (!MayGo()) return;
     dlgCommon.sDialogTitle = QStringLiteral("Open Game");
     dlgCommon.sInitDir = GameNames::FolderOf(m_sGameName);
     dlgCommon.sFileName = GameNames::IsUnnamed(m_sGameName) ? QString() : GameNames::FileNameOf(m_sGameName);
@@ -116,53 +147,41 @@ void frmTAVL::OpenGameFromDialog() try {
         return;
     }
     LoadInstead(dlgCommon.sFileName);
-} catch (...) {
-    ErrTail("frmTAVL!", "OpenGameFromDialog");
 }
 
-void frmTAVL::OpenGame(const QString& sPath) try {
-    bool ok = false;
-    OkToEndProgram(ok);
-    if (ok) LoadInstead(sPath);
-} catch (...) {
-    ErrTail("frmTAVL!", "OpenGame", sPath);
+void GameCommands::OpenGame(const QString& sPath) {
+    if (MayGo()) LoadInstead(sPath);
 }
 
-void frmTAVL::LoadInstead(const QString& sPath) try {
+void GameCommands::LoadInstead(const QString& sPath) {
     m_sGameName = sPath;
     GameLoad(m_sGameName);
-    SetTitle();
+    ShowState();
     // A game that was read only in part isn't the file any more.
     SetSomethingChanged(m_iLoadResult != 0);
     basCommon::WriteIniString(QStringLiteral("GameName"), m_sGameName);
     m_view.Redraw();
-} catch (...) {
-    ErrTail("frmTAVL!", "LoadInstead", sPath);
 }
 
-void frmTAVL::Save() try {
+void GameCommands::Save() {
     if (GameNames::IsUnnamed(m_sGameName)) {
         SaveAs();
         return;
     }
     bool result = false;
     GameFile::GameSave(m_sGameName, result);
-} catch (...) {
-    ErrTail("frmTAVL!", "Save");
 }
 
-void frmTAVL::SaveAs() try {
+void GameCommands::SaveAs() {
     int iResult = 0;
     SetNewGameName(iResult);
     if (iResult < 0) return;
     bool result = false;
     GameFile::GameSave(m_sGameName, result);
-    SetTitle();
-} catch (...) {
-    ErrTail("frmTAVL!", "SaveAs");
+    ShowState();
 }
 
-void frmTAVL::OkToEndProgram(bool& bOk) try {
+void GameCommands::OkToEndProgram(bool& bOk) try {
     bOk = !m_bChanged;
     if (bOk) return;
     const int answer = MsgBox(QStringLiteral("Do you want to save the changes pending on the current game.?"),
@@ -184,23 +203,4 @@ void frmTAVL::OkToEndProgram(bool& bOk) try {
     }
 } catch (...) {
     ErrTail("frmTAVL!", "OkToEndProgram", bOk);
-}
-
-void frmTAVL::CalledByAnotherStart(const QString& sGame) try {
-    if (m_bLoading) {
-        // A start that only wants this one to come to the front takes back no game.
-        if (!sGame.isEmpty()) m_sGameToOpen = sGame;
-        return;
-    }
-    setWindowState(windowState() & ~Qt::WindowMinimized);
-    raise();
-    activateWindow();
-    if (sGame.isEmpty()) return;
-    if (QApplication::activeModalWidget() || bInPrint) {
-        MsgBox(QStringLiteral("Please close the window you are working in, then open the game again."), vbInformation);
-        return;
-    }
-    OpenGame(sGame);
-} catch (...) {
-    ErrTop("frmTAVL!", "CalledByAnotherStart", sGame);
 }

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "game/GameSession.h"
+#include "services/Desktop.h"
+
+class BoardView;
+class QWidget;
+
+/// The commands on the game as a whole: new, open, save, save under a new name, and the question about unsaved
+/// changes. The window's title shows the game's name and whether it holds any.
+class GameCommands : public GameSession {
+public:
+    GameCommands(QWidget& window, BoardView& view) : m_window(window), m_view(view) {}
+
+    /// What the start goes on with: an autosave, its backup, the last game, or else a new one.
+    void TakeUpGame();
+    void BeginNewGame(int& iResult);
+    /// The first "GameN.gam" of the My Games directory that doesn't exist.
+    void GetNewGameName(QString& sName);
+    /// Asks for a name; iResult is 0, or -1 when there is none.
+    void SetNewGameName(int& iResult);
+    void SetSomethingChanged(bool bChanged) override;
+    /// Offers to save unsaved changes; bOk is false when the user wants to go on with the game.
+    void OkToEndProgram(bool& bOk);
+    DeviceContext& MeasuringDevice() override;
+
+    // The commands of the file menu. What would replace the game asks about unsaved changes first.
+    void New();
+    void Open();
+    void OpenGame(const QString& sPath);
+    void Save();
+    void SaveAs();
+
+    /// Of the last load: 0 good, -1 failed.
+    int LoadResult() const { return m_iLoadResult; }
+
+private:
+    bool MayGo();
+    bool LoadAutosave(const QString& sPath, const QString& sMessage);
+    void LoadLastGame();
+    void GameLoad(QString& sFileName);
+    void LoadInstead(const QString& sPath);
+    void AutosaveWhatStays();
+    void ShowState();
+    void ShowDialogError();
+
+    QWidget& m_window;
+    BoardView& m_view;
+    CommonDialog dlgCommon;
+    int m_iLoadResult = 0;
+};
