@@ -32,7 +32,7 @@ int Pixels(float twips) { return CLng(double(twips) / kTwipsPerPixel); }
 
 } // namespace
 
-ToolBar::ToolBar(QWidget& parent, ToolTips& tips, std::function<void(const ToolBarTable::Row&)> run)
+ToolBar::ToolBar(QWidget& parent, ToolTips& tips, std::function<void(Menu, int)> run)
     : m_tips(tips), m_run(std::move(run)), imgToolBar(new PictureBox(&parent)),
       linButTop(MakeLine(imgToolBar, "linButTop")), linButLeft(MakeLine(imgToolBar, "linButLeft")),
       linButBottom(MakeLine(imgToolBar, "linButBottom")), linButRight(MakeLine(imgToolBar, "linButRight")) {
@@ -149,7 +149,9 @@ void ToolBar::imgToolBar_MouseUp(int Button, int Shift, float X, float Y) try {
     const bool pressed = m_iButtonState != 0;
     // Raised again before the command runs: it may show a window.
     WhichButton(0, Shift, X, Y);
-    if (pressed && iButton >= 0) m_run(ToolBarTable::kRows.at(size_t(iButton)));
+    if (!pressed || iButton < 0) return;
+    const ToolBarTable::Row& row = ToolBarTable::kRows.at(size_t(iButton));
+    m_run(row.menu, row.iItem);
 } catch (...) {
     ErrTop("frmTAVL!", "imgToolBar_MouseUp", Button, Shift, X, Y);
 }

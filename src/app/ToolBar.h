@@ -20,8 +20,8 @@ class ToolBar : public QObject {
     Q_OBJECT
 
 public:
-    /// A click on a button is told to run, by the button's row of the table.
-    ToolBar(QWidget& parent, ToolTips& tips, std::function<void(const ToolBarTable::Row&)> run);
+    /// A click on a button runs an entry of a menu, by its index there.
+    ToolBar(QWidget& parent, ToolTips& tips, std::function<void(Menu, int)> run);
 
     void InitButtonPositions();
     /// Paints the faces on the colour of the desktop's theme.
@@ -44,7 +44,7 @@ private:
     void SetButtonTips(int iButton);
 
     ToolTips& m_tips;
-    std::function<void(const ToolBarTable::Row&)> m_run;
+    std::function<void(Menu, int)> m_run;
 
     PictureBox* imgToolBar;
     QWidget* linButTop;

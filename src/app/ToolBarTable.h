@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/MainMenu.h"
+
 #include <array>
 
 /// The hand-made toolbar: one picture with 13 faces in it. Lengths are pixels.
@@ -14,8 +16,6 @@ constexpr int kTop = 2;
 constexpr int kBottom = 23;
 constexpr int kPictureWidth = 330;
 constexpr int kPictureHeight = 26;
-
-enum class Menu { File, View, Zoom };
 
 struct Row {
     int iLeft;

@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "app/frmTAVL.h"
 
+#include "app/EditorRoutes.h"
 #include "app/frmAbout.h"
+#include "app/frmPrintManual.h"
+#include "document/basTAVL.h"
 #include "platform/paint/Units.h"
-#include "windowing/PictureBox.h"
 #include "services/basErrLog.h"
+#include "services/basPath.h"
 #include "windowing/PictureBox.h"
 #include "windowing/WidgetLook.h"
+#include "windows/print/ChangePrinter.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -29,15 +33,15 @@ QSize Twips(QSize pixels) { return pixels * kTwipsPerPixel; }
 
 frmTAVL::frmTAVL()
     : m_client(new QWidget(this)), m_tips(*m_client),
-      m_toolBar(*m_client, m_tips, std::bind_front(&frmTAVL::RunToolBarButton, this)),
+      m_toolBar(*m_client, m_tips, std::bind_front(&frmTAVL::Choose, this)),
       m_view(
           *m_client, m_tips,
           {.layOut = std::bind_front(&frmTAVL::Form_Resize, this), .open = std::bind_front(&frmTAVL::OpenPlace, this)}),
-      m_commands(*this, m_view), m_about(std::make_unique<frmAbout>(this)) {
+      m_commands(*this, m_view), m_menu(*menuBar(), m_commands, std::bind_front(&frmTAVL::Choose, this)),
+      m_about(std::make_unique<frmAbout>(this)) {
     setObjectName(QStringLiteral("frmTAVL"));
     setCentralWidget(m_client);
     MakeButtons();
-    MakeMenus();
     const QSize client = SmallestClient(Twips(ToolBarTable::kPictureHeight), Twips(cmd[0]->sizeHint().height()));
     m_client->setMinimumSize(InPixels(QRect(QPoint(0, 0), client)).size());
     resize(kSizeOnSmallScreen);
@@ -163,4 +167,196 @@ void frmTAVL::CalledByAnotherStart(const QString& sGame) try {
     m_commands.OpenGame(sGame);
 } catch (...) {
     ErrTop("frmTAVL!", "CalledByAnotherStart", sGame);
+}
+
+void frmTAVL::Choose(Menu menu, int Index) {
+    switch (menu) {
+        case Menu::File:
+            return mnuFile_Click(Index);
+        case Menu::View:
+            return mnuView_Click(Index);
+        case Menu::Zoom:
+            return mnuZoom_Click(Index);
+        case Menu::Help:
+            return mnuHelp_Click(Index);
+    }
+}
+
+void frmTAVL::mnuFile_Click(int Index) try {
+    switch (Index) {
+        case 0:
+            return m_commands.New();
+        case 2:
+            return m_commands.Open();
+        case 3:
+            return m_commands.Save();
+        case 4:
+            return m_commands.SaveAs();
+        case 6:
+            return PrinterSetup();
+        case 7:
+            return Print();
+        case 9:
+            return ExitWithQuestion();
+        case 1:
+        case 5:
+        case 8:
+            return;
+        default:
+            basCommon::Assert(false, QStringLiteral("Unexpected mnu_File"), QStringLiteral("frmTAVL!mnuFile_Click"));
+    }
+} catch (...) {
+    ErrTail("frmTAVL!", "mnuFile_Click", Index);
+}
+
+void frmTAVL::mnuZoom_Click(int Index) try { m_view.SetZoom(Index + 1); } catch (...) {
+    ErrTail("frmTAVL!", "mnuZoom_Click", Index);
+}
+
+void frmTAVL::mnuView_Click(int Index) try {
+    switch (Index) {
+        case 0:
+            m_view.SetZoom(1);
+            return m_view.Redraw();
+        case 1:
+            return EditMoney();
+        case 2:
+            return EditNews(0);
+        case 3:
+            return EditNews(1);
+        case 4:
+            return EditToken();
+        case 5:
+        case 7:
+            return;
+        case 6:
+            return m_tips.Toggle();
+        case 8:
+            return EditorRoutes::Current().Setup();
+        case 9:
+            return m_about->ShowForm();
+        default:
+            basCommon::Assert(false, QStringLiteral("Unexpected Case"), QStringLiteral("frmTAVL!mnuView_Click"));
+    }
+} catch (...) {
+    ErrTail("frmTAVL!", "mnuView_Click", Index);
+}
+
+void frmTAVL::mnuHelp_Click(int Index) try {
+    switch (Index) {
+        case 0:
+            return m_about->ShowForm();
+        case 1:
+            return frmPrintManual(this).ShowForm(false);
+        case 2:
+            return;
+        default:
+            basCommon::Assert(false, QStringLiteral("Unexpected Case"), QStringLiteral("frmTAVL!mnuHelp_Click"));
+    }
+} catch (...) {
+    ErrTail("frmTAVL!", "mnuHelp_Click", Index);
+}
+
+void frmTAVL::cmd_Click(int Index) try {
+    switch (Index) {
+        case 0:
+            return EditMoney();
+        case 1:
+        case 2:
+            // Both open Good News, on purpose: so it has always been.
+            return EditNews(0);
+        case 3:
+            return Print();
+        case 4:
+            // No question but the one about unsaved changes.
+            close();
+            return;
+        default:
+            basCommon::Assert(false, QStringLiteral("Unexpected Case"), QStringLiteral("frmTAVL!cmd_Click"));
+    }
+} catch (...) {
+    ErrTail("frmTAVL!", "cmd_Click", Index);
+}
+
+void frmTAVL::Print() try {
+    if (m_commands.m_bChanged) {
+        MsgBox(QStringLiteral("Please save your changes before printing."));
+        return;
+    }
+    m_bPrintedSomething = EditorRoutes::Current().Print();
+} catch (...) {
+    ErrTail("frmTAVL!", "Print");
+}
+
+void frmTAVL::PrinterSetup() try { ChangePrinter(dlgCommon, m_bPrintedSomething); } catch (...) {
+    ErrTail("frmTAVL!", "PrinterSetup");
+}
+
+void frmTAVL::ExitWithQuestion() try {
+    const int answer =
+        MsgBox(QStringLiteral("Are you certain you want to exit Tavlora at this time?"), vbYesNo | vbQuestion);
+    if (answer == vbYes) close();
+} catch (...) {
+    ErrTail("frmTAVL!", "ExitWithQuestion");
+}
+
+void frmTAVL::OpenPlace(const BoardPlace& place) {
+    if (place.m_iOverSpace >= 0) {
+        EditSpaceText(place.m_iOverSpace);
+    } else if (place.m_iOverCorner >= 0) {
+        EditCornerText(place.m_iOverCorner);
+    } else if (place.m_bOverTitles) {
+        EditCenterText();
+    } else if (place.m_bOverGoodNews) {
+        EditNews(0);
+    } else if (place.m_bOverBadNews) {
+        EditNews(1);
+    } else if (place.m_bOverMoney) {
+        EditMoney();
+    } else if (place.m_bOverTokens) {
+        EditToken();
+    }
+}
+
+void frmTAVL::ChangedByEditor(bool bChanged, bool bRedraw) try {
+    if (!bChanged) return;
+    m_commands.SetSomethingChanged(true);
+    if (bRedraw) m_view.Redraw();
+} catch (...) {
+    ErrTail("frmTAVL!", "ChangedByEditor", bChanged, bRedraw);
+}
+
+void frmTAVL::EditCenterText() try { ChangedByEditor(EditorRoutes::Current().EditCenter(), true); } catch (...) {
+    ErrTail("frmTAVL!", "EditCenterText");
+}
+
+void frmTAVL::EditCornerText(int iCorner) try {
+    ChangedByEditor(EditorRoutes::Current().EditCorner(iCorner), true);
+} catch (...) {
+    ErrTail("frmTAVL!", "EditCornerText", iCorner);
+}
+
+void frmTAVL::EditSpaceText(int iSpace) try {
+    ChangedByEditor(EditorRoutes::Current().EditSpace(iSpace), true);
+} catch (...) {
+    ErrTail("frmTAVL!", "EditSpaceText", iSpace);
+}
+
+void frmTAVL::EditNews(int iGoodOrBad) try {
+    ChangedByEditor(EditorRoutes::Current().ShowNews(iGoodOrBad), false);
+} catch (...) {
+    ErrTail("frmTAVL!", "EditNews", iGoodOrBad);
+}
+
+void frmTAVL::EditMoney() try { ChangedByEditor(EditorRoutes::Current().EditMoney(), false); } catch (...) {
+    ErrTail("frmTAVL!", "EditMoney");
+}
+
+void frmTAVL::EditToken() try {
+    ChangedByEditor(EditorRoutes::Current().ShowTokens(), false);
+    // The editor may have made thumbnails of a token that it then put back.
+    for (int i = 0; i < basTAVL::kTokens; ++i)
+        basTAVL::g_oTokens(i).Image.GetThumbnail(false);
+} catch (...) {
+    ErrTail("frmTAVL!", "EditToken");
 }

@@ -4,6 +4,7 @@
 #include "app/BoardView.h"
 #include "app/GameCommands.h"
 #include "app/MainLayout.h"
+#include "app/MainMenu.h"
 #include "app/ToolBar.h"
 #include "app/ToolTips.h"
 #include "platform/paint/Color.h"
@@ -14,8 +15,6 @@
 #include <array>
 
 class frmAbout;
-class QAction;
-class QMenu;
 class QPushButton;
 
 /// The main window, and the program's start: loading it starts the program, unloading it ends it. It shows
@@ -72,14 +71,11 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private Q_SLOTS:
-    void MenuTriggered();
     void ButtonClicked();
 
 private:
     // Building the window.
     void MakeButtons();
-    void MakeMenus();
-    QMenu* MakeMenu(QMenu* menu, const QString& sCaption, const QString& sName);
 
     // The start.
     void SizeMainWindow();
@@ -100,7 +96,7 @@ private:
 
     // What the parts of the window ask for.
     void OpenPlace(const BoardPlace& place);
-    void RunToolBarButton(const ToolBarTable::Row& row);
+    void Choose(Menu menu, int Index);
 
     /// What the other parts of the window lie on.
     QWidget* const m_client;
@@ -108,6 +104,7 @@ private:
     ToolBar m_toolBar;
     BoardView m_view;
     GameCommands m_commands;
+    MainMenu m_menu;
 
     std::array<QPushButton*, MainLayout::kButtons> cmd{};
     CommonDialog dlgCommon;

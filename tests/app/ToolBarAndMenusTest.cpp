@@ -166,6 +166,16 @@ TEST_F(ToolBarAndMenusTest, MenusCarryTheirCaptionsAndShortcuts) {
         EXPECT_TRUE(Find<QAction>(separator).isSeparator()) << separator;
 }
 
+TEST_F(ToolBarAndMenusTest, WhatCanBeChosenIsAskedAnewWheneverAMenuOpens) {
+    auto& save = Find<QAction>("mnuFile_3");
+    auto& wizard = Find<QAction>("mnuFile_1");
+    save.setEnabled(false);
+    wizard.setEnabled(true);
+    Q_EMIT Find<QAction>("mnuTop_0").menu<QMenu*>()->aboutToShow();
+    EXPECT_TRUE(save.isEnabled());
+    EXPECT_FALSE(wizard.isEnabled());
+}
+
 TEST_F(ToolBarAndMenusTest, MenusRunTheirCommands) {
     for (const char* item : {"mnuView_1", "mnuView_2", "mnuView_3", "mnuView_4", "mnuView_8", "mnuFile_7"})
         ChooseMenu(item);

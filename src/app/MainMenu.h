@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+
+#include <functional>
+#include <span>
+#include <vector>
+
+class GameCommands;
+class QAction;
+class QMenu;
+class QMenuBar;
+
+/// The menus that hold entries.
+enum class Menu { File, View, Zoom, Help };
+
+/// The menus of the main window: their entries, the keys of these, and which of them can be chosen just now.
+class MainMenu : public QObject {
+    Q_OBJECT
+
+public:
+    /// Row of a menu's table.
+    struct Item {
+        int Index;
+        /// "-" is a separator.
+        const char* sCaption;
+        const char* sShortcut;
+        bool (*canBeChosen)(const GameCommands&);
+    };
+
+    /// What a chosen entry does is for choose, which is told the entry's menu and its index in it.
+    MainMenu(QMenuBar& bar, const GameCommands& commands, std::function<void(Menu, int)> choose);
+
+public Q_SLOTS:
+    /// Greys what can't be chosen now. Done whenever a menu opens; a key opens none, so whoever changes what can
+    /// be chosen calls it too.
+    void Update();
+
+private:
+    void Choose(Menu menu, int Index);
+    void Fill(QMenu& menu, Menu which, const char* sName, std::span<const Item> items);
+
+    struct Entry {
+        QAction* action;
+        const Item* item;
+    };
+
+    const GameCommands& m_commands;
+    std::function<void(Menu, int)> m_choose;
+    std::vector<Entry> m_entries;
+};
