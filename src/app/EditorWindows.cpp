@@ -14,31 +14,31 @@
 #include "windows/print/frmPrintTest.h"
 #include "windows/print/frmTavlPrint.h"
 
-bool EditorWindows::EditSpace(int iSpace) {
-    if (!m_frmEditSpace) m_frmEditSpace = new frmEditSpace(&m_main);
+bool EditorWindows::EditSpace(frmTAVL& main, int iSpace) {
+    if (!m_frmEditSpace) m_frmEditSpace = new frmEditSpace(&main);
     bool changed = false;
     m_frmEditSpace->ShowForm(iSpace, changed);
     return changed;
 }
 
-bool EditorWindows::EditCorner(int iCorner) {
-    if (!m_frmEditCorner) m_frmEditCorner = new frmEditCorner(&m_main);
+bool EditorWindows::EditCorner(frmTAVL& main, int iCorner) {
+    if (!m_frmEditCorner) m_frmEditCorner = new frmEditCorner(&main);
     bool changed = false;
     m_frmEditCorner->ShowForm(iCorner, changed);
     return changed;
 }
 
-bool EditorWindows::EditCenter() {
-    if (!m_frmEditCenter) m_frmEditCenter = new frmEditCenter(&m_main);
+bool EditorWindows::EditCenter(frmTAVL& main) {
+    if (!m_frmEditCenter) m_frmEditCenter = new frmEditCenter(&main);
     bool changed = false;
     m_frmEditCenter->ShowForm(changed);
     return changed;
 }
 
-bool EditorWindows::ShowNews(int iGoodOrBad) {
+bool EditorWindows::ShowNews(frmTAVL& main, int iGoodOrBad) {
     if (!m_frmShowNews) {
-        m_frmShowNews = new frmShowNews(&m_main);
-        m_frmShowNews->TellChange = std::bind_front(&EditorWindows::ChangedMeanwhile, this);
+        m_frmShowNews = new frmShowNews(&main);
+        m_frmShowNews->TellChange = std::bind_front(&EditorWindows::ChangedMeanwhile, this, &main);
     }
     bool changed = false;
     m_bToldAll = false;
@@ -46,21 +46,21 @@ bool EditorWindows::ShowNews(int iGoodOrBad) {
     return changed && !m_bToldAll;
 }
 
-void EditorWindows::ChangedMeanwhile() {
+void EditorWindows::ChangedMeanwhile(frmTAVL* main) {
     m_bToldAll = false;
-    m_main.Commands().SetSomethingChanged(true);
+    main->Commands().SetSomethingChanged(true);
     m_bToldAll = true;
 }
 
-bool EditorWindows::EditMoney() {
-    if (!m_frmEditMoney) m_frmEditMoney = new frmEditMoney(&m_main);
+bool EditorWindows::EditMoney(frmTAVL& main) {
+    if (!m_frmEditMoney) m_frmEditMoney = new frmEditMoney(&main);
     return m_frmEditMoney->ShowForm();
 }
 
-bool EditorWindows::ShowTokens() {
+bool EditorWindows::ShowTokens(frmTAVL& main) {
     if (!m_frmShowTokens) {
-        m_frmShowTokens = new frmShowTokens(&m_main);
-        m_frmShowTokens->TellChange = std::bind_front(&EditorWindows::ChangedMeanwhile, this);
+        m_frmShowTokens = new frmShowTokens(&main);
+        m_frmShowTokens->TellChange = std::bind_front(&EditorWindows::ChangedMeanwhile, this, &main);
     }
     bool changed = false;
     m_bToldAll = false;
@@ -68,15 +68,15 @@ bool EditorWindows::ShowTokens() {
     return changed && !m_bToldAll;
 }
 
-bool EditorWindows::Print() {
+bool EditorWindows::Print(frmTAVL& main) {
     if (!m_frmPrintTest) {
-        m_frmPrintTest = new frmPrintTest(&m_main);
-        m_frmPrintTest->Console().TellInPrint = std::bind_front(&frmTAVL::SetInPrint, &m_main);
+        m_frmPrintTest = new frmPrintTest(&main);
+        m_frmPrintTest->Console().TellInPrint = std::bind_front(&frmTAVL::SetInPrint, &main);
     }
-    return m_frmPrintTest->ShowForm(m_main.m_bPrintedSomething);
+    return m_frmPrintTest->ShowForm(main.m_bPrintedSomething);
 }
 
-void EditorWindows::Setup() {
+void EditorWindows::Setup(frmTAVL& main) {
     // A new one each time, so that it shows what holds and not what was given up.
-    if (frmColor(&m_main).ShowForm()) GameKit::SetPrintBlack(Settings().sProgramName);
+    if (frmColor(&main).ShowForm()) GameKit::SetPrintBlack(Settings().sProgramName);
 }

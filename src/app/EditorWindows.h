@@ -3,6 +3,8 @@
 
 #include "app/EditorRoutes.h"
 
+#include <QPointer>
+
 class frmEditCenter;
 class frmEditCorner;
 class frmEditMoney;
@@ -13,35 +15,31 @@ class frmShowTokens;
 class frmTAVL;
 
 /// The windows behind the main window's doors. Each is made when it is first opened and serves the whole
-/// run.
+/// run; the main window owns it.
 class EditorWindows : public EditorRoutes {
 public:
-    explicit EditorWindows(frmTAVL& main) : m_main(main) {}
-
-    bool EditSpace(int iSpace) override;
-    bool EditCorner(int iCorner) override;
-    bool EditCenter() override;
-    bool ShowNews(int iGoodOrBad) override;
-    bool EditMoney() override;
-    bool ShowTokens() override;
-    bool Print() override;
-    void Setup() override;
+    bool EditSpace(frmTAVL& main, int iSpace) override;
+    bool EditCorner(frmTAVL& main, int iCorner) override;
+    bool EditCenter(frmTAVL& main) override;
+    bool ShowNews(frmTAVL& main, int iGoodOrBad) override;
+    bool EditMoney(frmTAVL& main) override;
+    bool ShowTokens(frmTAVL& main) override;
+    bool Print(frmTAVL& main) override;
+    void Setup(frmTAVL& main) override;
 
 private:
     /// A window that lets many records be changed has let one be changed: autosaved at once, so that a crash
     /// loses that one at most.
-    void ChangedMeanwhile();
+    void ChangedMeanwhile(frmTAVL* main);
     /// All that the window now open has changed was autosaved as it changed.
     bool m_bToldAll = false;
 
-    /// Owns the windows.
-    frmTAVL& m_main;
-    frmEditSpace* m_frmEditSpace = nullptr;
-    frmEditCorner* m_frmEditCorner = nullptr;
-    frmEditCenter* m_frmEditCenter = nullptr;
-    frmEditMoney* m_frmEditMoney = nullptr;
-    frmShowNews* m_frmShowNews = nullptr;
-    frmShowTokens* m_frmShowTokens = nullptr;
+    QPointer<frmEditSpace> m_frmEditSpace;
+    QPointer<frmEditCorner> m_frmEditCorner;
+    QPointer<frmEditCenter> m_frmEditCenter;
+    QPointer<frmEditMoney> m_frmEditMoney;
+    QPointer<frmShowNews> m_frmShowNews;
+    QPointer<frmShowTokens> m_frmShowTokens;
     /// The door to the print console.
-    frmPrintTest* m_frmPrintTest = nullptr;
+    QPointer<frmPrintTest> m_frmPrintTest;
 };

@@ -73,9 +73,8 @@ int RunProgram(int argc, char** argv, DesktopWidgets& desktop) {
     SystemPrinter printer(basCommon::JoinPath(basCommon::GetMyGamesDirectory(), QStringLiteral("Printed")));
     Printer::Install(&printer);
     frmBMP::InstallAsThumbnailMaker();
-    frmTAVL window;
-    EditorWindows editors(window);
-    EditorRoutes::Install(&editors);
+    EditorWindows doors;
+    frmTAVL window(doors);
     QObject::connect(&lock, &ProgramLock::Called, &window, &frmTAVL::CalledByAnotherStart);
     window.Form_Load();
     window.show();

@@ -31,8 +31,8 @@ QSize Twips(QSize pixels) { return pixels * kTwipsPerPixel; }
 
 } // namespace
 
-frmTAVL::frmTAVL()
-    : m_client(new QWidget(this)), m_tips(*m_client),
+frmTAVL::frmTAVL(EditorRoutes& doors)
+    : m_doors(doors), m_client(new QWidget(this)), m_tips(*m_client),
       m_toolBar(*m_client, m_tips, std::bind_front(&frmTAVL::Choose, this)),
       m_view(
           *m_client, m_tips,
@@ -232,7 +232,7 @@ void frmTAVL::mnuView_Click(int Index) try {
         case 6:
             return m_tips.Toggle();
         case 8:
-            return EditorRoutes::Current().Setup();
+            return m_doors.Setup(*this);
         case 9:
             return m_about->ShowForm();
         default:
@@ -283,7 +283,7 @@ void frmTAVL::Print() try {
         MsgBox(QStringLiteral("Please save your changes before printing."));
         return;
     }
-    m_bPrintedSomething = EditorRoutes::Current().Print();
+    m_bPrintedSomething = m_doors.Print(*this);
 } catch (...) {
     ErrTail("frmTAVL!", "Print");
 }
@@ -326,34 +326,32 @@ void frmTAVL::ChangedByEditor(bool bChanged, bool bRedraw) try {
     ErrTail("frmTAVL!", "ChangedByEditor", bChanged, bRedraw);
 }
 
-void frmTAVL::EditCenterText() try { ChangedByEditor(EditorRoutes::Current().EditCenter(), true); } catch (...) {
+void frmTAVL::EditCenterText() try { ChangedByEditor(m_doors.EditCenter(*this), true); } catch (...) {
     ErrTail("frmTAVL!", "EditCenterText");
 }
 
 void frmTAVL::EditCornerText(int iCorner) try {
-    ChangedByEditor(EditorRoutes::Current().EditCorner(iCorner), true);
+    ChangedByEditor(m_doors.EditCorner(*this, iCorner), true);
 } catch (...) {
     ErrTail("frmTAVL!", "EditCornerText", iCorner);
 }
 
-void frmTAVL::EditSpaceText(int iSpace) try {
-    ChangedByEditor(EditorRoutes::Current().EditSpace(iSpace), true);
-} catch (...) {
+void frmTAVL::EditSpaceText(int iSpace) try { ChangedByEditor(m_doors.EditSpace(*this, iSpace), true); } catch (...) {
     ErrTail("frmTAVL!", "EditSpaceText", iSpace);
 }
 
 void frmTAVL::EditNews(int iGoodOrBad) try {
-    ChangedByEditor(EditorRoutes::Current().ShowNews(iGoodOrBad), false);
+    ChangedByEditor(m_doors.ShowNews(*this, iGoodOrBad), false);
 } catch (...) {
     ErrTail("frmTAVL!", "EditNews", iGoodOrBad);
 }
 
-void frmTAVL::EditMoney() try { ChangedByEditor(EditorRoutes::Current().EditMoney(), false); } catch (...) {
+void frmTAVL::EditMoney() try { ChangedByEditor(m_doors.EditMoney(*this), false); } catch (...) {
     ErrTail("frmTAVL!", "EditMoney");
 }
 
 void frmTAVL::EditToken() try {
-    ChangedByEditor(EditorRoutes::Current().ShowTokens(), false);
+    ChangedByEditor(m_doors.ShowTokens(*this), false);
     // The editor may have made thumbnails of a token that it then put back.
     for (int i = 0; i < basTAVL::kTokens; ++i)
         basTAVL::g_oTokens(i).Image.GetThumbnail(false);

@@ -14,6 +14,7 @@
 
 #include <array>
 
+class EditorRoutes;
 class frmAbout;
 class QPushButton;
 
@@ -23,7 +24,8 @@ class frmTAVL : public QMainWindow {
     Q_OBJECT
 
 public:
-    frmTAVL();
+    /// The doors have to live as long as the window.
+    explicit frmTAVL(EditorRoutes& doors);
     ~frmTAVL() override;
 
     /// The start in its fixed order; the window is shown by the caller afterwards.
@@ -98,6 +100,7 @@ private:
     void OpenPlace(const BoardPlace& place);
     void Choose(Menu menu, int Index);
 
+    EditorRoutes& m_doors;
     /// What the other parts of the window lie on.
     QWidget* const m_client;
     ToolTips m_tips;

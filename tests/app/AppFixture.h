@@ -30,17 +30,14 @@
 /// Doors that remember which were opened, and say whether the game has changed.
 class RecordingRoutes : public EditorRoutes {
 public:
-    RecordingRoutes() : m_before(Install(this)) {}
-    ~RecordingRoutes() override { Install(m_before); }
-
-    bool EditSpace(int iSpace) override { return Note(QStringLiteral("space %1").arg(iSpace)); }
-    bool EditCorner(int iCorner) override { return Note(QStringLiteral("corner %1").arg(iCorner)); }
-    bool EditCenter() override { return Note(QStringLiteral("titles")); }
-    bool ShowNews(int iGoodOrBad) override { return Note(QStringLiteral("news %1").arg(iGoodOrBad)); }
-    bool EditMoney() override { return Note(QStringLiteral("money")); }
-    bool ShowTokens() override { return Note(QStringLiteral("tokens")); }
-    bool Print() override { return Note(QStringLiteral("print")); }
-    void Setup() override { Note(QStringLiteral("setup")); }
+    bool EditSpace(frmTAVL&, int iSpace) override { return Note(QStringLiteral("space %1").arg(iSpace)); }
+    bool EditCorner(frmTAVL&, int iCorner) override { return Note(QStringLiteral("corner %1").arg(iCorner)); }
+    bool EditCenter(frmTAVL&) override { return Note(QStringLiteral("titles")); }
+    bool ShowNews(frmTAVL&, int iGoodOrBad) override { return Note(QStringLiteral("news %1").arg(iGoodOrBad)); }
+    bool EditMoney(frmTAVL&) override { return Note(QStringLiteral("money")); }
+    bool ShowTokens(frmTAVL&) override { return Note(QStringLiteral("tokens")); }
+    bool Print(frmTAVL&) override { return Note(QStringLiteral("print")); }
+    void Setup(frmTAVL&) override { Note(QStringLiteral("setup")); }
 
     /// All doors opened since the last call.
     QStringList Take() { return std::exchange(m_opened, {}); }
@@ -54,7 +51,6 @@ private:
     }
 
     QStringList m_opened;
-    EditorRoutes* m_before;
 };
 
 /// A fresh home for the program, and starts of the program in it.
@@ -88,7 +84,7 @@ protected:
         ForgetTheRun();
         Settings().sProgramName = name;
         if (!showSplash.isEmpty()) SetIni(QStringLiteral("ShowSplash"), showSplash);
-        window = std::make_unique<frmTAVL>();
+        window = std::make_unique<frmTAVL>(*doors);
         window->Form_Load();
         window->show();
         return *window;
@@ -161,5 +157,7 @@ protected:
     }
 
     RecordingRoutes routes;
+    /// What the next start's window opens.
+    EditorRoutes* doors = &routes;
     std::unique_ptr<frmTAVL> window;
 };

@@ -18,10 +18,11 @@ constexpr QPointF kTokens(0.5, 0.55);
 
 class EditorWindowsTest : public AppTest {
 protected:
-    EditorWindowsTest() : editors(Start()) {
+    EditorWindowsTest() {
+        doors = &editors;
+        Start();
         WriteGame(QStringLiteral("Ours.gam"), QStringLiteral("Desk"));
         window->Commands().OpenGame(InGames(QStringLiteral("Ours.gam")));
-        EditorRoutes::Install(&editors);
     }
 
     void ClickBoardAt(QPointF place) const { ClickBoard(place.x(), place.y()); }

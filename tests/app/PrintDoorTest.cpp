@@ -15,11 +15,12 @@ namespace {
 
 class PrintDoorTest : public AppTest {
 protected:
-    PrintDoorTest() : doors(Start()) {
+    PrintDoorTest() {
+        doors = &windows;
+        Start();
         frmBMP::InstallAsThumbnailMaker();
         WriteGame(QStringLiteral("Ours.gam"), QStringLiteral("Desk"));
         window->Commands().OpenGame(InGames(QStringLiteral("Ours.gam")));
-        EditorRoutes::Install(&doors);
         Folders::PretendFreeBytes(1e12);
     }
     ~PrintDoorTest() override {
@@ -42,7 +43,7 @@ protected:
     }
 
     TestPrinter printer;
-    EditorWindows doors;
+    EditorWindows windows;
 };
 
 } // namespace

@@ -269,7 +269,7 @@ TEST_F(StartUpTest, AboutTellsTheVersionInTwoPartsAndOnAClickInThree) {
 }
 
 TEST_F(StartUpTest, WindowOfASmallScreenIsNoWiderThanItsBoardNeeds) {
-    frmTAVL unsized;
+    frmTAVL unsized(routes);
     unsized.show();
     EXPECT_GT(unsized.View().Board().width(), 400);
     EXPECT_LT(unsized.width() - unsized.View().Board().width(), 80);
