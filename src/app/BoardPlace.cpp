@@ -3,7 +3,6 @@
 
 #include "board/basPosit.h"
 #include "platform/text/Numbers.h"
-#include "services/basErrLog.h"
 
 #include <array>
 
@@ -73,7 +72,7 @@ constexpr CenterWords kCenterWords[] = {
 
 bool BoardPlace::IsEditable() const { return IsSomething() && WhyNotEditable(*this).isEmpty(); }
 
-BoardPlace PlaceAt(float fX, float fY) try {
+BoardPlace PlaceAt(float fX, float fY) {
     BoardPlace place;
     const int iCol = Int(double((fX - kNearEndLow) / kPitch));
     const int iRow = Int(double((fY - kNearEndLow) / kPitch));
@@ -84,8 +83,6 @@ BoardPlace PlaceAt(float fX, float fY) try {
     place.m_iOverSpace = SpaceAt(fX, fY, iCol, iRow);
     if (place.m_iOverSpace < 0) FindInCenter(fX, fY, place);
     return place;
-} catch (...) {
-    ErrTail("frmTAVL!", "PlaceAt", fX, fY);
 }
 
 QString WhyNotEditable(const BoardPlace& place) {
@@ -95,7 +92,7 @@ QString WhyNotEditable(const BoardPlace& place) {
     return QString();
 }
 
-QString BoardTipOf(const BoardPlace& place) try {
+QString BoardTipOf(const BoardPlace& place) {
     const QString cannot = QStringLiteral(" cannot be edited");
     if (IsLotto(place.m_iOverSpace)) return QStringLiteral("'Lottery'") + cannot;
     if (IsNews(place.m_iOverSpace)) return QStringLiteral("'News'") + cannot;
@@ -106,11 +103,9 @@ QString BoardTipOf(const BoardPlace& place) try {
         if (place.*words.over) return kClickToEdit + QString::fromLatin1(words.tip);
     }
     return QString();
-} catch (...) {
-    ErrTail("frmTAVL!", "BoardTipOf", place.m_iOverSpace, place.m_iOverCorner);
 }
 
-QString TipBoxTextOf(const BoardPlace& place) try {
+QString TipBoxTextOf(const BoardPlace& place) {
     if (IsLotto(place.m_iOverSpace) || IsNews(place.m_iOverSpace)) return QString();
     const QString head = kClickToEdit + kCrLf;
     if (place.m_iOverSpace >= 0) return head + InSingleQuotes(SpaceName(place.m_iOverSpace));
@@ -119,8 +114,6 @@ QString TipBoxTextOf(const BoardPlace& place) try {
         if (place.*words.over) return head + QString::fromLatin1(words.box);
     }
     return QString();
-} catch (...) {
-    ErrTail("frmTAVL!", "TipBoxTextOf", place.m_iOverSpace, place.m_iOverCorner);
 }
 
 QPoint TipBoxPosition(const BoardPlace& place, float X, float Y, QSize boxSize, QSize boardSize) {

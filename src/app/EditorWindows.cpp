@@ -73,7 +73,7 @@ bool EditorWindows::Print(frmTAVL& main) {
         m_frmPrintTest = new frmPrintTest(&main);
         m_frmPrintTest->Console().TellInPrint = std::bind_front(&frmTAVL::SetInPrint, &main);
     }
-    return m_frmPrintTest->ShowForm(main.m_bPrintedSomething);
+    return m_frmPrintTest->ShowForm(main.HasPrintedSomething());
 }
 
 void EditorWindows::Setup(frmTAVL& main) {

@@ -5,7 +5,6 @@
 #include "platform/text/Numbers.h"
 #include "render/PrintBlackAs.h"
 #include "services/basCommon.h"
-#include "services/basErrLog.h"
 
 #include <array>
 
@@ -74,7 +73,7 @@ QString ProgramNameOf(const QString& sVariant) {
     return KitOf(sVariant) == Kit::Eight ? name : name + sVariant.toLower();
 }
 
-void SetUp(const QString& sProgramName) try {
+void SetUp(const QString& sProgramName) {
     const QString variant = VariantOf(sProgramName);
     basTAVL::Let_g_sGameVersion(variant);
     SetLabelSizes(TheGame().kit);
@@ -88,24 +87,18 @@ void SetUp(const QString& sProgramName) try {
     for (int set = 0; set < basTAVL::kNewsSets; ++set)
         basTAVL::g_lNewsColor(set) =
             basCommon::GetIniColor(QStringLiteral("GoodNewsColor"), QStringLiteral("00FFFFFF"));
-} catch (...) {
-    ErrTail("frmTAVL!", "SetUpKit", sProgramName);
 }
 
-void SetPrintBlack(const QString& sProgramName) try {
+void SetPrintBlack(const QString& sProgramName) {
     const bool plain = ExeName(sProgramName) == kPlainName;
     const Color black = plain ? Color::FromValue(kPlainBlack)
                               : basCommon::GetIniColor(QStringLiteral("PrintBlackColor"), QStringLiteral("00000000"));
     basTAVL::g_lPrintBlack() = PrintBlackAs::Chosen().value_or(black);
-} catch (...) {
-    ErrTail("frmTAVL!", "SetPrintBlack", sProgramName);
 }
 
-void ReadGameVersion() try {
+void ReadGameVersion() {
     basTAVL::Let_g_sGameVersion(
         basCommon::GetIniStringWithDefault(QStringLiteral("GameVersion"), basTAVL::g_sGameVersion()));
-} catch (...) {
-    ErrTail("frmTAVL!", "ReadGameVersion");
 }
 
 } // namespace GameKit

@@ -2,7 +2,6 @@
 #include "app/GameNames.h"
 
 #include "platform/text/Numbers.h"
-#include "services/basErrLog.h"
 #include "services/basPath.h"
 
 namespace GameNames {
@@ -20,34 +19,26 @@ Parts Split(const QString& sPath) {
 
 } // namespace
 
-bool IsUnnamed(const QString& sPath) try {
+bool IsUnnamed(const QString& sPath) {
     const QString mark = QStringLiteral("GAME");
     return LeftStr(Split(sPath).sBase, int(mark.size())).toUpper() == mark;
-} catch (...) {
-    ErrTail("frmTAVL!", "IsUnnamed", sPath);
 }
 
-QString FirstFreeName(const QString& sFolder) try {
+QString FirstFreeName(const QString& sFolder) {
     for (int i = 1;; ++i) {
         const QString path = basCommon::JoinPath(sFolder, QStringLiteral("Game%1.gam").arg(i));
         if (!basCommon::DoesFileExist(path)) return path;
     }
-} catch (...) {
-    ErrTail("frmTAVL!", "FirstFreeName", sFolder);
 }
 
-QString FolderOf(const QString& sPath) try {
+QString FolderOf(const QString& sPath) {
     const Parts parts = Split(sPath);
     return parts.sDrive + parts.sDir;
-} catch (...) {
-    ErrTail("frmTAVL!", "FolderOf", sPath);
 }
 
-QString FileNameOf(const QString& sPath) try {
+QString FileNameOf(const QString& sPath) {
     const Parts parts = Split(sPath);
     return parts.sExt.isEmpty() ? parts.sBase : parts.sBase + u'.' + parts.sExt;
-} catch (...) {
-    ErrTail("frmTAVL!", "FileNameOf", sPath);
 }
 
 } // namespace GameNames

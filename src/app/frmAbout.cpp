@@ -83,14 +83,12 @@ void frmAbout::ShowForm() try {
     ErrTail("frmAbout!", "ShowForm");
 }
 
-void frmAbout::ShowAsSplash() try {
+void frmAbout::ShowAsSplash() {
     cmdOK->hide();
     lblLoading->show();
     adjustSize();
     basCommon::ShowEntireForm(*this);
     show();
-} catch (...) {
-    ErrTail("frmAbout!", "ShowAsSplash");
 }
 
 void frmAbout::EndSplash() {
@@ -99,10 +97,8 @@ void frmAbout::EndSplash() {
     lblLoading->hide();
 }
 
-void frmAbout::mousePressEvent(QMouseEvent* event) try {
+void frmAbout::mousePressEvent(QMouseEvent* event) {
     if (lblVersion->geometry().contains(event->position().toPoint())) lblVersion_Click();
-} catch (...) {
-    ErrTop("frmAbout!", "lblVersion_Click");
 }
 
 void frmAbout::lblVersion_Click() try {
@@ -111,7 +107,7 @@ void frmAbout::lblVersion_Click() try {
                .arg(TAVLORA_VERSION_MINOR)
                .arg(TAVLORA_VERSION_REVISION));
 } catch (...) {
-    ErrTail("frmAbout!", "lblVersion_Click");
+    ErrTop("frmAbout!", "lblVersion_Click");
 }
 
 void frmAbout::cmdOK_Click() { accept(); }

@@ -278,26 +278,20 @@ void frmTAVL::cmd_Click(int Index) try {
     ErrTail("frmTAVL!", "cmd_Click", Index);
 }
 
-void frmTAVL::Print() try {
+void frmTAVL::Print() {
     if (m_commands.m_bChanged) {
         MsgBox(QStringLiteral("Please save your changes before printing."));
         return;
     }
     m_bPrintedSomething = m_doors.Print(*this);
-} catch (...) {
-    ErrTail("frmTAVL!", "Print");
 }
 
-void frmTAVL::PrinterSetup() try { ChangePrinter(dlgCommon, m_bPrintedSomething); } catch (...) {
-    ErrTail("frmTAVL!", "PrinterSetup");
-}
+void frmTAVL::PrinterSetup() { ChangePrinter(dlgCommon, m_bPrintedSomething); }
 
-void frmTAVL::ExitWithQuestion() try {
+void frmTAVL::ExitWithQuestion() {
     const int answer =
         MsgBox(QStringLiteral("Are you certain you want to exit Tavlora at this time?"), vbYesNo | vbQuestion);
     if (answer == vbYes) close();
-} catch (...) {
-    ErrTail("frmTAVL!", "ExitWithQuestion");
 }
 
 void frmTAVL::OpenPlace(const BoardPlace& place) {
@@ -318,12 +312,10 @@ void frmTAVL::OpenPlace(const BoardPlace& place) {
     }
 }
 
-void frmTAVL::ChangedByEditor(bool bChanged, bool bRedraw) try {
+void frmTAVL::ChangedByEditor(bool bChanged, bool bRedraw) {
     if (!bChanged) return;
     m_commands.SetSomethingChanged(true);
     if (bRedraw) m_view.Redraw();
-} catch (...) {
-    ErrTail("frmTAVL!", "ChangedByEditor", bChanged, bRedraw);
 }
 
 void frmTAVL::EditCenterText() try { ChangedByEditor(m_doors.EditCenter(*this), true); } catch (...) {

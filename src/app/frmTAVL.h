@@ -18,8 +18,8 @@ class EditorRoutes;
 class frmAbout;
 class QPushButton;
 
-/// The main window, and the program's start: loading it starts the program, unloading it ends it. It shows
-/// the board, on which everything is a door to an editor, and holds the commands on the game as a whole.
+/// The main window, and the program's start: loading it starts the program, unloading it ends it. Builds what
+/// stands on it, joins the parts, and opens the doors to the editors.
 class frmTAVL : public QMainWindow {
     Q_OBJECT
 
@@ -36,12 +36,12 @@ public:
     /// Ends the program.
     void Form_Unload();
 
-    /// Printing has been done; the printer can't be changed any more.
-    bool m_bPrintedSomething = false;
-    /// A page is being printed; the program can't be closed.
-    bool bInPrint = false;
-    /// Meanwhile the window takes no input, and the board isn't painted: sheets use the same drawing state.
+    /// A page is being printed: the program can't be closed, the window takes no input, and the board isn't
+    /// painted, as sheets use the same drawing state.
+    bool IsInPrint() const { return bInPrint; }
     void SetInPrint(bool bNow);
+    /// The printer can't be changed any more.
+    bool HasPrintedSomething() const { return m_bPrintedSomething; }
 
     void mnuFile_Click(int Index);
     void mnuView_Click(int Index);
@@ -76,29 +76,22 @@ private Q_SLOTS:
     void ButtonClicked();
 
 private:
-    // Building the window.
     void MakeButtons();
 
-    // The start.
+    // The start, in frmTAVL_start.cpp.
     void SizeMainWindow();
     void WarnOfFewColors();
     void ShowSplash();
     void HideSplash();
     void Init();
     void InitColors();
-    bool m_bSplash = false;
-    bool m_bLoading = false;
-    /// What another start asked for while this one was still loading.
-    QString m_sGameToOpen;
 
+    void OpenPlace(const BoardPlace& place);
+    void ChangedByEditor(bool bChanged, bool bRedraw);
+    void Choose(Menu menu, int Index);
     void PrinterSetup();
     void Print();
     void ExitWithQuestion();
-    void ChangedByEditor(bool bChanged, bool bRedraw);
-
-    // What the parts of the window ask for.
-    void OpenPlace(const BoardPlace& place);
-    void Choose(Menu menu, int Index);
 
     EditorRoutes& m_doors;
     /// What the other parts of the window lie on.
@@ -113,5 +106,11 @@ private:
     CommonDialog dlgCommon;
     std::unique_ptr<frmAbout> m_about;
 
+    bool bInPrint = false;
+    bool m_bPrintedSomething = false;
+    bool m_bSplash = false;
+    bool m_bLoading = false;
+    /// What another start asked for while this one was still loading.
+    QString m_sGameToOpen;
     std::array<Color, 8> m_lColor{};
 };

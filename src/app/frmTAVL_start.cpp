@@ -3,12 +3,12 @@
 
 #include "app/frmAbout.h"
 #include "app/frmPrintManual.h"
+#include "app/GameKit.h"
 #include "board/basPosit.h"
 #include "document/basTAVL.h"
 #include "drawing/basBMP.h"
 #include "drawing/basDraw.h"
 #include "game/SampleGames.h"
-#include "app/GameKit.h"
 #include "platform/files/ProfileFile.h"
 #include "platform/paint/Units.h"
 #include "services/basCommon.h"
@@ -57,7 +57,7 @@ void frmTAVL::Form_Load() try {
     ErrTop("frmTAVL!", "Form_Load");
 }
 
-void frmTAVL::WarnOfFewColors() try {
+void frmTAVL::WarnOfFewColors() {
     const int bits = basAPI::ScreenBitsPerPixel();
     if (bits >= kFewestColorBits) return;
     MsgBox(QStringLiteral("Your system is currently set to display only ") + QString::number(1LL << bits) +
@@ -65,8 +65,6 @@ void frmTAVL::WarnOfFewColors() try {
            QStringLiteral("Please use a display properties setting that shows more than 256 colors. ") +
            QStringLiteral("If this is not possible, please select only monochrome images for your game. ") +
            QStringLiteral("Even then, your printed output might be unsatisfactory."));
-} catch (...) {
-    ErrTail("frmTAVL!", "WarnOfFewColors");
 }
 
 void frmTAVL::SizeMainWindow() try {
@@ -79,7 +77,7 @@ void frmTAVL::SizeMainWindow() try {
     ErrTail("frmTAVL!", "SizeMainWindow");
 }
 
-void frmTAVL::ShowSplash() try {
+void frmTAVL::ShowSplash() {
     const QString show = basCommon::GetIniStringWithDefault(QStringLiteral("ShowSplash"), QStringLiteral("True"));
     m_bSplash = show.toLower() == QStringLiteral("false");
     if (!m_bSplash) {
@@ -89,16 +87,12 @@ void frmTAVL::ShowSplash() try {
     m_about->ShowAsSplash();
     DoEvents();
     Sleep(kSplashMilliseconds);
-} catch (...) {
-    ErrTail("frmTAVL!", "ShowSplash");
 }
 
-void frmTAVL::HideSplash() try {
+void frmTAVL::HideSplash() {
     m_view.SetNoRedraw(true);
     if (m_bSplash) m_about->EndSplash();
     m_view.SetNoRedraw(false);
-} catch (...) {
-    ErrTail("frmTAVL!", "HideSplash");
 }
 
 void frmTAVL::Init() try {

@@ -245,7 +245,7 @@ TEST_F(MainWindowTest, HitTestTellsWhetherAnythingChanged) {
 }
 
 TEST_F(MainWindowTest, WindowCantBeClosedWhileAPageIsPrinted) {
-    window->bInPrint = true;
+    window->SetInPrint(true);
     window->close();
     EXPECT_TRUE(window->isVisible());
     EXPECT_FALSE(desktop.ended);

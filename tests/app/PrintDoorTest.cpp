@@ -51,7 +51,7 @@ protected:
 TEST_F(PrintDoorTest, TheConsolePrintsTheGameOfTheMainWindow) {
     PrintNews();
     EXPECT_EQ(printer.ended, QStringList{QStringLiteral("Ours - Good News Cards")});
-    EXPECT_TRUE(window->m_bPrintedSomething);
+    EXPECT_TRUE(window->HasPrintedSomething());
     ChooseMenu("mnuFile_6");
     EXPECT_EQ(desktop.Texts(),
               QStringList{QStringLiteral("Sorry, but you can't change printers once you have started the printing "
@@ -78,7 +78,7 @@ TEST_F(PrintDoorTest, DoneDuringAJobLeavesTheMainWindowDisabledAndTheProgramOpen
         ClickIn(console, "cmdCancel");
         EXPECT_FALSE(console.isVisible());
         EXPECT_FALSE(window->isEnabled());
-        EXPECT_TRUE(window->bInPrint);
+        EXPECT_TRUE(window->IsInPrint());
         window->close();
         EXPECT_TRUE(window->isVisible()) << "closing is refused";
         ClickButton(3);
@@ -88,7 +88,7 @@ TEST_F(PrintDoorTest, DoneDuringAJobLeavesTheMainWindowDisabledAndTheProgramOpen
     EXPECT_TRUE(acted);
     EXPECT_EQ(printer.ended.size(), 1) << "the job went on";
     EXPECT_TRUE(window->isEnabled());
-    EXPECT_FALSE(window->bInPrint);
+    EXPECT_FALSE(window->IsInPrint());
     EXPECT_TRUE(desktop.boxes.isEmpty());
     EXPECT_FALSE(desktop.ended);
 }
