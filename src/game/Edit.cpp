@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: MIT
+#include "game/Edit.h"
+
+#include "board/basTAVL_news.h"
+#include "document/basTAVL.h"
+
+#include <QStringList>
+
+namespace Edits {
+namespace {
+
+constexpr const char* kTitleNames[] = {"Game Name", "Subtitle", "Second Subtitle"};
+constexpr int kNoteValues[basTAVL::kMoney] = {100, 500, 1000, 5000};
+
+// The words for what differs, in the order of the eye.
+class Differences {
+public:
+    void Note(bool bDiffer, const char* sWord) {
+        if (bDiffer) m_words.append(QString::fromLatin1(sWord));
+    }
+    void NotePicture(const C_Image& one, const C_Image& other) {
+        const bool otherPicture = one.FullPath() != other.FullPath();
+        Note(otherPicture, "Picture");
+        Note(!otherPicture && one.IsDifferentFrom(other), "Crop");
+    }
+    QString NameOf(const QString& sPiece) const {
+        if (m_words.size() == 1) return m_words.first() + QStringLiteral(" of ") + sPiece;
+        return QStringLiteral("Changes to ") + sPiece;
+    }
+
+private:
+    QStringList m_words;
+};
+
+bool HaveOtherFonts(const C_News& one, const C_News& other) {
+    return one.FontBody.IsDifferentFrom(other.FontBody) || one.FontHead.IsDifferentFrom(other.FontHead);
+}
+
+QString NameOfNote(const C_Money& before, const C_Money& after) {
+    Differences differences;
+    differences.Note(before.Text(0) != after.Text(0) || before.Text(1) != after.Text(1), "Text");
+    differences.NotePicture(before.FaceImage, after.FaceImage);
+    return differences.NameOf(QStringLiteral("Note ") + QString::number(kNoteValues[size_t(after.Index)]));
+}
+
+} // namespace
+
+Edit OfSpace(const Game& before, const C_Space& space) {
+    const C_Space& old = before.spaces.at(size_t(space.Index));
+    Differences differences;
+    differences.Note(old.TextAll() != space.TextAll(), "Name");
+    differences.Note(old.Font.IsDifferentFrom(space.Font), "Font");
+    differences.NotePicture(old.Image, space.Image);
+    Edit edit{differences.NameOf(basTAVL::CRLF2Space(space.TextAll())), before};
+    edit.after.spaces[size_t(space.Index)] = space;
+    return edit;
+}
+
+Edit OfCorner(const Game& before, const C_Corner& corner) {
+    constexpr int kBlock = 0;
+    const C_Corner& old = before.corners.at(size_t(corner.Index));
+    Differences differences;
+    differences.Note(old.TextAll(kBlock) != corner.TextAll(kBlock), "Name");
+    differences.Note(old.Font.IsDifferentFrom(corner.Font), "Font");
+    differences.NotePicture(old.Image, corner.Image);
+    Edit edit{differences.NameOf(basTAVL::CRLF2Space(corner.TextAll(kBlock))), before};
+    edit.after.corners[size_t(corner.Index)] = corner;
+    return edit;
+}
+
+Edit OfTitles(const Game& before, const Titles& titles) {
+    QStringList names;
+    for (int i = 1; i <= int(std::size(kTitleNames)); ++i) {
+        if (before.titles.Text(i) != titles.Text(i)) names.append(QString::fromLatin1(kTitleNames[i - 1]));
+    }
+    Edit edit{names.size() == 1 ? names.first() : QStringLiteral("Titles"), before};
+    edit.after.titles = titles;
+    return edit;
+}
+
+Edit OfCard(const Game& before, int iGoodOrBad, const C_News& card, const SpecialText& head) {
+    const int record = basTAVL::NewsTitleRecord(iGoodOrBad);
+    const C_News& old = before.news.at(size_t(iGoodOrBad)).at(size_t(card.Index));
+    const bool otherText = old.Text() != card.Text();
+    const bool otherHead = before.titles.Text(record) != head;
+    const bool otherFonts = HaveOtherFonts(old, card);
+    QString piece = basTAVL::NewsDeckName(iGoodOrBad);
+    if (otherText && !otherHead && !otherFonts) piece += QStringLiteral(" Card ") + QString::number(card.Index + 1);
+    Differences differences;
+    differences.Note(otherText, "Text");
+    differences.Note(otherHead, "Title");
+    differences.Note(otherFonts, "Fonts");
+    Edit edit{differences.NameOf(piece), before};
+    auto& deck = edit.after.news[size_t(iGoodOrBad)];
+    deck[size_t(card.Index)] = card;
+    if (otherFonts) {
+        for (C_News& other : deck) {
+            other.FontBody.LoadFromObject(card.FontBody);
+            other.FontHead.LoadFromObject(card.FontHead);
+        }
+    }
+    edit.after.titles.Text(record) = head;
+    return edit;
+}
+
+Edit OfMoney(const Game& before, const std::array<C_Money, basTAVL::kMoney>& money) {
+    QStringList names;
+    for (size_t i = 0; i < money.size(); ++i) {
+        if (money[i].IsDifferentFrom(before.money[i])) names.append(NameOfNote(before.money[i], money[i]));
+    }
+    Edit edit{names.size() == 1 ? names.first() : QStringLiteral("Money"), before};
+    edit.after.money = money;
+    return edit;
+}
+
+Edit OfToken(const Game& before, const C_Token& token) {
+    const C_Token& old = before.tokens.at(size_t(token.Index));
+    Differences differences;
+    // A token that gets a picture loses its text by it, and the other way round.
+    const bool otherPicture = old.Image.FullPath() != token.Image.FullPath();
+    differences.Note(old.TextAll() != token.TextAll() && !(otherPicture && !token.Image.FullPath().isEmpty()), "Text");
+    differences.Note(old.Font.IsDifferentFrom(token.Font), "Font");
+    if (!otherPicture || !token.Image.FullPath().isEmpty()) differences.NotePicture(old.Image, token.Image);
+    Edit edit{differences.NameOf(QStringLiteral("Token ") + QString::number(token.Index + 1)), before};
+    edit.after.tokens[size_t(token.Index)] = token;
+    return edit;
+}
+
+Edit OfAllFonts(const Game& after) { return {QStringLiteral("Set All Fonts"), after}; }
+
+} // namespace Edits
