@@ -14,12 +14,10 @@ namespace {
 constexpr int kNameLength = 8;
 const QString kPlainName = QStringLiteral("TAVLORA2");
 
-// Inches, by index of g_dblLabelSizes.
+// Inches, in the order of basTAVL::LabelSize.
 constexpr std::array<double, basTAVL::kLabelSizes> kLabelSizes = {0.06, 1.65, 2.8125, 0.4375, 0.25, 1.65, 1.83, 2.125};
 
 // A slim space sticker covers the middle of the printed space only.
-constexpr int kStickerWidth = 5;
-constexpr int kStickerHeight = 6;
 constexpr double kSlimStickerWidth = 1.36;
 constexpr double kSlimStickerHeight = 2.125;
 
@@ -54,8 +52,8 @@ void SetLabelSizes(Kit kit) {
     for (int i = 0; i < basTAVL::kLabelSizes; ++i)
         basTAVL::g_dblLabelSizes(i) = kLabelSizes[size_t(i)];
     if (!HasSlimStickers(kit)) return;
-    basTAVL::g_dblLabelSizes(kStickerWidth) = kSlimStickerWidth;
-    basTAVL::g_dblLabelSizes(kStickerHeight) = kSlimStickerHeight;
+    basTAVL::g_dblLabelSizes(basTAVL::kStickerWidth) = kSlimStickerWidth;
+    basTAVL::g_dblLabelSizes(basTAVL::kStickerHeight) = kSlimStickerHeight;
 }
 
 } // namespace

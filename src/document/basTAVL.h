@@ -2,6 +2,7 @@
 #pragma once
 
 #include "document/Game.h"
+#include "document/LabelSizes.h"
 #include "platform/paint/Color.h"
 #include "services/RecordText.h"
 
@@ -11,8 +12,6 @@ struct CommonDialog;
 
 /// The records of the game in hand by their old names, and what the start sets beside them.
 namespace basTAVL {
-
-constexpr int kLabelSizes = 8;
 
 /// The records of the game in hand. Raise the subscript error outside the bounds of their tables.
 C_Space& g_oSpaces(int iSpace);
@@ -36,7 +35,7 @@ Color& g_lPrintBlack();
 Color& g_lPrintBack();
 /// The board's face; thumbnails are filled with it outside their picture.
 Color& g_lMagicColor();
-/// Sizes of printed stickers, in inches.
+/// Sizes of printed stickers, in inches; see LabelSize.
 double& g_dblLabelSizes(int iSize);
 
 /// Every CR LF replaced by one blank.

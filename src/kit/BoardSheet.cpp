@@ -15,12 +15,6 @@ namespace {
 
 using namespace TitlePictures;
 
-// Which of g_dblLabelSizes is what, in inches.
-constexpr int kSpaceWidth = 1;
-constexpr int kSpaceHeight = 2;
-constexpr int kStickerHeight = 6;
-constexpr int kCornerSide = 7;
-
 constexpr int kRows = 2;
 constexpr int kColumns = 6;
 // Half of the columns hang on the left edge and half on the right one.
@@ -69,20 +63,20 @@ constexpr CornerPiece kCornerPieces[] = {
 // Other processors decode the photographs of the sheet while this one draws. A sticker's picture is half as high
 // as the sticker.
 void PreparePictures(SheetJob& job, clsRenderDestination& sheet, int iSide, bool bCorners) {
-    const auto prepare = [&](const C_Image& image, int labelSize) {
+    const auto prepare = [&](const C_Image& image, basTAVL::LabelSize labelSize) {
         image.PrepareForPaper(job.printer, basTAVL::g_dblLabelSizes(labelSize) / 2 * sheet.DPI());
     };
     for (int iPlace = 0; iPlace < kRows * kColumns; ++iPlace) {
         const int iSpace = GetSpaceFromArrayCoordinates(iSide, iPlace / kColumns, iPlace % kColumns);
-        prepare(basTAVL::g_oSpaces(iSpace).Image, kStickerHeight);
+        prepare(basTAVL::g_oSpaces(iSpace).Image, basTAVL::kStickerHeight);
     }
     for (size_t iCorner = 0; bCorners && iCorner < std::size(kCornerPieces); ++iCorner)
-        prepare(basTAVL::g_oCorners(int(iCorner)).Image, kCornerSide);
+        prepare(basTAVL::g_oCorners(int(iCorner)).Image, basTAVL::kCornerSide);
 }
 
 bool PlaceSpace(clsRenderDestination& sheet, int iSide, int iRow, int iCol) {
-    const double dblWidth = basTAVL::g_dblLabelSizes(kSpaceWidth);
-    const double dblHeight = basTAVL::g_dblLabelSizes(kSpaceHeight);
+    const double dblWidth = basTAVL::g_dblLabelSizes(basTAVL::kFullWidth);
+    const double dblHeight = basTAVL::g_dblLabelSizes(basTAVL::kFullHeight);
     const double dblX = iCol < kLeftColumns ? iCol * dblWidth + kLeftEdge : kRightEdge - (kColumns - iCol) * dblWidth;
     const QString file = MadePicture::PathOf(QStringLiteral("BmpOneFullSpace.bmp"));
     if (!frmBMP::Instance().GenerateSpaceFullImage(file, GetSpaceFromArrayCoordinates(iSide, iRow, iCol))) return false;

@@ -41,7 +41,7 @@ bool CornerStickerUsingBMP(clsRenderDestination& destination, int iCorner, doubl
     const QString file = MadePicture::PathOf(QStringLiteral("CornerImage%1.bmp").arg(iCorner));
     if (!frmBMP::Instance().GenerateCornerImage(file, iCorner)) return TellNotMade();
     Surface& surface = destination.Destination();
-    const double side = basTAVL::g_dblLabelSizes(7);
+    const double side = basTAVL::g_dblLabelSizes(basTAVL::kCornerSide);
     PaintAndDelete(surface, file, PlaceOn(surface, dblX, dblY, side, side));
     return true;
 } catch (...) {
@@ -52,7 +52,8 @@ bool SpaceStickerUsingBMP(clsRenderDestination& destination, int iSpace, double 
     const QString file = MadePicture::PathOf(QStringLiteral("SpaceImage.bmp"));
     if (!frmBMP::Instance().GenerateSpaceStickerImage(file, iSpace)) return TellNotMade();
     Surface& surface = destination.Destination();
-    const QRect place = PlaceOn(surface, dblX, dblY, basTAVL::g_dblLabelSizes(5), basTAVL::g_dblLabelSizes(6));
+    const QRect place = PlaceOn(surface, dblX, dblY, basTAVL::g_dblLabelSizes(basTAVL::kStickerWidth),
+                                basTAVL::g_dblLabelSizes(basTAVL::kStickerHeight));
     PaintAndDelete(surface, file, place);
     const int lDash = CLng(kDashInches * kTwipsPerInch / surface.TwipsPerPixelX());
     basTAVL::DrawDottedBox(surface, place.x(), place.y(), place.x() + place.width(), place.y() + place.height(), lDash,

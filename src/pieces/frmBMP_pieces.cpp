@@ -28,19 +28,9 @@ constexpr double kTokenInches = 0.875;
 // A corner's content starts this far from both edges of its sticker.
 constexpr double kCornerStart = 0.05;
 
-// Which of g_dblLabelSizes is what, in inches.
-enum LabelSize {
-    kFullLine = 0,
-    kFullWidth = 1,
-    kFullHeight = 2,
-    kFullBand = 3,
-    kFullCost = 4,
-    kWidth = 5,
-    kHeight = 6,
-    kCorner = 7
-};
+using enum basTAVL::LabelSize;
 
-double Size(LabelSize size) { return basTAVL::g_dblLabelSizes(size); }
+double Size(basTAVL::LabelSize size) { return basTAVL::g_dblLabelSizes(size); }
 
 // How many times 96 dots an inch a length can be drawn at on so many pixels of a surface.
 double FactorFor(double dblInches, double largest, int lMax) {
@@ -78,8 +68,8 @@ bool frmBMP::WritePiece(const QString& sFullPathDest, QSize size, double dblDPI,
 }
 
 bool frmBMP::GenerateCornerImage(const QString& sFullPathDest, int iCorner) try {
-    const double factor = StickerFactor(Size(kCorner));
-    const int lSide = PixelsOf(Size(kCorner), factor);
+    const double factor = StickerFactor(Size(kCornerSide));
+    const int lSide = PixelsOf(Size(kCornerSide), factor);
     return WritePiece(sFullPathDest, QSize(lSide, lSide), factor * kScreenDotsPerInch, [=](Surface& form) {
         form.Line(0, 0, lSide, lSide, basTAVL::g_lPrintBack(), LineForm::FilledBox);
         clsRenderDestination sticker;
@@ -93,8 +83,8 @@ bool frmBMP::GenerateCornerImage(const QString& sFullPathDest, int iCorner) try 
 }
 
 bool frmBMP::GenerateSpaceStickerImage(const QString& sFullPathDest, int iSpace) try {
-    const double factor = StickerFactor(Size(kHeight));
-    const QSize size(PixelsOf(Size(kWidth), factor), PixelsOf(Size(kHeight), factor));
+    const double factor = StickerFactor(Size(kStickerHeight));
+    const QSize size(PixelsOf(Size(kStickerWidth), factor), PixelsOf(Size(kStickerHeight), factor));
     return WritePiece(sFullPathDest, size, factor * kScreenDotsPerInch, [=](Surface& form) {
         form.Line(0, 0, size.width(), size.height(), basTAVL::g_lPrintBack(), LineForm::FilledBox);
         clsRenderDestination sticker;
@@ -142,8 +132,8 @@ void DrawFullSpace(Surface& form, int iSpace, double factor) {
     clsRenderDestination sticker;
     sticker.Init(form, factor);
     // The sticker's own area, centred in what remains under the band.
-    const double dblX = (Size(kFullWidth) - Size(kWidth)) / 2;
-    const double dblY = (Size(kFullHeight) - Size(kFullBand) - Size(kHeight)) / 2 + Size(kFullBand);
+    const double dblX = (Size(kFullWidth) - Size(kStickerWidth)) / 2;
+    const double dblY = (Size(kFullHeight) - Size(kFullBand) - Size(kStickerHeight)) / 2 + Size(kFullBand);
     sticker.SpaceStickerImageV6(iSpace, dblX, dblY);
     sticker.SpaceStickerText(iSpace, dblX, dblY, !space.Image.FullPath().isEmpty());
 }

@@ -17,7 +17,7 @@ constexpr double kCornerTextInches = 9.7656;
 // A corner's content stays this much smaller than its sticker.
 constexpr double kCornerInset = 0.1;
 
-double CornerContent() { return basTAVL::g_dblLabelSizes(7) - kCornerInset; }
+double CornerContent() { return basTAVL::g_dblLabelSizes(basTAVL::kCornerSide) - kCornerInset; }
 
 } // namespace
 
@@ -51,8 +51,8 @@ void clsRenderDestination::StickerText(const QStringList& saLines, const C_FontI
 }
 
 void clsRenderDestination::SpaceStickerImageV6(int iSpace, double dblX, double dblY) try {
-    const double w = basTAVL::g_dblLabelSizes(5) * dblDPI;
-    const double h = basTAVL::g_dblLabelSizes(6) * dblDPI;
+    const double w = basTAVL::g_dblLabelSizes(basTAVL::kStickerWidth) * dblDPI;
+    const double h = basTAVL::g_dblLabelSizes(basTAVL::kStickerHeight) * dblDPI;
     const int lSide = CLng(h / 2);
     StickerImage(basTAVL::g_oSpaces(iSpace).Image, CLng((w - lSide) / 2 + Pixels(dblX)), Pixels(dblY), lSide);
 } catch (...) {
@@ -68,8 +68,9 @@ void clsRenderDestination::CornerStickerImageV6(int iCorner, double dblX, double
 
 void clsRenderDestination::SpaceStickerText(int iSpace, double dblX, double dblY, bool bIncludeImage) try {
     const C_Space& space = basTAVL::g_oSpaces(iSpace);
-    StickerText(space.TextArray(), space.Font, double(space.TextSize()) * kSpaceTextInches, basTAVL::g_dblLabelSizes(5),
-                basTAVL::g_dblLabelSizes(6), dblX, dblY, bIncludeImage);
+    StickerText(space.TextArray(), space.Font, double(space.TextSize()) * kSpaceTextInches,
+                basTAVL::g_dblLabelSizes(basTAVL::kStickerWidth), basTAVL::g_dblLabelSizes(basTAVL::kStickerHeight),
+                dblX, dblY, bIncludeImage);
 } catch (...) {
     ErrTail("clsRenderDestination!", "SpaceStickerText", iSpace, dblX, dblY, bIncludeImage);
 }

@@ -134,17 +134,17 @@ TEST_F(StartUpTest, VariantFollowsTheNameOfTheProgram) {
 
 TEST_F(StartUpTest, KitsDifferInStickersAndColours) {
     Start();
-    EXPECT_DOUBLE_EQ(basTAVL::g_dblLabelSizes(5), 1.36);
-    EXPECT_DOUBLE_EQ(basTAVL::g_dblLabelSizes(6), 2.125);
+    EXPECT_DOUBLE_EQ(basTAVL::g_dblLabelSizes(basTAVL::kStickerWidth), 1.36);
+    EXPECT_DOUBLE_EQ(basTAVL::g_dblLabelSizes(basTAVL::kStickerHeight), 2.125);
     EXPECT_EQ(basTAVL::g_oMoney(0).BackColor, Color::Rgb(0xC7, 0xC7, 0xE8));
     EXPECT_EQ(basTAVL::g_oTokens(4).BackColor, Color::Rgb(0xE7, 0x78, 0x17));
     EXPECT_EQ(basTAVL::g_lPrintBack(), Color::Rgb(0xB6, 0xDD, 0xC7));
     EXPECT_EQ(basTAVL::g_lMagicColor(), Color::Rgb(224, 255, 224));
     EXPECT_EQ(basTAVL::g_vCurrencySign(), QStringLiteral("$"));
     Start(QStringLiteral("tavlora5"));
-    EXPECT_DOUBLE_EQ(basTAVL::g_dblLabelSizes(5), 1.65);
-    EXPECT_DOUBLE_EQ(basTAVL::g_dblLabelSizes(6), 1.83);
-    EXPECT_DOUBLE_EQ(basTAVL::g_dblLabelSizes(7), 2.125);
+    EXPECT_DOUBLE_EQ(basTAVL::g_dblLabelSizes(basTAVL::kStickerWidth), 1.65);
+    EXPECT_DOUBLE_EQ(basTAVL::g_dblLabelSizes(basTAVL::kStickerHeight), 1.83);
+    EXPECT_DOUBLE_EQ(basTAVL::g_dblLabelSizes(basTAVL::kCornerSide), 2.125);
     EXPECT_EQ(basTAVL::g_oTokens(0).BackColor, Color::Rgb(0xDA, 0x25, 0x1D));
 }
 

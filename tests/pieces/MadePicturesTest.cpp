@@ -56,7 +56,7 @@ protected:
     }
     void PrintSticker(int dpi = PdfPrinter::kDefaultDpi) const {
         EXPECT_TRUE(frmBMP::Instance().GenerateSpaceStickerImage(file, kSpace));
-        Print(basTAVL::g_dblLabelSizes(5), basTAVL::g_dblLabelSizes(6), dpi);
+        Print(basTAVL::g_dblLabelSizes(basTAVL::kStickerWidth), basTAVL::g_dblLabelSizes(basTAVL::kStickerHeight), dpi);
     }
     QList<PdfReader::StoredImage> PicturesInPdf() const { return PdfReader(pdf).Images(1); }
     QString TextInPdf() const { return PdfReader(pdf).Text(1).simplified(); }
@@ -169,7 +169,7 @@ TEST_F(MadePicturesTest, AZoomedPhotoIsCutBeforeItIsBroughtTo300DotsAnInch) {
     basTAVL::g_oSpaces(kSpace).Image.Let_Zoom(20);
     PrintSticker();
     ASSERT_EQ(PicturesInPdf().size(), 1);
-    const double side = basTAVL::g_dblLabelSizes(6) / 2;
+    const double side = basTAVL::g_dblLabelSizes(basTAVL::kStickerHeight) / 2;
     EXPECT_NEAR(PicturesInPdf()[0].iWidth, side * 300, 2);
     EXPECT_NEAR(PicturesInPdf()[0].dblDpiX, 300, 2);
 }
@@ -203,7 +203,7 @@ TEST_F(MadePicturesTest, ARecordingKeepsNoMoreOfAPhotoThanItsPieceShowsOnPaper) 
     if (!PdfReader::IsInstalled()) GTEST_SKIP() << "poppler's tools are not installed";
     HavePicture(Photo(QStringLiteral("large.jpg"), 4000, 4000));
     ASSERT_TRUE(frmBMP::Instance().GenerateSpaceStickerImage(file, kSpace));
-    Print(3 * basTAVL::g_dblLabelSizes(5), 3 * basTAVL::g_dblLabelSizes(6));
+    Print(3 * basTAVL::g_dblLabelSizes(basTAVL::kStickerWidth), 3 * basTAVL::g_dblLabelSizes(basTAVL::kStickerHeight));
     ASSERT_EQ(PicturesInPdf().size(), 1);
-    EXPECT_NEAR(PicturesInPdf()[0].iWidth, basTAVL::g_dblLabelSizes(6) / 2 * 300, 2);
+    EXPECT_NEAR(PicturesInPdf()[0].iWidth, basTAVL::g_dblLabelSizes(basTAVL::kStickerHeight) / 2 * 300, 2);
 }

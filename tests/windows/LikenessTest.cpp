@@ -108,12 +108,9 @@ TEST_F(LikenessTest, ACornerReadsAsItDoesOnTheBoard) {
 
 // Stickers have letters of their own width, so it is the lines that must be the same.
 TEST_F(LikenessTest, AStickerHasTheLinesThatItsEditorShows) {
-    constexpr int kWidthInches = 5;
-    constexpr int kHeightInches = 6;
-    constexpr int kCornerInches = 7;
-    basTAVL::g_dblLabelSizes(kWidthInches) = 1.36;
-    basTAVL::g_dblLabelSizes(kHeightInches) = 2.125;
-    basTAVL::g_dblLabelSizes(kCornerInches) = 2.125;
+    basTAVL::g_dblLabelSizes(basTAVL::kStickerWidth) = 1.36;
+    basTAVL::g_dblLabelSizes(basTAVL::kStickerHeight) = 2.125;
+    basTAVL::g_dblLabelSizes(basTAVL::kCornerSide) = 2.125;
     frmBMP maker;
     const QString file = PathOf(QStringLiteral("sticker.bmp"));
     for (const QString& text : {QStringLiteral("EEE\r\nHHHHH"), QStringLiteral("HHHHHHHHHHHHHHHH"),
