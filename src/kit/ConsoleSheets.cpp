@@ -34,12 +34,6 @@ constexpr std::array<const char*, 2> kBoxLabels[] = {
     {"BoxSide2ndSub", "1.74x0.53"}, {"BoxTopSubTitleRed", "5.91x0.36"},  {"BoxTop2ndSubTitleRed", "1.83x0.59"},
 };
 
-bool OnColouredStock(const QString& sVariant) {
-    return sVariant == QStringLiteral("2") || sVariant == QStringLiteral("2A");
-}
-bool IsKnown(const QString& sVariant) {
-    return OnColouredStock(sVariant) || sVariant == QStringLiteral("5") || sVariant == QStringLiteral("8");
-}
 QString Inches(double value) { return QString::number(value, 'f', 2); }
 QString Inches(QSizeF size) { return Inches(size.width()) + QStringLiteral(" by ") + Inches(size.height()); }
 
@@ -47,9 +41,9 @@ QString Inches(QSizeF size) { return Inches(size.width()) + QStringLiteral(" by 
 
 std::span<const FrameWords> Frames() { return kFrames; }
 
-QString FrameLabel(Frame frame, const QString& sVariant) {
+QString FrameLabel(Frame frame, Kit kit) {
     const FrameWords& words = kFrames[size_t(frame)];
-    const bool coloured = words.sColouredLabel && OnColouredStock(sVariant);
+    const bool coloured = words.sColouredLabel && OnColouredStock(kit);
     return QString::fromLatin1(coloured ? words.sColouredLabel : words.sLabel);
 }
 
@@ -64,11 +58,11 @@ int Copies(const Sheet& sheet, const QString& sNumberOfSheets) {
     return std::clamp(CLng(ParseNumber(sNumberOfSheets).value_or(0)), 1, kMostCopies);
 }
 
-QString WhyNotPrinted(const Sheet& sheet, const QString& sVariant) {
-    if (sheet.otherKits == OtherKits::LeftOutOrNameless && !IsKnown(sVariant))
+QString WhyNotPrinted(const Sheet& sheet, Kit kit) {
+    if (sheet.otherKits == OtherKits::LeftOutOrNameless && kit == Kit::Unknown)
         return QStringLiteral("This program only prints if the EXE name is set to 'Tavlora2.exe' or 'Tavlora2a.exe' or "
                               "'Tavlora4.exe'");
-    return sheet.WhyLeftOut(sVariant);
+    return sheet.WhyLeftOut(kit);
 }
 
 QString DoneMark(const QString& sAnswer) {

@@ -7,8 +7,7 @@
 
 #include <span>
 
-/// What the print window knows without a window: its frames, the limits of a job and what it says. A kit variant
-/// is "2", "2A", "5" or "8".
+/// What the print window knows without a window: its frames, the limits of a job and what it says.
 namespace ConsoleSheets {
 
 /// A frame of the window.
@@ -23,7 +22,7 @@ struct FrameWords {
 
 /// In the order of Frame.
 std::span<const FrameWords> Frames();
-QString FrameLabel(Frame frame, const QString& sVariant);
+QString FrameLabel(Frame frame, Kit kit);
 
 constexpr int kMostCopies = 5;
 
@@ -39,7 +38,7 @@ const Sheet& SheetOf(int iButton);
 /// From the text of the box for the number of sheets, 1 to kMostCopies; 1 for a sheet that isn't money.
 int Copies(const Sheet& sheet, const QString& sNumberOfSheets);
 /// Why the window doesn't print a sheet for a kit; empty when it does.
-QString WhyNotPrinted(const Sheet& sheet, const QString& sVariant);
+QString WhyNotPrinted(const Sheet& sheet, Kit kit);
 
 /// The mark behind the caption of a sheet that is done. The question about the paper has no button "OK", so
 /// there never is one; kept on purpose.

@@ -208,13 +208,8 @@ constexpr Sheet kButtonsWithoutSheet[] = {
 
 namespace {
 
-bool IsKit8(const QString& sVariant) { return sVariant == QStringLiteral("8"); }
-bool OnColouredStock(const QString& sVariant) {
-    return sVariant == QStringLiteral("2") || sVariant == QStringLiteral("2A");
-}
-
-const Paper& PaperOf(const Sheet::ByStock& papers, const QString& sVariant) {
-    return OnColouredStock(sVariant) ? papers.coloured : papers.white;
+const Paper& PaperOf(const Sheet::ByStock& papers, Kit kit) {
+    return OnColouredStock(kit) ? papers.coloured : papers.white;
 }
 
 } // namespace
@@ -237,34 +232,32 @@ const Sheet* FindButton(int iButton) {
     return nullptr;
 }
 
-QString Sheet::Caption(const QString& sVariant) const {
-    return QString::fromLatin1(IsKit8(sVariant) ? caption.kit8 : caption.others);
-}
+QString Sheet::Caption(Kit kit) const { return QString::fromLatin1(kit == Kit::Eight ? caption.kit8 : caption.others); }
 
-QString Sheet::Title(const QString& sVariant) const {
+QString Sheet::Title(Kit kit) const {
     const QChar kept(0x1);
-    QString title = Caption(sVariant);
+    QString title = Caption(kit);
     title.replace(QStringLiteral("&&"), kept).remove(u'&');
     return title.replace(kept, u'&');
 }
 
-bool Sheet::IsShown(const QString& sVariant) const { return frame && paper && *PaperOf(*paper, sVariant).sStock; }
+bool Sheet::IsShown(Kit kit) const { return frame && paper && *PaperOf(*paper, kit).sStock; }
 
-std::optional<QString> Sheet::Prompt(const QString& sVariant) const {
+std::optional<QString> Sheet::Prompt(Kit kit) const {
     if (!paper) return std::nullopt;
-    const Paper& asked = PaperOf(*paper, sVariant);
+    const Paper& asked = PaperOf(*paper, kit);
     return QString::fromLatin1(asked.sPrompt) + QString::fromLatin1(asked.sTail);
 }
 
-PageOrientation Sheet::OrientationOf(const QString& sVariant) const {
-    return IsKit8(sVariant) ? orientation.kit8 : orientation.others;
+PageOrientation Sheet::OrientationOf(Kit kit) const {
+    return kit == Kit::Eight ? orientation.kit8 : orientation.others;
 }
 
-QSizeF Sheet::NeededInches(const QString& sVariant) const {
-    return OrientationOf(sVariant) == orientation.kit8 ? neededInches : neededInches.transposed();
+QSizeF Sheet::NeededInches(Kit kit) const {
+    return OrientationOf(kit) == orientation.kit8 ? neededInches : neededInches.transposed();
 }
 
-QString Sheet::WhyLeftOut(const QString& sVariant) const {
-    if (paint && (otherKits == OtherKits::Same || IsKit8(sVariant))) return {};
+QString Sheet::WhyLeftOut(Kit kit) const {
+    if (paint && (otherKits == OtherKits::Same || HasLabelSheets(kit))) return {};
     return QStringLiteral("The label sheets of this kit are not part of this build.");
 }

@@ -3,6 +3,7 @@
 
 #include "kit/SheetJob.h"
 #include "platform/printing/Printer.h"
+#include "services/Kit.h"
 
 #include <QSizeF>
 #include <QString>
@@ -29,10 +30,9 @@ enum class OtherKits {
     LeftOutOrNameless, ///< The same, and a kit that nobody knows hears under which names the program prints.
 };
 
-/// A sheet of the boxed kit: all that the print window and tavlora-print know of it. A kit variant is "2", "2A",
-/// "5" or "8"; kits "2" and "2A" are printed on coloured stock.
+/// A sheet of the boxed kit: all that the print window and tavlora-print know of it.
 struct Sheet {
-    /// Of kit "8", and of the others.
+    /// Of kit "8", and of all others.
     template <class T>
     struct ByKit {
         T kit8;
@@ -69,15 +69,15 @@ struct Sheet {
     bool (*paint)(SheetJob& job, int iWhich);
 
     /// The button's caption with its mnemonic, and in plain words.
-    QString Caption(const QString& sVariant) const;
-    QString Title(const QString& sVariant) const;
-    bool IsShown(const QString& sVariant) const;
+    QString Caption(Kit kit) const;
+    QString Title(Kit kit) const;
+    bool IsShown(Kit kit) const;
     /// What to load into the printer; nothing where no paper is asked for.
-    std::optional<QString> Prompt(const QString& sVariant) const;
-    PageOrientation OrientationOf(const QString& sVariant) const;
-    QSizeF NeededInches(const QString& sVariant) const;
+    std::optional<QString> Prompt(Kit kit) const;
+    PageOrientation OrientationOf(Kit kit) const;
+    QSizeF NeededInches(Kit kit) const;
     /// Why this build doesn't print it for a kit; empty when it does.
-    QString WhyLeftOut(const QString& sVariant) const;
+    QString WhyLeftOut(Kit kit) const;
 };
 
 /// The sheets that this build prints, a row each, in the order of the menus and of the whole kit.

@@ -4,7 +4,6 @@
 #include "app/GameKit.h"
 #include "board/basPosit.h"
 #include "board/BoardPicture.h"
-#include "document/basTAVL.h"
 #include "game/GameFile.h"
 #include "game/GameSession.h"
 #include "kit/Sheets.h"
@@ -27,7 +26,7 @@ namespace {
 // The program whose settings are read.
 const QString kProgramName = QStringLiteral("tavlora");
 // The sheets are listed and named as this kit has them.
-const QString kKitOfList = QStringLiteral("8");
+constexpr Kit kKitOfList = Kit::Eight;
 
 QStringList AllSheets() {
     QStringList names;
@@ -184,12 +183,12 @@ bool PrintCommand::WritePieces(const QString& sFolder) {
 }
 
 bool PrintCommand::PrintOneSheet(Printer& printer, const Sheet& sheet, const QString& sTold) {
-    const QString& variant = basTAVL::g_sGameVersion();
-    if (const QString why = sheet.WhyLeftOut(variant); !why.isEmpty()) {
+    const Kit kit = KitInUse();
+    if (const QString why = sheet.WhyLeftOut(kit); !why.isEmpty()) {
         Complain(why);
         return false;
     }
-    printer.SetOrientation(sheet.OrientationOf(variant));
+    printer.SetOrientation(sheet.OrientationOf(kit));
     SheetJob job{printer, [this, sTold](int iThousandths) { Progress(sTold, iThousandths); }};
     if (sheet.prepare && !sheet.prepare(job, sheet.iWhich)) return false;
     if (!sheet.paint(job, sheet.iWhich)) return false;

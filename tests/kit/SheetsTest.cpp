@@ -11,8 +11,8 @@
 
 namespace {
 
-const QString kEight = QStringLiteral("8");
 constexpr QSizeF kMostInches(8.0, 10.5);
+constexpr Kit kKits[] = {Kit::Two, Kit::TwoA, Kit::Five, Kit::Eight, Kit::Unknown};
 
 std::vector<const Sheet*> AllRows() {
     std::vector<const Sheet*> rows;
@@ -38,11 +38,10 @@ QStringList LackingIn(const Sheet& sheet) {
     };
     want(word.match(QString::fromLatin1(sheet.sName)).hasMatch(), "a name for the command line");
     want(sheet.frame && *sheet.frame != Frame::Menu, "a frame for its button");
-    for (const char* kit : {"8", "5", "2", "2A"}) {
-        const QString variant = QString::fromLatin1(kit);
-        want(!Mnemonic(sheet.Caption(variant)).isNull(), "a caption with one mnemonic");
-        const QSizeF needed = sheet.NeededInches(variant);
-        const bool upright = sheet.OrientationOf(variant) == PageOrientation::Portrait;
+    for (const Kit kit : kKits) {
+        want(!Mnemonic(sheet.Caption(kit)).isNull(), "a caption with one mnemonic");
+        const QSizeF needed = sheet.NeededInches(kit);
+        const bool upright = sheet.OrientationOf(kit) == PageOrientation::Portrait;
         const QSizeF most = upright ? kMostInches : kMostInches.transposed();
         want(!needed.isEmpty() && needed.boundedTo(most) == needed, "inches that a page has");
     }
@@ -82,11 +81,9 @@ TEST_F(SheetsTest, NoTwoRowsShareANameAButtonOrAMnemonicOfTheirFrame) {
             const std::string both = std::to_string(rows[j]->iButton) + " and " + std::to_string(rows[i]->iButton);
             EXPECT_NE(rows[i]->iButton, rows[j]->iButton);
             EXPECT_TRUE(!*rows[i]->sName || qstrcmp(rows[i]->sName, rows[j]->sName) != 0) << both << " share a name";
-            for (const char* kit : {"8", "5", "2", "2A"}) {
-                const QString variant = QString::fromLatin1(kit);
-                if (rows[i]->frame != rows[j]->frame || !rows[i]->IsShown(variant) || !rows[j]->IsShown(variant))
-                    continue;
-                EXPECT_NE(Mnemonic(rows[i]->Caption(variant)), Mnemonic(rows[j]->Caption(variant))) << both;
+            for (const Kit kit : kKits) {
+                if (rows[i]->frame != rows[j]->frame || !rows[i]->IsShown(kit) || !rows[j]->IsShown(kit)) continue;
+                EXPECT_NE(Mnemonic(rows[i]->Caption(kit)), Mnemonic(rows[j]->Caption(kit))) << both;
             }
         }
     }
@@ -100,46 +97,45 @@ TEST_F(SheetsTest, EveryIndexSaysWhatIsToldOfIt) {
         EXPECT_STREQ(sheet->sName, told.name);
         EXPECT_EQ(sheet->frame ? int(*sheet->frame) : -1, told.frame);
         EXPECT_STREQ(sheet->sToolTip, told.toolTip);
-        for (const char* kit : {"8", "5", "9", "2", "2A"}) {
-            const QString variant = QString::fromLatin1(kit);
-            const bool eight = variant == kEight;
-            const bool coloured = variant.startsWith(u'2');
-            EXPECT_EQ(sheet->Title(variant), QString::fromLatin1(eight ? told.caption : told.captionOfOthers)) << kit;
-            EXPECT_EQ(sheet->IsShown(variant), coloured ? told.shownColoured : told.shown) << kit;
-            EXPECT_EQ(sheet->OrientationOf(variant) == PageOrientation::Landscape,
-                      eight ? told.lengthwise : told.lengthwiseOfOthers)
-                << kit;
+        for (const Kit kit : kKits) {
+            SCOPED_TRACE(qPrintable(VariantOf(kit)));
+            const bool eight = kit == Kit::Eight;
+            const bool coloured = kit == Kit::Two || kit == Kit::TwoA;
+            EXPECT_EQ(sheet->Title(kit), QString::fromLatin1(eight ? told.caption : told.captionOfOthers));
+            EXPECT_EQ(sheet->IsShown(kit), coloured ? told.shownColoured : told.shown);
+            EXPECT_EQ(sheet->OrientationOf(kit) == PageOrientation::Landscape,
+                      eight ? told.lengthwise : told.lengthwiseOfOthers);
             const char* const prompt = coloured ? told.promptColoured : told.prompt;
-            ASSERT_EQ(sheet->Prompt(variant).has_value(), prompt != nullptr);
-            EXPECT_EQ(sheet->Prompt(variant).value_or(QString()), ToldSheet::Asked(prompt)) << kit;
+            ASSERT_EQ(sheet->Prompt(kit).has_value(), prompt != nullptr);
+            EXPECT_EQ(sheet->Prompt(kit).value_or(QString()), ToldSheet::Asked(prompt));
         }
     }
 }
 
 TEST_F(SheetsTest, CaptionsCarryMnemonicsAndTitlesNone) {
-    EXPECT_EQ(FindButton(0)->Caption(kEight), QStringLiteral("&Box Top && Token Stickers"));
-    EXPECT_EQ(FindButton(0)->Title(kEight), QStringLiteral("Box Top & Token Stickers"));
-    EXPECT_EQ(FindButton(10)->Caption(QStringLiteral("5")), QStringLiteral("$ 5&,000"));
+    EXPECT_EQ(FindButton(0)->Caption(Kit::Eight), QStringLiteral("&Box Top && Token Stickers"));
+    EXPECT_EQ(FindButton(0)->Title(Kit::Eight), QStringLiteral("Box Top & Token Stickers"));
+    EXPECT_EQ(FindButton(10)->Caption(Kit::Five), QStringLiteral("$ 5&,000"));
 }
 
 TEST_F(SheetsTest, WhatIsNeededTurnsWithThePageOfTheKit) {
     const Sheet& box = *FindSheet(QStringLiteral("box"));
-    EXPECT_EQ(box.NeededInches(kEight), QSizeF(10.5, 8.0));
-    EXPECT_EQ(box.NeededInches(QStringLiteral("2")), QSizeF(8.0, 10.5));
-    EXPECT_EQ(FindSheet(QStringLiteral("east"))->NeededInches(QStringLiteral("2")), QSizeF(10.5, 8.0));
+    EXPECT_EQ(box.NeededInches(Kit::Eight), QSizeF(10.5, 8.0));
+    EXPECT_EQ(box.NeededInches(Kit::Two), QSizeF(8.0, 10.5));
+    EXPECT_EQ(FindSheet(QStringLiteral("east"))->NeededInches(Kit::Two), QSizeF(10.5, 8.0));
 }
 
 TEST_F(SheetsTest, WhatThisBuildCannotPrintIsSaidPlainly) {
     const QString left = QStringLiteral("The label sheets of this kit are not part of this build.");
     for (const Sheet& sheet : Sheets()) {
-        EXPECT_EQ(sheet.WhyLeftOut(kEight), QString()) << sheet.sName;
-        for (const char* kit : {"5", "2", "2A"}) {
+        EXPECT_EQ(sheet.WhyLeftOut(Kit::Eight), QString()) << sheet.sName;
+        for (const Kit kit : {Kit::Two, Kit::TwoA, Kit::Five}) {
             const bool labels = sheet.frame == Frame::Labels;
-            EXPECT_EQ(sheet.WhyLeftOut(QString::fromLatin1(kit)), labels ? left : QString()) << sheet.sName << kit;
+            EXPECT_EQ(sheet.WhyLeftOut(kit), labels ? left : QString()) << sheet.sName;
         }
     }
-    EXPECT_EQ(FindButton(4)->WhyLeftOut(kEight), left) << "the labels of the deeds";
-    EXPECT_EQ(FindButton(2)->WhyLeftOut(QStringLiteral("2")), QString()) << "the obsolete sheet is an empty page";
+    EXPECT_EQ(FindButton(4)->WhyLeftOut(Kit::Eight), left) << "the labels of the deeds";
+    EXPECT_EQ(FindButton(2)->WhyLeftOut(Kit::Two), QString()) << "the obsolete sheet is an empty page";
 }
 
 TEST_F(SheetsTest, ButtonsWithoutASheetPaintNothing) {

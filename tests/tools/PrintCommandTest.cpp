@@ -144,7 +144,7 @@ TEST_F(PrintCommandTest, WholeKitIsAPageForEachSheetInTheOrderOfTheSheets) {
     const PdfReader reader(pdf);
     ASSERT_EQ(reader.Pages(), int(Sheets().size()));
     for (const Sheet& sheet : Sheets()) {
-        const bool landscape = sheet.OrientationOf(QStringLiteral("8")) == PageOrientation::Landscape;
+        const bool landscape = sheet.OrientationOf(Kit::Eight) == PageOrientation::Landscape;
         EXPECT_EQ(reader.PaperInches(PageOf(sheet.sName)), landscape ? QSizeF(11, 8.5) : QSizeF(8.5, 11))
             << sheet.sName;
     }

@@ -213,7 +213,7 @@ TEST_F(ConsoleTest, ClosingTheQuestionPrintsNothing) {
 // ---- Jobs.
 
 TEST_F(ConsoleTest, EverySheetComesInItsOrientationUnderItsName) {
-    const QString kit = QStringLiteral("8");
+    constexpr Kit kit = Kit::Eight;
     for (const Sheet& sheet : Sheets()) {
         printer.ended.clear();
         printer.orientations.clear();

@@ -110,7 +110,7 @@ void frmTavlPrint::cmdPrint_Click(int Index) try {
     bInPrint = true;
     const Sheet& sheet = ConsoleSheets::SheetOf(Index);
     QString answer;
-    if (const auto prompt = sheet.Prompt(basTAVL::g_sGameVersion())) answer = m_frmPrntPrep->ShowForm(*prompt);
+    if (const auto prompt = sheet.Prompt(KitInUse())) answer = m_frmPrntPrep->ShowForm(*prompt);
     if (answer != kCancelled && !RunJob(sheet, ConsoleSheets::DoneMark(answer))) {
         TellStopped();
         return;
@@ -131,12 +131,12 @@ Printer& frmTavlPrint::JobPrinter() {
 }
 
 bool frmTavlPrint::RunJob(const Sheet& sheet, const QString& sDone) {
-    const QString variant = basTAVL::g_sGameVersion();
+    const Kit kit = KitInUse();
     Printer& printer = JobPrinter();
     m_sWrittenPdf.clear();
     m_sFailure.clear();
-    printer.SetOrientation(sheet.OrientationOf(variant));
-    if (!AcceptsPrinter(printer) || !AcceptsPage(printer, sheet.NeededInches(variant))) return true;
+    printer.SetOrientation(sheet.OrientationOf(kit));
+    if (!AcceptsPrinter(printer) || !AcceptsPage(printer, sheet.NeededInches(kit))) return true;
     Screen::SetMousePointer(Screen::MousePointer::HourGlass);
     const double dblFree = basAPI::FreeSpaceOnDisk(QStringLiteral("C:\\"));
     if (dblFree < ConsoleSheets::kLeastFree) {
@@ -144,7 +144,7 @@ bool frmTavlPrint::RunJob(const Sheet& sheet, const QString& sDone) {
         return true;
     }
     const PageUnderWay page(*this, printer);
-    lblSheet->SetWholeText(sheet.Title(variant));
+    lblSheet->SetWholeText(sheet.Title(kit));
     lblPiece->SetWholeText(QString());
     SheetJob job{printer, std::bind_front(&frmTavlPrint::Let_Progress, this),
                  std::bind_front(&frmTavlPrint::ShowPiece, this)};
@@ -170,15 +170,15 @@ bool frmTavlPrint::AcceptsPage(const Printer& printer, QSizeF needed) {
 
 // False when the disk has too little room for money.
 bool frmTavlPrint::PrintCopies(SheetJob& job, const Sheet& sheet, double dblFree, const QString& sDone) {
-    const QString variant = basTAVL::g_sGameVersion();
+    const Kit kit = KitInUse();
     job.nCopies = ConsoleSheets::Copies(sheet, cboNumberOfSheets->currentText());
     for (job.iCopy = 0; job.iCopy < job.nCopies; ++job.iCopy) {
         if (sheet.bMoney && dblFree < ConsoleSheets::kLeastFreeForMoney) {
             MsgBox(ConsoleSheets::LittleDiskMessage(dblFree, ConsoleSheets::kMegabytesToldForMoney));
             return false;
         }
-        job.printer.SetDocumentName(ConsoleSheets::DocumentName(GameHost::Current().GameName(), sheet.Title(variant)));
-        if (const QString why = ConsoleSheets::WhyNotPrinted(sheet, variant); !why.isEmpty()) {
+        job.printer.SetDocumentName(ConsoleSheets::DocumentName(GameHost::Current().GameName(), sheet.Title(kit)));
+        if (const QString why = ConsoleSheets::WhyNotPrinted(sheet, kit); !why.isEmpty()) {
             MsgBox(why);
             return true;
         }

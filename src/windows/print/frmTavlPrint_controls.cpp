@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // The window's controls: what they are, and where they stand.
-#include "document/basTAVL.h"
 #include "kit/ConsoleSheets.h"
 #include "platform/paint/Units.h"
 #include "services/basCommon.h"
@@ -81,8 +80,7 @@ QGroupBox* frmTavlPrint::BuildFrame(Frame frame) {
     const QString number = QString::number(int(frame));
     auto* box = Named(new QGroupBox(QString::fromLatin1(ConsoleSheets::Frames()[size_t(frame)].sCaption), this),
                       QStringLiteral("fraPrint_") + number);
-    lbl.append(
-        MakeLabel(box, QStringLiteral("lbl_") + number, ConsoleSheets::FrameLabel(frame, basTAVL::g_sGameVersion())));
+    lbl.append(MakeLabel(box, QStringLiteral("lbl_") + number, ConsoleSheets::FrameLabel(frame, KitInUse())));
     auto* column = new QVBoxLayout(box);
     column->addWidget(lbl.constLast());
     column->addSpacing(kGap);
@@ -103,14 +101,14 @@ void frmTavlPrint::AddMenuButtons(QVBoxLayout* column) {
 }
 
 void frmTavlPrint::AddButtons(Frame frame, QVBoxLayout* column) {
-    const QString variant = basTAVL::g_sGameVersion();
+    const Kit kit = KitInUse();
     for (const std::span<const Sheet> table : {Sheets(), ButtonsWithoutSheet()}) {
         for (const Sheet& sheet : table) {
             if (sheet.frame != frame) continue;
             auto* button =
                 MakeButton(column->parentWidget(), QStringLiteral("cmdPrint_") + QString::number(sheet.iButton),
-                           sheet.Caption(variant), QString::fromLatin1(sheet.sToolTip));
-            button->setVisible(sheet.IsShown(variant));
+                           sheet.Caption(kit), QString::fromLatin1(sheet.sToolTip));
+            button->setVisible(sheet.IsShown(kit));
             cmdPrint->addButton(button, sheet.iButton);
             column->addWidget(button);
         }
