@@ -41,7 +41,7 @@ C_News& g_oNews(int iGoodOrBad, int iCard) { return At(At(TheGame().news, iGoodO
 C_Money& g_oMoney(int iMoney) { return At(TheGame().money, iMoney); }
 C_Token& g_oTokens(int iToken) { return At(TheGame().tokens, iToken); }
 
-QString g_sGameVersion() { return Settings().sGameVersion; }
+const QString& g_sGameVersion() { return Settings().sGameVersion; }
 void Let_g_sGameVersion(const QString& sVariant) {
     Settings().sGameVersion = sVariant;
     TheGame().kit = KitOf(sVariant);

@@ -22,7 +22,7 @@ C_Money& g_oMoney(int iMoney);
 C_Token& g_oTokens(int iToken);
 
 /// Kit variant: "2", "2A", "5" or "8", or whatever else the settings say.
-QString g_sGameVersion();
+const QString& g_sGameVersion();
 /// From now on the program, and the game in hand, are for this kit.
 void Let_g_sGameVersion(const QString& sVariant);
 QString& g_vCurrencySign();

@@ -185,7 +185,7 @@ TEST_F(BoardSpacesTest, CornersShowTheirFirstBlockAlongTheDiagonal) {
         {0.84, 0.16, 1350, {1, -1}},
     };
     for (const char* version : {"2", "5"}) {
-        g_sGameVersion() = QString::fromLatin1(version);
+        Let_g_sGameVersion(QString::fromLatin1(version));
         const QList<PageMark> marks = Paint();
         for (int i = 0; i < 4; ++i) {
             if (i == 3 && g_sGameVersion() == QStringLiteral("5")) {
@@ -311,7 +311,7 @@ TEST_F(BoardSpacesTest, CornerOfFateShowsTheKitsPictureInItsOwnShape) {
     MakeGame();
     for (const char* version : {"8", "5", "2"}) {
         SCOPED_TRACE(version);
-        g_sGameVersion() = QString::fromLatin1(version);
+        Let_g_sGameVersion(QString::fromLatin1(version));
         const QList<PageMark> pictures = Only(Paint(), PageMark::Kind::Picture);
         EXPECT_TRUE(OfColor(pictures, PictureColor(kSpaces + 3)).isEmpty()) << "the user's own";
         const QList<PageMark> fate = OfColor(pictures, kFateColor);

@@ -53,7 +53,7 @@ const std::vector<KnownFace>& KnownFaces() {
 }
 
 BoardPageTest::BoardPageTest() {
-    g_sGameVersion() = QStringLiteral("8");
+    Let_g_sGameVersion(QStringLiteral("8"));
     g_lMagicColor() = Color::Rgb(224, 255, 224);
     frmBMP::InstallAsThumbnailMaker();
     PictureOf(kFateColor, QStringLiteral("program/fate.dat"), {60, 80});
