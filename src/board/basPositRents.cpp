@@ -21,8 +21,6 @@ namespace {
 const QString kNewLine = QStringLiteral("\r\n");
 const QString kBlankLine = kNewLine + kNewLine;
 
-using RentTable = std::array<RentRecord, basTAVL::kSpaces>;
-
 struct State {
     RentTable rents;
     // Which file the rents stand for; nothing while the path is empty.
@@ -67,8 +65,8 @@ void TellUnreadable(const QString& sPath, const QString& sError) {
     EndProgram(1);
 }
 
-bool ReadRow(SequentialInput& input, qint16& iRow, RentRecord& rent, QString& sError) {
-    const bool withAddStory = HasAddedStoreys(TheGame().kit);
+bool ReadRow(SequentialInput& input, Kit kit, qint16& iRow, RentRecord& rent, QString& sError) {
+    const bool withAddStory = HasAddedStoreys(kit);
     return input.Read(iRow, sError) && input.Read(rent.Cost, sError) && input.Read(rent.RentSingle, sError) &&
            input.Read(rent.RentTwo, sError) && input.Read(rent.RentStory1, sError) &&
            input.Read(rent.RentStory2, sError) && (!withAddStory || input.Read(rent.RentAddStory, sError)) &&
@@ -83,22 +81,26 @@ RentTable ReadTable(const QString& sPath) {
         TellMissing(sPath, error);
         EndForRow(sPath, 0);
     }
-    RentTable rents = Module().rents;
-    SequentialInput input(TextFile::Decode(*bytes));
-    int iRow = 0;
-    for (; iRow < int(rents.size()) && !input.AtEnd(); ++iRow) {
-        qint16 number = -1;
-        if (!ReadRow(input, number, rents[size_t(iRow)], error)) {
-            TellUnreadable(sPath, error);
-            EndForRow(sPath, iRow);
-        }
-        if (number != iRow) EndForRow(sPath, iRow);
-    }
-    if (iRow < int(rents.size())) EndForRow(sPath, iRow);
-    return rents;
+    const RentReading reading = ReadRentRows(*bytes, TheGame().kit, Module().rents);
+    if (reading.IsWhole()) return reading.rents;
+    if (!reading.sError.isEmpty()) TellUnreadable(sPath, reading.sError);
+    EndForRow(sPath, reading.iRows);
 }
 
 } // namespace
+
+RentReading ReadRentRows(const QByteArray& bytes, Kit kit, const RentTable& before) {
+    RentReading reading;
+    reading.rents = before;
+    SequentialInput input(TextFile::Decode(bytes));
+    while (!reading.IsWhole() && !input.AtEnd()) {
+        qint16 number = -1;
+        RentRecord rent = reading.rents[size_t(reading.iRows)];
+        if (!ReadRow(input, kit, number, rent, reading.sError) || number != reading.iRows) break;
+        reading.rents[size_t(reading.iRows++)] = rent;
+    }
+    return reading;
+}
 
 const RentRecord& m_Rent(int iSpace) { return Module().rents[CheckedSubscript(iSpace, basTAVL::kSpaces)]; }
 

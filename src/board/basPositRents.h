@@ -1,7 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "services/BoardFacts.h"
+#include "services/Kit.h"
+
+#include <QByteArray>
 #include <QString>
+
+#include <array>
 
 /// Prices and rents. They belong to the boxed kit, not to the game, and lie in a small file beside the
 /// program.
@@ -20,6 +26,23 @@ struct RentRecord {
     /// Shown in the board's tool tip.
     QString DefaultName;
 };
+
+using RentTable = std::array<RentRecord, BoardFacts::kSpaces>;
+
+/// What a file of rents says, row by row, and what is wrong with it.
+struct RentReading {
+    /// What stood there before, with the rows that were read in its place.
+    RentTable rents;
+    /// Rows that were read: all of them when nothing is wrong.
+    int iRows = 0;
+    /// Why the next row can't be read; empty when the file ends there or the row has another number.
+    QString sError;
+
+    bool IsWhole() const { return iRows == int(rents.size()); }
+};
+
+/// Reads the rents of a kit from the bytes of their file. What follows the last space's row is passed over.
+RentReading ReadRentRows(const QByteArray& bytes, Kit kit, const RentTable& before);
 
 /// Raises the subscript error outside 0 to 27.
 const RentRecord& m_Rent(int iSpace);

@@ -112,6 +112,27 @@ TEST_F(RentsTest, RowsFillRentsAndPrices) {
     EXPECT_EQ(ErrorOf([] { m_Rent(28); }), ErrNumber::kSubscript);
 }
 
+TEST_F(RentsTest, BytesAreReadWithoutTouchingRentsOrGame) {
+    QByteArray bytes;
+    for (int r = 0; r < 28; ++r)
+        bytes += RentRow(r);
+    const RentReading whole = ReadRentRows(bytes, Kit::Eight, {});
+    EXPECT_TRUE(whole.IsWhole());
+    EXPECT_EQ(whole.rents[12].RentStory2, 124);
+    EXPECT_EQ(m_Rent(12).RentStory2, 0);
+    EXPECT_EQ(basTAVL::g_oSpaces(12).Cost, QString());
+
+    const RentReading five = ReadRentRows(RentRow(0) + RentRow(1), Kit::Five, {});
+    EXPECT_EQ(five.iRows, 1) << "a column too many comes in front of the second row";
+    EXPECT_EQ(five.sError, QStringLiteral("Type mismatch"));
+
+    const RentReading cut = ReadRentRows(RentRow(0) + RentRow(1), Kit::Eight, whole.rents);
+    EXPECT_EQ(cut.iRows, 2);
+    EXPECT_EQ(cut.sError, QString());
+    EXPECT_EQ(cut.rents[12].RentStory2, 124) << "what stood there before";
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+}
+
 TEST_F(RentsTest, PricesTakeCommasAndTheSignOnEveryDesktop) {
     EXPECT_EQ(FormatCost(0), QStringLiteral("$0"));
     EXPECT_EQ(FormatCost(999), QStringLiteral("$999"));
