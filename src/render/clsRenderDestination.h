@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/paint/Color.h"
+#include "render/RulesText.h"
 
 #include <QString>
 #include <QStringList>
@@ -9,17 +10,6 @@
 class C_FontInfo;
 class C_Image;
 class Surface;
-
-/// The names of a game that its printed rules speak of.
-struct InstructionNames {
-    QString sTavlora;
-    QString sGoodNews;
-    QString sBadNews;
-    QString sStart;
-    QString sDetention;
-    QString sRestStop;
-    QString sFate;
-};
 
 /// The paint target of all printed pieces: wraps a drawing surface (the printer, or any window or scratch
 /// form standing in for it), turns inches into its pixels and sets fonts so that a text of a wanted height
@@ -111,8 +101,7 @@ private:
     void FitLines(const QStringList& saLines, int iLineCount, const int* vSizeLimit, const QString& sFontName,
                   bool bBold, bool bItalic, int lX, int lY, int lWidth, int lHeight);
     void DrawArrow(int lX, int lY, int lSize, const QString& sDirection);
-    bool MoveToTag(const QString& sLine, Cursor& cursor) const;
-    bool PrintInstructionLine(QString sLine, Cursor& cursor);
+    void PrintInstructionLine(const RulesLine& line, Cursor& cursor);
 
     Surface* m_oDest = nullptr;
     double dblDPI = 96.0;

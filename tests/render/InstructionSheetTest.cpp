@@ -140,6 +140,23 @@ TEST_F(InstructionSheetTest, EachBadFieldIsAFormatError) {
     EXPECT_EQ(desktop.boxes.size(), 8);
 }
 
+TEST_F(InstructionSheetTest, BytesAreReadWithoutAPageOrABox) {
+    const RulesReading rules = ReadRules("<Head>\ntimes,10,C,B: Play <FATE> \n\n<Col2>\narial,8.9,L,R:\nno text line\n"
+                                         "times,10,L,R:never reached\n",
+                                         names);
+    EXPECT_FALSE(rules.bWhole);
+    ASSERT_EQ(rules.items.size(), 4U);
+    EXPECT_EQ(std::get<RulesBlock>(rules.items[0]), RulesBlock::Head);
+    const auto& line = std::get<RulesLine>(rules.items[1]);
+    EXPECT_EQ(line.sText, QStringLiteral("Play ") + names.sFate);
+    EXPECT_EQ(line.sFont, QStringLiteral("Arial"));
+    EXPECT_TRUE(line.bBold);
+    EXPECT_EQ(std::get<RulesBlock>(rules.items[2]), RulesBlock::Column2);
+    EXPECT_EQ(std::get<RulesLine>(rules.items[3]).lSize, 8);
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+    EXPECT_TRUE(ReadRules(QByteArray(), names).bWhole);
+}
+
 TEST_F(InstructionSheetTest, WithoutTheFileItSaysWhatIsMissing) {
     destination.InstructionSheet(names);
     ASSERT_EQ(desktop.boxes.size(), 1);
