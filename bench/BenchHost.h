@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "game/GameSession.h"
+#include "game/Session.h"
 #include "platform/files/Console.h"
 
 /// What the benchmarks run in: a folder of their own as My Games directory, the data of the build, and a
@@ -12,5 +12,5 @@ public:
 
 private:
     TemporaryFolder m_folder;
-    GameSession m_session;
+    Session m_session;
 };

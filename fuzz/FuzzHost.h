@@ -3,7 +3,7 @@
 
 #include "document/basTAVL.h"
 #include "drawing/basDraw.h"
-#include "game/GameSession.h"
+#include "game/Session.h"
 #include "pictures/C_Image.h"
 #include "platform/files/Console.h"
 #include "platform/files/Files.h"
@@ -82,7 +82,7 @@ private:
         Settings().sMyGamesDirectory = QString::fromLatin1(kFolder);
         Folders::SetProgramDirectory(QString::fromLatin1(kProgramFolder));
         ThumbnailMaker::Install(EmptyThumbnails::Get);
-        m_session = std::make_unique<GameSession>();
+        m_session = std::make_unique<Session>();
         basDraw::Draw_SetHdc(&m_session->MeasuringDevice());
         basErrLog::ErrInit(0, QStringLiteral("fuzz.log"));
         Reset();
@@ -90,7 +90,7 @@ private:
 
     Files::MemoryFiles m_files;
     std::unique_ptr<QGuiApplication> m_application;
-    std::unique_ptr<GameSession> m_session;
+    std::unique_ptr<Session> m_session;
 };
 
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {

@@ -48,7 +48,7 @@ bool EditorWindows::ShowNews(frmTAVL& main, int iGoodOrBad) {
 
 void EditorWindows::ChangedMeanwhile(frmTAVL* main) {
     m_bToldAll = false;
-    main->Commands().SetSomethingChanged(true);
+    main->Commands().InHand().SetSomethingChanged(true);
     m_bToldAll = true;
 }
 

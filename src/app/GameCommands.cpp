@@ -5,7 +5,6 @@
 #include "app/GameNames.h"
 #include "document/Locale.h"
 #include "game/Autosave.h"
-#include "game/GameFile.h"
 #include "platform/files/Folders.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
@@ -19,21 +18,14 @@ const QString kGameExtension = QStringLiteral("gam");
 
 } // namespace
 
-DeviceContext& GameCommands::MeasuringDevice() { return m_view.Board().hDC(); }
-
-void GameCommands::GameLoad(QString& sFileName) { GameFile::GameLoad(sFileName, m_iLoadResult); }
-
-void GameCommands::ShowState() {
-    m_window.setWindowTitle(WidgetLook::WindowTitle(QStringLiteral("Tavlora: ") + m_sGameName));
-    m_window.setWindowModified(m_bChanged);
+GameCommands::GameCommands(QWidget& window, BoardView& view) : m_window(window), m_view(view) {
+    m_session.MeasureOn([this]() -> DeviceContext& { return m_view.Board().hDC(); });
+    QObject::connect(&m_session, &Session::Changed, &m_window, [this] { ShowState(); });
 }
 
-void GameCommands::SetSomethingChanged(bool bChanged) try {
-    if (bChanged) m_window.setWindowModified(true);
-    GameSession::SetSomethingChanged(bChanged);
-    m_window.setWindowModified(m_bChanged);
-} catch (...) {
-    ErrTail("frmTAVL!", "SetSomethingChanged", bChanged);
+void GameCommands::ShowState() {
+    m_window.setWindowTitle(WidgetLook::WindowTitle(QStringLiteral("Tavlora: ") + m_session.GameName()));
+    m_window.setWindowModified(m_session.IsUnsaved());
 }
 
 void GameCommands::TakeUpGame() {
@@ -49,32 +41,39 @@ void GameCommands::TakeUpGame() {
 bool GameCommands::LoadAutosave(const QString& sPath, const QString& sMessage) {
     if (!basCommon::DoesFileExist(sPath)) return false;
     MsgBox(sMessage + QStringLiteral("This game is being loaded."));
-    QString name = sPath;
-    GameLoad(name);
+    m_iLoadResult = m_session.Recover(sPath);
     if (m_iLoadResult != 0) return false;
-    m_sGameName = name;
-    m_bChanged = true;
     ShowState();
     return true;
 }
 
 void GameCommands::LoadLastGame() {
-    m_sGameName = basCommon::GetIniString(QStringLiteral("GameName"));
-    if (m_sGameName.isEmpty() || !basCommon::ResolveFullPath(m_sGameName)) {
-        BeginNewGame(m_iLoadResult);
+    QString name = basCommon::GetIniString(QStringLiteral("GameName"));
+    const bool found = !name.isEmpty() && basCommon::ResolveFullPath(name);
+    m_session.SetGameName(name);
+    if (found) {
+        LoadUnderItsName();
     } else {
-        GameLoad(m_sGameName);
+        BeginNewGame(m_iLoadResult);
     }
     ShowState();
+}
+
+void GameCommands::LoadUnderItsName() {
+    QString name = m_session.GameName();
+    m_iLoadResult = m_session.Load(name);
+    m_session.SetGameName(name);
 }
 
 void GameCommands::BeginNewGame(int& iResult) try {
     const QString folder = Folders::ProgramDirectory();
     QString game = basCommon::JoinPath(folder, QStringLiteral("Default.dat"));
     if (!basCommon::DoesFileExist(game)) game = basCommon::JoinPath(folder, QString::fromLatin1(Locale::kDefaultGame));
-    GameLoad(game);
+    m_iLoadResult = m_session.Load(game);
     iResult = m_iLoadResult;
-    GetNewGameName(m_sGameName);
+    QString name;
+    GetNewGameName(name);
+    m_session.SetGameName(name);
     ShowState();
     m_view.Redraw();
 } catch (...) {
@@ -102,7 +101,7 @@ void GameCommands::SetNewGameName(int& iResult) try {
         ShowDialogError();
         return;
     }
-    m_sGameName = dlgCommon.sFileName;
+    m_session.SetGameName(dlgCommon.sFileName);
     iResult = 0;
 } catch (...) {
     ErrTail("frmTAVL!", "SetNewGameName", iResult);
@@ -130,14 +129,15 @@ void GameCommands::New() {
 // After No to the question about changes nothing of them is left on the disk, and then no other game came: what is
 // still being worked on must outlive a crash as before.
 void GameCommands::AutosaveWhatStays() {
-    if (m_bChanged) SetSomethingChanged(true);
+    if (m_session.IsUnsaved()) m_session.SetSomethingChanged(true);
 }
 
 void GameCommands::Open() {
     if (!MayGo()) return;
     dlgCommon.sDialogTitle = QStringLiteral("Open Game");
-    dlgCommon.sInitDir = GameNames::FolderOf(m_sGameName);
-    dlgCommon.sFileName = GameNames::IsUnnamed(m_sGameName) ? QString() : GameNames::FileNameOf(m_sGameName);
+    dlgCommon.sInitDir = GameNames::FolderOf(m_session.GameName());
+    dlgCommon.sFileName =
+        GameNames::IsUnnamed(m_session.GameName()) ? QString() : GameNames::FileNameOf(m_session.GameName());
     dlgCommon.sFilter = kGameFilter;
     dlgCommon.sDefaultExt = kGameExtension;
     dlgCommon.sError.clear();
@@ -154,42 +154,40 @@ void GameCommands::OpenGame(const QString& sPath) {
 }
 
 void GameCommands::LoadInstead(const QString& sPath) {
-    m_sGameName = sPath;
-    GameLoad(m_sGameName);
+    m_session.SetGameName(sPath);
+    LoadUnderItsName();
     ShowState();
     // A game that was read only in part isn't the file any more.
-    SetSomethingChanged(m_iLoadResult != 0);
-    basCommon::WriteIniString(QStringLiteral("GameName"), m_sGameName);
+    m_session.SetSomethingChanged(m_iLoadResult != 0);
+    basCommon::WriteIniString(QStringLiteral("GameName"), m_session.GameName());
     m_view.Redraw();
 }
 
 void GameCommands::Save() {
-    if (GameNames::IsUnnamed(m_sGameName)) {
+    if (GameNames::IsUnnamed(m_session.GameName())) {
         SaveAs();
         return;
     }
-    bool result = false;
-    GameFile::GameSave(m_sGameName, result);
+    m_session.Save();
 }
 
 void GameCommands::SaveAs() {
     int iResult = 0;
     SetNewGameName(iResult);
     if (iResult < 0) return;
-    bool result = false;
-    GameFile::GameSave(m_sGameName, result);
+    m_session.Save();
     ShowState();
 }
 
 void GameCommands::OkToEndProgram(bool& bOk) try {
-    bOk = !m_bChanged;
+    bOk = !m_session.IsUnsaved();
     if (bOk) return;
     const int answer = MsgBox(QStringLiteral("Do you want to save the changes pending on the current game.?"),
                               vbYesNoCancel | vbQuestion, QStringLiteral("Save Changes"));
     switch (answer) {
         case vbYes:
-            GameFile::GameSave(m_sGameName, bOk);
-            SetSomethingChanged(false);
+            bOk = m_session.Save();
+            m_session.SetSomethingChanged(false);
             break;
         case vbNo:
             Autosave::Forget();

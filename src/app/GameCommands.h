@@ -1,17 +1,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "game/GameSession.h"
+#include "game/Session.h"
 #include "services/Desktop.h"
 
 class BoardView;
 class QWidget;
 
 /// The commands on the game as a whole: new, open, save, save under a new name, and the question about unsaved
-/// changes. The window's title shows the game's name and whether it holds any.
-class GameCommands : public GameSession {
+/// changes. Owns the session. The window's title shows the game's name and whether it holds any.
+class GameCommands {
 public:
-    GameCommands(QWidget& window, BoardView& view) : m_window(window), m_view(view) {}
+    GameCommands(QWidget& window, BoardView& view);
+
+    Session& InHand() { return m_session; }
 
     /// What the start goes on with: an autosave, its backup, the last game, or else a new one.
     void TakeUpGame();
@@ -20,10 +22,8 @@ public:
     void GetNewGameName(QString& sName);
     /// Asks for a name; iResult is 0, or -1 when there is none.
     void SetNewGameName(int& iResult);
-    void SetSomethingChanged(bool bChanged) override;
     /// Offers to save unsaved changes; bOk is false when the user wants to go on with the game.
     void OkToEndProgram(bool& bOk);
-    DeviceContext& MeasuringDevice() override;
 
     // The commands of the file menu. What would replace the game asks about unsaved changes first.
     void New();
@@ -39,7 +39,7 @@ private:
     bool MayGo();
     bool LoadAutosave(const QString& sPath, const QString& sMessage);
     void LoadLastGame();
-    void GameLoad(QString& sFileName);
+    void LoadUnderItsName();
     void LoadInstead(const QString& sPath);
     void AutosaveWhatStays();
     void ShowState();
@@ -47,6 +47,7 @@ private:
 
     QWidget& m_window;
     BoardView& m_view;
+    Session m_session;
     CommonDialog dlgCommon;
     int m_iLoadResult = 0;
 };

@@ -11,9 +11,9 @@ namespace {
 
 using Item = MainMenu::Item;
 
-bool Always(const GameCommands&) { return true; }
+bool Always(const Session&) { return true; }
 // For what does nothing.
-bool Never(const GameCommands&) { return false; }
+bool Never(const Session&) { return false; }
 
 constexpr Item kFileItems[] = {
     {0, "&New...", "Ctrl+N", Always},  {1, "New Geme &Wizard", "", Never},         {2, "&Open...", "Ctrl+O", Always},
@@ -40,8 +40,8 @@ constexpr Item kHelpItems[] = {
 
 } // namespace
 
-MainMenu::MainMenu(QMenuBar& bar, const GameCommands& commands, std::function<void(Menu, int)> choose)
-    : m_commands(commands), m_choose(std::move(choose)) {
+MainMenu::MainMenu(QMenuBar& bar, const Session& session, std::function<void(Menu, int)> choose)
+    : m_session(session), m_choose(std::move(choose)) {
     const auto add = [this](QMenu* menu, const char* sName) {
         menu->menuAction()->setObjectName(QString::fromLatin1(sName));
         connect(menu, &QMenu::aboutToShow, this, &MainMenu::Update);
@@ -72,5 +72,5 @@ void MainMenu::Choose(Menu menu, int Index) try { m_choose(menu, Index); } catch
 
 void MainMenu::Update() {
     for (const Entry& entry : m_entries)
-        entry.action->setEnabled(entry.item->canBeChosen(m_commands));
+        entry.action->setEnabled(entry.item->canBeChosen(m_session));
 }

@@ -7,10 +7,10 @@
 #include <span>
 #include <vector>
 
-class GameCommands;
 class QAction;
 class QMenu;
 class QMenuBar;
+class Session;
 
 /// The menus that hold entries.
 enum class Menu { File, View, Zoom, Help };
@@ -26,11 +26,11 @@ public:
         /// "-" is a separator.
         const char* sCaption;
         const char* sShortcut;
-        bool (*canBeChosen)(const GameCommands&);
+        bool (*canBeChosen)(const Session&);
     };
 
     /// What a chosen entry does is for choose, which is told the entry's menu and its index in it.
-    MainMenu(QMenuBar& bar, const GameCommands& commands, std::function<void(Menu, int)> choose);
+    MainMenu(QMenuBar& bar, const Session& session, std::function<void(Menu, int)> choose);
 
 public Q_SLOTS:
     /// Greys what can't be chosen now. Done whenever a menu opens; a key opens none, so whoever changes what can
@@ -46,7 +46,7 @@ private:
         const Item* item;
     };
 
-    const GameCommands& m_commands;
+    const Session& m_session;
     std::function<void(Menu, int)> m_choose;
     std::vector<Entry> m_entries;
 };

@@ -37,11 +37,12 @@ frmTAVL::frmTAVL(EditorRoutes& doors)
       m_view(
           *m_client, m_tips,
           {.layOut = std::bind_front(&frmTAVL::Form_Resize, this), .open = std::bind_front(&frmTAVL::OpenPlace, this)}),
-      m_commands(*this, m_view), m_menu(*menuBar(), m_commands, std::bind_front(&frmTAVL::Choose, this)),
+      m_commands(*this, m_view), m_menu(*menuBar(), m_commands.InHand(), std::bind_front(&frmTAVL::Choose, this)),
       m_about(std::make_unique<frmAbout>(this)) {
     setObjectName(QStringLiteral("frmTAVL"));
     setCentralWidget(m_client);
     MakeButtons();
+    connect(&m_commands.InHand(), &Session::Changed, &m_menu, &MainMenu::Update);
     const QSize client = SmallestClient(Twips(ToolBarTable::kPictureHeight), Twips(cmd[0]->sizeHint().height()));
     m_client->setMinimumSize(InPixels(QRect(QPoint(0, 0), client)).size());
     resize(kSizeOnSmallScreen);
@@ -279,7 +280,7 @@ void frmTAVL::cmd_Click(int Index) try {
 }
 
 void frmTAVL::Print() {
-    if (m_commands.m_bChanged) {
+    if (m_commands.InHand().IsUnsaved()) {
         MsgBox(QStringLiteral("Please save your changes before printing."));
         return;
     }
@@ -314,7 +315,7 @@ void frmTAVL::OpenPlace(const BoardPlace& place) {
 
 void frmTAVL::ChangedByEditor(bool bChanged, bool bRedraw) {
     if (!bChanged) return;
-    m_commands.SetSomethingChanged(true);
+    m_commands.InHand().SetSomethingChanged(true);
     if (bRedraw) m_view.Redraw();
 }
 

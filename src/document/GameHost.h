@@ -5,7 +5,7 @@
 
 class DeviceContext;
 
-/// What the game file needs of the program around it: the main window's, or GameSession where there is no
+/// What the game file needs of the program around it: the main window's, or Session where there is no
 /// window.
 class GameHost {
 public:

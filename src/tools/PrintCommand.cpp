@@ -5,7 +5,7 @@
 #include "board/basPosit.h"
 #include "board/BoardPicture.h"
 #include "game/GameFile.h"
-#include "game/GameSession.h"
+#include "game/Session.h"
 #include "kit/Sheets.h"
 #include "pieces/frmBMP.h"
 #include "platform/files/Console.h"
@@ -146,9 +146,9 @@ bool PrintCommand::LoadGame(const QString& sGame) {
 int PrintCommand::PrintGame(const PrintArguments& arguments) {
     const QStringList sheets =
         arguments.sheets.isEmpty() && !arguments.sOutput.isEmpty() ? AllSheets() : arguments.sheets;
-    GameSession session;
+    Session session;
     frmBMP::InstallAsThumbnailMaker();
-    session.m_sGameName = Console::CompletePath(arguments.sGame);
+    session.SetGameName(Console::CompletePath(arguments.sGame));
     basPosit::PosSethDC(&session.MeasuringDevice());
     basPosit::PosInit();
     if (!LoadGame(arguments.sGame)) return kFailed;

@@ -115,7 +115,7 @@ protected:
     /// An edit that an editor hands back.
     void Edit(const QString& text) const {
         basTAVL::g_oSpaces(4).SetText(text);
-        window->Commands().SetSomethingChanged(true);
+        window->Commands().InHand().SetSomethingChanged(true);
     }
 
     template <typename Widget>

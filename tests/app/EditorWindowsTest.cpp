@@ -129,7 +129,7 @@ TEST_F(EditorWindowsTest, ATokenIsAutosavedWhileTheOthersStillShow) {
         EXPECT_TRUE(ReadFile(InGames(QStringLiteral("~AutoSave.dat"))).contains("zap"));
     });
     ClickBoardAt(kTokens);
-    EXPECT_TRUE(window->Commands().m_bChanged);
+    EXPECT_TRUE(window->Commands().InHand().IsUnsaved());
     EXPECT_FALSE(HasBackup()) << "one change is one autosave";
 }
 

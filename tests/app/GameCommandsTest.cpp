@@ -60,7 +60,7 @@ TEST_F(GameCommandsTest, Edge_NewGameTakesTheFirstFreeNumber) {
     WriteGame(QStringLiteral("Game2.gam"), QStringLiteral("Two"));
     Start();
     ChooseMenu("mnuFile_0");
-    EXPECT_EQ(window->Commands().m_sGameName, InGames(QStringLiteral("Game3.gam")));
+    EXPECT_EQ(window->Commands().InHand().GameName(), InGames(QStringLiteral("Game3.gam")));
     EXPECT_EQ(window->windowTitle(),
               QStringLiteral("Tavlora: ") + InGames(QStringLiteral("Game3.gam")) + QStringLiteral("[*]"));
 }
@@ -113,8 +113,8 @@ TEST_F(GameCommandsTest, Edge_CancelledSaveAsTouchesNeitherNameNorState) {
     Edit(QStringLiteral("One"));
     AnswerDialog(QString());
     ChooseMenu("mnuFile_4");
-    EXPECT_EQ(window->Commands().m_sGameName, InGames(QStringLiteral("Mine.gam")));
-    EXPECT_TRUE(window->Commands().m_bChanged);
+    EXPECT_EQ(window->Commands().InHand().GameName(), InGames(QStringLiteral("Mine.gam")));
+    EXPECT_TRUE(window->Commands().InHand().IsUnsaved());
     EXPECT_TRUE(HasAutosave());
     EXPECT_TRUE(desktop.boxes.isEmpty());
 }
@@ -132,7 +132,7 @@ TEST_F(GameCommandsTest, SaveAsWritesUnderTheNewNameAndTitle) {
     EXPECT_EQ(window->windowTitle(),
               QStringLiteral("Tavlora: ") + InGames(QStringLiteral("Other.gam")) + QStringLiteral("[*]"));
     EXPECT_EQ(Ini("GameName"), InGames(QStringLiteral("Other.gam")));
-    EXPECT_FALSE(window->Commands().m_bChanged);
+    EXPECT_FALSE(window->Commands().InHand().IsUnsaved());
 }
 
 TEST_F(GameCommandsTest, BrokenFileDialogIsToldForSaveAndForOpen) {
@@ -168,7 +168,7 @@ TEST_F(GameCommandsTest, OpenedGameBecomesTheLastOne) {
     EXPECT_EQ(TextOfSpace4(), QStringLiteral("Leo's\r\nDesk"));
     EXPECT_EQ(Ini("GameName"), InGames(QStringLiteral("Family.gam")));
     EXPECT_TRUE(desktop.boxes.isEmpty()) << "its pictures are found";
-    EXPECT_FALSE(window->Commands().m_bChanged);
+    EXPECT_FALSE(window->Commands().InHand().IsUnsaved());
 }
 
 TEST_F(GameCommandsTest, GameThatCantBeReadCountsAsChanged) {
@@ -177,8 +177,8 @@ TEST_F(GameCommandsTest, GameThatCantBeReadCountsAsChanged) {
     AnswerDialog(InGames(QStringLiteral("Bad.gam")));
     ChooseMenu("mnuFile_2");
     EXPECT_EQ(window->Commands().LoadResult(), -1);
-    EXPECT_TRUE(window->Commands().m_bChanged);
-    EXPECT_EQ(window->Commands().m_sGameName, InGames(QStringLiteral("Bad.gam")));
+    EXPECT_TRUE(window->Commands().InHand().IsUnsaved());
+    EXPECT_EQ(window->Commands().InHand().GameName(), InGames(QStringLiteral("Bad.gam")));
 }
 
 TEST_F(GameCommandsTest, QuestionAboutChangesFollowsItsTable) {
@@ -201,13 +201,13 @@ TEST_F(GameCommandsTest, QuestionAboutChangesFollowsItsTable) {
     desktop.answers = {vbNo};
     window->Commands().OkToEndProgram(ok);
     EXPECT_TRUE(ok);
-    EXPECT_TRUE(window->Commands().m_bChanged) << "the change stays until the next load";
+    EXPECT_TRUE(window->Commands().InHand().IsUnsaved()) << "the change stays until the next load";
     EXPECT_FALSE(HasAutosave());
 
     desktop.answers = {vbYes};
     window->Commands().OkToEndProgram(ok);
     EXPECT_TRUE(ok);
-    EXPECT_FALSE(window->Commands().m_bChanged);
+    EXPECT_FALSE(window->Commands().InHand().IsUnsaved());
     EXPECT_TRUE(ReadFile(InGames(QStringLiteral("Mine.gam"))).contains("\"One\""));
 
     Edit(QStringLiteral("Two"));
@@ -222,7 +222,7 @@ TEST_F(GameCommandsTest, YesSavesAnUnnamedGameWithoutAskingForAName) {
     desktop.answers = {vbYes};
     ChooseMenu("mnuFile_0");
     EXPECT_TRUE(HasFile(QStringLiteral("Game1.gam")));
-    EXPECT_EQ(window->Commands().m_sGameName, InGames(QStringLiteral("Game2.gam")));
+    EXPECT_EQ(window->Commands().InHand().GameName(), InGames(QStringLiteral("Game2.gam")));
 }
 
 TEST_F(GameCommandsTest, CancelKeepsTheGameFromNewOpenAndClose) {
@@ -247,7 +247,7 @@ TEST_F(GameCommandsTest, MissingDefaultGameIsToldAndLeavesTheGameUnderANewName) 
     ASSERT_FALSE(desktop.boxes.isEmpty());
     EXPECT_TRUE(desktop.boxes[0].sText.contains(QStringLiteral("opening the file")));
     EXPECT_EQ(TextOfSpace4(), QStringLiteral("As saved"));
-    EXPECT_EQ(window->Commands().m_sGameName, InGames(QStringLiteral("Game1.gam")));
+    EXPECT_EQ(window->Commands().InHand().GameName(), InGames(QStringLiteral("Game1.gam")));
     EXPECT_EQ(window->Commands().LoadResult(), -1);
 }
 
@@ -267,7 +267,7 @@ TEST_F(GameCommandsTest, GameOfAnotherStartWaitsUntilThisOneHasLoaded) {
     CallWhileLoading call([this] { window->CalledByAnotherStart(QStringLiteral(TAVLORA_DATA_DIR "/Family_US.gam")); });
     StartWith(QStringLiteral("Mine.gam"));
     EXPECT_EQ(TextOfSpace4(), QStringLiteral("Leo's\r\nDesk"));
-    EXPECT_TRUE(window->Commands().m_sGameName.endsWith(QStringLiteral("Family_US.gam")));
+    EXPECT_TRUE(window->Commands().InHand().GameName().endsWith(QStringLiteral("Family_US.gam")));
 }
 
 TEST_F(GameCommandsTest, StartWithoutAGameTakesBackNoneOfAnEarlierOne) {
@@ -276,7 +276,7 @@ TEST_F(GameCommandsTest, StartWithoutAGameTakesBackNoneOfAnEarlierOne) {
         window->CalledByAnotherStart(QString());
     });
     StartWith(QStringLiteral("Mine.gam"));
-    EXPECT_TRUE(window->Commands().m_sGameName.endsWith(QStringLiteral("Family_US.gam")));
+    EXPECT_TRUE(window->Commands().InHand().GameName().endsWith(QStringLiteral("Family_US.gam")));
 }
 
 TEST_F(GameCommandsTest, FirstFourLettersTellAGameWithoutAName) {

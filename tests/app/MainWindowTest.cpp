@@ -82,7 +82,7 @@ TEST_F(MainWindowTest, ChangeIsAutosavedAndSpaceRepaints) {
     window->View().Board().SetBackColor(Color::White());
     window->EditNews(0);
     EXPECT_TRUE(HasAutosave());
-    EXPECT_TRUE(window->Commands().m_bChanged);
+    EXPECT_TRUE(window->Commands().InHand().IsUnsaved());
     const QPointF panel(0.5, 0.45);
     EXPECT_EQ(SeenAt(panel.x(), panel.y()), Color::White()) << "news don't show on the board";
     window->EditSpaceText(4);
@@ -106,7 +106,7 @@ TEST_F(MainWindowTest, ThumbnailsOfTokensAreFetchedAgainAfterTheirEditorInAnyCas
     ASSERT_TRUE(QFile::remove(thumbnail)) << thumbnail.toStdString();
     window->EditToken();
     EXPECT_TRUE(QFileInfo::exists(thumbnail));
-    EXPECT_FALSE(window->Commands().m_bChanged);
+    EXPECT_FALSE(window->Commands().InHand().IsUnsaved());
 }
 
 TEST_F(MainWindowTest, BoardShowsTheColoursOfItsTables) {

@@ -64,14 +64,14 @@ TEST_F(StartUpTest, Edge_UnreadableAutosaveIsFollowedByItsBackup) {
     EXPECT_EQ(desktop.boxes[1].iStyle, vbCritical);
     EXPECT_EQ(desktop.boxes[2].sText, kBackupFound);
     EXPECT_EQ(TextOfSpace4(), QStringLiteral("Kept"));
-    EXPECT_EQ(window->Commands().m_sGameName, InGames(QStringLiteral("Mine.gam")));
+    EXPECT_EQ(window->Commands().InHand().GameName(), InGames(QStringLiteral("Mine.gam")));
 }
 
 TEST_F(StartUpTest, Edge_LoadedAutosaveCountsAsUnsavedChanges) {
     WriteGame(QStringLiteral("~AutoSave.dat"), QStringLiteral("Kept"), InGames(QStringLiteral("Mine.gam")));
     Start();
     EXPECT_EQ(desktop.Texts(), QStringList{kAutosaveFound});
-    EXPECT_TRUE(window->Commands().m_bChanged);
+    EXPECT_TRUE(window->Commands().InHand().IsUnsaved());
     EXPECT_TRUE(window->isWindowModified());
     EXPECT_EQ(window->windowTitle(),
               QStringLiteral("Tavlora: ") + InGames(QStringLiteral("Mine.gam")) + QStringLiteral("[*]"));
@@ -107,9 +107,9 @@ TEST_F(StartUpTest, FreshHomeGetsSamplesDefaultsAndANewGame) {
                     {"PrintBlackColor", "00000000"}};
     for (const auto& entry : defaults)
         EXPECT_EQ(Ini(entry.key), QString::fromLatin1(entry.value)) << entry.key;
-    EXPECT_EQ(window->Commands().m_sGameName, InGames(QStringLiteral("Game1.gam")));
+    EXPECT_EQ(window->Commands().InHand().GameName(), InGames(QStringLiteral("Game1.gam")));
     EXPECT_FALSE(HasFile(QStringLiteral("Game1.gam"))) << "in memory only until it is saved";
-    EXPECT_FALSE(window->Commands().m_bChanged);
+    EXPECT_FALSE(window->Commands().InHand().IsUnsaved());
     EXPECT_EQ(window->Commands().LoadResult(), 0);
     EXPECT_TRUE(desktop.boxes.isEmpty());
 }
@@ -176,7 +176,7 @@ TEST_F(StartUpTest, StartGoesOnWholeWithSettingsThatCantBeRead) {
     EXPECT_EQ(basTAVL::g_lPrintRed(), Color::Rgb(255, 0, 0));
     EXPECT_EQ(basTAVL::g_lPrintBlack(), Color::Black());
     EXPECT_EQ(TextOfSpace4(), QStringLiteral("Kept"));
-    EXPECT_EQ(window->Commands().m_sGameName, InGames(QStringLiteral("Mine.gam")));
+    EXPECT_EQ(window->Commands().InHand().GameName(), InGames(QStringLiteral("Mine.gam")));
 }
 
 TEST_F(StartUpTest, LastGameIsOpenedAgainAndAMissingOneIsReplacedByANewOne) {
@@ -184,10 +184,10 @@ TEST_F(StartUpTest, LastGameIsOpenedAgainAndAMissingOneIsReplacedByANewOne) {
     SetIni(QStringLiteral("GameName"), InGames(QStringLiteral("Mine.gam")));
     Start();
     EXPECT_EQ(TextOfSpace4(), QStringLiteral("Mine!"));
-    EXPECT_FALSE(window->Commands().m_bChanged);
+    EXPECT_FALSE(window->Commands().InHand().IsUnsaved());
     SetIni(QStringLiteral("GameName"), InGames(QStringLiteral("Gone.gam")));
     Start();
-    EXPECT_EQ(window->Commands().m_sGameName, InGames(QStringLiteral("Game1.gam")));
+    EXPECT_EQ(window->Commands().InHand().GameName(), InGames(QStringLiteral("Game1.gam")));
 }
 
 TEST_F(StartUpTest, UnreadableLastGameIsToldAndTheProgramStandsAllTheSame) {

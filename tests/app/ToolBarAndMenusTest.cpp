@@ -66,9 +66,9 @@ TEST_F(ToolBarAndMenusTest, ToolbarButtonsRunTheirCommands) {
     ClickToolBar(1);
     ClickToolBar(2);
     EXPECT_EQ(dialogs, (Strings{QStringLiteral("Open Game"), QStringLiteral("Save Game Under New Name")}));
-    window->Commands().m_sGameName = QStringLiteral("/old");
+    window->Commands().InHand().SetGameName(QStringLiteral("/old"));
     ClickToolBar(0);
-    EXPECT_TRUE(window->Commands().m_sGameName.endsWith(QStringLiteral("Game1.gam")));
+    EXPECT_TRUE(window->Commands().InHand().GameName().endsWith(QStringLiteral("Game1.gam")));
 }
 
 TEST_F(ToolBarAndMenusTest, ToolbarFramesTheButtonUnderTheMouse) {

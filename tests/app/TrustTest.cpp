@@ -196,7 +196,7 @@ TEST_F(TrustTest, ChangeWhoseAutosaveTheDiskRefusesIsAskedAboutAllTheSame) {
     ChooseMenu("mnuFile_3");
     Edit(kFirstEdit);
     ChooseMenu("mnuFile_3");
-    ASSERT_FALSE(window->Commands().m_bChanged);
+    ASSERT_FALSE(window->Commands().InHand().IsUnsaved());
     WriteGame(QStringLiteral("~AutoSave.dat"), kOldText);
     Files::SetFaultHook([](Files::Operation operation, const QString&) -> std::optional<QString> {
         if (operation == Files::Operation::Remove || operation == Files::Operation::Rename)
@@ -205,7 +205,7 @@ TEST_F(TrustTest, ChangeWhoseAutosaveTheDiskRefusesIsAskedAboutAllTheSame) {
     });
     EXPECT_THROW(Edit(kLastEdit), TavloraError);
     Files::SetFaultHook({});
-    EXPECT_TRUE(window->Commands().m_bChanged);
+    EXPECT_TRUE(window->Commands().InHand().IsUnsaved());
     EXPECT_TRUE(window->isWindowModified());
 }
 
@@ -277,7 +277,7 @@ TEST_F(TrustTest, FailedAutosaveIsToldAndTheEditGoesOn) {
     ASSERT_EQ(desktop.boxes.size(), 1);
     EXPECT_TRUE(desktop.boxes[0].sText.contains(QStringLiteral("No space left on device")));
     EXPECT_EQ(TextOfSpace4(), kLastEdit);
-    EXPECT_TRUE(window->Commands().m_bChanged);
+    EXPECT_TRUE(window->Commands().InHand().IsUnsaved());
 }
 
 TEST_F(TrustTest, YesAtTheExitQuestionWithAFailingSaveKeepsTheWork) {
@@ -292,7 +292,7 @@ TEST_F(TrustTest, YesAtTheExitQuestionWithAFailingSaveKeepsTheWork) {
     window->Commands().OkToEndProgram(ok);
     Files::SetFaultHook({});
     EXPECT_FALSE(ok);
-    EXPECT_FALSE(window->Commands().m_bChanged) << "whether or not the save worked";
+    EXPECT_FALSE(window->Commands().InHand().IsUnsaved()) << "whether or not the save worked";
     EXPECT_TRUE(HasFile(QStringLiteral("Rescued Mine.gam")));
     EXPECT_TRUE(Log().contains(QStringLiteral("Rescued Mine.gam")));
 }
@@ -356,7 +356,7 @@ TEST_F(TrustTest, ReadOnlyGamesFolderStartsAndTellsWhenItCantSave) {
     ASSERT_EQ(desktop.boxes.size(), 2);
     for (const TestDesktop::Box& box : desktop.boxes)
         EXPECT_TRUE(box.sText.contains(QStringLiteral("Permission denied")));
-    EXPECT_TRUE(window->Commands().m_bChanged);
+    EXPECT_TRUE(window->Commands().InHand().IsUnsaved());
     Files::SetFaultHook({});
     EXPECT_TRUE(TextsOnDisk().contains(kOldText));
 }

@@ -60,7 +60,7 @@ TEST_F(LoadTest, Edge_MagicWordIsComparedInUpperCase) {
 }
 
 TEST_F(LoadTest, Edge_GamePathWithACommaIsCutThereInTheHeader) {
-    session.m_sGameName = InGames(QStringLiteral("Mum, Dad.gam"));
+    session.SetGameName(InGames(QStringLiteral("Mum, Dad.gam")));
     session.SetSomethingChanged(true);
     QString name = autosave;
     EXPECT_EQ(Load(name), 0);
@@ -69,7 +69,7 @@ TEST_F(LoadTest, Edge_GamePathWithACommaIsCutThereInTheHeader) {
 
 TEST_F(LoadTest, Edge_AutosaveKeepsTheUnsavedStateAndBringsBackTheRealName) {
     const QString real = WriteGame(PlainLines(), QStringLiteral("Real.gam"));
-    session.m_sGameName = real;
+    session.SetGameName(real);
     ASSERT_EQ(Load(QString(real)), 0);
     basTAVL::g_oSpaces(0).SetText(QStringLiteral("Edited"));
     session.SetSomethingChanged(true);
@@ -77,17 +77,17 @@ TEST_F(LoadTest, Edge_AutosaveKeepsTheUnsavedStateAndBringsBackTheRealName) {
     QString name = autosave;
     ASSERT_EQ(Load(name), 0);
     EXPECT_EQ(name, real);
-    EXPECT_TRUE(session.m_bChanged);
+    EXPECT_TRUE(session.IsUnsaved());
     EXPECT_TRUE(Files::Exists(autosave));
 
     EXPECT_TRUE(Save(name));
-    EXPECT_FALSE(session.m_bChanged);
+    EXPECT_FALSE(session.IsUnsaved());
     EXPECT_FALSE(Files::Exists(autosave));
     EXPECT_TRUE(ReadFile(real).contains("\"Edited\""));
 }
 
 TEST_F(LoadTest, Edge_AutosaveCarriesTheGamesNameInItsHeader) {
-    session.m_sGameName = QStringLiteral("/somewhere/Trip.gam");
+    session.SetGameName(QStringLiteral("/somewhere/Trip.gam"));
     session.SetSomethingChanged(true);
     EXPECT_TRUE(ReadFile(autosave).startsWith("\"TavloraGameBoard\", 8.0.0, /somewhere/Trip.gam\r\n"));
 }
@@ -164,7 +164,7 @@ TEST_F(LoadTest, CaptionsOfTheSheetsCarryTheProgramsVersion) {
 TEST_F(LoadTest, LoadedGameIsUnchangedAndLeavesNoAutosave) {
     session.SetSomethingChanged(true);
     EXPECT_EQ(Load(WriteGame(PlainLines())), 0);
-    EXPECT_FALSE(session.m_bChanged);
+    EXPECT_FALSE(session.IsUnsaved());
     EXPECT_FALSE(Files::Exists(autosave));
 }
 
@@ -339,18 +339,18 @@ TEST_F(LoadTest, TitlesAreDecodedTwice) {
 TEST_F(LoadTest, EmptyTextOfASpaceComesBackAsNotFilledIn) {
     ASSERT_EQ(Load(WriteGame(PlainLines())), 0);
     basTAVL::g_oSpaces(0).SetText(QString());
-    session.m_sGameName = InGames(QStringLiteral("Saved.gam"));
-    ASSERT_TRUE(Save(session.m_sGameName));
-    ASSERT_EQ(Load(QString(session.m_sGameName)), 0);
+    session.SetGameName(InGames(QStringLiteral("Saved.gam")));
+    ASSERT_TRUE(Save(session.GameName()));
+    ASSERT_EQ(Load(QString(session.GameName())), 0);
     EXPECT_EQ(basTAVL::g_oSpaces(0).TextAll(), QStringLiteral("Not Filled In"));
 }
 
 TEST_F(LoadTest, TokenCalledNotFilledInComesBackEmpty) {
     ASSERT_EQ(Load(WriteGame(PlainLines())), 0);
     basTAVL::g_oTokens(0).SetText(QStringLiteral("Not Filled In"));
-    session.m_sGameName = InGames(QStringLiteral("Saved.gam"));
-    ASSERT_TRUE(Save(session.m_sGameName));
-    ASSERT_EQ(Load(QString(session.m_sGameName)), 0);
+    session.SetGameName(InGames(QStringLiteral("Saved.gam")));
+    ASSERT_TRUE(Save(session.GameName()));
+    ASSERT_EQ(Load(QString(session.GameName())), 0);
     EXPECT_EQ(basTAVL::g_oTokens(0).TextAll(), QString());
 }
 

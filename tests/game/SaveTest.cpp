@@ -8,7 +8,7 @@ namespace {
 class SaveTest : public GameFileTest {
 protected:
     SaveTest() {
-        session.m_sGameName = InGames(QStringLiteral("Trip.gam"));
+        session.SetGameName(InGames(QStringLiteral("Trip.gam")));
         Load(WriteGame(PlainLines()));
         QFile::remove(InGames(QStringLiteral("Plain.gam")));
     }
@@ -25,7 +25,7 @@ protected:
         session.SetSomethingChanged(true);
     }
     QString SaveError(const char* during) const {
-        return IOError("save", session.m_sGameName, QStringLiteral("disk says no"), during);
+        return IOError("save", session.GameName(), QStringLiteral("disk says no"), during);
     }
     QByteArray Log() const { return ReadFile(basErrLog::ErrLogPath()); }
 };
@@ -84,10 +84,10 @@ TEST_F(SaveTest, SavedGameComesBackEqualInAllScripts) {
     for (const char* flavour : {"Plain", "Zażółć gęślą", "شارع الزيتون", "Family 🏠👨‍👩‍👧", "Straße €"}) {
         FillGame(QString::fromUtf8(flavour), picture);
         const Game before = TheGame();
-        ASSERT_TRUE(Save(session.m_sGameName));
+        ASSERT_TRUE(Save(session.GameName()));
         basTAVL::ResetForTest();
         basPosit::PosInit();
-        ASSERT_EQ(Load(QString(session.m_sGameName)), 0) << flavour;
+        ASSERT_EQ(Load(QString(session.GameName())), 0) << flavour;
         EXPECT_EQ(TheGame(), before) << flavour;
         for (size_t i = 0; i < before.spaces.size(); ++i)
             EXPECT_EQ(TheGame().spaces[i].m_fTextSize, before.spaces[i].m_fTextSize) << flavour << i;
@@ -96,12 +96,12 @@ TEST_F(SaveTest, SavedGameComesBackEqualInAllScripts) {
 }
 
 TEST_F(SaveTest, FileHasSixtyNineLinesWithTheTitlesAheadOfTheRecords) {
-    ASSERT_TRUE(Save(session.m_sGameName));
-    const QByteArray bytes = ReadFile(session.m_sGameName);
+    ASSERT_TRUE(Save(session.GameName()));
+    const QByteArray bytes = ReadFile(session.GameName());
     EXPECT_EQ(bytes.count("\r\n"), 69);
     EXPECT_EQ(bytes.count('\n'), 69);
     const QList<QByteArray> lines = bytes.split('\n');
-    EXPECT_EQ(lines[0], "\"TavloraGameBoard\", 8.0.0, " + session.m_sGameName.toUtf8() + '\r');
+    EXPECT_EQ(lines[0], "\"TavloraGameBoard\", 8.0.0, " + session.GameName().toUtf8() + '\r');
     EXPECT_EQ(lines[1], "\"Our\", \"Sub\", \"Day\"\r");
     EXPECT_EQ(lines[2], "\"Good News\", \"Bad News\"\r");
     EXPECT_EQ(lines[3], "0, \"Space\\n0\", \"\",0,0,0, \"Arial\",R,12\r");
@@ -109,31 +109,31 @@ TEST_F(SaveTest, FileHasSixtyNineLinesWithTheTitlesAheadOfTheRecords) {
 }
 
 TEST_F(SaveTest, SavingTwiceGivesTheSameBytes) {
-    ASSERT_TRUE(Save(session.m_sGameName));
-    const QByteArray first = ReadFile(session.m_sGameName);
-    ASSERT_EQ(Load(QString(session.m_sGameName)), 0);
-    ASSERT_TRUE(Save(session.m_sGameName));
-    EXPECT_EQ(ReadFile(session.m_sGameName), first);
+    ASSERT_TRUE(Save(session.GameName()));
+    const QByteArray first = ReadFile(session.GameName());
+    ASSERT_EQ(Load(QString(session.GameName())), 0);
+    ASSERT_TRUE(Save(session.GameName()));
+    EXPECT_EQ(ReadFile(session.GameName()), first);
 }
 
 TEST_F(SaveTest, NameWithALineBreakKeepsTheHeaderOneLine) {
-    session.m_sGameName = InGames(QStringLiteral("odd\nname.gam"));
-    ASSERT_TRUE(Save(session.m_sGameName));
-    EXPECT_EQ(Load(QString(session.m_sGameName)), 0);
+    session.SetGameName(InGames(QStringLiteral("odd\nname.gam")));
+    ASSERT_TRUE(Save(session.GameName()));
+    EXPECT_EQ(Load(QString(session.GameName())), 0);
 }
 
 TEST_F(SaveTest, GameSavedUnderItsNameIsUnchangedAndTheLastOne) {
     Edit(QStringLiteral("x"));
-    EXPECT_TRUE(session.m_bChanged);
-    EXPECT_TRUE(Save(session.m_sGameName));
-    EXPECT_FALSE(session.m_bChanged);
-    EXPECT_EQ(basCommon::GetIniString(QStringLiteral("GameName")), session.m_sGameName);
+    EXPECT_TRUE(session.IsUnsaved());
+    EXPECT_TRUE(Save(session.GameName()));
+    EXPECT_FALSE(session.IsUnsaved());
+    EXPECT_EQ(basCommon::GetIniString(QStringLiteral("GameName")), session.GameName());
 }
 
 TEST_F(SaveTest, GameSavedUnderAnotherNameStaysUnsaved) {
     Edit(QStringLiteral("x"));
     EXPECT_TRUE(Save(InGames(QStringLiteral("trip.GAM"))));
-    EXPECT_TRUE(session.m_bChanged);
+    EXPECT_TRUE(session.IsUnsaved());
     EXPECT_EQ(basCommon::GetIniString(QStringLiteral("GameName")), QString());
     EXPECT_TRUE(Files::Exists(autosave));
 }
@@ -147,13 +147,13 @@ TEST_F(SaveTest, FirstChangeWritesTheAutosaveTheSecondItsBackupAndASaveRemovesBo
     EXPECT_TRUE(ReadFile(backup).contains("\"one\""));
     Edit(QStringLiteral("three"));
     EXPECT_TRUE(ReadFile(backup).contains("\"two\""));
-    EXPECT_TRUE(Save(session.m_sGameName));
+    EXPECT_TRUE(Save(session.GameName()));
     EXPECT_EQ(GamesFolder(), QStringList{QStringLiteral("Trip.gam")});
 }
 
 TEST_F(SaveTest, EachFailureAtTheHeadOfTheFileIsToldAndLeavesTheOldFileWhole) {
-    ASSERT_TRUE(Save(session.m_sGameName));
-    const QByteArray before = ReadFile(session.m_sGameName);
+    ASSERT_TRUE(Save(session.GameName()));
+    const QByteArray before = ReadFile(session.GameName());
     const struct {
         Files::Operation operation;
         int spared;
@@ -166,11 +166,11 @@ TEST_F(SaveTest, EachFailureAtTheHeadOfTheFileIsToldAndLeavesTheOldFileWhole) {
         basTAVL::g_oSpaces(0).SetText(QStringLiteral("new"));
         desktop.boxes.clear();
         FailAt(row.operation, row.spared);
-        EXPECT_FALSE(Save(session.m_sGameName)) << row.during;
+        EXPECT_FALSE(Save(session.GameName())) << row.during;
         Files::SetFaultHook({});
         EXPECT_EQ(desktop.Texts(), QStringList{SaveError(row.during)});
         EXPECT_EQ(desktop.boxes[0].iStyle, vbCritical);
-        EXPECT_EQ(ReadFile(session.m_sGameName), before);
+        EXPECT_EQ(ReadFile(session.GameName()), before);
     }
 }
 
@@ -178,15 +178,15 @@ TEST_F(SaveTest, DiskThatFillsUpWhileRecordsAreWrittenIsNoToldFailureButTheWorkI
     const QList<std::pair<Files::Operation, int>> faults{{Files::Operation::Write, 3}, {Files::Operation::Commit, 0}};
     for (const auto& [operation, spared] : faults) {
         QFile::remove(InGames(QStringLiteral("Rescued Trip.gam")));
-        ASSERT_TRUE(Save(session.m_sGameName));
-        const QByteArray before = ReadFile(session.m_sGameName);
+        ASSERT_TRUE(Save(session.GameName()));
+        const QByteArray before = ReadFile(session.GameName());
         Edit(QStringLiteral("precious"));
         FailAt(operation, spared, QStringLiteral("Trip.gam"));
-        EXPECT_TRUE(Save(session.m_sGameName));
+        EXPECT_TRUE(Save(session.GameName()));
         Files::SetFaultHook({});
         EXPECT_TRUE(desktop.boxes.isEmpty());
-        EXPECT_FALSE(session.m_bChanged);
-        EXPECT_EQ(ReadFile(session.m_sGameName), before);
+        EXPECT_FALSE(session.IsUnsaved());
+        EXPECT_EQ(ReadFile(session.GameName()), before);
         EXPECT_EQ(GamesFolder(), (QStringList{QStringLiteral("Rescued Trip.gam"), QStringLiteral("Trip.gam")}));
         EXPECT_TRUE(ReadFile(InGames(QStringLiteral("Rescued Trip.gam"))).contains("\"precious\""));
         EXPECT_TRUE(Log().contains("Rescued Trip.gam"));
@@ -196,10 +196,10 @@ TEST_F(SaveTest, DiskThatFillsUpWhileRecordsAreWrittenIsNoToldFailureButTheWorkI
 TEST_F(SaveTest, WorkIsRescuedWhenAFailedSaveIsFollowedByForgettingTheChange) {
     Edit(QStringLiteral("precious"));
     FailAt(Files::Operation::OpenWrite, 0, QStringLiteral("Trip.gam"));
-    EXPECT_FALSE(Save(session.m_sGameName));
+    EXPECT_FALSE(Save(session.GameName()));
     Files::SetFaultHook({});
     session.SetSomethingChanged(false);
-    EXPECT_FALSE(session.m_bChanged);
+    EXPECT_FALSE(session.IsUnsaved());
     EXPECT_EQ(GamesFolder(), QStringList{QStringLiteral("Rescued Trip.gam")});
     EXPECT_EQ(Load(InGames(QStringLiteral("Rescued Trip.gam"))), 0);
     EXPECT_EQ(basTAVL::g_oSpaces(0).TextAll(), QStringLiteral("precious"));
@@ -209,7 +209,7 @@ TEST_F(SaveTest, RescuedGamesAreNumberedAndNeverOverwritten) {
     for (int i = 1; i <= 3; ++i) {
         Edit(QStringLiteral("work %1").arg(i));
         FailAt(Files::Operation::Commit, 0, QStringLiteral("Trip.gam"));
-        EXPECT_TRUE(Save(session.m_sGameName));
+        EXPECT_TRUE(Save(session.GameName()));
         Files::SetFaultHook({});
     }
     EXPECT_TRUE(ReadFile(InGames(QStringLiteral("Rescued Trip.gam"))).contains("\"work 1\""));
@@ -220,7 +220,7 @@ TEST_F(SaveTest, RescuedGamesAreNumberedAndNeverOverwritten) {
 TEST_F(SaveTest, GameWithoutAutosaveIsRescuedFromMemory) {
     basTAVL::g_oSpaces(0).SetText(QStringLiteral("unchanged"));
     FailAt(Files::Operation::Commit, 0, QStringLiteral("/Trip.gam"));
-    EXPECT_TRUE(Save(session.m_sGameName));
+    EXPECT_TRUE(Save(session.GameName()));
     EXPECT_TRUE(ReadFile(InGames(QStringLiteral("Rescued Trip.gam"))).contains("\"unchanged\""));
 }
 
@@ -230,16 +230,16 @@ TEST_F(SaveTest, AutosaveThatCantBeKeptElsewhereStays) {
         const bool hit = operation == Files::Operation::Commit || operation == Files::Operation::Rename;
         return hit ? std::optional(QStringLiteral("disk says no")) : std::nullopt;
     });
-    EXPECT_TRUE(Save(session.m_sGameName));
+    EXPECT_TRUE(Save(session.GameName()));
     EXPECT_TRUE(ReadFile(autosave).contains("\"precious\""));
 }
 
 TEST_F(SaveTest, SuccessfulSaveAfterAFailedOneRescuesNothing) {
     Edit(QStringLiteral("x"));
     FailAt(Files::Operation::OpenWrite, 0, QStringLiteral("Trip.gam"));
-    EXPECT_FALSE(Save(session.m_sGameName));
+    EXPECT_FALSE(Save(session.GameName()));
     Files::SetFaultHook({});
-    EXPECT_TRUE(Save(session.m_sGameName));
+    EXPECT_TRUE(Save(session.GameName()));
     EXPECT_EQ(GamesFolder(), QStringList{QStringLiteral("Trip.gam")});
 }
 
@@ -250,7 +250,7 @@ TEST_F(SaveTest, AutosaveThatCantBeWrittenIsToldAndTheEditGoesOn) {
     Files::SetFaultHook({});
     EXPECT_EQ(desktop.Texts(),
               QStringList{IOError("save", autosave, QStringLiteral("disk says no"), "opening the file")});
-    EXPECT_TRUE(session.m_bChanged);
+    EXPECT_TRUE(session.IsUnsaved());
     EXPECT_TRUE(ReadFile(backup).contains("\"one\""));
 }
 
@@ -266,28 +266,30 @@ TEST_F(SaveTest, AutosaveThatCantBeMovedOrDeletedRaises) {
 TEST_F(SaveTest, WorkThatCouldBeKeptNowhereStaysUnsaved) {
     FailAt(Files::Operation::OpenWrite);
     Edit(QStringLiteral("precious"));
-    EXPECT_FALSE(Save(session.m_sGameName));
+    EXPECT_FALSE(Save(session.GameName()));
     session.SetSomethingChanged(false);
-    EXPECT_TRUE(session.m_bChanged) << "the memory is the only place it is in";
+    EXPECT_TRUE(session.IsUnsaved()) << "the memory is the only place it is in";
     Files::SetFaultHook({});
-    EXPECT_TRUE(Save(session.m_sGameName));
-    EXPECT_FALSE(session.m_bChanged);
+    EXPECT_TRUE(Save(session.GameName()));
+    EXPECT_FALSE(session.IsUnsaved());
     EXPECT_EQ(GamesFolder(), QStringList{QStringLiteral("Trip.gam")});
 
     FailAt(Files::Operation::OpenWrite);
     Edit(QStringLiteral("given up"));
-    EXPECT_FALSE(Save(session.m_sGameName));
-    session.m_sGameName = InGames(QStringLiteral("Other.gam"));
+    EXPECT_FALSE(Save(session.GameName()));
+    session.SetGameName(InGames(QStringLiteral("Other.gam")));
     session.SetSomethingChanged(false);
-    EXPECT_FALSE(session.m_bChanged) << "another game starts unchanged";
+    EXPECT_FALSE(session.IsUnsaved()) << "another game starts unchanged";
 }
 
 TEST_F(SaveTest, ChangeWhoseAutosaveRaisesIsAChangeAllTheSame) {
     Edit(QStringLiteral("one"));
-    session.m_bChanged = false;
+    ASSERT_TRUE(Save(session.GameName()));
+    ASSERT_FALSE(session.IsUnsaved());
+    WriteFile(QStringLiteral("games/~AutoSave.dat"), "of another run");
     FailAt(Files::Operation::Rename);
     EXPECT_EQ(ErrorOf([&] { session.SetSomethingChanged(true); }), ErrNumber::kFileAccess);
-    EXPECT_TRUE(session.m_bChanged);
+    EXPECT_TRUE(session.IsUnsaved());
 }
 
 TEST_F(SaveTest, FailureOfTheDiskNamesTheFile) {
@@ -338,8 +340,8 @@ TEST_F(SaveTest, CrashAtAnyMomentOfAnAutosaveLeavesTheLastStateOnDisk) {
 }
 
 TEST_F(SaveTest, FolderIsNoPlaceToSaveTo) {
-    session.m_sGameName = PathOf(QStringLiteral("games"));
-    EXPECT_FALSE(Save(session.m_sGameName));
+    session.SetGameName(PathOf(QStringLiteral("games")));
+    EXPECT_FALSE(Save(session.GameName()));
     ASSERT_EQ(desktop.boxes.size(), 1);
     EXPECT_TRUE(desktop.boxes[0].sText.contains(QStringLiteral("opening the file")));
 }

@@ -46,10 +46,10 @@ TEST_F(ShippedDataTest, EveryGameLoadsWholeAndSavesTheSameRecords) {
         ASSERT_TRUE(lines) << error.toStdString();
         EXPECT_EQ(lines->size(), 69) << game.toStdString();
         ASSERT_EQ(Load(Shipped(game)), 0) << game.toStdString() << desktop.Texts().join(u'\n').toStdString();
-        session.m_sGameName = InGames(QStringLiteral("Copy.gam"));
-        ASSERT_TRUE(Save(session.m_sGameName));
+        session.SetGameName(InGames(QStringLiteral("Copy.gam")));
+        ASSERT_TRUE(Save(session.GameName()));
         const QStringList before = GameFile::ComposeLines();
-        ASSERT_EQ(Load(QString(session.m_sGameName)), 0);
+        ASSERT_EQ(Load(QString(session.GameName())), 0);
         EXPECT_EQ(GameFile::ComposeLines(), before) << game.toStdString();
     }
     EXPECT_TRUE(desktop.boxes.isEmpty()) << desktop.Texts().join(u'\n').toStdString();

@@ -3,7 +3,7 @@
 
 #include "game/Autosave.h"
 #include "game/GameFile.h"
-#include "game/GameSession.h"
+#include "game/Session.h"
 #include "services/basCommon.h"
 #include "support/BoardFixture.h"
 
@@ -71,5 +71,5 @@ protected:
     }
     const QString autosave = InGames(QStringLiteral("~AutoSave.dat"));
     const QString backup = InGames(QStringLiteral("~AutoSave.bak"));
-    GameSession session;
+    Session session;
 };

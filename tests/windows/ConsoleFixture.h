@@ -5,7 +5,7 @@
 
 #include "app/GameKit.h"
 #include "board/basPositFit.h"
-#include "game/GameSession.h"
+#include "game/Session.h"
 #include "kit/ConsoleSheets.h"
 #include "pieces/frmBMP.h"
 #include "platform/files/Files.h"
@@ -33,7 +33,7 @@ protected:
         GameKit::SetUp(QStringLiteral("tavlora"));
         basPosit::PosInit();
         basPosit::SetSpecialText(1, QStringLiteral("Our Own Town"));
-        session.m_sGameName = PathOf(QStringLiteral("games/Ours.gam"));
+        session.SetGameName(PathOf(QStringLiteral("games/Ours.gam")));
         Folders::PretendFreeBytes(1e12);
         Open();
     }
@@ -76,7 +76,7 @@ protected:
         "Sorry, but you can't change printers once you have started the printing process.\r\n"
         "Please stop and restart the program before changing printers.";
 
-    GameSession session;
+    Session session;
     TestPrinter printer;
     std::unique_ptr<frmTavlPrint> console;
     /// What the console told about a page being under way.
