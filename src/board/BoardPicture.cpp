@@ -4,7 +4,6 @@
 #include "board/basPosit.h"
 #include "board/basPositPaint.h"
 #include "platform/paint/Surface.h"
-#include "services/basErrLog.h"
 
 namespace basPosit {
 namespace {
@@ -26,7 +25,7 @@ public:
 
 } // namespace
 
-Picture BoardPicture(int lSize, double dDevicePixelRatio) try {
+Picture BoardPicture(int lSize, double dDevicePixelRatio) {
     ScratchForm picBoard(QSize(lSize, lSize), dDevicePixelRatio);
     PosInit();
     const OnSurface onSurface(picBoard);
@@ -36,8 +35,6 @@ Picture BoardPicture(int lSize, double dDevicePixelRatio) try {
     PosSetOffsetY(0);
     PosDrawAll();
     return Picture(picBoard.Image());
-} catch (...) {
-    ErrTail("basPosit!", "BoardPicture", lSize, dDevicePixelRatio);
 }
 
 } // namespace basPosit

@@ -50,12 +50,10 @@ int PosX(float fx, int lFurther) { return CLng(double(Module().m_fScale * fx) + 
 int PosY(float fy, int lFurther) { return CLng(double(Module().m_fScale * fy) + Module().m_lOffsetY + lFurther); }
 double PosLength(float fLength) { return Module().m_fScale * fLength; }
 
-int PosSide(int iSpace) try {
+int PosSide(int iSpace) {
     const int iSide = Int(double(iSpace) / BoardFacts::kSpacesPerSide);
     basErrLog::ErrAssert(iSide >= 0 && iSide < kSidesOfBoard, QStringLiteral("Unexpected Case"));
     return iSide;
-} catch (...) {
-    ErrTail("basPosit!", "PosSide", iSpace);
 }
 
 void ResetForTest() {

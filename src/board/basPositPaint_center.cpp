@@ -190,12 +190,10 @@ void Pos_DrawCenter() try {
     ErrTail("basPosit!", "Pos_DrawCenter");
 }
 
-void DrawTitleDecoration(const QRect& box) try {
+void DrawTitleDecoration(const QRect& box) {
     const UnitView inDeviceUnits;
     DrawDecoration(
         {float(box.left()), float(box.top()), float(box.left() + box.width()), float(box.top() + box.height())});
-} catch (...) {
-    ErrTail("basPosit!", "DrawTitleDecoration");
 }
 
 } // namespace basPosit

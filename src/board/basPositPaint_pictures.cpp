@@ -104,7 +104,7 @@ void StartPictures() {
 
 int PosPicturesAwaited() { return int(Module().awaited.size()); }
 
-int PosDrawAwaited() try {
+int PosDrawAwaited() {
     const std::vector<int> places = std::exchange(Module().awaited, {});
     Module().until = Clock::now() + kPatience;
     for (const int iPlace : places) {
@@ -116,15 +116,11 @@ int PosDrawAwaited() try {
     }
     basDraw::Draw_ReleaseObjects();
     return PosPicturesAwaited();
-} catch (...) {
-    ErrTail("basPosit!", "PosDrawAwaited");
 }
 
-void PosDrawCorner(int iCorner) try {
+void PosDrawCorner(int iCorner) {
     PosDrawCornerBMP(iCorner);
     if (!IsFixedCorner(iCorner) && !IsAwaited(PlaceOfCorner(iCorner))) PosDrawCornerText(0, iCorner);
-} catch (...) {
-    ErrTail("basPosit!", "PosDrawCorner", iCorner);
 }
 
 void PosDrawSpaceBMP(int iSpace) try {

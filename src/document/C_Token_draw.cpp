@@ -121,7 +121,7 @@ void C_Token::DrawText(int xStart, int yStart, int xEnd, int yEnd, bool bWithSel
 }
 
 bool C_Token::FindInsertPoint(int xStart, int yStart, int xEnd, int yEnd, Surface& picDest, int x, int y, int& iCol,
-                              int& iRow) const try {
+                              int& iRow) const {
     const PixelScale scale(picDest);
     const TextPlace place = PlaceOfText(xStart, yStart, xEnd, yEnd);
     basDraw::Draw_SetHdc(&picDest.hDC());
@@ -129,8 +129,6 @@ bool C_Token::FindInsertPoint(int xStart, int yStart, int xEnd, int yEnd, Surfac
     basDraw::Draw_FindInsertPoint(place.lines, kCentered, place.lCenter, place.lTop, x, y, iCol, iRow);
     basDraw::Draw_ReleaseObjects();
     return place.square.contains(x, y);
-} catch (...) {
-    ErrTail("C_Token!", "FindInsertPoint", xStart, yStart, xEnd, yEnd, picDest, x, y);
 }
 
 void C_Token::Redraw(int xStart, int yStart, int xEnd, int yEnd, bool bWithSelection, Surface& picDest,

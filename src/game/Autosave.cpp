@@ -65,7 +65,7 @@ bool KeepWork(const FailedSave& failed) {
 QString DataPath() { return InMyGames(QStringLiteral("~AutoSave.dat")); }
 QString BackupPath() { return InMyGames(QStringLiteral("~AutoSave.bak")); }
 
-Rotated Rotate() try {
+Rotated Rotate() {
     // Without a newer state the earlier one is the only copy there is.
     if (!Files::Exists(DataPath())) return Rotated::BackupIsAll;
     RemoveOrRaise(BackupPath());
@@ -74,15 +74,11 @@ Rotated Rotate() try {
     // Renamed in one step, so that at every moment one of the two holds the game whole.
     if (!Files::Rename(DataPath(), BackupPath(), error)) ErrRaiseRefused(DataPath(), error);
     return Rotated::DataBecameBackup;
-} catch (...) {
-    ErrTail("Autosave!", "Rotate");
 }
 
-void EndRotation(Rotated rotated) try {
+void EndRotation(Rotated rotated) {
     const bool bNewer = rotated == Rotated::BackupIsAll && Files::Exists(DataPath());
     if (bNewer && Files::Exists(BackupPath())) RemoveOrRaise(BackupPath());
-} catch (...) {
-    ErrTail("Autosave!", "EndRotation");
 }
 
 void NoteSave(bool bInPlace, const QString& sGameName, const QByteArray& content) {
@@ -90,14 +86,12 @@ void NoteSave(bool bInPlace, const QString& sGameName, const QByteArray& content
     if (!bInPlace) Failed() = FailedSave{sGameName, content};
 }
 
-void Forget() try {
+void Forget() {
     if (Failed() && !KeepWork(*Failed())) return;
     Failed().reset();
     // The newer one last: a program that ends here must not offer the state before the saved one.
     RemoveOrRaise(BackupPath());
     RemoveOrRaise(DataPath());
-} catch (...) {
-    ErrTail("Autosave!", "Forget");
 }
 
 bool IsKeptNowhere(const QString& sGameName) {

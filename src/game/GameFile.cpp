@@ -95,11 +95,7 @@ bool WriteRecords(Files::WholeFile& file, const QByteArray& bytes, const QString
 
 } // namespace
 
-QStringList ComposeLines() try {
-    return QStringList{HeaderLine(), SpecialTexts(1, 3), SpecialTexts(4, 5)} + RecordLines();
-} catch (...) {
-    ErrTail("frmTAVL!", "ComposeLines");
-}
+QStringList ComposeLines() { return QStringList{HeaderLine(), SpecialTexts(1, 3), SpecialTexts(4, 5)} + RecordLines(); }
 
 void GameSave(const QString& sFileName, bool& bResult) try {
     bResult = false;
