@@ -8,6 +8,7 @@
 #include "platform/files/Folders.h"
 #include "platform/files/SequentialInput.h"
 #include "platform/files/TextFile.h"
+#include "platform/text/NewLine.h"
 #include "platform/text/Numbers.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
@@ -18,7 +19,6 @@
 namespace basPosit {
 namespace {
 
-const QString kNewLine = QStringLiteral("\r\n");
 const QString kBlankLine = kNewLine + kNewLine;
 
 struct State {

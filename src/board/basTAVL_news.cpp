@@ -6,6 +6,7 @@
 #include "drawing/basDraw.h"
 #include "platform/paint/ClipScope.h"
 #include "platform/paint/Units.h"
+#include "platform/text/NewLine.h"
 #include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
 
@@ -45,7 +46,7 @@ QString NewsDeckName(int iGoodOrBad) {
     return iGoodOrBad == 0 ? QStringLiteral("Good News") : QStringLiteral("Bad News");
 }
 
-QStringList NewsTextLines(const QString& sText) { return sText.split(QStringLiteral("\r\n")); }
+QStringList NewsTextLines(const QString& sText) { return sText.split(kNewLine); }
 
 void NewsDrawBackgroundToScreen(DeviceContext* hDC, int x, int y) try {
     basDraw::Draw_SetHdc(hDC);

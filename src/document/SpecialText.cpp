@@ -2,10 +2,9 @@
 #include "document/SpecialText.h"
 
 #include "document/Subscript.h"
+#include "platform/text/NewLine.h"
 
 namespace {
-
-const QString kNewLine = QStringLiteral("\r\n");
 
 size_t Slot(int iNumber) { return CheckedSubscript(iNumber - Titles::kFirst, Titles::kLast - Titles::kFirst + 1); }
 

@@ -4,13 +4,13 @@
 #include "document/C_FontInfo.h"
 #include "document/Subscript.h"
 #include "drawing/basDraw.h"
+#include "platform/text/NewLine.h"
 #include "platform/text/Numbers.h"
 #include "platform/text/TextColumns.h"
 #include "services/basErrLog.h"
 
 namespace {
 
-const QString kNewLine = QStringLiteral("\r\n");
 constexpr int kMaxLastLine = 40;
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "document/basTAVL.h"
 
 #include "document/Subscript.h"
+#include "platform/text/NewLine.h"
 #include "services/Desktop.h"
 #include "services/ProgramSettings.h"
 
@@ -57,7 +58,7 @@ double& g_dblLabelSizes(int iSize) { return At(Module().labelSizes, iSize); }
 
 QString CRLF2Space(const QString& sText) {
     QString text = sText;
-    return text.replace(QStringLiteral("\r\n"), QStringLiteral(" "));
+    return text.replace(kNewLine, QStringLiteral(" "));
 }
 
 void FontFromDialog(const CommonDialog& objDialog, C_FontInfo& oFont) {

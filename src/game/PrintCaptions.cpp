@@ -2,6 +2,7 @@
 #include "game/PrintCaptions.h"
 
 #include "board/basPositFit.h"
+#include "platform/text/NewLine.h"
 #include "services/basErrLog.h"
 
 #include <QStringList>
@@ -19,9 +20,7 @@ QString VersionLine() {
     return QStringLiteral("(Program Rev %1.%2)").arg(TAVLORA_VERSION_MAJOR).arg(TAVLORA_VERSION_MINOR);
 }
 
-void SetCaption(int iIndex, const QStringList& lines) {
-    basPosit::SetSpecialText(iIndex, lines.join(QStringLiteral("\r\n")));
-}
+void SetCaption(int iIndex, const QStringList& lines) { basPosit::SetSpecialText(iIndex, lines.join(kNewLine)); }
 
 } // namespace
 
