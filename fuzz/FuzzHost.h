@@ -5,6 +5,7 @@
 #include "drawing/basDraw.h"
 #include "game/Session.h"
 #include "pictures/C_Image.h"
+#include "pictures/TellOnce.h"
 #include "platform/files/Console.h"
 #include "platform/files/Files.h"
 #include "platform/files/Folders.h"
@@ -56,6 +57,7 @@ public:
     /// Puts things back as they were before the first input.
     void Reset() {
         basTAVL::ResetForTest();
+        TellOnce::ForgetAll();
         // What ended the program may have left both open.
         basErrLog::ErrDismiss(QString());
         if (basMsgQueue::MsgQueue_IsOpen()) basMsgQueue::MsgQueue_Display();

@@ -44,11 +44,11 @@ public:
     QString SetQuotedString(const QString& sLine);
 
 private:
-    Picture LoadOrTell(const QString& sPath);
+    PictureOwner Owner() const { return {PictureOwner::Kind::Money, Index}; }
+    /// One of the kit's own pictures; null, told once, when it can't be read.
+    Picture LoadOrTell(const QString& sPath, TellOnce::Fault fault) const;
     bool PaintFace(Surface& form, QSize size);
     Picture FaceInOval(double dblDPI);
 
     std::array<QString, kTexts> m_sText;
-    /// The kit's own pictures that were told to be bad.
-    QStringList m_sTold;
 };

@@ -12,7 +12,6 @@
 #include "platform/pictures/PictureMask.h"
 #include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
-#include "services/basMsgQueue.h"
 #include "services/basPath.h"
 #include "services/Desktop.h"
 #include "services/Kit.h"
@@ -46,11 +45,10 @@ constexpr int kMaskDots = 4;
 
 const QString kNewLine = QStringLiteral("\r\n");
 
-void TellBadPicture(const QString& sPath, const QString& sError) {
-    basMsgQueue::MsgQueue_Post(QStringLiteral("Unable to process the bitmap named: ") + sPath + kNewLine +
-                                   QStringLiteral("The following error was reported: ") + sError + kNewLine +
-                                   QStringLiteral("The area will be left empty."),
-                               vbOKOnly);
+QString BadPictureText(const QString& sPath, const QString& sError) {
+    return QStringLiteral("Unable to process the bitmap named: ") + sPath + kNewLine +
+           QStringLiteral("The following error was reported: ") + sError + kNewLine +
+           QStringLiteral("The area will be left empty.");
 }
 
 /// One banknote on a surface: turns the places into its pixels.
@@ -97,15 +95,12 @@ QString CurrencyOval() {
 
 } // namespace
 
-Picture C_Money::LoadOrTell(const QString& sPath) {
+// Tells once for each picture, not at every key that is typed on the note.
+Picture C_Money::LoadOrTell(const QString& sPath, TellOnce::Fault fault) const {
     if (sPath.isEmpty()) return {};
     QString error;
     const Picture picture = LoadPicture(sPath, error);
-    // Once for each picture, not at every key that is typed on the note.
-    if (picture.IsNull() && !m_sTold.contains(sPath)) {
-        m_sTold.append(sPath);
-        TellBadPicture(sPath, error);
-    }
+    if (picture.IsNull()) TellOnce::About(Owner()).Tell(fault, sPath, BadPictureText(sPath, error), vbOKOnly);
     return picture;
 }
 
@@ -138,9 +133,10 @@ void C_Money::DrawMoney(Surface& objDest, double dblDPI, int xStart, int yStart,
     Note note(objDest, dblDPI, xStart, yStart);
     if (bIncludeImage) {
         note.Fill(BackColor);
-        const Picture blank = LoadOrTell(BackImage.FullPath());
+        const Picture blank = LoadOrTell(BackImage.FullPath(), TellOnce::Fault::Blank);
         if (!blank.IsNull()) note.Paint(blank, kPanel);
-        const Picture oval = FaceImage.FullPath().isEmpty() ? LoadOrTell(CurrencyOval()) : FaceInOval(dblDPI);
+        const bool withoutFace = FaceImage.FullPath().isEmpty();
+        const Picture oval = withoutFace ? LoadOrTell(CurrencyOval(), TellOnce::Fault::Oval) : FaceInOval(dblDPI);
         if (!oval.IsNull()) note.Paint(oval, kOval);
     }
     if (bIncludeDots) {

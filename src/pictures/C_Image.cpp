@@ -12,11 +12,11 @@
 #include "services/ProgramSettings.h"
 #include "services/RecordText.h"
 
-#include <QSet>
-
 #include <optional>
 
 namespace {
+
+using Fault = TellOnce::Fault;
 
 const QString kNewLine = QStringLiteral("\r\n");
 
@@ -24,12 +24,6 @@ const QString kNewLine = QStringLiteral("\r\n");
 QString PictureBase() {
     const QString& base = Settings().sRelativePictureBase;
     return base.isEmpty() ? basCommon::GetMyGamesDirectory() : base;
-}
-
-// The thumbnails that were told to be undeletable, and still are.
-QSet<QString>& ToldUndeleted() {
-    static QSet<QString> names;
-    return names;
 }
 
 // What follows the folder in the path; nothing when the path doesn't lie in it.
@@ -76,31 +70,33 @@ QString C_Image::ReportText() const {
 }
 
 void C_Image::Let_BadPath(const QString& sNewBadPath) try {
-    if (sNewBadPath == m_sBadPath) return;
-    // Init clears what was told right after it was told: without the second test one bad path would get two
-    // boxes.
-    const bool told = m_sBadPath == m_ref.sPath;
-    if (!m_ref.sPath.isEmpty() && !told) basMsgQueue::MsgQueue_Post(ReportText(), vbExclamation);
-    m_sBadPath = m_ref.sPath;
+    if (sNewBadPath == BadPath()) return;
+    // Init clears what was told right after it was told: without a second test one bad path would get two boxes.
+    TellBadPath(ReportText());
 } catch (...) {
     ErrTail("C_Image!", "Let_BadPath", sNewBadPath);
 }
 
 void C_Image::SetBadPath(const QString& sError) try {
-    if (m_ref.sPath == m_sBadPath) return;
-    if (!m_ref.sPath.isEmpty()) {
-        QString text = ReportText();
-        if (!sError.isEmpty())
-            text += kNewLine + kNewLine + QStringLiteral("The following error was reported") + kNewLine + sError;
-        basMsgQueue::MsgQueue_Post(text, vbExclamation);
-    }
-    m_sBadPath = m_ref.sPath;
+    QString text = ReportText();
+    if (!sError.isEmpty())
+        text += kNewLine + kNewLine + QStringLiteral("The following error was reported") + kNewLine + sError;
+    TellBadPath(text);
 } catch (...) {
     ErrTail("C_Image!", "SetBadPath", sError);
 }
 
+// No picture is nothing to tell of, and lets one that comes to stand here later be told.
+void C_Image::TellBadPath(const QString& sText) const {
+    if (m_ref.IsEmpty()) {
+        Told().Note(Fault::Picture, QString());
+    } else {
+        Told().Tell(Fault::Picture, m_ref.sPath, sText, vbExclamation);
+    }
+}
+
 void C_Image::TakeBadPath(const QString& sTold) {
-    if (sTold == m_ref.sPath) m_sBadPath = sTold;
+    if (sTold == m_ref.sPath) Told().Note(Fault::Picture, sTold);
 }
 
 void C_Image::Let_FullPath(const QString& sNewPath) try {
@@ -161,19 +157,15 @@ void C_Image::Let_Zoom(qint16 iZoom) try {
 }
 
 void C_Image::Init(const QString& sNewPath, const QString& sSpaceOrCorner, qint16 iIndex) try {
+    m_owner = {PictureOwner::KindOf(sSpaceOrCorner), iIndex};
     Let_FullPath(sNewPath);
     Let_BadPath(QString());
-    m_owner = {PictureOwner::KindOf(sSpaceOrCorner), iIndex};
 } catch (...) {
     ErrTail("C_Image!", "Init", sNewPath, sSpaceOrCorner, iIndex);
 }
 
 void C_Image::LoadFromObject(const C_Image& objMaster, bool bBadPathReport) try {
-    if (bBadPathReport) {
-        Let_BadPath(objMaster.m_sBadPath);
-    } else {
-        m_sBadPath = objMaster.m_sBadPath;
-    }
+    if (bBadPathReport) Let_BadPath(objMaster.BadPath());
     // The writers delete the thumbnail of the old owner: kind and number come last.
     Let_FullPath(objMaster.m_ref.sPath);
     Let_Zoom(objMaster.m_ref.iZoom);
@@ -223,16 +215,15 @@ void C_Image::KillThumb() {
     const QString name = Thumbname();
     QString error;
     if (Files::Remove(name, error)) {
-        ToldUndeleted().remove(name);
+        Told().Note(Fault::Deletion, QString());
         return;
     }
     DistrustThumbnail(name);
-    // Path, zoom and centre of a picture are set one by one, and each would tell of the same file.
-    if (ToldUndeleted().contains(name)) return;
-    ToldUndeleted().insert(name);
     const QString blank = kNewLine + kNewLine;
-    basMsgQueue::MsgQueue_Post(QStringLiteral("Unable to delete the file named: ") + name + blank +
-                                   QStringLiteral("This could cause the space or corner to be displayed incorrectly.") +
-                                   blank + QStringLiteral("The following error was reported:") + kNewLine + error,
-                               vbExclamation);
+    // Path, zoom and centre of a picture are set one by one, and each would tell of the same file.
+    Told().Tell(Fault::Deletion, name,
+                QStringLiteral("Unable to delete the file named: ") + name + blank +
+                    QStringLiteral("This could cause the space or corner to be displayed incorrectly.") + blank +
+                    QStringLiteral("The following error was reported:") + kNewLine + error,
+                vbExclamation);
 }

@@ -3,6 +3,7 @@
 
 #include "pictures/PictureOwner.h"
 #include "pictures/PictureRef.h"
+#include "pictures/TellOnce.h"
 #include "platform/paint/Color.h"
 #include "platform/paint/Picture.h"
 
@@ -64,6 +65,8 @@ public:
     float H = 0;
 
     const PictureOwner& Owner() const { return m_owner; }
+    /// What was told of the owner's pictures.
+    TellOnce& Told() const { return TellOnce::About(m_owner); }
     /// Kind of the owner: "Space", "Corner", "Money" or "Token"; empty for a free-standing image.
     QString SpaceOrCorner() const { return m_owner.KindName(); }
     void Let_SpaceOrCorner(const QString& sKind) { m_owner.kind = PictureOwner::KindOf(sKind); }
@@ -72,7 +75,7 @@ public:
     void Let_Index(qint16 iIndex) { m_owner.iNumber = iIndex; }
 
     /// The path last told to be bad.
-    QString BadPath() const { return m_sBadPath; }
+    QString BadPath() const { return Told().LastTold(TellOnce::Fault::Picture); }
     /// Tells that the current path is bad and remembers that. The argument only triggers the report: nothing
     /// happens when it is the path already remembered.
     void Let_BadPath(const QString& sNewBadPath);
@@ -173,9 +176,10 @@ private:
     int RenderingSide(Surface& picDest, double w, double h) const;
     void PaintThumbnailFile(Surface& picDest, const QString& sFile, double xStart, double yStart, double xEnd,
                             double yEnd);
+    void TellBadThumbnail(const QString& sFile, const QString& sText) const;
     bool PaintRendering(Surface& picDest, double xStart, double yStart, double xEnd, double yEnd);
-    static void TellMissing(const QString& sName);
-    static void TellLoadFailure(const QString& sName, const QString& sSystemText);
+    static QString MissingText(const QString& sName);
+    static QString LoadFailureText(const QString& sName, const QString& sSystemText);
     /// How large the longer side of the whole picture is drawn when the square shown fills a box of so many
     /// pixels.
     int LongerSideWanted(double boxPixels) const;
@@ -185,15 +189,11 @@ private:
     void PaintPart(Surface& objDest, const Picture& picture, double xStart, double yStart, double xEnd, double yEnd,
                    Color lBackColor) const;
     QString ReportText() const;
+    void TellBadPath(const QString& sText) const;
     void StoreCenter(qint16& iCenter, float fCenter);
     /// Deletes the thumbnail's file; a failure is told, once for each file, and passed over.
     void KillThumb();
 
     PictureRef m_ref;
     PictureOwner m_owner;
-    QString m_sBadPath;
-    /// The thumbnail last told to be bad: the picture itself may be good.
-    QString m_sBadThumb;
-    /// The metafile last told to be bad while it was drawn.
-    QString m_sBadMetafile;
 };

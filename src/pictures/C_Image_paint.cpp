@@ -19,10 +19,10 @@
 
 namespace {
 
+using Fault = TellOnce::Fault;
+
 const QString kNewLine = QStringLiteral("\r\n");
 const QString kEmptyArea = QStringLiteral("The area will be left empty.");
-
-void Tell(const QString& sText, int iStyle = vbOKOnly) { basMsgQueue::MsgQueue_Post(sText, iStyle); }
 
 // The copy of a line drawing in another colour; null when there can't be one.
 Picture Recolored(const QString& sPath, Color lBackColor) {
@@ -49,17 +49,15 @@ int LongerSide(Surface& surface, double width, double height) {
 
 } // namespace
 
-void C_Image::TellMissing(const QString& sName) {
-    Tell(QStringLiteral("The file named '") + sName + QStringLiteral("' was not found on the disk.") + kNewLine +
-             kEmptyArea,
-         vbExclamation);
+QString C_Image::MissingText(const QString& sName) {
+    return QStringLiteral("The file named '") + sName + QStringLiteral("' was not found on the disk.") + kNewLine +
+           kEmptyArea;
 }
 
-void C_Image::TellLoadFailure(const QString& sName, const QString& sSystemText) {
+QString C_Image::LoadFailureText(const QString& sName, const QString& sSystemText) {
     const QString gap = kNewLine + kNewLine;
-    Tell(QStringLiteral("The image named '") + sName + QStringLiteral("' could not be loaded.") + gap +
-             QStringLiteral("The following errror was reported:") + gap + sSystemText + gap + kEmptyArea,
-         vbExclamation);
+    return QStringLiteral("The image named '") + sName + QStringLiteral("' could not be loaded.") + gap +
+           QStringLiteral("The following errror was reported:") + gap + sSystemText + gap + kEmptyArea;
 }
 
 int C_Image::LongerSideWanted(double boxPixels) const {
@@ -88,19 +86,14 @@ FittedBox FittedBox::Of(const Picture& picture, double xStart, double yStart, do
 }
 
 Picture C_Image::LoadOrTell(int longerSideWanted) {
-    const bool told = m_sBadPath == m_ref.sPath;
-    if (!basCommon::DoesFileExist(m_ref.sPath)) {
-        if (!told) TellMissing(m_ref.sPath);
-        m_sBadPath = m_ref.sPath;
-        return {};
-    }
+    const auto tell = [this](const QString& sText) {
+        Told().Tell(Fault::Picture, m_ref.sPath, sText, vbExclamation);
+        return Picture();
+    };
+    if (!basCommon::DoesFileExist(m_ref.sPath)) return tell(MissingText(m_ref.sPath));
     QString error;
-    Picture picture = LoadPicture(m_ref.sPath, error, longerSideWanted);
-    if (picture.IsNull()) {
-        if (!told) TellLoadFailure(m_ref.sPath, error);
-        m_sBadPath = m_ref.sPath;
-    }
-    return picture;
+    const Picture picture = LoadPicture(m_ref.sPath, error, longerSideWanted);
+    return picture.IsNull() ? tell(LoadFailureText(m_ref.sPath, error)) : picture;
 }
 
 void C_Image::PaintPictureCentered(Surface& picDest, double xStart, double yStart, double xEnd, double yEnd,
@@ -132,7 +125,7 @@ bool C_Image::ReloadOrTell(PictureHolder& picOriginal, int longerSideWanted) con
     const QString sText = QStringLiteral("Unable to LoadPicture for file named '") + m_ref.sPath + u'\'' + kNewLine +
                           QStringLiteral("Area will be left blank. & vbcrlf & vbcrlf") +
                           QStringLiteral("The following error was reported: ") + error;
-    Tell(sText);
+    basMsgQueue::MsgQueue_Post(sText, vbOKOnly);
     basErrLog::ErrLogToFile(sText, true);
     return false;
 }
@@ -177,9 +170,9 @@ bool C_Image::PaintPictureZoomed(Surface& objDest, PictureHolder& picOriginal, S
 
 bool C_Image::DrawMetafile(DeviceContext& hDC, int x, int y, int w, int h) try {
     // One that was told before is tried all the same: it may be good by now.
-    QString vBadPath = m_sBadMetafile == m_ref.sPath ? m_sBadMetafile : m_sBadPath;
+    QString vBadPath = Told().WasTold(Fault::Metafile, m_ref.sPath) ? m_ref.sPath : BadPath();
     const bool played = basBMP::BMP_DrawWMF(hDC, m_ref.sPath, vBadPath, x, y, w, h);
-    m_sBadMetafile = played ? QString() : m_ref.sPath;
+    Told().Note(Fault::Metafile, played ? QString() : m_ref.sPath);
     return played;
 } catch (...) {
     ErrTail("C_Image!", "DrawMetafile", hDC, x, y, w, h);

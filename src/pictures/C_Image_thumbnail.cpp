@@ -5,7 +5,6 @@
 #include "platform/paint/Surface.h"
 #include "platform/pictures/LoadPicture.h"
 #include "services/basErrLog.h"
-#include "services/basMsgQueue.h"
 #include "services/basPath.h"
 #include "services/BoardFacts.h"
 #include "services/Desktop.h"
@@ -15,6 +14,8 @@
 #include <cmath>
 
 namespace {
+
+using Fault = TellOnce::Fault;
 
 const QString kNewLine = QStringLiteral("\r\n");
 constexpr int kThumbSide = 100;
@@ -98,12 +99,11 @@ bool C_Image::MakeThumbnail() try {
 QString C_Image::GetThumbnail(bool bGrayOnly) try {
     if (m_ref.sPath.isEmpty()) return {};
     if (!basCommon::DoesFileExist(m_ref.sPath)) {
-        if (m_sBadPath.compare(m_ref.sPath, Qt::CaseInsensitive) == 0) return {};
-        basMsgQueue::MsgQueue_Post(QStringLiteral("The file named '") + m_ref.sPath +
-                                       QStringLiteral("' was not found.") + kNewLine +
-                                       QStringLiteral("The image will not be drawn."),
-                                   vbOKOnly);
-        m_sBadPath = m_ref.sPath;
+        if (BadPath().compare(m_ref.sPath, Qt::CaseInsensitive) == 0) return {};
+        Told().Tell(Fault::Picture, m_ref.sPath,
+                    QStringLiteral("The file named '") + m_ref.sPath + QStringLiteral("' was not found.") + kNewLine +
+                        QStringLiteral("The image will not be drawn."),
+                    vbOKOnly);
         return m_ref.sPath;
     }
     const QString sThumb = Thumbname();
@@ -169,10 +169,8 @@ void C_Image::PaintThumbnail(Surface& picDest, double xStart, double yStart, dou
         fate ? basCommon::JoinPath(Folders::ProgramDirectory(), QString::fromLatin1(BoardFacts::kFatePicture))
              : Thumbname();
     if (!fate && (PaintRendering(picDest, xStart, yStart, xEnd, yEnd) || IsThumbnailRefused())) return;
-    const bool told = m_sBadPath == m_ref.sPath || m_sBadThumb == sFile;
     if (!basCommon::DoesFileExist(sFile)) {
-        if (!told) TellMissing(sFile);
-        m_sBadThumb = sFile;
+        TellBadThumbnail(sFile, MissingText(sFile));
         return;
     }
     PaintThumbnailFile(picDest, sFile, xStart, yStart, xEnd, yEnd);
@@ -180,17 +178,24 @@ void C_Image::PaintThumbnail(Surface& picDest, double xStart, double yStart, dou
     ErrTail("C_Image!", "PaintThumbnail", picDest, xStart, yStart, xEnd, yEnd);
 }
 
+// Nothing more is said where the picture itself was told to be bad.
+void C_Image::TellBadThumbnail(const QString& sFile, const QString& sText) const {
+    if (BadPath() == m_ref.sPath) {
+        Told().Note(Fault::Thumbnail, sFile);
+    } else {
+        Told().Tell(Fault::Thumbnail, sFile, sText, vbExclamation);
+    }
+}
+
 void C_Image::PaintThumbnailFile(Surface& picDest, const QString& sFile, double xStart, double yStart, double xEnd,
                                  double yEnd) {
-    const bool told = m_sBadPath == m_ref.sPath || m_sBadThumb == sFile;
     QString error;
     const Picture picture = LoadPicture(sFile, error);
     if (picture.IsNull()) {
-        if (!told) TellLoadFailure(sFile, error);
-        m_sBadThumb = sFile;
+        TellBadThumbnail(sFile, LoadFailureText(sFile, error));
         return;
     }
-    m_sBadThumb.clear();
+    Told().Note(Fault::Thumbnail, QString());
     const FittedBox box = FittedBox::Of(picture, xStart, yStart, xEnd, yEnd);
     picDest.PaintPicture(picture, box.left, box.top, box.width, box.height, RasterOp::SourceCopy);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "support/TestFixture.h"
 
+#include "pictures/TellOnce.h"
 #include "platform/files/Files.h"
 #include "platform/files/Folders.h"
 #include "services/ProgramSettings.h"
@@ -15,6 +16,7 @@ TavloraTest::TavloraTest() {
 }
 
 TavloraTest::~TavloraTest() {
+    TellOnce::ForgetAll();
     Files::SetFaultHook({});
     Folders::SetProgramDirectory({});
     Settings() = ProgramSettings{};
