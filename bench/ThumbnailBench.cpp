@@ -6,6 +6,7 @@
 #include "PeakMemory.h"
 
 #include "pictures/C_Image.h"
+#include "pictures/ThumbnailStore.h"
 #include "pieces/frmBMP.h"
 #include "platform/pictures/LoadPicture.h"
 
@@ -36,8 +37,7 @@ void OneThumbnail(benchmark::State& state, const QString& sPhoto) {
     for (auto step : state) {
         state.PauseTiming();
         ForgetPictures();
-        image.Let_Zoom(1);
-        image.Let_Zoom(0); // deletes the thumbnail
+        ThumbnailStore::Instance().ForgetAll();
         state.ResumeTiming();
         benchmark::DoNotOptimize(image.GetThumbnail(false));
     }
@@ -53,14 +53,11 @@ void WholeBoard(benchmark::State& state) {
     for (auto step : state) {
         state.PauseTiming();
         ForgetPictures();
-        for (C_Image& image : images) {
-            image.Let_Zoom(1);
-            image.Let_Zoom(0);
-        }
+        ThumbnailStore::Instance().ForgetAll();
         state.ResumeTiming();
         for (const C_Image& image : images)
-            image.PrepareThumbnail();
-        for (C_Image& image : images)
+            ThumbnailStore::Instance().Prefetch(image.Owned());
+        for (const C_Image& image : images)
             benchmark::DoNotOptimize(image.GetThumbnail(false));
     }
     state.counters["PeakMB"] = PeakMegabytes() - IdleMegabytes();

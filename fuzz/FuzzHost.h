@@ -4,8 +4,9 @@
 #include "document/basTAVL.h"
 #include "drawing/basDraw.h"
 #include "game/Session.h"
-#include "pictures/C_Image.h"
+#include "pictures/PictureMiddle.h"
 #include "pictures/TellOnce.h"
+#include "pictures/ThumbnailStore.h"
 #include "platform/files/Console.h"
 #include "platform/files/Files.h"
 #include "platform/files/Folders.h"
@@ -24,15 +25,15 @@ public:
         static EmptyThumbnails maker;
         return maker;
     }
-    void CreateThumbRotatedTo90(C_Image& objImage) override { Make(objImage); }
-    void CreateThumbRotatedTo45(C_Image& objImage) override { Make(objImage); }
-    void CreateThumbElliptical(C_Image& objImage, bool) override { Make(objImage); }
-    Picture RenderRotated(C_Image&, int) override { return {}; }
+    void CreateThumbRotatedTo90(const OwnedPicture& objImage) override { Make(objImage); }
+    void CreateThumbRotatedTo45(const OwnedPicture& objImage) override { Make(objImage); }
+    void CreateThumbElliptical(const OwnedPicture& objImage, bool) override { Make(objImage); }
+    Picture RenderRotated(const OwnedPicture&, int) override { return {}; }
 
 private:
-    static void Make(const C_Image& objImage) {
+    static void Make(const OwnedPicture& objImage) {
         QString error;
-        Files::WriteWhole(objImage.Thumbname(), QByteArray(), error);
+        Files::WriteWhole(ThumbnailStore::PathOf(objImage.owner), QByteArray(), error);
     }
 };
 
@@ -58,6 +59,8 @@ public:
     void Reset() {
         basTAVL::ResetForTest();
         TellOnce::ForgetAll();
+        PictureMiddle::ForgetAll();
+        ThumbnailStore::Instance().ForgetAll();
         // What ended the program may have left both open.
         basErrLog::ErrDismiss(QString());
         if (basMsgQueue::MsgQueue_IsOpen()) basMsgQueue::MsgQueue_Display();

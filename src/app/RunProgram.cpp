@@ -5,6 +5,7 @@
 #include "app/frmTAVL.h"
 #include "app/MainLayout.h"
 #include "board/basPositTables.h"
+#include "pictures/PicturePlaces.h"
 #include "pieces/frmBMP.h"
 #include "platform/files/Folders.h"
 #include "platform/paint/Units.h"
@@ -44,7 +45,7 @@ void PrefetchOwnPictures() {
     for (const char* name : {"tavlora.png", "toolbar.dat"})
         PrefetchPicture(OwnFile(name));
     const double corner = double(basPosit::kFateImage) * RoughBoardSide() * Screen::PixelRatio();
-    PrefetchPicture(OwnFile(BoardFacts::kFatePicture), CLng(corner));
+    PrefetchPicture(PicturePlaces::Fate(), CLng(corner));
 }
 
 } // namespace

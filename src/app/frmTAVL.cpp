@@ -345,7 +345,7 @@ void frmTAVL::EditMoney() try { ChangedByEditor(m_doors.EditMoney(*this), false)
 
 void frmTAVL::EditToken() try {
     ChangedByEditor(m_doors.ShowTokens(*this), false);
-    // The editor may have made thumbnails of a token that it then put back.
+    // Unlike those of the board, nothing that is painted asks for them.
     for (int i = 0; i < basTAVL::kTokens; ++i)
         basTAVL::g_oTokens(i).Image.GetThumbnail(false);
 } catch (...) {

@@ -5,11 +5,13 @@
 #include "board/basPositPaint_state.h"
 #include "document/basTAVL.h"
 #include "drawing/basDraw.h"
+#include "pictures/BoardThumbnail.h"
+#include "pictures/PicturePlaces.h"
+#include "pictures/ThumbnailStore.h"
 #include "platform/files/Folders.h"
 #include "platform/paint/Surface.h"
 #include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
-#include "services/basPath.h"
 
 #include <QRect>
 
@@ -52,10 +54,11 @@ QRect BoxOf(const C_Image& image) {
 }
 
 // The thumbnails are made for their side of the board, so nothing is turned here.
-void Paste(C_Image& image, int iPlace) {
+void Paste(const C_Image& image, int iPlace) {
     if (image.FullPath().isEmpty()) {
         // A picture that comes to stand here later may be told to be bad again.
         image.Let_BadPath(QString());
+        ThumbnailStore::Instance().DropUnused(image.Owner());
         return;
     }
     Destination& module = Module();
@@ -63,14 +66,13 @@ void Paste(C_Image& image, int iPlace) {
     const QRect box = BoxOf(image);
     if (module.shown == PicturesShown::All) {
         image.DrawBitmapToScreen(*module.picBoard, box.x(), box.y(), box.width(), box.height());
-    } else if (Clock::now() > module.until ||
-               !image.DrawWhatIsReady(*module.picBoard, box.x(), box.y(), box.width(), box.height())) {
+    } else if (Clock::now() > module.until || !DrawWhatIsReady(image.Owned(), *module.picBoard, QRectF(box))) {
         module.awaited.push_back(iPlace);
     }
 }
 
 void PasteFate(C_Image& image) {
-    image.Let_FullPath(basCommon::JoinPath(Folders::ProgramDirectory(), QString::fromLatin1(BoardFacts::kFatePicture)));
+    image.Let_FullPath(PicturePlaces::Fate());
     if (!Module().picBoard) return;
     const QRect box = BoxOf(image);
     image.PaintPictureCentered(*Module().picBoard, box.x(), box.y(), box.x() + box.width(), box.y() + box.height(),
@@ -93,7 +95,7 @@ void StartPictures() {
     if (!module.picBoard || module.shown == PicturesShown::Ready) return;
     const auto prepare = [&module](const C_Image& image) {
         const QRect box = BoxOf(image);
-        image.PrepareForScreen(*module.picBoard, box.width(), box.height());
+        PrepareForScreen(image.Owned(), *module.picBoard, box.width(), box.height());
     };
     for (int iSpace = 0; iSpace < kSpacesOnBoard; ++iSpace) {
         if (!BoardFacts::IsLotto(iSpace)) prepare(basTAVL::g_oSpaces(iSpace).Image);

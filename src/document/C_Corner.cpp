@@ -59,7 +59,7 @@ void C_Corner::LoadFromObject(const C_Corner& objSource) try {
     m_fTextSize0 = objSource.m_fTextSize0;
     m_fTextSize1 = objSource.m_fTextSize1;
     Font.LoadFromObject(objSource.Font);
-    ReplaceImage(Image, objSource.Image);
+    Image = objSource.Image;
 } catch (...) {
     ErrTail("C_Corner!", "LoadFromObject", objSource.Index);
 }
@@ -77,9 +77,8 @@ QString C_Corner::SetQuotedString(const QString& sLine) try {
     const QString sCorner = basTAVL::GetQuotedField(rest);
     const QString text0 = basTAVL::GetQuotedField(rest);
     const QString text1 = basTAVL::GetQuotedField(rest);
-    Image.Let_SpaceOrCorner(QStringLiteral("Corner"));
     Index = IndexFromField(QStringLiteral("sCorner"), sCorner);
-    rest = Image.SetQuotedString(rest, Image.SpaceOrCorner(), Index);
+    rest = Image.SetQuotedString(rest, QStringLiteral("Corner"), Index);
     rest = Font.SetQuotedString(rest);
     SetText(0, text0);
     SetText(1, text1);

@@ -3,6 +3,7 @@
 
 #include "pictures/C_Image.h"
 #include "platform/paint/Color.h"
+#include "platform/paint/Picture.h"
 
 #include <array>
 
@@ -30,7 +31,7 @@ public:
     /// image flag its colour, the blank and the oval; with the text flag both texts; with the dots flag its
     /// two outlines, dashed in its own colour.
     void DrawMoney(Surface& objDest, double dblDPI, int xStart, int yStart, bool bIncludeImage, bool bIncludeText,
-                   bool bIncludeDots);
+                   bool bIncludeDots) const;
 
     /// Whether a family would call both equal: compares what a game file holds. IsDifferentFrom looks at the
     /// kit's blank and colour, too.
@@ -47,8 +48,8 @@ private:
     PictureOwner Owner() const { return {PictureOwner::Kind::Money, Index}; }
     /// One of the kit's own pictures; null, told once, when it can't be read.
     Picture LoadOrTell(const QString& sPath, TellOnce::Fault fault) const;
-    bool PaintFace(Surface& form, QSize size);
-    Picture FaceInOval(double dblDPI);
+    bool PaintFace(Surface& form, QSize size) const;
+    Picture FaceInOval(double dblDPI) const;
 
     std::array<QString, kTexts> m_sText;
 };

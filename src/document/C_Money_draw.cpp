@@ -5,6 +5,7 @@
 #include "drawing/basDraw.h"
 #include "drawing/clsBMP.h"
 #include "drawing/DrawDottedBox.h"
+#include "pictures/PaintPicture.h"
 #include "platform/files/Folders.h"
 #include "platform/paint/Surface.h"
 #include "platform/pictures/LoadPicture.h"
@@ -45,7 +46,7 @@ constexpr int kMaskDots = 4;
 
 const QString kNewLine = QStringLiteral("\r\n");
 
-QString BadPictureText(const QString& sPath, const QString& sError) {
+QString BadBitmapText(const QString& sPath, const QString& sError) {
     return QStringLiteral("Unable to process the bitmap named: ") + sPath + kNewLine +
            QStringLiteral("The following error was reported: ") + sError + kNewLine +
            QStringLiteral("The area will be left empty.");
@@ -100,21 +101,22 @@ Picture C_Money::LoadOrTell(const QString& sPath, TellOnce::Fault fault) const {
     if (sPath.isEmpty()) return {};
     QString error;
     const Picture picture = LoadPicture(sPath, error);
-    if (picture.IsNull()) TellOnce::About(Owner()).Tell(fault, sPath, BadPictureText(sPath, error), vbOKOnly);
+    if (picture.IsNull()) TellOnce::About(Owner()).Tell(fault, sPath, BadBitmapText(sPath, error), vbOKOnly);
     return picture;
 }
 
 // Fills the box of the oval, as the thumbnail does.
-bool C_Money::PaintFace(Surface& form, QSize size) {
-    if (FaceImage.IsWMF()) return FaceImage.DrawMetafile(form.hDC(), 0, 0, size.width(), size.height());
+bool C_Money::PaintFace(Surface& form, QSize size) const {
+    const PictureRef& face = FaceImage.Ref();
+    if (face.IsMetafile()) return DrawMetafile(face, FaceImage.Told(), form.hDC(), QRect(QPoint(), size));
     if (FaceImage.GetThumbnail(false).isEmpty()) return false;
     PictureHolder original;
-    return FaceImage.PaintPictureZoomed(form, original, ScaleModeKind::Pixels, 0, 0, size.width(), size.height(),
-                                        Color::None());
+    return PaintZoomed(face, FaceImage.Told(), form, original, ScaleModeKind::Pixels, QRectF(QPointF(), size),
+                       Color::None());
 }
 
 // The user's picture as it shows in the oval; null, after the image has told why, when it can't be had.
-Picture C_Money::FaceInOval(double dblDPI) {
+Picture C_Money::FaceInOval(double dblDPI) const {
     const double dpi = std::max(dblDPI, kPhotoDpi);
     const QSize size(CLng(kOval.width * dpi), CLng(kOval.height * dpi));
     ScratchForm form(size);
@@ -129,7 +131,7 @@ Picture C_Money::FaceInOval(double dblDPI) {
 }
 
 void C_Money::DrawMoney(Surface& objDest, double dblDPI, int xStart, int yStart, bool bIncludeImage, bool bIncludeText,
-                        bool bIncludeDots) try {
+                        bool bIncludeDots) const try {
     Note note(objDest, dblDPI, xStart, yStart);
     if (bIncludeImage) {
         note.Fill(BackColor);

@@ -59,7 +59,7 @@ void C_Space::LoadFromObject(const C_Space& objSource) try {
     SpaceColor = objSource.SpaceColor;
     IsShowing = objSource.IsShowing;
     Font.LoadFromObject(objSource.Font);
-    ReplaceImage(Image, objSource.Image);
+    Image = objSource.Image;
 } catch (...) {
     ErrTail("C_Space!", "LoadFromObject", objSource.Index);
 }
@@ -75,10 +75,9 @@ QString C_Space::SetQuotedString(const QString& sLine) try {
     QString rest = sLine;
     const QString sSpace = basTAVL::GetQuotedField(rest);
     QString text = basTAVL::GetQuotedField(rest);
-    Image.Let_SpaceOrCorner(QStringLiteral("Space"));
     Index = IndexFromField(QStringLiteral("sSpace"), sSpace);
     if (text.isEmpty()) text = kNotFilledIn;
-    rest = Image.SetQuotedString(rest, Image.SpaceOrCorner(), Index);
+    rest = Image.SetQuotedString(rest, QStringLiteral("Space"), Index);
     rest = Font.SetQuotedString(rest);
     SetText(text);
     return rest;

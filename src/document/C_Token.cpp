@@ -69,7 +69,7 @@ void C_Token::LoadFromObject(const C_Token& objSource) try {
     m_fTextSize = objSource.m_fTextSize;
     BackColor = objSource.BackColor;
     Font.LoadFromObject(objSource.Font);
-    ReplaceImage(Image, objSource.Image);
+    Image = objSource.Image;
 } catch (...) {
     ErrTail("C_Token!", "LoadFromObject", objSource.Index);
 }
@@ -87,9 +87,8 @@ QString C_Token::SetQuotedString(const QString& sLine) try {
     const QString sSpace = basTAVL::GetQuotedField(rest);
     QString text = basTAVL::GetQuotedField(rest);
     if (text == kNotFilledIn) text.clear();
-    Image.Let_SpaceOrCorner(QStringLiteral("Token"));
     Index = IndexFromField(QStringLiteral("sSpace"), sSpace);
-    rest = Image.SetQuotedString(rest, Image.SpaceOrCorner(), Index);
+    rest = Image.SetQuotedString(rest, QStringLiteral("Token"), Index);
     const bool withoutFont = rest.trimmed().isEmpty();
     rest = Font.SetQuotedString(rest);
     if (withoutFont) Font.Size = kSizeWithoutFont;

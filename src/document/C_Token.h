@@ -56,7 +56,7 @@ public:
     void Redraw(int xStart, int yStart, int xEnd, int yEnd, bool bWithSelection, Surface& picDest,
                 PictureHolder& picScratch, const TextSelection& selection, Color lBackColor);
     /// The picture alone, cut round, in the box's pixels. False, after it was told, for a bad one.
-    bool PaintImage(Surface& picDest, PictureHolder& picScratch, int xStart, int yStart, int xEnd, int yEnd);
+    bool PaintImage(Surface& picDest, PictureHolder& picScratch, int xStart, int yStart, int xEnd, int yEnd) const;
     /// The lines alone, on the drawing layer's current context.
     void DrawText(int xStart, int yStart, int xEnd, int yEnd, bool bWithSelection, const TextSelection& selection);
 

@@ -3,6 +3,7 @@
 
 #include "drawing/basBMP.h"
 #include "drawing/basDraw.h"
+#include "pictures/PaintPicture.h"
 #include "platform/paint/ClipScope.h"
 #include "platform/paint/Surface.h"
 #include "platform/pictures/PictureHolder.h"
@@ -67,16 +68,18 @@ void FillCircle(DeviceContext& context, int xStart, int yStart, int xEnd, int yE
 
 } // namespace
 
-bool C_Token::PaintImage(Surface& picDest, PictureHolder& picScratch, int xStart, int yStart, int xEnd, int yEnd) {
+bool C_Token::PaintImage(Surface& picDest, PictureHolder& picScratch, int xStart, int yStart, int xEnd,
+                         int yEnd) const {
     if (!Image.IsWMF()) {
         const ClipScope round = InCircle(picDest.hDC(), xStart, yStart, xEnd, yEnd);
-        return Image.PaintPictureZoomed(picDest, picScratch, ScaleModeKind::Pixels, xStart, yStart, xEnd, yEnd,
-                                        Color::None());
+        const QRectF box(QPointF(xStart, yStart), QPointF(xEnd, yEnd));
+        return PaintZoomed(Image.Ref(), Image.Told(), picDest, picScratch, ScaleModeKind::Pixels, box, Color::None());
     }
     const int w = xEnd - xStart;
     const int h = yEnd - yStart;
-    return Image.DrawMetafile(picDest.hDC(), CLng(kBeside * w / 2 + xStart), CLng(kBeside * h / 2 + yStart),
-                              CLng(kInscribed * w), CLng(kInscribed * h));
+    const QRect inner(CLng(kBeside * w / 2 + xStart), CLng(kBeside * h / 2 + yStart), CLng(kInscribed * w),
+                      CLng(kInscribed * h));
+    return DrawMetafile(Image.Ref(), Image.Told(), picDest.hDC(), inner);
 }
 
 /// How the lines stand in a token's box.

@@ -21,10 +21,3 @@ bool ShowTheSame(const C_Image& a, const C_Image& b) {
     return a.FullPath() == b.FullPath() && a.Zoom() == b.Zoom() && a.XCenter() == b.XCenter() &&
            a.YCenter() == b.YCenter();
 }
-
-void ReplaceImage(C_Image& image, const C_Image& objSource) {
-    if (!image.IsDifferentFrom(objSource)) return;
-    C_Image fresh;
-    fresh.LoadFromObject(objSource, false);
-    image = fresh;
-}

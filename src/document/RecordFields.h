@@ -19,7 +19,3 @@ float CappedTextSize(const C_FontInfo& font, float fTextSize);
 
 /// Whether both show the same part of the same picture, whoever owns them.
 bool ShowTheSame(const C_Image& a, const C_Image& b);
-
-/// Puts a new object with the other image's content in place of one that differs. A new object has no owner
-/// while it is loaded, so the thumbnail that the editor's copy has just made isn't deleted.
-void ReplaceImage(C_Image& image, const C_Image& objSource);

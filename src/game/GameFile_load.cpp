@@ -99,7 +99,7 @@ bool GameReader::ReadRecord(Record& record, const QString& sDuring) {
 }
 
 // A picture that can't be made small is told by its image, or lies in the log; the game loads all the same.
-void FetchThumbnail(C_Image& image) {
+void FetchThumbnail(const C_Image& image) {
     try {
         image.GetThumbnail(false);
     } catch (const TavloraError& error) {

@@ -3,6 +3,7 @@
 
 #include "document/basTAVL.h"
 #include "kit/LabelSheet.h"
+#include "pictures/PaintPicture.h"
 #include "pieces/frmBMP.h"
 #include "pieces/MadePicture.h"
 #include "pieces/StickersUsingBMP.h"
@@ -64,7 +65,7 @@ constexpr CornerPiece kCornerPieces[] = {
 // as the sticker.
 void PreparePictures(SheetJob& job, clsRenderDestination& sheet, int iSide, bool bCorners) {
     const auto prepare = [&](const C_Image& image, basTAVL::LabelSize labelSize) {
-        image.PrepareForPaper(job.printer, basTAVL::g_dblLabelSizes(labelSize) / 2 * sheet.DPI());
+        PrefetchForPaper(image.Ref(), job.printer, basTAVL::g_dblLabelSizes(labelSize) / 2 * sheet.DPI());
     };
     for (int iPlace = 0; iPlace < kRows * kColumns; ++iPlace) {
         const int iSpace = GetSpaceFromArrayCoordinates(iSide, iPlace / kColumns, iPlace % kColumns);

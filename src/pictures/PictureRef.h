@@ -17,5 +17,7 @@ struct PictureRef {
     friend bool operator==(const PictureRef&, const PictureRef&) = default;
 
     bool IsEmpty() const { return sPath.isEmpty(); }
+    /// Told by the ending of the name.
+    bool IsMetafile() const { return sPath.endsWith(QStringLiteral(".wmf"), Qt::CaseInsensitive); }
     bool IsCentered() const { return iXCenter != 0 || iYCenter != 0; }
 };

@@ -4,12 +4,14 @@
 #include "document/basTAVL.h"
 #include "drawing/basBMP.h"
 #include "drawing/clsBMP.h"
+#include "pictures/PaintPicture.h"
 #include "pieces/frmBMP_turning.h"
 #include "platform/files/BinaryFile.h"
 #include "platform/files/Files.h"
 #include "platform/paint/Surface.h"
 #include "services/basErrLog.h"
 #include "services/basPath.h"
+#include "services/Desktop.h"
 #include "services/FileRefused.h"
 
 #include <algorithm>
@@ -41,6 +43,13 @@ void ReplaceWhite(QImage& image, QRgb by) {
     }
 }
 
+bool IsThereOrTold(const OwnedPicture& oImage) {
+    const QString& path = oImage.ref.sPath;
+    if (basCommon::DoesFileExist(path)) return true;
+    oImage.Told().Tell(TellOnce::Fault::Picture, path, InvalidPictureText(path), vbExclamation);
+    return false;
+}
+
 QRgb AsRgb(Color color) { return qRgb(color.Red(), color.Green(), color.Blue()); }
 
 } // namespace
@@ -54,87 +63,75 @@ void frmBMP::InstallAsThumbnailMaker() {
     ThumbnailMaker::Install([]() -> ThumbnailMaker& { return Instance(); });
 }
 
-QImage frmBMP::Drawn(C_Image& oImage, QSize size, Color backColor) {
+QImage frmBMP::Drawn(const OwnedPicture& oImage, QSize size, Color backColor) {
     ScratchForm form(size);
     form.SetBackColor(backColor);
-    if (oImage.IsWMF()) {
-        oImage.DrawMetafile(form.hDC(), 0, 0, size.width(), size.height());
+    if (oImage.ref.IsMetafile()) {
+        DrawMetafile(oImage.ref, oImage.Told(), form.hDC(), QRect(QPoint(), size));
         return form.Image();
     }
-    oImage.PaintPictureZoomed(form, picOriginal, ScaleModeKind::Pixels, 0, 0, size.width(), size.height(),
-                              Color::None());
+    PaintZoomed(oImage.ref, oImage.Told(), form, picOriginal, ScaleModeKind::Pixels, QRectF(QPointF(), size),
+                Color::None());
     picOriginal.Picture = Picture();
     return form.Image();
 }
 
-QImage frmBMP::DrawnSquare(C_Image& oImage, int lSide) {
+QImage frmBMP::DrawnSquare(const OwnedPicture& oImage, int lSide) {
     QImage square = Drawn(oImage, QSize(lSide, lSide), basTAVL::g_lMagicColor());
-    if (basBMP::IsMonochromeBMP(oImage.FullPath())) ReplaceWhite(square, AsRgb(basTAVL::g_lMagicColor()));
+    if (basBMP::IsMonochromeBMP(oImage.ref.sPath)) ReplaceWhite(square, AsRgb(basTAVL::g_lMagicColor()));
     return square;
 }
 
-QImage frmBMP::Rotated(C_Image& oImage, int lSide) {
-    const int orient = oImage.Orient();
+QImage frmBMP::Rotated(const OwnedPicture& oImage, int lSide) {
+    const int orient = oImage.owner.Orient();
     const QImage square = DrawnSquare(oImage, lSide);
     return orient < kFirstCornerOrient
                ? Turning::ForSide(square, orient)
                : Turning::ForCorner(square, orient - kFirstCornerOrient, basTAVL::g_lMagicColor());
 }
 
-void frmBMP::CreateThumbRotatedTo90(C_Image& oImage) try {
-    if (!basCommon::DoesFileExist(oImage.FullPath())) {
-        oImage.Let_BadPath(oImage.FullPath());
-        return;
-    }
-    const QImage square = DrawnSquare(oImage, kRotatedSide);
-    DeleteThumb(oImage.Thumbname());
-    WriteThumb(oImage.Thumbname(), Turning::ForSide(square, oImage.Orient()));
+void frmBMP::CreateThumbRotatedTo90(const OwnedPicture& oImage) try {
+    if (!IsThereOrTold(oImage)) return;
+    const QImage square = DrawnSquare(oImage, ThumbnailStore::LongerSideOf(oImage.owner.kind));
+    DeleteThumb(ThumbnailStore::PathOf(oImage.owner));
+    WriteThumb(ThumbnailStore::PathOf(oImage.owner), Turning::ForSide(square, oImage.owner.Orient()));
 } catch (...) {
     ErrTail("frmBMP!", "CreateThumbRotatedTo90", oImage);
 }
 
-void frmBMP::CreateThumbRotatedTo45(C_Image& oImage) try {
-    if (!basCommon::DoesFileExist(oImage.FullPath())) {
-        oImage.Let_BadPath(oImage.FullPath());
-        return;
-    }
-    const QImage square = DrawnSquare(oImage, kRotatedSide);
-    DeleteThumb(oImage.Thumbname());
-    WriteThumb(oImage.Thumbname(),
-               Turning::ForCorner(square, oImage.Orient() - kFirstCornerOrient, basTAVL::g_lMagicColor()));
+void frmBMP::CreateThumbRotatedTo45(const OwnedPicture& oImage) try {
+    if (!IsThereOrTold(oImage)) return;
+    const QImage square = DrawnSquare(oImage, ThumbnailStore::LongerSideOf(oImage.owner.kind));
+    DeleteThumb(ThumbnailStore::PathOf(oImage.owner));
+    WriteThumb(ThumbnailStore::PathOf(oImage.owner),
+               Turning::ForCorner(square, oImage.owner.Orient() - kFirstCornerOrient, basTAVL::g_lMagicColor()));
 } catch (...) {
     ErrTail("frmBMP!", "CreateThumbRotatedTo45", oImage);
 }
 
-void frmBMP::CreateThumbElliptical(C_Image& oImage, bool bGray) try {
-    if (!basCommon::DoesFileExist(oImage.FullPath())) {
-        oImage.Let_BadPath(oImage.FullPath());
-        return;
-    }
-    const bool money = oImage.Owner().kind == PictureOwner::Kind::Money;
-    const Color back = money ? basTAVL::g_oMoney(oImage.Index()).BackColor : basTAVL::g_lMagicColor();
-    const QImage drawn = Drawn(oImage, money ? kMoneySize : QSize(kTokenSide, kTokenSide), back);
-    DeleteThumb(oImage.Thumbname());
-    WriteThumb(oImage.Thumbname(), clsBMP::CutElliptical(drawn, bGray));
+void frmBMP::CreateThumbElliptical(const OwnedPicture& oImage, bool bGray) try {
+    if (!IsThereOrTold(oImage)) return;
+    const PictureOwner& owner = oImage.owner;
+    const bool money = owner.kind == PictureOwner::Kind::Money;
+    const Color back = money ? basTAVL::g_oMoney(owner.iNumber).BackColor : basTAVL::g_lMagicColor();
+    const QImage drawn = Drawn(oImage, ThumbnailStore::SizeOf(owner.kind), back);
+    DeleteThumb(ThumbnailStore::PathOf(oImage.owner));
+    WriteThumb(ThumbnailStore::PathOf(oImage.owner), clsBMP::CutElliptical(drawn, bGray));
 } catch (...) {
     ErrTail("frmBMP!", "CreateThumbElliptical", bGray);
 }
 
-Picture frmBMP::RenderRotated(C_Image& oImage, int lSide) {
-    const Files::Stamp stamp = Files::StampOf(Files::InDiskSpelling(oImage.FullPath()));
+Picture frmBMP::RenderRotated(const OwnedPicture& oImage, int lSide) {
+    const Files::Stamp stamp = Files::StampOf(Files::InDiskSpelling(oImage.ref.sPath));
     if (stamp == Files::Stamp()) return {};
-    const auto look = [&oImage, lSide] {
-        return std::array<int, 5>{oImage.Zoom(), int(oImage.XCenter()), int(oImage.YCenter()), oImage.Orient(), lSide};
-    };
     const auto kept = std::find_if(m_renderings.begin(), m_renderings.end(), [&](const Rendering& rendering) {
-        return rendering.sPath == oImage.FullPath() && rendering.stamp == stamp && rendering.look == look();
+        return rendering.picture == oImage.ref && rendering.stamp == stamp &&
+               rendering.iOrient == oImage.owner.Orient() && rendering.image.width() == lSide;
     });
     if (kept != m_renderings.end()) {
         m_renderings.splice(m_renderings.begin(), m_renderings, kept);
     } else {
-        const QImage image = Rotated(oImage, lSide);
-        // Painting may have centred the picture: the look is that of afterwards.
-        m_renderings.push_front({oImage.FullPath(), stamp, look(), image});
+        m_renderings.push_front({oImage.ref, stamp, oImage.owner.Orient(), Rotated(oImage, lSide)});
         DropOldRenderings();
     }
     return Picture(m_renderings.front().image);

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "pictures/C_Image.h"
+#include "pictures/ThumbnailStore.h"
 #include "platform/files/Files.h"
 #include "platform/pictures/PictureHolder.h"
 
-#include <array>
 #include <functional>
 #include <list>
 
@@ -16,23 +15,19 @@ class Surface;
 /// pastes. Main thread only.
 class frmBMP : public ThumbnailMaker {
 public:
-    static constexpr int kRotatedSide = 100;
-    static constexpr int kTokenSide = 200;
-    static constexpr QSize kMoneySize{164, 190};
-
     /// Created at the first call and kept for the run.
     static frmBMP& Instance();
     /// From now on images have their thumbnails made here.
     static void InstallAsThumbnailMaker();
 
     /// 100 by 100 pixels, turned to the image's side of the board.
-    void CreateThumbRotatedTo90(C_Image& oImage) override;
+    void CreateThumbRotatedTo90(const OwnedPicture& oImage) override;
     /// 100 by 100 pixels, a diamond turned to the image's corner of the board.
-    void CreateThumbRotatedTo45(C_Image& oImage) override;
+    void CreateThumbRotatedTo45(const OwnedPicture& oImage) override;
     /// An ellipse on white: 164 by 190 pixels for money, 200 by 200 for the rest. In greys with bGray.
-    void CreateThumbElliptical(C_Image& oImage, bool bGray) override;
+    void CreateThumbElliptical(const OwnedPicture& oImage, bool bGray) override;
 
-    Picture RenderRotated(C_Image& oImage, int lSide) override;
+    Picture RenderRotated(const OwnedPicture& oImage, int lSide) override;
 
     // Pictures of pieces, each drawn as large as a hidden surface may be and written as a 24-bit bitmap file.
     // Sizes are inches. True when the file was written. A picture loaded from such a file in this run prints
@@ -66,9 +61,9 @@ public:
 private:
     /// A rotated rendering kept in memory, so that a board that is painted again isn't turned again.
     struct Rendering {
-        QString sPath;
+        PictureRef picture;
         Files::Stamp stamp;
-        std::array<int, 5> look; ///< Zoom, centre, orientation and side.
+        int iOrient;
         QImage image;
     };
     using DrawPiece = std::function<void(Surface&)>;
@@ -76,9 +71,9 @@ private:
     /// dblDPI of the picture's pixels make an inch of the piece.
     static bool WritePiece(const QString& sFullPathDest, QSize size, double dblDPI, const DrawPiece& draw);
 
-    QImage Drawn(C_Image& oImage, QSize size, Color backColor);
-    QImage DrawnSquare(C_Image& oImage, int lSide);
-    QImage Rotated(C_Image& oImage, int lSide);
+    QImage Drawn(const OwnedPicture& oImage, QSize size, Color backColor);
+    QImage DrawnSquare(const OwnedPicture& oImage, int lSide);
+    QImage Rotated(const OwnedPicture& oImage, int lSide);
     void DropOldRenderings();
     static void DeleteThumb(const QString& sThumb);
     static void WriteFileHead(BinaryFile& file, int lWidth, int lHeight);

@@ -93,7 +93,7 @@ private:
     };
 
     int Pixels(double dblInches) const;
-    void StickerImage(C_Image& oImage, int lLeft, int lTop, int lSide);
+    void StickerImage(const C_Image& oImage, int lLeft, int lTop, int lSide);
     void StickerText(const QStringList& saLines, const C_FontInfo& oFont, double dblSizeLimit, double dblWidth,
                      double dblHeight, double dblX, double dblY, bool bIncludeImage);
     void SetFont(const QString& sFontName, bool bBold, bool bItalic, double nominalSize);

@@ -2,6 +2,7 @@
 #include "render/clsRenderDestination.h"
 
 #include "document/basTAVL.h"
+#include "pictures/PaintPicture.h"
 #include "platform/paint/Surface.h"
 #include "platform/pictures/PictureHolder.h"
 #include "platform/text/Numbers.h"
@@ -21,15 +22,15 @@ double CornerContent() { return basTAVL::g_dblLabelSizes(basTAVL::kCornerSide) -
 
 } // namespace
 
-void clsRenderDestination::StickerImage(C_Image& oImage, int lLeft, int lTop, int lSide) {
+void clsRenderDestination::StickerImage(const C_Image& oImage, int lLeft, int lTop, int lSide) {
     if (oImage.FullPath().isEmpty()) return;
+    const QRect box(lLeft, lTop, lSide, lSide);
     if (oImage.IsWMF()) {
-        oImage.DrawMetafile(m_oDest->hDC(), lLeft, lTop, lSide, lSide);
+        DrawMetafile(oImage.Ref(), oImage.Told(), m_oDest->hDC(), box);
         return;
     }
     PictureHolder original;
-    oImage.PaintPictureZoomed(*m_oDest, original, ScaleModeKind::Pixels, lLeft, lTop, lLeft + lSide, lTop + lSide,
-                              Color::None());
+    PaintZoomed(oImage.Ref(), oImage.Told(), *m_oDest, original, ScaleModeKind::Pixels, QRectF(box), Color::None());
 }
 
 void clsRenderDestination::StickerText(const QStringList& saLines, const C_FontInfo& oFont, double dblSizeLimit,

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "support/FileFixture.h"
 
+#include "pictures/ThumbnailStore.h"
 #include "platform/files/Files.h"
 #include "services/basMsgQueue.h"
 
@@ -295,10 +296,10 @@ TEST_F(LoadTest, LogNamesTheGame) {
 // Makes no thumbnail, but keeps whose was wanted.
 class RecordingMaker : public ThumbnailMaker {
 public:
-    void CreateThumbRotatedTo90(C_Image& image) override { Note(image); }
-    void CreateThumbRotatedTo45(C_Image& image) override { Note(image); }
-    void CreateThumbElliptical(C_Image& image, bool) override { Note(image); }
-    Picture RenderRotated(C_Image&, int) override { return {}; }
+    void CreateThumbRotatedTo90(const OwnedPicture& image) override { Note(image); }
+    void CreateThumbRotatedTo45(const OwnedPicture& image) override { Note(image); }
+    void CreateThumbElliptical(const OwnedPicture& image, bool) override { Note(image); }
+    Picture RenderRotated(const OwnedPicture&, int) override { return {}; }
     static RecordingMaker& Instance() {
         static RecordingMaker maker;
         return maker;
@@ -306,9 +307,9 @@ public:
     QStringList wanted;
 
 private:
-    void Note(const C_Image& image) {
-        wanted.append(image.SpaceOrCorner() + QString::number(image.Index()));
-        if (image.Index() == 1) ErrRaise(ErrNumber::kInvalidPicture, QStringLiteral("no picture"));
+    void Note(const OwnedPicture& image) {
+        wanted.append(image.owner.KindName() + QString::number(image.owner.iNumber));
+        if (image.owner.iNumber == 1) ErrRaise(ErrNumber::kInvalidPicture, QStringLiteral("no picture"));
     }
 };
 

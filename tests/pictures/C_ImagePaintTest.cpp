@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "pictures/C_Image.h"
+#include "pictures/PaintPicture.h"
 #include "pieces/frmBMP.h"
 #include "platform/files/Files.h"
 #include "platform/files/Folders.h"
@@ -11,7 +12,6 @@
 #include "support/PictureFiles.h"
 #include "support/TestFixture.h"
 
-#include <QDateTime>
 #include <QFile>
 
 namespace {
@@ -194,98 +194,6 @@ TEST_F(C_ImagePaintTest, MissingPictureAtTheThumbnailIsToldOnceAndThenSilent) {
                                            QStringLiteral("' was not found.\r\nThe image will not be drawn.")});
 }
 
-TEST_F(C_ImagePaintTest, ThumbnailIsMadeWhenMissingOrOlderThanThePicture) {
-    C_Image image;
-    const QString path = Photo(QStringLiteral("p.png"), 30, 20);
-    image.Init(path, QStringLiteral("Space"), 4);
-    const QString thumb = image.GetThumbnail(false);
-    EXPECT_EQ(thumb, PathOf(QStringLiteral("Space4.bmp")));
-    EXPECT_EQ(Files::Size(thumb), 30054);
-
-    const auto touch = [](const QString& sPath, int seconds) {
-        QFile file(sPath);
-        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
-        file.setFileTime(QDateTime::currentDateTime().addSecs(seconds), QFileDevice::FileModificationTime);
-    };
-    WriteFile(QStringLiteral("Space4.bmp"), "mine");
-    touch(path, -20);
-    touch(thumb, -10);
-    image.GetThumbnail(false);
-    EXPECT_EQ(Files::Size(thumb), 4) << "a younger thumbnail stands";
-    touch(path, -5);
-    image.GetThumbnail(false);
-    EXPECT_EQ(Files::Size(thumb), 30054) << "an older one is made anew";
-}
-
-TEST_F(C_ImagePaintTest, ThumbnailOfAnotherPictureIsNeverTakenOver) {
-    C_Image first;
-    first.Init(WriteFile(QStringLiteral("q.png"), Encoded(Quarters(300, 300), "png")), QStringLiteral("Space"), 0);
-    first.GetThumbnail(false);
-    C_Image second;
-    second.Init(Photo(QStringLiteral("p.png"), 300, 300), QStringLiteral("Space"), 0);
-    QString error;
-    EXPECT_EQ(LoadPicture(second.GetThumbnail(false), error).Image().pixel(80, 80), qRgb(255, 0, 0));
-    EXPECT_EQ(LoadPicture(first.GetThumbnail(false), error).Image().pixel(80, 80), kWhite);
-}
-
-TEST_F(C_ImagePaintTest, PicturesWhoseThumbnailsTheDiskRefusesAreShownWithoutThemAndWithoutABox) {
-    basErrLog::ErrInit(0);
-    C_Image image;
-    image.Init(WriteFile(QStringLiteral("q.png"), Encoded(Quarters(300, 300), "png")), QStringLiteral("Space"), 7);
-    int attempts = 0;
-    Files::SetFaultHook([&attempts](Files::Operation operation, const QString& sPath) -> std::optional<QString> {
-        if (operation != Files::Operation::OpenWrite || !sPath.endsWith(QStringLiteral("Space7.bmp"))) return {};
-        ++attempts;
-        return QStringLiteral("Permission denied");
-    });
-    for (int paint = 0; paint < 3; ++paint) {
-        form.Cls();
-        image.DrawBitmapToScreen(form, 0, 0, 60, 60);
-        EXPECT_EQ(form.Image().pixel(5, 5), qRgb(0, 0, 255)) << "turned to the left side";
-        EXPECT_EQ(form.Image().pixel(70, 70), kBoard);
-    }
-    form.Cls();
-    while (!image.DrawWhatIsReady(form, 0, 0, 60, 60)) {
-    }
-    EXPECT_EQ(form.Image().pixel(5, 5), qRgb(0, 0, 255));
-    EXPECT_EQ(attempts, 1) << "the disk isn't asked again at each paint";
-    EXPECT_FALSE(Files::Exists(PathOf(QStringLiteral("Space7.bmp"))));
-    EXPECT_TRUE(desktop.boxes.isEmpty());
-
-    Files::SetFaultHook({});
-    image.Let_Zoom(10);
-    EXPECT_TRUE(Files::Exists(image.GetThumbnail(false))) << "another part of the picture is another attempt";
-}
-
-TEST_F(C_ImagePaintTest, ThumbnailOfAnotherGameThatCantBeDeletedIsNeverShown) {
-    basErrLog::ErrInit(0);
-    C_Image former;
-    former.Init(Photo(QStringLiteral("p.png"), 300, 300), QStringLiteral("Space"), 7);
-    const QString thumb = former.GetThumbnail(false);
-    Files::SetFaultHook([&thumb](Files::Operation operation, const QString& sPath) -> std::optional<QString> {
-        const bool changes = operation == Files::Operation::OpenWrite || operation == Files::Operation::Remove;
-        return changes && sPath == thumb ? std::optional(QStringLiteral("Permission denied")) : std::nullopt;
-    });
-    C_Image image;
-    image.Let_SpaceOrCorner(QStringLiteral("Space"));
-    image.Let_Index(7);
-    image.Let_FullPath(WriteFile(QStringLiteral("q.png"), Encoded(Quarters(300, 300), "png")));
-    image.Let_XCenter(150);
-    image.Let_YCenter(150);
-    image.DrawBitmapToScreen(form, 0, 0, 60, 60);
-    EXPECT_EQ(form.Image().pixel(5, 5), qRgb(0, 0, 255));
-    EXPECT_EQ(desktop.boxes.size(), 1) << "one box for one file";
-    image.Let_FullPath(QString());
-    EXPECT_EQ(desktop.boxes.size(), 1);
-
-    Files::SetFaultHook({});
-    image.Let_Zoom(1);
-    EXPECT_FALSE(Files::Exists(thumb));
-    Files::SetFaultHook([](Files::Operation, const QString&) { return std::optional(QStringLiteral("locked")); });
-    image.Let_Zoom(2);
-    EXPECT_EQ(desktop.boxes.size(), 2) << "what was deleted since is told anew";
-}
-
 TEST_F(C_ImagePaintTest, ThumbnailOfAnUnknownKindRaises) {
     C_Image image;
     image.Init(Photo(QStringLiteral("p.png"), 30, 20), QStringLiteral("Balloon"), 1);
@@ -328,24 +236,6 @@ TEST_F(C_ImagePaintTest, BrokenThumbnailIsToldOnceAndNotThePicture) {
     image.DrawBitmapToScreen(form, 0, 0, 50, 50);
     EXPECT_EQ(desktop.boxes.size(), 1);
     EXPECT_EQ(image.BadPath(), QString());
-}
-
-TEST_F(C_ImagePaintTest, PreparedThumbnailsAreThoseThatWouldBeMadeAnyway) {
-    std::vector<C_Image> images(8);
-    for (int i = 0; i < 8; ++i) {
-        const QByteArray jpeg = Encoded(Quarters(800, 600 + i), "jpg");
-        images[size_t(i)].Init(WriteFile(QStringLiteral("p%1.jpg").arg(i), jpeg), QStringLiteral("Space"), qint16(i));
-    }
-    for (const C_Image& image : images)
-        image.PrepareThumbnail();
-    images[0].Let_Zoom(10); // changed meanwhile: what was begun no longer fits and isn't used
-    for (C_Image& image : images)
-        EXPECT_EQ(Files::Size(image.GetThumbnail(false)), 30054);
-    QString error;
-    const QImage zoomed = LoadPicture(images[0].Thumbname(), error).Image();
-    EXPECT_NE(zoomed.pixel(50, 2), kBoard);
-    const QImage plain = LoadPicture(images[1].Thumbname(), error).Image();
-    EXPECT_EQ(plain.pixel(50, 2), kBoard);
 }
 
 } // namespace

@@ -39,7 +39,7 @@ TEST_F(TellOnceTest, CopiesOfAnImageShareWhatWasTold) {
     C_Image image;
     image.Init(PathOf(QStringLiteral("gone.png")), QStringLiteral("Space"), 3);
     ASSERT_EQ(desktop.boxes.size(), 1);
-    C_Image copy = image;
+    const C_Image copy = image;
     EXPECT_EQ(copy.BadPath(), image.FullPath());
     copy.GetThumbnail(false);
     EXPECT_EQ(desktop.boxes.size(), 1);

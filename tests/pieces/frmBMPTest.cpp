@@ -210,7 +210,7 @@ TEST_F(frmBMPTest, WhitePictureOnWhiteMoneyStaysWhiteAndTransparencyShowsTheNote
 TEST_F(frmBMPTest, GreyOvalIsTheMeanOfTheColours) {
     C_Image image;
     image.Init(WriteFile(QStringLiteral("p.png"), Plain(50, 50, QColor(10, 20, 60))), QStringLiteral("Token"), 1);
-    frmBMP::Instance().CreateThumbElliptical(image, true);
+    frmBMP::Instance().CreateThumbElliptical(image.Owned(), true);
     QString error;
     EXPECT_EQ(LoadPicture(image.Thumbname(), error).Image().pixel(100, 100), qRgb(30, 30, 30));
 }
@@ -232,7 +232,7 @@ TEST_F(frmBMPTest, MissingPictureMakesNoFileAndIsTold) {
     image.Init(path, QStringLiteral("Space"), 1);
     QString error;
     ASSERT_TRUE(Files::Remove(path, error));
-    frmBMP::Instance().CreateThumbRotatedTo90(image);
+    frmBMP::Instance().CreateThumbRotatedTo90(image.Owned());
     EXPECT_FALSE(Files::Exists(image.Thumbname()));
     EXPECT_EQ(desktop.boxes.size(), 1);
     EXPECT_EQ(image.BadPath(), path);
@@ -251,7 +251,7 @@ TEST_F(frmBMPTest, ThumbnailThatCannotBeWrittenGoesUp) {
         if (operation == Files::Operation::Write) return QStringLiteral("Disk full");
         return std::nullopt;
     });
-    EXPECT_THROW(frmBMP::Instance().CreateThumbRotatedTo90(image), TavloraError);
+    EXPECT_THROW(frmBMP::Instance().CreateThumbRotatedTo90(image.Owned()), TavloraError);
 }
 
 TEST_F(frmBMPTest, FineLinesGrowFaintInsteadOfJagged) {

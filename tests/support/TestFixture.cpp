@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "support/TestFixture.h"
 
+#include "pictures/PictureMiddle.h"
 #include "pictures/TellOnce.h"
+#include "pictures/ThumbnailStore.h"
 #include "platform/files/Files.h"
 #include "platform/files/Folders.h"
 #include "services/ProgramSettings.h"
@@ -17,6 +19,8 @@ TavloraTest::TavloraTest() {
 
 TavloraTest::~TavloraTest() {
     TellOnce::ForgetAll();
+    PictureMiddle::ForgetAll();
+    ThumbnailStore::Instance().ForgetAll();
     Files::SetFaultHook({});
     Folders::SetProgramDirectory({});
     Settings() = ProgramSettings{};

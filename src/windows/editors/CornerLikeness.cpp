@@ -58,6 +58,4 @@ QRect CornerLikeness::ImagePlace() { return kImage; }
 
 int CornerLikeness::LineHeight() { return CLng(oCorner.TextSize(kBlock) * kPixelsPerBoard); }
 
-C_Image& CornerLikeness::ImageInGame() { return basTAVL::g_oCorners(m_iCorner).Image; }
-
 void CornerLikeness::DrawOutline() { basDraw::Draw_Polygon(kOutline); }

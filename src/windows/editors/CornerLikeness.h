@@ -32,7 +32,6 @@ protected:
     QRect ImagePlace() override;
     int LineHeight() override;
     void DrawOutline() override;
-    C_Image& ImageInGame() override;
 
 private:
     static constexpr int kBlock = 0;

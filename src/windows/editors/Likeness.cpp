@@ -3,8 +3,9 @@
 
 #include "document/basTAVL.h"
 #include "drawing/basBMP.h"
-#include "drawing/basBMP_metafile.h"
 #include "drawing/basDraw.h"
+#include "pictures/C_Image.h"
+#include "pictures/PaintPicture.h"
 #include "platform/paint/Surface.h"
 #include "platform/pictures/PictureHolder.h"
 #include "platform/text/Numbers.h"
@@ -90,18 +91,14 @@ void Likeness::DrawText(const TextSelection& selection) {
 
 void Likeness::DrawImage(Surface& picDest, PictureHolder& picScratch) {
     if (!HasImage()) return;
-    C_Image& image = Image();
+    const C_Image& image = Image();
     const QRect box = ImagePlace();
     if (image.IsWMF()) {
-        QString badPath = image.BadPath();
-        basBMP::BMP_DrawWMF(picDest.hDC(), image.FullPath(), badPath, box.x(), box.y(), box.width(), box.height());
-        image.TakeBadPath(badPath);
+        DrawMetafile(image.Ref(), image.Told(), picDest.hDC(), box);
         return;
     }
-    const bool wasCentered = image.IsCentered();
-    image.PaintPictureZoomed(picDest, picScratch, ScaleModeKind::Pixels, box.x(), box.y(), box.x() + box.width(),
-                             box.y() + box.height(), basTAVL::g_lMagicColor());
-    if (!wasCentered) ImageInGame().TakeCenterFrom(image);
+    PaintZoomed(image.Ref(), image.Told(), picDest, picScratch, ScaleModeKind::Pixels, QRectF(box),
+                basTAVL::g_lMagicColor());
 }
 
 void Likeness::Redraw(Surface& picDest, PictureHolder& picScratch, const TextSelection& selection) try {

@@ -64,8 +64,7 @@ public:
     /// The middle of the lower edge of the text's place.
     QPoint BelowText();
     Spot WhereIsMouse(Surface& picDest, double X, double Y);
-    /// Paints all of it. A picture without a centre gets one, in the game's record too, so that looking at a
-    /// picture never counts as a change.
+    /// Paints all of it.
     void Redraw(Surface& picDest, PictureHolder& picScratch, const TextSelection& selection);
 
 protected:
@@ -77,8 +76,6 @@ protected:
     virtual int LineHeight() = 0;
     /// Outline and whatever else lies under text and picture. The pen is the outline's.
     virtual void DrawOutline() = 0;
-    /// The game's own image, whose centre goes with the copy's.
-    virtual C_Image& ImageInGame() = 0;
 
     bool HasImage();
 

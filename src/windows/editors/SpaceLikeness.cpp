@@ -53,8 +53,6 @@ QRect SpaceLikeness::ImagePlace() { return kImage; }
 
 int SpaceLikeness::LineHeight() { return CLng(oSpace.TextSize() * kPixelsPerBoard); }
 
-C_Image& SpaceLikeness::ImageInGame() { return basTAVL::g_oSpaces(m_iSpace).Image; }
-
 void SpaceLikeness::DrawOutline() {
     basDraw::Draw_Rect(kLeft, kTop, kRight, kBottom);
     if (!oSpace.SpaceColor.IsNone()) {

@@ -31,7 +31,6 @@ protected:
     QRect ImagePlace() override;
     int LineHeight() override;
     void DrawOutline() override;
-    C_Image& ImageInGame() override;
 
 private:
     int m_iSpace = 0;

@@ -105,9 +105,7 @@ void frmEditMoney::RedrawMoney() try {
     picNote->ScaleMode = ScaleModeKind::Pixels;
     basDraw::Draw_GetDPIandPrinterSizeRatio(*picNote, dblDPI, dblRatio, 1.0);
     picNote->Cls();
-    const bool wasCentered = FaceImage().IsCentered();
     Note().DrawMoney(*picNote, dblDPI, 0, 0, true, true, false);
-    if (!wasCentered) basTAVL::g_oMoney(Index()).FaceImage.TakeCenterFrom(FaceImage());
     picNote->Refresh();
     redrawing.ShowMessages();
 } catch (...) {

@@ -64,12 +64,10 @@ void frmEditToken::LoadFromGame() {
 void frmEditToken::Redraw() try {
     if (m_bLoading) return;
     const Redrawing redrawing;
-    const bool wasCentered = m_oToken.Image.IsCentered();
     const C_Token::TextSelection selection{m_selection.m_iCol, m_selection.m_iRow, m_selection.m_iColEnd,
                                            m_selection.m_iRowEnd};
     m_oToken.Redraw(0, 0, picDest->width(), picDest->height(), m_selection.IsOn(), *picDest, picScratch, selection,
                     WidgetLook::FillOf(*this));
-    if (!wasCentered) basTAVL::g_oTokens(Index()).Image.TakeCenterFrom(m_oToken.Image);
     picDest->Refresh();
     // A picture that couldn't be painted has been given up just now.
     ShowInclude(HasImage() ? kImage : kText);

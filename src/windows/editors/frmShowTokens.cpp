@@ -143,9 +143,7 @@ void frmShowTokens::Zoom() try {
 void frmShowTokens::DrawToken(int iToken) {
     PictureBox& picture = *picToken[size_t(iToken)];
     C_Token& token = m_oTokens[size_t(iToken)];
-    const bool wasCentered = token.Image.IsCentered();
     token.Redraw(0, 0, picture.width(), picture.height(), false, picture, picOriginal, {}, WidgetLook::FillOf(*this));
-    if (!wasCentered) basTAVL::g_oTokens(iToken).Image.TakeCenterFrom(token.Image);
     if (picture.hasFocus()) DrawFocus(picture);
     picture.Refresh();
 }

@@ -3,6 +3,8 @@
 
 #include "drawing/basBMP.h"
 #include "drawing/basBMP_metafile.h"
+#include "pictures/PaintPicture.h"
+#include "pictures/TellOnce.h"
 #include "platform/files/Files.h"
 #include "platform/files/FolderListing.h"
 #include "platform/files/Folders.h"
@@ -305,13 +307,12 @@ void frmBrowse::PaintPreview(int lW, int lH) {
                             lW - kMetafileFree, lH - kMetafileFree);
         return;
     }
-    if (!m_oPreview || m_oPreview->FullPath() != m_sFilePath) {
-        m_oPreview = std::make_unique<C_Image>();
-        m_oPreview->Init(m_sFilePath, QStringLiteral("Space"), 0);
-        m_oPreview->TakeBadPath(m_sBadPath);
-    }
-    m_oPreview->PaintPictureCentered(*picBitMapArea, 0, 0, lW, lH, Color::None());
-    if (m_oPreview->BadPath() == m_sFilePath) m_sBadPath = m_sFilePath;
+    m_oPreview = PictureRef{m_sFilePath};
+    // Told for itself: what is looked at here is nobody's picture yet.
+    TellOnce told;
+    told.Note(TellOnce::Fault::Picture, m_sBadPath);
+    PaintCentered(m_oPreview, told, *picBitMapArea, QRectF(0, 0, lW, lH), Color::None());
+    m_sBadPath = told.LastTold(TellOnce::Fault::Picture);
     // Later: the list may be in the middle of a click.
     if (!basCommon::DoesFileExist(m_sFilePath))
         QMetaObject::invokeMethod(this, &frmBrowse::Preview_Vanished, Qt::QueuedConnection);

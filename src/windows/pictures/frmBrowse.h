@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "pictures/C_Image.h"
+#include "pictures/PictureRef.h"
 #include "windows/pictures/BrowsePlaces.h"
 
 #include <QDialog>
@@ -113,5 +113,5 @@ private:
     QString m_sBadPath;
     bool m_bOK = false;
     /// Made anew for each picture: what was told of one is no matter of the next.
-    std::unique_ptr<C_Image> m_oPreview;
+    PictureRef m_oPreview;
 };

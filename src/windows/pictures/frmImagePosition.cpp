@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "windows/pictures/frmImagePosition.h"
 
+#include "pictures/PaintPicture.h"
 #include "platform/paint/Units.h"
 #include "platform/pictures/LoadPicture.h"
 #include "platform/text/Numbers.h"
@@ -109,9 +110,8 @@ void frmImagePosition::Zoom() try {
     timSharpen->stop();
     picZoomed->Cls();
     picZoomed->ScaleMode = ScaleModeKind::Pixels;
-    m_oImage.PaintPictureZoomed(*picZoomed, picOriginal, ScaleModeKind::Twips, 0, 0, picZoomed->width(),
-                                picZoomed->height(), Color::None());
-    CenterMaster();
+    PaintZoomed(m_oImage.Ref(), m_oImage.Told(), *picZoomed, picOriginal, ScaleModeKind::Twips,
+                QRectF(picZoomed->rect()), Color::None());
     MaskRound();
     picZoomed->Refresh();
 } catch (...) {
@@ -121,8 +121,8 @@ void frmImagePosition::Zoom() try {
 // A drawing of one bit needs no other way here: on the white of the box its white shows either way.
 void frmImagePosition::ZoomInMotion() try {
     if (!m_bLoaded) return;
-    if (m_oImage.XCenter() == 0 && m_oImage.YCenter() == 0) {
-        // Not yet centred; the proper paint does that.
+    if (!m_oImage.IsCentered()) {
+        // Where its middle lies is known once it was properly painted.
         Zoom();
         return;
     }
@@ -148,15 +148,6 @@ void frmImagePosition::MaskRound() {
     picZoomed->DrawWidth = ring.iDrawWidth;
     picZoomed->Circle(lW / 2.0, lH / 2.0, ring.dblRadius, WidgetLook::FillOf(*this));
     picZoomed->DrawWidth = 1;
-}
-
-// Centring is no change: it happens at any first painting of an image. Done on the copy alone, it would
-// make Cancel ask about a change that nobody made.
-void frmImagePosition::CenterMaster() {
-    const bool uncentered = m_oMaster && m_oMaster->XCenter() == 0 && m_oMaster->YCenter() == 0;
-    if (!uncentered || m_oMaster->FullPath() != m_oImage.FullPath()) return;
-    m_oMaster->Let_XCenter(m_oImage.XCenter());
-    m_oMaster->Let_YCenter(m_oImage.YCenter());
 }
 
 ImagePlacing::Scale frmImagePosition::CurrentScale() const {

@@ -55,7 +55,6 @@ private:
     void SizePreview(double dblHeightToWidth);
     void ShowNothing();
     void MaskRound();
-    void CenterMaster();
     ImagePlacing::Scale CurrentScale() const;
     void SetCenter(ImagePlacing::Center center);
     void SetSlider(int value);

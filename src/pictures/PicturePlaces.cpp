@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#include "pictures/PicturePlaces.h"
+
+#include "platform/files/Files.h"
+#include "platform/files/Folders.h"
+#include "services/basCommon.h"
+#include "services/BoardFacts.h"
+#include "services/ProgramSettings.h"
+
+#include <optional>
+
+namespace PicturePlaces {
+namespace {
+
+// Where relative pictures are looked for first.
+QString PictureBase() {
+    const QString& base = Settings().sRelativePictureBase;
+    return base.isEmpty() ? basCommon::GetMyGamesDirectory() : base;
+}
+
+// What follows the folder in the path; nothing when the path doesn't lie in it.
+std::optional<QString> PartBelow(const QString& sFolder, const QString& sPath) {
+    const QString prefix = basCommon::JoinPath(sFolder, QString());
+    if (sFolder.isEmpty() || !sPath.startsWith(prefix, Qt::CaseInsensitive)) return std::nullopt;
+    return sPath.mid(prefix.size());
+}
+
+// A drive without a folder names a file in the drive's root, as there is no current folder on a drive; a
+// path without any separator would count as a programming error further on.
+QString WithRootOfDrive(const QString& sName) {
+    const bool driveOnly = sName.size() >= 2 && sName[1] == u':' && !sName.contains(u'\\') && !sName.contains(u'/');
+    return driveOnly ? sName.left(2) + u'\\' + sName.mid(2) : sName;
+}
+
+bool IsComplete(const QString& sName) {
+    return sName.startsWith(u'/') || sName.startsWith(u'\\') || (sName.size() >= 2 && sName[1] == u':');
+}
+
+// The places at which a picture of a game file is looked for ahead of the program's own folder.
+QStringList PlacesOf(const QString& sName) {
+    if (IsComplete(sName)) return {basCommon::GetFullPath(PictureBase(), sName, QString())};
+    QStringList places{basCommon::JoinPath(PictureBase(), sName)};
+    if (!Settings().sGameDirectory.isEmpty()) places.append(basCommon::JoinPath(Settings().sGameDirectory, sName));
+    return places;
+}
+
+QString PlaceOf(const QString& sName) {
+    for (const QString& place : PlacesOf(sName)) {
+        if (basCommon::DoesFileExist(place)) return place;
+    }
+    // A name without an extension gets the wildcard as one. No such file is ever there; kept on purpose, as
+    // the message about the missing file has always named it so.
+    return basCommon::GetFullPath(Folders::ProgramDirectory(), sName, QStringLiteral("*.bmp"));
+}
+
+} // namespace
+
+QString RelativeOf(const QString& sFullPath) {
+    if (const std::optional<QString> part = PartBelow(PictureBase(), sFullPath)) return *part;
+    if (const std::optional<QString> part = PartBelow(Folders::ProgramDirectory(), sFullPath)) return *part;
+    return sFullPath;
+}
+
+QString FullOf(const QString& sName) {
+    const QString name = sName.trimmed();
+    return name.isEmpty() ? QString() : Files::InDiskSpelling(PlaceOf(WithRootOfDrive(name)));
+}
+
+QString Fate() {
+    return basCommon::JoinPath(Folders::ProgramDirectory(), QString::fromLatin1(BoardFacts::kFatePicture));
+}
+
+} // namespace PicturePlaces

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+/// Where pictures lie, and how a game file says so: relative where they lie in the user's games folder or the
+/// program's, so that games travel with their pictures.
+namespace PicturePlaces {
+
+/// What a game file holds for a complete path.
+QString RelativeOf(const QString& sFullPath);
+/// The complete path that a name in a game file leads to, in the spelling of the disk, whether or not a picture is
+/// there. Relative ones are looked for in the user's folder, beside the game, then in the program's folder.
+QString FullOf(const QString& sName);
+/// The picture of the corner whose face belongs to the kit.
+QString Fate();
+
+} // namespace PicturePlaces
