@@ -3,10 +3,10 @@
 
 #include "BenchPhotos.h"
 
-#include "app/GameKit.h"
 #include "board/basPositPaint.h"
 #include "document/basTAVL.h"
 #include "game/GameFile.h"
+#include "kit/GameKit.h"
 #include "pieces/frmBMP.h"
 
 void LoadFamilyWith(const BenchPhotos& photos) {

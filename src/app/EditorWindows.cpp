@@ -2,7 +2,7 @@
 #include "app/EditorWindows.h"
 
 #include "app/frmTAVL.h"
-#include "app/GameKit.h"
+#include "kit/GameKit.h"
 #include "services/ProgramSettings.h"
 #include "windows/editors/frmEditCenter.h"
 #include "windows/editors/frmEditCorner.h"

@@ -3,12 +3,12 @@
 
 #include "app/frmAbout.h"
 #include "app/frmPrintManual.h"
-#include "app/GameKit.h"
 #include "board/basPosit.h"
 #include "document/basTAVL.h"
 #include "drawing/basBMP.h"
 #include "drawing/basDraw.h"
 #include "game/SampleGames.h"
+#include "kit/GameKit.h"
 #include "platform/files/ProfileFile.h"
 #include "platform/paint/Units.h"
 #include "services/basCommon.h"

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "tools/PrintCommand.h"
 
-#include "app/GameKit.h"
 #include "board/basPosit.h"
 #include "board/BoardPicture.h"
 #include "game/GameFile.h"
 #include "game/Session.h"
+#include "kit/GameKit.h"
 #include "kit/Sheets.h"
 #include "pieces/frmBMP.h"
 #include "platform/files/Console.h"

@@ -4,7 +4,7 @@
 
 #include "app/frmAbout.h"
 #include "app/frmPrintManual.h"
-#include "app/GameKit.h"
+#include "kit/GameKit.h"
 
 #include <QLabel>
 

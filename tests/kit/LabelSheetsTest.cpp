@@ -4,9 +4,9 @@
 #include "kit/BoxSheet.h"
 #include "kit/DimensionString.h"
 
-#include "app/GameKit.h"
 #include "board/basPosit.h"
 #include "board/basPositFit.h"
+#include "kit/GameKit.h"
 #include "pieces/frmBMP.h"
 #include "platform/files/Files.h"
 #include "platform/paint/PaintImage.h"

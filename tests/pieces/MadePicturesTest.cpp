@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The files of made pictures as other programs read them, and the photographs in them on paper.
-#include "app/GameKit.h"
 #include "drawing/clsBMP.h"
+#include "kit/GameKit.h"
 #include "pieces/frmBMP.h"
 #include "platform/pictures/LoadPicture.h"
 #include "platform/printing/Printer.h"

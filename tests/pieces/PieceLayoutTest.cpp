@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Where everything stands on a sticker, a banknote and a token, to the dot.
-#include "app/GameKit.h"
+#include "kit/GameKit.h"
 #include "pieces/frmBMP.h"
 #include "platform/paint/Surface.h"
 #include "platform/pictures/LoadPicture.h"

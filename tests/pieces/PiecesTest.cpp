@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Pictures of the pieces: what is in the files, and what a printer makes of them.
-#include "app/GameKit.h"
+#include "kit/GameKit.h"
 #include "pieces/frmBMP.h"
 #include "pieces/StickersUsingBMP.h"
 #include "platform/files/Files.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/GameKit.h"
 #include "board/basPosit.h"
+#include "kit/GameKit.h"
 #include "kit/SheetJob.h"
 #include "pieces/frmBMP.h"
 #include "platform/files/Files.h"

@@ -3,10 +3,10 @@
 
 #include "windows/print/frmTavlPrint.h"
 
-#include "app/GameKit.h"
 #include "board/basPositFit.h"
 #include "game/Session.h"
 #include "kit/ConsoleSheets.h"
+#include "kit/GameKit.h"
 #include "pieces/frmBMP.h"
 #include "platform/files/Files.h"
 #include "platform/files/Folders.h"

@@ -2,7 +2,7 @@
 // The setup window, worked as a person does.
 #include "windows/print/frmColor.h"
 
-#include "app/GameKit.h"
+#include "kit/GameKit.h"
 #include "render/PrintBlackAs.h"
 #include "services/basCommon.h"
 #include "support/GameFixture.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/GameKit.h"
+#include "kit/GameKit.h"
 
 #include "document/basTAVL.h"
 #include "platform/text/Numbers.h"
