@@ -28,6 +28,13 @@ if(TAVLORA_SANITIZE)
   target_link_options(tavlora_options INTERFACE -fsanitize=address,undefined)
 endif()
 
+if(TAVLORA_FUZZ)
+  # Coverage feedback for the fuzzer comes from the code of the library itself.
+  target_compile_options(tavlora_options INTERFACE
+    -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=undefined)
+  target_link_options(tavlora_options INTERFACE -fsanitize=address,undefined)
+endif()
+
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   # Precompiled headers need these two told to ccache, or every file misses.

@@ -7,8 +7,6 @@
 #include <functional>
 #include <stdexcept>
 
-class QWidget;
-
 /// Buttons and icon of a message box, by the style values of the platform: a button set plus an icon.
 enum MsgBoxStyle : int {
     vbOKOnly = 0,
