@@ -3,11 +3,11 @@
 #include "BenchGame.h"
 #include "BenchPhotos.h"
 
+#include "kit/Sheets.h"
 #include "platform/files/Files.h"
 #include "platform/pictures/LoadPicture.h"
 #include "platform/printing/Printer.h"
 #include "services/basPath.h"
-#include "tools/PrintSheets.h"
 
 #include <benchmark/benchmark.h>
 
@@ -20,16 +20,17 @@ const BenchPhotos& Photos() {
     return photos;
 }
 
-bool Print(PdfPrinter& printer, const PrintSheet& sheet) {
-    printer.SetOrientation(sheet.orientation);
+bool Print(PdfPrinter& printer, const Sheet& sheet) {
+    printer.SetOrientation(sheet.OrientationOf(Kit::Eight));
     SheetJob job{printer};
-    if (!sheet.print(job)) return false;
+    if (sheet.prepare && !sheet.prepare(job, sheet.iWhich)) return false;
+    if (!sheet.paint(job, sheet.iWhich)) return false;
     printer.EndDoc();
     return true;
 }
 
 // Nothing is decoded yet when a sheet begins, as in a run of its own.
-void PrintAll(benchmark::State& state, std::span<const PrintSheet> sheets) {
+void PrintAll(benchmark::State& state, std::span<const Sheet> sheets) {
     const QString path = basCommon::JoinPath(basCommon::GetMyGamesDirectory(), QStringLiteral("Bench.pdf"));
     for (auto _ : state) {
         state.PauseTiming();
@@ -38,7 +39,7 @@ void PrintAll(benchmark::State& state, std::span<const PrintSheet> sheets) {
         state.ResumeTiming();
         PdfPrinter printer(path, QStringLiteral("Bench"));
         bool printed = true;
-        for (const PrintSheet& sheet : sheets)
+        for (const Sheet& sheet : sheets)
             printed = printed && Print(printer, sheet);
         QString error;
         if (!printed || !printer.Close(error)) return state.SkipWithError("the sheet wasn't printed");
@@ -47,13 +48,13 @@ void PrintAll(benchmark::State& state, std::span<const PrintSheet> sheets) {
 }
 
 void BM_Sheet(benchmark::State& state) {
-    const PrintSheet& sheet = PrintSheets()[size_t(state.range(0))];
+    const Sheet& sheet = Sheets()[size_t(state.range(0))];
     state.SetLabel(sheet.sName);
     PrintAll(state, {&sheet, 1});
 }
-BENCHMARK(BM_Sheet)->DenseRange(0, 11)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(BM_Sheet)->DenseRange(0, int(Sheets().size()) - 1)->Unit(benchmark::kMillisecond)->UseRealTime();
 
-void BM_WholeKit(benchmark::State& state) { PrintAll(state, PrintSheets()); }
+void BM_WholeKit(benchmark::State& state) { PrintAll(state, Sheets()); }
 BENCHMARK(BM_WholeKit)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 } // namespace
