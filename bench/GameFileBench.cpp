@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "document/GameText.h"
 #include "game/GameFile.h"
 #include "platform/files/TextFile.h"
 #include "services/basCommon.h"
@@ -26,7 +27,7 @@ BENCHMARK(BM_LoadGame)->Unit(benchmark::kMillisecond);
 void BM_ComposeGame(benchmark::State& state) {
     LoadFamily(state);
     for (auto _ : state)
-        benchmark::DoNotOptimize(TextFile::Encode(TextFile::JoinLines(GameFile::ComposeLines())));
+        benchmark::DoNotOptimize(TextFile::Encode(TextFile::JoinLines(ComposeLines(TheGame(), QString()))));
 }
 BENCHMARK(BM_ComposeGame)->Unit(benchmark::kMillisecond);
 

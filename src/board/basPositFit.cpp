@@ -50,22 +50,6 @@ Widest WidestOf(const QStringList& lines, int iNLines) {
 // Product and quotient in single precision, as the fitted sizes have always been.
 int Scaled(int value, int limit, int measured) { return Int(float(value) * float(limit) / float(measured)); }
 
-void FitSpecialText(SpecialText& record, const CenterTextLook& look, bool bSubtitle) {
-    const int reference = bSubtitle ? kSubtitleReference : kReference;
-    const int h = CLng(reference * double(look.fFontHeight));
-    int w = CLng(h * 0.5);
-    if (look.fWidthLimit != 0) {
-        int limit = CLng(std::abs(reference * double(look.fWidthLimit)));
-        if (bSubtitle) limit = CLng(limit * kSubtitleLimitFactor);
-        Face{look.Family(), look.bBold, look.bItalic}.Select(h, w);
-        // As the board shows it: the whole text on one line.
-        const int measured = basDraw::Draw_GetWidth(basTAVL::CRLF2Space(record.sText));
-        if (measured > 0 && (look.fWidthLimit < 0 || measured > limit)) w = Scaled(w, limit, measured);
-        basDraw::Draw_ReleaseObjects();
-    }
-    record.fFontWidth = float(w) / float(reference);
-}
-
 } // namespace
 
 qint16 Pos_ComputeSize(const QString& sFamily, bool bBold, bool bItalic, const QStringList& sTextLines, int iNLines,
@@ -128,10 +112,29 @@ void SetSideText(int iSide, const QString& sText) try {
     ErrTail("basPosit!", "SetSideText", iSide, sText);
 }
 
+void FitSpecialText(int iIndex, SpecialText& text) {
+    const CenterTextLook& look = m_CenterLook(iIndex);
+    if (text.sText.isEmpty()) return;
+    const bool bSubtitle = iIndex == kSubtitle;
+    const int reference = bSubtitle ? kSubtitleReference : kReference;
+    const int h = CLng(reference * double(look.fFontHeight));
+    int w = CLng(h * 0.5);
+    if (look.fWidthLimit != 0) {
+        int limit = CLng(std::abs(reference * double(look.fWidthLimit)));
+        if (bSubtitle) limit = CLng(limit * kSubtitleLimitFactor);
+        Face{look.Family(), look.bBold, look.bItalic}.Select(h, w);
+        // As the board shows it: the whole text on one line.
+        const int measured = basDraw::Draw_GetWidth(basTAVL::CRLF2Space(text.sText));
+        if (measured > 0 && (look.fWidthLimit < 0 || measured > limit)) w = Scaled(w, limit, measured);
+        basDraw::Draw_ReleaseObjects();
+    }
+    text.fFontWidth = float(w) / float(reference);
+}
+
 void SetSpecialText(int iIndex, const QString& sText) try {
     SpecialText& record = m_CenterText(iIndex);
     record.SetText(sText);
-    if (!sText.isEmpty()) FitSpecialText(record, m_CenterLook(iIndex), iIndex == kSubtitle);
+    FitSpecialText(iIndex, record);
 } catch (...) {
     ErrTail("basPosit!", "SetSpecialText", iIndex, sText);
 }

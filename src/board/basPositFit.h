@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "document/SpecialText.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -20,6 +22,9 @@ int Pos_ComputeSetWidth(const QString& sFamily, bool bBold, bool bItalic, int lH
 
 /// Sets the name of a side and the width of its letters. Raises the subscript error outside 0 to 3.
 void SetSideText(int iSide, const QString& sText);
+
+/// Fits the letters of a special text, 0 to 16, to its record's limit; an empty one keeps those that it has.
+void FitSpecialText(int iIndex, SpecialText& text);
 
 /// Sets a special text, 0 to 16, splits it into lines and fits its letters to the record's limit. The look
 /// depends on the text alone, whatever stood there before.

@@ -72,17 +72,25 @@ QString C_Corner::GetQuotedString() const try {
     ErrTail("C_Corner!", "GetQuotedString");
 }
 
-QString C_Corner::SetQuotedString(const QString& sLine) try {
+QString C_Corner::ReadFields(const QString& sLine, const ImageReader& readImage) {
     QString rest = sLine;
     const QString sCorner = basTAVL::GetQuotedField(rest);
     const QString text0 = basTAVL::GetQuotedField(rest);
     const QString text1 = basTAVL::GetQuotedField(rest);
     Index = IndexFromField(QStringLiteral("sCorner"), sCorner);
-    rest = Image.SetQuotedString(rest, QStringLiteral("Corner"), Index);
+    rest = readImage(Image, rest, {PictureOwner::Kind::Corner, Index});
     rest = Font.SetQuotedString(rest);
     SetText(0, text0);
     SetText(1, text1);
     return rest;
+}
+
+QString C_Corner::Read(const QString& sLine, const PicturePlaces::Finder& find) {
+    return ReadFields(sLine, ReaderFinding(find));
+}
+
+QString C_Corner::SetQuotedString(const QString& sLine) try {
+    return ReadFields(sLine, ReadImageAndTell);
 } catch (...) {
     ErrTail("C_Corner!", "SetQuotedString", sLine);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "document/C_FontInfo.h"
+#include "document/RecordFields.h"
 #include "document/TextLines.h"
 #include "pictures/C_Image.h"
 
@@ -53,8 +54,12 @@ public:
     QString GetQuotedString() const;
     /// Reads a record off the front and returns what is left. Raises for an index that is no number.
     QString SetQuotedString(const QString& sLine);
+    /// As SetQuotedString, but touches nothing besides the record: the picture is found by what is given, and
+    /// a missing one isn't told.
+    QString Read(const QString& sLine, const PicturePlaces::Finder& find);
 
 private:
+    QString ReadFields(const QString& sLine, const ImageReader& readImage);
     const TextLines& Block(int iBlock) const;
     TextLines& Block(int iBlock);
 

@@ -38,14 +38,20 @@ QString C_Money::GetQuotedString() const try {
     ErrTail("C_Money!", "GetQuotedString");
 }
 
-QString C_Money::SetQuotedString(const QString& sLine) try {
+QString C_Money::ReadFields(const QString& sLine, const ImageReader& readImage) {
     QString rest = sLine;
     const QString index = basTAVL::GetQuotedField(rest);
     // Unlike the texts of spaces and cards, an empty one stays empty.
     for (QString& text : m_sText)
         text = basTAVL::GetQuotedField(rest);
     if (IsNumeric(index)) Index = basTAVL::IntegerOrZero(index);
-    return FaceImage.SetQuotedString(rest, QStringLiteral("Money"), Index);
-} catch (...) {
+    return readImage(FaceImage, rest, {PictureOwner::Kind::Money, Index});
+}
+
+QString C_Money::Read(const QString& sLine, const PicturePlaces::Finder& find) {
+    return ReadFields(sLine, ReaderFinding(find));
+}
+
+QString C_Money::SetQuotedString(const QString& sLine) try { return ReadFields(sLine, ReadImageAndTell); } catch (...) {
     ErrTail("C_Money!", "SetQuotedString", sLine);
 }

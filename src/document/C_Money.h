@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "document/RecordFields.h"
 #include "pictures/C_Image.h"
 #include "platform/paint/Color.h"
 #include "platform/paint/Picture.h"
@@ -43,8 +44,12 @@ public:
     /// Reads a record off the front and returns what is left. An index that is no number leaves Index as it
     /// was.
     QString SetQuotedString(const QString& sLine);
+    /// As SetQuotedString, but touches nothing besides the record: the picture is found by what is given, and
+    /// a missing one isn't told.
+    QString Read(const QString& sLine, const PicturePlaces::Finder& find);
 
 private:
+    QString ReadFields(const QString& sLine, const ImageReader& readImage);
     PictureOwner Owner() const { return {PictureOwner::Kind::Money, Index}; }
     /// One of the kit's own pictures; null, told once, when it can't be read.
     Picture LoadOrTell(const QString& sPath, TellOnce::Fault fault) const;

@@ -15,7 +15,7 @@ constexpr TextBox kBoxWithImage{34, 25};
 
 float C_Space::TextSize() const { return CappedTextSize(Font, m_fTextSize); }
 
-void C_Space::SetText(const QString& sTextIn) try {
+void C_Space::FitNewText(const QString& sTextIn) {
     m_lines.Split(sTextIn);
     const TextBox box = Image.FullPath().isEmpty() ? kBoxWithoutImage : kBoxWithImage;
     if (m_lines.NLines == 0) {
@@ -24,7 +24,15 @@ void C_Space::SetText(const QString& sTextIn) try {
         return;
     }
     Let_TextSize(float(FitTextLine(m_lines.InUse(), Font, box) / kTextUnits));
-    basCommon::Assert(TextSize() != 0, QStringLiteral("Size set to zero"), QStringLiteral("C_SpaceSetText"));
+}
+
+void C_Space::AssertTextSize() const {
+    basCommon::Assert(HasTextSize(), QStringLiteral("Size set to zero"), QStringLiteral("C_SpaceSetText"));
+}
+
+void C_Space::SetText(const QString& sTextIn) try {
+    FitNewText(sTextIn);
+    AssertTextSize();
 } catch (...) {
     ErrTail("C_Space!", "SetText", sTextIn);
 }
@@ -71,15 +79,25 @@ QString C_Space::GetQuotedString() const try {
     ErrTail("C_Space!", "GetQuotedString");
 }
 
-QString C_Space::SetQuotedString(const QString& sLine) try {
+QString C_Space::ReadFields(const QString& sLine, const ImageReader& readImage) {
     QString rest = sLine;
     const QString sSpace = basTAVL::GetQuotedField(rest);
     QString text = basTAVL::GetQuotedField(rest);
     Index = IndexFromField(QStringLiteral("sSpace"), sSpace);
     if (text.isEmpty()) text = kNotFilledIn;
-    rest = Image.SetQuotedString(rest, QStringLiteral("Space"), Index);
+    rest = readImage(Image, rest, {PictureOwner::Kind::Space, Index});
     rest = Font.SetQuotedString(rest);
-    SetText(text);
+    FitNewText(text);
+    return rest;
+}
+
+QString C_Space::Read(const QString& sLine, const PicturePlaces::Finder& find) {
+    return ReadFields(sLine, ReaderFinding(find));
+}
+
+QString C_Space::SetQuotedString(const QString& sLine) try {
+    const QString rest = ReadFields(sLine, ReadImageAndTell);
+    AssertTextSize();
     return rest;
 } catch (...) {
     ErrTail("C_Space!", "SetQuotedString", sLine);

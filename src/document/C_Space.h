@@ -2,6 +2,7 @@
 #pragma once
 
 #include "document/C_FontInfo.h"
+#include "document/RecordFields.h"
 #include "document/TextLines.h"
 #include "pictures/C_Image.h"
 #include "platform/paint/Color.h"
@@ -52,7 +53,15 @@ public:
     QString GetQuotedString() const;
     /// Reads a record off the front and returns what is left. Raises for an index that is no number.
     QString SetQuotedString(const QString& sLine);
+    /// As SetQuotedString, but touches nothing besides the record: the picture is found by what is given, a missing
+    /// one isn't told, and a text of no size doesn't end the program.
+    QString Read(const QString& sLine, const PicturePlaces::Finder& find);
+    /// Ends the program when the text has no size, with a message.
+    void AssertTextSize() const;
+    bool HasTextSize() const { return NLines() == 0 || TextSize() != 0; }
 
 private:
+    QString ReadFields(const QString& sLine, const ImageReader& readImage);
+    void FitNewText(const QString& sTextIn);
     TextLines m_lines;
 };

@@ -31,7 +31,7 @@ QStringList C_Token::LinesShown() const {
     return hasText ? TextArray() : QStringList{QString()};
 }
 
-void C_Token::SetText(const QString& sTextIn) try {
+void C_Token::FitNewText(const QString& sTextIn) {
     m_lines.Split(sTextIn);
     if (m_lines.NLines == 0) {
         // Unscaled on purpose: nothing is written at this size, and the font's own size caps it.
@@ -39,7 +39,15 @@ void C_Token::SetText(const QString& sTextIn) try {
         return;
     }
     Let_TextSize(float(FitTextLine(m_lines.InUse(), Font, kTokenBox) / kTextUnits));
-    basCommon::Assert(TextSize() != 0, QStringLiteral("Size set to zero"), QStringLiteral("C_TokenSetText"));
+}
+
+void C_Token::AssertTextSize() const {
+    basCommon::Assert(HasTextSize(), QStringLiteral("Size set to zero"), QStringLiteral("C_TokenSetText"));
+}
+
+void C_Token::SetText(const QString& sTextIn) try {
+    FitNewText(sTextIn);
+    AssertTextSize();
 } catch (...) {
     ErrTail("C_Token!", "SetText", sTextIn);
 }
@@ -81,18 +89,28 @@ QString C_Token::GetQuotedString() const try {
     ErrTail("C_Token!", "GetQuotedString");
 }
 
-QString C_Token::SetQuotedString(const QString& sLine) try {
+QString C_Token::ReadFields(const QString& sLine, const ImageReader& readImage) {
     QString rest = sLine;
     // The message about a bad index has always spoken of a space.
     const QString sSpace = basTAVL::GetQuotedField(rest);
     QString text = basTAVL::GetQuotedField(rest);
     if (text == kNotFilledIn) text.clear();
     Index = IndexFromField(QStringLiteral("sSpace"), sSpace);
-    rest = Image.SetQuotedString(rest, QStringLiteral("Token"), Index);
+    rest = readImage(Image, rest, {PictureOwner::Kind::Token, Index});
     const bool withoutFont = rest.trimmed().isEmpty();
     rest = Font.SetQuotedString(rest);
     if (withoutFont) Font.Size = kSizeWithoutFont;
-    SetText(text);
+    FitNewText(text);
+    return rest;
+}
+
+QString C_Token::Read(const QString& sLine, const PicturePlaces::Finder& find) {
+    return ReadFields(sLine, ReaderFinding(find));
+}
+
+QString C_Token::SetQuotedString(const QString& sLine) try {
+    const QString rest = ReadFields(sLine, ReadImageAndTell);
+    AssertTextSize();
     return rest;
 } catch (...) {
     ErrTail("C_Token!", "SetQuotedString", sLine);

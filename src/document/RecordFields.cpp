@@ -21,3 +21,13 @@ bool ShowTheSame(const C_Image& a, const C_Image& b) {
     return a.FullPath() == b.FullPath() && a.Zoom() == b.Zoom() && a.XCenter() == b.XCenter() &&
            a.YCenter() == b.YCenter();
 }
+
+QString ReadImageAndTell(C_Image& image, const QString& sRest, const PictureOwner& owner) {
+    return image.SetQuotedString(sRest, owner.KindName(), owner.iNumber);
+}
+
+ImageReader ReaderFinding(const PicturePlaces::Finder& find) {
+    return [find](C_Image& image, const QString& sRest, const PictureOwner& owner) {
+        return image.Read(sRest, owner, find);
+    };
+}

@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "pictures/PicturePlaces.h"
+
 #include <QString>
+
+#include <functional>
 
 class C_FontInfo;
 class C_Image;
@@ -19,3 +23,10 @@ float CappedTextSize(const C_FontInfo& font, float fTextSize);
 
 /// Whether both show the same part of the same picture, whoever owns them.
 bool ShowTheSame(const C_Image& a, const C_Image& b);
+
+/// Takes a record's picture off the front of what is left of its line, and returns what is left then.
+using ImageReader = std::function<QString(C_Image& image, const QString& sRest, const PictureOwner& owner)>;
+/// Looks for the picture where the program looks for pictures, and tells a missing one.
+QString ReadImageAndTell(C_Image& image, const QString& sRest, const PictureOwner& owner);
+/// Asks what is given, and tells nothing.
+ImageReader ReaderFinding(const PicturePlaces::Finder& find);

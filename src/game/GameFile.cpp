@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "game/GameFile.h"
 
-#include "board/basPosit.h"
-#include "document/basTAVL.h"
 #include "document/GameHost.h"
+#include "document/GameText.h"
 #include "game/Autosave.h"
 #include "game/Rescue.h"
 #include "platform/files/Files.h"
@@ -16,46 +15,6 @@
 
 namespace GameFile {
 namespace {
-
-const QString kSeparator = QStringLiteral(", ");
-
-QString Version() {
-    return QStringLiteral("%1.%2.%3")
-        .arg(TAVLORA_VERSION_MAJOR)
-        .arg(TAVLORA_VERSION_MINOR)
-        .arg(TAVLORA_VERSION_REVISION);
-}
-
-QString HeaderLine() {
-    // A file's name may hold a line break on some systems; the header must stay one line.
-    QString name = GameHost::Current().GameName();
-    name.replace(u'\r', u' ').replace(u'\n', u' ');
-    return basTAVL::Quote(QStringLiteral("TavloraGameBoard")) + kSeparator + Version() + kSeparator + name;
-}
-
-QString SpecialTexts(int iFirst, int iLast) {
-    QStringList fields;
-    for (int i = iFirst; i <= iLast; ++i)
-        fields.append(basTAVL::Quote(basPosit::m_CenterText(i).sText));
-    return fields.join(kSeparator);
-}
-
-QStringList RecordLines() {
-    QStringList lines;
-    for (int i = 0; i < basTAVL::kSpaces; ++i)
-        lines.append(basTAVL::g_oSpaces(i).GetQuotedString());
-    for (int i = 0; i < basTAVL::kCorners; ++i)
-        lines.append(basTAVL::g_oCorners(i).GetQuotedString());
-    for (int set = 0; set < basTAVL::kNewsSets; ++set) {
-        for (int i = 0; i < basTAVL::kCards; ++i)
-            lines.append(basTAVL::g_oNews(set, i).GetQuotedString());
-    }
-    for (int i = 0; i < basTAVL::kMoney; ++i)
-        lines.append(basTAVL::g_oMoney(i).GetQuotedString());
-    for (int i = 0; i < basTAVL::kTokens; ++i)
-        lines.append(basTAVL::g_oTokens(i).GetQuotedString());
-    return lines;
-}
 
 // The lines that are written one by one; a failure at each has words of its own.
 constexpr std::array<const char*, 3> kHeadLines = {"trying to print the header line", "trying to print the title line",
@@ -95,13 +54,11 @@ bool WriteRecords(Files::WholeFile& file, const QByteArray& bytes, const QString
 
 } // namespace
 
-QStringList ComposeLines() { return QStringList{HeaderLine(), SpecialTexts(1, 3), SpecialTexts(4, 5)} + RecordLines(); }
-
 void GameSave(const QString& sFileName, bool& bResult) try {
     bResult = false;
     GameHost& host = GameHost::Current();
     const bool underItsName = sFileName == host.GameName();
-    const QByteArray content = TextFile::Encode(TextFile::JoinLines(ComposeLines()));
+    const QByteArray content = TextFile::Encode(TextFile::JoinLines(ComposeLines(TheGame(), host.GameName())));
     QByteArray rest = content;
     Files::WholeFile file(sFileName);
     if (const std::optional<Failure> failure = WriteHead(file, sFileName, rest)) {

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
 
 /// Reads and writes a whole game: one text file, one line a record. Measures texts on the device of the
 /// GameHost that is installed, and tells it when the game is loaded or saved.
@@ -20,8 +19,5 @@ void GameSave(const QString& sFileName, bool& bResult);
 /// Tells that a game couldn't be read or written; iResult becomes -1.
 void ReportIOError(const QString& sError, const QString& sAction, const QString& sFileName, const QString& sDuring,
                    int& iResult);
-
-/// The lines of the game in memory, in the order of the file.
-QStringList ComposeLines();
 
 } // namespace GameFile

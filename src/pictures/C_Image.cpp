@@ -6,7 +6,6 @@
 #include "pictures/PicturePlaces.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
-#include "services/BoardFacts.h"
 #include "services/Desktop.h"
 #include "services/Kit.h"
 #include "services/RecordText.h"
@@ -48,10 +47,19 @@ void C_Image::TakeBadPath(const QString& sTold) const {
     if (sTold == m_picture.ref.sPath) Told().Note(Fault::Picture, sTold);
 }
 
-void C_Image::Let_FullPath(const QString& sNewPath) try {
-    if (sNewPath == m_picture.ref.sPath) return;
+// False where it shows that picture already.
+bool C_Image::Show(const QString& sNewPath) {
+    if (sNewPath == m_picture.ref.sPath) return false;
     m_picture.ref = PictureRef{sNewPath};
-    if (!basCommon::DoesFileExist(sNewPath)) Let_BadPath(sNewPath);
+    return true;
+}
+
+void C_Image::TellIfMissing(const C_Image& objBefore) const {
+    if (FullPath() != objBefore.FullPath() && !basCommon::DoesFileExist(FullPath())) Let_BadPath(FullPath());
+}
+
+void C_Image::Let_FullPath(const QString& sNewPath) try {
+    if (Show(sNewPath) && !basCommon::DoesFileExist(sNewPath)) Let_BadPath(sNewPath);
 } catch (...) {
     ErrTail("C_Image!", "Let_FullPath", sNewPath);
 }
@@ -61,8 +69,7 @@ QString C_Image::RelativePath() const try { return PicturePlaces::RelativeOf(m_p
 }
 
 void C_Image::Let_RelativePath(const QString& sRelativeFile) try {
-    const bool fate = ReadsFateItself(KitInUse()) && Owner().IsFate();
-    Let_FullPath(PicturePlaces::FullOf(fate ? QString::fromLatin1(BoardFacts::kFatePicture) : sRelativeFile));
+    Let_FullPath(PicturePlaces::FullFor(sRelativeFile, Owner(), KitInUse()));
 } catch (...) {
     ErrTail("C_Image!", "Let_RelativePath", sRelativeFile);
 }
@@ -118,13 +125,25 @@ QString C_Image::GetQuotedString() const try {
 
 QString C_Image::GetNextTest(QString& sText) { return basTAVL::GetQuotedField(sText); }
 
+void C_Image::ReadPart(QString& sRest) {
+    m_picture.ref.iXCenter = basTAVL::IntegerOrZero(GetNextTest(sRest));
+    m_picture.ref.iYCenter = basTAVL::IntegerOrZero(GetNextTest(sRest));
+    m_picture.ref.iZoom = basTAVL::IntegerOrZero(GetNextTest(sRest));
+}
+
+QString C_Image::Read(const QString& sIn, const PictureOwner& owner, const PicturePlaces::Finder& find) {
+    QString rest = sIn;
+    m_picture.owner = owner;
+    Show(find(GetNextTest(rest), owner));
+    ReadPart(rest);
+    return rest;
+}
+
 QString C_Image::SetQuotedString(const QString& sIn, const QString& sSpaceOrCorner, qint16 iIndex) try {
     QString rest = sIn;
     m_picture.owner = {PictureOwner::KindOf(sSpaceOrCorner), iIndex};
     Let_RelativePath(GetNextTest(rest));
-    m_picture.ref.iXCenter = basTAVL::IntegerOrZero(GetNextTest(rest));
-    m_picture.ref.iYCenter = basTAVL::IntegerOrZero(GetNextTest(rest));
-    m_picture.ref.iZoom = basTAVL::IntegerOrZero(GetNextTest(rest));
+    ReadPart(rest);
     return rest;
 } catch (...) {
     ErrTail("C_Image!", "SetQuotedString", sIn, sSpaceOrCorner, iIndex);

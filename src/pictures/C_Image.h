@@ -2,6 +2,7 @@
 #pragma once
 
 #include "pictures/OwnedPicture.h"
+#include "pictures/PicturePlaces.h"
 #include "platform/paint/Color.h"
 
 #include <QString>
@@ -79,6 +80,10 @@ public:
     /// Reads the four fields off the front and returns what is left. Raises the overflow error for a number
     /// outside 16 bits.
     QString SetQuotedString(const QString& sIn, const QString& sSpaceOrCorner, qint16 iIndex);
+    /// As SetQuotedString, but the picture is found by what is given, and a missing one isn't told.
+    QString Read(const QString& sIn, const PictureOwner& owner, const PicturePlaces::Finder& find);
+    /// What SetQuotedString tells beside reading: that the picture, which is another than this one, is missing.
+    void TellIfMissing(const C_Image& objBefore) const;
     /// Takes the next field off a record. The name is old and stays.
     static QString GetNextTest(QString& sText);
 
@@ -107,6 +112,8 @@ public:
 
 private:
     PictureRef Centered() const;
+    bool Show(const QString& sNewPath);
+    void ReadPart(QString& sRest);
     void TellBadPath(const QString& sText) const;
     /// Deletes the thumbnail's file; a failure is told, once for each file, and passed over.
     void KillThumb() const;

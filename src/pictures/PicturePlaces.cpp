@@ -66,6 +66,11 @@ QString FullOf(const QString& sName) {
     return name.isEmpty() ? QString() : Files::InDiskSpelling(PlaceOf(WithRootOfDrive(name)));
 }
 
+QString FullFor(const QString& sName, const PictureOwner& owner, Kit kit) {
+    const bool fate = ReadsFateItself(kit) && owner.IsFate();
+    return FullOf(fate ? QString::fromLatin1(BoardFacts::kFatePicture) : sName);
+}
+
 QString Fate() {
     return basCommon::JoinPath(Folders::ProgramDirectory(), QString::fromLatin1(BoardFacts::kFatePicture));
 }

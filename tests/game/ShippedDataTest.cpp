@@ -2,6 +2,7 @@
 // The text data that the build ships load without a word.
 #include "support/FileFixture.h"
 
+#include "document/GameText.h"
 #include "game/SampleGames.h"
 #include "platform/files/Folders.h"
 #include "platform/files/TextFile.h"
@@ -48,9 +49,9 @@ TEST_F(ShippedDataTest, EveryGameLoadsWholeAndSavesTheSameRecords) {
         ASSERT_EQ(Load(Shipped(game)), 0) << game.toStdString() << desktop.Texts().join(u'\n').toStdString();
         session.SetGameName(InGames(QStringLiteral("Copy.gam")));
         ASSERT_TRUE(Save(session.GameName()));
-        const QStringList before = GameFile::ComposeLines();
+        const QStringList before = ComposeLines(TheGame(), session.GameName());
         ASSERT_EQ(Load(QString(session.GameName())), 0);
-        EXPECT_EQ(GameFile::ComposeLines(), before) << game.toStdString();
+        EXPECT_EQ(ComposeLines(TheGame(), session.GameName()), before) << game.toStdString();
     }
     EXPECT_TRUE(desktop.boxes.isEmpty()) << desktop.Texts().join(u'\n').toStdString();
 }
@@ -103,7 +104,7 @@ TEST_F(ShippedDataTest, CopyOfTheFamilyFindsItsPicturesBesideTheProgramAndKeepsT
         EXPECT_TRUE(path.startsWith(Shipped(QStringLiteral("family/")))) << path.toStdString();
     // Another machine keeps the program elsewhere: what is saved again must not tell where it lies on this one.
     EXPECT_EQ(basTAVL::g_oSpaces(13).Image.RelativePath(), QStringLiteral("family/pond.png"));
-    const QStringList saved = GameFile::ComposeLines();
+    const QStringList saved = ComposeLines(TheGame(), session.GameName());
     EXPECT_FALSE(saved.join(u'\n').contains(QStringLiteral(TAVLORA_DATA_DIR)));
     EXPECT_TRUE(desktop.boxes.isEmpty()) << desktop.Texts().join(u'\n').toStdString();
 }
