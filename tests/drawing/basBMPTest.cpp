@@ -63,6 +63,7 @@ TEST_F(basBMPTest, Edge_SixteenBitsAndRunLengthsAreRefusedWithTheirReasons) {
 
 TEST_F(basBMPTest, Edge_TextNamedAsABitmapIsDeletedAfterTheBoxEvenWhenOnlyAskedForColours) {
     const QString path = WriteFile(QStringLiteral("letter.bmp"), "Dear Anna,");
+    desktop.onBox = [&path] { EXPECT_EQ(ReadFile(path), "Dear Anna,") << "whoever reads the box still has the file"; };
     EXPECT_FALSE(IsMonochromeBMP(path));
     EXPECT_EQ(desktop.Texts(),
               QStringList{QStringLiteral("File '") + path +

@@ -19,6 +19,7 @@ using namespace PictureFiles;
 
 constexpr QRgb kBoard = 0xFFE0FFE0;
 constexpr QRgb kWhite = 0xFFFFFFFF;
+constexpr QRgb kBlack = 0xFF000000;
 constexpr QRgb kRed = 0xFFFF0000;
 constexpr QRgb kGreen = 0xFF00FF00;
 constexpr QRgb kBlue = 0xFF0000FF;
@@ -84,13 +85,21 @@ TEST_F(frmBMPTest, Edge_WhiteOfALineDrawingTakesTheColourOfTheBoard) {
     const QImage art = Quarters(200, 200);
     const QImage side = Thumb(MonochromeBmp(art), QStringLiteral("a.bmp"), QStringLiteral("Space"), 0);
     const QImage corner = Thumb(MonochromeBmp(art), QStringLiteral("b.bmp"), QStringLiteral("Corner"), 0);
+    // All quarters but the white one at the lower right are dark enough to be black in a line drawing.
+    int ofTheBoard = 0;
     for (int y = 0; y < 100; ++y) {
         for (int x = 0; x < 100; ++x) {
+            const bool atEdge = std::abs(x - 50) < 2 || std::abs(y - 50) < 2;
+            if (!atEdge) {
+                EXPECT_EQ(side.pixel(x, y), x > 50 && y > 50 ? kBoard : kBlack) << x << ' ' << y;
+            }
             EXPECT_NE(side.pixel(x, y), kWhite);
             EXPECT_NE(corner.pixel(x, y), kWhite);
+            if (corner.pixel(x, y) == kBoard) ++ofTheBoard;
         }
     }
-    EXPECT_EQ(side.pixel(80, 80), kBoard);
+    // Half of the square lies beside the diamond, and a quarter of the diamond is paper.
+    EXPECT_NEAR(ofTheBoard, 5000 + 1250, 200);
 }
 
 TEST_F(frmBMPTest, Edge_OvalIsFullInTheMiddleAndShortAtTheLastRow) {

@@ -6,6 +6,7 @@ TestDesktop::~TestDesktop() { Desktop::Install(m_before); }
 
 int TestDesktop::MsgBox(const QString& sText, int iStyle, const QString& sTitle) {
     boxes.append({sText, iStyle, sTitle});
+    if (onBox) onBox();
     if (!answers.isEmpty()) return answers.takeFirst();
     const int buttons = iStyle & 0xF;
     return buttons == vbYesNo || buttons == vbYesNoCancel ? vbYes : vbOK;

@@ -38,6 +38,8 @@ public:
     QStringList Texts() const;
     /// Answers for the boxes to come, first one first; then the box's first button.
     QList<int> answers;
+    /// What happens while a box stands there, before it is answered.
+    std::function<void()> onBox;
     /// What a file or font dialog does; none means it is cancelled.
     std::function<bool(CommonDialog&)> onDialog;
     int slept = 0;

@@ -426,11 +426,14 @@ TEST_F(BrowseTest, Edge_APictureOnTheGamesDriveStaysWhereItIs) {
 }
 
 TEST_F(BrowseTest, Edge_AFileInTheRootGetsNoSecondSeparator) {
-    // The root of the machine is no place to write to, so any file there that the filter finds will do.
+    // The root of the machine is no place to write a picture to, so its name is put into the list by hand.
     Folders::PretendVolumes({{QStringLiteral("/"), QStringLiteral("debian")}});
     Browse(QString(), [](QWidget& window) {
         ChoosePlace(window, QStringLiteral("Computer"));
         EXPECT_EQ(Text(window, "lblCurrentDirectory"), QStringLiteral("/"));
+        Find<QListWidget>(window, "filList").addItem(QStringLiteral("cat.bmp"));
+        ClickFile(window, QStringLiteral("cat.bmp"));
+        EXPECT_EQ(Text(window, "lblFullFilePath"), QStringLiteral("/cat.bmp"));
         OpenFolder(window, QStringLiteral("tmp"));
         EXPECT_EQ(Text(window, "lblFullFilePath"), QStringLiteral("/tmp"));
         Click(window, "cmdCancel");

@@ -306,14 +306,26 @@ TEST_F(ImagePositionTest, Edge_DraggingTenPixelsRightAtScaleTwoLowersTheCenterBy
 }
 
 TEST_F(ImagePositionTest, Edge_ARightClickInTheMiddleLeavesTheCenterButForRounding) {
-    C_Image image = CenteredImage(201, 133);
-    image.Let_Zoom(7);
-    Position(image, [](QWidget& window) {
-        QTest::mouseClick(&Preview(window), Qt::RightButton, {}, QPoint(kWidth / 2, kWidth / 2));
-        Click(window, "cmdOK");
-    });
-    EXPECT_NEAR(image.XCenter(), 100, 1);
-    EXPECT_NEAR(image.YCenter(), 66, 1);
+    // What shows is 201 pixels wide at no zoom and 124 at step 7. Half of that less the center is rounded, and the
+    // center again: 101 - 100.5 is 0, and 0 + 100.5 is 100.
+    const struct {
+        int zoom;
+        QPoint before;
+        QPoint after;
+    } rows[] = {
+        {0, {100, 66}, {100, 66}}, {0, {101, 67}, {100, 66}}, {7, {100, 66}, {100, 66}}, {7, {93, 71}, {93, 71}}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.before.x());
+        C_Image image = CenteredImage(201, 133);
+        image.Let_Zoom(qint16(row.zoom));
+        image.Let_XCenter(float(row.before.x()));
+        image.Let_YCenter(float(row.before.y()));
+        Position(image, [](QWidget& window) {
+            QTest::mouseClick(&Preview(window), Qt::RightButton, {}, QPoint(kWidth / 2, kWidth / 2));
+            Click(window, "cmdOK");
+        });
+        EXPECT_EQ(QPointF(image.XCenter(), image.YCenter()), QPointF(row.after));
+    }
 }
 
 TEST_F(ImagePositionTest, Edge_NothingLimitsTheCenterToThePicture) {
