@@ -38,13 +38,49 @@ TEST_F(ToolBarAndMenusTest, Edge_PrinterSetupRefusesAfterPrintingUntilTheNextSta
 }
 
 TEST_F(ToolBarAndMenusTest, Edge_PressOnAnEmptyPartOfTheToolbarDoesNothing) {
-    for (const QPoint at : {QPoint(73, 12), QPoint(315, 12), QPoint(10, 0), QPoint(10, 25)}) {
-        QTest::mousePress(&ToolBar(), Qt::LeftButton, {}, at);
-        QTest::mouseRelease(&ToolBar(), Qt::LeftButton, {}, at);
+    QList<QPoint> empty;
+    // Left edges of the live faces, which are 23 pixels wide and stand from 2 to 23.
+    for (const int left : {2, 25, 48, 77, 106, 129, 152, 178, 206, 229, 252, 275}) {
+        for (const int y : {0, 1, 24, 25})
+            empty.append(QPoint(left + 11, y));
     }
-    EXPECT_TRUE(routes.Take().isEmpty());
-    EXPECT_TRUE(desktop.boxes.isEmpty());
-    EXPECT_FALSE(desktop.ended) << "the exit face is dead";
+    // Ahead of the faces, between them, on the dead face of the exit and behind it.
+    for (const int x : {0, 1, 71, 73, 76, 100, 105, 175, 177, 201, 205, 298, 303, 304, 315, 326, 329})
+        empty.append(QPoint(x, 12));
+
+    // Marks that every command of the toolbar would wipe out or leave something beside.
+    const QString mark = InGames(QStringLiteral("Mark.gam"));
+    Session& session = window->Commands().InHand();
+    session.SetGameName(mark);
+    int dialogs = 0;
+    desktop.onDialog = [&](CommonDialog&) { return ++dialogs < 0; };
+    for (const int zoom : {1, 2}) {
+        ClickToolBar(7 + zoom);
+        for (const QPoint at : empty) {
+            QTest::mousePress(&ToolBar(), Qt::LeftButton, {}, at);
+            QTest::mouseRelease(&ToolBar(), Qt::LeftButton, {}, at);
+            const bool untouched = session.GameName() == mark && window->View().Zoom() == float(zoom) && dialogs == 0 &&
+                                   routes.Take().isEmpty() && desktop.boxes.isEmpty() && !desktop.ended &&
+                                   !HasFile(QStringLiteral("Mark.gam"));
+            ASSERT_TRUE(untouched) << "a press at " << at.x() << ", " << at.y();
+        }
+    }
+}
+
+TEST_F(ToolBarAndMenusTest, FacesOfTheToolbarReachToTheirEdges) {
+    desktop.onDialog = [](CommonDialog&) { return false; };
+    const struct {
+        int left;
+        const char* door;
+    } faces[] = {{77, "print"}, {106, "money"}, {129, "news 0"}, {152, "news 1"}, {178, "tokens"}};
+    for (const auto& face : faces) {
+        for (const QPoint at :
+             {QPoint(face.left, 2), QPoint(face.left + 22, 2), QPoint(face.left, 23), QPoint(face.left + 22, 23)}) {
+            QTest::mousePress(&ToolBar(), Qt::LeftButton, {}, at);
+            QTest::mouseRelease(&ToolBar(), Qt::LeftButton, {}, at);
+            EXPECT_EQ(routes.Take(), Strings{QString::fromLatin1(face.door)}) << at.x() << ", " << at.y();
+        }
+    }
 }
 
 TEST_F(ToolBarAndMenusTest, ToolbarButtonsRunTheirCommands) {

@@ -69,15 +69,9 @@ TEST_F(MoneySheetTest, EveryNoteStandsAtItsPlaceAndTouchesItsNeighbours) {
     EXPECT_EQ(steps, (QList<int>{0, 100, 200, 300, 400, 500, 600, 700, 800, 900}));
 }
 
-TEST_F(MoneySheetTest, Edge_SeveralCopiesMakeThePictureOnceAndRepeatThePage) {
+TEST_F(MoneySheetTest, SeveralCopiesRepeatThePage) {
     if (!PdfReader::IsInstalled()) GTEST_SKIP() << "poppler's tools are not installed";
-    int written = 0;
-    Files::SetFaultHook([&written](Files::Operation operation, const QString& sPath) -> std::optional<QString> {
-        if (operation == Files::Operation::OpenWrite && sPath.endsWith(QStringLiteral("MoneyImage.bmp"))) ++written;
-        return std::nullopt;
-    });
     ASSERT_TRUE(PrintCopies(3));
-    EXPECT_EQ(written, 1);
     ASSERT_EQ(reader.Pages(), 3);
     for (int page = 1; page <= 3; ++page)
         ExpectNotes(page);

@@ -91,7 +91,7 @@ TEST_F(PiecesTest, Edge_ANineInchLineNeedsThreeBandsOn1024PixelsAndUnfoldsToTheS
                 {{1024, 588 + 24}, 10.17, {3051, 147}}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.inches);
-        Screen::SetSurfaceLimit(row.surface);
+        ScratchForm::SetLargestSize(row.surface);
         ASSERT_TRUE(Line(folded, row.inches, text));
         EXPECT_EQ(Load(folded).size(), row.line);
     }

@@ -98,7 +98,7 @@ TEST_F(ErrLogTest, Edge_ARoutineWithoutArgumentsStandsWithoutBrackets) {
               QStringLiteral("basTest!Plain\r\n\r\nwhy"));
 }
 
-TEST_F(ErrLogTest, Edge_WithAReadOnlyLogEverythingRunsAndNothingIsSaid) {
+TEST_F(ErrLogTest, AnEntryThatCantBeWrittenIsLostWithoutAWord) {
     ErrInit(60000);
     Files::SetFaultHook([](Files::Operation operation, const QString&) -> std::optional<QString> {
         if (operation == Files::Operation::OpenAppend) return QStringLiteral("Permission denied");
@@ -119,7 +119,7 @@ TEST_F(ErrLogTest, LogThatIsAPipeLosesItsEntriesAtOnceAndNothingIsSaid) {
 }
 #endif
 
-TEST_F(ErrLogTest, Edge_CancelEndsTheProgramAndTouchesNoAutosave) {
+TEST_F(ErrLogTest, CancelEndsTheProgramAndTouchesNoAutosave) {
     ErrInit(60000);
     const QString autosave = WriteFile(QStringLiteral("~AutoSave.dat"), "unsaved work");
     desktop.answers = {vbCancel};

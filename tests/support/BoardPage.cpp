@@ -6,10 +6,8 @@
 #include "platform/printing/Printer.h"
 
 #include <QImage>
-#include <QLineF>
 
 #include <cmath>
-#include <numbers>
 
 using namespace basPosit;
 using namespace basTAVL;
@@ -17,40 +15,10 @@ using namespace basTAVL;
 namespace {
 
 constexpr int kDpi = 600;
-// A place is rounded more than once on its way to the page.
-constexpr double kPlaceWithin = 1.6;
 
 Color ToColor(QColor color) { return Color::Rgb(color.red(), color.green(), color.blue()); }
 
-bool IsNear(QColor a, QColor b) {
-    return std::abs(a.red() - b.red()) < 2 && std::abs(a.green() - b.green()) < 2 && std::abs(a.blue() - b.blue()) < 2;
-}
-
-QPointF AnchorOf(const PageMark& text, char align) {
-    const double radians = text.angle * std::numbers::pi / 1800;
-    const double part = align == 'C' ? 0.5 : align == 'R' ? 1 : 0;
-    return text.start + QPointF(std::cos(radians), -std::sin(radians)) * text.width * part;
-}
-
 } // namespace
-
-const std::vector<KnownFace>& KnownFaces() {
-    static const std::vector<KnownFace> faces = {
-        {"Arial", false, false, "LiberationSans", "ArialMT", 0.4416},
-        {"Arial", true, false, "LiberationSans-Bold", "Arial-BoldMT", 0.4786},
-        {"Arial", false, true, "LiberationSans-Italic", "Arial-ItalicMT", 0.4416},
-        {"Arial", true, true, "LiberationSans-BoldItalic", "Arial-BoldItalicMT", 0.4786},
-        {"Times New Roman", false, false, "LiberationSerif", "TimesNewRomanPSMT", 0.4013},
-        {"Times New Roman", true, false, "LiberationSerif-Bold", "TimesNewRomanPS-BoldMT", 0.4270},
-        {"Times New Roman", false, true, "LiberationSerif-Italic", "TimesNewRomanPS-ItalicMT", 0.4022},
-        {"Times New Roman", true, true, "LiberationSerif-BoldItalic", "TimesNewRomanPS-BoldItalicMT", 0.4122},
-        {"Courier New", false, false, "LiberationMono", "CourierNewPSMT", 0.6001},
-        {"Courier New", true, false, "LiberationMono-Bold", "CourierNewPS-BoldMT", 0.6001},
-        {"Courier New", false, true, "LiberationMono-Italic", "CourierNewPS-ItalicMT", 0.6001},
-        {"Courier New", true, true, "LiberationMono-BoldItalic", "CourierNewPS-BoldItalicMT", 0.6001},
-    };
-    return faces;
-}
 
 BoardPageTest::BoardPageTest() {
     Let_g_sGameVersion(QStringLiteral("8"));
@@ -62,14 +30,6 @@ BoardPageTest::BoardPageTest() {
 
 int BoardPageTest::Nearest(double value) { return int(std::nearbyint(value)); }
 int BoardPageTest::Lower(double value) { return int(std::floor(value)); }
-
-const KnownFace& BoardPageTest::Face(const char* family, bool bold, bool italic) {
-    for (const KnownFace& face : KnownFaces()) {
-        if (QLatin1String(face.family) == QLatin1String(family) && face.bold == bold && face.italic == italic)
-            return face;
-    }
-    throw std::invalid_argument(family);
-}
 
 const KnownFace& BoardPageTest::FaceOf(int number) { return KnownFaces()[size_t(number) % KnownFaces().size()]; }
 
@@ -156,33 +116,6 @@ QStringList BoardPageTest::TextsOf(const QList<PageMark>& marks) {
     for (const PageMark& mark : Only(marks, PageMark::Kind::Text))
         texts.append(mark.sText);
     return texts;
-}
-
-void BoardPageTest::ExpectText(const QList<PageMark>& marks, const ToldText& told) {
-    const std::string what = told.sText.toStdString();
-    const PageMark* nearest = nullptr;
-    double distance = 1e9;
-    for (const PageMark& mark : marks) {
-        if (mark.kind != PageMark::Kind::Text || mark.sText != told.sText) continue;
-        const double away = QLineF(AnchorOf(mark, told.align), QPointF(told.x, told.y)).length();
-        if (away < distance) nearest = &mark;
-        distance = std::min(away, distance);
-    }
-    ASSERT_TRUE(nearest) << what << " isn't on the page";
-    const QPointF anchor = AnchorOf(*nearest, told.align);
-    EXPECT_NEAR(anchor.x(), told.x, kPlaceWithin) << what;
-    EXPECT_NEAR(anchor.y(), told.y, kPlaceWithin) << what;
-    EXPECT_NEAR(nearest->angle, told.angle, 0.5) << what;
-    EXPECT_TRUE(IsNear(nearest->color, told.color)) << what << ": " << nearest->color.name().toStdString();
-    EXPECT_TRUE(nearest->sFace == QLatin1String(told.face->onPage) ||
-                nearest->sFace == QLatin1String(told.face->orOnPage))
-        << what << ": " << nearest->sFace.toStdString() << " and not " << told.face->onPage;
-    EXPECT_NEAR(nearest->height, told.height, 0.05) << what;
-    if (told.letter == 0) {
-        EXPECT_NEAR(nearest->stretch, 1, 0.002) << what;
-    } else {
-        EXPECT_NEAR(nearest->stretch * told.face->average * nearest->em, told.letter, 0.05) << what;
-    }
 }
 
 void BoardPageTest::ExpectBox(const QRectF& found, double left, double top, double right, double bottom,

@@ -2,37 +2,7 @@
 #pragma once
 
 #include "support/BoardFixture.h"
-#include "support/PageMarks.h"
-
-#include <vector>
-
-/// A font as a game asks for it and as a page then names it.
-struct KnownFace {
-    const char* family;
-    bool bold;
-    bool italic;
-    /// With the free fonts that stand in for them, and with the originals.
-    const char* onPage;
-    const char* orOnPage;
-    /// Average advance of a letter, weighted by how often each occurs in text, in parts of the em.
-    double average;
-};
-const std::vector<KnownFace>& KnownFaces();
-
-/// A text as it must stand on a page, in units of the page.
-struct ToldText {
-    QString sText = {};
-    const KnownFace* face = nullptr;
-    /// Where it is anchored: its top left, the middle of its top, or its top right.
-    double x = 0;
-    double y = 0;
-    char align = 'C';
-    double height = 0;
-    /// Width of an average letter; 0 for the font's own.
-    double letter = 0;
-    int angle = 0;
-    QColor color = Qt::black;
-};
+#include "support/ToldText.h"
 
 /// The board painted on a page, and what stands there. All texts, fonts, colours and pictures of its game differ, so
 /// that nothing can stand in for anything else. Expectations come from the numbers told for the board and from
@@ -57,8 +27,6 @@ protected:
     static int Nearest(double value);
     static int Lower(double value);
 
-    /// A font of the list.
-    static const KnownFace& Face(const char* family, bool bold, bool italic);
     /// The font of a space or corner of the game.
     static const KnownFace& FaceOf(int number);
     static QString LineOf(int iSpace, int iLine);
@@ -83,7 +51,6 @@ protected:
     static QList<PageMark> Only(const QList<PageMark>& marks, PageMark::Kind kind);
     static QList<PageMark> OfColor(const QList<PageMark>& marks, QColor color);
     static QStringList TextsOf(const QList<PageMark>& marks);
-    static void ExpectText(const QList<PageMark>& marks, const ToldText& told);
     static void ExpectBox(const QRectF& found, double left, double top, double right, double bottom, const char* what,
                           int number = 0);
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "support/ModalWatch.h"
 #include "support/TestDesktop.h"
 
 #include <QString>
@@ -10,7 +11,8 @@
 
 #include <ostream>
 
-/// A fresh My Games directory, fresh settings and a desktop that answers, for each test.
+/// A fresh My Games directory, fresh settings and a desktop that answers, for each test. No window that a test
+/// doesn't expect hangs it.
 class TavloraTest : public testing::Test {
 protected:
     TavloraTest();
@@ -24,6 +26,9 @@ protected:
 
     TestDesktop desktop;
     QTemporaryDir folder;
+
+private:
+    ModalWatch m_watch;
 };
 
 /// Full path of a file or folder of the measured behaviour handed to the project; empty where it is absent,
