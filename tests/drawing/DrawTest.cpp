@@ -191,6 +191,36 @@ TEST_F(DrawTest, ReleaseGivesBackWhatWasSelectedBefore) {
     EXPECT_EQ(context.TextColor(), Color::Rgb(3, 3, 3));
 }
 
+// The same colour again would otherwise be taken to be in force still.
+TEST_F(DrawTest, ReleaseForgetsTheColorOfTheTextBefore) {
+    const Color own = Color::Rgb(3, 3, 3);
+    const Color red = Color::Rgb(200, 0, 0);
+    context.SetTextColor(own);
+    for (int pass = 0; pass < 2; ++pass) {
+        UseFont(20);
+        Draw_Text(QStringLiteral("x"), L, 0, 0, red);
+        EXPECT_EQ(context.TextColor(), red) << pass;
+        Draw_ReleaseObjects();
+        EXPECT_EQ(context.TextColor(), own) << pass;
+    }
+}
+
+TEST_F(DrawTest, ReleaseEndsAReversalThatAFailureLeftOn) {
+    const Color own = Color::Rgb(250, 250, 1);
+    context.SetBkColor(own);
+    UseFont(20);
+    Draw_SetSelection(1, 0, 1, 1);
+    EXPECT_THROW(Draw_TextArrayShowingSelection({QStringLiteral("HH"), QStringLiteral("HH")}, QStringLiteral("X"), 9, 9,
+                                                Color::Rgb(0, 0, 128)),
+                 TavloraError);
+    EXPECT_EQ(context.CurrentBkMode(), BkMode::Opaque);
+    EXPECT_EQ(context.BkColor(), Color::Rgb(0, 0, 128));
+    Draw_ReleaseObjects();
+    EXPECT_EQ(context.CurrentBkMode(), BkMode::Transparent);
+    EXPECT_EQ(context.BkColor(), own);
+    EXPECT_EQ(context.TextColor(), Color::Black());
+}
+
 TEST_F(DrawTest, AlignmentsPutTheTextFromAboutAndUpToThePoint) {
     UseFont(30);
     const QString text = QStringLiteral("HHHHH");
