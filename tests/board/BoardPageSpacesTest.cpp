@@ -211,7 +211,10 @@ TEST_F(BoardSpacesTest, CornersShowTheirFirstBlockAlongTheDiagonal) {
 }
 
 // On a board of 4800 units, worked out by hand: the letters' heights are 57, 43 and 38, their widths 19, 13 and 16.
-TEST_F(BoardSpacesTest, LottoShowsItsHeadItsRulesAndItsTable) {
+TEST_F(BoardSpacesTest, Edge_LottoSpaceShowsBandCostAndPanelButNeverItsOwnText) {
+    MakeGame();
+    for (const int i : {10, 24})
+        g_oSpaces(i).Image.Let_FullPath(PictureOf(PictureColor(i), QStringLiteral("lotto%1.bmp").arg(i)));
     struct Line {
         const char* text;
         double x;
@@ -263,6 +266,16 @@ TEST_F(BoardSpacesTest, LottoShowsItsHeadItsRulesAndItsTable) {
     const QStringList texts = TextsOf(marks);
     EXPECT_EQ(texts.count(QStringLiteral("8 to 1")), 4);
     EXPECT_EQ(texts.count(QStringLiteral("PLACE YOUR BET")), 2);
+    EXPECT_EQ(texts.count(QStringLiteral("PLAY LOTTO")), 2);
+    for (const int i : {10, 24}) {
+        EXPECT_EQ(OfColor(Only(marks, PageMark::Kind::Area), BandColor(i)).size(), 1) << i;
+        EXPECT_EQ(OfColor(Only(marks, PageMark::Kind::Text), CostColor(i)).size(), 1) << i;
+        EXPECT_FALSE(texts.contains(LineOf(i, 0))) << i;
+        EXPECT_TRUE(OfColor(marks, PictureColor(i)).isEmpty()) << i;
+    }
+    // The same record on any other space shows both.
+    EXPECT_TRUE(texts.contains(LineOf(9, 0)));
+    EXPECT_FALSE(OfColor(marks, PictureColor(9)).isEmpty());
 }
 
 TEST_F(BoardSpacesTest, PicturesOfSpacesStandInTheirBoxes) {
@@ -307,12 +320,17 @@ TEST_F(BoardSpacesTest, PicturesOfCornersStandInTheirBoxesWhileTheBoardIsOnScree
 }
 
 // Three quarters as wide as high, in the box that the corner's picture fills.
-TEST_F(BoardSpacesTest, CornerOfFateShowsTheKitsPictureInItsOwnShape) {
+TEST_F(BoardSpacesTest, Edge_FixedCornerShowsTheKitsPictureAndNeverItsText) {
     MakeGame();
-    for (const char* version : {"8", "5", "2"}) {
+    // The other kit first, as the two others give the corner the path of their picture.
+    for (const char* version : {"2", "8", "5"}) {
         SCOPED_TRACE(version);
         Let_g_sGameVersion(QString::fromLatin1(version));
-        const QList<PageMark> pictures = Only(Paint(), PageMark::Kind::Picture);
+        const bool fixed = g_sGameVersion() != QStringLiteral("2");
+        const QList<PageMark> marks = Paint();
+        EXPECT_EQ(TextsOf(marks).contains(QStringLiteral("Corner 3a")), !fixed);
+        EXPECT_EQ(g_oCorners(3).Image.FullPath() == PathOf(QStringLiteral("program/fate.dat")), fixed);
+        const QList<PageMark> pictures = Only(marks, PageMark::Kind::Picture);
         EXPECT_TRUE(OfColor(pictures, PictureColor(kSpaces + 3)).isEmpty()) << "the user's own";
         const QList<PageMark> fate = OfColor(pictures, kFateColor);
         ASSERT_EQ(fate.size(), 1);
@@ -324,21 +342,31 @@ TEST_F(BoardSpacesTest, CornerOfFateShowsTheKitsPictureInItsOwnShape) {
     }
 }
 
-TEST_F(BoardSpacesTest, SpacesOutOfViewShowNeitherFillingNorTextNorPicture) {
+TEST_F(BoardSpacesTest, Edge_SpaceScrolledOutOfViewIsNotFilledAndNotShowing) {
     MakeGame();
-    // Twice as large, from the middle of the board on: sides 0 and 3 are in view.
-    const QList<PageMark> marks = Paint({.scale = kScale, .offsetX = -2400, .offsetY = -2400, .width = 2400});
-    const QList<PageMark> pictures = Only(marks, PageMark::Kind::Picture);
-    const QStringList texts = TextsOf(marks);
-    for (int i = 0; i < kSpaces; ++i) {
-        const Box whole = Whole(i);
-        const bool inView = whole.x2 >= 0.5 && whole.y2 >= 0.5;
-        EXPECT_EQ(g_oSpaces(i).IsShowing, inView) << i;
-        EXPECT_EQ(!OfColor(pictures, PictureColor(i)).isEmpty(), inView && HasPicture(i) && !IsLottoSpace(i)) << i;
-        EXPECT_EQ(texts.contains(LineOf(i, 0)), inView && !IsLottoSpace(i)) << i;
-        EXPECT_EQ(!OfColor(marks, BandColor(i)).isEmpty(), inView && i != 1 && i != 3 && i != 17 && i != 26) << i;
-        EXPECT_EQ(!OfColor(marks, CostColor(i)).isEmpty(), i != 3 && i != 17) << "costs are drawn for all: " << i;
+    // A quarter of the board: from its middle to the lower right, and from the upper left to its middle.
+    for (const int offset : {-kScale / 2, 0}) {
+        SCOPED_TRACE(offset);
+        const QList<PageMark> marks = Paint({.offsetX = offset, .offsetY = offset, .width = kScale / 2});
+        const QList<PageMark> pictures = Only(marks, PageMark::Kind::Picture);
+        const QStringList texts = TextsOf(marks);
+        int showing = 0;
+        for (int i = 0; i < kSpaces; ++i) {
+            const Box whole = Whole(i);
+            const bool inView = offset < 0 ? whole.x2 > 0.5 && whole.y2 > 0.5 : whole.x1 < 0.5 && whole.y1 < 0.5;
+            const bool colored = i != 1 && i != 3 && i != 17 && i != 26;
+            EXPECT_EQ(g_oSpaces(i).IsShowing, inView) << i;
+            EXPECT_EQ(!OfColor(pictures, PictureColor(i)).isEmpty(), inView && HasPicture(i) && !IsLottoSpace(i)) << i;
+            EXPECT_EQ(texts.contains(LineOf(i, 0)), inView && !IsLottoSpace(i)) << i;
+            EXPECT_EQ(!OfColor(marks, BandColor(i)).isEmpty(), inView && colored) << i;
+            EXPECT_EQ(!OfColor(marks, CostColor(i)).isEmpty(), i != 3 && i != 17) << "costs are drawn for all: " << i;
+            showing += inView;
+        }
+        EXPECT_EQ(showing, 8);
     }
+    Paint();
+    for (int i = 0; i < kSpaces; ++i)
+        EXPECT_TRUE(g_oSpaces(i).IsShowing) << i;
 }
 
 // Whatever is painted later may hide what is painted before.

@@ -224,6 +224,33 @@ TEST_F(RentsTest, OrdinarySideNameKeepsEightUnits) {
     EXPECT_EQ(ErrorOf([] { SetSideText(4, QString()); }), ErrNumber::kSubscript);
 }
 
+// Letters 8 wide on average: an n is 10.21 and an i 4.65 in bold, plain an i would be 4.03. The limit is 268.
+TEST_F(RentsTest, SideNameIsMeasuredInBoldAgainstItsLimit) {
+    const struct {
+        QChar letter;
+        int count;
+        int width;
+    } rows[] = {{u'n', 26, 8}, {u'n', 27, 4}, {u'i', 57, 8}, {u'i', 60, 4}, {u'n', 52, 2}};
+    for (const auto& row : rows) {
+        SetSideText(0, QString(row.count, row.letter));
+        EXPECT_FLOAT_EQ(m_SideRec(0).fFontWidth, float(row.width) / 500) << row.count;
+        EXPECT_FLOAT_EQ(m_SideRec(0).fFontHeight, 0.019F);
+    }
+}
+
+// Letters 25 wide on average: an n is 31.08 in italics. The limit is 898 times 1.2, which 34 of them keep.
+TEST_F(RentsTest, SubtitleMayBeAFifthLongerThanItsLimit) {
+    PosInit();
+    const struct {
+        int count;
+        int width;
+    } rows[] = {{28, 25}, {30, 25}, {34, 25}, {35, 24}, {70, 12}};
+    for (const auto& row : rows) {
+        SetSpecialText(2, QString(row.count, u'n'));
+        EXPECT_FLOAT_EQ(m_CenterText(2).fFontWidth, float(row.width) / 2500) << row.count;
+    }
+}
+
 TEST_F(RentsTest, TitleWordAlwaysSpansItsPartOfTheBox) {
     PosInit();
     for (const char* word : {"TAVLO", "WE", "Long"}) {
