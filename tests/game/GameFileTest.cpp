@@ -90,7 +90,31 @@ TEST_F(LoadTest, Edge_AutosaveKeepsTheUnsavedStateAndBringsBackTheRealName) {
 TEST_F(LoadTest, Edge_AutosaveCarriesTheGamesNameInItsHeader) {
     session.SetGameName(QStringLiteral("/somewhere/Trip.gam"));
     session.SetSomethingChanged(true);
-    EXPECT_TRUE(ReadFile(autosave).startsWith("\"TavloraGameBoard\", 8.0.0, /somewhere/Trip.gam\r\n"));
+    const QByteArray header = "\"TavloraGameBoard\", 8.0.0, /somewhere/Trip.gam\r\n";
+    EXPECT_TRUE(ReadFile(autosave).startsWith(header));
+    for (const char* name : {"~AutoSave.dat", "~AutoSave.bak", "Elsewhere.gam"}) {
+        const QString path = InGames(QString::fromLatin1(name));
+        EXPECT_TRUE(Save(path));
+        EXPECT_TRUE(ReadFile(path).startsWith(header)) << name;
+    }
+}
+
+TEST_F(LoadTest, AutosaveIsKnownByItsBaseNameInAnyCase) {
+    QStringList lines = PlainLines();
+    lines[0] = QStringLiteral("\"TavloraGameBoard\", 8.0.7, /somewhere/Trip.gam");
+    const struct {
+        const char* file;
+        bool autosave;
+    } rows[] = {{"~AutoSave.dat", true},   {"~autosave.bak", true}, {"~AUTOSAVE.gam", true},
+                {"~AutoSave2.dat", false}, {"AutoSave.dat", false}, {"x~AutoSave.dat", false}};
+    for (const auto& row : rows) {
+        session.SetSomethingChanged(true);
+        QString name = WriteGame(lines, QString::fromLatin1(row.file));
+        const QString path = name;
+        ASSERT_EQ(Load(name), 0) << row.file;
+        EXPECT_EQ(name, row.autosave ? QStringLiteral("/somewhere/Trip.gam") : path) << row.file;
+        EXPECT_EQ(session.IsUnsaved(), row.autosave) << row.file;
+    }
 }
 
 TEST_F(LoadTest, Edge_CardWithTheWrongIndexAlwaysReportsNumberFour) {
@@ -127,7 +151,9 @@ TEST_F(LoadTest, EveryRecordIsRead) {
     EXPECT_EQ(basTAVL::g_oMoney(3).Text(1), QStringLiteral("Note 3"));
     EXPECT_EQ(basTAVL::g_oMoney(2).BackImage.FullPath(), PathOf(QStringLiteral("program/BLNK1000.dat")));
     EXPECT_EQ(basTAVL::g_oTokens(5).TextAll(), QStringLiteral("Token 5"));
-    EXPECT_EQ(basPosit::m_SideRec(2).sText, QStringLiteral("The North Side"));
+    const char* const sides[] = {"The South Side", "The West Side", "The North Side", "The East Side"};
+    for (int i = 0; i < 4; ++i)
+        EXPECT_EQ(basPosit::m_SideRec(i).sText, QString::fromLatin1(sides[i]));
     EXPECT_EQ(m_CenterText(16).sText, QStringLiteral("Labels for\r\nDeed Card Sheet #2"));
     EXPECT_TRUE(desktop.boxes.isEmpty());
 }
@@ -327,14 +353,17 @@ TEST_F(LoadTest, ThumbnailsOfNotesAndTokensAreFetchedAndNoneStopsTheLoad) {
 }
 
 // What the format itself changes in a text, from memory to file and back.
-TEST_F(LoadTest, TitlesAreDecodedTwice) {
+TEST_F(LoadTest, TitlesAndNewsHeadsAreDecodedTwice) {
     QStringList lines = PlainLines();
     lines[1] = QStringLiteral("\"a\\\\\\\\nb\", \"c\\\\\\\\qd\", \"e\\nf\"");
+    lines[2] = QStringLiteral("\"g\\\\\\\\nh\", \"i\\\\\\\\qj\"");
     EXPECT_EQ(Load(WriteGame(lines)), 0);
     // Four backslashes are halved by each of the field's two passes; the second decoding finds one left.
     EXPECT_EQ(m_CenterText(1).sText, QStringLiteral("a\r\nb"));
     EXPECT_EQ(m_CenterText(2).sText, QStringLiteral("c\"d"));
     EXPECT_EQ(m_CenterText(3).sText, QStringLiteral("e\r\nf"));
+    EXPECT_EQ(m_CenterText(4).sText, QStringLiteral("g\r\nh"));
+    EXPECT_EQ(m_CenterText(5).sText, QStringLiteral("i\"j"));
 }
 
 TEST_F(LoadTest, EmptyTextOfASpaceComesBackAsNotFilledIn) {
