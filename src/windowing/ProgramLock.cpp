@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "windowing/ProgramLock.h"
 
-#include <QCryptographicHash>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QFileInfo>
-#include <QLocalServer>
-#include <QLocalSocket>
+#include <QSysInfo>
 #include <QThread>
 
 #include <algorithm>
@@ -14,27 +13,71 @@
 namespace {
 
 const char* const kLockName = ".tavlora.lock";
-constexpr int kAnswerMilliseconds = 2000;
 constexpr int kBetweenTries = 20;
+// A file that names nobody may be one that another start is just writing.
+constexpr int kUntilGarbage = 300;
+// What is longer was never written by this program.
+constexpr qint64 kLongestNote = 4096;
 
 // The file of a process that is gone can't be taken over where nothing can be deleted.
 bool TakesFiles(const QString& sFolder) { return QFileInfo(sFolder).isWritable(); }
 
 } // namespace
 
+// What the file says, as the toolkit writes it: a line each.
+struct ProgramLock::Note {
+    qint64 process = 0;
+    QString sComputer;
+    QByteArray machine;
+    bool bReadable = true;
+
+    bool NamesNobody() const { return bReadable && process <= 0; }
+    bool IsOfThisComputer() const {
+        // The computer's own number outlives a change of its name.
+        const QByteArray ours = QSysInfo::machineUniqueId();
+        if (!machine.isEmpty() && !ours.isEmpty()) return machine == ours;
+        return sComputer.isEmpty() || sComputer == QSysInfo::machineHostName();
+    }
+};
+
 ProgramLock::ProgramLock(const QString& sFolder, QObject* parent)
     : QObject(parent), m_folder(QDir(sFolder).canonicalPath()),
-      m_file(QDir(sFolder).filePath(QString::fromLatin1(kLockName))) {
+      m_path(QDir(sFolder).filePath(QString::fromLatin1(kLockName))), m_file(m_path), m_socket(m_folder) {
     // However old the file is, the process that wrote it decides.
     m_file.setStaleLockTime(0);
+    connect(&m_socket, &StartSocket::Called, this, &ProgramLock::Called);
 }
 
 ProgramLock::~ProgramLock() { Release(); }
 
+ProgramLock::Note ProgramLock::ReadNote() const {
+    QFile file(m_path);
+    const bool plain = QFileInfo(m_path).isFile() && file.size() <= kLongestNote;
+    if (!plain) return {};
+    if (!file.open(QIODevice::ReadOnly)) return {0, QString(), QByteArray(), false};
+    QList<QByteArray> lines = file.readAll().split('\n');
+    lines.resize(4);
+    return {lines[0].trimmed().toLongLong(), QString::fromUtf8(lines[2].trimmed()), lines[3].trimmed(), true};
+}
+
+// False when somebody else has the file. One that can't be made keeps nobody out.
+bool ProgramLock::TakeFile() {
+    const QFileInfo inItsPlace(m_path);
+    // A pipe would be waited for.
+    if (inItsPlace.exists() && !inItsPlace.isFile()) return false;
+    return m_file.tryLock() || m_file.error() != QLockFile::LockFailedError || !TakesFiles(m_folder);
+}
+
 bool ProgramLock::Take() {
-    if (!m_file.tryLock() && m_file.error() == QLockFile::LockFailedError && TakesFiles(m_folder)) return false;
-    Listen();
+    if (!TakeFile()) return false;
+    m_socket.Listen();
     return true;
+}
+
+// Only a file that could be ours; the toolkit sees to it that nobody holds it by now.
+bool ProgramLock::ClearNote() {
+    const QFileInfo info(m_path);
+    return info.isFile() && info.size() <= kLongestNote && m_file.removeStaleLockFile();
 }
 
 ProgramLock::Start ProgramLock::TakeOrCall(const QString& sGame, int milliseconds) {
@@ -44,59 +87,31 @@ ProgramLock::Start ProgramLock::TakeOrCall(const QString& sGame, int millisecond
         if (Take()) return Start::Taken;
         const int left = int(std::max<qint64>(milliseconds - tried.elapsed(), 0));
         if (CallHolder(sGame, left)) return Start::HandedOver;
+        const Note note = ReadNote();
+        if (note.NamesNobody() && tried.elapsed() >= kUntilGarbage) {
+            TakeAnyway();
+            return Start::Taken;
+        }
+        if (!note.NamesNobody() && !note.IsOfThisComputer()) return Start::OtherComputer;
         if (tried.elapsed() >= milliseconds) return Start::NoAnswer;
         QThread::msleep(kBetweenTries);
     }
 }
 
+void ProgramLock::TakeAnyway() {
+    ClearNote();
+    TakeFile();
+    m_socket.Listen();
+}
+
 void ProgramLock::Release() {
-    m_server.reset();
+    m_socket.Close();
     if (m_file.isLocked()) m_file.unlock();
 }
 
-qint64 ProgramLock::Holder() const {
-    qint64 process = 0;
-    QString host;
-    QString program;
-    return m_file.getLockInfo(&process, &host, &program) ? process : 0;
-}
-
-QString ProgramLock::ServerName() const {
-    // The folder's path may be too long for a socket's name.
-    const QByteArray hash = QCryptographicHash::hash(m_folder.toUtf8(), QCryptographicHash::Sha256).toHex();
-    return QStringLiteral("tavlora-") + QString::fromLatin1(hash.left(24));
-}
-
-void ProgramLock::Listen() {
-    // What a program left behind that was killed would keep the name taken. We hold the folder, so it is ours.
-    QLocalServer::removeServer(ServerName());
-    m_server = std::make_unique<QLocalServer>();
-    m_server->setSocketOptions(QLocalServer::UserAccessOption);
-    connect(m_server.get(), &QLocalServer::newConnection, this, &ProgramLock::Answer);
-    m_server->listen(ServerName());
-}
-
-void ProgramLock::Answer() {
-    const std::unique_ptr<QLocalSocket> socket(m_server->nextPendingConnection());
-    if (!socket) return;
-    while (!socket->canReadLine() && socket->waitForReadyRead(kAnswerMilliseconds)) {
-    }
-    if (!socket->canReadLine()) return;
-    const QString game = QString::fromUtf8(QByteArray::fromPercentEncoding(socket->readLine().trimmed()));
-    socket->write("ok\n");
-    socket->waitForBytesWritten(kAnswerMilliseconds);
-    socket->disconnectFromServer();
-    Q_EMIT Called(game);
-}
+qint64 ProgramLock::Holder() const { return std::max<qint64>(ReadNote().process, 0); }
+QString ProgramLock::HoldersComputer() const { return ReadNote().sComputer; }
 
 bool ProgramLock::CallHolder(const QString& sGame, int milliseconds) const {
-    QLocalSocket socket;
-    socket.connectToServer(ServerName());
-    if (!socket.waitForConnected(milliseconds)) return false;
-    socket.write(sGame.toUtf8().toPercentEncoding() + '\n');
-    socket.flush();
-    // The answer may already be here: it then never becomes ready to be read again.
-    while (!socket.canReadLine() && socket.waitForReadyRead(milliseconds)) {
-    }
-    return socket.canReadLine();
+    return m_socket.Call(sGame, milliseconds);
 }

@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "windowing/StartSocket.h"
+
 #include <QLockFile>
 #include <QObject>
 #include <QString>
-
-#include <functional>
-#include <memory>
-
-class QLocalServer;
 
 /// Sees to it that one program at a time works in a folder. A file there holds the process number of the
 /// one that does; it is ignored when that process is gone. A later start hands over what it was asked to
@@ -21,17 +18,24 @@ public:
     explicit ProgramLock(const QString& sFolder, QObject* parent = nullptr);
     ~ProgramLock() override;
 
-    /// False when another living program works in the folder. In a folder that takes no new file nobody is
-    /// kept out, as nobody could keep anything in it.
+    /// False when another living program works in the folder, or one of another computer may. In a folder that takes
+    /// no new file nobody is kept out, as nobody could keep anything in it.
     bool Take();
     /// Takes the folder, or asks the program that holds it as CallHolder does. Tried until one of the two works
-    /// or the time is over: the holder may just be starting, and not listen yet, or be about to end.
-    enum class Start { Taken, HandedOver, NoAnswer };
+    /// or the time is over: the holder may just be starting, and not listen yet, or be about to end. A file that
+    /// names nobody is taken over; about one of another computer nothing can be found out here.
+    enum class Start { Taken, HandedOver, OtherComputer, NoAnswer };
     Start TakeOrCall(const QString& sGame, int milliseconds = 5000);
+    /// Works in the folder whoever else may: for a user who has said so.
+    void TakeAnyway();
     /// Gives the folder free; the end of the program does it too.
     void Release();
+
     /// Process number of the program that holds the folder; 0 when it can't be told.
     qint64 Holder() const;
+    /// Name of the computer on which it runs; empty when it can't be told.
+    QString HoldersComputer() const;
+    QString FilePath() const { return m_path; }
 
     /// Asks the program that holds the folder to come to the front, with a game to open or an empty text.
     /// False when it didn't answer in time.
@@ -41,14 +45,14 @@ Q_SIGNALS:
     /// Another start wants this program to come to the front and, unless empty, to open a game.
     void Called(const QString& sGame);
 
-private Q_SLOTS:
-    void Answer();
-
 private:
-    QString ServerName() const;
-    void Listen();
+    struct Note;
+    Note ReadNote() const;
+    bool TakeFile();
+    bool ClearNote();
 
     QString m_folder;
+    QString m_path;
     QLockFile m_file;
-    std::unique_ptr<QLocalServer> m_server;
+    StartSocket m_socket;
 };

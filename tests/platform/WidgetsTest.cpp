@@ -1,17 +1,14 @@
 // SPDX-License-Identifier: MIT
-// Picture boxes, looks with a trap in them, the forms of dialogs, and one program at a time.
+// Picture boxes, looks with a trap in them, and the forms of dialogs.
 #include "support/TestFixture.h"
 #include "windowing/Application.h"
 #include "windowing/DesktopWidgets.h"
 #include "windowing/PictureBox.h"
-#include "windowing/ProgramLock.h"
 #include "windowing/WidgetLook.h"
 
 #include <QApplication>
 #include <QLabel>
-#include <QLockFile>
 #include <QMessageBox>
-#include <QProcess>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
@@ -180,97 +177,6 @@ TEST(DesktopWidgetsTest, SleepLetsWindowsLive) {
     QTimer::singleShot(5, [&] { ticked = true; });
     DesktopWidgets().Sleep(50);
     EXPECT_TRUE(ticked);
-}
-
-class ProgramLockTest : public TavloraTest {
-protected:
-    void LeaveLockOfAProcessThatIsGone() const {
-        QProcess gone;
-        gone.start(QStringLiteral("true"), {});
-        const qint64 process = gone.processId();
-        ASSERT_TRUE(gone.waitForFinished());
-        WriteFile(QStringLiteral(".tavlora.lock"),
-                  QByteArray::number(process) + "\ntavlora\n" + QSysInfo::machineHostName().toUtf8() + "\n");
-    }
-};
-
-TEST_F(ProgramLockTest, SecondProgramIsKeptOutUntilTheFirstGoes) {
-    ProgramLock first(folder.path());
-    ASSERT_TRUE(first.Take());
-    EXPECT_EQ(first.Holder(), QCoreApplication::applicationPid());
-    ProgramLock second(folder.path());
-    EXPECT_FALSE(second.Take());
-    first.Release();
-    EXPECT_TRUE(second.Take());
-}
-
-TEST_F(ProgramLockTest, FileOfAProcessThatIsGoneIsIgnored) {
-    ASSERT_NO_FATAL_FAILURE(LeaveLockOfAProcessThatIsGone());
-    ProgramLock lock(folder.path());
-    EXPECT_TRUE(lock.Take());
-}
-
-TEST_F(ProgramLockTest, FileThatCantBeDeletedKeepsNobodyOut) {
-    const auto owner = QFileDevice::ReadOwner | QFileDevice::ExeOwner;
-    ASSERT_NO_FATAL_FAILURE(LeaveLockOfAProcessThatIsGone());
-    ASSERT_TRUE(QFile::setPermissions(folder.path(), owner));
-    const bool refused = !QFileInfo(folder.path()).isWritable();
-    const bool taken = ProgramLock(folder.path()).Take();
-    ASSERT_TRUE(QFile::setPermissions(folder.path(), owner | QFileDevice::WriteOwner));
-    if (!refused) GTEST_SKIP() << "this user may write everywhere";
-    EXPECT_TRUE(taken);
-}
-
-TEST_F(ProgramLockTest, TwoFoldersDontDisturbEachOther) {
-    const QTemporaryDir other;
-    ProgramLock first(folder.path());
-    ProgramLock second(other.path());
-    EXPECT_TRUE(first.Take());
-    EXPECT_TRUE(second.Take());
-}
-
-TEST_F(ProgramLockTest, CallHandsOverTheGameWhateverItsName) {
-    ProgramLock first(folder.path());
-    ASSERT_TRUE(first.Take());
-    QStringList called;
-    QObject::connect(&first, &ProgramLock::Called, &first, [&](const QString& game) { called.append(game); });
-    const QString game = QStringLiteral("/ho me/\u00FCber\nzwei%20.gam");
-    // The caller waits for an answer, so it stands on a thread of its own, as another process would.
-    bool answered = false;
-    std::unique_ptr<QThread> caller(QThread::create([&] {
-        const ProgramLock second(folder.path());
-        answered = second.CallHolder(game) && second.CallHolder(QString());
-    }));
-    caller->start();
-    while (!caller->isFinished())
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
-    EXPECT_TRUE(answered);
-    EXPECT_EQ(called, (QStringList{game, QString()}));
-}
-
-TEST_F(ProgramLockTest, StartWaitsForOneThatIsAboutToEnd) {
-    // It holds the folder, but listens no more.
-    QLockFile ending(PathOf(QStringLiteral(".tavlora.lock")));
-    ASSERT_TRUE(ending.tryLock());
-    std::unique_ptr<QThread> end(QThread::create([&] {
-        QThread::msleep(150);
-        ending.unlock();
-    }));
-    end->start();
-    ProgramLock lock(folder.path());
-    EXPECT_EQ(lock.TakeOrCall(QStringLiteral("x.gam"), 10000), ProgramLock::Start::Taken);
-    end->wait();
-    EXPECT_EQ(lock.Holder(), QCoreApplication::applicationPid());
-}
-
-TEST_F(ProgramLockTest, FolderHeldBySomebodyWhoNeverAnswersIsToldInTime) {
-    QLockFile silent(PathOf(QStringLiteral(".tavlora.lock")));
-    ASSERT_TRUE(silent.tryLock());
-    EXPECT_EQ(ProgramLock(folder.path()).TakeOrCall(QString(), 100), ProgramLock::Start::NoAnswer);
-}
-
-TEST_F(ProgramLockTest, NobodyAnswersWhereNobodyIs) {
-    EXPECT_FALSE(ProgramLock(folder.path()).CallHolder(QStringLiteral("x"), 50));
 }
 
 } // namespace

@@ -9,6 +9,10 @@
 
 #include <filesystem>
 
+#ifdef Q_OS_UNIX
+#include <unistd.h>
+#endif
+
 namespace Folders {
 namespace {
 
@@ -75,11 +79,33 @@ bool IsForPeople(const QStorageInfo& volume) {
 #endif
 }
 
+#ifdef Q_OS_UNIX
+// Another user of the machine may have made a folder or a link of this name first.
+bool IsPrivate(const QString& sFolder) {
+    constexpr auto kOthers =
+        QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup | QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
+    const QFileInfo info(sFolder);
+    return info.isDir() && !info.isSymLink() && info.ownerId() == geteuid() && !(info.permissions() & kOthers);
+}
+#endif
+
 } // namespace
 
 QString Documents() { return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation); }
 QString Home() { return QDir::homePath(); }
 QString Pictures() { return QStandardPaths::writableLocation(QStandardPaths::PicturesLocation); }
+
+QString Runtime() {
+#ifdef Q_OS_UNIX
+    const QString session = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    if (!session.isEmpty() && IsPrivate(session)) return session;
+    const QString own = QDir::tempPath() + QStringLiteral("/tavlora-%1").arg(geteuid());
+    QDir().mkdir(own, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    return IsPrivate(own) ? own : QString();
+#else
+    return QDir::tempPath();
+#endif
+}
 
 QString CompletePath(const QString& sPath) { return QFileInfo(sPath).absoluteFilePath(); }
 

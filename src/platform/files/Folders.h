@@ -13,6 +13,9 @@ namespace Folders {
 QString Documents();
 QString Home();
 QString Pictures();
+/// A folder that nobody but this user can enter, for sockets: the session's, or one made for the purpose. Empty when
+/// there is none to be had.
+QString Runtime();
 /// Folder of the program's own data files: the one given if any; else the folder of the program if its data
 /// lie there, else share/tavlora beside it, else the build's data folder.
 QString ProgramDirectory();
