@@ -3,6 +3,7 @@
 
 #include "app/EditorWindows.h"
 #include "app/frmTAVL.h"
+#include "app/GamesFolder.h"
 #include "app/MainLayout.h"
 #include "board/basPositTables.h"
 #include "pictures/PicturePlaces.h"
@@ -48,24 +49,15 @@ void PrefetchOwnPictures() {
     PrefetchPicture(PicturePlaces::Fate(), CLng(corner));
 }
 
-} // namespace
+constexpr int kNotStarted = 1;
 
-int RunProgram(int argc, char** argv, DesktopWidgets& desktop) {
-    Settings().sProgramName = ProgramNameFromArgv0(QString::fromLocal8Bit(argv[0]));
-    Application application(argc, argv);
-    application.SetLastNet(&ReportUncaught);
-    Desktop::Install(&desktop);
-
+int Start(DesktopWidgets& desktop) {
+    if (!GamesFolder::IsThere()) return kNotStarted;
     const QStringList arguments = Application::arguments();
     const QString game = arguments.size() > 1 ? Folders::CompletePath(arguments.at(1)) : QString();
     ProgramLock lock(basCommon::GetMyGamesDirectory());
-    const ProgramLock::Start start = lock.TakeOrCall(game);
-    if (start == ProgramLock::Start::HandedOver) return 0;
-    if (start == ProgramLock::Start::NoAnswer) {
-        MsgBox(QStringLiteral("Tavlora is already running, but it does not answer. Please close it first."),
-               vbExclamation);
-        return 1;
-    }
+    const GamesFolder::Taking taking = GamesFolder::Take(lock, game);
+    if (taking != GamesFolder::Taking::GoesOn) return taking == GamesFolder::Taking::HandedOver ? 0 : kNotStarted;
     desktop.SetAtEnd(std::bind(&ProgramLock::Release, &lock));
     // Not before: a start that only hands over its game would end amid the decoding.
     PrefetchOwnPictures();
@@ -76,9 +68,29 @@ int RunProgram(int argc, char** argv, DesktopWidgets& desktop) {
     frmBMP::InstallAsThumbnailMaker();
     EditorWindows doors;
     frmTAVL window(doors);
-    QObject::connect(&lock, &ProgramLock::Called, &window, &frmTAVL::CalledByAnotherStart);
+    // Queued, so that the caller has its answer whatever questions the window asks.
+    QObject::connect(&lock, &ProgramLock::Called, &window, &frmTAVL::CalledByAnotherStart, Qt::QueuedConnection);
     window.Form_Load();
     window.show();
     if (!game.isEmpty()) window.CalledByAnotherStart(game);
     return Application::exec();
+}
+
+} // namespace
+
+int RunProgram(int argc, char** argv, DesktopWidgets& desktop) {
+    Settings().sProgramName = ProgramNameFromArgv0(QString::fromLocal8Bit(argv[0]));
+    Application application(argc, argv);
+    application.SetLastNet(&ReportUncaught);
+    Desktop::Install(&desktop);
+    try {
+        return Start(desktop);
+    } catch (const ProgramEnded&) {
+        throw;
+    } catch (const std::exception& error) {
+        // Whatever it is, no program ends without a word.
+        MsgBox(QStringLiteral("Tavlora can't start.\r\n\r\n") + basErrLog::ErrDismiss(QString::fromUtf8(error.what())),
+               vbCritical);
+        return kNotStarted;
+    }
 }
