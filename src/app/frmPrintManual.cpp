@@ -4,6 +4,7 @@
 #include "platform/files/Folders.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
+#include "services/Desktop.h"
 #include "windowing/basCommon_forms.h"
 #include "windowing/WebPage.h"
 #include "windowing/WidgetLook.h"
@@ -19,9 +20,15 @@ namespace {
 constexpr int kTextWidth = 460;
 constexpr int kIconSide = 64;
 constexpr double kHeadSize = 1.6;
-const QString kAddress = QStringLiteral(TAVLORA_HELP_URL);
-const QString kLocalPage = QStringLiteral("Assembly_US.html");
 const QString kShowSplashKey = QStringLiteral("ShowSplash");
+
+QString LocalPage() { return basCommon::JoinPath(Folders::ProgramDirectory(), QStringLiteral("Assembly_US.html")); }
+
+// A build may name a page on the net; the page that is installed with the program has an address in any case.
+QString HelpAddress() {
+    const QString named = QStringLiteral(TAVLORA_HELP_URL);
+    return named.isEmpty() ? WebPage::AddressOf(LocalPage()) : named;
+}
 
 QPushButton* MakeButton(QWidget* parent, const char* sName, const char* sCaption) {
     auto* button = new QPushButton(QString::fromLatin1(sCaption), parent);
@@ -81,7 +88,7 @@ void frmPrintManual::ShowForm(bool bStarting) try {
                   : QStringLiteral("Assembly instructions are available on your cd-rom or at ");
     setWindowTitle(bStarting ? QStringLiteral("Tavlora") : head);
     Label1->setText(head);
-    Label2->setText(text + kAddress);
+    Label2->setText(text + HelpAddress());
     cmdAlreadyPrintedIt->setVisible(bStarting);
     cmdDoNotPrint->setVisible(bStarting);
     cmdOK->setVisible(!bStarting);
@@ -111,7 +118,11 @@ void frmPrintManual::cmdOK_Click() try {
 }
 
 void frmPrintManual::cmdShowPage_Click() try {
-    WebPage::Open(basCommon::JoinPath(Folders::ProgramDirectory(), kLocalPage), kAddress);
+    if (WebPage::Open(LocalPage(), HelpAddress())) return;
+    MsgBox(QStringLiteral("No web browser was found on this computer. The instructions are in this file:\r\n\r\n%1"
+                          "\r\n\r\nA browser on any other computer shows them too.")
+               .arg(LocalPage()),
+           vbInformation);
 } catch (...) {
     ErrTop("frmPrintManual!", "cmdShowPage_Click");
 }

@@ -8,6 +8,8 @@
 
 namespace WebPage {
 
+QString AddressOf(const QString& sLocalPath) { return QUrl::fromLocalFile(sLocalPath).toString(); }
+
 bool Open(const QString& sLocalPath, const QString& sAddress) {
     if (Files::Exists(sLocalPath) && QDesktopServices::openUrl(QUrl::fromLocalFile(sLocalPath))) return true;
     return QDesktopServices::openUrl(QUrl(sAddress));

@@ -6,7 +6,10 @@
 #include "app/frmPrintManual.h"
 #include "kit/GameKit.h"
 
+#include <QDesktopServices>
 #include <QLabel>
+#include <QTextBrowser>
+#include <QUrl>
 
 namespace {
 
@@ -25,7 +28,10 @@ bool Shows(const QWidget& window, const char* name) {
     return button && button->isVisible();
 }
 
-class StartUpTest : public AppTest {};
+class StartUpTest : public AppTest {
+protected:
+    static QUrl HelpPage() { return QUrl::fromLocalFile(QStringLiteral(TAVLORA_DATA_DIR "/Assembly_US.html")); }
+};
 
 TEST_F(StartUpTest, Edge_NameTavlora2aIsVariant2AAndTheIniChangesTheVariantButNotTheColours) {
     Start(QStringLiteral("Tavlora2a"));
@@ -226,10 +232,12 @@ TEST_F(StartUpTest, SplashShowsThatItIsLoadingWithoutAButton) {
 TEST_F(StartUpTest, WelcomeWindowOffersTwoAnswersAndRemembersThatItWasPrinted) {
     WithModal("frmPrintManual", [](QWidget& modal) {
         EXPECT_EQ(TextOf(modal, "Label1"), QStringLiteral("Welcome to Tavlora"));
-        EXPECT_TRUE(TextOf(modal, "Label2")
-                        .startsWith(QStringLiteral(
-                            "If you have not already done so, please print the assembly instructions that are "
-                            "available on your cd-rom or at http")));
+        const QString named = QStringLiteral(TAVLORA_HELP_URL);
+        EXPECT_EQ(TextOf(modal, "Label2"),
+                  QStringLiteral("If you have not already done so, please print the assembly instructions that are "
+                                 "available on your cd-rom or at ") +
+                      (named.isEmpty() ? HelpPage().toString() : named));
+        EXPECT_TRUE(QFileInfo(HelpPage().toLocalFile()).isFile()) << "an address that leads somewhere";
         EXPECT_FALSE(Shows(modal, "cmdOK"));
         EXPECT_TRUE(Shows(modal, "cmdAlreadyPrintedIt"));
         ClickIn(modal, "cmdDoNotPrint");
@@ -239,6 +247,30 @@ TEST_F(StartUpTest, WelcomeWindowOffersTwoAnswersAndRemembersThatItWasPrinted) {
     WithModal("frmPrintManual", [](QWidget& modal) { ClickIn(modal, "cmdAlreadyPrintedIt"); });
     Start(QStringLiteral("tavlora"), QString());
     EXPECT_EQ(Ini("ShowSplash"), QStringLiteral("False"));
+}
+
+// The platform of the tests has no browser.
+TEST_F(StartUpTest, WithoutABrowserTheInstructionsAreToldByTheirPlace) {
+    Start();
+    WithModal("frmPrintManual", [this](QWidget& modal) {
+        ClickIn(modal, "cmdShowPage");
+        EXPECT_EQ(desktop.Texts(),
+                  QStringList{QStringLiteral("No web browser was found on this computer. The instructions are in this "
+                                             "file:\r\n\r\n%1\r\n\r\nA browser on any other computer shows them too.")
+                                  .arg(HelpPage().toLocalFile())});
+    });
+    ChooseMenu("mnuHelp_1");
+}
+
+TEST_F(StartUpTest, InstructionsAreShownFromThisMachine) {
+    QTextBrowser browser;
+    QDesktopServices::setUrlHandler(QStringLiteral("file"), &browser, "setSource");
+    Start();
+    WithModal("frmPrintManual", [](QWidget& modal) { ClickIn(modal, "cmdShowPage"); });
+    ChooseMenu("mnuHelp_1");
+    QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
+    EXPECT_EQ(browser.source(), HelpPage());
+    EXPECT_TRUE(desktop.boxes.isEmpty());
 }
 
 TEST_F(StartUpTest, HelpWindowBringsTheWelcomeBack) {
