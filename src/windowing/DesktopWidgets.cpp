@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QFontDialog>
 #include <QFontInfo>
 #include <QMessageBox>
@@ -113,19 +114,40 @@ QWidget* Owner() {
     return active ? active : QApplication::activeWindow();
 }
 
+// What stands behind a point needn't be an extension: a game called "Dr. Who" would be listed by no dialog.
+QString WithExtension(const QString& sPath, const QString& sExtension) {
+    const QString ending = u'.' + sExtension;
+    return sExtension.isEmpty() || sPath.endsWith(ending, Qt::CaseInsensitive) ? sPath : sPath + ending;
+}
+
+bool MayBeReplaced(const QString& sPath) {
+    const QFileInfo there(sPath);
+    if (!there.exists()) return true;
+    return ::MsgBox(QStringLiteral("'%1' is already there. Replace it?").arg(there.fileName()),
+                    vbYesNo | vbExclamation | vbDefaultButton2) == vbYes;
+}
+
 bool ShowFileDialog(CommonDialog& dialog, QFileDialog::AcceptMode mode) {
     QFileDialog window(Owner(), dialog.sDialogTitle);
     window.setAcceptMode(mode);
     window.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     window.setNameFilters(DesktopWidgets::NameFilters(dialog.sFilter));
-    // Before the question whether to overwrite, so that it asks about the file that is written.
     if (!dialog.sDefaultExt.isEmpty()) window.setDefaultSuffix(dialog.sDefaultExt);
-    window.setOption(QFileDialog::DontConfirmOverwrite, !dialog.bOverwritePrompt);
+    // The toolkit would ask about the name as it was typed.
+    window.setOption(QFileDialog::DontConfirmOverwrite);
     window.setDirectory(dialog.sInitDir);
     if (!dialog.sFileName.isEmpty()) window.selectFile(PathInDialog(dialog));
-    if (window.exec() != QDialog::Accepted || window.selectedFiles().isEmpty()) return false;
-    dialog.sFileName = window.selectedFiles().constFirst();
-    return true;
+    while (window.exec() == QDialog::Accepted && !window.selectedFiles().isEmpty()) {
+        const QString typed = window.selectedFiles().constFirst();
+        const bool bSave = mode == QFileDialog::AcceptSave;
+        const QString path = bSave ? WithExtension(typed, dialog.sDefaultExt) : typed;
+        if (!bSave || !dialog.bOverwritePrompt || MayBeReplaced(path)) {
+            dialog.sFileName = path;
+            return true;
+        }
+        window.selectFile(path);
+    }
+    return false;
 }
 
 } // namespace

@@ -7,7 +7,10 @@
 #include "windowing/WidgetLook.h"
 
 #include <QApplication>
+#include <QFileDialog>
+#include <QFileInfo>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -170,6 +173,64 @@ TEST(DesktopWidgetsTest, BoxOfManyMessagesShowsTheFirstAndHasTheRestBehindAButto
     });
     DesktopWidgets().MsgList(messages.mid(0, 12), vbExclamation, QStringLiteral("Title"));
     EXPECT_EQ(shown, messages.mid(0, 12).join(u'\n'));
+}
+
+/// Save dialogs of the toolkit, answered by typing.
+class SaveDialogTest : public TavloraTest {
+protected:
+    SaveDialogTest() {
+        QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        m_typing.callOnTimeout([this] { Type(); });
+    }
+    /// Saves under the names typed one after another, as long as the dialog stands; an empty text where it is left.
+    QString SaveAs(const QStringList& names) {
+        CommonDialog dialog;
+        dialog.sFilter = QStringLiteral("Tavlora games|*.gam|All files|*.*");
+        dialog.sDefaultExt = QStringLiteral("gam");
+        dialog.sInitDir = folder.path();
+        m_names = names;
+        m_typing.start(0);
+        const bool saved = DesktopWidgets().ShowSave(dialog);
+        m_typing.stop();
+        return saved ? QFileInfo(dialog.sFileName).fileName() : QString();
+    }
+
+private:
+    void Type() {
+        auto* const window = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(window);
+        if (m_names.isEmpty()) return window->reject();
+        window->findChild<QLineEdit*>()->setText(m_names.takeFirst());
+        QMetaObject::invokeMethod(window, "accept");
+    }
+
+    QTimer m_typing;
+    QStringList m_names;
+};
+
+TEST_F(SaveDialogTest, ExtensionIsPutBehindEveryNameThatDoesNotEndInIt) {
+    const struct {
+        const char* typed;
+        const char* saved;
+    } names[] = {{"Family", "Family.gam"},   {"Dr. Who", "Dr. Who.gam"}, {"St. Ives", "St. Ives.gam"},
+                 {"Mum.gam", "Mum.gam"},     {"DAD.GAM", "DAD.GAM"},     {"1.2", "1.2.gam"},
+                 {"My.game", "My.game.gam"}, {"End.", "End..gam"}};
+    for (const auto& name : names)
+        EXPECT_EQ(SaveAs({QString::fromLatin1(name.typed)}), QString::fromLatin1(name.saved));
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+}
+
+TEST_F(SaveDialogTest, QuestionWhetherToReplaceIsAboutTheFileThatIsWritten) {
+    WriteFile(QStringLiteral("Dr. Who.gam"), "older");
+    WriteFile(QStringLiteral("St. Ives"), "no game");
+    EXPECT_EQ(SaveAs({QStringLiteral("St. Ives")}), QStringLiteral("St. Ives.gam"));
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+    desktop.answers = {vbNo, vbYes};
+    EXPECT_EQ(SaveAs({QStringLiteral("Dr. Who"), QStringLiteral("Dr. Who")}), QStringLiteral("Dr. Who.gam"));
+    ASSERT_EQ(desktop.boxes.size(), 2) << "after a No another name can be typed";
+    EXPECT_EQ(desktop.boxes[0].sText, QStringLiteral("'Dr. Who.gam' is already there. Replace it?"));
+    desktop.answers = {vbNo};
+    EXPECT_EQ(SaveAs({QStringLiteral("Dr. Who")}), QString());
 }
 
 TEST(DesktopWidgetsTest, SleepLetsWindowsLive) {
