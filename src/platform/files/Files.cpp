@@ -140,12 +140,10 @@ std::optional<QByteArray> ReadAll(const QString& sPath, QString& sError) {
 }
 
 WholeFile::WholeFile(const QString& sPath) : m_path(sPath), m_file(std::make_unique<SaveFile>(sPath)) {
-    m_file->setDirectWriteFallback(true);
+    m_file->WriteInPlaceIfNeedBe();
 }
 
-WholeFile::~WholeFile() {
-    if (m_file->isOpen()) m_file->cancelWriting();
-}
+WholeFile::~WholeFile() = default;
 
 bool WholeFile::Open(QString& sError) {
     if (!IsPermitted(Operation::OpenWrite, m_path, sError) || !CanBeReplaced(m_path, sError)) return false;

@@ -25,7 +25,7 @@ PdfPrinter::PdfPrinter(const QString& sPath, const QString& sTitle, QPageSize::P
 PdfPrinter::~PdfPrinter() { KillDoc(); }
 
 bool PdfPrinter::OpenFile() {
-    if (!Files::CanBeReplaced(m_file->fileName(), m_openError)) return false;
+    if (!Files::CanBeReplaced(m_file->Path(), m_openError)) return false;
     if (!m_file->open(QIODevice::WriteOnly)) {
         m_openError = m_file->errorString();
         return false;
@@ -77,10 +77,10 @@ QSizeF PdfPrinter::PrintableInches() const {
 QSize PdfPrinter::SizeInPixels() const { return (PrintableInches() * m_dpi).toSize(); }
 
 void PdfPrinter::KillDoc() {
-    if (m_file->isOpen()) m_file->cancelWriting();
     m_context.reset();
     m_painter.reset();
     m_writer.reset();
+    m_file->Discard();
     m_pageOpen = false;
 }
 
