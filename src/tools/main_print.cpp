@@ -9,6 +9,7 @@
 int main(int argc, char** argv) {
     Console::SilenceToolkit();
     Console::UseNoDisplay();
+    Console::ClearUpWhenEnded();
     const QGuiApplication application(argc, argv);
     return PrintCommand(std::cout, std::cerr, Console::ErrorIsTerminal()).Run(QGuiApplication::arguments().mid(1));
 }

@@ -1,14 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "platform/files/Console.h"
 
+#include "platform/files/Temporaries.h"
+
+#include <QDir>
 #include <QFileInfo>
-#include <QTemporaryDir>
 
 #include <cstdio>
 
 #ifdef Q_OS_WIN
 #include <io.h>
+#include <windows.h>
 #else
+#include <csignal>
+#include <thread>
 #include <unistd.h>
 #endif
 
@@ -17,6 +22,33 @@ namespace {
 void TellFatalOnly(QtMsgType type, const QMessageLogContext&, const QString& sText) {
     if (type == QtFatalMsg) std::fprintf(stderr, "%s\n", qUtf8Printable(sText));
 }
+
+#ifdef Q_OS_WIN
+BOOL WINAPI ClearUpAndEnd(DWORD) {
+    Temporaries::RemoveHeld();
+    return FALSE;
+}
+#else
+// Ctrl+C, a termination, and a terminal that is closed; not those that whoever started us wants to be ignored.
+sigset_t SignalsThatEnd() {
+    sigset_t signals;
+    sigemptyset(&signals);
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+        struct sigaction action {};
+        if (sigaction(signal, nullptr, &action) == 0 && action.sa_handler != SIG_IGN) sigaddset(&signals, signal);
+    }
+    return signals;
+}
+
+void WaitAndClearUp(sigset_t signals) {
+    int signal = 0;
+    if (sigwait(&signals, &signal) != 0) return;
+    Temporaries::RemoveHeld();
+    // And then the end that the signal means, so that a shell sees what ended the program.
+    pthread_sigmask(SIG_UNBLOCK, &signals, nullptr);
+    raise(signal);
+}
+#endif
 
 } // namespace
 
@@ -45,8 +77,31 @@ bool IsSameFile(const QString& sPathA, const QString& sPathB) {
 
 QString CompletePath(const QString& sPath) { return QFileInfo(sPath).absoluteFilePath(); }
 
+void ClearUpWhenEnded() {
+#ifdef Q_OS_WIN
+    SetConsoleCtrlHandler(&ClearUpAndEnd, TRUE);
+#else
+    const sigset_t signals = SignalsThatEnd();
+    // Every thread that is started from here on inherits it, so that the one that waits gets them all.
+    pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+    std::thread(&WaitAndClearUp, signals).detach();
+#endif
+}
+
 } // namespace Console
 
-TemporaryFolder::TemporaryFolder() : m_folder(std::make_unique<QTemporaryDir>()) {}
-TemporaryFolder::~TemporaryFolder() = default;
-QString TemporaryFolder::Path() const { return m_folder->isValid() ? m_folder->path() : QString(); }
+TemporaryFolder::TemporaryFolder() {
+    constexpr int kTries = 5;
+    Temporaries::ClearLeftovers(QDir::tempPath());
+    for (int i = 0; i < kTries && m_path.isEmpty(); ++i) {
+        const QString path = Temporaries::FolderIn(QDir::tempPath());
+        const bool bMade = QDir().mkdir(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        if (bMade && Temporaries::Hold(path, -1)) m_path = path;
+    }
+}
+
+TemporaryFolder::~TemporaryFolder() {
+    if (m_path.isEmpty()) return;
+    QDir(m_path).removeRecursively();
+    Temporaries::LetGo(m_path);
+}

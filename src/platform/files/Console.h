@@ -3,10 +3,6 @@
 
 #include <QString>
 
-#include <memory>
-
-class QTemporaryDir;
-
 /// What a program without windows asks of the system.
 namespace Console {
 
@@ -17,6 +13,10 @@ void UseNoDisplay();
 /// Keeps the toolkit's remarks about the desktop off standard error, where each line is to say what went
 /// wrong.
 void SilenceToolkit();
+
+/// Whoever ends the program by Ctrl+C or a signal finds no temporary file or folder of it afterwards. Before any thread
+/// is started.
+void ClearUpWhenEnded();
 
 /// True when somebody watches what goes to standard error.
 bool ErrorIsTerminal();
@@ -29,14 +29,17 @@ QString CompletePath(const QString& sPath);
 
 } // namespace Console
 
-/// A folder that vanishes with its object, with all that was written into it.
+/// A folder that vanishes with its object, with all that was written into it. What a program that was killed has left
+/// of its own goes when the next one is made.
 class TemporaryFolder {
 public:
     TemporaryFolder();
     ~TemporaryFolder();
     /// Empty when none could be made.
-    QString Path() const;
+    const QString& Path() const { return m_path; }
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
 private:
-    std::unique_ptr<QTemporaryDir> m_folder;
+    QString m_path;
 };
