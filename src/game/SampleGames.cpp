@@ -16,12 +16,10 @@ const QString kBackground = QStringLiteral("MoneyBg");
 const QString kBitmap = QStringLiteral(".bmp");
 
 void CopyUnlessThere(const QString& sFrom, const QString& sTo) {
-    // An empty one is what a power cut left of an earlier copy.
-    const bool bThere = Files::Size(Files::InDiskSpelling(sTo)) > 0;
-    if (bThere || !basCommon::DoesFileExist(sFrom)) return;
+    if (basCommon::DoesFileExist(sTo) || !basCommon::DoesFileExist(sFrom)) return;
     QString error;
     // A start mustn't fail for want of a sample: the folder may be read-only.
-    if (!Files::CopyReplaceable(sFrom, sTo, error))
+    if (!Files::CopyNew(sFrom, sTo, error))
         basErrLog::ErrLogToFile(QStringLiteral("A sample could not be copied to ") + sTo + u' ' + error, true);
 }
 

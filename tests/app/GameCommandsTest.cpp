@@ -46,13 +46,13 @@ TEST_F(GameCommandsTest, Edge_SampleOfTheUserIsNeverReplaced) {
     EXPECT_TRUE(HasFile(QStringLiteral("Town.gam")));
 }
 
-TEST_F(GameCommandsTest, SampleThatAPowerCutLeftEmptyIsCopiedAgainAndOneInOtherSpellingIsLeftAlone) {
+TEST_F(GameCommandsTest, WhateverBearsTheNameOfASampleIsLeftAlone) {
     WriteFile(QStringLiteral("games/Town.gam"), "");
     WriteFile(QStringLiteral("games/blank.gam"), "mine");
     basErrLog::ErrInit(60000);
     basTAVL::CopySampleGames();
-    EXPECT_EQ(ReadFile(InGames(QStringLiteral("Town.gam"))), ReadFile(QStringLiteral(TAVLORA_DATA_DIR "/Town_US.gam")));
-    EXPECT_FALSE(HasFile(QStringLiteral("Blank.gam")));
+    EXPECT_EQ(ReadFile(InGames(QStringLiteral("Town.gam"))), QByteArray()) << "somebody may just be filling it";
+    EXPECT_FALSE(HasFile(QStringLiteral("Blank.gam"))) << "it stands there in another spelling";
 }
 
 TEST_F(GameCommandsTest, Edge_NewGameTakesTheFirstFreeNumber) {

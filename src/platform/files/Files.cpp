@@ -10,6 +10,12 @@
 #include <QStandardPaths>
 
 #include <filesystem>
+#include <thread>
+
+#ifdef Q_OS_UNIX
+#include <fcntl.h>
+#include <unistd.h>
+#endif
 
 namespace Files {
 namespace {
@@ -62,6 +68,17 @@ bool IsNoSpecialFile(const QString& sPath, QString& sError) {
     if (!info.exists() || info.isFile()) return true;
     sError = info.isDir() ? QStringLiteral("It is a folder, not a file") : QStringLiteral("It is no regular file");
     return false;
+}
+
+void BringToDisk(const QString& sPath) {
+#ifdef Q_OS_UNIX
+    const int handle = ::open(QFile::encodeName(sPath).constData(), O_RDONLY | O_CLOEXEC);
+    if (handle < 0) return;
+    ::fsync(handle);
+    ::close(handle);
+#else
+    Q_UNUSED(sPath)
+#endif
 }
 
 } // namespace
@@ -214,15 +231,17 @@ bool Copy(const QString& sFrom, const QString& sTo, QString& sError) {
     return bytes && WriteWhole(sTo, *bytes, sError);
 }
 
-bool CopyReplaceable(const QString& sFrom, const QString& sTo, QString& sError) {
+bool CopyNew(const QString& sFrom, const QString& sTo, QString& sError) {
     if (Memory()) return Copy(sFrom, sTo, sError);
     if (!IsPermitted(Operation::Copy, sTo, sError)) return false;
-    if (Exists(sTo) && Size(sTo) == 0 && !Remove(sTo, sError)) return false;
     QFile from(InDiskSpelling(sFrom));
     if (!from.copy(sTo)) return Failed(from, sError);
     // A program's own files may be installed as nobody's to write.
     QFile to(sTo);
-    return to.setPermissions(to.permissions() | QFile::WriteOwner) || Failed(to, sError);
+    if (!to.setPermissions(to.permissions() | QFile::WriteOwner)) return Failed(to, sError);
+    // Left to itself the system would keep it from the disk for half a minute, and a power cut would leave it empty.
+    std::thread(&BringToDisk, sTo).detach();
+    return true;
 }
 
 bool MakeDirectory(const QString& sPath, QString& sError) {

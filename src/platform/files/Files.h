@@ -100,9 +100,9 @@ bool Remove(const QString& sPath, QString& sError);
 bool Rename(const QString& sFrom, const QString& sTo, QString& sError);
 /// Copies the content; replaces sTo safely when it exists.
 bool Copy(const QString& sFrom, const QString& sTo, QString& sError);
-/// The same for a file that can be had again at any time: the disk isn't waited for, so that a power cut may leave
-/// sTo empty. Fails when sTo exists, unless it is empty.
-bool CopyReplaceable(const QString& sFrom, const QString& sTo, QString& sError);
+/// Copies to a name that is free, and fails where there is anything of that name. For a file that can be had again at
+/// any time: the disk isn't waited for, though the content goes there at once.
+bool CopyNew(const QString& sFrom, const QString& sTo, QString& sError);
 /// Creates one folder whose parent exists; true as well when it is there.
 bool MakeDirectory(const QString& sPath, QString& sError);
 /// Moves a user's file to the trash where there is one, and removes it only if that fails.
