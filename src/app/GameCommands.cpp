@@ -3,8 +3,11 @@
 
 #include "app/BoardView.h"
 #include "app/GameNames.h"
+#include "app/OpeningNote.h"
 #include "document/Locale.h"
 #include "game/Autosave.h"
+#include "game/Rescue.h"
+#include "platform/files/Files.h"
 #include "platform/files/Folders.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
@@ -15,6 +18,7 @@ namespace {
 
 const QString kGameFilter = QStringLiteral("Tavlora games|*.gam|All files|*.*");
 const QString kGameExtension = QStringLiteral("gam");
+const QString kLastGameKey = QStringLiteral("GameName");
 
 } // namespace
 
@@ -28,35 +32,80 @@ void GameCommands::ShowState() {
     m_window.setWindowModified(m_session.IsUnsaved());
 }
 
-void GameCommands::TakeUpGame() {
+bool GameCommands::TakeUpGame(const QString& sAskedFor) try {
+    m_sBrokenOff = OpeningNote::Left();
     const bool recovered =
         LoadAutosave(Autosave::DataPath(),
                      QStringLiteral("An Autosave version of a previous game has been found on your disk. ")) ||
         LoadAutosave(
             Autosave::BackupPath(),
             QStringLiteral("The backup of an autosave version of a previous game has been found on your disk. "));
-    if (!recovered) LoadLastGame();
+    if (recovered) return sAskedFor.isEmpty() || sAskedFor == m_session.GameName();
+    if (sAskedFor.isEmpty() || !LoadAskedFor(sAskedFor)) LoadLastGame();
+    return true;
+} catch (...) {
+    // What was loaded by then is what the user sees.
+    ShowState();
+    throw;
 }
 
 bool GameCommands::LoadAutosave(const QString& sPath, const QString& sMessage) {
-    if (!basCommon::DoesFileExist(sPath)) return false;
+    if (!basCommon::DoesFileExist(sPath) || IsPutAside(sPath)) return false;
     MsgBox(sMessage + QStringLiteral("This game is being loaded."));
+    OpeningNote::Write(sPath);
     m_iLoadResult = m_session.Recover(sPath);
     if (m_iLoadResult != 0) return false;
     ShowState();
     return true;
 }
 
+bool GameCommands::IsPutAside(const QString& sAutosave) {
+    if (sAutosave != m_sBrokenOff) return false;
+    const QString kept = Rescue::FreePathFor(sAutosave);
+    if (WantsItAgain(QStringLiteral("what it had kept of your last game"),
+                     QStringLiteral(" If not, it stays in My Games as '%1'.").arg(GameNames::FileNameOf(kept))))
+        return false;
+    QString error;
+    if (!Files::Rename(sAutosave, kept, error)) Rescue::NoteUnread(sAutosave);
+    return true;
+}
+
+bool GameCommands::WantsItAgain(const QString& sWhat, const QString& sElse) {
+    const QString question =
+        QStringLiteral("The last start of Tavlora broke off while it was opening %1. Open it again?").arg(sWhat);
+    return MsgBox(question + sElse, vbYesNo | vbExclamation | vbDefaultButton2) == vbYes;
+}
+
+// As Open does it, except that there is no game yet that it could come in place of.
+bool GameCommands::LoadAskedFor(const QString& sPath) {
+    m_session.SetGameName(sPath);
+    OpeningNote::Write(sPath);
+    LoadUnderItsName();
+    if (m_iLoadResult != 0) return false;
+    basCommon::WriteIniString(kLastGameKey, m_session.GameName());
+    ShowState();
+    return true;
+}
+
 void GameCommands::LoadLastGame() {
-    QString name = basCommon::GetIniString(QStringLiteral("GameName"));
+    QString name = basCommon::GetIniString(kLastGameKey);
     const bool found = !name.isEmpty() && basCommon::ResolveFullPath(name);
     m_session.SetGameName(name);
-    if (found) {
+    if (found && MayOpenLastGame(name)) {
+        OpeningNote::Write(name);
         LoadUnderItsName();
     } else {
         BeginNewGame(m_iLoadResult);
     }
     ShowState();
+}
+
+bool GameCommands::MayOpenLastGame(const QString& sPath) const {
+    if (sPath != m_sBrokenOff) return true;
+    if (WantsItAgain(QStringLiteral("the game '%1'").arg(GameNames::FileNameOf(sPath)))) return true;
+    // Nor does the start after this one open it unasked.
+    basCommon::WriteIniString(kLastGameKey, QString());
+    return false;
 }
 
 void GameCommands::LoadUnderItsName() {
@@ -159,7 +208,7 @@ void GameCommands::LoadInstead(const QString& sPath) {
     ShowState();
     // A game that was read only in part isn't the file any more.
     m_session.SetSomethingChanged(m_iLoadResult != 0);
-    basCommon::WriteIniString(QStringLiteral("GameName"), m_session.GameName());
+    basCommon::WriteIniString(kLastGameKey, m_session.GameName());
     m_view.Redraw();
 }
 

@@ -15,8 +15,10 @@ public:
 
     Session& InHand() { return m_session; }
 
-    /// What the start goes on with: an autosave, its backup, the last game, or else a new one.
-    void TakeUpGame();
+    /// What the start goes on with: an autosave, its backup, the game that it was asked for, the last game, or else a
+    /// new one. What ended the start before is asked about first. False when an autosave has come ahead of the game
+    /// that was asked for, which is then still to be opened.
+    bool TakeUpGame(const QString& sAskedFor);
     void BeginNewGame(int& iResult);
     /// The first "GameN.gam" of the My Games directory that doesn't exist.
     void GetNewGameName(QString& sName);
@@ -38,7 +40,12 @@ public:
 private:
     bool MayGo();
     bool LoadAutosave(const QString& sPath, const QString& sMessage);
+    bool LoadAskedFor(const QString& sPath);
     void LoadLastGame();
+    bool MayOpenLastGame(const QString& sPath) const;
+    /// True when it ended the start before, and the user doesn't want to try again: it is then out of the way.
+    bool IsPutAside(const QString& sAutosave);
+    static bool WantsItAgain(const QString& sWhat, const QString& sElse = QString());
     void LoadUnderItsName();
     void LoadInstead(const QString& sPath);
     void AutosaveWhatStays();
@@ -50,4 +57,6 @@ private:
     Session m_session;
     CommonDialog dlgCommon;
     int m_iLoadResult = 0;
+    /// What the start before was opening when it ended.
+    QString m_sBrokenOff;
 };

@@ -21,7 +21,7 @@ Parts Split(const QString& sPath) {
 
 bool IsUnnamed(const QString& sPath) {
     const QString mark = QStringLiteral("GAME");
-    return LeftStr(Split(sPath).sBase, int(mark.size())).toUpper() == mark;
+    return sPath.isEmpty() || LeftStr(Split(sPath).sBase, int(mark.size())).toUpper() == mark;
 }
 
 QString FirstFreeName(const QString& sFolder) {

@@ -7,7 +7,7 @@
 namespace GameNames {
 
 /// True for a game that its user hasn't named yet: its base name begins with "Game", in any case. A game
-/// called "Gameboard" counts too, which is why it asks for a name at every save.
+/// called "Gameboard" counts too, which is why it asks for a name at every save; so does an empty text.
 bool IsUnnamed(const QString& sPath);
 
 /// The first "Game1.gam", "Game2.gam" and so on that isn't in the folder. Full path.

@@ -70,9 +70,10 @@ int Start(DesktopWidgets& desktop) {
     frmTAVL window(doors);
     // Queued, so that the caller has its answer whatever questions the window asks.
     QObject::connect(&lock, &ProgramLock::Called, &window, &frmTAVL::CalledByAnotherStart, Qt::QueuedConnection);
+    window.CalledByAnotherStart(game);
     window.Form_Load();
     window.show();
-    if (!game.isEmpty()) window.CalledByAnotherStart(game);
+    window.EndStart();
     return Application::exec();
 }
 

@@ -37,7 +37,9 @@ frmTAVL::frmTAVL(EditorRoutes& doors)
       m_view(
           *m_client, m_tips,
           {.layOut = std::bind_front(&frmTAVL::Form_Resize, this), .open = std::bind_front(&frmTAVL::OpenPlace, this)}),
-      m_commands(*this, m_view), m_menu(*menuBar(), m_commands.InHand(), std::bind_front(&frmTAVL::Choose, this)),
+      m_commands(*this, m_view),
+      m_requests(std::bind_front(&GameCommands::OpenGame, &m_commands), std::bind_front(&frmTAVL::IsInPrint, this)),
+      m_menu(*menuBar(), m_commands.InHand(), std::bind_front(&frmTAVL::Choose, this)),
       m_about(std::make_unique<frmAbout>(this)) {
     setObjectName(QStringLiteral("frmTAVL"));
     setCentralWidget(m_client);
@@ -152,20 +154,12 @@ void frmTAVL::Form_Unload() try {
 }
 
 void frmTAVL::CalledByAnotherStart(const QString& sGame) try {
-    if (m_bLoading) {
-        // A start that only wants this one to come to the front takes back no game.
-        if (!sGame.isEmpty()) m_sGameToOpen = sGame;
-        return;
+    if (!m_requests.IsLoading()) {
+        setWindowState(windowState() & ~Qt::WindowMinimized);
+        raise();
+        activateWindow();
     }
-    setWindowState(windowState() & ~Qt::WindowMinimized);
-    raise();
-    activateWindow();
-    if (sGame.isEmpty()) return;
-    if (QApplication::activeModalWidget() || bInPrint) {
-        MsgBox(QStringLiteral("Please close the window you are working in, then open the game again."), vbInformation);
-        return;
-    }
-    m_commands.OpenGame(sGame);
+    m_requests.Ask(sGame);
 } catch (...) {
     ErrTop("frmTAVL!", "CalledByAnotherStart", sGame);
 }

@@ -5,6 +5,7 @@
 #include "app/GameCommands.h"
 #include "app/MainLayout.h"
 #include "app/MainMenu.h"
+#include "app/StartRequests.h"
 #include "app/ToolBar.h"
 #include "app/ToolTips.h"
 #include "platform/paint/Color.h"
@@ -28,8 +29,11 @@ public:
     explicit frmTAVL(EditorRoutes& doors);
     ~frmTAVL() override;
 
-    /// The start in its fixed order; the window is shown by the caller afterwards.
+    /// The start in its fixed order; the window is shown by the caller afterwards. Whatever fails on the way is
+    /// reported, and the rest goes on.
     void Form_Load();
+    /// After the window is shown: opens what starts have asked for that could not be opened before.
+    void EndStart();
     void Form_Resize();
     /// Sets bCancel when the user wants to go on.
     void Form_QueryUnload(bool& bCancel);
@@ -61,7 +65,7 @@ public:
     GameCommands& Commands() { return m_commands; }
 
 public Q_SLOTS:
-    /// Another start of the program wants this one, with a game to open or an empty text.
+    /// A start of the program, this one or a later one, wants this window with a game to open or an empty text.
     void CalledByAnotherStart(const QString& sGame);
 
 protected:
@@ -79,6 +83,8 @@ private:
     void MakeButtons();
 
     // The start, in frmTAVL_start.cpp.
+    void PrepareStart();
+    void StartWithGame();
     void SizeMainWindow();
     void WarnOfFewColors();
     void ShowSplash();
@@ -100,6 +106,7 @@ private:
     ToolBar m_toolBar;
     BoardView m_view;
     GameCommands m_commands;
+    StartRequests m_requests;
     MainMenu m_menu;
 
     std::array<QPushButton*, MainLayout::kButtons> cmd{};
@@ -109,8 +116,5 @@ private:
     bool bInPrint = false;
     bool m_bPrintedSomething = false;
     bool m_bSplash = false;
-    bool m_bLoading = false;
-    /// What another start asked for while this one was still loading.
-    QString m_sGameToOpen;
     std::array<Color, 8> m_lColor{};
 };

@@ -3,6 +3,7 @@
 
 #include "app/frmAbout.h"
 #include "app/frmPrintManual.h"
+#include "app/OpeningNote.h"
 #include "board/basPosit.h"
 #include "document/basTAVL.h"
 #include "drawing/basBMP.h"
@@ -10,6 +11,7 @@
 #include "game/SampleGames.h"
 #include "kit/GameKit.h"
 #include "platform/files/ProfileFile.h"
+#include "platform/files/Temporaries.h"
 #include "platform/paint/Units.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
@@ -28,32 +30,45 @@ constexpr qint32 kBoardFace = 0xE0FFE0;
 
 } // namespace
 
-void frmTAVL::Form_Load() try {
-    m_bLoading = true;
+// Each part on its own: whatever the disk refuses, a window with a game stands in the end.
+void frmTAVL::Form_Load() {
+    PrepareStart();
+    StartWithGame();
+    HideSplash();
+}
+
+void frmTAVL::PrepareStart() try {
     const QString& programName = Settings().sProgramName;
     basErrLog::ErrInit(kLogLimit, QString(), true);
     basCommon::InitIniPath();
+    Temporaries::ClearLeftoversOnce(basCommon::GetMyGamesDirectory());
     basTAVL::CopySampleGames();
     WarnOfFewColors();
     basErrLog::ErrLogToFile(QStringLiteral("Starting Tavlora Version 6 running as ") + GameKit::ExeName(programName),
                             true);
-    {
-        // The first start writes back many defaults.
-        const ProfileFile::Together together;
-        GameKit::SetUp(programName);
-        basTAVL::g_vCurrencySign() = QStringLiteral("$");
-        SizeMainWindow();
-        basTAVL::g_lMagicColor() = basDraw::Draw_ReverseColor(Color::FromValue(kBoardFace));
-        GameKit::ReadGameVersion();
-    }
+    // The first start writes back many defaults.
+    const ProfileFile::Together together;
+    GameKit::SetUp(programName);
+    basTAVL::g_vCurrencySign() = QStringLiteral("$");
+    SizeMainWindow();
+    basTAVL::g_lMagicColor() = basDraw::Draw_ReverseColor(Color::FromValue(kBoardFace));
+    GameKit::ReadGameVersion();
+} catch (...) {
+    ErrTop("frmTAVL!", "Form_Load");
+}
+
+void frmTAVL::StartWithGame() try {
     ShowSplash();
     basCommon::ShowEntireForm(*this);
     Init();
-    HideSplash();
-    m_bLoading = false;
-    if (!m_sGameToOpen.isEmpty()) m_commands.OpenGame(m_sGameToOpen);
 } catch (...) {
-    m_bLoading = false;
+    ErrTop("frmTAVL!", "Form_Load");
+}
+
+void frmTAVL::EndStart() try {
+    OpeningNote::Remove();
+    m_requests.EndLoading();
+} catch (...) {
     ErrTop("frmTAVL!", "Form_Load");
 }
 
@@ -104,7 +119,8 @@ void frmTAVL::Init() try {
     basBMP::BMP_SetHDC(&m_view.Board().hDC());
     basBMP::BMP_SetBackColor(basTAVL::g_lMagicColor());
     basBMP::BMP_SetMagicColor(basTAVL::g_lMagicColor());
-    m_commands.TakeUpGame();
+    const QString asked = m_requests.Take();
+    if (!m_commands.TakeUpGame(asked)) m_requests.PutBack(asked);
 } catch (...) {
     ErrTail("frmTAVL!", "Init");
 }

@@ -26,6 +26,8 @@ std::optional<FailedSave>& Failed() {
 QString InMyGames(const QString& sName) { return basCommon::JoinPath(basCommon::GetMyGamesDirectory(), sName); }
 
 void RemoveOrRaise(const QString& sPath) {
+    // A folder of that name is somebody else's.
+    if (Files::IsDirectory(sPath)) return;
     QString error;
     // On a full disk a state that nobody could read goes in favour of the one that is being written.
     Rescue::KeepUnread(sPath, error);
@@ -67,7 +69,7 @@ QString BackupPath() { return InMyGames(QStringLiteral("~AutoSave.bak")); }
 
 Rotated Rotate() {
     // Without a newer state the earlier one is the only copy there is.
-    if (!Files::Exists(DataPath())) return Rotated::BackupIsAll;
+    if (!Files::Exists(DataPath()) || Files::IsDirectory(BackupPath())) return Rotated::BackupIsAll;
     RemoveOrRaise(BackupPath());
     QString error;
     Rescue::KeepUnread(DataPath(), error);

@@ -27,6 +27,12 @@ QString FreePath(const QString& sBase, const QString& sExtension) {
     return path;
 }
 
+QString FreePathFor(const QString& sPath) {
+    QString drive, dir, base, ext;
+    basCommon::FileNameFactor(sPath, drive, dir, base, ext);
+    return FreePath(base, ext);
+}
+
 void NoteUnread(const QString& sPath) {
     if (Files::Size(sPath) > 0) Unread().insert(sPath);
 }
@@ -36,9 +42,7 @@ void NoteRead(const QString& sPath) { Unread().remove(sPath); }
 bool KeepUnread(const QString& sPath, QString& sError) {
     if (!Unread().contains(sPath)) return true;
     if (Files::Exists(sPath)) {
-        QString drive, dir, base, ext;
-        basCommon::FileNameFactor(sPath, drive, dir, base, ext);
-        const QString path = FreePath(base, ext);
+        const QString path = FreePathFor(sPath);
         if (!Files::Copy(sPath, path, sError)) return false;
         basErrLog::ErrLogToFile(
             QStringLiteral("What could not be read as a game is about to be written over. It was kept as ") + path,

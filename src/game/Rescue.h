@@ -9,6 +9,8 @@ namespace Rescue {
 
 /// A free path for it. The extension goes without its dot.
 QString FreePath(const QString& sBase, const QString& sExtension);
+/// The same for a file of this name.
+QString FreePathFor(const QString& sPath);
 
 /// A file was to be loaded as a game and couldn't be: a damaged game, or a picture chosen by mistake. From then on
 /// the program takes it for the current game all the same, and may write over it.

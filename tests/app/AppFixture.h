@@ -78,15 +78,17 @@ protected:
         basErrLog::ResetForTest();
         Autosave::ResetForTest();
     }
-    /// Starts the program under a name, past its splash, and shows its window.
-    frmTAVL& Start(const QString& name = QStringLiteral("tavlora"),
-                   const QString& showSplash = QStringLiteral("false")) {
+    /// Starts the program under a name, past its splash, with a game to open if one is given, and shows its window.
+    frmTAVL& Start(const QString& name = QStringLiteral("tavlora"), const QString& showSplash = QStringLiteral("false"),
+                   const QString& game = QString()) {
         ForgetTheRun();
         Settings().sProgramName = name;
         if (!showSplash.isEmpty()) SetIni(QStringLiteral("ShowSplash"), showSplash);
         window = std::make_unique<frmTAVL>(*doors);
+        window->CalledByAnotherStart(game);
         window->Form_Load();
         window->show();
+        window->EndStart();
         return *window;
     }
     void SetIni(const QString& key, const QString& value) const {

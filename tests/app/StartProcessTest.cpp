@@ -122,4 +122,20 @@ TEST_F(StartProcessTest, LockThatNamesNobodyIsPassedOver) {
     EXPECT_TRUE(seen.Boxes().isEmpty()) << seen.Boxes().join(u'\n').toStdString();
 }
 
+TEST_F(StartProcessTest, LaterStartWinsOverTheOneThatIsStillLoading) {
+    MakeGames();
+    const QString first = MakeGame(QStringLiteral("First.gam"));
+    const QString second = MakeGame(QStringLiteral("Second.gam"));
+    QProcess loading;
+    Begin(loading, {QStringLiteral("no"), QStringLiteral("1500"), first}, PathOf(QStringLiteral("home")));
+    ASSERT_TRUE(WaitFor(loading, "splash"));
+    const Seen later = Run({QStringLiteral("no"), QStringLiteral("0"), second});
+    EXPECT_EQ(later.status, 0);
+    EXPECT_TRUE(later.lines.isEmpty()) << "it only hands over its game";
+    EXPECT_EQ(End(loading).lines, QStringList{QStringLiteral("title: Tavlora: ") + second + QStringLiteral("[*]")});
+    QFile log(InGames(QStringLiteral("tavlora.log")));
+    ASSERT_TRUE(log.open(QIODevice::ReadOnly));
+    EXPECT_FALSE(log.readAll().contains("First.gam")) << "one game is loaded, not two";
+}
+
 } // namespace
