@@ -132,11 +132,14 @@ void FitSpecialText(int iIndex, SpecialText& text) {
 }
 
 void SetSpecialText(int iIndex, const QString& sText) try {
-    SpecialText& record = m_CenterText(iIndex);
-    record.SetText(sText);
-    FitSpecialText(iIndex, record);
+    SetSpecialText(m_CenterText(iIndex), iIndex, sText);
 } catch (...) {
     ErrTail("basPosit!", "SetSpecialText", iIndex, sText);
+}
+
+void SetSpecialText(SpecialText& record, int iIndex, const QString& sText) {
+    record.SetText(sText);
+    FitSpecialText(iIndex, record);
 }
 
 } // namespace basPosit

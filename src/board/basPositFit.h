@@ -6,6 +6,8 @@
 #include <QString>
 #include <QStringList>
 
+struct SpecialText;
+
 /// Fitting of texts to the boxes and bands of the board. All of it measures on the drawing layer's current
 /// context.
 namespace basPosit {
@@ -29,5 +31,7 @@ void FitSpecialText(int iIndex, SpecialText& text);
 /// Sets a special text, 0 to 16, splits it into lines and fits its letters to the record's limit. The look
 /// depends on the text alone, whatever stood there before.
 void SetSpecialText(int iIndex, const QString& sText);
+/// The same for a record that isn't in force; iIndex says whose limit counts.
+void SetSpecialText(SpecialText& record, int iIndex, const QString& sText);
 
 } // namespace basPosit

@@ -29,6 +29,10 @@ Game::Game() : kit(KitInUse()) {
     for (auto& set : news)
         Number(set);
     Number(money);
+    for (C_Money& note : money) {
+        note.FaceImage.Let_SpaceOrCorner(QStringLiteral("Money"));
+        note.FaceImage.Let_Index(note.Index);
+    }
     Number(tokens);
 }
 

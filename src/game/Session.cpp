@@ -47,6 +47,7 @@ bool Session::Save() {
 
 void Session::Do(const Edit& edit) {
     m_history.Do(TheGame(), edit);
+    Q_EMIT Edited();
     SetSomethingChanged(true);
 }
 
@@ -62,23 +63,33 @@ void Session::Redo() {
     FollowStep();
 }
 
-void Session::FollowStep() { SetSomethingChanged(IsUnsaved()); }
+void Session::FollowStep() {
+    Q_EMIT Edited();
+    SetSomethingChanged(IsUnsaved());
+}
 
 void Session::SetSomethingChanged(bool bChanged) try {
     if (bChanged) {
         // Ahead of what may raise: the end of the program must ask about the change all the same.
         if (!IsUnsaved()) m_savedState.reset();
+        m_bAutosaveDue = true;
         Q_EMIT Changed();
         const Autosave::Rotated rotated = Autosave::Rotate();
         bool written = false;
         GameFile::GameSave(Autosave::DataPath(), written);
         Autosave::EndRotation(rotated);
+        m_bAutosaveDue = false;
     } else {
         Autosave::Forget();
+        m_bAutosaveDue = false;
         m_savedState.reset();
         if (!Autosave::IsKeptNowhere(m_sGameName)) m_savedState = m_history.State();
         Q_EMIT Changed();
     }
 } catch (...) {
     ErrTail("frmTAVL!", "SetSomethingChanged", bChanged);
+}
+
+void Session::RetryAutosave() {
+    if (m_bAutosaveDue) SetSomethingChanged(true);
 }

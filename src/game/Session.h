@@ -58,11 +58,17 @@ public:
     /// written is told and changes nothing else.
     void SetSomethingChanged(bool bChanged) override;
 
+    /// Writes the autosave if the last one failed by raising, for whoever can do so between two changes.
+    void RetryAutosave();
+
     DeviceContext& MeasuringDevice() override { return m_device(); }
     /// Has texts measured on another device than a scratch one.
     void MeasureOn(std::function<DeviceContext&()> device) { m_device = std::move(device); }
 
 Q_SIGNALS:
+    /// An edit is in force, or was taken back or brought again; comes ahead of the autosave, so that what shows the
+    /// game shows it though that should fail.
+    void Edited();
     /// The steps, or whether the game is saved, may have changed.
     void Changed();
 
@@ -71,6 +77,7 @@ private:
     void FollowStep();
 
     QString m_sGameName;
+    bool m_bAutosaveDue = false;
     History m_history;
     /// None where no state of the history is the saved one.
     std::optional<quint64> m_savedState = m_history.State();

@@ -20,7 +20,7 @@ protected:
     void Rename(const QString& text) {
         C_Space space = session.InHand().spaces[0];
         space.SetText(text);
-        session.Do(Edits::OfSpace(session.InHand(), space));
+        session.Do(Edits::OfSpace(session.InHand(), 0, space));
     }
     QString Name() const { return session.InHand().spaces[0].TextAll(); }
     bool IsAutosaved(const char* text) const { return ReadFile(autosave).contains(text); }
@@ -109,7 +109,7 @@ TEST_F(SessionTest, AutosavedAgainAnEditCanStillBeUndoneToWhatWasSaved) {
 }
 
 TEST_F(SessionTest, AnEditThatChangesNothingIsUnsavedAsItHasAlwaysBeenAndNoStep) {
-    session.Do(Edits::OfAllFonts(session.InHand()));
+    session.Do({QStringLiteral("Set All Fonts"), session.InHand()});
     EXPECT_TRUE(session.IsUnsaved());
     EXPECT_TRUE(Files::Exists(autosave));
     EXPECT_FALSE(session.CanUndo());
