@@ -4,7 +4,8 @@
 class frmTAVL;
 
 /// The main window's doors to the editors and the other windows that it opens. Each shows its window modally over
-/// the main window and tells whether the game has changed by anything that wasn't autosaved while it stood.
+/// the main window. Those of editors hand what was done to the main window's session, and tell whether the game has
+/// changed.
 class EditorRoutes {
 public:
     virtual ~EditorRoutes() = default;

@@ -15,57 +15,43 @@
 #include "windows/print/frmTavlPrint.h"
 
 bool EditorWindows::EditSpace(frmTAVL& main, int iSpace) {
-    if (!m_frmEditSpace) m_frmEditSpace = new frmEditSpace(&main);
+    if (!m_frmEditSpace) m_frmEditSpace = new frmEditSpace(main.Commands().InHand(), &main);
     bool changed = false;
     m_frmEditSpace->ShowForm(iSpace, changed);
     return changed;
 }
 
 bool EditorWindows::EditCorner(frmTAVL& main, int iCorner) {
-    if (!m_frmEditCorner) m_frmEditCorner = new frmEditCorner(&main);
+    if (!m_frmEditCorner) m_frmEditCorner = new frmEditCorner(main.Commands().InHand(), &main);
     bool changed = false;
     m_frmEditCorner->ShowForm(iCorner, changed);
     return changed;
 }
 
 bool EditorWindows::EditCenter(frmTAVL& main) {
-    if (!m_frmEditCenter) m_frmEditCenter = new frmEditCenter(&main);
+    if (!m_frmEditCenter) m_frmEditCenter = new frmEditCenter(main.Commands().InHand(), &main);
     bool changed = false;
     m_frmEditCenter->ShowForm(changed);
     return changed;
 }
 
 bool EditorWindows::ShowNews(frmTAVL& main, int iGoodOrBad) {
-    if (!m_frmShowNews) {
-        m_frmShowNews = new frmShowNews(&main);
-        m_frmShowNews->TellChange = std::bind_front(&EditorWindows::ChangedMeanwhile, this, &main);
-    }
+    if (!m_frmShowNews) m_frmShowNews = new frmShowNews(main.Commands().InHand(), &main);
     bool changed = false;
-    m_bToldAll = false;
     m_frmShowNews->ShowForm(iGoodOrBad, changed);
-    return changed && !m_bToldAll;
-}
-
-void EditorWindows::ChangedMeanwhile(frmTAVL* main) {
-    m_bToldAll = false;
-    main->Commands().InHand().SetSomethingChanged(true);
-    m_bToldAll = true;
+    return changed;
 }
 
 bool EditorWindows::EditMoney(frmTAVL& main) {
-    if (!m_frmEditMoney) m_frmEditMoney = new frmEditMoney(&main);
+    if (!m_frmEditMoney) m_frmEditMoney = new frmEditMoney(main.Commands().InHand(), &main);
     return m_frmEditMoney->ShowForm();
 }
 
 bool EditorWindows::ShowTokens(frmTAVL& main) {
-    if (!m_frmShowTokens) {
-        m_frmShowTokens = new frmShowTokens(&main);
-        m_frmShowTokens->TellChange = std::bind_front(&EditorWindows::ChangedMeanwhile, this, &main);
-    }
+    if (!m_frmShowTokens) m_frmShowTokens = new frmShowTokens(main.Commands().InHand(), &main);
     bool changed = false;
-    m_bToldAll = false;
     m_frmShowTokens->ShowForm(changed);
-    return changed && !m_bToldAll;
+    return changed;
 }
 
 bool EditorWindows::Print(frmTAVL& main) {

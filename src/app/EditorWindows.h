@@ -28,12 +28,6 @@ public:
     void Setup(frmTAVL& main) override;
 
 private:
-    /// A window that lets many records be changed has let one be changed: autosaved at once, so that a crash
-    /// loses that one at most.
-    void ChangedMeanwhile(frmTAVL* main);
-    /// All that the window now open has changed was autosaved as it changed.
-    bool m_bToldAll = false;
-
     QPointer<frmEditSpace> m_frmEditSpace;
     QPointer<frmEditCorner> m_frmEditCorner;
     QPointer<frmEditCenter> m_frmEditCenter;

@@ -307,38 +307,38 @@ void frmTAVL::OpenPlace(const BoardPlace& place) {
     }
 }
 
-void frmTAVL::ChangedByEditor(bool bChanged, bool bRedraw) {
-    if (!bChanged) return;
-    m_commands.InHand().SetSomethingChanged(true);
-    if (bRedraw) m_view.Redraw();
-}
-
-void frmTAVL::EditCenterText() try { ChangedByEditor(m_doors.EditCenter(*this), true); } catch (...) {
+void frmTAVL::EditCenterText() try {
+    if (m_doors.EditCenter(*this)) m_view.Redraw();
+} catch (...) {
     ErrTail("frmTAVL!", "EditCenterText");
 }
 
 void frmTAVL::EditCornerText(int iCorner) try {
-    ChangedByEditor(m_doors.EditCorner(*this, iCorner), true);
+    if (m_doors.EditCorner(*this, iCorner)) m_view.Redraw();
 } catch (...) {
     ErrTail("frmTAVL!", "EditCornerText", iCorner);
 }
 
-void frmTAVL::EditSpaceText(int iSpace) try { ChangedByEditor(m_doors.EditSpace(*this, iSpace), true); } catch (...) {
+void frmTAVL::EditSpaceText(int iSpace) try {
+    if (m_doors.EditSpace(*this, iSpace)) m_view.Redraw();
+} catch (...) {
     ErrTail("frmTAVL!", "EditSpaceText", iSpace);
 }
 
 void frmTAVL::EditNews(int iGoodOrBad) try {
-    ChangedByEditor(m_doors.ShowNews(*this, iGoodOrBad), false);
+    m_doors.ShowNews(*this, iGoodOrBad);
+    m_commands.InHand().RetryAutosave();
 } catch (...) {
     ErrTail("frmTAVL!", "EditNews", iGoodOrBad);
 }
 
-void frmTAVL::EditMoney() try { ChangedByEditor(m_doors.EditMoney(*this), false); } catch (...) {
+void frmTAVL::EditMoney() try { m_doors.EditMoney(*this); } catch (...) {
     ErrTail("frmTAVL!", "EditMoney");
 }
 
 void frmTAVL::EditToken() try {
-    ChangedByEditor(m_doors.ShowTokens(*this), false);
+    m_doors.ShowTokens(*this);
+    m_commands.InHand().RetryAutosave();
     // Unlike those of the board, nothing that is painted asks for them.
     for (int i = 0; i < basTAVL::kTokens; ++i)
         basTAVL::g_oTokens(i).Image.GetThumbnail(false);

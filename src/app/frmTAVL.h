@@ -93,7 +93,6 @@ private:
     void InitColors();
 
     void OpenPlace(const BoardPlace& place);
-    void ChangedByEditor(bool bChanged, bool bRedraw);
     void Choose(Menu menu, int Index);
     void PrinterSetup();
     void Print();

@@ -116,8 +116,10 @@ protected:
 
     /// An edit that an editor hands back.
     void Edit(const QString& text) const {
-        basTAVL::g_oSpaces(4).SetText(text);
-        window->Commands().InHand().SetSomethingChanged(true);
+        Session& session = window->Commands().InHand();
+        C_Space space = session.InHand().spaces[4];
+        space.SetText(text);
+        session.Do(Edits::OfSpace(session.InHand(), 4, space));
     }
 
     template <typename Widget>

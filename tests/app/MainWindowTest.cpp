@@ -74,9 +74,8 @@ TEST_F(MainWindowTest, EveryCornerAndBoxOpensItsEditor) {
 }
 
 TEST_F(MainWindowTest, ChangeIsAutosavedAndSpaceRepaints) {
-    routes.onEdit = [] {
-        basTAVL::g_oSpaces(4).SpaceColor = Color::Rgb(1, 2, 3);
-        basTAVL::g_oSpaces(4).SetText(QStringLiteral("XXXX"));
+    routes.onEdit = [this] {
+        Edit(QStringLiteral("XXXX"));
         return true;
     };
     window->View().Board().SetBackColor(Color::White());

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "board/basPosit.h"
+#include "game/Session.h"
 #include "support/BoardFixture.h"
 
 #include <QApplication>
@@ -16,6 +17,8 @@
 class EditorTest : public BoardTest {
 protected:
     EditorTest() { basPosit::PosInit(); }
+
+    Session session;
 
     /// Acts in the modal window that opens next, as soon as it is open; a window that the actions have left
     /// open is hidden then, so that no test hangs.

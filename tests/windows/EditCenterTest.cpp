@@ -37,6 +37,10 @@ protected:
     }
 
     static QString Text(int record) { return basPosit::m_CenterText(record).sText; }
+    static const SpecialText& TypedRecord(QDialog& form, int record) {
+        return static_cast<frmEditCenter&>(form).Typed().Text(record);
+    }
+    static QString Typed(QDialog& form, int record) { return TypedRecord(form, record).sText; }
     static QString Lines(int count) { return QStringList(count, QStringLiteral("ab")).join(QStringLiteral("\r\n")); }
 
     bool Edit(const std::function<void(QDialog&)>& act) {
@@ -70,7 +74,7 @@ protected:
     static QImage Shown(QDialog& form) { return Find<PictureBox>(form, "picForm").Image().copy(); }
     static QImage Shown(QDialog& form, const QRect& area) { return Shown(form).copy(area); }
 
-    frmEditCenter editor;
+    frmEditCenter editor{session};
 };
 
 TEST_F(EditCenterTest, Edge_EnterDoesNothingInTheGamesName) {
@@ -79,7 +83,7 @@ TEST_F(EditCenterTest, Edge_EnterDoesNothingInTheGamesName) {
         const QImage before = Shown(form);
         Press(form, Qt::Key_Return);
         Press(form, Qt::Key_Enter);
-        EXPECT_EQ(Text(kNameRecord), QStringLiteral("Our Town"));
+        EXPECT_EQ(Typed(form, kNameRecord), QStringLiteral("Our Town"));
         EXPECT_EQ(Shown(form), before);
         EXPECT_TRUE(form.isVisible());
     });
@@ -90,12 +94,12 @@ TEST_F(EditCenterTest, Edge_EachLineIsCutToFortyCharacters) {
         for (int i = 0; i < 3; ++i) {
             ClickBehind(form, kArea[i]);
             Type(form, QString(60, u'i'));
-            EXPECT_EQ(Text(i + 1).size(), 40) << i + 1;
+            EXPECT_EQ(Typed(form, i + 1).size(), 40) << i + 1;
         }
         ClickBehind(form, kSubtitle);
         Press(form, Qt::Key_Return);
         Type(form, QString(50, u'j'));
-        EXPECT_EQ(basPosit::m_CenterText(kSubtitleRecord).Lines().last(), QString(40, u'j'));
+        EXPECT_EQ(TypedRecord(form, kSubtitleRecord).Lines().last(), QString(40, u'j'));
     });
 }
 
@@ -108,17 +112,17 @@ TEST_F(EditCenterTest, Edge_TenLinesTakeNoMoreCharactersButBackspaceAndTheArrows
             const QImage before = Shown(form, kArea[record - 1]);
             Type(form, QStringLiteral("x"));
             Press(form, Qt::Key_Return);
-            EXPECT_EQ(Text(record), Lines(10));
+            EXPECT_EQ(Typed(form, record), Lines(10));
             EXPECT_EQ(Shown(form, kArea[record - 1]), before);
             Press(form, Qt::Key_Left);
             EXPECT_NE(Shown(form, kArea[record - 1]), before) << "the caret has moved";
             Press(form, Qt::Key_Backspace);
-            EXPECT_EQ(Text(record), Lines(9) + QStringLiteral("\r\nb"));
+            EXPECT_EQ(Typed(form, record), Lines(9) + QStringLiteral("\r\nb"));
             for (int i = 0; i < 2; ++i)
                 Press(form, Qt::Key_Backspace);
-            EXPECT_EQ(basPosit::m_CenterText(record).iNLines, 9);
+            EXPECT_EQ(TypedRecord(form, record).iNLines, 9);
             Type(form, QStringLiteral("x"));
-            EXPECT_TRUE(Text(record).contains(u'x'));
+            EXPECT_TRUE(Typed(form, record).contains(u'x'));
         }
     });
 }
@@ -132,7 +136,7 @@ TEST_F(EditCenterTest, Edge_CancelRestoresAllThreeAndOkWithAnEmptyTitleStays) {
             ClickBehind(form, kArea[i]);
             for (int n = 0; n < 10; ++n)
                 Press(form, Qt::Key_Backspace);
-            EXPECT_EQ(Text(i + 1), QString());
+            EXPECT_EQ(Typed(form, i + 1), QString());
             Click(form, "cmdOK");
             EXPECT_TRUE(form.isVisible());
             EXPECT_EQ(desktop.boxes.last().sText, QString::fromLatin1(messages[i]));
@@ -157,7 +161,7 @@ TEST_F(EditCenterTest, Edge_TheFixedWordShowsInItsPartAndCannotBeEdited) {
         ClickAt(form, ink.center());
         Type(form, QStringLiteral("xx"));
         EXPECT_EQ(basPosit::m_CenterText(0).sText, QStringLiteral("TAVLO"));
-        EXPECT_EQ(Text(kNameRecord), QStringLiteral("Our Townxx")) << "the area is the game name's";
+        EXPECT_EQ(Typed(form, kNameRecord), QStringLiteral("Our Townxx")) << "the area is the game name's";
         EXPECT_EQ(Shown(form).copy(part), word);
     });
 }
@@ -173,22 +177,25 @@ TEST_F(EditCenterTest, Edge_AClickOutsideAllAreasEndsTheEditing) {
         Press(form, Qt::Key_Backspace);
         Press(form, Qt::Key_Delete);
         Press(form, Qt::Key_Return);
-        EXPECT_EQ(Text(kSubtitleRecord), QStringLiteral("A game"));
+        EXPECT_EQ(Typed(form, kSubtitleRecord), QStringLiteral("A game"));
         EXPECT_TRUE(form.isVisible());
         EXPECT_EQ(Shown(form), plain);
     });
 }
 
-TEST_F(EditCenterTest, TypingReachesTheRecordAndTheAnswerTellsTheChange) {
+TEST_F(EditCenterTest, TypingReachesTheGameWhenTheWindowClosesAndTheAnswerTellsTheChange) {
     EXPECT_TRUE(Edit([](QDialog& form) {
         ClickBehind(form, kSubtitle);
         Type(form, QStringLiteral(" of 3"));
         Press(form, Qt::Key_Return);
         Type(form, QStringLiteral("rounds"));
-        EXPECT_EQ(Text(kSubtitleRecord), QStringLiteral("A game of 3\r\nrounds"));
+        EXPECT_EQ(Typed(form, kSubtitleRecord), QStringLiteral("A game of 3\r\nrounds"));
+        EXPECT_EQ(Text(kSubtitleRecord), QStringLiteral("A game")) << "half a title is no title";
         Click(form, "cmdOK");
         EXPECT_FALSE(form.isVisible());
     }));
+    EXPECT_EQ(Text(kSubtitleRecord), QStringLiteral("A game of 3\r\nrounds"));
+    EXPECT_EQ(session.UndoName(), QStringLiteral("Subtitle"));
     EXPECT_FALSE(Edit([](QDialog& form) { Click(form, "cmdOK"); })) << "looking is no change";
 }
 
@@ -215,7 +222,7 @@ TEST_F(EditCenterTest, WhileACaretStandsEnterAndBlankBelongToTheTextWhateverHasT
         Press(form, Qt::Key_Space);
         Press(form, Qt::Key_Return);
         EXPECT_TRUE(form.isVisible());
-        EXPECT_EQ(Text(kSubtitleRecord), QStringLiteral("A game \r\n"));
+        EXPECT_EQ(Typed(form, kSubtitleRecord), QStringLiteral("A game \r\n"));
     });
 }
 
@@ -245,7 +252,7 @@ TEST_F(EditCenterTest, DraggingSelectsAndTypingReplacesWhatIsSelected) {
         Press(form, Qt::Key_C, Qt::ControlModifier);
         EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("A game"));
         Type(form, QStringLiteral("Z"));
-        EXPECT_EQ(Text(kSubtitleRecord), QStringLiteral("Z"));
+        EXPECT_EQ(Typed(form, kSubtitleRecord), QStringLiteral("Z"));
     });
 }
 
@@ -273,8 +280,8 @@ TEST_F(EditCenterTest, ADragThatLeavesItsTextKeepsWhatItHasSelectedThere) {
 TEST_F(EditCenterTest, OnlyADragWithTheLeftButtonThatBeganOnTheTextSelects) {
     const auto typedAfter = [](QDialog& form) {
         Type(form, QStringLiteral("!"));
-        const QString text = Text(kSubtitleRecord);
-        basPosit::SetSpecialText(kSubtitleRecord, QStringLiteral("A game"));
+        const QString text = Typed(form, kSubtitleRecord);
+        Press(form, Qt::Key_Backspace);
         return text;
     };
     Edit([&](QDialog& form) {
@@ -298,10 +305,10 @@ TEST_F(EditCenterTest, TheClipboardIsTypedACharacterAtATime) {
         QGuiApplication::clipboard()->setText(QStringLiteral("\x01\nx\ty"));
         ClickBehind(form, kName);
         Press(form, Qt::Key_V, Qt::ControlModifier);
-        EXPECT_EQ(Text(kNameRecord), QStringLiteral("Our Townx y")) << "a break is refused in the game's name";
+        EXPECT_EQ(Typed(form, kNameRecord), QStringLiteral("Our Townx y")) << "a break is refused in the game's name";
         ClickBehind(form, kOccasion);
         Press(form, Qt::Key_V, Qt::ControlModifier);
-        EXPECT_EQ(Text(kOccasionRecord), QStringLiteral("Summer\r\nx y"));
+        EXPECT_EQ(Typed(form, kOccasionRecord), QStringLiteral("Summer\r\nx y"));
     });
 }
 
@@ -311,7 +318,7 @@ TEST_F(EditCenterTest, AccentsFromAnInputMethodAreTyped) {
         QInputMethodEvent event;
         event.setCommitString(QStringLiteral("\u00E9"));
         QApplication::sendEvent(form.focusWidget(), &event);
-        EXPECT_EQ(Text(kOccasionRecord), QStringLiteral("Summer\u00E9"));
+        EXPECT_EQ(Typed(form, kOccasionRecord), QStringLiteral("Summer\u00E9"));
     });
 }
 
@@ -325,9 +332,9 @@ TEST_F(EditCenterTest, TheTabKeyGoesThroughTheTextsAndOnToTheButtons) {
         Type(form, QStringLiteral("3"));
         Press(form, Qt::Key_Tab);
         EXPECT_EQ(form.focusWidget(), &Find<QPushButton>(form, "cmdOK"));
-        EXPECT_EQ(Text(kNameRecord), QStringLiteral("Our Town1"));
-        EXPECT_EQ(Text(kSubtitleRecord), QStringLiteral("A game2"));
-        EXPECT_EQ(Text(kOccasionRecord), QStringLiteral("Summer3"));
+        EXPECT_EQ(Typed(form, kNameRecord), QStringLiteral("Our Town1"));
+        EXPECT_EQ(Typed(form, kSubtitleRecord), QStringLiteral("A game2"));
+        EXPECT_EQ(Typed(form, kOccasionRecord), QStringLiteral("Summer3"));
         Press(form, Qt::Key_Space);
         EXPECT_FALSE(form.isVisible());
     });

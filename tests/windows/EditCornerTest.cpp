@@ -23,7 +23,7 @@ protected:
     C_Corner& Corner() { return basTAVL::g_oCorners(kCorner); }
     void ClickBehindText() { ClickPicture(kBehindText.x(), kBehindText.y()); }
 
-    frmEditCorner form;
+    frmEditCorner form{session};
 };
 
 TEST_F(EditCornerTest, Edge_TheCornerOfFateTakesTextThatItsBoardNeverShows) {

@@ -72,7 +72,7 @@ protected:
         Note(note).FaceImage.Init(sPath, QStringLiteral("Money"), qint16(note));
     }
 
-    frmEditMoney form;
+    frmEditMoney form{session};
 };
 
 TEST_F(EditMoneyTest, Edge_AllFourNotesKeepTheirOwnTextsAndPicturesWhileTheWindowIsOpen) {

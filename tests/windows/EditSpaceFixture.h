@@ -16,5 +16,5 @@ protected:
     /// Puts the caret behind the last character.
     void ClickBehindText() { ClickPicture(186, Space().Image.FullPath().isEmpty() ? 270 : 290); }
 
-    frmEditSpace form;
+    frmEditSpace form{session};
 };

@@ -51,7 +51,7 @@ protected:
     QString EntryBox() { return Find<QPlainTextEdit>("txtToken")->toPlainText(); }
     QString WorkingText() const { return form.Token().TextAll(); }
 
-    frmEditToken form;
+    frmEditToken form{session};
 };
 
 TEST_F(EditTokenTest, Edge_NoToClearImageKeepsThePictureAndAnEmptyEntryBox) {

@@ -3,6 +3,7 @@
 
 #include "support/GameFixture.h"
 
+#include "game/Session.h"
 #include "windows/pictures/frmBrowse.h"
 
 #include <QApplication>
@@ -72,5 +73,6 @@ protected:
     /// Does something in the window once it stands, and closes it in the end.
     void InWindow(const std::function<void()>& doIt);
 
+    Session session;
     QDialog* window = nullptr;
 };

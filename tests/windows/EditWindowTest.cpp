@@ -28,8 +28,8 @@ protected:
     QString Text() { return dynamic_cast<EditWindow*>(window)->GetTextArray().join(u'|'); }
     Qt::CursorShape Pointer() { return Find<PictureBox>("picDest")->cursor().shape(); }
 
-    frmEditSpace space;
-    frmEditCorner corner;
+    frmEditSpace space{session};
+    frmEditCorner corner{session};
 };
 
 TEST_F(EditBothTest, CancelDropsCaretAndPointerAlsoWhereTheWindowStaysOpen) {

@@ -57,13 +57,13 @@ protected:
     QImage DrawSpace(const QString& text) {
         basDraw::Draw_SetHdc(&context);
         basTAVL::g_oSpaces(kSpace).SetText(text);
-        space.LoadFromGame(kSpace);
+        space.LoadFromGame(TheGame(), kSpace);
         return Draw(space);
     }
     QImage DrawCorner(const QString& text) {
         basDraw::Draw_SetHdc(&context);
         basTAVL::g_oCorners(kCorner).SetText(0, text);
-        corner.LoadFromGame(kCorner);
+        corner.LoadFromGame(TheGame(), kCorner);
         return Draw(corner);
     }
 
@@ -193,7 +193,7 @@ TEST_F(LikenessTest, TheMouseFindsTextAndItsPlaces) {
 
 TEST_F(LikenessTest, ASpaceNeverFilledIsOneEmptyLine) {
     basTAVL::g_oSpaces(9).SetText(TextLines::kUseExisting);
-    space.LoadFromGame(9);
+    space.LoadFromGame(TheGame(), 9);
     EXPECT_EQ(space.GetTextArray(), QStringList{QString()});
     ScratchForm picture(space.Size());
     const Likeness::Spot spot = space.WhereIsMouse(picture, 103, 168);

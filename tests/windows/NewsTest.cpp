@@ -59,8 +59,8 @@ protected:
     static void Enlarge(QDialog& form) { form.resize(780, 700); }
     static const QImage& Shown(QDialog& form, const char* sName) { return Find<PictureBox>(form, sName).Image(); }
 
-    frmEditNews editor;
-    frmShowNews viewer;
+    frmEditNews editor{session};
+    frmShowNews viewer{session};
     QString dialogTitle;
 };
 

@@ -2,9 +2,9 @@
 #include "windows/editors/CornerLikeness.h"
 
 #include "document/basTAVL.h"
+#include "document/Subscript.h"
 #include "drawing/basDraw.h"
 #include "platform/text/Numbers.h"
-#include "windows/editors/GameFonts.h"
 
 #include <QPoint>
 
@@ -29,28 +29,35 @@ QSize CornerLikeness::Size() const { return kSize; }
 
 QString CornerLikeness::Joined(const QStringList& sTextLines) const { return sTextLines.join(QStringLiteral("\r\n")); }
 
-void CornerLikeness::LoadFromGame(int iIndex) {
+void CornerLikeness::LoadFromGame(const Game& game, int iIndex) {
     m_iCorner = iIndex;
-    TakeBack();
+    TakeBack(game);
 }
 
-void CornerLikeness::TakeBack() {
+const C_Corner& CornerLikeness::InGame(const Game& game) const {
+    return game.corners[CheckedSubscript(m_iCorner, basTAVL::kCorners)];
+}
+
+void CornerLikeness::TakeBack(const Game& game) {
     // A corner takes over no more than the lines in use: what was typed behind them would stay and count as
     // a change.
     oCorner = C_Corner();
-    oCorner.LoadFromObject(basTAVL::g_oCorners(m_iCorner));
+    oCorner.LoadFromObject(InGame(game));
 }
 
-void CornerLikeness::StoreInGame() {
-    C_Corner& original = basTAVL::g_oCorners(m_iCorner);
-    original.LoadFromObject(oCorner);
+bool CornerLikeness::IsDifferentFromGame(const Game& game) const { return InGame(game).IsDifferentFrom(oCorner); }
+
+Edit CornerLikeness::ChangeOf(const Game& game) const {
+    C_Corner corner = InGame(game);
+    corner.LoadFromObject(oCorner);
     for (int iLine = oCorner.NLines(kBlock); iLine < TextLines::kMaxLines; ++iLine)
-        original.Let_TextLine(kBlock, iLine, QString());
+        corner.Let_TextLine(kBlock, iLine, QString());
+    return Edits::OfCorner(game, m_iCorner, corner);
 }
 
-bool CornerLikeness::IsDifferentFromGame() const { return basTAVL::g_oCorners(m_iCorner).IsDifferentFrom(oCorner); }
-
-void CornerLikeness::SetAllFonts() { GameFonts::GiveToAllBut(oCorner.Font, GameFonts::kNoSpace, m_iCorner); }
+Edit CornerLikeness::AllFontsOf(const Game& game) const {
+    return Edits::OfBoardFont(game, oCorner.Font, Edits::kNoSpace, m_iCorner);
+}
 
 Likeness::TextBox CornerLikeness::TextPlace() { return kText; }
 

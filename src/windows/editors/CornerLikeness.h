@@ -20,11 +20,11 @@ public:
     /// Lines of any length.
     QString Joined(const QStringList& sTextLines) const override;
 
-    void LoadFromGame(int iIndex) override;
-    void TakeBack() override;
-    void StoreInGame() override;
-    bool IsDifferentFromGame() const override;
-    void SetAllFonts() override;
+    void LoadFromGame(const Game& game, int iIndex) override;
+    void TakeBack(const Game& game) override;
+    bool IsDifferentFromGame(const Game& game) const override;
+    Edit ChangeOf(const Game& game) const override;
+    Edit AllFontsOf(const Game& game) const override;
 
 protected:
     QStringList LinesInUse() const override { return oCorner.TextArray(kBlock); }
@@ -35,6 +35,8 @@ protected:
 
 private:
     static constexpr int kBlock = 0;
+
+    const C_Corner& InGame(const Game& game) const;
 
     int m_iCorner = 0;
 };

@@ -2,6 +2,7 @@
 #include "windows/editors/EditWindow.h"
 
 #include "document/basTAVL.h"
+#include "game/Session.h"
 #include "pictures/C_Image.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
@@ -24,8 +25,8 @@ constexpr double kSquare = 1.0;
 
 } // namespace
 
-EditWindow::EditWindow(std::unique_ptr<Likeness> likeness, const Wording& wording, QWidget* parent)
-    : TypingWindow(wording.sModule, "txtToolTip", parent), m_ownLikeness(std::move(likeness)),
+EditWindow::EditWindow(Session& session, std::unique_ptr<Likeness> likeness, const Wording& wording, QWidget* parent)
+    : TypingWindow(wording.sModule, "txtToolTip", parent), m_session(session), m_ownLikeness(std::move(likeness)),
       m_likeness(*m_ownLikeness), m_wording(wording) {
     setObjectName(QString::fromLatin1(wording.sName));
     setWindowTitle(QString::fromLatin1(wording.sCaption));
@@ -36,10 +37,10 @@ EditWindow::EditWindow(std::unique_ptr<Likeness> likeness, const Wording& wordin
 
 EditWindow::~EditWindow() = default;
 
-bool EditWindow::ShowModally(int iIndex) {
+std::optional<Edit> EditWindow::Ask(int iIndex) {
     m_bLoading = true;
     m_bChangeAllFonts = false;
-    m_likeness.LoadFromGame(iIndex);
+    m_likeness.LoadFromGame(m_session.InHand(), iIndex);
     m_selection.Clear();
     m_bSelecting = false;
     chkIncludeImage->setChecked(!m_likeness.Image().FullPath().isEmpty());
@@ -48,9 +49,14 @@ bool EditWindow::ShowModally(int iIndex) {
     Redraw();
     TakeFocus();
     exec();
-    if (!m_likeness.IsDifferentFromGame()) return m_bChangeAllFonts;
-    m_likeness.StoreInGame();
-    return true;
+    if (!m_likeness.IsDifferentFromGame(m_session.InHand())) return std::nullopt;
+    return m_likeness.ChangeOf(m_session.InHand());
+}
+
+bool EditWindow::EditPiece(int iIndex) {
+    const std::optional<Edit> edit = Ask(iIndex);
+    if (edit) m_session.Do(*edit);
+    return edit.has_value() || m_bChangeAllFonts;
 }
 
 void EditWindow::Redraw() try {
@@ -103,12 +109,12 @@ void EditWindow::cmdSetAllFonts_Click() try {
                              QStringLiteral(" to be used for all spaces and corners.") + kNewLine + kNewLine +
                              QStringLiteral("This action CANNOT be undone. Do you wish to continue?");
     if (MsgBox(question, vbYesNoCancel + vbExclamation, QStringLiteral("Set All Fonts?")) != vbYes) return;
+    m_bChangeAllFonts = true;
     UsePicDest();
-    m_likeness.SetAllFonts();
+    m_session.Do(m_likeness.AllFontsOf(m_session.InHand()));
     MsgBox(QStringLiteral("All fonts have been changed. The change will be visible as soon as you exit the current "
                           "form."),
            vbInformation);
-    m_bChangeAllFonts = true;
 } catch (...) {
     ErrTop(m_wording.sModule, "cmdSetAllFonts_Click");
 }
@@ -169,13 +175,13 @@ void EditWindow::cmdCancel_Click() try {
     UsePicDest();
     DropSelection();
     Redraw();
-    if (!m_likeness.IsDifferentFromGame()) {
+    if (!m_likeness.IsDifferentFromGame(m_session.InHand())) {
         hide();
         return;
     }
     const UnsavedChanges answer = AskAboutUnsavedChanges();
     if (answer == UnsavedChanges::Stay) return;
-    if (answer == UnsavedChanges::Drop) m_likeness.TakeBack();
+    if (answer == UnsavedChanges::Drop) m_likeness.TakeBack(m_session.InHand());
     hide();
 } catch (...) {
     ErrTop(m_wording.sModule, "cmdCancel_Click");

@@ -9,6 +9,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 class ElidedLabel;
 class ImageGroup;
@@ -18,6 +19,7 @@ class QGroupBox;
 class QLabel;
 class QPlainTextEdit;
 class QPushButton;
+class Session;
 
 /// What the editor of a space and that of a corner have in common: a likeness to type on and click on, and
 /// the buttons beside it. Works on the likeness's private copy; what was done reaches the game only when the
@@ -29,7 +31,10 @@ public:
     Likeness::Spot WhereIsMouse(float X, float Y);
     QStringList GetTextArray() const override { return m_likeness.GetTextArray(); }
 
-    /// Whether other records than the one shown got another font since ShowForm.
+    /// Shows a piece modally and gives what was done to it, or nothing. "Set All Fonts" is no part of that: the
+    /// game has it at once.
+    std::optional<Edit> Ask(int iIndex);
+    /// Whether other pieces than the one shown got another font since it was opened.
     bool ChangedAllFonts() const { return m_bChangeAllFonts; }
 
     /// Escape and the close button do what Cancel does.
@@ -46,11 +51,11 @@ protected:
         const char* sThisPiece; ///< As it stands in the question about all fonts.
     };
 
-    EditWindow(std::unique_ptr<Likeness> likeness, const Wording& wording, QWidget* parent);
+    EditWindow(Session& session, std::unique_ptr<Likeness> likeness, const Wording& wording, QWidget* parent);
     ~EditWindow() override;
 
-    /// Shows the window modally; true if the game has changed.
-    bool ShowModally(int iIndex);
+    /// Shows a piece modally and hands what was done to the game; true if that has changed.
+    bool EditPiece(int iIndex);
     bool IsLoading() const { return m_bLoading; }
     void cmdBitmap_Click();
 
@@ -95,6 +100,7 @@ private:
     void SetImagePath(const QString& sFullPath);
     void DropSelection();
 
+    Session& m_session;
     const std::unique_ptr<Likeness> m_ownLikeness;
     Likeness& m_likeness;
     const Wording m_wording;

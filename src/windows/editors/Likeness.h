@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "game/Edit.h"
 #include "windows/editors/TextSelection.h"
 
 #include <QPoint>
@@ -49,15 +50,16 @@ public:
     /// The lines as they are stored after typing.
     virtual QString Joined(const QStringList& sTextLines) const = 0;
 
-    /// Takes a copy of the game's record.
-    virtual void LoadFromGame(int iIndex) = 0;
+    /// Takes a copy of a game's record.
+    virtual void LoadFromGame(const Game& game, int iIndex) = 0;
     /// Drops what was changed.
-    virtual void TakeBack() = 0;
-    virtual void StoreInGame() = 0;
-    virtual bool IsDifferentFromGame() const = 0;
-    /// Gives this font to the other spaces and corners of the game and fits their texts to it. The fourth
-    /// corner, whose face is fixed, keeps its own.
-    virtual void SetAllFonts() = 0;
+    virtual void TakeBack(const Game& game) = 0;
+    virtual bool IsDifferentFromGame(const Game& game) const = 0;
+    /// The game with the copy in place of its record.
+    virtual Edit ChangeOf(const Game& game) const = 0;
+    /// The game with this font on its other spaces and corners, and their texts fitted to it. The fourth corner,
+    /// whose face is fixed, keeps its own. Measures on the drawing layer's current context.
+    virtual Edit AllFontsOf(const Game& game) const = 0;
 
     /// Lines of the text, never fewer than one.
     QStringList GetTextArray() const;

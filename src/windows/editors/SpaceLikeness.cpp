@@ -2,9 +2,9 @@
 #include "windows/editors/SpaceLikeness.h"
 
 #include "document/basTAVL.h"
+#include "document/Subscript.h"
 #include "drawing/basDraw.h"
 #include "platform/text/Numbers.h"
-#include "windows/editors/GameFonts.h"
 #include "windows/editors/TypedText.h"
 
 namespace {
@@ -31,21 +31,31 @@ QSize SpaceLikeness::Size() const { return kSize; }
 
 QString SpaceLikeness::Joined(const QStringList& sTextLines) const { return TypedText::Joined(sTextLines); }
 
-void SpaceLikeness::LoadFromGame(int iIndex) {
+void SpaceLikeness::LoadFromGame(const Game& game, int iIndex) {
     m_iSpace = iIndex;
-    TakeBack();
+    TakeBack(game);
 }
 
-void SpaceLikeness::TakeBack() {
+void SpaceLikeness::TakeBack(const Game& game) {
     oSpace = C_Space();
-    oSpace.LoadFromObject(basTAVL::g_oSpaces(m_iSpace));
+    oSpace.LoadFromObject(InGame(game));
 }
 
-void SpaceLikeness::StoreInGame() { basTAVL::g_oSpaces(m_iSpace).LoadFromObject(oSpace); }
+const C_Space& SpaceLikeness::InGame(const Game& game) const {
+    return game.spaces[CheckedSubscript(m_iSpace, basTAVL::kSpaces)];
+}
 
-bool SpaceLikeness::IsDifferentFromGame() const { return basTAVL::g_oSpaces(m_iSpace).IsDifferentFrom(oSpace); }
+bool SpaceLikeness::IsDifferentFromGame(const Game& game) const { return InGame(game).IsDifferentFrom(oSpace); }
 
-void SpaceLikeness::SetAllFonts() { GameFonts::GiveToAllBut(oSpace.Font, m_iSpace, GameFonts::kNoCorner); }
+Edit SpaceLikeness::ChangeOf(const Game& game) const {
+    C_Space space = InGame(game);
+    space.LoadFromObject(oSpace);
+    return Edits::OfSpace(game, m_iSpace, space);
+}
+
+Edit SpaceLikeness::AllFontsOf(const Game& game) const {
+    return Edits::OfBoardFont(game, oSpace.Font, m_iSpace, Edits::kNoCorner);
+}
 
 Likeness::TextBox SpaceLikeness::TextPlace() { return HasImage() ? kTextWithImage : kTextWithoutImage; }
 

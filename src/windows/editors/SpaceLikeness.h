@@ -19,11 +19,11 @@ public:
     /// Each line cut to its first 40 characters.
     QString Joined(const QStringList& sTextLines) const override;
 
-    void LoadFromGame(int iIndex) override;
-    void TakeBack() override;
-    void StoreInGame() override;
-    bool IsDifferentFromGame() const override;
-    void SetAllFonts() override;
+    void LoadFromGame(const Game& game, int iIndex) override;
+    void TakeBack(const Game& game) override;
+    bool IsDifferentFromGame(const Game& game) const override;
+    Edit ChangeOf(const Game& game) const override;
+    Edit AllFontsOf(const Game& game) const override;
 
 protected:
     QStringList LinesInUse() const override { return oSpace.TextArray(); }
@@ -33,5 +33,7 @@ protected:
     void DrawOutline() override;
 
 private:
+    const C_Space& InGame(const Game& game) const;
+
     int m_iSpace = 0;
 };

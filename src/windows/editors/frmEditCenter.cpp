@@ -3,6 +3,7 @@
 
 #include "board/basPosit.h"
 #include "drawing/basDraw.h"
+#include "game/Session.h"
 #include "platform/paint/Units.h"
 #include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
@@ -74,8 +75,8 @@ constexpr int kGapUnderLabel = 2;
 
 } // namespace
 
-frmEditCenter::frmEditCenter(QWidget* parent)
-    : QDialog(parent), picForm(new PictureBox(this)), cmdLogo(new QLabel(this)),
+frmEditCenter::frmEditCenter(Session& session, QWidget* parent)
+    : QDialog(parent), m_session(session), picForm(new PictureBox(this)), cmdLogo(new QLabel(this)),
       cmdOK(MakeButton("cmdOK", QStringLiteral("&OK"), QStringLiteral("Click to Save Your Changes"))),
       cmdCancel(MakeButton("cmdCancel", QStringLiteral("&Cancel"), QStringLiteral("Click to Undo Your Changes"))),
       txtHoldFocus(new HoldFocusBox(this)), txtToolTip(new TipLabel("txtToolTip", this)) {
@@ -135,9 +136,19 @@ QPushButton* frmEditCenter::MakeButton(const char* sName, const QString& sCaptio
 
 void frmEditCenter::ShowForm(bool& bChanged) try {
     bChanged = false;
+    if (const std::optional<Edit> edit = Ask()) {
+        bChanged = true;
+        m_session.Do(*edit);
+    }
+} catch (...) {
+    ErrTail("frmEditCenter!", "ShowForm");
+}
+
+std::optional<Edit> frmEditCenter::Ask() {
     m_bLoading = true;
+    m_titles = m_session.InHand().titles;
     for (int i = 1; i <= kAreas; ++i)
-        m_sSaved[size_t(i)] = basPosit::m_CenterText(i).sText;
+        m_sSaved[size_t(i)] = m_titles.Text(i).sText;
     m_bInArea.fill(false);
     EditArea(kNoArea, -1, -1);
     m_bLoading = false;
@@ -145,10 +156,9 @@ void frmEditCenter::ShowForm(bool& bChanged) try {
     txtHoldFocus->setFocus();
     exec();
     for (int i = 1; i <= kAreas; ++i) {
-        if (basPosit::m_CenterText(i).sText != m_sSaved[size_t(i)]) bChanged = true;
+        if (m_titles.Text(i).sText != m_sSaved[size_t(i)]) return Edits::OfTitles(m_session.InHand(), m_titles);
     }
-} catch (...) {
-    ErrTail("frmEditCenter!", "ShowForm");
+    return std::nullopt;
 }
 
 void frmEditCenter::EditArea(int iArea, int iCol, int iRow) {
@@ -256,7 +266,7 @@ void frmEditCenter::HoldFocus_Composing(const QString& sText) {
 
 QStringList frmEditCenter::LinesUnderEdit() const {
     basErrLog::ErrAssert(m_iTextArea >= 1 && m_iTextArea <= kAreas, QStringLiteral("Unexpected m_iTextArea"));
-    const SpecialText& record = basPosit::m_CenterText(m_iTextArea);
+    const SpecialText& record = m_titles.Text(m_iTextArea);
     if (m_iTextArea == kGameName) return {record.sText};
     const QStringList lines = record.Lines();
     return lines.isEmpty() ? QStringList{QString()} : lines;
@@ -285,8 +295,7 @@ void frmEditCenter::TypeCharacter(const QString& sCharacter) {
     if (m_iTextArea == kGameName && enter) return;
     QStringList lines = LinesUnderEdit();
     // A text of ten lines takes no more characters, not even on a line that has room; kept on purpose.
-    const bool full =
-        m_iTextArea != kGameName && basPosit::m_CenterText(m_iTextArea).iNLines >= basEditTextArray::kMaxLines;
+    const bool full = m_iTextArea != kGameName && m_titles.Text(m_iTextArea).iNLines >= basEditTextArray::kMaxLines;
     if (full && !backspace) return;
     const TextSelection before = m_selection;
     const KeyResult result = TypedText::Feed(lines, m_selection, sCharacter);
@@ -298,14 +307,14 @@ void frmEditCenter::StoreTyped(KeyResult result, const QStringList& sTextLines, 
     if (result == KeyResult::Nothing && m_selection == before) return;
     if (result == KeyResult::TextChanged) {
         basDraw::Draw_SetHdc(&picForm->hDC());
-        basPosit::SetSpecialText(m_iTextArea, TypedText::Joined(sTextLines));
+        basPosit::SetSpecialText(m_titles.Text(m_iTextArea), m_iTextArea, TypedText::Joined(sTextLines));
     }
     Redraw(m_iTextArea);
 }
 
 bool frmEditCenter::RangeCheck() {
     for (int i = 1; i <= kAreas; ++i) {
-        if (!basPosit::m_CenterText(i).sText.isEmpty()) continue;
+        if (!m_titles.Text(i).sText.isEmpty()) continue;
         MsgBox(QString::fromLatin1(RowOf(i).sMissing));
         return false;
     }
@@ -326,7 +335,7 @@ void frmEditCenter::cmdOK_Click() try {
 void frmEditCenter::cmdCancel_Click() try {
     basDraw::Draw_SetHdc(&picForm->hDC());
     for (int i = 1; i <= kAreas; ++i)
-        basPosit::SetSpecialText(i, m_sSaved[size_t(i)]);
+        basPosit::SetSpecialText(m_titles.Text(i), i, m_sSaved[size_t(i)]);
     ExitAndHide();
 } catch (...) {
     ErrTop("frmEditCenter!", "cmdCancel_Click");

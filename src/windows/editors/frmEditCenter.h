@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "game/Edit.h"
 #include "platform/paint/Color.h"
 #include "windows/editors/TextSelection.h"
 #include "windows/editors/TypedText.h"
@@ -11,23 +12,30 @@
 #include <QStringList>
 
 #include <array>
+#include <optional>
 
 class HoldFocusBox;
 class PictureBox;
 class QLabel;
 class QPushButton;
+class Session;
 class TipLabel;
 
-/// Edits the three titles of the game, typed straight onto a likeness of the places where they stand. The
-/// records of the game change while the user types; Cancel puts the old texts back.
+/// Edits the three titles of the game, typed straight onto a likeness of the places where they stand. Works on
+/// copies of their records; nothing reaches the game before the window closes.
 class frmEditCenter : public QDialog {
     Q_OBJECT
 
 public:
-    explicit frmEditCenter(QWidget* parent = nullptr);
+    explicit frmEditCenter(Session& session, QWidget* parent = nullptr);
 
+    /// Shows the window modally and gives what was done to the titles, or nothing.
+    std::optional<Edit> Ask();
     /// Shows the window modally; bChanged tells whether a title differs from what it was.
     void ShowForm(bool& bChanged);
+
+    /// The titles as they are typed so far.
+    const Titles& Typed() const { return m_titles; }
 
     /// Paints everything (0) or one area (1 to 3). Raises for any other value.
     void Redraw(int iArea);
@@ -99,6 +107,9 @@ private:
     bool RangeCheck();
     void ExitAndHide();
 
+    Session& m_session;
+    /// The titles as they are typed.
+    Titles m_titles;
     /// Text being edited: 0 none, 1 the game's name, 2 the subtitle, 3 the occasion. Also the index of its
     /// record.
     int m_iTextArea = kNoArea;

@@ -75,7 +75,7 @@ frmEditCenter::TextPlace frmEditCenter::PlaceOf(int iArea) const {
 frmEditCenter::TextPlace frmEditCenter::PlaceOfName() const {
     const QRect area = m_area[kGameName];
     TextPlace place;
-    place.sTextLines = QStringList{basTAVL::CRLF2Space(basPosit::m_CenterText(kGameName).sText)};
+    place.sTextLines = QStringList{basTAVL::CRLF2Space(m_titles.Text(kGameName).sText)};
     place.sFamily = kArial;
     place.lHeight = NameHeight(area);
     place.lWidth = FittedWidth(place.sTextLines.first(), place.lHeight, area, kGamePlace);
@@ -88,7 +88,7 @@ frmEditCenter::TextPlace frmEditCenter::PlaceOfLines(int iArea) const {
     const QRect area = m_area[size_t(iArea)];
     const int height = area.height() - 2;
     const int width = area.width() - 4;
-    const QStringList lines = basPosit::m_CenterText(iArea).Lines();
+    const QStringList lines = m_titles.Text(iArea).Lines();
     TextPlace place;
     place.sFamily = kTimes;
     place.bItalic = true;

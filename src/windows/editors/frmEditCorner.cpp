@@ -10,8 +10,8 @@ constexpr const char* kModule = "frmEditCorner!";
 
 } // namespace
 
-frmEditCorner::frmEditCorner(QWidget* parent)
-    : EditWindow(std::make_unique<CornerLikeness>(),
+frmEditCorner::frmEditCorner(Session& session, QWidget* parent)
+    : EditWindow(session, std::make_unique<CornerLikeness>(),
                  {.sModule = kModule,
                   .sName = "frmEditCorner",
                   .sCaption = "Edit Corner",
@@ -20,7 +20,7 @@ frmEditCorner::frmEditCorner(QWidget* parent)
                   .sThisPiece = "corner"},
                  parent) {}
 
-void frmEditCorner::ShowForm(int iCorner, bool& bChanged) try { bChanged = ShowModally(iCorner); } catch (...) {
+void frmEditCorner::ShowForm(int iCorner, bool& bChanged) try { bChanged = EditPiece(iCorner); } catch (...) {
     ErrTail(kModule, "ShowForm", iCorner, bChanged);
 }
 

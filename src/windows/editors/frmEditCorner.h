@@ -7,7 +7,7 @@
 class frmEditCorner : public EditWindow {
     Q_OBJECT
 public:
-    explicit frmEditCorner(QWidget* parent = nullptr);
+    explicit frmEditCorner(Session& session, QWidget* parent = nullptr);
 
     /// Shows the window modally. bChanged becomes true if the game has changed; with ChangedAllFonts every
     /// space and corner may have.

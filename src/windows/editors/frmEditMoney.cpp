@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "windows/editors/frmEditMoney.h"
 
+#include "document/basTAVL.h"
 #include "drawing/basDraw.h"
+#include "game/Session.h"
 #include "services/basErrLog.h"
 #include "windowing/ElidedLabel.h"
 #include "windowing/PictureBox.h"
@@ -21,12 +23,6 @@ namespace {
 constexpr double kOvalHeightToWidth = 190.0 / 164.0;
 constexpr const char* kIndexProperty = "Tag";
 
-// A note that no game file has filled yet doesn't know whose picture it has.
-void NameOwner(C_Money& note, int index) {
-    note.FaceImage.Let_SpaceOrCorner(QStringLiteral("Money"));
-    note.FaceImage.Let_Index(qint16(index));
-}
-
 } // namespace
 
 C_Money& frmEditMoney::Note() { return m_oMoney[size_t(Index())]; }
@@ -34,39 +30,36 @@ C_Money& frmEditMoney::Note() { return m_oMoney[size_t(Index())]; }
 int frmEditMoney::Index() const { return cmdIndex->property(kIndexProperty).toInt(); }
 
 bool frmEditMoney::ShowForm() try {
-    for (int i = 0; i < basTAVL::kMoney; ++i)
-        NameOwner(basTAVL::g_oMoney(i), i);
-    LoadFromGame();
-    ChooseNote(0);
-    optMoney[0]->setFocus();
-    exec();
-    return HandBack();
+    const std::optional<Edit> edit = Ask();
+    if (edit) m_session.Do(*edit);
+    return edit.has_value();
 } catch (...) {
     ErrTail("frmEditMoney!", "ShowForm");
 }
 
+std::optional<Edit> frmEditMoney::Ask() {
+    LoadFromGame();
+    ChooseNote(0);
+    optMoney[0]->setFocus();
+    exec();
+    if (!IsAnyDifferent()) return std::nullopt;
+    auto money = m_session.InHand().money;
+    for (size_t i = 0; i < money.size(); ++i) {
+        if (m_oMoney[i].IsDifferentFrom(money[i])) money[i].LoadFromObject(m_oMoney[i]);
+    }
+    return Edits::OfMoney(m_session.InHand(), money);
+}
+
 void frmEditMoney::LoadFromGame() {
-    for (int i = 0; i < basTAVL::kMoney; ++i)
-        m_oMoney[size_t(i)].LoadFromObject(basTAVL::g_oMoney(i));
+    for (size_t i = 0; i < m_oMoney.size(); ++i)
+        m_oMoney[i].LoadFromObject(m_session.InHand().money[i]);
 }
 
 bool frmEditMoney::IsAnyDifferent() const {
-    for (int i = 0; i < basTAVL::kMoney; ++i) {
-        if (m_oMoney[size_t(i)].IsDifferentFrom(basTAVL::g_oMoney(i))) return true;
+    for (size_t i = 0; i < m_oMoney.size(); ++i) {
+        if (m_oMoney[i].IsDifferentFrom(m_session.InHand().money[i])) return true;
     }
     return false;
-}
-
-bool frmEditMoney::HandBack() {
-    bool changed = false;
-    for (int i = 0; i < basTAVL::kMoney; ++i) {
-        C_Money& inGame = basTAVL::g_oMoney(i);
-        const C_Money& copy = m_oMoney[size_t(i)];
-        if (!copy.IsDifferentFrom(inGame)) continue;
-        inGame.LoadFromObject(copy);
-        changed = true;
-    }
-    return changed;
 }
 
 void frmEditMoney::ChooseNote(int Index) {

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "document/basTAVL.h"
-#include "document/C_Money.h"
+#include "game/Edit.h"
 
 #include <QDialog>
 
 #include <array>
+#include <optional>
 
 class ElidedLabel;
 class ImageGroup;
@@ -16,15 +16,18 @@ class QLayout;
 class QPlainTextEdit;
 class QPushButton;
 class QRadioButton;
+class Session;
 
 /// Edits the texts and the picture of the four banknotes, shown as large as they print. Works on copies of
 /// all four; nothing reaches the game before the window closes.
 class frmEditMoney : public QDialog {
     Q_OBJECT
 public:
-    explicit frmEditMoney(QWidget* parent = nullptr);
+    explicit frmEditMoney(Session& session, QWidget* parent = nullptr);
 
-    /// Edits the notes modally and tells whether any of them has changed.
+    /// Shows the notes modally and gives what was done to them, or nothing.
+    std::optional<Edit> Ask();
+    /// As Ask, hands what was done to the game and tells whether that has changed.
     bool ShowForm();
 
 public Q_SLOTS:
@@ -56,13 +59,13 @@ private:
     void RedrawTextOnly();
     void LoadFromGame();
     bool IsAnyDifferent() const;
-    bool HandBack();
 
     C_Money& Note();
     C_Image& FaceImage() { return Note().FaceImage; }
     /// Number of the note being edited, which cmdIndex keeps.
     int Index() const;
 
+    Session& m_session;
     std::array<C_Money, basTAVL::kMoney> m_oMoney;
     /// While the window fills itself in, its change events are none of the user's.
     bool m_bFillingIn = false;

@@ -33,7 +33,7 @@ int HeightOfLines(const QPlainTextEdit& box, int lines) {
 
 } // namespace
 
-frmEditMoney::frmEditMoney(QWidget* parent) : QDialog(parent) {
+frmEditMoney::frmEditMoney(Session& session, QWidget* parent) : QDialog(parent), m_session(session) {
     setObjectName(QStringLiteral("frmEditMoney"));
     setWindowTitle(QStringLiteral("Edit Money"));
     BuildControls();

@@ -4,7 +4,9 @@
 #include "board/basPosit.h"
 #include "board/basTAVL_news.h"
 #include "document/basTAVL.h"
+#include "document/Subscript.h"
 #include "drawing/basDraw.h"
+#include "game/Session.h"
 #include "platform/paint/Units.h"
 #include "platform/text/Numbers.h"
 #include "services/basCommon.h"
@@ -39,23 +41,11 @@ QPoint CardCorner() {
     return {CLng(double(kCardLeftTwips) / kTwipsPerPixel), CLng(double(kCardTopTwips) / kTwipsPerPixel)};
 }
 
-bool FontsDiffer(const C_News& one, const C_News& other) {
-    return one.FontBody.IsDifferentFrom(other.FontBody) || one.FontHead.IsDifferentFrom(other.FontHead);
-}
-
-void TakeFonts(int iGoodOrBad, const C_News& from) {
-    for (int i = 0; i < basTAVL::kCards; ++i) {
-        C_News& card = basTAVL::g_oNews(iGoodOrBad, i);
-        card.FontBody.LoadFromObject(from.FontBody);
-        card.FontHead.LoadFromObject(from.FontHead);
-    }
-}
-
 } // namespace
 
-frmEditNews::frmEditNews(QWidget* parent)
-    : QDialog(parent), cmdPlaceHolder(new PictureBox(this)), lblTitle(new QLabel(this)), txtTitle(new QLineEdit(this)),
-      txtSpace(new QPlainTextEdit(this)), cmdOK(nullptr) {
+frmEditNews::frmEditNews(Session& session, QWidget* parent)
+    : QDialog(parent), m_session(session), cmdPlaceHolder(new PictureBox(this)), lblTitle(new QLabel(this)),
+      txtTitle(new QLineEdit(this)), txtSpace(new QPlainTextEdit(this)), cmdOK(nullptr) {
     setObjectName(QStringLiteral("frmEditNews"));
     setWindowTitle(QStringLiteral("Edit News"));
     auto* const top = new QHBoxLayout;
@@ -122,14 +112,24 @@ void frmEditNews::ConnectBoxes() {
     connect(cmdPlaceHolder, &PictureBox::BackingChanged, this, &frmEditNews::Redraw);
 }
 
-C_News& frmEditNews::Card() const { return basTAVL::g_oNews(m_iGoodOrBad, m_iCard); }
+const C_News& frmEditNews::Card() const {
+    const size_t set = CheckedSubscript(m_iGoodOrBad, basTAVL::kNewsSets);
+    return m_session.InHand().news[set][CheckedSubscript(m_iCard, basTAVL::kCards)];
+}
 
 QString frmEditNews::TitleOfDeck() const {
-    return basPosit::m_CenterText(basTAVL::NewsTitleRecord(m_iGoodOrBad)).sText;
+    return m_session.InHand().titles.Text(basTAVL::NewsTitleRecord(m_iGoodOrBad)).sText;
 }
 
 void frmEditNews::ShowForm(int iGoodOrBad, int iCard, bool& bChanged) try {
-    bChanged = false;
+    const std::optional<Edit> edit = Ask(iGoodOrBad, iCard);
+    bChanged = edit.has_value() || ChangedAllFonts();
+    if (edit) m_session.Do(*edit);
+} catch (...) {
+    ErrTail("frmEditNews!", "ShowForm", iGoodOrBad, iCard);
+}
+
+std::optional<Edit> frmEditNews::Ask(int iGoodOrBad, int iCard) {
     m_iGoodOrBad = iGoodOrBad;
     m_iCard = iCard;
     m_bChanged = false;
@@ -138,9 +138,7 @@ void frmEditNews::ShowForm(int iGoodOrBad, int iCard, bool& bChanged) try {
     Redraw();
     txtSpace->setFocus();
     exec();
-    bChanged = HandBack() || m_bChanged;
-} catch (...) {
-    ErrTail("frmEditNews!", "ShowForm", iGoodOrBad, iCard);
+    return Change();
 }
 
 void frmEditNews::Fill() {
@@ -159,21 +157,17 @@ void frmEditNews::ShowCardText() {
     m_bLoading = false;
 }
 
-// True when the title or the card was changed.
-bool frmEditNews::HandBack() {
-    bool changed = false;
-    if (txtTitle->text() != TitleOfDeck()) {
+// Nothing where neither the title nor the card was changed.
+std::optional<Edit> frmEditNews::Change() {
+    const bool otherTitle = txtTitle->text() != TitleOfDeck();
+    if (!otherTitle && !Card().IsDifferentFrom(m_oNews)) return std::nullopt;
+    const int record = basTAVL::NewsTitleRecord(m_iGoodOrBad);
+    SpecialText head = m_session.InHand().titles.Text(record);
+    if (otherTitle) {
         basDraw::Draw_SetHdc(&cmdPlaceHolder->hDC());
-        basPosit::SetSpecialText(basTAVL::NewsTitleRecord(m_iGoodOrBad), txtTitle->text());
-        changed = true;
+        basPosit::SetSpecialText(head, record, txtTitle->text());
     }
-    if (Card().IsDifferentFrom(m_oNews)) {
-        const bool fontsDiffer = FontsDiffer(Card(), m_oNews);
-        Card().LoadFromObject(m_oNews);
-        if (fontsDiffer) TakeFonts(m_iGoodOrBad, m_oNews);
-        changed = true;
-    }
-    return changed;
+    return Edits::OfCard(m_session.InHand(), m_iGoodOrBad, m_iCard, m_oNews, head);
 }
 
 void frmEditNews::Redraw() try {
@@ -228,9 +222,8 @@ void frmEditNews::cmdSetAllFonts_Click() try {
                              QStringLiteral("in use on this space to be used for all spaces and corners.") + kNewLine +
                              kNewLine + QStringLiteral("This action CANNOT be undone. Do you wish to continue?");
     if (MsgBox(question, vbYesNoCancel | vbExclamation, QStringLiteral("Set All Fonts?")) != vbYes) return;
-    for (int deck = 0; deck < basTAVL::kNewsSets; ++deck)
-        TakeFonts(deck, m_oNews);
     m_bChanged = true;
+    m_session.Do(Edits::OfNewsFonts(m_session.InHand(), m_oNews));
     MsgBox(QStringLiteral("All fonts have been changed. The change will be visible as soon as you exit the "
                           "current form."),
            vbInformation);

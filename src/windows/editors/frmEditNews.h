@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "document/C_News.h"
+#include "game/Edit.h"
 
 #include <QDialog>
+
+#include <optional>
 
 class C_FontInfo;
 class PictureBox;
@@ -12,6 +14,7 @@ class QLayout;
 class QLineEdit;
 class QPlainTextEdit;
 class QPushButton;
+class Session;
 
 /// Edits one Good News or Bad News card, the title of its deck and the fonts of the deck. The card shows as
 /// it will look while its text is typed into plain boxes beside it. Nothing reaches the game before the
@@ -20,10 +23,15 @@ class frmEditNews : public QDialog {
     Q_OBJECT
 
 public:
-    explicit frmEditNews(QWidget* parent = nullptr);
+    explicit frmEditNews(Session& session, QWidget* parent = nullptr);
 
-    /// Edits a card (0 to 11) of a deck (0 Good News, 1 Bad News) modally; bChanged tells whether the game has
-    /// changed. Raises the subscript error for any other card.
+    /// Shows a card (0 to 11) of a deck (0 Good News, 1 Bad News) modally and gives what was done to it and its
+    /// deck, or nothing. "Set All Fonts" is no part of that: the game has it at once. Raises the subscript error
+    /// for any other card.
+    std::optional<Edit> Ask(int iGoodOrBad, int iCard);
+    /// Whether all cards got their fonts from this one since it was opened.
+    bool ChangedAllFonts() const { return m_bChanged; }
+    /// As Ask, and hands what was done to the game; bChanged tells whether that has changed.
     void ShowForm(int iGoodOrBad, int iCard, bool& bChanged);
 
 public Q_SLOTS:
@@ -47,11 +55,12 @@ private:
     void ConnectBoxes();
     void Fill();
     void ShowCardText();
-    bool HandBack();
+    std::optional<Edit> Change();
     void ChangeFont(C_FontInfo& oFont, const QString& sWhat);
-    C_News& Card() const;
+    const C_News& Card() const;
     QString TitleOfDeck() const;
 
+    Session& m_session;
     int m_iGoodOrBad = 0;
     int m_iCard = 0;
     /// The card being edited.

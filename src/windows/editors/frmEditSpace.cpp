@@ -10,8 +10,8 @@ constexpr const char* kModule = "frmEditSpace!";
 
 } // namespace
 
-frmEditSpace::frmEditSpace(QWidget* parent)
-    : EditWindow(std::make_unique<SpaceLikeness>(),
+frmEditSpace::frmEditSpace(Session& session, QWidget* parent)
+    : EditWindow(session, std::make_unique<SpaceLikeness>(),
                  {.sModule = kModule,
                   .sName = "frmEditSpace",
                   .sCaption = "Edit Space",
@@ -20,6 +20,6 @@ frmEditSpace::frmEditSpace(QWidget* parent)
                   .sThisPiece = "space"},
                  parent) {}
 
-void frmEditSpace::ShowForm(int iSpace, bool& bChanged) try { bChanged = ShowModally(iSpace); } catch (...) {
+void frmEditSpace::ShowForm(int iSpace, bool& bChanged) try { bChanged = EditPiece(iSpace); } catch (...) {
     ErrTail(kModule, "ShowForm", iSpace, bChanged);
 }

@@ -7,7 +7,7 @@
 class frmEditSpace : public EditWindow {
     Q_OBJECT
 public:
-    explicit frmEditSpace(QWidget* parent = nullptr);
+    explicit frmEditSpace(Session& session, QWidget* parent = nullptr);
 
     /// Shows the window modally. bChanged becomes true if the game has changed; with ChangedAllFonts every
     /// space and corner may have.

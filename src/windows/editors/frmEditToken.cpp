@@ -2,6 +2,8 @@
 #include "windows/editors/frmEditToken.h"
 
 #include "document/basTAVL.h"
+#include "document/Subscript.h"
+#include "game/Session.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
 #include "windowing/basCommon_forms.h"
@@ -27,7 +29,8 @@ constexpr const char* kIndexProperty = "Tag";
 
 } // namespace
 
-frmEditToken::frmEditToken(QWidget* parent) : TypingWindow("frmEditToken!", "lblComposing", parent) {
+frmEditToken::frmEditToken(Session& session, QWidget* parent)
+    : TypingWindow("frmEditToken!", "lblComposing", parent), m_session(session) {
     setObjectName(QStringLiteral("frmEditToken"));
     setWindowTitle(QStringLiteral("Edit Token"));
     BuildControls();
@@ -36,6 +39,12 @@ frmEditToken::frmEditToken(QWidget* parent) : TypingWindow("frmEditToken!", "lbl
 }
 
 void frmEditToken::ShowForm(int iToken) try {
+    if (const std::optional<Edit> edit = Ask(iToken)) m_session.Do(*edit);
+} catch (...) {
+    ErrTail("frmEditToken!", "ShowForm", iToken);
+}
+
+std::optional<Edit> frmEditToken::Ask(int iToken) {
     m_bLoading = true;
     cmdIndex->setProperty(kIndexProperty, iToken);
     m_bSetAllFonts = false;
@@ -46,17 +55,21 @@ void frmEditToken::ShowForm(int iToken) try {
     Redraw();
     TakeFocus();
     exec();
-    C_Token& inGame = basTAVL::g_oTokens(iToken);
-    if (m_oToken.IsDifferentFrom(inGame)) inGame.LoadFromObject(m_oToken);
-} catch (...) {
-    ErrTail("frmEditToken!", "ShowForm", iToken);
+    if (!m_oToken.IsDifferentFrom(InGame())) return std::nullopt;
+    C_Token token = InGame();
+    token.LoadFromObject(m_oToken);
+    return Edits::OfToken(m_session.InHand(), iToken, token);
+}
+
+const C_Token& frmEditToken::InGame() const {
+    return m_session.InHand().tokens[CheckedSubscript(Index(), basTAVL::kTokens)];
 }
 
 int frmEditToken::Index() const { return cmdIndex->property(kIndexProperty).toInt(); }
 
 void frmEditToken::LoadFromGame() {
     m_oToken = C_Token();
-    m_oToken.LoadFromObject(basTAVL::g_oTokens(Index()));
+    m_oToken.LoadFromObject(InGame());
     const QSignalBlocker silent(txtToken);
     txtToken->setPlainText(m_oToken.TextAll());
 }
@@ -206,7 +219,7 @@ void frmEditToken::cmdOK_Click() { hide(); }
 void frmEditToken::cmdCancel_Click() try {
     m_selection.Clear();
     Redraw();
-    if (m_oToken.IsDifferentFrom(basTAVL::g_oTokens(Index()))) {
+    if (m_oToken.IsDifferentFrom(InGame())) {
         const UnsavedChanges answer = AskAboutUnsavedChanges();
         if (answer == UnsavedChanges::Stay) return;
         if (answer == UnsavedChanges::Drop) LoadFromGame();

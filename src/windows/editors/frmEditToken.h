@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "document/C_Token.h"
+#include "game/Edit.h"
 #include "platform/pictures/PictureHolder.h"
 #include "services/Desktop.h"
 #include "windows/editors/TypingWindow.h"
 
 #include <array>
+#include <optional>
 
 class QBoxLayout;
 class QGroupBox;
@@ -14,15 +15,18 @@ class QLabel;
 class QPlainTextEdit;
 class QPushButton;
 class QRadioButton;
+class Session;
 
 /// Edits one token: either its text, typed straight onto it, or its picture. Works on a copy that reaches
 /// the game only when the window closes.
 class frmEditToken : public TypingWindow {
     Q_OBJECT
 public:
-    explicit frmEditToken(QWidget* parent = nullptr);
+    explicit frmEditToken(Session& session, QWidget* parent = nullptr);
 
-    /// Shows a token (0 to 5) modally.
+    /// Shows a token (0 to 5) modally and gives what was done to it, or nothing.
+    std::optional<Edit> Ask(int iToken);
+    /// As Ask, and hands what was done to the game.
     void ShowForm(int iToken);
     /// The copy, as the window left it.
     const C_Token& Token() const { return m_oToken; }
@@ -86,6 +90,9 @@ private:
     void SetText(const QString& sText);
     void SetImagePath(const QString& sFullPath);
 
+    const C_Token& InGame() const;
+
+    Session& m_session;
     C_Token m_oToken;
     bool m_bLoading = false;
     bool m_bSetAllFonts = false;

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "windows/editors/frmShowNews.h"
 
-#include "board/basPosit.h"
 #include "board/basTAVL_news.h"
 #include "document/basTAVL.h"
 #include "drawing/basDraw.h"
+#include "game/Session.h"
 #include "platform/paint/Units.h"
 #include "platform/text/Numbers.h"
 #include "services/basCommon.h"
@@ -47,10 +47,10 @@ constexpr int kFramePen = 3;
 
 } // namespace
 
-frmShowNews::frmShowNews(QWidget* parent)
-    : QDialog(parent), picCards(new PictureBox(this)), hscrl(MakeBar("hscrl", Qt::Horizontal)),
+frmShowNews::frmShowNews(Session& session, QWidget* parent)
+    : QDialog(parent), m_session(session), picCards(new PictureBox(this)), hscrl(MakeBar("hscrl", Qt::Horizontal)),
       vscrl(MakeBar("vscrl", Qt::Vertical)), cmdDone(new QPushButton(QStringLiteral("&Done"), this)),
-      cmdHoleFiller(new QPushButton(this)), m_frmEditNews(new frmEditNews(this)) {
+      cmdHoleFiller(new QPushButton(this)), m_frmEditNews(new frmEditNews(session, this)) {
     setObjectName(QStringLiteral("frmShowNews"));
     picCards->setObjectName(QStringLiteral("picCards"));
     picCards->setFocusPolicy(Qt::StrongFocus);
@@ -62,6 +62,7 @@ frmShowNews::frmShowNews(QWidget* parent)
     cmdHoleFiller->setEnabled(false);
     connect(picCards, &PictureBox::MouseDown, this, &frmShowNews::Form_MouseDown);
     connect(picCards, &PictureBox::BackingChanged, this, &frmShowNews::Redraw);
+    connect(&m_session, &Session::Edited, this, &frmShowNews::Game_Edited);
     connect(cmdDone, &QPushButton::clicked, this, &frmShowNews::cmdDone_Click);
     resize(TwipsToPixels(kGridWidth), TwipsToPixels(kGridHeight) + cmdDone->sizeHint().height() + 2 * kButtonMargin);
     basCommon::ShowEntireForm(*this);
@@ -147,9 +148,10 @@ void frmShowNews::Redraw() try {
 void frmShowNews::DrawCards() {
     DeviceContext& hDC = picCards->hDC();
     basDraw::Draw_SetSelection(-1, -1, -1, -1);
-    const QString title = basPosit::m_CenterText(basTAVL::NewsTitleRecord(m_iGoodOrBad)).sText;
+    const Game& game = m_session.InHand();
+    const QString title = game.titles.Text(basTAVL::NewsTitleRecord(m_iGoodOrBad)).sText;
     for (int i = 0; i < basTAVL::kCards; ++i) {
-        const C_News& card = basTAVL::g_oNews(m_iGoodOrBad, i);
+        const C_News& card = game.news[size_t(m_iGoodOrBad)][size_t(i)];
         const QPoint at = CornerOf(i);
         basTAVL::NewsDrawBackgroundToScreen(&hDC, at.x(), at.y());
         basTAVL::NewsDrawTitleToScreen(&hDC, at.x(), at.y(), m_iGoodOrBad, title, card.FontHead);
@@ -184,10 +186,12 @@ void frmShowNews::Form_DblClick() try {
 void frmShowNews::EditCard() {
     bool changed = false;
     m_frmEditNews->ShowForm(m_iGoodOrBad, m_iCard, changed);
-    if (!changed) return;
+}
+
+void frmShowNews::Game_Edited() {
+    if (!isVisible()) return;
     m_bChanged = true;
     Redraw();
-    if (TellChange) TellChange();
 }
 
 void frmShowNews::MoveToCard(int iCard) {

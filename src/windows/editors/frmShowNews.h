@@ -3,26 +3,23 @@
 
 #include <QDialog>
 
-#include <functional>
-
 class frmEditNews;
 class PictureBox;
 class QPushButton;
 class QScrollBar;
+class Session;
 
 /// Shows the twelve cards of a deck as a grid that scrolls when the window is small. A click on a card, or
-/// Enter on the one that the arrow keys have framed, opens its editor.
+/// Enter on the one that the arrow keys have framed, opens its editor; what is done there reaches the game while
+/// the deck still stands.
 class frmShowNews : public QDialog {
     Q_OBJECT
 
 public:
-    explicit frmShowNews(QWidget* parent = nullptr);
+    explicit frmShowNews(Session& session, QWidget* parent = nullptr);
 
     /// Shows a deck (0 Good News, 1 Bad News) modally; bChanged tells whether the game has changed.
     void ShowForm(int iGoodOrBad, bool& bChanged);
-
-    /// Called after each card that was changed, so that it is autosaved while the deck still stands open.
-    std::function<void()> TellChange;
 
     /// Card that was hit last, -1 when none was.
     int Card() const { return m_iCard; }
@@ -36,6 +33,7 @@ private Q_SLOTS:
     void Form_MouseDown(int Button, int Shift, float X, float Y);
     void Form_DblClick();
     void cmdDone_Click();
+    void Game_Edited();
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -52,6 +50,7 @@ private:
     void MoveToCard(int iCard);
     void ScrollToCard();
 
+    Session& m_session;
     int m_iGoodOrBad = 0;
     int m_iCard = -1;
     bool m_bChanged = false;

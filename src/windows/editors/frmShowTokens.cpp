@@ -2,6 +2,7 @@
 #include "windows/editors/frmShowTokens.h"
 
 #include "drawing/basDraw.h"
+#include "game/Session.h"
 #include "platform/paint/Units.h"
 #include "platform/text/Numbers.h"
 #include "services/basCommon.h"
@@ -43,7 +44,7 @@ int Pixels(double twips) { return CLng(twips / kTwipsPerPixel); }
 
 } // namespace
 
-frmShowTokens::frmShowTokens(QWidget* parent) : QDialog(parent) {
+frmShowTokens::frmShowTokens(Session& session, QWidget* parent) : QDialog(parent), m_session(session) {
     setObjectName(QStringLiteral("frmShowTokens"));
     setWindowTitle(QStringLiteral("Edit Game Tokens"));
     BuildControls();
@@ -73,39 +74,35 @@ void frmShowTokens::BuildControls() {
     cmdOK = new QPushButton(QStringLiteral("&Done"), this);
     cmdOK->setObjectName(QStringLiteral("cmdOK"));
     connect(cmdOK, &QPushButton::clicked, this, &frmShowTokens::cmdOK_Click);
+    connect(&m_session, &Session::Edited, this, &frmShowTokens::Game_Edited);
 }
 
 void frmShowTokens::ShowForm(bool& bChanged) try {
     bChanged = false;
     m_bChanged = false;
-    for (int i = 0; i < basTAVL::kTokens; ++i) {
-        C_Token fresh;
-        fresh.LoadFromObject(basTAVL::g_oTokens(i));
-        m_oTokens[size_t(i)] = fresh;
-    }
+    LoadFromGame();
     cmdOK->setFocus(Qt::OtherFocusReason);
     Form_Resize();
     exec();
-    if (CopyBack()) NoteChange();
     bChanged = m_bChanged;
 } catch (...) {
     ErrTail("frmShowTokens!", "ShowForm");
 }
 
-bool frmShowTokens::CopyBack() {
-    bool changed = false;
-    for (int i = 0; i < basTAVL::kTokens; ++i) {
-        const C_Token& copy = m_oTokens[size_t(i)];
-        if (!copy.IsDifferentFrom(basTAVL::g_oTokens(i))) continue;
-        basTAVL::g_oTokens(i).LoadFromObject(copy);
-        changed = true;
+void frmShowTokens::LoadFromGame() {
+    for (size_t i = 0; i < m_oTokens.size(); ++i) {
+        m_oTokens[i] = C_Token();
+        m_oTokens[i].LoadFromObject(m_session.InHand().tokens[i]);
     }
-    return changed;
 }
 
-void frmShowTokens::NoteChange() {
+void frmShowTokens::Game_Edited() try {
+    if (!isVisible()) return;
     m_bChanged = true;
-    if (TellChange) TellChange();
+    LoadFromGame();
+    Zoom();
+} catch (...) {
+    ErrTop("frmShowTokens!", "Game_Edited");
 }
 
 void frmShowTokens::Form_Resize() try {
@@ -158,27 +155,15 @@ void frmShowTokens::DrawFocus(PictureBox& picture) {
 }
 
 void frmShowTokens::EditToken(int iToken) try {
-    if (!m_frmEditToken) m_frmEditToken = new frmEditToken(this);
+    if (!m_frmEditToken) m_frmEditToken = new frmEditToken(m_session, this);
     m_frmEditToken->ShowForm(iToken);
-    C_Token& token = m_oTokens[size_t(iToken)];
-    // The editor has put it into the game by itself.
-    bool changed = m_frmEditToken->Token().IsDifferentFrom(token);
-    if (changed) token.LoadFromObject(m_frmEditToken->Token());
-    if (m_frmEditToken->SetsAllFonts()) GiveFontToAll(token.Font);
-    // Another token's editor starts from the game.
-    if (CopyBack()) changed = true;
+    if (m_frmEditToken->SetsAllFonts()) {
+        basDraw::Draw_SetHdc(&picToken[0]->hDC());
+        m_session.Do(Edits::OfTokenFont(m_session.InHand(), m_frmEditToken->Token().Font));
+    }
     Zoom();
-    if (changed) NoteChange();
 } catch (...) {
     ErrTail("frmShowTokens!", "EditToken", iToken);
-}
-
-void frmShowTokens::GiveFontToAll(const C_FontInfo& font) {
-    basDraw::Draw_SetHdc(&picToken[0]->hDC());
-    for (C_Token& token : m_oTokens) {
-        token.Font.LoadFromObject(font);
-        token.SetText(TextLines::kUseExisting);
-    }
 }
 
 void frmShowTokens::picToken_Click(int Index) try { EditToken(Index); } catch (...) {

@@ -8,24 +8,22 @@
 #include <QDialog>
 
 #include <array>
-#include <functional>
 
 class PictureBox;
 class QLabel;
 class QPushButton;
+class Session;
 class frmEditToken;
 
 /// Shows the six tokens as large as the window lets them be. A click on one, or Enter on the one that the
-/// arrow keys have framed, opens its editor.
+/// arrow keys have framed, opens its editor; what is done there reaches the game while the window still stands.
 class frmShowTokens : public QDialog {
     Q_OBJECT
 public:
-    explicit frmShowTokens(QWidget* parent = nullptr);
+    explicit frmShowTokens(Session& session, QWidget* parent = nullptr);
 
     /// Shows the window modally; bChanged tells whether any token of the game has changed.
     void ShowForm(bool& bChanged);
-    /// Called after each change of the game, so that it is autosaved while the window still stands open.
-    std::function<void()> TellChange;
     void EditToken(int iToken);
     /// Paints the tokens at the size that their places have.
     void Zoom();
@@ -47,11 +45,10 @@ private:
     void picToken_MouseUp(int iButton, int iShift, float X, float Y);
     void picToken_BackingChanged();
     void cmdOK_Click();
-    void GiveFontToAll(const C_FontInfo& font);
-    /// Tells whether the game has changed by it.
-    bool CopyBack();
-    void NoteChange();
+    void Game_Edited();
+    void LoadFromGame();
 
+    Session& m_session;
     /// Copies of the game's tokens, which are what is shown.
     std::array<C_Token, basTAVL::kTokens> m_oTokens;
     bool m_bChanged = false;
