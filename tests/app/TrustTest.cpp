@@ -191,7 +191,7 @@ TEST_F(TrustTest, ChangesOnAFullDiskLeaveTheLastAutosaveThatWasWritten) {
 
 TEST_F(TrustTest, ChangeWhoseAutosaveTheDiskRefusesIsAskedAboutAllTheSame) {
     WriteGame(QStringLiteral("Mine.gam"), kOldText);
-    WriteGame(QStringLiteral("~AutoSave.bak"), kOldText);
+    WriteGame(QStringLiteral("~AutoSave.bak"), kOldText, InGames(QStringLiteral("Mine.gam")));
     SetIni(QStringLiteral("GameName"), InGames(QStringLiteral("Mine.gam")));
     Start();
     Edit(kFirstEdit);
