@@ -134,9 +134,8 @@ protected:
         }
         EXPECT_TRUE(stands) << sText.toStdString() << " at " << dblX << ", " << dblY;
         const QRectF arrow(dblX, dblY, kDrawnArrow, kDrawnArrow);
-        const QRectF drawn = reader.ColorBox(1, Grown(arrow, 0.01), Qt::blue);
-        EXPECT_EQ(drawn.isEmpty(), !bArrow) << sText.toStdString();
-        if (bArrow) ExpectBox(drawn, arrow, QStringLiteral("arrow ") + sText);
+        if (bArrow)
+            ExpectBox(reader.ColorBox(1, Grown(arrow, 0.01), Qt::blue), arrow, QStringLiteral("arrow ") + sText);
     }
     void ExpectSpace(int iSpace, double dblX, double dblY) const {
         const QRectF band(dblX, dblY, 1.65, 0.4375);
@@ -224,14 +223,15 @@ TEST_F(LabelSheetsTest, Edge_EachTokenHasTwoStickersOneAboveTheOther) {
 
 TEST_F(LabelSheetsTest, Edge_ATokenThatCannotBeMadeStillLeavesItsRings) {
     if (!PdfReader::IsInstalled()) GTEST_SKIP() << "poppler's tools are not installed";
+    WriteFile(QStringLiteral("games/TokenBMP2.bmp"), "in the way");
     Files::SetFaultHook([](Files::Operation operation, const QString& sPath) -> std::optional<QString> {
-        if (operation == Files::Operation::OpenWrite && sPath.endsWith(QStringLiteral("TokenBMP2.bmp")))
+        if (operation == Files::Operation::Remove && sPath.endsWith(QStringLiteral("TokenBMP2.bmp")))
             return QStringLiteral("Permission denied");
         return std::nullopt;
     });
     EXPECT_FALSE(PrintBox());
-    EXPECT_FALSE(Files::Exists(PathOf(QStringLiteral("games/TokenBMP2.bmp"))));
-    EXPECT_FALSE(desktop.boxes.isEmpty()) << "somebody is told";
+    ASSERT_EQ(desktop.boxes.size(), 1);
+    EXPECT_TRUE(desktop.boxes[0].sText.startsWith(QStringLiteral("Unable to delete file named '")));
     for (const double y : {5.0, 6.325}) {
         const QRectF told(2.8, y, 0.875, 0.875);
         ExpectBox(reader.InkBox(1, Grown(told, 0.1)), Grown(told, kRingLine), QStringLiteral("ring"));
