@@ -2,13 +2,13 @@
 #include "board/basPositPaint.h"
 
 #include "board/BoardPicture.h"
-#include "pieces/frmBMP.h"
 #include "platform/files/Folders.h"
 #include "platform/paint/Surface.h"
 #include "platform/pictures/LoadPicture.h"
 #include "platform/text/Numbers.h"
 #include "support/BoardFixture.h"
 #include "support/PaintedBoard.h"
+#include "support/StartUp.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -27,7 +27,7 @@ protected:
     PaintTest() {
         Let_g_sGameVersion(QStringLiteral("8"));
         g_lMagicColor() = kMagic;
-        frmBMP::InstallAsThumbnailMaker();
+        StartUp::MakeThumbnails();
         PosInit();
     }
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "pictures/C_Image.h"
 #include "pictures/PaintPicture.h"
-#include "pieces/frmBMP.h"
 #include "platform/files/Files.h"
 #include "platform/files/Folders.h"
 #include "platform/pictures/LoadPicture.h"
@@ -10,6 +9,7 @@
 #include "services/basMsgQueue.h"
 #include "services/TavloraError.h"
 #include "support/PictureFiles.h"
+#include "support/StartUp.h"
 #include "support/TestFixture.h"
 
 #include <QFile>
@@ -26,7 +26,7 @@ class C_ImagePaintTest : public TavloraTest {
 protected:
     C_ImagePaintTest() {
         ForgetPictures();
-        frmBMP::InstallAsThumbnailMaker();
+        StartUp::MakeThumbnails();
         form.SetBackColor(Color::Rgb(0xE0, 0xFF, 0xE0));
     }
 

@@ -3,11 +3,11 @@
 
 #include "pictures/BoardThumbnail.h"
 #include "pictures/C_Image.h"
-#include "pieces/frmBMP.h"
 #include "platform/paint/Surface.h"
 #include "platform/pictures/LoadPicture.h"
 #include "services/basErrLog.h"
 #include "support/PictureFiles.h"
+#include "support/StartUp.h"
 #include "support/TestFixture.h"
 
 #include <QDateTime>
@@ -24,7 +24,7 @@ class ThumbnailStoreTest : public TavloraTest {
 protected:
     ThumbnailStoreTest() {
         ForgetPictures();
-        frmBMP::InstallAsThumbnailMaker();
+        StartUp::MakeThumbnails();
         form.SetBackColor(Color::Rgb(0xE0, 0xFF, 0xE0));
         basErrLog::ErrInit(0);
     }

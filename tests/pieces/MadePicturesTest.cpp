@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The files of made pictures as other programs read them, and the photographs in them on paper.
 #include "drawing/clsBMP.h"
-#include "kit/GameKit.h"
 #include "pieces/frmBMP.h"
 #include "platform/pictures/LoadPicture.h"
 #include "platform/printing/Printer.h"
@@ -10,6 +9,7 @@
 #include "support/GameFixture.h"
 #include "support/PdfReader.h"
 #include "support/PictureFiles.h"
+#include "support/StartUp.h"
 
 #include <QProcess>
 #include <QStandardPaths>
@@ -22,7 +22,7 @@ protected:
         ForgetPictures();
         frmBMP::InstallAsThumbnailMaker();
         basCommon::InitIniPath();
-        GameKit::SetUp(QStringLiteral("tavlora"));
+        StartUp::SetUpKit();
     }
     ~MadePicturesTest() override { basCommon::ResetForTest(); }
 

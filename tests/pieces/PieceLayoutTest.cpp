@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // Where everything stands on a sticker, a banknote and a token, to the dot.
-#include "kit/GameKit.h"
 #include "pieces/frmBMP.h"
 #include "platform/paint/Surface.h"
 #include "platform/pictures/LoadPicture.h"
@@ -10,6 +9,7 @@
 #include "support/GameFixture.h"
 #include "support/Ink.h"
 #include "support/MetafileBuilder.h"
+#include "support/StartUp.h"
 
 namespace {
 
@@ -19,7 +19,7 @@ protected:
         ForgetPictures();
         frmBMP::InstallAsThumbnailMaker();
         basCommon::InitIniPath();
-        GameKit::SetUp(QStringLiteral("tavlora"));
+        StartUp::SetUpKit();
     }
     ~PieceLayoutTest() override { basCommon::ResetForTest(); }
 

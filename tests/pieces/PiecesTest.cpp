@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // Pictures of the pieces: what is in the files, and what a printer makes of them.
-#include "kit/GameKit.h"
 #include "pieces/frmBMP.h"
 #include "pieces/StickersUsingBMP.h"
 #include "platform/files/Files.h"
@@ -12,6 +11,7 @@
 #include "services/basCommon.h"
 #include "support/GameFixture.h"
 #include "support/MetafileBuilder.h"
+#include "support/StartUp.h"
 
 #include <QProcess>
 
@@ -23,7 +23,7 @@ protected:
         ForgetPictures();
         frmBMP::InstallAsThumbnailMaker();
         basCommon::InitIniPath();
-        GameKit::SetUp(QStringLiteral("tavlora"));
+        StartUp::SetUpKit();
     }
     ~PiecesTest() override {
         basCommon::ResetForTest();

@@ -6,13 +6,6 @@
 #include "services/basMsgQueue.h"
 #include "services/ProgramSettings.h"
 #include "support/TestFixture.h"
-#include "windowing/basAPI_screen.h"
-#include "windowing/basCommon_forms.h"
-#include "windowing/Screen.h"
-
-#include <QApplication>
-#include <QStyle>
-#include <QWidget>
 
 using namespace basCommon;
 
@@ -145,22 +138,4 @@ TEST_F(CommonTest, ThePlatformTellsAboutItself) {
     EXPECT_GT(major, 0);
     EXPECT_GT(basAPI::FreeSpaceOnDisk(folder.path()), 0.0);
     EXPECT_GT(basAPI::FreeSpaceOnDisk(QStringLiteral("C:\\")), 0.0);
-    EXPECT_GT(basAPI::ScreenBitsPerPixel(), 8);
-    EXPECT_GT(basAPI::FrameBorderThicknessX(), 0);
-    EXPECT_EQ(basAPI::FrameBorderThicknessX(), basAPI::FrameBorderThicknessY());
-}
-
-TEST_F(CommonTest, AWindowIsPlacedAQuarterFromTheLeftAndAThirdFromTheTop) {
-    QWidget window;
-    window.resize(400, 200);
-    ShowEntireForm(window);
-    const QRect area = Screen::FreeArea();
-    // Its frame and title stand around what is inside.
-    const int border = Screen::FrameBorder().width();
-    const int title = QApplication::style()->pixelMetric(QStyle::PM_TitleBarHeight);
-    EXPECT_EQ(window.x() - border, area.left() + (area.width() - 400 - 2 * border) / 4);
-    EXPECT_EQ(window.y() - border - title, area.top() + (area.height() - 200 - 2 * border - title) / 3);
-    window.resize(5000, 5000);
-    ShowEntireForm(window);
-    EXPECT_TRUE(area.contains(window.geometry())) << "never larger than the free area";
 }

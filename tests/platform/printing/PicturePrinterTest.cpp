@@ -2,9 +2,6 @@
 #include "platform/printing/PicturePrinter.h"
 
 #include "support/TestFixture.h"
-#include "windowing/Screen.h"
-
-#include <QGuiApplication>
 
 TEST(PicturePrinter, ThePageIsThePrintableAreaInItsDots) {
     PicturePrinter printer(100);
@@ -29,13 +26,4 @@ TEST(PicturePrinter, EachDocumentIsAFreshPageAndAKilledOneLeavesTheLast) {
     EXPECT_EQ(printer.Page().Image().pixel(5, 5), qRgb(0, 0, 0));
     printer.EndDoc();
     EXPECT_EQ(printer.Page().Image().pixel(5, 5), qRgb(255, 255, 255));
-}
-
-TEST(MousePointer, TheHourglassIsSetAndTakenAwayOnce) {
-    using Screen::MousePointer;
-    for (const MousePointer pointer : {MousePointer::HourGlass, MousePointer::HourGlass, MousePointer::Default}) {
-        Screen::SetMousePointer(pointer);
-        EXPECT_EQ(Screen::CurrentMousePointer(), pointer);
-        EXPECT_EQ(QGuiApplication::overrideCursor() != nullptr, pointer == MousePointer::HourGlass);
-    }
 }

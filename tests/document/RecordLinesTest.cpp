@@ -1,24 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "services/RecordText.h"
-
+// The lines that records are written to and read from.
 #include "support/GameFixture.h"
 
 namespace {
 
-class RecordTextTest : public GameTest {
-protected:
-    static QString RoundTrip(const QString& text) {
-        QString line = basTAVL::Quote(text);
-        return basTAVL::GetQuotedField(line);
-    }
-    static QString Take(const QString& line, QString& rest) {
-        rest = line;
-        return basTAVL::GetQuotedField(rest);
-    }
-    QString rest;
-};
+class RecordLinesTest : public GameTest {};
 
-TEST_F(RecordTextTest, Edge_UnterminatedQuoteTakesTheRestOfTheLineAndNestedRecordsTakeDefaults) {
+TEST_F(RecordLinesTest, Edge_UnterminatedQuoteTakesTheRestOfTheLineAndNestedRecordsTakeDefaults) {
     C_Space space;
     EXPECT_EQ(space.SetQuotedString(QStringLiteral("4, \"Elm Street, \\qhere, 1, 2, 3")), QString());
     EXPECT_EQ(space.TextAll(), QStringLiteral("Elm Street, \"here, 1, 2, 3"));
@@ -26,7 +14,7 @@ TEST_F(RecordTextTest, Edge_UnterminatedQuoteTakesTheRestOfTheLineAndNestedRecor
     EXPECT_EQ(space.Font.GetQuotedString(), QStringLiteral("\"Arial\",R,12"));
 }
 
-TEST_F(RecordTextTest, Edge_CardWithIndexAndTextOnlyTakesTheCardFonts) {
+TEST_F(RecordLinesTest, Edge_CardWithIndexAndTextOnlyTakesTheCardFonts) {
     C_News card;
     EXPECT_EQ(card.SetQuotedString(QStringLiteral("7, \"Go back\"")), QString());
     EXPECT_EQ(card.Index, 7);
@@ -35,63 +23,14 @@ TEST_F(RecordTextTest, Edge_CardWithIndexAndTextOnlyTakesTheCardFonts) {
     EXPECT_EQ(card.FontHead.GetQuotedString(), QStringLiteral("\"Times New Roman\",B,12"));
 }
 
-TEST_F(RecordTextTest, Edge_QuotesAndLineBreaksSurviveWritingAndReading) {
-    const QString text = QStringLiteral("He said \"go\",\r\n\r\nand \"\" went\r\n");
-    EXPECT_EQ(RoundTrip(text), text);
-}
-
-TEST_F(RecordTextTest, Edge_PathWithBackslashAndQReadsBackWithADoubleQuote) {
-    EXPECT_EQ(basTAVL::Quote(QStringLiteral("C:\\quiz\\x.bmp")), QStringLiteral("\"C:\\\\quiz\\\\x.bmp\""));
-    EXPECT_EQ(RoundTrip(QStringLiteral("C:\\quiz\\x.bmp")), QStringLiteral("C:\"uiz\\x.bmp"));
-}
-
-TEST_F(RecordTextTest, Edge_TwoBackslashesAreWrittenAsFourAndReadAsOne) {
-    EXPECT_EQ(basTAVL::Quote(QStringLiteral("a\\\\b")), QStringLiteral("\"a\\\\\\\\b\""));
-    EXPECT_EQ(RoundTrip(QStringLiteral("a\\\\b")), QStringLiteral("a\\b"));
-}
-
-TEST_F(RecordTextTest, Edge_EmptyStyleAndSizeReadAsRegularTwelve) {
+TEST_F(RecordLinesTest, Edge_EmptyStyleAndSizeReadAsRegularTwelve) {
     C_FontInfo font;
     font.Load(QStringLiteral("Old"), true, true, 99);
     EXPECT_EQ(font.SetQuotedString(QStringLiteral("\"Georgia\",,")), QString());
     EXPECT_EQ(font.GetQuotedString(), QStringLiteral("\"Georgia\",R,12"));
 }
 
-TEST_F(RecordTextTest, PathWithBackslashAndNReadsBackWithALineBreak) {
-    EXPECT_EQ(RoundTrip(QStringLiteral("C:\\new")), QStringLiteral("C:\r\new"));
-}
-
-TEST_F(RecordTextTest, SingleBackslashAheadOfAnotherLetterSurvives) {
-    EXPECT_EQ(RoundTrip(QStringLiteral("and\\or \\")), QStringLiteral("and\\or \\"));
-}
-
-TEST_F(RecordTextTest, HalfALineBreakBecomesAWholeOneSoThatTheRecordStaysOneLine) {
-    EXPECT_EQ(RoundTrip(QStringLiteral("a\nb\rc")), QStringLiteral("a\r\nb\r\nc"));
-}
-
-TEST_F(RecordTextTest, BareFieldsAreTrimmedAndNotUnescaped) {
-    EXPECT_EQ(Take(QStringLiteral("  a\\nb , next "), rest), QStringLiteral("a\\nb"));
-    EXPECT_EQ(rest, QStringLiteral("next"));
-    EXPECT_EQ(Take(QStringLiteral(" last "), rest), QStringLiteral("last"));
-    EXPECT_EQ(rest, QString());
-    EXPECT_EQ(Take(QStringLiteral("   "), rest), QString());
-    EXPECT_EQ(Take(QStringLiteral(",x"), rest), QString());
-    EXPECT_EQ(rest, QStringLiteral("x"));
-}
-
-TEST_F(RecordTextTest, StrayTextBehindAQuotedFieldGoesWithItsComma) {
-    EXPECT_EQ(Take(QStringLiteral("\"a\" stray , b"), rest), QStringLiteral("a"));
-    EXPECT_EQ(rest, QStringLiteral("b"));
-    EXPECT_EQ(Take(QStringLiteral("\"a\" stray "), rest), QStringLiteral("a"));
-    EXPECT_EQ(rest, QStringLiteral("stray"));
-}
-
-TEST_F(RecordTextTest, TextsOfAllScriptsSurvive) {
-    for (const char* text : {"Zażółć gęślą jaźń", "شارع الزيتون", "Rue 🏠👨‍👩‍👧 42", "ﬁ ß é € “”"})
-        EXPECT_EQ(RoundTrip(QString::fromUtf8(text)), QString::fromUtf8(text));
-}
-
-TEST_F(RecordTextTest, FontReadsEachStyleInAnyCase) {
+TEST_F(RecordLinesTest, FontReadsEachStyleInAnyCase) {
     const struct {
         const char* style;
         bool bold;
@@ -107,25 +46,25 @@ TEST_F(RecordTextTest, FontReadsEachStyleInAnyCase) {
     }
 }
 
-TEST_F(RecordTextTest, FontOfAnEmptyLineIsArialTwelve) {
+TEST_F(RecordLinesTest, FontOfAnEmptyLineIsArialTwelve) {
     C_FontInfo font;
     font.Load(QStringLiteral("Old"), true, true, 99);
     font.SetQuotedString(QString());
     EXPECT_EQ(font.GetQuotedString(), QStringLiteral("\"Arial\",R,12"));
 }
 
-TEST_F(RecordTextTest, FontLeavesWhatFollowsIt) {
+TEST_F(RecordLinesTest, FontLeavesWhatFollowsIt) {
     C_FontInfo font;
     EXPECT_EQ(font.SetQuotedString(QStringLiteral("\"A, B\",BI,10.5,\"Next\",R,1")), QStringLiteral("\"Next\",R,1"));
     EXPECT_EQ(font.GetQuotedString(), QStringLiteral("\"A, B\",BI,10.5"));
 }
 
-TEST_F(RecordTextTest, FontSizeBeyondAllNumbersOverflows) {
+TEST_F(RecordLinesTest, FontSizeBeyondAllNumbersOverflows) {
     C_FontInfo font;
     EXPECT_EQ(ErrorOf([&] { font.SetQuotedString(QStringLiteral("\"A\",R,1e39")); }), ErrNumber::kOverflow);
 }
 
-TEST_F(RecordTextTest, SpaceRecordIsWrittenInOrder) {
+TEST_F(RecordLinesTest, SpaceRecordIsWrittenInOrder) {
     C_Space space;
     space.Index = 5;
     space.Let_TextAll(QStringLiteral("Elm\r\nStreet"));
@@ -133,7 +72,7 @@ TEST_F(RecordTextTest, SpaceRecordIsWrittenInOrder) {
     EXPECT_EQ(space.GetQuotedString(), QStringLiteral("5, \"Elm\\nStreet\", \"\",0,0,0, \"Georgia\",BI,14"));
 }
 
-TEST_F(RecordTextTest, CornerRecordIsWrittenInOrder) {
+TEST_F(RecordLinesTest, CornerRecordIsWrittenInOrder) {
     C_Corner corner;
     corner.Index = 1;
     corner.Let_TextAll(0, QStringLiteral("Lose"));
@@ -141,7 +80,7 @@ TEST_F(RecordTextTest, CornerRecordIsWrittenInOrder) {
     EXPECT_EQ(corner.GetQuotedString(), QStringLiteral("1, \"Lose\", \"Turn\", \"\",0,0,0, \"Arial\",R,12"));
 }
 
-TEST_F(RecordTextTest, CardRecordIsWrittenInOrder) {
+TEST_F(RecordLinesTest, CardRecordIsWrittenInOrder) {
     C_News card;
     card.Index = 11;
     card.Let_Text(QStringLiteral("x"));
@@ -149,7 +88,7 @@ TEST_F(RecordTextTest, CardRecordIsWrittenInOrder) {
     EXPECT_EQ(card.GetQuotedString(), QStringLiteral("11, \"x\", \"Arial\",R,12,\"Arial\",B,12"));
 }
 
-TEST_F(RecordTextTest, MoneyRecordIsWrittenInOrder) {
+TEST_F(RecordLinesTest, MoneyRecordIsWrittenInOrder) {
     C_Money money;
     money.Index = 2;
     money.Let_Text(0, QStringLiteral("a"));
@@ -157,14 +96,14 @@ TEST_F(RecordTextTest, MoneyRecordIsWrittenInOrder) {
     EXPECT_EQ(money.GetQuotedString(), QStringLiteral("2, \"a\", \"b\",\"\",0,0,0"));
 }
 
-TEST_F(RecordTextTest, TokenRecordIsWrittenInOrder) {
+TEST_F(RecordLinesTest, TokenRecordIsWrittenInOrder) {
     C_Token token;
     token.Init(3);
     token.Let_TextAll(QStringLiteral("Cat"));
     EXPECT_EQ(token.GetQuotedString(), QStringLiteral("3, \"Cat\", \"\",0,0,0, \"Arial\",R,12"));
 }
 
-TEST_F(RecordTextTest, EmptyTextOfASpaceOrCardIsNotFilledInAndOfACornerOrNoteStaysEmpty) {
+TEST_F(RecordLinesTest, EmptyTextOfASpaceOrCardIsNotFilledInAndOfACornerOrNoteStaysEmpty) {
     C_Space space;
     space.SetQuotedString(QStringLiteral("0, \"\""));
     EXPECT_EQ(space.TextAll(), QStringLiteral("Not Filled In"));
@@ -179,7 +118,7 @@ TEST_F(RecordTextTest, EmptyTextOfASpaceOrCardIsNotFilledInAndOfACornerOrNoteSta
     EXPECT_EQ(money.Text(0), QString());
 }
 
-TEST_F(RecordTextTest, TokenThatIsNotFilledInBecomesEmptyAndOneWithoutFontIsLarge) {
+TEST_F(RecordLinesTest, TokenThatIsNotFilledInBecomesEmptyAndOneWithoutFontIsLarge) {
     C_Token token;
     token.SetQuotedString(QStringLiteral("2, \"Not Filled In\", \"\", 0, 0, 0"));
     EXPECT_EQ(token.TextAll(), QString());
@@ -188,14 +127,14 @@ TEST_F(RecordTextTest, TokenThatIsNotFilledInBecomesEmptyAndOneWithoutFontIsLarg
     EXPECT_EQ(token.Font.GetQuotedString(), QStringLiteral("\"Georgia\",R,12"));
 }
 
-TEST_F(RecordTextTest, SpaceWhoseTextIsTheWordForExistingLinesKeepsItsFormerLines) {
+TEST_F(RecordLinesTest, SpaceWhoseTextIsTheWordForExistingLinesKeepsItsFormerLines) {
     C_Space space;
     space.SetQuotedString(QStringLiteral("0, \"Elm\""));
     space.SetQuotedString(QStringLiteral("0, \"UseExistingString\""));
     EXPECT_EQ(space.TextAll(), QStringLiteral("Elm"));
 }
 
-TEST_F(RecordTextTest, BadIndexIsToldWithItsNameByBoardRecordsAndPassedOverByCardsAndNotes) {
+TEST_F(RecordLinesTest, BadIndexIsToldWithItsNameByBoardRecordsAndPassedOverByCardsAndNotes) {
     const auto messageOf = [](auto action) {
         try {
             action();
@@ -220,7 +159,7 @@ TEST_F(RecordTextTest, BadIndexIsToldWithItsNameByBoardRecordsAndPassedOverByCar
     EXPECT_EQ(money.FaceImage.SpaceOrCorner(), QStringLiteral("Money"));
 }
 
-TEST_F(RecordTextTest, IndexBeyondSixteenBitsOverflows) {
+TEST_F(RecordLinesTest, IndexBeyondSixteenBitsOverflows) {
     const QString line = QStringLiteral("40000, \"t\"");
     EXPECT_EQ(ErrorOf([&] { C_Space().SetQuotedString(line); }), ErrNumber::kOverflow);
     EXPECT_EQ(ErrorOf([&] { C_Corner().SetQuotedString(line); }), ErrNumber::kOverflow);
@@ -229,7 +168,7 @@ TEST_F(RecordTextTest, IndexBeyondSixteenBitsOverflows) {
     EXPECT_EQ(ErrorOf([&] { C_Token().SetQuotedString(line); }), ErrNumber::kOverflow);
 }
 
-TEST_F(RecordTextTest, ImagesOfRecordsKnowTheirOwner) {
+TEST_F(RecordLinesTest, ImagesOfRecordsKnowTheirOwner) {
     C_Space space;
     space.SetQuotedString(QStringLiteral("9, \"t\""));
     EXPECT_EQ(space.Image.SpaceOrCorner(), QStringLiteral("Space"));

@@ -1,0 +1,17 @@
+# Reads src/floors.txt: TAVLORA_FLOORS are the folders, lowest first, and for "platform/text", TAVLORA_LINKS_platform_text
+# is what its library links. Its name is tavlora_platform_text, its tests' is test_platform_text.
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/floors.txt)
+set(TAVLORA_FLOORS)
+set(below)
+file(STRINGS ${PROJECT_SOURCE_DIR}/src/floors.txt rows REGEX "^[^#]")
+foreach(row IN LISTS rows)
+  string(REGEX MATCHALL "[^ ]+" words "${row}")
+  list(POP_FRONT words folder)
+  string(REPLACE "/" "_" name ${folder})
+  list(APPEND TAVLORA_FLOORS ${folder})
+  set(TAVLORA_LINKS_${name} ${below} ${words})
+  list(REMOVE_ITEM TAVLORA_LINKS_${name} beside)
+  if(NOT "beside" IN_LIST words)
+    set(below tavlora_${name})
+  endif()
+endforeach()
