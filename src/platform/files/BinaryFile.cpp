@@ -24,11 +24,15 @@ bool BinaryFile::OpenEmpty(const QString& sPath, QString& sError) { return Open(
 bool BinaryFile::Open(const QString& sPath, Mode mode, QString& sError) {
     Close();
     m_writeError.clear();
+    m_readError.clear();
     const bool reads = mode == Mode::Read;
     if (!Files::IsPermitted(reads ? Files::Operation::OpenRead : Files::Operation::OpenWrite, sPath, sError))
         return false;
     if (const BeforeWriting listener = reads ? nullptr : s_beforeWriting.load()) listener(sPath);
-    m_file->setFileName(Files::InDiskSpelling(sPath));
+    // What is written bears exactly the name given: another spelling is another file, and not ours.
+    const QString path = reads ? Files::InDiskSpelling(sPath) : sPath;
+    if (!Files::IsNoSpecialFile(path, sError)) return false;
+    m_file->setFileName(path);
     const QIODevice::OpenMode how = reads                     ? QIODevice::ReadOnly
                                     : mode == Mode::WriteOver ? QIODevice::ReadWrite
                                                               : QIODevice::WriteOnly | QIODevice::Truncate;
@@ -45,7 +49,18 @@ void BinaryFile::Seek(qint64 position) { m_file->seek(position); }
 
 bool BinaryFile::AtEnd() const { return m_file->atEnd(); }
 
-QByteArray BinaryFile::Bytes(qint64 count) { return count > 0 ? m_file->read(count) : QByteArray(); }
+QByteArray BinaryFile::Bytes(qint64 count) {
+    if (count <= 0 || !m_readError.isEmpty()) return {};
+    if (!Files::IsPermitted(Files::Operation::Read, m_file->fileName(), m_readError)) return {};
+    QByteArray bytes = m_file->read(count);
+    if (m_file->error() == QFileDevice::ReadError) m_readError = m_file->errorString();
+    return bytes;
+}
+
+bool BinaryFile::WasRead(QString& sError) const {
+    if (!m_readError.isEmpty()) sError = m_readError;
+    return m_readError.isEmpty();
+}
 
 quint16 BinaryFile::U16() { return qFromLittleEndian<quint16>(Bytes(2).leftJustified(2, '\0').constData()); }
 quint32 BinaryFile::U32() { return qFromLittleEndian<quint32>(Bytes(4).leftJustified(4, '\0').constData()); }

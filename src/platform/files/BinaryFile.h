@@ -9,7 +9,7 @@
 class QFile;
 
 /// A file open for binary reading or writing, little-endian, with a position that counts from 0. Reading
-/// behind the end gives zeros; whoever needs to know asks AtEnd first.
+/// behind the end gives zeros; whoever needs to know asks AtEnd first. Folders and devices are refused.
 class BinaryFile {
 public:
     BinaryFile();
@@ -17,9 +17,9 @@ public:
     BinaryFile(const BinaryFile&) = delete;
     BinaryFile& operator=(const BinaryFile&) = delete;
 
-    /// False and a sentence in sError on failure.
+    /// In the spelling that the disk has. False and a sentence in sError on failure.
     bool OpenForReading(const QString& sPath, QString& sError);
-    /// What stands in the file already is kept and written over from the start.
+    /// Under exactly this name. What stands in the file already is kept and written over from the start.
     bool OpenForWriting(const QString& sPath, QString& sError);
     /// The same for a file made anew.
     bool OpenEmpty(const QString& sPath, QString& sError);
@@ -31,8 +31,10 @@ public:
     quint16 U16();
     quint32 U32();
     qint32 S32() { return qint32(U32()); }
-    /// As many bytes as asked for, or those that are left.
+    /// As many bytes as asked for, or those that are left. Behind an error nothing is left.
     QByteArray Bytes(qint64 count);
+    /// False when the disk couldn't be read: what was read since then says nothing of the file. A sentence in sError.
+    bool WasRead(QString& sError) const;
 
     void PutU16(quint16 value);
     void PutU32(quint32 value);
@@ -52,4 +54,5 @@ private:
 
     std::unique_ptr<QFile> m_file;
     QString m_writeError;
+    QString m_readError;
 };

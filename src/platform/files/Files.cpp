@@ -50,6 +50,8 @@ bool RenameInMemory(const QString& sFrom, const QString& sTo, QString& sError) {
     return true;
 }
 
+constexpr qint64 kMostOfUnknownSize = qint64(1) << 20;
+
 bool Failed(const QFileDevice& file, QString& sError) {
     sError = file.errorString();
     return false;
@@ -59,15 +61,6 @@ bool Failed(const QFileDevice& file, QString& sError) {
 bool HasTrash() {
     const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
     return !data.isEmpty() && QDir().mkpath(data);
-}
-
-// Renaming over a device would replace the device by a file, and one may be read for ever.
-bool IsNoSpecialFile(const QString& sPath, QString& sError) {
-    if (Memory()) return true;
-    const QFileInfo info(sPath);
-    if (!info.exists() || info.isFile()) return true;
-    sError = info.isDir() ? QStringLiteral("It is a folder, not a file") : QStringLiteral("It is no regular file");
-    return false;
 }
 
 void BringToDisk(const QString& sPath) {
@@ -100,6 +93,14 @@ bool IsPermitted(Operation operation, const QString& sPath, QString& sError) {
 bool Exists(const QString& sPath) {
     if (Memory()) return Memory()->contains(sPath);
     return !sPath.isEmpty() && QFileInfo(sPath).isFile();
+}
+
+bool IsNoSpecialFile(const QString& sPath, QString& sError) {
+    if (Memory()) return true;
+    const QFileInfo info(sPath);
+    if (!info.exists() || info.isFile()) return true;
+    sError = info.isDir() ? QStringLiteral("It is a folder, not a file") : QStringLiteral("It is no regular file");
+    return false;
 }
 
 bool CanBeReplaced(const QString& sPath, QString& sError) { return IsNoSpecialFile(sPath, sError); }
@@ -137,8 +138,9 @@ Stamp StampOf(const QString& sPath) {
 std::optional<QByteArray> ReadAll(const QString& sPath, QString& sError) {
     if (!IsPermitted(Operation::OpenRead, sPath, sError)) return std::nullopt;
     if (Memory()) return ReadMemory(sPath, sError);
-    if (!IsNoSpecialFile(sPath, sError)) return std::nullopt;
-    QFile file(InDiskSpelling(sPath));
+    const QString path = InDiskSpelling(sPath);
+    if (!IsNoSpecialFile(path, sError)) return std::nullopt;
+    QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         Failed(file, sError);
         return std::nullopt;
@@ -148,9 +150,15 @@ std::optional<QByteArray> ReadAll(const QString& sPath, QString& sError) {
         sError = QStringLiteral("The file is too large to be opened");
         return std::nullopt;
     }
-    QByteArray bytes = file.readAll();
+    // What a system tells of itself looks like a file of no length, and may never end.
+    const qint64 most = file.size() > 0 ? file.size() : kMostOfUnknownSize;
+    QByteArray bytes = file.read(most + 1);
     if (file.error() != QFileDevice::NoError) {
         Failed(file, sError);
+        return std::nullopt;
+    }
+    if (bytes.size() > most) {
+        sError = QStringLiteral("The file holds more than it says");
         return std::nullopt;
     }
     return bytes;
@@ -264,7 +272,9 @@ bool MoveToTrash(const QString& sPath, QString& sError) {
         return true;
     }
     QFile file(sPath);
-    return !file.exists() || (HasTrash() && file.moveToTrash()) || file.remove() || Failed(file, sError);
+    if (!file.exists() || (HasTrash() && file.moveToTrash())) return true;
+    sError = file.error() == QFileDevice::NoError ? QStringLiteral("There is no trash") : file.errorString();
+    return false;
 }
 
 } // namespace Files

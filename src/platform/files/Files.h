@@ -46,6 +46,8 @@ void UseMemory(MemoryFiles* files);
 /// True for a file, not for a directory. The case of letters counts.
 bool Exists(const QString& sPath);
 bool IsDirectory(const QString& sPath);
+/// False and a sentence in sError for a folder, a device, or whatever else must not be read to its end.
+bool IsNoSpecialFile(const QString& sPath, QString& sError);
 /// True where there is no file yet, or a regular one. False and a sentence in sError for a folder or a
 /// device, over which no file must ever be renamed.
 bool CanBeReplaced(const QString& sPath, QString& sError);
@@ -67,7 +69,7 @@ Stamp StampOf(const QString& sPath);
 /// take the memory of everything else.
 constexpr qint64 kMostBytes = qint64(1) << 30;
 
-/// The whole file, or nothing and a sentence in sError.
+/// The whole file, or nothing and a sentence in sError. Regular files only, and never more of one than its size.
 std::optional<QByteArray> ReadAll(const QString& sPath, QString& sError);
 
 /// Replaces the file by these bytes so that either the old or the new content stands there whole, whatever
@@ -105,7 +107,7 @@ bool Copy(const QString& sFrom, const QString& sTo, QString& sError);
 bool CopyNew(const QString& sFrom, const QString& sTo, QString& sError);
 /// Creates one folder whose parent exists; true as well when it is there.
 bool MakeDirectory(const QString& sPath, QString& sError);
-/// Moves a user's file to the trash where there is one, and removes it only if that fails.
+/// Moves a user's file to the trash. False and a sentence in sError where there is none: the file then stays.
 bool MoveToTrash(const QString& sPath, QString& sError);
 
 } // namespace Files

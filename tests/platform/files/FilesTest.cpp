@@ -123,6 +123,29 @@ TEST_F(FilesTest, TheTrashIsTheUsersAndNeverTheCurrentFolder) {
     qputenv("XDG_DATA_HOME", before);
 }
 
+TEST_F(FilesTest, WithoutATrashAFileStays) {
+    const QByteArray before = qgetenv("XDG_DATA_HOME");
+    qputenv("XDG_DATA_HOME", (WriteFile(QStringLiteral("no folder"), "x") + QStringLiteral("/data")).toLocal8Bit());
+    const QString file = WriteFile(QStringLiteral("photo.bmp"), "x");
+    QString error;
+    EXPECT_FALSE(Files::MoveToTrash(file, error));
+    EXPECT_FALSE(error.isEmpty());
+    EXPECT_EQ(ReadFile(file), QByteArray("x"));
+    qputenv("XDG_DATA_HOME", before);
+}
+
+TEST_F(FilesTest, OfAFileThatNeverEndsNoMoreIsReadThanItSays) {
+    // Of no length by its own account, and as long as the memory that the process could ever have.
+    const QString endless = QStringLiteral("/proc/self/pagemap");
+    if (!QFile::exists(endless)) GTEST_SKIP() << "no such file here";
+    QString error;
+    EXPECT_FALSE(Files::ReadAll(endless, error));
+    EXPECT_FALSE(error.isEmpty());
+    // What is short in the same way is read.
+    EXPECT_TRUE(Files::ReadAll(QStringLiteral("/proc/self/stat"), error)) << qPrintable(error);
+    EXPECT_FALSE(Files::ReadAll(QStringLiteral("/dev/zero"), error));
+}
+
 TEST_F(FilesTest, FilesInMemoryStandInPlaceOfTheDisk) {
     const QString onDisk = WriteFile(QStringLiteral("real.txt"), "disk");
     const QString path = PathOf(QStringLiteral("new.txt"));
