@@ -19,6 +19,8 @@ struct ProgramSettings {
     QString sIniDirectory;
     /// Settings are read and never written.
     bool bIniReadOnly = false;
+    /// No file of the user's is ever thrown away, whatever it is: nobody is there who could answer.
+    bool bKeepUserFiles = false;
     /// Game kit variant: "2", "2A", "5" or "8".
     QString sGameVersion = QStringLiteral("8");
 };

@@ -14,7 +14,13 @@ namespace {
 struct Message {
     QString sText;
     int iStyle;
+    std::function<void()> then;
 };
+
+void Show(const Message& message) {
+    MsgBox(message.sText, message.iStyle);
+    if (message.then) message.then();
+}
 
 std::optional<QList<Message>>& Queue() {
     static std::optional<QList<Message>> queue;
@@ -29,6 +35,9 @@ void ShowAsOne(const QList<Message>& messages) {
         style = message.iStyle;
     }
     MsgList(lines, style);
+    for (const Message& message : messages) {
+        if (message.then) message.then();
+    }
 }
 
 } // namespace
@@ -37,11 +46,12 @@ void MsgQueue_Init() { Queue().emplace(); }
 
 bool MsgQueue_IsOpen() { return Queue().has_value(); }
 
-void MsgQueue_Post(const QString& sMessage, int iStyle) {
+void MsgQueue_Post(const QString& sMessage, int iStyle, std::function<void()> then) {
+    const Message message{sMessage, iStyle, std::move(then)};
     if (Queue()) {
-        Queue()->append({sMessage, iStyle});
+        Queue()->append(message);
     } else {
-        MsgBox(sMessage, iStyle);
+        Show(message);
     }
 }
 
@@ -54,7 +64,7 @@ void MsgQueue_Display() {
         return;
     }
     for (const Message& message : messages)
-        MsgBox(message.sText, message.iStyle);
+        Show(message);
 }
 
 } // namespace basMsgQueue

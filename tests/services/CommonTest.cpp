@@ -132,6 +132,22 @@ TEST_F(CommonTest, MoreThanThreeMessagesComeAsOneBox) {
     EXPECT_EQ(desktop.Texts(), QStringList{QStringLiteral("m1\r\nm2\r\nm3\r\nm4")});
 }
 
+TEST_F(CommonTest, WhatAMessageAnnouncesIsDoneWhenItWasAnswered) {
+    for (const int others : {0, 1, 5}) {
+        QStringList order;
+        desktop.onBox = [&order] { order.append(QStringLiteral("box")); };
+        const bool queued = others > 0;
+        if (queued) basMsgQueue::MsgQueue_Init();
+        basMsgQueue::MsgQueue_Post(QStringLiteral("told"), vbQuestion,
+                                   [&order] { order.append(QStringLiteral("done")); });
+        for (int i = 1; i < others; ++i)
+            basMsgQueue::MsgQueue_Post(QStringLiteral("m%1").arg(i), vbExclamation);
+        EXPECT_EQ(order.isEmpty(), queued) << others;
+        basMsgQueue::MsgQueue_Display();
+        EXPECT_EQ(order, (QStringList{QStringLiteral("box"), QStringLiteral("done")})) << others;
+    }
+}
+
 TEST_F(CommonTest, ThePlatformTellsAboutItself) {
     int major = 0, minor = 0, build = 0, platform = 0;
     EXPECT_TRUE(basAPI::GetOsVersion(major, minor, build, platform));
