@@ -3,15 +3,20 @@
 
 #include "platform/files/BinaryFile.h"
 #include "platform/files/Files.h"
+#include "platform/pictures/LoadPicture.h"
+#include "platform/pictures/PictureFormat.h"
 #include "services/basErrLog.h"
 #include "services/basMsgQueue.h"
 #include "services/basPath.h"
 #include "services/Desktop.h"
 #include "services/FileRefused.h"
+#include "services/ProgramSettings.h"
+#include "services/UserFiles.h"
 
 #include <QHash>
 
 #include <algorithm>
+#include <optional>
 
 namespace basBMP {
 namespace {
@@ -42,58 +47,52 @@ int TableSize(const BitmapInfo& info) {
 RgbQuad InValueOrder(Color color) { return {quint8(color.Red()), quint8(color.Green()), quint8(color.Blue()), 0}; }
 RgbQuad InFileOrder(Color color) { return InValueOrder(color.Reversed()); }
 
-void DeleteFalseBitmap(BinaryFile& file, const QString& sFile) {
-    basMsgQueue::MsgQueue_Post(QStringLiteral("File '") + sFile + QStringLiteral("' is not a valid '.BMP' file. ") +
-                                   QStringLiteral("Click OK to delete this file. "),
-                               vbQuestion);
-    file.Close();
-    QString error;
-    if (Files::Exists(sFile) && !Files::MoveToTrash(sFile, error)) basErrLog::ErrLogToFile(error, true);
-}
-
-bool FindMonochrome(const QString& sFile) {
+// A picture of another kind, or one that is still being copied.
+bool MayBeAPicture(const QString& sFile) {
     BinaryFile file;
     QString error;
+    constexpr int kEnoughToTell = 16;
+    if (!file.OpenForReading(sFile, error)) return true;
+    const QByteArray start = file.Bytes(kEnoughToTell);
+    return start.isEmpty() || PictureFormatOf(start) != PictureFormat::Unknown;
+}
+
+void DeleteFalseBitmap(BinaryFile& file, const QString& sFile) {
+    file.Close();
+    if (MayBeAPicture(sFile)) return;
+    const QString sText = QStringLiteral("File '") + sFile + QStringLiteral("' is not a valid '.BMP' file. ");
+    if (Settings().bKeepUserFiles) {
+        basMsgQueue::MsgQueue_Post(sText, vbQuestion);
+        return;
+    }
+    const Files::Stamp stamp = Files::StampOf(Files::InDiskSpelling(sFile));
+    basMsgQueue::MsgQueue_Post(sText + QStringLiteral("Click OK to delete this file. "), vbQuestion, [sFile, stamp] {
+        // Somebody may have put a picture in its place while the box was waiting.
+        if (Files::StampOf(Files::InDiskSpelling(sFile)) == stamp) UserFiles::ThrowAway(sFile);
+    });
+}
+
+// Whether it is no answer to any question about the file.
+void RaiseIfUnread(const BinaryFile& file, const QString& sFile) {
+    QString error;
+    if (file.WasRead(error)) return;
+    ErrRaise(ErrNumber::kFileAccess,
+             QStringLiteral("The file named '") + sFile + QStringLiteral("' could not be read: ") + error);
+}
+
+FileHead HeadOf(BinaryFile& file) {
     FileHead head;
-    BitmapInfo info;
-    if (!file.OpenForReading(sFile, error)) return false;
-    if (ReadFileHead(file, sFile, head) != 0 || ReadInfoHead(file, sFile, info) != 0) return false;
-    return info.bmiHeader.biBitCount == kMonochrome;
-}
-
-// The pixels are taken to follow the table directly, and a file whose rows run top down has none to copy:
-// both are kept on purpose, as callers then paint the file's own picture.
-void CopyRows(BinaryFile& from, BinaryFile& to, const InfoHead& head) {
-    const qint64 rowBytes = RowBytes1(head.biWidth);
-    // Without this a head that claims rows of nothing, two thousand million of them, is copied for minutes.
-    if (rowBytes <= 0) return;
-    for (qint32 lRow = 0; lRow < head.biHeight && !from.AtEnd(); ++lRow)
-        to.PutBytes(from.Bytes(rowBytes));
-}
-
-} // namespace
-
-State& Module() {
-    static State state;
-    return state;
-}
-
-qint16 ReadFileHead(BinaryFile& file, const QString& sFile, FileHead& head) try {
     file.Seek(0);
     head.bfType = file.U16();
     head.bfSize = file.U32();
     head.bfReserved1 = file.U16();
     head.bfReserved2 = file.U16();
     head.bfOffBits = file.U32();
-    if (head.bfType == FileHead::kType) return 0;
-    DeleteFalseBitmap(file, sFile);
-    return kNoBitmap;
-} catch (...) {
-    ErrTail("basBMP!", "ReadFileHead", file, sFile, head);
+    return head;
 }
 
-qint16 ReadInfoHead(BinaryFile& file, const QString& sFile, BitmapInfo& info) try {
-    InfoHead& head = info.bmiHeader;
+InfoHead InfoOf(BinaryFile& file) {
+    InfoHead head;
     file.Seek(FileHead::kSize);
     head.biSize = file.U32();
     head.biWidth = file.S32();
@@ -106,21 +105,81 @@ qint16 ReadInfoHead(BinaryFile& file, const QString& sFile, BitmapInfo& info) tr
     head.biYPelsPerMeter = file.S32();
     head.biClrUsed = file.U32();
     head.biClrImportant = file.U32();
+    return head;
+}
+
+// 0, or why this module can't work with the picture.
+qint16 FlawOf(const InfoHead& head) {
+    constexpr std::array<quint16, 5> kBitCounts{1, 4, 8, 24, 32};
+    if (head.biPlanes != 1) return kBadPlanes;
+    if (std::find(kBitCounts.begin(), kBitCounts.end(), head.biBitCount) == kBitCounts.end()) return kBadBitCount;
+    return head.biCompression != 0 ? kIsCompressed : qint16(0);
+}
+
+// What this module can't work with may be a good picture for all others, of which there is nothing to tell.
+bool IsShownByOthers(const QString& sFile) {
+    constexpr int kSmall = 1;
+    QString error;
+    return !LoadPicture(sFile, error, kSmall).IsNull();
+}
+
+// Nothing where the disk can't be read.
+std::optional<bool> FindMonochrome(const QString& sFile) {
+    BinaryFile file;
+    QString error;
+    FileHead head;
+    BitmapInfo info;
+    if (!file.OpenForReading(sFile, error)) return std::nullopt;
+    const bool plain = HeadOf(file).bfType == FileHead::kType && FlawOf(InfoOf(file)) == 0;
+    RaiseIfUnread(file, sFile);
+    if (!plain && IsShownByOthers(sFile)) return false;
+    if (ReadFileHead(file, sFile, head) != 0 || ReadInfoHead(file, sFile, info) != 0) return false;
+    return info.bmiHeader.biBitCount == kMonochrome;
+}
+
+// The pixels are taken to follow the table directly, and a file whose rows run top down has none to copy:
+// both are kept on purpose, as callers then paint the file's own picture.
+void CopyRows(BinaryFile& from, BinaryFile& to, const InfoHead& head) {
+    const qint64 rowBytes = RowBytes1(head.biWidth);
+    // Without this a head that claims rows of nothing, two thousand million of them, is copied for minutes.
+    if (rowBytes <= 0) return;
+    QString error;
+    for (qint32 lRow = 0; lRow < head.biHeight && !from.AtEnd() && from.WasRead(error); ++lRow)
+        to.PutBytes(from.Bytes(rowBytes));
+}
+
+} // namespace
+
+State& Module() {
+    static State state;
+    return state;
+}
+
+qint16 ReadFileHead(BinaryFile& file, const QString& sFile, FileHead& head) try {
+    head = HeadOf(file);
+    RaiseIfUnread(file, sFile);
+    if (head.bfType == FileHead::kType) return 0;
+    DeleteFalseBitmap(file, sFile);
+    return kNoBitmap;
+} catch (...) {
+    ErrTail("basBMP!", "ReadFileHead", file, sFile, head);
+}
+
+qint16 ReadInfoHead(BinaryFile& file, const QString& sFile, BitmapInfo& info) try {
+    info.bmiHeader = InfoOf(file);
+    RaiseIfUnread(file, sFile);
+    const InfoHead& head = info.bmiHeader;
     Module().m_lImageWidth = head.biWidth;
     Module().m_lImageHeight = head.biHeight;
-
-    const auto refuse = [&sFile](const QString& sReason, qint16 iResult) {
-        const QString sText = QStringLiteral("Sorry, but Tavlora is unable to interpret the file named '") + sFile +
-                              QStringLiteral("'. ");
-        basMsgQueue::MsgQueue_Post(sText + sReason, vbExclamation);
-        return iResult;
-    };
-    if (head.biPlanes != 1) return refuse(QStringLiteral("Planes not set to 1"), kBadPlanes);
-    constexpr std::array<quint16, 5> kBitCounts{1, 4, 8, 24, 32};
-    if (std::find(kBitCounts.begin(), kBitCounts.end(), head.biBitCount) == kBitCounts.end())
-        return refuse(QStringLiteral("Pits per pixel = %1. ").arg(head.biBitCount), kBadBitCount);
-    if (head.biCompression != 0) return refuse(QStringLiteral("Compression is turned on."), kIsCompressed);
-    return 0;
+    const qint16 flaw = FlawOf(head);
+    if (flaw == 0) return 0;
+    QString sReason = QStringLiteral("Compression is turned on.");
+    if (flaw == kBadPlanes) sReason = QStringLiteral("Planes not set to 1");
+    if (flaw == kBadBitCount) sReason = QStringLiteral("Pits per pixel = %1. ").arg(head.biBitCount);
+    basMsgQueue::MsgQueue_Post(QStringLiteral("Sorry, but Tavlora is unable to interpret the file named '") + sFile +
+                                   QStringLiteral("'. ") + sReason,
+                               vbExclamation);
+    return flaw;
 } catch (...) {
     ErrTail("basBMP!", "ReadInfoHead", file, sFile, info);
 }
@@ -192,9 +251,16 @@ bool IsMonochromeBMP(const QString& sFile) try {
     const Files::Stamp stamp = Files::StampOf(Files::InDiskSpelling(sFile));
     const auto found = Findings().constFind(sFile);
     if (found != Findings().constEnd() && found->stamp == stamp) return found->monochrome;
-    const bool monochrome = FindMonochrome(sFile);
-    Findings().insert(sFile, {stamp, monochrome});
-    return monochrome;
+    try {
+        const std::optional<bool> monochrome = FindMonochrome(sFile);
+        if (monochrome) Findings().insert(sFile, {stamp, *monochrome});
+        return monochrome.value_or(false);
+    } catch (const TavloraError& error) {
+        if (error.Number() != ErrNumber::kFileAccess) throw;
+        // Whoever loads the picture tells it; the file says nothing about its colours, and is asked again.
+        basErrLog::ErrLogToFile(basErrLog::ErrDismiss(error.Description()), true);
+        return false;
+    }
 } catch (...) {
     ErrTail("basBMP!", "IsMonochromeBMP", sFile);
 }
@@ -219,6 +285,7 @@ bool ChangeMonoBmpBackColor(const QString& sFile, const QString& sNewFile, Color
     WriteInfoHead(to, info);
     WriteColorTable(to, info, Color::Black());
     CopyRows(from, to, info.bmiHeader);
+    RaiseIfUnread(from, sFile);
     if (!to.WasWritten(error)) ErrRaiseRefused(sNewFile, error);
     return true;
 } catch (...) {

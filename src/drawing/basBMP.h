@@ -65,8 +65,8 @@ constexpr qint16 kIsCompressed = -5;
 constexpr qint64 RowBytes1(qint64 lWidth) { return ((lWidth + 7) / 8 + 3) / 4 * 4; }
 constexpr qint64 RowBytes24(qint64 lWidth) { return (lWidth * 3 + 3) / 4 * 4; }
 
-/// 0, or kNoBitmap for a file that isn't a bitmap: after a box it is closed and taken off the disk (into the
-/// trash, where there is one).
+/// 0, or kNoBitmap for a file that isn't a bitmap: it is closed, and after a box thrown away, unless it is empty or a
+/// picture of another kind. Raises when the disk can't be read.
 qint16 ReadFileHead(BinaryFile& file, const QString& sFile, FileHead& head);
 /// 0, or why this module can't work with the file, after a box. The file stays open.
 qint16 ReadInfoHead(BinaryFile& file, const QString& sFile, BitmapInfo& info);
@@ -82,8 +82,8 @@ qint16 WriteColorTable(BinaryFile& file, const BitmapInfo& info, Color lColor);
 /// Blue, green and red of each pixel, in a row whose padding stands already.
 void PackRow24(std::span<const QRgb> pixels, QByteArray& row);
 
-/// True for a .bmp file of one bit a pixel. A file that only claims to be a bitmap is told and taken off the
-/// disk; what else can't be read is told once for each state of the file.
+/// True for a .bmp file of one bit a pixel. What no loader shows and only claims to be a bitmap is told and thrown
+/// away; what else can't be understood is told once for each state of the file. A disk that can't be read gives False.
 bool IsMonochromeBMP(const QString& sFile);
 
 /// True when the name ends in .wmf.

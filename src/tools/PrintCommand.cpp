@@ -51,6 +51,7 @@ void PrepareSettings(const PrintArguments& arguments, const QString& sPrivateFol
     if (settings.sRelativePictureBase.isEmpty()) settings.sRelativePictureBase = userFolder;
     if (settings.sIniDirectory.isEmpty()) settings.sIniDirectory = userFolder;
     settings.bIniReadOnly = true;
+    settings.bKeepUserFiles = true;
     if (!arguments.sData.isEmpty()) Folders::SetProgramDirectory(Console::CompletePath(arguments.sData));
     basErrLog::ErrInit(0);
     basCommon::InitIniPath();

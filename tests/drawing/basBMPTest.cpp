@@ -4,6 +4,9 @@
 #include "platform/files/BinaryFile.h"
 #include "platform/files/Files.h"
 #include "platform/pictures/LoadPicture.h"
+#include "services/basErrLog.h"
+#include "services/basMsgQueue.h"
+#include "services/ProgramSettings.h"
 #include "services/TavloraError.h"
 #include "support/PictureFiles.h"
 #include "support/TestFixture.h"
@@ -17,6 +20,9 @@ using namespace PictureFiles;
 
 class basBMPTest : public TavloraTest {
 protected:
+    // A program begins its log before anything else; without one the log's own box would come between.
+    basBMPTest() { basErrLog::ErrInit(0); }
+    ~basBMPTest() override { basErrLog::ResetForTest(); }
     qint16 HeadsOf(const QString& sPath, BitmapInfo& info) {
         BinaryFile file;
         QString error;
@@ -72,6 +78,75 @@ TEST_F(basBMPTest, Edge_TextNamedAsABitmapIsDeletedAfterTheBoxEvenWhenOnlyAskedF
     EXPECT_FALSE(Files::Exists(path));
 }
 
+TEST_F(basBMPTest, AFalseBitmapStaysUntilItsBoxIsShownWithTheQueueOpenToo) {
+    const QString path = WriteFile(QStringLiteral("letter.bmp"), "Dear Anna,");
+    basMsgQueue::MsgQueue_Init();
+    EXPECT_FALSE(IsMonochromeBMP(path));
+    EXPECT_TRUE(Files::Exists(path));
+    desktop.onBox = [&] { EXPECT_TRUE(Files::Exists(path)); };
+    basMsgQueue::MsgQueue_Display();
+    EXPECT_EQ(desktop.boxes.size(), 1);
+    EXPECT_FALSE(Files::Exists(path));
+}
+
+TEST_F(basBMPTest, WhatWasPutInPlaceOfAFalseBitmapMeanwhileStays) {
+    const QString path = WriteFile(QStringLiteral("letter.bmp"), "Dear Anna,");
+    desktop.onBox = [&] { WriteFile(QStringLiteral("letter.bmp"), Indexed(24)); };
+    EXPECT_FALSE(IsMonochromeBMP(path));
+    EXPECT_EQ(ReadFile(path), Indexed(24));
+}
+
+TEST_F(basBMPTest, PicturesOfOtherKindsAndFilesStillBeingCopiedAreNeverThrownAway) {
+    const QImage art = Quarters(40, 40);
+    const QByteArray png = Encoded(art, "png");
+    for (const QByteArray& bytes : {png, Encoded(art, "jpg"), png.left(png.size() / 2), QByteArray()}) {
+        const QString path = WriteFile(QStringLiteral("photo.bmp"), bytes);
+        EXPECT_FALSE(IsMonochromeBMP(path));
+        EXPECT_FALSE(ChangeMonoBmpBackColor(path, PathOf(QStringLiteral("out.bmp")), Color::White()));
+        EXPECT_EQ(ReadFile(path), bytes);
+        QFile::remove(path);
+    }
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+}
+
+TEST_F(basBMPTest, ADiskThatCannotBeReadSaysNothingOfAFile) {
+    basErrLog::ErrInit(0);
+    const QByteArray bytes = Indexed(1);
+    const QString path = WriteFile(QStringLiteral("stick.bmp"), bytes);
+    Files::SetFaultHook([](Files::Operation operation, const QString&) -> std::optional<QString> {
+        if (operation == Files::Operation::Read) return QStringLiteral("Input/output error");
+        return {};
+    });
+    EXPECT_FALSE(IsMonochromeBMP(path));
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+    EXPECT_TRUE(ReadFile(basErrLog::ErrLogPath()).contains("stick.bmp' could not be read: Input/output error"));
+    EXPECT_THROW(ChangeMonoBmpBackColor(path, PathOf(QStringLiteral("out.bmp")), Color::White()), TavloraError);
+    Files::SetFaultHook({});
+    EXPECT_EQ(ReadFile(path), bytes);
+    EXPECT_TRUE(IsMonochromeBMP(path)) << "asked again when the stick is back";
+}
+
+TEST_F(basBMPTest, NothingIsThrownAwayWhereNobodyCanAnswer) {
+    Settings().bKeepUserFiles = true;
+    const QString path = WriteFile(QStringLiteral("letter.bmp"), "Dear Anna,");
+    EXPECT_FALSE(IsMonochromeBMP(path));
+    EXPECT_EQ(desktop.Texts(),
+              QStringList{QStringLiteral("File '") + path + QStringLiteral("' is not a valid '.BMP' file. ")});
+    EXPECT_EQ(ReadFile(path), QByteArray("Dear Anna,"));
+}
+
+TEST_F(basBMPTest, ABitmapThatIsShownAllTheSameIsNotTold) {
+    QImage indexed(40, 40, QImage::Format_Indexed8);
+    indexed.setColorTable({qRgb(255, 0, 0), qRgb(0, 0, 255)});
+    indexed.fill(1);
+    for (const QByteArray& bytes : {Bmp(Quarters(40, 40), {.bits = 16}), RunLengthBmp(indexed)}) {
+        const QString path = WriteFile(QStringLiteral("photo.bmp"), bytes);
+        EXPECT_FALSE(IsMonochromeBMP(path));
+        QFile::remove(path);
+    }
+    EXPECT_TRUE(desktop.boxes.isEmpty()) << qPrintable(desktop.Texts().value(0));
+}
+
 TEST_F(basBMPTest, Edge_UpperCaseEndingsCount) {
     EXPECT_TRUE(IsMonochromeBMP(WriteFile(QStringLiteral("UPPER.BMP"), Indexed(1))));
     EXPECT_TRUE(IsWMF(QStringLiteral("C:\\ART.WMF")));
@@ -121,7 +196,7 @@ TEST_F(basBMPTest, PlanesOtherThanOneAreRefused) {
 }
 
 TEST_F(basBMPTest, AFileThatCannotBeReadIsToldOnceForEachStateOfIt) {
-    const QString path = WriteFile(QStringLiteral("deep.bmp"), Bmp(Quarters(4, 4), {.bits = 16}));
+    const QString path = WriteFile(QStringLiteral("deep.bmp"), Bmp(Quarters(4, 4), {.bits = 16}).left(60));
     EXPECT_FALSE(IsMonochromeBMP(path));
     EXPECT_FALSE(IsMonochromeBMP(path));
     EXPECT_EQ(desktop.boxes.size(), 1);

@@ -6,6 +6,7 @@
 #include "platform/files/Files.h"
 #include "support/FileFixture.h"
 #include "support/PdfReader.h"
+#include "support/PictureFiles.h"
 #include "tools/PrintArguments.h"
 
 #include <QProcess>
@@ -72,6 +73,23 @@ TEST_F(PrintCommandTest, BoardBecomesAPictureOfTheSizeAskedFor) {
     EXPECT_EQ(board.pixelColor(int(0.5 * 700), int(0.46 * 700)), QColor(0, 176, 255)) << "the panel";
     EXPECT_EQ(board.pixelColor(int(0.04 * 700), int(0.96 * 700)), QColor(224, 255, 224)) << "a corner's face";
     EXPECT_EQ(OutFolder(), QStringList{QStringLiteral("board.png")});
+}
+
+TEST_F(PrintCommandTest, NoInputIsEverThrownAwayWhateverItHolds) {
+    const QByteArray png = PictureFiles::Encoded(PictureFiles::Quarters(40, 40), "png");
+    WriteFile(QStringLiteral("games/photo.bmp"), png);
+    WriteFile(QStringLiteral("games/letter.bmp"), "Dear Anna,");
+    QStringList lines = PlainLines();
+    lines[3 + 7] = QStringLiteral("7, \"t\", \"photo.bmp\",0,0,0");
+    lines[3 + 8] = QStringLiteral("8, \"t\", \"letter.bmp\",0,0,0");
+    const QString named = WriteGame(lines);
+    const QMap<QString, QByteArray> before = Content(QStringLiteral("games"));
+    const QString path = PathOf(QStringLiteral("out/board.png"));
+    for (int run = 0; run < 2; ++run) {
+        EXPECT_EQ(Run({named, QStringLiteral("--board"), path}), 0);
+        EXPECT_EQ(Content(QStringLiteral("games")), before);
+        EXPECT_FALSE(errors.join(u' ').contains(QStringLiteral("delete"))) << errors.join(u'\n').toStdString();
+    }
 }
 
 TEST_F(PrintCommandTest, EveryMadePictureIsWrittenUnderItsName) {

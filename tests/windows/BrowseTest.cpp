@@ -225,21 +225,45 @@ TEST_F(BrowseTest, AFolderIsNoPictureEvenOnAScreenOfOtherDots) {
     });
 }
 
-TEST_F(BrowseTest, WhatOnlyClaimsToBeABitmapLeavesTheListAndCantBeChosen) {
-    const QString path =
-        WriteFile(QStringLiteral("false.bmp"), PictureFiles::Encoded(PictureFiles::Quarters(40, 40), "png"));
+TEST_F(BrowseTest, APhotographThatWasRenamedToBeABitmapIsShownAndStays) {
+    const QByteArray bytes = PictureFiles::Encoded(PictureFiles::Quarters(40, 40), "png");
+    const QString path = WriteFile(QStringLiteral("photo.bmp"), bytes);
+    Browse(QString(), [this](QWidget& window) {
+        ClickFile(window, QStringLiteral("photo.bmp"));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return ColorAt(window, 20, 20) == Color::Rgb(255, 0, 0); }, kArrivalMs));
+        EXPECT_TRUE(FilesIn(window).contains(QStringLiteral("photo.bmp")));
+        Click(window, "cmdCancel");
+    });
+    EXPECT_EQ(ReadFile(path), bytes);
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+}
+
+TEST_F(BrowseTest, WhatOnlyClaimsToBeABitmapIsToldAndStays) {
+    const QString path = WriteFile(QStringLiteral("false.bmp"), "Dear Anna,");
     Browse(QString(), [this](QWidget& window) {
         ClickFile(window, QStringLiteral("false.bmp"));
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !desktop.boxes.isEmpty(); }, kArrivalMs));
+        EXPECT_TRUE(FilesIn(window).contains(QStringLiteral("false.bmp")));
+        Click(window, "cmdCancel");
+    });
+    EXPECT_EQ(ReadFile(path), QByteArray("Dear Anna,"));
+    ASSERT_EQ(desktop.boxes.size(), 1);
+    EXPECT_TRUE(desktop.Texts().first().contains(QStringLiteral("could not be loaded")));
+}
+
+TEST_F(BrowseTest, APictureThatIsGoneWhenItIsLookedAtLeavesTheList) {
+    const QString path = Picture(QStringLiteral("brief.bmp"));
+    Browse(QString(), [this, path](QWidget& window) {
+        desktop.onBox = [path] { QFile::remove(path); };
+        WriteFile(QStringLiteral("brief.bmp"), "no picture any more");
+        ClickFile(window, QStringLiteral("brief.bmp"));
         EXPECT_TRUE(
-            QTest::qWaitFor([&] { return !FilesIn(window).contains(QStringLiteral("false.bmp")); }, kArrivalMs));
-        EXPECT_EQ(desktop.boxes.size(), 1);
+            QTest::qWaitFor([&] { return !FilesIn(window).contains(QStringLiteral("brief.bmp")); }, kArrivalMs));
         Click(window, "cmdOK");
         EXPECT_TRUE(window.isVisible());
         EXPECT_EQ(desktop.Texts().last(), QStringLiteral("Please select a file before clicking OK"));
         Click(window, "cmdCancel");
     });
-    EXPECT_FALSE(QFile::exists(path));
-    EXPECT_EQ(desktop.boxes.size(), 2);
 }
 
 TEST_F(BrowseTest, OkWithoutAFileAsksForOne) {

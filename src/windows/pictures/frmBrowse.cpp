@@ -318,7 +318,7 @@ void frmBrowse::PaintPreview(int lW, int lH) {
         QMetaObject::invokeMethod(this, &frmBrowse::Preview_Vanished, Qt::QueuedConnection);
 }
 
-// What only claims to be a bitmap is thrown away when it is looked at, and can't be chosen any more.
+// What is gone by now can't be chosen any more.
 void frmBrowse::Preview_Vanished() try {
     FillFiles();
     filList_Click();
