@@ -27,7 +27,8 @@ void C_Space::FitNewText(const QString& sTextIn) {
 }
 
 void C_Space::AssertTextSize() const {
-    basCommon::Assert(HasTextSize(), QStringLiteral("Size set to zero"), QStringLiteral("C_SpaceSetText"));
+    basCommon::Assert(NLines() == 0 || TextSize() != 0, QStringLiteral("Size set to zero"),
+                      QStringLiteral("C_SpaceSetText"));
 }
 
 void C_Space::SetText(const QString& sTextIn) try {

@@ -42,7 +42,8 @@ void C_Token::FitNewText(const QString& sTextIn) {
 }
 
 void C_Token::AssertTextSize() const {
-    basCommon::Assert(HasTextSize(), QStringLiteral("Size set to zero"), QStringLiteral("C_TokenSetText"));
+    basCommon::Assert(NLines() == 0 || TextSize() != 0, QStringLiteral("Size set to zero"),
+                      QStringLiteral("C_TokenSetText"));
 }
 
 void C_Token::SetText(const QString& sTextIn) try {

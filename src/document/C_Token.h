@@ -76,13 +76,12 @@ public:
     /// Reads a record off the front and returns what is left. Raises for an index that is no number.
     QString SetQuotedString(const QString& sLine);
     /// As SetQuotedString, but touches nothing besides the record: the picture is found by what is given, a missing
-    /// one isn't told, and a text of no size doesn't end the program.
+    /// one isn't told, and a text of no size doesn't end the program; TextSize tells of it.
     QString Read(const QString& sLine, const PicturePlaces::Finder& find);
-    /// Ends the program when the text has no size, with a message.
-    void AssertTextSize() const;
-    bool HasTextSize() const { return NLines() == 0 || TextSize() != 0; }
 
 private:
+    /// Ends the program when the text has no size, with a message.
+    void AssertTextSize() const;
     QString ReadFields(const QString& sLine, const ImageReader& readImage);
     void FitNewText(const QString& sTextIn);
     struct TextPlace;

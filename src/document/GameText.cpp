@@ -64,7 +64,11 @@ struct Words {
 class GameReader {
 public:
     GameReader(const QByteArray& bytes, const Game& before, const ReadingTools& tools)
-        : m_lines(TextFile::SplitLines(TextFile::Decode(bytes))), m_tools(tools), m_reading{before, 0, std::nullopt} {}
+        : m_lines(TextFile::SplitLines(TextFile::Decode(bytes))), m_tools(tools), m_reading{before, 0, std::nullopt} {
+        // Empty lines are the end: other programs leave one there, and the tokens may be missing ahead of it.
+        while (!m_lines.isEmpty() && m_lines.last().trimmed().isEmpty())
+            m_lines.removeLast();
+    }
 
     GameReading Read() {
         basDraw::Draw_SetHdc(&m_tools.measuring);
@@ -122,9 +126,14 @@ bool GameReader::NextLine(const QString& sDuring, Taker take) {
 template <typename Record, typename Taker>
 bool GameReader::ReadRecord(Record& record, int iNumber, const Words& words, Taker take) {
     return NextLine(words.sDuring, [&](const QString& sLine) -> std::optional<Fault> {
+        const Record before = record;
         take(sLine);
-        if constexpr (requires { record.HasTextSize(); }) {
-            if (!record.HasTextSize()) return Fault{QStringLiteral("Size set to zero"), words.sDuring, true};
+        if constexpr (requires { record.TextSize(); }) {
+            // In hand it would end the program at the next change of its text.
+            if (!(record.TextSize() > 0)) {
+                record = before;
+                return Fault{QStringLiteral("The text has letters of no size"), words.sDuring};
+            }
         }
         if (record.Index == iNumber) return std::nullopt;
         return Fault{QString::fromLatin1(words.sWrongNumber), words.sDuringWrongNumber};

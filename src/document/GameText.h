@@ -53,12 +53,10 @@ struct GameReading {
         QString sError;
         /// What was being done.
         QString sDuring;
-        /// The last record's text came out without any size.
-        bool bNoTextSize = false;
     };
 
     /// What stood there before, with all that was read in its place. Of the record that is at fault, too, what was
-    /// read ahead of the fault.
+    /// read ahead of the fault, unless it could never be edited.
     Game game;
     /// Lines that were read well. Fewer than there are with nothing at fault: the tokens behind them aren't in the
     /// file, and are as they are in a new game.

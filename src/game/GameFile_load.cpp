@@ -61,13 +61,12 @@ void FetchThumbnail(const C_Image& image) {
 class Arrival {
 public:
     explicit Arrival(const GameReading& reading)
-        : m_before(TheGame()), m_lines(reading.iLines), m_noTextSize(reading.fault && reading.fault->bNoTextSize),
-          m_game(TheGame() = reading.game) {}
+        : m_before(TheGame()), m_lines(reading.iLines), m_game(TheGame() = reading.game) {}
 
     void Run() {
         if (WasRead(GameLines::kTitles)) basPosit::SetSpecialText(0, QStringLiteral("TAVLO"));
         for (size_t i = 0; i < m_game.spaces.size(); ++i)
-            Welcome(m_game.spaces[i], m_before.spaces[i], GameLines::kSpaces + int(i));
+            m_game.spaces[i].Image.TellIfMissing(m_before.spaces[i].Image);
         for (size_t i = 0; i < m_game.corners.size(); ++i)
             m_game.corners[i].Image.TellIfMissing(m_before.corners[i].Image);
         if (WasRead(GameLines::kNews - 1)) SetSideNames();
@@ -77,19 +76,13 @@ public:
             if (WasRead(GameLines::kMoney + int(i))) FetchThumbnail(m_game.money[i].FaceImage);
         }
         for (size_t i = 0; i < m_game.tokens.size(); ++i) {
-            Welcome(m_game.tokens[i], m_before.tokens[i], GameLines::kTokens + int(i));
+            m_game.tokens[i].Image.TellIfMissing(m_before.tokens[i].Image);
             if (WasRead(GameLines::kTokens + int(i))) FetchThumbnail(m_game.tokens[i].Image);
         }
     }
 
 private:
     bool WasRead(int iLine) const { return iLine < m_lines; }
-
-    template <typename Record>
-    void Welcome(const Record& record, const Record& before, int iLine) {
-        record.Image.TellIfMissing(before.Image);
-        if (m_noTextSize && iLine == m_lines) record.AssertTextSize();
-    }
 
     static void SetSideNames() {
         for (int i = 0; i < basTAVL::kSides; ++i)
@@ -98,7 +91,6 @@ private:
 
     const Game m_before;
     const int m_lines;
-    const bool m_noTextSize;
     Game& m_game;
 };
 

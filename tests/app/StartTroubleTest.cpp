@@ -175,6 +175,27 @@ TEST_F(StartTroubleTest, AutosaveThatEndedAStartIsPutAsideAfterANo) {
     EXPECT_FALSE(HasAutosave());
 }
 
+// As from a stranger's mail: it used to end the program, at each start again.
+TEST_F(StartTroubleTest, LettersWithoutASizeAreToldAndEndNoStart) {
+    const QString game = MakeLastGame();
+    QByteArray bytes = ReadFile(game);
+    const qsizetype record = bytes.indexOf("\r\n4, ") + 2;
+    bytes.replace(record, bytes.indexOf("\r\n", record) - record, "4, \"t\", \"\", 0, 0, 0, \"Arial\",B,0");
+    WriteFile(QStringLiteral("games/Mine.gam"), bytes);
+    for (int start = 0; start < 2; ++start) {
+        desktop.boxes.clear();
+        Start();
+        ASSERT_EQ(desktop.boxes.size(), 1);
+        EXPECT_TRUE(desktop.boxes[0].sText.contains(game));
+        EXPECT_TRUE(desktop.boxes[0].sText.contains(QStringLiteral("loading line number 4")));
+        EXPECT_TRUE(window->isVisible());
+        EXPECT_FALSE(desktop.ended);
+    }
+    // And what stands in hand can be edited.
+    Edit(QStringLiteral("One"));
+    EXPECT_FALSE(desktop.ended);
+}
+
 TEST_F(StartTroubleTest, GoodGameByDoubleClickComesPastTheOneThatEndsEachStart) {
     BreakOffAtReading(MakeLastGame());
     WriteGame(QStringLiteral("Other.gam"), QStringLiteral("Good"));

@@ -139,14 +139,39 @@ TEST_F(GameTextTest, RecordOfAnotherNumberIsAFaultOfItsOwn) {
     EXPECT_EQ(card.fault->sDuring, QStringLiteral("loading good news card number 4"));
 }
 
-TEST_F(GameTextTest, TextWithoutAnySizeIsAFaultAndEndsNoProgram) {
+TEST_F(GameTextTest, TextWithoutAnySizeIsAFaultAndLeavesTheRecordAsItWas) {
+    yours.spaces[2].SetText(QStringLiteral("stays"));
+    yours.tokens[2].SetText(QStringLiteral("stays"));
+    const QString texts[] = {QStringLiteral("t"), QString()};
+    const char* const sizes[] = {"0", "-12", "1e-50"};
     for (const int line : {GameLines::kSpaces + 2, GameLines::kTokens + 2}) {
-        const GameReading reading = ReadWith(line, QStringLiteral("2, \"t\", \"\",0,0,0, \"Arial\",R,0"));
-        ASSERT_TRUE(reading.fault) << line;
-        EXPECT_TRUE(reading.fault->bNoTextSize);
-        EXPECT_EQ(reading.iLines, line);
+        for (const QString& text : texts) {
+            for (const char* size : sizes) {
+                const GameReading reading = ReadWith(
+                    line, QStringLiteral("2, \"%1\", \"\",0,0,0, \"Arial\",R,").arg(text) + QString::fromLatin1(size));
+                ASSERT_TRUE(reading.fault) << line << ' ' << size;
+                EXPECT_EQ(reading.fault->sError, QStringLiteral("The text has letters of no size"));
+                EXPECT_EQ(reading.iLines, line);
+                EXPECT_EQ(reading.game.spaces[2].TextAll(),
+                          line < GameLines::kTokens ? QStringLiteral("stays") : mine.spaces[2].TextAll());
+                EXPECT_EQ(reading.game.tokens[2].TextAll(), QStringLiteral("stays"));
+            }
+        }
     }
     EXPECT_TRUE(desktop.boxes.isEmpty());
+}
+
+TEST_F(GameTextTest, EmptyLinesAtTheEndAreTheEnd) {
+    for (const int lines : {int(GameLines::kTokens), GameLines::kTokens + 3, int(GameLines::kAll)}) {
+        const GameReading plain = ReadLines(Lines().mid(0, lines));
+        for (const QStringList& more :
+             {QStringList{QString()}, QStringList{QString(), QStringLiteral(" \t"), QString()}}) {
+            const GameReading reading = ReadLines(Lines().mid(0, lines) + more);
+            EXPECT_FALSE(reading.fault) << lines;
+            EXPECT_EQ(reading.iLines, lines);
+            EXPECT_EQ(reading.game, plain.game);
+        }
+    }
 }
 
 TEST_F(GameTextTest, TokensThatAreNotInTheFileAreThoseOfANewGameInTheKitsColour) {

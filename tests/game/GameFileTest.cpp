@@ -46,6 +46,17 @@ TEST_F(LoadTest, Edge_SixtyThreeLinesLoadWithDefaultTokens) {
     EXPECT_TRUE(desktop.boxes.isEmpty());
 }
 
+TEST_F(LoadTest, SixtyThreeLinesOfAnOlderProgramLoadWithAnEmptyLineAtTheirEnd) {
+    EXPECT_EQ(Load(WriteGame(PlainLines().mid(0, 63) + QStringList{QString()})), 0);
+    EXPECT_EQ(basTAVL::g_oTokens(0).TextAll(), QString());
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+}
+
+TEST_F(LoadTest, RecordWhoseLettersHaveNoSizeIsToldByTheNameOfItsFile) {
+    EXPECT_EQ(MessageFor(3, QStringLiteral("0, \" \", \"\", 0, 0, 0, \"Arial\",B,0")),
+              LoadError(QStringLiteral("The text has letters of no size"), "loading line number 0"));
+}
+
 TEST_F(LoadTest, Edge_SixtySixLinesLoadThreeTokensAndDefaultsForTheRest) {
     EXPECT_EQ(Load(WriteGame(PlainLines().mid(0, 66))), 0);
     EXPECT_EQ(basTAVL::g_oTokens(2).TextAll(), QStringLiteral("Token 2"));
@@ -292,15 +303,12 @@ TEST_F(LoadTest, ManyMissingPicturesBringOneBox) {
     EXPECT_EQ(desktop.boxes.size(), 1) << "told once";
 }
 
-TEST_F(LoadTest, LoadThatEndsTheProgramLeavesNoMessageWaiting) {
-    QStringList lines = PlainLines();
-    lines[3] = QStringLiteral("0, \"t\", \"gone.bmp\",0,0,0");
-    lines[4] = QStringLiteral("1, \"t\", \"\",0,0,0, \"Arial\",R,0");
-    EXPECT_THROW(Load(WriteGame(lines)), ProgramEnded);
+TEST_F(LoadTest, LoadThatEndsTheProgramLetsNoLaterMessageWait) {
+    const QString game = WriteGame(PlainLines());
+    Files::SetFaultHook([](Files::Operation, const QString&) -> std::optional<QString> { throw ProgramEnded(1); });
+    EXPECT_THROW(Load(QString(game)), ProgramEnded);
+    Files::SetFaultHook({});
     EXPECT_FALSE(basMsgQueue::MsgQueue_IsOpen());
-    ASSERT_EQ(desktop.boxes.size(), 2);
-    EXPECT_EQ(desktop.boxes[0].sText, QStringLiteral("Assertion Failure: \r\n\r\nSize set to zero in C_SpaceSetText"));
-    EXPECT_TRUE(desktop.boxes[1].sText.contains(QStringLiteral("gone.bmp")));
 }
 
 TEST_F(LoadTest, PicturesBesideTheGameAreFound) {
