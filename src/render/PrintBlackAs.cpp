@@ -8,7 +8,7 @@ namespace PrintBlackAs {
 namespace {
 
 const QString kKey = QStringLiteral("PrintBlackAs");
-constexpr int kColorBits = 0xFFFFFF;
+constexpr int kByte = 0xFF;
 constexpr int kDigits = 6;
 constexpr int kHexadecimal = 16;
 
@@ -18,13 +18,14 @@ Color Read() {
     const QString text = basCommon::GetIniString(kKey);
     const std::optional<double> value = ParseNumber(text);
     if (!text.isEmpty() && !value) basCommon::TellUnreadableSetting(kKey, text);
-    return Color::FromValue(value ? CLng(*value) & kColorBits : kDefault);
+    const int number = value ? CLng(*value) : kDefault;
+    return Color::Rgb(number >> 16 & kByte, number >> 8 & kByte, number & kByte);
 }
 
 void Write(Color color) {
-    const QString digits =
-        QStringLiteral("000000") + QString::number(color.Value() & kColorBits, kHexadecimal).toUpper();
-    basCommon::WriteIniString(kKey, QStringLiteral("&H") + RightStr(digits, kDigits));
+    const int number = color.Red() << 16 | color.Green() << 8 | color.Blue();
+    const QString digits = QStringLiteral("%1").arg(number, kDigits, kHexadecimal, QChar(u'0')).toUpper();
+    basCommon::WriteIniString(kKey, QStringLiteral("&H") + digits);
 }
 
 std::optional<Color> Chosen() {

@@ -115,9 +115,52 @@ TEST_F(SetupColorTest, WhatIsTypedIsWhatShowsAndIsStored) {
     Click(*form, "cmdOK");
     EXPECT_FALSE(form->isVisible());
     EXPECT_EQ(form->ChosenColor(), Color::Rgb(1, 2, 30));
-    EXPECT_EQ(Stored(), QStringLiteral("&H1E0201"));
+    EXPECT_EQ(Stored(), QStringLiteral("&H01021E"));
     EXPECT_EQ(PrintBlackAs::Chosen(), Color::Rgb(1, 2, 30));
     EXPECT_TRUE(desktop.boxes.isEmpty());
+}
+
+TEST_F(SetupColorTest, WhatWasStoredComesBackInTheBoxesItWasTypedIn) {
+    basCommon::WriteIniString(kKey, QStringLiteral("&H01021E"));
+    Open();
+    EXPECT_EQ(Boxes(), (QStringList{QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("30")}));
+    EXPECT_EQ(Sample(), Color::Rgb(1, 2, 30));
+    Enter(2, "3");
+    EXPECT_EQ(Sample(), Color::Rgb(1, 2, 3)) << "the boxes that weren't touched keep their colour";
+    Click(*form, "cmdOK");
+    EXPECT_EQ(Stored(), QStringLiteral("&H010203"));
+}
+
+TEST_F(SetupColorTest, NoBoxThatHoldsNoColourIsDroppedByOk) {
+    for (const int wrong : {0, 1, 2}) {
+        Open();
+        if (Default().isChecked()) Default().click();
+        Enter(wrong, "999");
+        EXPECT_EQ(desktop.boxes.size(), 1) << "told when it is left";
+        Enter((wrong + 1) % 3, "77");
+        Click(*form, "cmdOK");
+        EXPECT_TRUE(form->isVisible());
+        EXPECT_EQ(desktop.boxes.size(), 2) << "and told why the window stays";
+        EXPECT_EQ(form->focusWidget(), &Box(wrong));
+        EXPECT_EQ(Stored(), QString());
+        desktop.boxes.clear();
+        Box(wrong).setText(QStringLiteral("88"));
+        Click(*form, "cmdOK");
+        EXPECT_FALSE(form->isVisible());
+        EXPECT_EQ(form->ChosenColor(), Sample());
+        EXPECT_NE(Stored(), QString());
+        basCommon::WriteIniString(kKey, QString());
+    }
+}
+
+TEST_F(SetupColorTest, AWrongEntryIsToldOnceByAClickOnOk) {
+    Open();
+    Default().click();
+    Box(1).setFocus();
+    Box(1).setText(QStringLiteral("abc"));
+    Click(*form, "cmdOK");
+    EXPECT_TRUE(form->isVisible());
+    EXPECT_EQ(desktop.Texts(), QStringList{QStringLiteral("Entry must be number between 0 and 255")});
 }
 
 TEST_F(SetupColorTest, EnterTakesTheBoxThatIsStillBeingTypedIn) {
@@ -128,7 +171,7 @@ TEST_F(SetupColorTest, EnterTakesTheBoxThatIsStillBeingTypedIn) {
     QTest::keyClicks(&Box(0), QStringLiteral("50"));
     QTest::keyClick(&Box(0), Qt::Key_Return);
     EXPECT_FALSE(form->isVisible());
-    EXPECT_EQ(Stored(), QStringLiteral("&H0A0A32"));
+    EXPECT_EQ(Stored(), QStringLiteral("&H320A0A"));
 }
 
 TEST_F(SetupColorTest, EnterOnAnEntryThatIsNoColourLeavesTheWindowOpen) {
@@ -142,17 +185,17 @@ TEST_F(SetupColorTest, EnterOnAnEntryThatIsNoColourLeavesTheWindowOpen) {
     EXPECT_EQ(Stored(), QString());
 }
 
-TEST_F(SetupColorTest, TheFirstBoxShowsTheHighestByteAndPassingThroughChangesNothing) {
+TEST_F(SetupColorTest, PassingThroughTheBoxesChangesNothing) {
     basCommon::WriteIniString(kKey, QStringLiteral("&H0000C8"));
     Open();
     EXPECT_FALSE(Default().isChecked());
-    EXPECT_EQ(Sample(), Color::Rgb(200, 0, 0));
+    EXPECT_EQ(Sample(), Color::Rgb(0, 0, 200));
     EXPECT_EQ(Boxes(), (QStringList{QStringLiteral("0"), QStringLiteral("0"), QStringLiteral("200")}));
     for (const int index : {0, 1, 2}) {
         Box(index).setFocus();
         QTest::keyClick(&Box(index), Qt::Key_Tab);
     }
-    EXPECT_EQ(Sample(), Color::Rgb(200, 0, 0));
+    EXPECT_EQ(Sample(), Color::Rgb(0, 0, 200));
     Click(*form, "cmdOK");
     EXPECT_EQ(Stored(), QStringLiteral("&H0000C8"));
 }
@@ -197,7 +240,7 @@ TEST_F(SetupColorTest, TheChosenColourIsTheInkFromTheNextStartOnUnlessItIsTheDef
     EXPECT_EQ(basTAVL::g_lPrintBlack(), Color::Black());
     basCommon::WriteIniString(kKey, QStringLiteral("&H302010"));
     GameKit::SetUp(QStringLiteral("tavlora"));
-    EXPECT_EQ(basTAVL::g_lPrintBlack(), Color::Rgb(0x10, 0x20, 0x30));
+    EXPECT_EQ(basTAVL::g_lPrintBlack(), Color::Rgb(0x30, 0x20, 0x10)) << "red is the highest byte";
     basCommon::WriteIniString(kKey, QStringLiteral("&H0A0A0A"));
     GameKit::SetUp(QStringLiteral("tavlora"));
     EXPECT_EQ(basTAVL::g_lPrintBlack(), Color::Black());

@@ -92,9 +92,11 @@ void frmColor::BuildControls() {
     middle->addWidget(picColorSample);
     cmdOK = MakeButton("cmdOK", "&OK");
     cmdOK->setDefault(true);
+    // A click on either leaves the focus where it is: OK looks at all boxes itself, and nobody is told about an entry
+    // that is being given up.
+    cmdOK->setFocusPolicy(Qt::TabFocus);
     connect(cmdOK, &QPushButton::clicked, this, &frmColor::cmdOK_Click);
     cmdCancel = MakeButton("cmdCancel", "&Cancel");
-    // A click on it leaves the focus where it is, so that nobody is told about an entry that is being given up.
     cmdCancel->setFocusPolicy(Qt::TabFocus);
     connect(cmdCancel, &QPushButton::clicked, this, &frmColor::cmdCancel_Click);
     auto* buttons = new QHBoxLayout;
@@ -115,29 +117,10 @@ void frmColor::Form_Initialize() {
     m_lColor = PrintBlackAs::Read();
     chkUseDefaults->setChecked(m_lColor == kDefaultColor);
     chkUseDefaults_Click();
-    ShowSample(m_lColor);
-    FillBoxes(m_lColor);
-}
-
-// The box labelled "Red" shows the highest byte of the number, in which a colour has its blue. Kept on
-// purpose: it is how settings files have always been shown.
-void frmColor::FillBoxes(Color color) {
-    const std::array<int, kBoxes> bytes = {color.Blue(), color.Green(), color.Red()};
+    picColorSample->SetBackColor(m_lColor);
+    const std::array<int, kBoxes> parts = {m_lColor.Red(), m_lColor.Green(), m_lColor.Blue()};
     for (size_t i = 0; i < kBoxes; ++i)
-        txtColor[i]->setText(QString::number(bytes[i]));
-    m_saShown = BoxTexts();
-}
-
-void frmColor::ShowSample(Color color) {
-    picColorSample->SetBackColor(color);
-    m_saShown = BoxTexts();
-}
-
-QStringList frmColor::BoxTexts() const {
-    QStringList texts;
-    for (const QLineEdit* box : txtColor)
-        texts.append(box->text());
-    return texts;
+        txtColor[i]->setText(QString::number(parts[i]));
 }
 
 bool frmColor::ShowForm() try {
@@ -157,26 +140,23 @@ void frmColor::chkUseDefaults_Click() try {
         box->setEnabled(!defaults);
         if (defaults) box->setText(kDefaultText);
     }
-    if (defaults) ShowSample(kDefaultColor);
+    if (defaults) picColorSample->SetBackColor(kDefaultColor);
 } catch (...) {
     ErrTop("frmColor!", "chkUseDefaults_Click");
 }
 
 // Leaves the sample as it was while one of the boxes holds what is no part of a colour; that has been told.
 void frmColor::RebuildSample() {
-    if (BoxTexts() == m_saShown) return;
     std::array<int, kBoxes> parts{};
     for (size_t i = 0; i < kBoxes; ++i) {
         const std::optional<int> part = PartOfColor(txtColor[i]->text());
         if (!part) return;
         parts[i] = *part;
     }
-    ShowSample(Color::Rgb(parts[0], parts[1], parts[2]));
+    picColorSample->SetBackColor(Color::Rgb(parts[0], parts[1], parts[2]));
 }
 
 bool frmColor::txtColor_LostFocus(int Index) try {
-    // A box that was only passed through changes nothing.
-    if (BoxTexts() == m_saShown) return true;
     if (!PartOfColor(txtColor.at(size_t(Index))->text())) {
         MsgBox(QStringLiteral("Entry must be number between 0 and 255"));
         return false;
@@ -202,11 +182,13 @@ bool frmColor::eventFilter(QObject* watched, QEvent* event) {
 void frmColor::picColorSample_Click() { m_lColor = picColorSample->BackColor(); }
 
 void frmColor::cmdOK_Click() try {
-    // Enter and the shortcut leave the focus on the box, so what it holds hasn't been looked at yet.
+    // All of them, as one that was told about when it was left may still hold the same.
     for (size_t i = 0; i < kBoxes; ++i) {
-        if (focusWidget() == txtColor[i] && !txtColor_LostFocus(int(i))) return;
+        if (txtColor_LostFocus(int(i))) continue;
+        txtColor[i]->setFocus();
+        txtColor[i]->selectAll();
+        return;
     }
-    RebuildSample();
     m_lColor = picColorSample->BackColor();
     PrintBlackAs::Write(m_lColor);
     m_bOK = true;

@@ -4,7 +4,6 @@
 #include "platform/paint/Color.h"
 
 #include <QDialog>
-#include <QStringList>
 
 #include <array>
 
@@ -46,10 +45,7 @@ private:
     void Form_Initialize();
     /// False for an entry that is no part of a colour.
     bool txtColor_LostFocus(int Index);
-    void FillBoxes(Color color);
-    void ShowSample(Color color);
     void RebuildSample();
-    QStringList BoxTexts() const;
 
     QLabel* lblExplain = nullptr;
     std::array<QLineEdit*, kBoxes> txtColor{};
@@ -58,7 +54,5 @@ private:
     QPushButton* cmdOK = nullptr;
     QPushButton* cmdCancel = nullptr;
     Color m_lColor;
-    /// What stood in the boxes when the sample took its colour.
-    QStringList m_saShown;
     bool m_bOK = false;
 };
