@@ -307,6 +307,61 @@ TEST_F(GeometryTest, ComputeSizeFillsTheBoxAndNeverPassesItsWidth) {
     EXPECT_GT(WidthOf(lines[1], h + 2, CLng((h + 2) / 2.0)), 100);
 }
 
+// Letters that are all equally wide, half their height: worked out by hand.
+TEST_F(GeometryTest, ComputeSizeGivesTheLargestHeightThatFits) {
+    const struct {
+        QList<int> letters;
+        int maxWidth, maxHeight, height;
+    } rows[] = {
+        // 90 wide; 120 wide, and at 50 just 100; at 27 letters are 14 wide, which is 1 too much.
+        {{3}, 100, 60, 60},       {{4}, 100, 60, 50},    {{4}, 55, 60, 26},    {{7}, 100, 60, 28},
+        {{5}, 62, 60, 24},        {{3, 4}, 55, 80, 26},  {{4, 3}, 55, 80, 26}, {{1, 1}, 100, 81, 40},
+        {{1, 2, 1}, 100, 81, 27}, {{0, 0}, 100, 83, 42}, {{40}, 30, 50, 2},
+    };
+    for (const auto& row : rows) {
+        QStringList lines;
+        for (const int count : row.letters)
+            lines.append(QString(count, u'm'));
+        EXPECT_EQ(Pos_ComputeSize(QStringLiteral("Courier New"), false, false, lines, int(lines.size()), row.maxWidth,
+                                  row.maxHeight),
+                  row.height)
+            << row.letters.first() << " in " << row.maxWidth;
+    }
+}
+
+// A height of 40 starts with letters 20 wide, so that the text is 100 wide.
+TEST_F(GeometryTest, ComputeSetWidthMeetsItsLimit) {
+    const struct {
+        int limit, width;
+    } rows[] = {{100, 20}, {99, 19}, {60, 12}, {1, 0}, {500, 20}, {0, 0}, {-60, 12}, {-57, 11}, {-58, 12}, {-150, 30}};
+    for (const auto& row : rows) {
+        EXPECT_EQ(
+            Pos_ComputeSetWidth(QStringLiteral("Courier New"), false, false, 40, QStringLiteral("mmmmm"), row.limit),
+            row.width)
+            << row.limit;
+    }
+}
+
+// At letters 20 wide on average the words are 50, 58, 83, 69 and 78 wide.
+TEST_F(GeometryTest, TextsAreMeasuredInTheirTypefaceWeightAndSlant) {
+    const struct {
+        const char* family;
+        bool bold, italic;
+        const char* word;
+        int width, height;
+    } rows[] = {
+        {"Arial", false, false, "iiiii", 80, 63},           {"Arial", true, false, "iiiii", 69, 54},
+        {"Times New Roman", false, false, "fffff", 48, 38}, {"Times New Roman", false, true, "fffff", 58, 46},
+        {"Times New Roman", true, false, "fffff", 51, 41},
+    };
+    for (const auto& row : rows) {
+        const QString family = QString::fromLatin1(row.family);
+        const QString word = QString::fromLatin1(row.word);
+        EXPECT_EQ(Pos_ComputeSetWidth(family, row.bold, row.italic, 40, word, -200), row.width) << row.width;
+        EXPECT_EQ(Pos_ComputeSize(family, row.bold, row.italic, {word}, 1, 80, 100), row.height) << row.width;
+    }
+}
+
 TEST_F(GeometryTest, ComputeSetWidthOfNoHeightIsZeroAndOfNoWidthIsNatural) {
     EXPECT_EQ(Pos_ComputeSetWidth(arial, false, false, 0, QStringLiteral("x"), 10), 0);
     EXPECT_EQ(Pos_ComputeSetWidth(arial, false, false, 40, QString(), -10), 20);

@@ -7,6 +7,8 @@
 
 #include <QFile>
 
+#include <cmath>
+
 using namespace basPosit;
 
 namespace {
@@ -249,6 +251,40 @@ TEST_F(RentsTest, SubtitleMayBeAFifthLongerThanItsLimit) {
         SetSpecialText(2, QString(row.count, u'n'));
         EXPECT_FLOAT_EQ(m_CenterText(2).fFontWidth, float(row.width) / 2500) << row.count;
     }
+}
+
+// In a typeface whose letters are all equally wide. Of 500 units the two words of the title box may take 99 and 136;
+// they are 21 high, so that their letters start 10 wide. Of 2500 the subtitle may take 1078.
+TEST_F(RentsTest, SpecialTextsTakeTheWidthThatIsTheirs) {
+    PosInit();
+    for (int i = 0; i < 3; ++i)
+        m_CenterLook(i).sFamily = QStringLiteral("Courier New");
+    const struct {
+        int record, letters, width, of;
+    } rows[] = {{0, 2, 49, 500}, {0, 5, 19, 500},  {0, 20, 4, 500},   {1, 2, 68, 500},   {1, 8, 17, 500},
+                {1, 20, 6, 500}, {2, 1, 25, 2500}, {2, 43, 25, 2500}, {2, 44, 24, 2500}, {2, 100, 10, 2500}};
+    for (const auto& row : rows) {
+        SetSpecialText(row.record, QString(row.letters, u'm'));
+        EXPECT_FLOAT_EQ(m_CenterText(row.record).fFontWidth, float(row.width) / float(row.of))
+            << row.record << ": " << row.letters;
+    }
+}
+
+TEST_F(RentsTest, SpecialTextsAreMeasuredInWeightAndSlantOfTheirLook) {
+    PosInit();
+    CenterTextLook& look = m_CenterLook(0);
+    const auto widthOf = [&look](bool bold, bool italic) {
+        look.bBold = bold;
+        look.bItalic = italic;
+        SetSpecialText(0, QStringLiteral("fffff"));
+        return std::lround(m_CenterText(0).fFontWidth * 500);
+    };
+    // At letters 10 wide 31, 35 and, in the other typeface, 41 and 35.
+    EXPECT_EQ(widthOf(false, false), 31);
+    EXPECT_EQ(widthOf(true, false), 28);
+    look.sFamily = QStringLiteral("Times New Roman");
+    EXPECT_EQ(widthOf(false, false), 24);
+    EXPECT_EQ(widthOf(false, true), 28);
 }
 
 TEST_F(RentsTest, TitleWordAlwaysSpansItsPartOfTheBox) {
