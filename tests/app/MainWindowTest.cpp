@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The board as a door to the editors, zoom and scrolling, tool tips.
 #include "MainWindowFixture.h"
+#include "services/basMsgQueue.h"
 
 namespace {
 
@@ -251,11 +252,35 @@ TEST_F(MainWindowTest, WindowCantBeClosedWhileAPageIsPrinted) {
 }
 
 TEST_F(MainWindowTest, MessagesOfAPaintComeWhenItIsDone) {
-    basTAVL::g_oSpaces(5).Image.Let_FullPath(QString());
+    // Gone since they were chosen, which only a paint can find out.
+    QStringList gone;
+    for (const int i : {5, 12}) {
+        gone.append(WriteFile(QStringLiteral("games/photo%1.bmp").arg(i), "picture"));
+        basTAVL::g_oSpaces(i).Image.Let_FullPath(gone.last());
+        QFile::remove(gone.last());
+    }
+    // The last that a paint draws.
+    const auto inkOfLotto = [this] {
+        int ink = 0;
+        for (double y = 0.47; y < 0.53; y += 0.001)
+            ink += SeenAt(0.9, y) == Color::Rgb(224, 255, 224) ? 0 : 1;
+        return ink;
+    };
+    const int painted = inkOfLotto();
+    ASSERT_GT(painted, 0);
+    ASSERT_LT(painted, 60);
     desktop.boxes.clear();
+    desktop.onBox = [&] {
+        EXPECT_EQ(inkOfLotto(), painted);
+        EXPECT_FALSE(basMsgQueue::MsgQueue_IsOpen());
+    };
     window->View().Redraw();
-    EXPECT_TRUE(desktop.boxes.isEmpty());
+    ASSERT_EQ(desktop.boxes.size(), 2);
+    for (int i = 0; i < 2; ++i)
+        EXPECT_TRUE(desktop.boxes[i].sText.contains(gone[i])) << i;
     EXPECT_FALSE(QApplication::overrideCursor()) << "the hourglass is gone";
+    window->View().Redraw();
+    EXPECT_EQ(desktop.boxes.size(), 2) << "told once";
 }
 
 TEST_F(MainWindowTest, NothingIsClippedAtTheUsualSize) {
