@@ -2,8 +2,6 @@
 #include "windows/editors/HoldFocusBox.h"
 
 #include <QFocusEvent>
-#include <QGuiApplication>
-#include <QInputMethod>
 #include <QInputMethodEvent>
 
 namespace {
@@ -26,7 +24,7 @@ HoldFocusBox::HoldFocusBox(QWidget* parent) : QWidget(parent) {
 void HoldFocusBox::SetTyping(bool bTyping, const QRect& place) {
     m_bTyping = bTyping;
     m_place = place.translated(-pos());
-    if (hasFocus()) QGuiApplication::inputMethod()->update(Qt::ImEnabled | Qt::ImCursorRectangle);
+    if (hasFocus()) updateMicroFocus();
 }
 
 QVariant HoldFocusBox::inputMethodQuery(Qt::InputMethodQuery query) const {

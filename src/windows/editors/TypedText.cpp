@@ -2,9 +2,8 @@
 #include "windows/editors/TypedText.h"
 
 #include "platform/text/TextColumns.h"
+#include "windowing/Clipboard.h"
 
-#include <QClipboard>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QKeySequence>
 
@@ -93,17 +92,16 @@ KeyResult Feed(QStringList& sTextLines, TextSelection& selection, const QString&
 }
 
 KeyResult Take(const Key& key, QStringList& sTextLines, TextSelection& selection) {
-    QClipboard& clipboard = *QGuiApplication::clipboard();
     switch (key.kind) {
         case Key::Kind::Down:
             return Apply(sTextLines, selection, key.iKeyCode);
         case Key::Kind::Press:
             return Feed(sTextLines, selection, key.sText);
         case Key::Kind::Paste:
-            return Feed(sTextLines, selection, clipboard.text());
+            return Feed(sTextLines, selection, Clipboard::Text());
         case Key::Kind::Copy:
         case Key::Kind::Cut:
-            if (selection.HasText()) clipboard.setText(Selected(sTextLines, selection));
+            if (selection.HasText()) Clipboard::SetText(Selected(sTextLines, selection));
             return key.kind == Key::Kind::Cut ? Remove(sTextLines, selection) : KeyResult::Nothing;
         case Key::Kind::None:
             break;

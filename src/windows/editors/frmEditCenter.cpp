@@ -5,18 +5,18 @@
 #include "drawing/basDraw.h"
 #include "game/Session.h"
 #include "platform/paint/Units.h"
+#include "platform/text/NewLine.h"
 #include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
 #include "services/Desktop.h"
 #include "windowing/ButtonKeys.h"
+#include "windowing/Clipboard.h"
 #include "windowing/PictureBox.h"
 #include "windowing/Screen.h"
 #include "windowing/WidgetLook.h"
 #include "windows/editors/HoldFocusBox.h"
 #include "windows/editors/TipLabel.h"
 
-#include <QClipboard>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
@@ -24,8 +24,6 @@
 using basEditTextArray::KeyResult;
 
 namespace {
-
-const QString kNewLine = QStringLiteral("\r\n");
 
 struct TwipsRect {
     int iLeft;
@@ -229,7 +227,7 @@ bool frmEditCenter::HandleKey(const QKeyEvent& event) {
     if (key.kind == TypedText::Key::Kind::Press) {
         Form_KeyPress(key.sText);
     } else if (key.kind == TypedText::Key::Kind::Paste) {
-        Form_KeyPress(QGuiApplication::clipboard()->text());
+        Form_KeyPress(Clipboard::Text());
     } else {
         Form_KeyDown(key);
     }

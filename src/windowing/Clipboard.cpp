@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#include "windowing/Clipboard.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+
+namespace Clipboard {
+
+QString Text() { return QGuiApplication::clipboard()->text(); }
+
+void SetText(const QString& sText) { QGuiApplication::clipboard()->setText(sText); }
+
+} // namespace Clipboard

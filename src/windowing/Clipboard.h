@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+/// What the desktop holds between a copy and a paste.
+namespace Clipboard {
+
+/// Empty when it holds something else.
+QString Text();
+void SetText(const QString& sText);
+
+} // namespace Clipboard
