@@ -11,6 +11,7 @@
 #include "platform/pictures/LoadPicture.h"
 #include "platform/pictures/PictureHolder.h"
 #include "platform/pictures/PictureMask.h"
+#include "platform/text/NewLine.h"
 #include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
 #include "services/basPath.h"
@@ -43,8 +44,6 @@ constexpr double kDashInches = 0.05;
 constexpr double kPhotoDpi = 300;
 // Dots of the oval's mask to one of the picture, across and down, which make its edge smooth.
 constexpr int kMaskDots = 4;
-
-const QString kNewLine = QStringLiteral("\r\n");
 
 QString BadBitmapText(const QString& sPath, const QString& sError) {
     return QStringLiteral("Unable to process the bitmap named: ") + sPath + kNewLine +

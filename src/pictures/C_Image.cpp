@@ -4,6 +4,7 @@
 #include "pictures/PaintPicture.h"
 #include "pictures/PictureMiddle.h"
 #include "pictures/PicturePlaces.h"
+#include "platform/text/NewLine.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
 #include "services/Desktop.h"
@@ -13,8 +14,6 @@
 namespace {
 
 using Fault = TellOnce::Fault;
-
-const QString kNewLine = QStringLiteral("\r\n");
 
 } // namespace
 

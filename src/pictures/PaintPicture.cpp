@@ -8,6 +8,7 @@
 #include "platform/files/Folders.h"
 #include "platform/pictures/LoadPicture.h"
 #include "platform/pictures/PictureHolder.h"
+#include "platform/text/NewLine.h"
 #include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
 #include "services/basMsgQueue.h"
@@ -23,7 +24,6 @@ namespace {
 
 using Fault = TellOnce::Fault;
 
-const QString kNewLine = QStringLiteral("\r\n");
 const QString kEmptyArea = QStringLiteral("The area will be left empty.");
 
 // The copy of a line drawing in another colour; null when there can't be one.

@@ -4,6 +4,7 @@
 #include "pictures/PaintPicture.h"
 #include "pictures/PictureMiddle.h"
 #include "platform/pictures/LoadPicture.h"
+#include "platform/text/NewLine.h"
 #include "services/basErrLog.h"
 #include "services/basPath.h"
 #include "services/Desktop.h"
@@ -14,8 +15,6 @@ namespace {
 
 using Fault = TellOnce::Fault;
 using Kind = PictureOwner::Kind;
-
-const QString kNewLine = QStringLiteral("\r\n");
 
 ThumbnailMaker::Creator& Creator() {
     static ThumbnailMaker::Creator creator = nullptr;

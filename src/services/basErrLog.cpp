@@ -2,6 +2,7 @@
 #include "services/basErrLog.h"
 
 #include "platform/files/Files.h"
+#include "platform/text/NewLine.h"
 #include "services/basPath.h"
 #include "services/Desktop.h"
 #include "services/ProgramSettings.h"
@@ -29,7 +30,6 @@ State& Module() {
     return state;
 }
 
-const QString kNewLine = QStringLiteral("\r\n");
 const QString kStars = QStringLiteral("**********");
 
 QString TimeStampLine() {

@@ -4,6 +4,7 @@
 #include "document/basTAVL.h"
 #include "game/Session.h"
 #include "pictures/C_Image.h"
+#include "platform/text/NewLine.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
 #include "windowing/basCommon_forms.h"
@@ -20,7 +21,6 @@
 
 namespace {
 
-const QString kNewLine = QStringLiteral("\r\n");
 constexpr double kSquare = 1.0;
 
 } // namespace

@@ -8,6 +8,7 @@
 #include "drawing/basDraw.h"
 #include "game/Session.h"
 #include "platform/paint/Units.h"
+#include "platform/text/NewLine.h"
 #include "platform/text/Numbers.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
@@ -26,8 +27,6 @@
 #include <QTextCursor>
 
 namespace {
-
-const QString kNewLine = QStringLiteral("\r\n");
 
 // Place of the card in the window, and the same distance on its other sides.
 constexpr int kCardLeftTwips = 240;

@@ -4,6 +4,7 @@
 #include "document/basTAVL.h"
 #include "document/Subscript.h"
 #include "game/Session.h"
+#include "platform/text/NewLine.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
 #include "windowing/basCommon_forms.h"
@@ -22,7 +23,6 @@
 
 namespace {
 
-const QString kNewLine = QStringLiteral("\r\n");
 constexpr double kSquare = 1.0;
 constexpr bool kRound = true;
 constexpr const char* kIndexProperty = "Tag";

@@ -9,6 +9,7 @@
 #include "platform/files/FolderListing.h"
 #include "platform/files/Folders.h"
 #include "platform/pictures/PreviewLoader.h"
+#include "platform/text/NewLine.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
 #include "services/Desktop.h"
@@ -26,8 +27,6 @@
 #include <QTreeWidget>
 
 namespace {
-
-const QString kNewLine = QStringLiteral("\r\n");
 
 // A picture that takes longer than this (milliseconds) is waited for with the list free to move on.
 constexpr int kPreviewPatience = 60;

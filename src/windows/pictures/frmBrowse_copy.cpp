@@ -2,14 +2,13 @@
 // Pictures from disks that may go away are kept in the My Games directory.
 #include "platform/files/Files.h"
 #include "platform/files/Folders.h"
+#include "platform/text/NewLine.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
 #include "services/Desktop.h"
 #include "windows/pictures/frmBrowse.h"
 
 namespace {
-
-const QString kNewLine = QStringLiteral("\r\n");
 
 // What is left free once the half-made copy is gone again tells why there was no room for it.
 bool IsDiskFull(const QString& sSource, const QString& sFolder) {

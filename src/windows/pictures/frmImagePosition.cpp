@@ -4,6 +4,7 @@
 #include "pictures/PaintPicture.h"
 #include "platform/paint/Units.h"
 #include "platform/pictures/LoadPicture.h"
+#include "platform/text/NewLine.h"
 #include "platform/text/Numbers.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
@@ -22,7 +23,6 @@
 
 namespace {
 
-const QString kNewLine = QStringLiteral("\r\n");
 // Preview pixels that an arrow key moves the picture, and with Ctrl.
 constexpr int kArrowStep = 10;
 constexpr int kFineArrowStep = 1;
