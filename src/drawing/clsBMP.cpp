@@ -3,6 +3,7 @@
 
 #include "platform/files/Files.h"
 #include "platform/paint/DeviceContext.h"
+#include "platform/text/NewLine.h"
 #include "services/basErrLog.h"
 #include "services/basMsgQueue.h"
 #include "services/basPath.h"
@@ -13,7 +14,6 @@
 
 namespace {
 
-const QString kNewLine = QStringLiteral("\r\n");
 const QString kGap = kNewLine + kNewLine;
 constexpr int kDotsPerMetre = 3780; // 96 an inch
 constexpr int kTrueColor = 24;
@@ -87,12 +87,12 @@ void clsBMP::CloseFile() {
     if (!written) ErrRaiseRefused(m_sFullPathToBmpFile, error);
 }
 
-bool clsBMP::WriteImage(const QImage& image) {
-    if (!OpenFileAndSaveHeaders(image.width(), image.height(), kTrueColor, Color::White(), Color::Black()))
+bool clsBMP::WriteImage(const Pixels& pixels) {
+    if (!OpenFileAndSaveHeaders(pixels.Width(), pixels.Height(), kTrueColor, Color::White(), Color::Black()))
         return false;
-    QByteArray row(basBMP::RowBytes24(image.width()), '\0');
-    for (int y = image.height() - 1; y >= 0; --y) {
-        basBMP::PackRow24({reinterpret_cast<const QRgb*>(image.constScanLine(y)), size_t(image.width())}, row);
+    QByteArray row(basBMP::RowBytes24(pixels.Width()), '\0');
+    for (int y = pixels.Height() - 1; y >= 0; --y) {
+        basBMP::PackRow24(pixels.Row(y), row);
         m_file.PutBytes(row);
     }
     CloseFile();

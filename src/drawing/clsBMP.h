@@ -4,13 +4,13 @@
 #include "drawing/basBMP.h"
 #include "platform/files/BinaryFile.h"
 #include "platform/paint/Color.h"
-#include "platform/paint/Picture.h"
+#include "platform/paint/Pixels.h"
 
 #include <QString>
 #include <QStringList>
 
-class clsRenderDestination;
 class DeviceContext;
+class Surface;
 
 /// Writes bitmap files from whatever stands on a device context, or from text; short-lived, one for each
 /// file. Unlike those of thumbnails, the sizes in its heads are true.
@@ -20,8 +20,8 @@ public:
     static constexpr QSize kOval{164, 190};
 
     /// The destination that the file is made for; kept for the caller.
-    void Init(clsRenderDestination* objDest) { m_oDest = objDest; }
-    clsRenderDestination* Destination() const { return m_oDest; }
+    void Init(Surface* objDest) { m_oDest = objDest; }
+    Surface* Destination() const { return m_oDest; }
 
     Color BackColor() const { return m_lBackColor; }
     void Let_BackColor(Color lColor) { Assign(m_lBackColor, lColor); }
@@ -82,7 +82,7 @@ public:
     ::Picture GetEllipticalWhite(QSize size = kOval);
 
     /// A picture with white outside the inscribed ellipse; in greys with bGray.
-    static QImage CutElliptical(const QImage& image, bool bGray);
+    static Pixels CutElliptical(const Pixels& pixels, bool bGray);
 
 private:
     template <typename T>
@@ -91,7 +91,7 @@ private:
         member = value;
         m_bChanged = true;
     }
-    bool WriteImage(const QImage& image);
+    bool WriteImage(const Pixels& pixels);
     void CloseFile();
     int FitText(const QStringList& lines, int& lLine) const;
     void PaintText(DeviceContext& context, const QStringList& lines, int lLine, int lWidth, Color lFore,
@@ -100,7 +100,7 @@ private:
     bool IsCopyUsable(const QString& sCopy, const QString& sImagePath);
     bool MakeEllipticalCopy(const QString& sCopy, const QString& sImagePath, bool bTold, bool bGray);
 
-    clsRenderDestination* m_oDest = nullptr;
+    Surface* m_oDest = nullptr;
     Color m_lBackColor = Color::White();
     Color m_lForeColor;
     int m_lBitsPerPixel = 24;

@@ -3,6 +3,7 @@
 #include "platform/files/Files.h"
 #include "platform/paint/Surface.h"
 #include "platform/pictures/LoadPicture.h"
+#include "platform/text/NewLine.h"
 #include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
 #include "services/basMsgQueue.h"
@@ -14,7 +15,6 @@
 
 namespace {
 
-const QString kNewLine = QStringLiteral("\r\n");
 const QString kGap = kNewLine + kNewLine;
 constexpr QRgb kWhite = 0xFFFFFFFF;
 constexpr QRgb kBlack = 0xFF000000;
@@ -34,15 +34,13 @@ QRgb Grey(QRgb color) {
     return qRgb(mean, mean, mean);
 }
 
-QRgb* RowOf(QImage& image, int y) { return reinterpret_cast<QRgb*>(image.scanLine(y)); }
-
-QImage WhiteEllipse(QSize size) {
-    QImage mask(size, QImage::Format_RGB32);
-    for (int y = 0; y < mask.height(); ++y) {
-        const EllipseSpan span = EllipseSpan::At(y, mask.width(), mask.height());
-        QRgb* row = RowOf(mask, y);
-        std::fill(row, row + mask.width(), kBlack);
-        std::fill(row + span.iFirst, row + span.iStop, kWhite);
+Pixels WhiteEllipse(QSize size) {
+    Pixels mask(size);
+    for (int y = 0; y < mask.Height(); ++y) {
+        const EllipseSpan span = EllipseSpan::At(y, mask.Width(), mask.Height());
+        const std::span<QRgb> row = mask.WritableRow(y);
+        std::fill(row.begin(), row.end(), kBlack);
+        std::fill(row.begin() + span.iFirst, row.begin() + span.iStop, kWhite);
     }
     return mask;
 }
@@ -57,14 +55,16 @@ EllipseSpan EllipseSpan::At(int y, int lW, int lH) {
     return {CLng(a - dx), CLng(a + dx)};
 }
 
-QImage clsBMP::CutElliptical(const QImage& image, bool bGray) {
-    QImage cut = image.convertToFormat(QImage::Format_RGB32);
-    for (int y = 0; y < cut.height(); ++y) {
-        const EllipseSpan span = EllipseSpan::At(y, cut.width(), cut.height());
-        QRgb* row = RowOf(cut, y);
-        std::fill(row, row + span.iFirst, kWhite);
-        std::fill(row + span.iStop, row + cut.width(), kWhite);
-        if (bGray) std::transform(row + span.iFirst, row + span.iStop, row + span.iFirst, Grey);
+Pixels clsBMP::CutElliptical(const Pixels& pixels, bool bGray) {
+    Pixels cut = pixels;
+    for (int y = 0; y < cut.Height(); ++y) {
+        const EllipseSpan span = EllipseSpan::At(y, cut.Width(), cut.Height());
+        const std::span<QRgb> row = cut.WritableRow(y);
+        const auto first = row.begin() + span.iFirst;
+        const auto stop = row.begin() + span.iStop;
+        std::fill(row.begin(), first, kWhite);
+        std::fill(stop, row.end(), kWhite);
+        if (bGray) std::transform(first, stop, first, Grey);
     }
     return cut;
 }
@@ -76,7 +76,7 @@ Picture clsBMP::GetEllipticalWhite(QSize size) try {
         WriteImage(WhiteEllipse(kOval));
     }
     QString error;
-    m_oPicture = size == kOval ? LoadPicture(sMask, error) : ::Picture(WhiteEllipse(size));
+    m_oPicture = size == kOval ? LoadPicture(sMask, error) : WhiteEllipse(size).AsPicture();
     return m_oPicture;
 } catch (...) {
     ErrTail("clsBMP!", "GetEllipticalWhite", size.width(), size.height());
@@ -108,7 +108,7 @@ bool clsBMP::MakeEllipticalCopy(const QString& sCopy, const QString& sImagePath,
     ScratchForm form(kOval);
     form.PaintPicture(picture, 0, 0, kOval.width(), kOval.height());
     Let_FullPathToBmpFile(sCopy);
-    return WriteImage(CutElliptical(form.Image(), bGray));
+    return WriteImage(CutElliptical(Pixels(form.Image()), bGray));
 }
 
 Picture clsBMP::GetEllipticalPicture(const QString& sImagePath, const QString& sImageBadPath, bool bGray) try {

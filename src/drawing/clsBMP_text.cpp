@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "drawing/basDraw.h"
 #include "drawing/clsBMP.h"
-#include "platform/paint/Recording.h"
+#include "platform/paint/RecordingForm.h"
 #include "platform/paint/Surface.h"
 #include "platform/pictures/LoadPicture.h"
 #include "platform/text/Numbers.h"
@@ -95,13 +95,9 @@ bool clsBMP::CreateFileHoldingText(const QString& sText, Color lForeColor, Color
     WriteText(form.hDC(), size, lForeColor, lBackColor);
     CloseFile();
 
-    const auto recording = std::make_shared<Recording>(size, kScreenDotsPerInch);
-    {
-        QPainter painter(recording.get());
-        DeviceContext context(painter);
-        PaintText(context, lines, lLine, lW, lForeColor, lBackColor);
-    }
-    KeepRecording(m_sFullPathToBmpFile, recording);
+    RecordingForm recording(size, kScreenDotsPerInch);
+    PaintText(recording.hDC(), lines, lLine, lW, lForeColor, lBackColor);
+    KeepRecording(m_sFullPathToBmpFile, recording.Take());
     return true;
 } catch (...) {
     ErrTail("clsBMP!", "CreateFileHoldingText", sText, lForeColor, lBackColor);

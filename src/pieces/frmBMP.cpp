@@ -31,15 +31,11 @@ quint32 ClaimedSize(int lWidth, int lHeight) {
     return quint32(kTimes * basBMP::RowBytes24(lWidth) * lHeight);
 }
 
-std::span<const QRgb> RowOf(const QImage& image, int y) {
-    return {reinterpret_cast<const QRgb*>(image.constScanLine(y)), size_t(image.width())};
-}
-
 // A line drawing's paper takes the colour of the board.
-void ReplaceWhite(QImage& image, QRgb by) {
-    for (int y = 0; y < image.height(); ++y) {
-        QRgb* row = reinterpret_cast<QRgb*>(image.scanLine(y));
-        std::replace(row, row + image.width(), qRgb(255, 255, 255), by);
+void ReplaceWhite(Pixels& pixels, QRgb by) {
+    for (int y = 0; y < pixels.Height(); ++y) {
+        const std::span<QRgb> row = pixels.WritableRow(y);
+        std::replace(row.begin(), row.end(), qRgb(255, 255, 255), by);
     }
 }
 
@@ -63,28 +59,28 @@ void frmBMP::InstallAsThumbnailMaker() {
     ThumbnailMaker::Install([]() -> ThumbnailMaker& { return Instance(); });
 }
 
-QImage frmBMP::Drawn(const OwnedPicture& oImage, QSize size, Color backColor) {
+Pixels frmBMP::Drawn(const OwnedPicture& oImage, QSize size, Color backColor) {
     ScratchForm form(size);
     form.SetBackColor(backColor);
     if (oImage.ref.IsMetafile()) {
         DrawMetafile(oImage.ref, oImage.Told(), form.hDC(), QRect(QPoint(), size));
-        return form.Image();
+        return Pixels(form.Image());
     }
     PaintZoomed(oImage.ref, oImage.Told(), form, picOriginal, ScaleModeKind::Pixels, QRectF(QPointF(), size),
                 Color::None());
     picOriginal.Picture = Picture();
-    return form.Image();
+    return Pixels(form.Image());
 }
 
-QImage frmBMP::DrawnSquare(const OwnedPicture& oImage, int lSide) {
-    QImage square = Drawn(oImage, QSize(lSide, lSide), basTAVL::g_lMagicColor());
+Pixels frmBMP::DrawnSquare(const OwnedPicture& oImage, int lSide) {
+    Pixels square = Drawn(oImage, QSize(lSide, lSide), basTAVL::g_lMagicColor());
     if (basBMP::IsMonochromeBMP(oImage.ref.sPath)) ReplaceWhite(square, AsRgb(basTAVL::g_lMagicColor()));
     return square;
 }
 
-QImage frmBMP::Rotated(const OwnedPicture& oImage, int lSide) {
+Pixels frmBMP::Rotated(const OwnedPicture& oImage, int lSide) {
     const int orient = oImage.owner.Orient();
-    const QImage square = DrawnSquare(oImage, lSide);
+    const Pixels square = DrawnSquare(oImage, lSide);
     return orient < kFirstCornerOrient
                ? Turning::ForSide(square, orient)
                : Turning::ForCorner(square, orient - kFirstCornerOrient, basTAVL::g_lMagicColor());
@@ -92,7 +88,7 @@ QImage frmBMP::Rotated(const OwnedPicture& oImage, int lSide) {
 
 void frmBMP::CreateThumbRotatedTo90(const OwnedPicture& oImage) try {
     if (!IsThereOrTold(oImage)) return;
-    const QImage square = DrawnSquare(oImage, ThumbnailStore::LongerSideOf(oImage.owner.kind));
+    const Pixels square = DrawnSquare(oImage, ThumbnailStore::LongerSideOf(oImage.owner.kind));
     DeleteThumb(ThumbnailStore::PathOf(oImage.owner));
     WriteThumb(ThumbnailStore::PathOf(oImage.owner), Turning::ForSide(square, oImage.owner.Orient()));
 } catch (...) {
@@ -101,7 +97,7 @@ void frmBMP::CreateThumbRotatedTo90(const OwnedPicture& oImage) try {
 
 void frmBMP::CreateThumbRotatedTo45(const OwnedPicture& oImage) try {
     if (!IsThereOrTold(oImage)) return;
-    const QImage square = DrawnSquare(oImage, ThumbnailStore::LongerSideOf(oImage.owner.kind));
+    const Pixels square = DrawnSquare(oImage, ThumbnailStore::LongerSideOf(oImage.owner.kind));
     DeleteThumb(ThumbnailStore::PathOf(oImage.owner));
     WriteThumb(ThumbnailStore::PathOf(oImage.owner),
                Turning::ForCorner(square, oImage.owner.Orient() - kFirstCornerOrient, basTAVL::g_lMagicColor()));
@@ -114,7 +110,7 @@ void frmBMP::CreateThumbElliptical(const OwnedPicture& oImage, bool bGray) try {
     const PictureOwner& owner = oImage.owner;
     const bool money = owner.kind == PictureOwner::Kind::Money;
     const Color back = money ? basTAVL::g_oMoney(owner.iNumber).BackColor : basTAVL::g_lMagicColor();
-    const QImage drawn = Drawn(oImage, ThumbnailStore::SizeOf(owner.kind), back);
+    const Pixels drawn = Drawn(oImage, ThumbnailStore::SizeOf(owner.kind), back);
     DeleteThumb(ThumbnailStore::PathOf(oImage.owner));
     WriteThumb(ThumbnailStore::PathOf(oImage.owner), clsBMP::CutElliptical(drawn, bGray));
 } catch (...) {
@@ -126,7 +122,7 @@ Picture frmBMP::RenderRotated(const OwnedPicture& oImage, int lSide) {
     if (stamp == Files::Stamp()) return {};
     const auto kept = std::find_if(m_renderings.begin(), m_renderings.end(), [&](const Rendering& rendering) {
         return rendering.picture == oImage.ref && rendering.stamp == stamp &&
-               rendering.iOrient == oImage.owner.Orient() && rendering.image.width() == lSide;
+               rendering.iOrient == oImage.owner.Orient() && rendering.pixels.Width() == lSide;
     });
     if (kept != m_renderings.end()) {
         m_renderings.splice(m_renderings.begin(), m_renderings, kept);
@@ -134,7 +130,7 @@ Picture frmBMP::RenderRotated(const OwnedPicture& oImage, int lSide) {
         m_renderings.push_front({oImage.ref, stamp, oImage.owner.Orient(), Rotated(oImage, lSide)});
         DropOldRenderings();
     }
-    return Picture(m_renderings.front().image);
+    return m_renderings.front().pixels.AsPicture();
 }
 
 // Room for the 32 pictures of a board as large as a screen; at least the newest stays.
@@ -142,7 +138,7 @@ void frmBMP::DropOldRenderings() {
     constexpr qint64 kMaxBytes = qint64(48) << 20;
     qint64 bytes = 0;
     for (auto rendering = m_renderings.begin(); rendering != m_renderings.end();) {
-        bytes += rendering->image.sizeInBytes();
+        bytes += rendering->pixels.SizeInBytes();
         const bool drops = bytes > kMaxBytes && rendering != m_renderings.begin();
         rendering = drops ? m_renderings.erase(rendering) : std::next(rendering);
     }
@@ -176,15 +172,15 @@ void frmBMP::WriteInfoHead(BinaryFile& file, int lWidth, int lHeight) {
 
 // Not through a file beside it and a rename: it can be made anew at any time, and a whole board of them
 // shall not wait for the disk.
-void frmBMP::WriteThumb(const QString& sThumb, const QImage& image) {
+void frmBMP::WriteThumb(const QString& sThumb, const Pixels& pixels) {
     BinaryFile file;
     QString error;
     if (!file.OpenEmpty(sThumb, error)) ErrRaiseRefused(sThumb, error);
-    WriteFileHead(file, image.width(), image.height());
-    WriteInfoHead(file, image.width(), image.height());
-    QByteArray row(basBMP::RowBytes24(image.width()), '\0');
-    for (int y = image.height() - 1; y >= 0; --y) {
-        basBMP::PackRow24(RowOf(image, y), row);
+    WriteFileHead(file, pixels.Width(), pixels.Height());
+    WriteInfoHead(file, pixels.Width(), pixels.Height());
+    QByteArray row(basBMP::RowBytes24(pixels.Width()), '\0');
+    for (int y = pixels.Height() - 1; y >= 0; --y) {
+        basBMP::PackRow24(pixels.Row(y), row);
         file.PutBytes(row);
     }
     if (!file.WasWritten(error)) ErrRaiseRefused(sThumb, error);

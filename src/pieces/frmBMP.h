@@ -3,6 +3,7 @@
 
 #include "pictures/ThumbnailStore.h"
 #include "platform/files/Files.h"
+#include "platform/paint/Pixels.h"
 #include "platform/pictures/PictureHolder.h"
 
 #include <functional>
@@ -64,21 +65,21 @@ private:
         PictureRef picture;
         Files::Stamp stamp;
         int iOrient;
-        QImage image;
+        Pixels pixels;
     };
     using DrawPiece = std::function<void(Surface&)>;
 
     /// dblDPI of the picture's pixels make an inch of the piece.
     static bool WritePiece(const QString& sFullPathDest, QSize size, double dblDPI, const DrawPiece& draw);
 
-    QImage Drawn(const OwnedPicture& oImage, QSize size, Color backColor);
-    QImage DrawnSquare(const OwnedPicture& oImage, int lSide);
-    QImage Rotated(const OwnedPicture& oImage, int lSide);
+    Pixels Drawn(const OwnedPicture& oImage, QSize size, Color backColor);
+    Pixels DrawnSquare(const OwnedPicture& oImage, int lSide);
+    Pixels Rotated(const OwnedPicture& oImage, int lSide);
     void DropOldRenderings();
     static void DeleteThumb(const QString& sThumb);
     static void WriteFileHead(BinaryFile& file, int lWidth, int lHeight);
     static void WriteInfoHead(BinaryFile& file, int lWidth, int lHeight);
-    static void WriteThumb(const QString& sThumb, const QImage& image);
+    static void WriteThumb(const QString& sThumb, const Pixels& pixels);
 
     PictureHolder picOriginal;
     /// Used last stands first.

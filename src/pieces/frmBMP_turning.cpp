@@ -38,16 +38,16 @@ public:
         At(m - i, j) = sum;
         At(m - i, m - j) = sum;
     }
-    QImage Averages() {
-        QImage image(m_side, m_side, QImage::Format_RGB32);
+    Pixels Averages() {
+        Pixels pixels(QSize(m_side, m_side));
         for (int r = 0; r < m_side; ++r) {
-            QRgb* row = reinterpret_cast<QRgb*>(image.scanLine(r));
+            const std::span<QRgb> row = pixels.WritableRow(r);
             for (int c = 0; c < m_side; ++c) {
                 const Sum& sum = At(c, r);
-                row[c] = qRgb(Average(sum.red), Average(sum.green), Average(sum.blue));
+                row[size_t(c)] = qRgb(Average(sum.red), Average(sum.green), Average(sum.blue));
             }
         }
-        return image;
+        return pixels;
     }
 
 private:
@@ -71,8 +71,6 @@ void FillOutside(Lattice& lattice, int iSide, Color outside) {
         lattice.SetInCorners(i, half - 1 - i, outside, kSamples / 2);
     }
 }
-
-const QRgb* RowOf(const QImage& image, int y) { return reinterpret_cast<const QRgb*>(image.constScanLine(y)); }
 
 } // namespace
 
@@ -102,28 +100,28 @@ std::array<QPoint, 2> CellsOnCorner(int iSide, int iCorner, int x, int y) {
     return {QPoint(uv.x() / 2, uv.y() / 2), QPoint((uv.x() + 1) / 2, (uv.y() + 1) / 2)};
 }
 
-QImage ForSide(const QImage& square, int iBoardSide) {
-    const int side = square.width();
-    QImage turned(side, side, QImage::Format_RGB32);
+Pixels ForSide(const Pixels& square, int iBoardSide) {
+    const int side = square.Width();
+    Pixels turned(QSize(side, side));
     for (int y = 0; y < side; ++y) {
-        const QRgb* row = RowOf(square, y);
+        const std::span<const QRgb> row = square.Row(y);
         for (int x = 0; x < side; ++x) {
             const QPoint cell = CellOnSide(side, iBoardSide, x, y);
-            reinterpret_cast<QRgb*>(turned.scanLine(cell.y()))[cell.x()] = row[x];
+            turned.WritableRow(cell.y())[size_t(cell.x())] = row[size_t(x)];
         }
     }
     return turned;
 }
 
-QImage ForCorner(const QImage& square, int iCorner, Color outside) {
-    const int side = square.width();
+Pixels ForCorner(const Pixels& square, int iCorner, Color outside) {
+    const int side = square.Width();
     Lattice lattice(side);
     FillOutside(lattice, side, outside);
     for (int y = 0; y < side; ++y) {
-        const QRgb* row = RowOf(square, y);
+        const std::span<const QRgb> row = square.Row(y);
         for (int x = 0; x < side; ++x) {
             for (const QPoint cell : CellsOnCorner(side, iCorner, x, y))
-                lattice.Add(cell, row[x]);
+                lattice.Add(cell, row[size_t(x)]);
         }
     }
     return lattice.Averages();

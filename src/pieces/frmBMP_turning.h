@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/paint/Color.h"
-#include "platform/paint/Picture.h"
+#include "platform/paint/Pixels.h"
 
 #include <QPoint>
 
@@ -21,10 +21,10 @@ QPoint CellOnSide(int iSide, int iBoardSide, int x, int y);
 std::array<QPoint, 2> CellsOnCorner(int iSide, int iCorner, int x, int y);
 
 /// The square turned by right angles.
-QImage ForSide(const QImage& square, int iBoardSide);
+Pixels ForSide(const Pixels& square, int iBoardSide);
 
 /// The square turned by 45 degrees into the diamond inscribed in a square of the same size, with a colour
 /// outside. The side must be even. Each cell averages four samples, so there are no holes.
-QImage ForCorner(const QImage& square, int iCorner, Color outside);
+Pixels ForCorner(const Pixels& square, int iCorner, Color outside);
 
 } // namespace Turning

@@ -43,7 +43,7 @@ void clsRenderDestination::SingleLine(int iItem, const QString& sFontName, bool 
     m_oDest->ForeColor = lForeColor;
 
     clsBMP bmp;
-    bmp.Init(this);
+    bmp.Init(&Destination());
     bmp.Let_BitsPerPixel(24);
     bmp.SetFontInfo(sFontName, lFont, bBold, bItalic);
     bmp.Let_FullPathToBmpFile(TempFileOf(iItem));

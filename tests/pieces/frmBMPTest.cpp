@@ -200,8 +200,8 @@ TEST_F(frmBMPTest, DiamondHasNoHolesAtAnyEvenSize) {
         QImage square(side, side, QImage::Format_RGB32);
         square.fill(kRed);
         for (int corner = 0; corner < 4; ++corner) {
-            const QImage turned = Turning::ForCorner(square, corner, Color::Rgb(255, 0, 0));
-            EXPECT_EQ(turned, square) << side;
+            const Pixels turned = Turning::ForCorner(Pixels(square), corner, Color::Rgb(255, 0, 0));
+            EXPECT_EQ(turned.AsPicture().Image(), square) << side;
         }
     }
 }
