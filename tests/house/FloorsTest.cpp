@@ -34,6 +34,31 @@ QStringList OnNoFloor(const Sources& sources, const Floors& floors) {
     return wrong;
 }
 
+// "class X;" where X is only known on floors that the file may not include from.
+QStringList DeclaredFromAbove(const Sources& sources, const Floors& floors) {
+    static const QRegularExpression definition(QStringLiteral(R"(^(?:class|struct) (\w+)[^;{()]*\{)"),
+                                               QRegularExpression::MultilineOption);
+    static const QRegularExpression declaration(QStringLiteral(R"(^(?:class|struct) (\w+);)"),
+                                                QRegularExpression::MultilineOption);
+    QMap<QString, QSet<int>> homes;
+    for (auto file = sources.begin(); file != sources.end(); ++file) {
+        for (auto matches = definition.globalMatch(file.value()); matches.hasNext();)
+            homes[matches.next().captured(1)].insert(floors.Of(WithinTop(file.key())));
+    }
+    QStringList wrong;
+    for (auto file = sources.begin(); file != sources.end(); ++file) {
+        const int floor = floors.Of(WithinTop(file.key()));
+        for (auto matches = declaration.globalMatch(file.value()); matches.hasNext();) {
+            const QString name = matches.next().captured(1);
+            const QSet<int> known = homes.value(name);
+            const bool reached =
+                std::any_of(known.begin(), known.end(), [&](int home) { return floors.MayInclude(floor, home); });
+            if (!known.isEmpty() && !reached) wrong.append(file.key() + QStringLiteral(" -> ") + name);
+        }
+    }
+    return wrong;
+}
+
 // A test that names one header ahead of all others is a test of that one.
 QStringList OutOfPlace(const Sources& tests, const Floors& floors) {
     static const QRegularExpression first(QStringLiteral("\\A(?:(?!#include)[^\n]*\n)*#include \"([^\"]+)\"\n\n"));
@@ -106,6 +131,10 @@ TEST(House, NoFileStandsOutsideTheFloors) {
     EXPECT_EQ(OnNoFloor(Read({QStringLiteral("src")}), Floors::OfTheHouse()).join(u'\n').toStdString(), "");
 }
 
+TEST(House, NoFileDeclaresAClassOfAHigherFloor) {
+    EXPECT_EQ(DeclaredFromAbove(Read({QStringLiteral("src")}), Floors::OfTheHouse()).join(u'\n').toStdString(), "");
+}
+
 TEST(House, ATestStandsInTheFolderOfWhatItTests) {
     EXPECT_EQ(OutOfPlace(Read({QStringLiteral("tests")}), Floors::OfTheHouse()).join(u'\n').toStdString(), "");
 }
@@ -128,6 +157,14 @@ TEST(HouseCheck, FindsAnArrowThatRunsUp) {
     EXPECT_EQ(ArrowsUp(OneFile("src/high/er/Good.cpp", "#include \"low/A.h\"\n#include \"support/B.h\"\n"), kThree),
               QStringList());
     EXPECT_EQ(OnNoFloor(OneFile("src/attic/Lost.h", ""), kThree), QStringList{QStringLiteral("src/attic/Lost.h")});
+}
+
+TEST(HouseCheck, FindsAClassOfAHigherFloor) {
+    Sources sources = OneFile("src/low/Bad.h", "class Tall;\nclass Unknown;\n");
+    sources[QStringLiteral("src/high/er/Tall.h")] = QStringLiteral("class Tall : public Base {\n");
+    EXPECT_EQ(DeclaredFromAbove(sources, kThree), QStringList{QStringLiteral("src/low/Bad.h -> Tall")});
+    sources[QStringLiteral("src/low/Tall.h")] = QStringLiteral("struct Tall {\n");
+    EXPECT_EQ(DeclaredFromAbove(sources, kThree), QStringList()) << "one of that name stands low enough";
 }
 
 TEST(HouseCheck, FindsATestOutOfPlace) {
