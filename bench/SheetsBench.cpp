@@ -23,8 +23,7 @@ const BenchPhotos& Photos() {
 bool Print(PdfPrinter& printer, const Sheet& sheet) {
     printer.SetOrientation(sheet.OrientationOf(Kit::Eight));
     SheetJob job{printer};
-    if (sheet.prepare && !sheet.prepare(job, sheet.iWhich)) return false;
-    if (!sheet.paint(job, sheet.iWhich)) return false;
+    if (!sheet.Prepare(job) || !sheet.Print(job)) return false;
     printer.EndDoc();
     return true;
 }

@@ -133,7 +133,7 @@ bool PlaceCorners(SheetJob& job, clsRenderDestination& sheet) {
 
 bool StickerSpaceSheet(SheetJob& job, int iSide, bool bCorners, bool bTitle) try {
     clsRenderDestination sheet;
-    LabelSheet::Begin(job, sheet);
+    sheet.Init(job.printer, 1.0);
     PreparePictures(job, sheet, iSide, bCorners);
     bool made = PlaceSpaces(job, sheet, iSide);
     if (bTitle && !PlaceTitles(job, sheet)) return false;

@@ -113,7 +113,7 @@ bool StickerBoxAndTokenSheet(SheetJob& job) try {
     for (int i = 0; i < basTAVL::kTokens; ++i)
         basTAVL::g_oTokens(i).Image.GetThumbnail(false);
     clsRenderDestination sheet;
-    LabelSheet::Begin(job, sheet);
+    sheet.Init(job.printer, 1.0);
     job.Progress(10);
     if (!MakeBoxPictures(job)) return false;
     sheet.Legend(0.155F, 7.875F, QStringLiteral("none"),

@@ -28,7 +28,7 @@ InstructionNames NamesOfGame() {
 
 template <>
 bool PaintSheet<class RulesSheet>(SheetJob& job, int) {
-    // The sheet before this one may have left its own.
+    // Blocks of text leave the colour to their caller.
     job.printer.ForeColor = basTAVL::g_lPrintBlack();
     clsRenderDestination destination;
     destination.Init(job.printer, 1.0);

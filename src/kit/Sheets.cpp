@@ -261,3 +261,11 @@ QString Sheet::WhyLeftOut(Kit kit) const {
     if (paint && (otherKits == OtherKits::Same || HasLabelSheets(kit))) return {};
     return QStringLiteral("The label sheets of this kit are not part of this build.");
 }
+
+bool Sheet::Prepare(SheetJob& job) const { return !prepare || prepare(job, iWhich); }
+
+bool Sheet::Print(SheetJob& job) const {
+    // A font, colour or pen that another sheet has left must never show on this one.
+    job.printer.ForgetSettings();
+    return paint(job, iWhich);
+}

@@ -78,6 +78,12 @@ struct Sheet {
     QSizeF NeededInches(Kit kit) const;
     /// Why this build doesn't print it for a kit; empty when it does.
     QString WhyLeftOut(Kit kit) const;
+
+    /// Makes what all copies share. False, after it has said so, when nothing may be printed.
+    bool Prepare(SheetJob& job) const;
+    /// Paints one page, whatever sheet or copy was painted before it. False when something is missing from it,
+    /// which has then been told. Not for one that is left out.
+    bool Print(SheetJob& job) const;
 };
 
 /// The sheets that this build prints, a row each, in the order of the menus and of the whole kit.

@@ -191,8 +191,7 @@ bool PrintCommand::PrintOneSheet(Printer& printer, const Sheet& sheet, const QSt
     }
     printer.SetOrientation(sheet.OrientationOf(kit));
     SheetJob job{printer, [this, sTold](int iThousandths) { Progress(sTold, iThousandths); }};
-    if (sheet.prepare && !sheet.prepare(job, sheet.iWhich)) return false;
-    if (!sheet.paint(job, sheet.iWhich)) return false;
+    if (!sheet.Prepare(job) || !sheet.Print(job)) return false;
     printer.EndDoc();
     return true;
 }

@@ -25,11 +25,11 @@ protected:
     static QRectF NoteAt(int i) { return {i % 2 * 3.75 + 0.3, i / 2 * 2.0 + 0.125, 3.75, 2.0}; }
     bool PrintCopies(int nCopies) {
         return Print([&](SheetJob& job) {
-            EXPECT_TRUE(money500.prepare(job, money500.iWhich));
+            EXPECT_TRUE(money500.Prepare(job));
             EXPECT_TRUE(QFile::exists(PathOf(QStringLiteral("games/MoneyImage.bmp"))));
             job.nCopies = nCopies;
             for (job.iCopy = 0; job.iCopy < nCopies; ++job.iCopy) {
-                if (!money500.paint(job, money500.iWhich)) return false;
+                if (!money500.Print(job)) return false;
                 if (job.iCopy + 1 < nCopies) job.printer.EndDoc();
             }
             return true;

@@ -29,7 +29,7 @@ TEST_F(RulesSheetTest, RulesAreBlackWhateverWasPrintedBefore) {
     const Sheet& rules = *FindSheet(QStringLiteral("rules"));
     ASSERT_TRUE(Print([&](SheetJob& job) {
         job.printer.ForeColor = Color::Rgb(0, 255, 0);
-        return rules.paint(job, rules.iWhich);
+        return rules.Print(job);
     }));
     marks = ReadPageMarks(pdf, 1, kDotsPerInch);
     ASSERT_EQ(Texts(), QStringList{QStringLiteral("Rules")});

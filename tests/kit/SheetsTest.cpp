@@ -143,7 +143,7 @@ TEST_F(SheetsTest, ButtonsWithoutASheetPaintNothing) {
         if (!sheet.paint) continue;
         PicturePrinter page(60);
         SheetJob job{page};
-        EXPECT_TRUE(sheet.paint(job, sheet.iWhich)) << sheet.iButton;
+        EXPECT_TRUE(sheet.Print(job)) << sheet.iButton;
         EXPECT_EQ(page.Page().Image(), PicturePrinter(60).Page().Image()) << sheet.iButton;
     }
 }

@@ -40,6 +40,7 @@ struct PageMark {
     QImage picture;
 
     QRectF Box() const { return points.boundingRect(); }
+    bool operator==(const PageMark&) const = default;
 };
 
 /// What stands on a page of a PDF file that this program wrote, in the order in which it was painted. Read from the

@@ -16,7 +16,7 @@ protected:
         const Sheet& sheet = *FindSheet(QString::fromLatin1(sName));
         const bool made = Print([&](SheetJob& job) {
             job.printer.SetOrientation(sheet.OrientationOf(TheGame().kit));
-            return sheet.paint(job, sheet.iWhich);
+            return sheet.Print(job);
         });
         marks = ReadPageMarks(pdf, 1, kDotsPerInch);
         return made;

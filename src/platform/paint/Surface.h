@@ -13,12 +13,9 @@ class Picture;
 enum class ScaleModeKind { Twips = 1, Pixels = 3 };
 enum class LineForm { Line, Box, FilledBox };
 
-/// A drawing object: a window's picture box, the printer's page, a hidden form. It keeps its own font,
-/// colours and position, so that one routine draws on all of them. Coordinates are in its ScaleMode.
-class Surface {
+/// What drawing code sets before it draws, and what stays so until other code sets it anew.
+class DrawingSettings {
 public:
-    virtual ~Surface() = default;
-
     QString FontName = QStringLiteral("Arial");
     bool FontBold = false;
     bool FontItalic = false;
@@ -32,11 +29,23 @@ public:
     double CurrentY = 0;
 
     double FontSize() const { return m_fontSize; }
+    Color BackColor() const { return m_backColor; }
+
+protected:
+    double m_fontSize = 8.25;
+    Color m_backColor = Color::White();
+};
+
+/// A drawing object: a window's picture box, the printer's page, a hidden form. It keeps its own font,
+/// colours and position, so that one routine draws on all of them. Coordinates are in its ScaleMode.
+class Surface : public DrawingSettings {
+public:
+    virtual ~Surface() = default;
+
     /// Points at the surface's own dots an inch. Anything not above 0 raises the platform's complaint by
     /// leaving the size as it was and giving false.
     bool SetFontSize(double points);
 
-    Color BackColor() const { return m_backColor; }
     /// Clears the surface to the colour.
     void SetBackColor(Color color);
 
@@ -67,10 +76,6 @@ public:
 protected:
     double ToPixels(double value) const;
     double FromPixels(double pixels) const;
-
-private:
-    double m_fontSize = 8.25;
-    Color m_backColor = Color::White();
 };
 
 /// A hidden drawing surface of its own size, with a window's dots an inch.

@@ -19,6 +19,11 @@ Printer*& CurrentPrinter() {
 Printer* Printer::Install(Printer* printer) { return std::exchange(CurrentPrinter(), printer); }
 Printer* Printer::Current() { return CurrentPrinter(); }
 
+void Printer::ForgetSettings() {
+    static_cast<DrawingSettings&>(*this) = DrawingSettings();
+    ScaleMode = ScaleModeKind::Twips;
+}
+
 PdfPrinter::PdfPrinter(const QString& sPath, const QString& sTitle, QPageSize::PageSizeId paper, int dpi)
     : m_title(sTitle), m_dpi(dpi), m_paper(paper), m_file(std::make_unique<SaveFile>(sPath)) {}
 
@@ -57,10 +62,14 @@ void PdfPrinter::OpenPage() {
         m_painter = std::make_unique<QPainter>(m_writer.get());
         m_painter->setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
                                   QPainter::LosslessImageRendering);
-        m_context = std::make_unique<DeviceContext>(*m_painter);
     } else {
+        m_context.reset();
+        m_painter->restore();
         m_writer->newPage();
     }
+    // No page finds what was chosen for the one before.
+    m_painter->save();
+    m_context = std::make_unique<DeviceContext>(*m_painter);
 }
 
 DeviceContext& PdfPrinter::hDC() {
@@ -76,20 +85,22 @@ QSizeF PdfPrinter::PrintableInches() const {
 
 QSize PdfPrinter::SizeInPixels() const { return (PrintableInches() * m_dpi).toSize(); }
 
-void PdfPrinter::KillDoc() {
+void PdfPrinter::EndPainting() {
     m_context.reset();
+    if (m_painter) m_painter->restore();
     m_painter.reset();
     m_writer.reset();
-    m_file->Discard();
     m_pageOpen = false;
+}
+
+void PdfPrinter::KillDoc() {
+    EndPainting();
+    m_file->Discard();
 }
 
 bool PdfPrinter::Close(QString& sError) {
     if (m_pages == 0) hDC();
-    m_context.reset();
-    m_painter.reset();
-    m_writer.reset();
-    m_pageOpen = false;
+    EndPainting();
     if (!m_file->isOpen()) {
         sError = m_openError;
         return false;

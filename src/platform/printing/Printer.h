@@ -16,8 +16,10 @@ enum class PageOrientation { Portrait = 1, Landscape = 2 };
 /// twips, as drawing code sets the mode that it wants.
 class Printer : public Surface {
 public:
-    Printer() { ScaleMode = ScaleModeKind::Twips; }
+    Printer() { ForgetSettings(); }
     bool IsPrinter() const override { return true; }
+    /// All that drawing code has set is as it was at first.
+    void ForgetSettings();
     /// Holds from the next page on.
     virtual void SetOrientation(PageOrientation orientation) = 0;
     virtual PageOrientation Orientation() const = 0;
@@ -73,6 +75,7 @@ public:
 private:
     void OpenPage();
     bool OpenFile();
+    void EndPainting();
 
     QString m_title;
     int m_dpi;

@@ -148,7 +148,7 @@ bool frmTavlPrint::RunJob(const Sheet& sheet, const QString& sDone) {
     lblPiece->SetWholeText(QString());
     SheetJob job{printer, std::bind_front(&frmTavlPrint::Let_Progress, this),
                  std::bind_front(&frmTavlPrint::ShowPiece, this)};
-    if (sheet.prepare && !sheet.prepare(job, sheet.iWhich)) return false;
+    if (!sheet.Prepare(job)) return false;
     if (PrintCopies(job, sheet, dblFree, sDone)) Let_Progress(kHidden);
     return true;
 }
@@ -183,7 +183,7 @@ bool frmTavlPrint::PrintCopies(SheetJob& job, const Sheet& sheet, double dblFree
             return true;
         }
         // A sheet that isn't whole has said why, and what there is of it comes on paper.
-        sheet.paint(job, sheet.iWhich);
+        sheet.Print(job);
         MarkDone(sheet, sDone);
         CloseDocument(job.printer);
     }

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+// What a sheet leaves behind shows on no other: one may be added or taken away anywhere in the kit.
+#include "kit/Sheets.h"
+
+#include "game/GameFile.h"
+#include "game/Session.h"
+#include "platform/printing/PicturePrinter.h"
+#include "support/PageMarks.h"
+#include "support/SheetFixture.h"
+
+namespace {
+
+constexpr int kDotsPerInch = 600;
+
+// Leaves all behind that can be left on a page.
+bool PaintDisorderly(SheetJob& job, int) {
+    Printer& page = job.printer;
+    page.SetBackColor(Color::Rgb(250, 240, 0));
+    page.ScaleMode = ScaleModeKind::Pixels;
+    page.FontName = QStringLiteral("Times New Roman");
+    page.FontBold = true;
+    page.FontItalic = true;
+    page.FontTransparent = false;
+    page.SetFontSize(40);
+    page.ForeColor = Color::Rgb(0, 200, 0);
+    page.DrawWidth = 60;
+    page.DrawStyle = 2;
+    page.CurrentX = 300;
+    page.CurrentY = 300;
+    page.Print(QStringLiteral("Disorder"));
+    DeviceContext& context = page.hDC();
+    context.SelectPen(context.CreatePen(PenStyle::Dash, 40, Color::Rgb(0, 0, 200)));
+    context.SelectBrush(context.CreateSolidBrush(Color::Rgb(200, 0, 0)));
+    context.SelectFont(context.CreateFont({.sFamily = QStringLiteral("Arial"), .lHeight = 300, .bItalic = true}));
+    context.SetTextColor(Color::Rgb(200, 0, 200));
+    context.SetBkColor(Color::Rgb(0, 200, 200));
+    context.SetBkMode(BkMode::Opaque);
+    context.Painter().setOpacity(0.5);
+    context.SaveDC();
+    return true;
+}
+
+Sheet DisorderlySheet() {
+    Sheet sheet = *FindSheet(QStringLiteral("rules"));
+    sheet.paint = PaintDisorderly;
+    return sheet;
+}
+
+class SheetsAmongOthersTest : public SheetTest {
+protected:
+    SheetsAmongOthersTest() {
+        const QString data = QStringLiteral(TAVLORA_DATA_DIR);
+        Folders::SetProgramDirectory(data);
+        basPosit::PosSethDC(&session.MeasuringDevice());
+        basPosit::PosInit();
+        QString game = data + QStringLiteral("/Family_US.gam");
+        int result = -1;
+        GameFile::GameLoad(game, result);
+        EXPECT_EQ(result, 0);
+    }
+    // Pages of one document, painted as the programs paint theirs.
+    void PrintInto(const QString& sFile, std::span<const Sheet> sheets) const {
+        PdfPrinter printer(sFile, QStringLiteral("Sheets"));
+        for (const Sheet& sheet : sheets) {
+            printer.SetOrientation(sheet.OrientationOf(Kit::Eight));
+            SheetJob job{printer};
+            EXPECT_TRUE(sheet.Prepare(job) && sheet.Print(job)) << sheet.sName;
+            printer.EndDoc();
+        }
+        QString error;
+        EXPECT_TRUE(printer.Close(error)) << qPrintable(error);
+    }
+
+    Session session;
+};
+
+} // namespace
+
+TEST_F(SheetsAmongOthersTest, ASheetIsTheSameAfterAnyOtherAsOnItsOwn) {
+    std::vector<Sheet> all;
+    for (const Sheet& sheet : Sheets()) {
+        all.push_back(DisorderlySheet());
+        all.push_back(sheet);
+    }
+    PrintInto(pdf, all);
+    int page = 0;
+    for (const Sheet& sheet : Sheets()) {
+        const QString alone = PathOf(QStringLiteral("alone.pdf"));
+        PrintInto(alone, {&sheet, 1});
+        const QList<PageMark> marks = ReadPageMarks(pdf, page += 2, kDotsPerInch);
+        EXPECT_FALSE(marks.isEmpty()) << sheet.sName;
+        EXPECT_TRUE(marks == ReadPageMarks(alone, 1, kDotsPerInch)) << sheet.sName;
+    }
+}
+
+TEST_F(SheetsAmongOthersTest, TheDisorderlySheetIsSeenWhereNothingIsSetAfresh) {
+    PicturePrinter page(kDotsPerInch);
+    SheetJob job{page};
+    ASSERT_TRUE(DisorderlySheet().Print(job));
+    EXPECT_TRUE(page.FontItalic);
+    EXPECT_EQ(page.DrawWidth, 60);
+    ASSERT_TRUE(FindButton(2)->Print(job)) << "one that paints nothing";
+    EXPECT_FALSE(page.FontItalic);
+    EXPECT_EQ(page.DrawWidth, 1);
+    EXPECT_EQ(page.ScaleMode, ScaleModeKind::Twips);
+    EXPECT_EQ(page.FontSize(), PicturePrinter(kDotsPerInch).FontSize());
+}
