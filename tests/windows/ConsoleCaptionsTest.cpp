@@ -93,6 +93,25 @@ TEST_F(ConsoleTest, EveryRowOfTheTableHasOneButtonInTheOrderOfTheTable) {
     }
 }
 
+TEST_F(ConsoleTest, InNoMenuTwoButtonsAnswerToOneKey) {
+    for (const char* kit : {"8", "5", "2", "2A"}) {
+        Open(kit);
+        for (int menu = 0; menu < int(std::size(kFrames)); ++menu) {
+            console->cmdNav_Click(menu);
+            QMap<QString, QString> buttonOf;
+            for (const QAbstractButton* button : console->findChildren<QAbstractButton*>()) {
+                if (!button->isVisible()) continue;
+                const QString key = button->shortcut().toString();
+                EXPECT_FALSE(key.isEmpty()) << button->objectName().toStdString();
+                EXPECT_FALSE(buttonOf.contains(key))
+                    << kit << ": " << key.toStdString() << " presses " << buttonOf[key].toStdString() << " and "
+                    << button->objectName().toStdString();
+                buttonOf[key] = button->objectName();
+            }
+        }
+    }
+}
+
 TEST_F(ConsoleTest, EveryFrameHasItsCaptionAndItsLabel) {
     for (int i = 0; i < int(std::size(kFrames)); ++i) {
         const QString number = QString::number(i);
