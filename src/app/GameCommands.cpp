@@ -236,10 +236,13 @@ void GameCommands::OkToEndProgram(bool& bOk) try {
     switch (answer) {
         case vbYes:
             bOk = m_session.Save();
-            m_session.SetSomethingChanged(false);
+            // One that worked has done so itself.
+            if (!bOk) m_session.SetSomethingChanged(false);
+            // The disk may refuse so late that the save counts as good all the same.
+            bOk = bOk && !m_session.IsUnsaved();
             break;
         case vbNo:
-            Autosave::Forget();
+            m_session.GiveUp();
             bOk = true;
             break;
         case vbCancel:

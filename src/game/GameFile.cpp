@@ -28,49 +28,40 @@ QByteArray TakeLine(QByteArray& bytes) {
     return line;
 }
 
-struct Failure {
-    QString sError;
-    QString sDuring;
-};
+} // namespace
 
-// Open and head lines, each of them tested. What is left in the bytes is yet to be written.
-std::optional<Failure> WriteHead(Files::WholeFile& file, const QString& sFileName, QByteArray& bytes) {
+QByteArray Content() {
+    return TextFile::Encode(TextFile::JoinLines(ComposeLines(TheGame(), GameHost::Current().GameName())));
+}
+
+std::optional<Refusal> Write(const QString& sFileName, const QByteArray& content) {
     QString error;
+    Files::WholeFile file(sFileName);
     if (!Rescue::KeepUnread(sFileName, error) || !file.Open(error))
-        return Failure{error, QStringLiteral("opening the file")};
+        return Refusal{error, QStringLiteral("opening the file")};
+    QByteArray rest = content;
     for (const char* during : kHeadLines) {
-        if (!file.Write(TakeLine(bytes), error)) return Failure{error, QString::fromLatin1(during)};
+        if (!file.Write(TakeLine(rest), error)) return Refusal{error, QString::fromLatin1(during)};
     }
+    if (!file.Write(rest, error) || !file.Commit(error)) return Refusal{error, QString()};
     return std::nullopt;
 }
-
-// Whether the file was put in place. No message: the routine has never told about a failure this late.
-bool WriteRecords(Files::WholeFile& file, const QByteArray& bytes, const QString& sFileName) {
-    QString error;
-    if (file.Write(bytes, error) && file.Commit(error)) return true;
-    basErrLog::ErrLogToFile(QStringLiteral("The game file could not be completed: ") + sFileName + u' ' + error, true);
-    return false;
-}
-
-} // namespace
 
 void GameSave(const QString& sFileName, bool& bResult) try {
     bResult = false;
     GameHost& host = GameHost::Current();
     const bool underItsName = sFileName == host.GameName();
-    const QByteArray content = TextFile::Encode(TextFile::JoinLines(ComposeLines(TheGame(), host.GameName())));
-    QByteArray rest = content;
-    Files::WholeFile file(sFileName);
-    if (const std::optional<Failure> failure = WriteHead(file, sFileName, rest)) {
-        if (underItsName) Autosave::NoteSave(false, sFileName, content);
+    const QByteArray content = Content();
+    const std::optional<Refusal> refusal = Write(sFileName, content);
+    if (underItsName) Autosave::NoteSave(sFileName, content, refusal);
+    if (refusal && !refusal->sDuring.isEmpty()) {
         int result = 0;
-        ReportIOError(failure->sError, QStringLiteral("save"), sFileName, failure->sDuring, result);
+        ReportIOError(refusal->sError, QStringLiteral("save"), sFileName, refusal->sDuring, result,
+                      underItsName ? Autosave::WhereItLies(content) : QString());
         return;
     }
-    const bool inPlace = WriteRecords(file, rest, sFileName);
     bResult = true;
     if (!underItsName) return;
-    Autosave::NoteSave(inPlace, sFileName, content);
     basCommon::WriteIniString(QStringLiteral("GameName"), sFileName);
     host.SetSomethingChanged(false);
 } catch (...) {
@@ -78,12 +69,13 @@ void GameSave(const QString& sFileName, bool& bResult) try {
 }
 
 void ReportIOError(const QString& sError, const QString& sAction, const QString& sFileName, const QString& sDuring,
-                   int& iResult) {
+                   int& iResult, const QString& sBesides) {
     const QString blankLine = QStringLiteral("\r\n\r\n");
     MsgBox(QStringLiteral("The following error occurred while trying to ") + sAction + QStringLiteral(" the game ") +
                QStringLiteral("to the file named '") + sFileName + QStringLiteral("'.") + blankLine + sError +
                blankLine + QStringLiteral("The problem occurred while ") + sDuring + QStringLiteral(". ") +
-               QStringLiteral("The file was NOT successfully processed. "),
+               QStringLiteral("The file was NOT successfully processed. ") +
+               (sBesides.isEmpty() ? QString() : blankLine + sBesides),
            vbCritical);
     iResult = -1;
 }

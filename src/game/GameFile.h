@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QByteArray>
 #include <QString>
+
+#include <optional>
 
 /// Reads and writes a whole game: one text file, one line a record. Measures texts on the device of the
 /// GameHost that is installed, and tells it when the game is loaded or saved.
@@ -13,11 +16,23 @@ void GameLoad(QString& sFileName, int& iResult);
 
 /// bResult is true on success, the opposite sense of GameLoad's. The file that stood there stays whole
 /// unless the new one is complete. A disk that fills up only while the records are written is, as ever, no
-/// failure of the routine: the work is then kept by Autosave.
+/// failure of the routine: the work is then kept by Autosave, which tells where it lies.
 void GameSave(const QString& sFileName, bool& bResult);
 
-/// Tells that a game couldn't be read or written; iResult becomes -1.
+/// What the disk said when a game was to be written.
+struct Refusal {
+    QString sError;
+    /// What was being written; empty behind the lines that are written one by one.
+    QString sDuring;
+};
+
+/// The game in hand as its file holds it.
+QByteArray Content();
+/// Puts a game's content in its place, whole, or leaves what stands there. Tells nobody.
+std::optional<Refusal> Write(const QString& sFileName, const QByteArray& content);
+
+/// Tells that a game couldn't be read or written; iResult becomes -1. What there is to say besides stands at the end.
 void ReportIOError(const QString& sError, const QString& sAction, const QString& sFileName, const QString& sDuring,
-                   int& iResult);
+                   int& iResult, const QString& sBesides = QString());
 
 } // namespace GameFile

@@ -39,6 +39,16 @@ void NoteUnread(const QString& sPath) {
 
 void NoteRead(const QString& sPath) { Unread().remove(sPath); }
 
+bool IsUnread(const QString& sPath) { return Unread().contains(sPath) && Files::Exists(sPath); }
+
+bool PutAside(const QString& sPath, QString& sError) {
+    const QString path = FreePathFor(sPath);
+    if (!Files::Rename(sPath, path, sError)) return false;
+    basErrLog::ErrLogToFile(QStringLiteral("What could not be read as a game was kept as ") + path, true);
+    Unread().remove(sPath);
+    return true;
+}
+
 bool KeepUnread(const QString& sPath, QString& sError) {
     if (!Unread().contains(sPath)) return true;
     if (Files::Exists(sPath)) {

@@ -21,6 +21,11 @@ void NoteRead(const QString& sPath);
 /// sError when that fails.
 bool KeepUnread(const QString& sPath, QString& sError);
 
+/// Whether a file is one that couldn't be read.
+bool IsUnread(const QString& sPath);
+/// The same as KeepUnread for one that isn't needed any more where it lies: it gets another name, which takes no room.
+bool PutAside(const QString& sPath, QString& sError);
+
 /// For tests: as if nothing had been loaded yet.
 void ResetForTest();
 

@@ -4,8 +4,13 @@
 #include "game/Autosave.h"
 #include "game/GameFile.h"
 #include "services/basErrLog.h"
+#include "services/Desktop.h"
 
-Session::Session() : m_device([this]() -> DeviceContext& { return m_scratch.hDC(); }), m_before(Install(this)) {}
+Session::Session() : m_device([this]() -> DeviceContext& { return m_scratch.hDC(); }), m_before(Install(this)) {
+    constexpr int kMillisecondsBetweenTries = 60'000;
+    m_retry.setInterval(kMillisecondsBetweenTries);
+    connect(&m_retry, &QTimer::timeout, this, &Session::RetryAutosave);
+}
 Session::~Session() { Install(m_before); }
 
 int Session::Recover(const QString& sAutosave) {
@@ -68,28 +73,67 @@ void Session::FollowStep() {
     SetSomethingChanged(IsUnsaved());
 }
 
+void Session::SetAutosaveDue(bool bDue) {
+    m_bAutosaveDue = bDue;
+    if (bDue) {
+        m_retry.start();
+    } else {
+        m_retry.stop();
+    }
+}
+
+std::optional<GameFile::Refusal> Session::WriteAutosave() {
+    SetAutosaveDue(true);
+    const Autosave::Rotated rotated = Autosave::Rotate();
+    const QByteArray content = GameFile::Content();
+    if (auto refusal = GameFile::Write(Autosave::DataPath(), content)) return refusal;
+    Autosave::EndRotation(rotated, content);
+    SetAutosaveDue(false);
+    return std::nullopt;
+}
+
+void Session::KeepOnDisk() {
+    const std::optional<GameFile::Refusal> refusal = WriteAutosave();
+    if (!refusal) return;
+    const QString where = Autosave::WhereItLies(GameFile::Content());
+    if (refusal->sDuring.isEmpty()) {
+        MsgBox(
+            QStringLiteral("Your last change could not be kept on the disk: %1\r\n\r\n%2").arg(refusal->sError, where),
+            vbExclamation);
+    } else {
+        int result = 0;
+        GameFile::ReportIOError(refusal->sError, QStringLiteral("save"), Autosave::DataPath(), refusal->sDuring, result,
+                                where);
+    }
+}
+
 void Session::SetSomethingChanged(bool bChanged) try {
     if (bChanged) {
         // Ahead of what may raise: the end of the program must ask about the change all the same.
         if (!IsUnsaved()) m_savedState.reset();
-        m_bAutosaveDue = true;
+        SetAutosaveDue(true);
         Q_EMIT Changed();
-        const Autosave::Rotated rotated = Autosave::Rotate();
-        bool written = false;
-        GameFile::GameSave(Autosave::DataPath(), written);
-        Autosave::EndRotation(rotated);
-        m_bAutosaveDue = false;
+        KeepOnDisk();
     } else {
         Autosave::Forget();
-        m_bAutosaveDue = false;
+        const bool saved = !Autosave::IsStillToBeKept(m_sGameName);
+        SetAutosaveDue(!saved);
         m_savedState.reset();
-        if (!Autosave::IsKeptNowhere(m_sGameName)) m_savedState = m_history.State();
+        if (saved) m_savedState = m_history.State();
         Q_EMIT Changed();
     }
 } catch (...) {
     ErrTail("frmTAVL!", "SetSomethingChanged", bChanged);
 }
 
-void Session::RetryAutosave() {
-    if (m_bAutosaveDue) SetSomethingChanged(true);
+void Session::GiveUp() {
+    SetAutosaveDue(false);
+    Autosave::GiveUp();
+}
+
+void Session::RetryAutosave() try {
+    if (m_bAutosaveDue) WriteAutosave();
+} catch (const TavloraError& error) {
+    // It was told when it failed first.
+    basErrLog::ErrDismiss(error.Description());
 }

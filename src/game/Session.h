@@ -2,10 +2,12 @@
 #pragma once
 
 #include "document/GameHost.h"
+#include "game/GameFile.h"
 #include "game/History.h"
 #include "platform/paint/Surface.h"
 
 #include <QObject>
+#include <QTimer>
 
 #include <functional>
 #include <optional>
@@ -53,17 +55,20 @@ public:
 
     bool IsUnsaved() const { return m_savedState != m_history.State(); }
     /// With true, the game is unsaved though it wasn't edited, unless it is already; writes the autosave. With
-    /// false, it is saved as it stands; deletes the autosave. A game that could be saved nowhere at all stays
-    /// unsaved: it is in memory only. Raises when an autosave file can't be deleted or moved; one that can't be
-    /// written is told and changes nothing else.
+    /// false, it is saved as it stands; deletes the autosave. A game whose save failed and that could not be rescued
+    /// either stays unsaved. Raises when an autosave file can't be deleted or moved; one that can't be written is
+    /// told and changes nothing else.
     void SetSomethingChanged(bool bChanged) override;
-
-    /// Writes the autosave if the last one failed by raising, for whoever can do so between two changes.
-    void RetryAutosave();
+    /// The user wants the changes no longer; deletes the autosave. They stay unsaved for as long as they are in hand.
+    void GiveUp();
 
     DeviceContext& MeasuringDevice() override { return m_device(); }
     /// Has texts measured on another device than a scratch one.
     void MeasureOn(std::function<DeviceContext&()> device) { m_device = std::move(device); }
+
+public Q_SLOTS:
+    /// Writes the autosave if the last one failed. Runs by itself every minute as long as it does; says nothing.
+    void RetryAutosave();
 
 Q_SIGNALS:
     /// An edit is in force, or was taken back or brought again; comes ahead of the autosave, so that what shows the
@@ -75,9 +80,14 @@ Q_SIGNALS:
 private:
     void BeginHistory();
     void FollowStep();
+    void SetAutosaveDue(bool bDue);
+    std::optional<GameFile::Refusal> WriteAutosave();
+    void KeepOnDisk();
 
     QString m_sGameName;
+    /// The disk doesn't hold the game as it stands, though it should.
     bool m_bAutosaveDue = false;
+    QTimer m_retry{this};
     History m_history;
     /// None where no state of the history is the saved one.
     std::optional<quint64> m_savedState = m_history.State();

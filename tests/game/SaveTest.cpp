@@ -168,13 +168,14 @@ TEST_F(SaveTest, EachFailureAtTheHeadOfTheFileIsToldAndLeavesTheOldFileWhole) {
         FailAt(row.operation, row.spared);
         EXPECT_FALSE(Save(session.GameName())) << row.during;
         Files::SetFaultHook({});
-        EXPECT_EQ(desktop.Texts(), QStringList{SaveError(row.during)});
+        ASSERT_EQ(desktop.boxes.size(), 1);
+        EXPECT_TRUE(desktop.boxes[0].sText.startsWith(SaveError(row.during))) << desktop.boxes[0].sText.toStdString();
         EXPECT_EQ(desktop.boxes[0].iStyle, vbCritical);
         EXPECT_EQ(ReadFile(session.GameName()), before);
     }
 }
 
-TEST_F(SaveTest, DiskThatFillsUpWhileRecordsAreWrittenIsNoToldFailureButTheWorkIsRescued) {
+TEST_F(SaveTest, DiskThatFillsUpWhileRecordsAreWrittenIsNoFailureButTheWorkIsRescuedAndTheBoxNamesIt) {
     const QList<std::pair<Files::Operation, int>> faults{{Files::Operation::Write, 3}, {Files::Operation::Commit, 0}};
     for (const auto& [operation, spared] : faults) {
         QFile::remove(InGames(QStringLiteral("Rescued Trip.gam")));
@@ -184,7 +185,10 @@ TEST_F(SaveTest, DiskThatFillsUpWhileRecordsAreWrittenIsNoToldFailureButTheWorkI
         FailAt(operation, spared, QStringLiteral("Trip.gam"));
         EXPECT_TRUE(Save(session.GameName()));
         Files::SetFaultHook({});
-        EXPECT_TRUE(desktop.boxes.isEmpty());
+        EXPECT_EQ(desktop.Texts(),
+                  QStringList{QStringLiteral("The game 'Trip.gam' could not be saved: disk says no\r\n\r\n"
+                                             "Your work was kept in My Games as 'Rescued Trip.gam'.")});
+        desktop.boxes.clear();
         EXPECT_FALSE(session.IsUnsaved());
         EXPECT_EQ(ReadFile(session.GameName()), before);
         EXPECT_EQ(GamesFolder(), (QStringList{QStringLiteral("Rescued Trip.gam"), QStringLiteral("Trip.gam")}));
@@ -248,8 +252,9 @@ TEST_F(SaveTest, AutosaveThatCantBeWrittenIsToldAndTheEditGoesOn) {
     FailAt(Files::Operation::OpenWrite, 0, QStringLiteral("~AutoSave.dat"));
     Edit(QStringLiteral("two"));
     Files::SetFaultHook({});
-    EXPECT_EQ(desktop.Texts(),
-              QStringList{IOError("save", autosave, QStringLiteral("disk says no"), "opening the file")});
+    ASSERT_EQ(desktop.boxes.size(), 1);
+    EXPECT_TRUE(desktop.boxes[0].sText.startsWith(
+        IOError("save", autosave, QStringLiteral("disk says no"), "opening the file")));
     EXPECT_TRUE(session.IsUnsaved());
     EXPECT_TRUE(ReadFile(backup).contains("\"one\""));
 }
