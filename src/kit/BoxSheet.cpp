@@ -87,7 +87,8 @@ bool PlaceToken(clsRenderDestination& sheet, int iToken) {
     for (int sticker = 0; sticker < kStickersPerToken; ++sticker) {
         const double dblX = kTokenStep * iToken + kTokenLeft;
         const double dblY = double(kTokenRow) + kTokenStep * sticker;
-        sheet.OutputFromBMP(file, dblX, dblY, kTokenSide, kTokenSide);
+        // What an earlier print has left there may be a token of another game.
+        if (made) sheet.OutputFromBMP(file, dblX, dblY, kTokenSide, kTokenSide);
         // The ring is there to be cut along, whether or not there is a picture.
         sheet.CircleRender(dblX, dblY, kTokenSide / 2);
     }

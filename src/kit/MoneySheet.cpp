@@ -10,6 +10,7 @@
 #include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
 #include "services/Desktop.h"
+#include "services/FileRefused.h"
 
 namespace {
 
@@ -35,7 +36,7 @@ bool PrepareSheet<class MoneySheet>(SheetJob& job, int iWhich) {
     }
     QString error;
     job.prepared = LoadPicture(path, error);
-    if (job.prepared.IsNull()) ErrRaise(ErrNumber::kInvalidPicture, error);
+    if (job.prepared.IsNull()) ErrRaiseNoPicture(path, error);
     return true;
 }
 

@@ -6,6 +6,7 @@
 #include "platform/pictures/LoadPicture.h"
 #include "services/basErrLog.h"
 #include "services/basPath.h"
+#include "services/FileRefused.h"
 
 #include <QRect>
 
@@ -16,7 +17,7 @@ QString PathOf(const QString& sName) { return basCommon::JoinPath(basCommon::Get
 void Paint(Surface& surface, const QString& sFile, const QRect& box) {
     QString error;
     const Picture picture = LoadPicture(sFile, error);
-    if (picture.IsNull()) ErrRaise(ErrNumber::kInvalidPicture, error);
+    if (picture.IsNull()) ErrRaiseNoPicture(sFile, error);
     surface.PaintPicture(picture, box.x(), box.y(), box.width(), box.height());
 }
 

@@ -9,6 +9,7 @@
 #include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
 #include "services/basPath.h"
+#include "services/FileRefused.h"
 
 namespace {
 
@@ -107,7 +108,7 @@ void clsRenderDestination::OutputFromBMP(const QString& sPath, double dblX, doub
     if (sPath.isEmpty() || !basCommon::DoesFileExist(sPath)) return;
     QString error;
     const Picture picture = LoadPicture(sPath, error);
-    if (picture.IsNull()) return;
+    if (picture.IsNull()) ErrRaiseNoPicture(sPath, error);
     m_oDest->PaintPicture(picture, Pixels(dblX), Pixels(dblY), Pixels(dblWidth), Pixels(dblHeight));
 } catch (...) {
     ErrTail("clsRenderDestination!", "OutputFromBMP", sPath, dblX, dblY, dblWidth, dblHeight);

@@ -49,7 +49,8 @@ public:
                                       const QString& sFontName, bool bBold, bool bItalic, int lX, int lY, int lWidth,
                                       int lHeight, Color lColor);
 
-    /// A picture file stretched to a box. A missing or unreadable file draws nothing and raises nothing.
+    /// A picture file stretched to a box. A missing file draws nothing and raises nothing; one that is
+    /// there and can't be read is raised by its name.
     void OutputFromBMP(const QString& sPath, double dblX, double dblY, double dblWidth, double dblHeight);
 
     /// The text of title record iItem (0 to 16) in one line, stretched in both directions to a filled box

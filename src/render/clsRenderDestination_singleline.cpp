@@ -10,6 +10,7 @@
 #include "render/clsRenderDestination.h"
 #include "services/basErrLog.h"
 #include "services/basPath.h"
+#include "services/FileRefused.h"
 
 namespace {
 
@@ -50,7 +51,7 @@ void clsRenderDestination::SingleLine(int iItem, const QString& sFontName, bool 
     if (!bmp.CreateFileHoldingText(sText, lForeColor, lBackColor)) return;
     QString error;
     const Picture picture = LoadPicture(bmp.FullPathToBmpFile(), error);
-    if (picture.IsNull()) ErrRaise(ErrNumber::kInvalidPicture, error);
+    if (picture.IsNull()) ErrRaiseNoPicture(bmp.FullPathToBmpFile(), error);
     m_oDest->PaintPicture(picture, lX + lMargin, lY + lMargin, lW - 2 * lMargin, lH - 2 * lMargin,
                           RasterOp::SourceCopy);
     // A temporary file that stays is no reason to stop a print.

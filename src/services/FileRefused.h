@@ -9,3 +9,9 @@
     ErrRaise(ErrNumber::kFileAccess, QStringLiteral("The file named '") + sPath +
                                          QStringLiteral("' could not be written or deleted: ") + sReason);
 }
+
+/// Raised for a picture that can't be had, for the same reason.
+[[noreturn]] inline void ErrRaiseNoPicture(const QString& sPath, const QString& sReason) {
+    ErrRaise(ErrNumber::kInvalidPicture,
+             QStringLiteral("The picture in the file '") + sPath + QStringLiteral("' could not be read: ") + sReason);
+}

@@ -241,6 +241,8 @@ TEST_F(DeedCardsTest, Edge_AnOrnamentMissingInBothFormsFailsInsteadOfLeavingABla
             << error.Description().toStdString();
         EXPECT_TRUE(error.Description().contains(QStringLiteral("clsRenderDestination!DeedCardTrans")))
             << error.Description().toStdString();
+        EXPECT_TRUE(basErrLog::ErrDismiss(error.Description()).contains(QStringLiteral("deco2_ll.bmp' could not")))
+            << error.Description().toStdString();
     }
 }
 

@@ -8,6 +8,7 @@
 #include "board/basPositFit.h"
 #include "kit/GameKit.h"
 #include "pieces/frmBMP.h"
+#include "pieces/MadePicture.h"
 #include "platform/files/Files.h"
 #include "platform/paint/PaintImage.h"
 #include "platform/pictures/LoadPicture.h"
@@ -223,7 +224,10 @@ TEST_F(LabelSheetsTest, Edge_EachTokenHasTwoStickersOneAboveTheOther) {
 
 TEST_F(LabelSheetsTest, Edge_ATokenThatCannotBeMadeStillLeavesItsRings) {
     if (!PdfReader::IsInstalled()) GTEST_SKIP() << "poppler's tools are not installed";
-    WriteFile(QStringLiteral("games/TokenBMP2.bmp"), "in the way");
+    // A picture of an earlier print, which can't be replaced.
+    QImage earlier(266, 266, QImage::Format_RGB32);
+    earlier.fill(Qt::blue);
+    ASSERT_TRUE(earlier.save(MadePicture::PathOf(QStringLiteral("TokenBMP2.bmp"))));
     Files::SetFaultHook([](Files::Operation operation, const QString& sPath) -> std::optional<QString> {
         if (operation == Files::Operation::Remove && sPath.endsWith(QStringLiteral("TokenBMP2.bmp")))
             return QStringLiteral("Permission denied");

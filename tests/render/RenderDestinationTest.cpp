@@ -235,13 +235,26 @@ TEST_F(RenderDestinationTest, ARingStandsInItsSquare) {
 TEST_F(RenderDestinationTest, AMissingPictureDrawsNothingAndRaisesNothing) {
     destination.OutputFromBMP(QString(), 0, 0, 1, 1);
     destination.OutputFromBMP(PathOf(QStringLiteral("none.bmp")), 0, 0, 1, 1);
-    destination.OutputFromBMP(WriteFile(QStringLiteral("bad.bmp"), "not a picture"), 0, 0, 1, 1);
     EXPECT_TRUE(Ink().isNull());
     QImage red(10, 10, QImage::Format_RGB32);
     red.fill(Qt::red);
     ASSERT_TRUE(red.save(PathOf(QStringLiteral("red.bmp"))));
     destination.OutputFromBMP(PathOf(QStringLiteral("red.bmp")), 1, 1, 2, 1);
     EXPECT_EQ(Ink(), QRect(96, 96, 192, 96));
+}
+
+TEST_F(RenderDestinationTest, APictureThatIsThereAndCannotBeReadIsNamed) {
+    const QString bad = WriteFile(QStringLiteral("bad.bmp"), "not a picture");
+    try {
+        destination.OutputFromBMP(bad, 0, 0, 1, 1);
+        FAIL() << "nothing was raised";
+    } catch (const TavloraError& error) {
+        EXPECT_TRUE(error.Description().startsWith(QStringLiteral("clsRenderDestination!OutputFromBMP(\"") + bad));
+        EXPECT_TRUE(basErrLog::ErrDismiss(error.Description())
+                        .startsWith(QStringLiteral("The picture in the file '%1' could not be read: ").arg(bad)))
+            << error.Description().toStdString();
+    }
+    EXPECT_TRUE(Ink().isNull());
 }
 
 TEST_F(RenderDestinationTest, AnUnknownDirectionEndsTheProgramAndAMissingArrowDoesNot) {
