@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/files/Console.h"
 
+#include "platform/files/Files.h"
 #include "platform/files/Temporaries.h"
 
 #include <QDir>
@@ -90,12 +91,16 @@ void ClearUpWhenEnded() {
 
 } // namespace Console
 
-TemporaryFolder::TemporaryFolder() {
+TemporaryFolder::TemporaryFolder() { Make(QDir::tempPath(), true); }
+TemporaryFolder::TemporaryFolder(const QString& sIn) { Make(sIn, false); }
+
+void TemporaryFolder::Make(const QString& sIn, bool bForThisUserOnly) {
     constexpr int kTries = 5;
-    Temporaries::ClearLeftovers(QDir::tempPath());
+    const auto owner = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+    Temporaries::ClearLeftovers(sIn);
     for (int i = 0; i < kTries && m_path.isEmpty(); ++i) {
-        const QString path = Temporaries::FolderIn(QDir::tempPath());
-        const bool bMade = QDir().mkdir(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        const QString path = Temporaries::FolderIn(sIn);
+        const bool bMade = bForThisUserOnly ? QDir().mkdir(path, owner) : QDir().mkdir(path);
         if (bMade && Temporaries::Hold(path, -1)) m_path = path;
     }
 }
@@ -104,4 +109,16 @@ TemporaryFolder::~TemporaryFolder() {
     if (m_path.isEmpty()) return;
     QDir(m_path).removeRecursively();
     Temporaries::LetGo(m_path);
+}
+
+bool TemporaryFolder::Become(const QString& sPath, QString& sError) {
+    if (!Files::IsPermitted(Files::Operation::Rename, sPath, sError)) return false;
+    // Some systems rename over an empty folder.
+    if (Files::IsAnything(sPath) || !QDir().rename(m_path, sPath)) {
+        sError = QStringLiteral("the folder '%1' can't be made").arg(sPath);
+        return false;
+    }
+    Temporaries::LetGo(m_path);
+    m_path.clear();
+    return true;
 }

@@ -33,13 +33,20 @@ QString CompletePath(const QString& sPath);
 /// of its own goes when the next one is made.
 class TemporaryFolder {
 public:
+    /// Where the system has such folders, for this user only.
     TemporaryFolder();
+    /// In another folder, with the rights that folders have there.
+    explicit TemporaryFolder(const QString& sIn);
     ~TemporaryFolder();
     /// Empty when none could be made.
     const QString& Path() const { return m_path; }
+    /// Gives it a name of its own, under which it stays, and none that anything bears already. False and a sentence in
+    /// sError when that can't be.
+    bool Become(const QString& sPath, QString& sError);
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
 private:
+    void Make(const QString& sIn, bool bForThisUserOnly);
     QString m_path;
 };

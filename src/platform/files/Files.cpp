@@ -110,6 +110,12 @@ bool IsDirectory(const QString& sPath) {
     return !sPath.isEmpty() && QFileInfo(sPath).isDir();
 }
 
+bool IsAnything(const QString& sPath) {
+    if (Memory()) return Memory()->contains(sPath);
+    const QFileInfo info(sPath);
+    return info.exists() || info.isSymLink();
+}
+
 QString InDiskSpelling(const QString& sPath) {
     if (Memory()) return sPath;
     const QFileInfo info(sPath);
@@ -197,6 +203,21 @@ bool WholeFile::Commit(QString& sError) {
 bool WriteWhole(const QString& sPath, const QByteArray& bytes, QString& sError) {
     WholeFile file(sPath);
     return file.Open(sError) && file.Write(bytes, sError) && file.Commit(sError);
+}
+
+bool WriteNew(const QString& sPath, const QByteArray& bytes, QString& sError) {
+    if (!IsPermitted(Operation::OpenWrite, sPath, sError) || !IsPermitted(Operation::Write, sPath, sError))
+        return false;
+    if (Memory()) {
+        Memory()->insert(sPath, bytes);
+        return true;
+    }
+    QFile file(sPath);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) return Failed(file, sError);
+    if (file.write(bytes) == bytes.size() && file.flush()) return true;
+    Failed(file, sError);
+    file.remove();
+    return false;
 }
 
 bool Append(const QString& sPath, const QByteArray& bytes, QString& sError) {

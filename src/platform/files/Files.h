@@ -46,6 +46,8 @@ void UseMemory(MemoryFiles* files);
 /// True for a file, not for a directory. The case of letters counts.
 bool Exists(const QString& sPath);
 bool IsDirectory(const QString& sPath);
+/// True for whatever bears that name, a link that leads nowhere too.
+bool IsAnything(const QString& sPath);
 /// False and a sentence in sError for a folder, a device, or whatever else must not be read to its end.
 bool IsNoSpecialFile(const QString& sPath, QString& sError);
 /// True where there is no file yet, or a regular one. False and a sentence in sError for a folder or a
@@ -77,7 +79,11 @@ std::optional<QByteArray> ReadAll(const QString& sPath, QString& sError);
 /// no new file it is written in place. False and a sentence in sError on failure; the old file then stands.
 bool WriteWhole(const QString& sPath, const QByteArray& bytes, QString& sError);
 
-/// The same in steps, for a writer that tells at which of its parts the disk failed. What isn't committed is
+/// Writes a file of a name that is free, and fails where there is anything of that name. For what can be had again at
+/// any time: the disk isn't waited for.
+bool WriteNew(const QString& sPath, const QByteArray& bytes, QString& sError);
+
+/// WriteWhole in steps, for a writer that tells at which of its parts the disk failed. What isn't committed is
 /// thrown away.
 class WholeFile {
 public:
