@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+
+#include <memory>
+#include <optional>
+
+/// The entries of a zip archive in memory, as they say they are; what they say is for the caller to doubt.
+class ZipReader {
+public:
+    enum class Kind { File, Folder, Special };
+    struct Entry {
+        /// Empty when it isn't text.
+        QString sName;
+        Kind kind = Kind::Special;
+        /// As the archive says; bytes are unpacked to this size or not at all.
+        qint64 size = -1;
+        /// Stored or deflated, and not under lock and key.
+        bool bReadable = false;
+    };
+
+    /// Nothing when it isn't a whole archive that agrees with itself.
+    static std::optional<ZipReader> Open(const QByteArray& bytes);
+
+    const QList<Entry>& Entries() const { return m_entries; }
+    /// The entry's bytes, whose number and checksum agree with what the archive says; nothing when they don't.
+    std::optional<QByteArray> Read(qsizetype iEntry) const;
+
+private:
+    struct Archive;
+    explicit ZipReader(std::shared_ptr<Archive> archive);
+    Entry EntryAt(qsizetype iEntry) const;
+
+    std::shared_ptr<Archive> m_archive;
+    QList<Entry> m_entries;
+};
