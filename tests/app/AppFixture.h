@@ -11,6 +11,7 @@
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
 #include "services/ProgramSettings.h"
+#include "support/ModalSteps.h"
 #include "support/TestFixture.h"
 #include "windowing/PictureBox.h"
 #include "windowing/Screen.h"
@@ -144,15 +145,7 @@ protected:
     }
 
     /// Does this to the next modal window, found by its object name, once it stands.
-    static void WithModal(const char* name, std::function<void(QWidget&)> act) {
-        QTimer::singleShot(0, [name, act] {
-            QWidget* const modal = QApplication::activeModalWidget();
-            ASSERT_TRUE(modal) << name;
-            EXPECT_EQ(modal->objectName(), QString::fromLatin1(name));
-            act(*modal);
-            if (modal->isVisible()) modal->close();
-        });
-    }
+    void WithModal(const char* name, const ModalSteps::Step& act) { m_steps.OnceIn(name, act); }
     static void ClickIn(QWidget& modal, const char* button) {
         auto* const found = modal.findChild<QPushButton*>(QString::fromLatin1(button));
         ASSERT_TRUE(found) << button;
@@ -164,4 +157,7 @@ protected:
     /// What the next start's window opens.
     EditorRoutes* doors = &routes;
     std::unique_ptr<frmTAVL> window;
+
+private:
+    ModalSteps m_steps;
 };

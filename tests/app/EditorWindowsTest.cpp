@@ -38,8 +38,8 @@ protected:
         };
     }
     // Types into the first card of the deck that opens next, and closes both windows.
-    static void EditFirstCard(const char* button) {
-        WithModal("frmShowNews", [button](QWidget& deck) {
+    void EditFirstCard(const char* button) {
+        WithModal("frmShowNews", [this, button](QWidget& deck) {
             WithModal("frmEditNews", [button](QWidget& card) {
                 QTest::keyClicks(card.findChild<QPlainTextEdit*>(QStringLiteral("txtSpace")),
                                  QStringLiteral(" Hurrah"));
@@ -51,9 +51,9 @@ protected:
     }
 
     // Types onto the first token, which has no picture, and closes both windows.
-    static void EditFirstToken(const char* button) {
+    void EditFirstToken(const char* button) {
         basTAVL::g_oTokens(0).SetImagePath(QString());
-        WithModal("frmShowTokens", [button](QWidget& gallery) {
+        WithModal("frmShowTokens", [this, button](QWidget& gallery) {
             WithModal("frmEditToken", [button](QWidget& token) {
                 QTest::mouseClick(token.findChild<QWidget*>(QStringLiteral("picDest")), Qt::LeftButton);
                 QTest::keyClicks(token.findChild<QWidget*>(QStringLiteral("txtHoldFocus")), QStringLiteral("zap"));
@@ -139,7 +139,7 @@ TEST_F(EditorWindowsTest, CardWhoseAutosaveFailedIsAutosavedAgainWhenItsDeckClos
         if (operation == Files::Operation::Rename) return QStringLiteral("Permission denied");
         return std::nullopt;
     });
-    WithModal("frmShowNews", [](QWidget& deck) {
+    WithModal("frmShowNews", [this](QWidget& deck) {
         WithModal("frmEditNews", [](QWidget& editor) {
             QTest::keyClicks(editor.findChild<QPlainTextEdit*>(QStringLiteral("txtSpace")), QStringLiteral(" Hurrah"));
             ClickIn(editor, "cmdOK");

@@ -4,12 +4,10 @@
 #include "board/basPosit.h"
 #include "game/Session.h"
 #include "support/BoardFixture.h"
+#include "support/ModalSteps.h"
 
-#include <QApplication>
 #include <QDialog>
-#include <QPointer>
 #include <QTest>
-#include <QTimer>
 
 #include <functional>
 
@@ -20,15 +18,9 @@ protected:
 
     Session session;
 
-    /// Acts in the modal window that opens next, as soon as it is open; a window that the actions have left
-    /// open is hidden then, so that no test hangs.
-    static void WhenModal(const std::function<void(QDialog&)>& act) {
-        QTimer::singleShot(0, qApp, [act] {
-            const QPointer<QDialog> form = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            ASSERT_TRUE(form) << "no modal window has opened";
-            act(*form);
-            if (form && form->isVisible()) form->hide();
-        });
+    /// Acts in the modal window that opens next.
+    void WhenModal(const std::function<void(QDialog&)>& act) {
+        m_steps.OnceIn("", [act](QWidget& window) { act(dynamic_cast<QDialog&>(window)); });
     }
 
     template <typename Control>
@@ -41,4 +33,7 @@ protected:
     static void Click(QWidget& form, const char* sName) {
         QTest::mouseClick(&Find<QWidget>(form, sName), Qt::LeftButton);
     }
+
+private:
+    ModalSteps m_steps;
 };

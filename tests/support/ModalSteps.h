@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QObject>
+#include <QPointer>
 #include <QTimer>
 #include <QtTest/QTest>
 #include <QWidget>
@@ -31,11 +32,22 @@ public:
         m_steps.push_back({QString::fromLatin1(sWindow), std::move(step)});
         return *this;
     }
+    /// In the window that opens next, whichever it is with an empty name; it is hidden when the step has left it open.
+    ModalSteps& OnceIn(const char* sWindow, const Step& step) {
+        return In(sWindow, [step](QWidget& window) {
+            const QPointer<QWidget> open = &window;
+            step(window);
+            if (open && open->isVisible()) open->hide();
+        });
+    }
 
 private:
     struct Expected {
+        /// Empty for any.
         QString sWindow;
         Step step;
+
+        bool IsIn(const QWidget& window) const { return sWindow.isEmpty() || window.objectName() == sWindow; }
     };
 
     // Each look is a shot of its own: a step may open another window, in which the next step is due.
@@ -46,7 +58,7 @@ private:
         QWidget* const window = QApplication::activeModalWidget();
         if (!window || !window->isVisible() || window == m_acting) {
             m_since.start();
-        } else if (!m_steps.empty() && window->objectName() == m_steps.front().sWindow) {
+        } else if (!m_steps.empty() && m_steps.front().IsIn(*window)) {
             Act(*window);
         } else if (m_since.hasExpired(kPatienceMs)) {
             ADD_FAILURE() << "nobody acted in the window " << window->objectName().toStdString();
