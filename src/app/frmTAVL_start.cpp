@@ -6,6 +6,7 @@
 #include "app/OpeningNote.h"
 #include "board/basPosit.h"
 #include "document/basTAVL.h"
+#include "document/Locale.h"
 #include "drawing/basBMP.h"
 #include "drawing/basDraw.h"
 #include "game/SampleGames.h"
@@ -49,7 +50,7 @@ void frmTAVL::PrepareStart() try {
     // The first start writes back many defaults.
     const ProfileFile::Together together;
     GameKit::SetUp(programName);
-    basTAVL::g_vCurrencySign() = QStringLiteral("$");
+    basTAVL::g_vCurrencySign() = QString::fromLatin1(Locale::kCurrencySign);
     SizeMainWindow();
     basTAVL::g_lMagicColor() = basDraw::Draw_ReverseColor(Color::FromValue(kBoardFace));
     GameKit::ReadGameVersion();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "document/basTAVL.h"
 
+#include "document/Locale.h"
 #include "document/Subscript.h"
 #include "platform/text/NewLine.h"
 #include "services/Desktop.h"
@@ -14,7 +15,7 @@ namespace {
 constexpr int kScreenFonts = 1;
 
 struct State {
-    QString currencySign = QStringLiteral("$");
+    QString currencySign = QString::fromLatin1(Locale::kCurrencySign);
     std::array<Color, kNewsSets> newsColor{Color::White(), Color::White()};
     Color printYellow = Color::White();
     Color printRed = Color::White();

@@ -53,8 +53,6 @@ void EndProgram(int iStatus) {
 }
 
 int ConsoleDesktop::MsgBox(const QString& sText, int iStyle, const QString& sTitle) {
-    const int icon = iStyle & 0xF0;
-    if (icon == vbCritical || icon == vbExclamation) ++m_complaints;
     const QString line = sText.simplified();
     std::fprintf(stderr, "%s: %s\n", qUtf8Printable(sTitle), qUtf8Printable(line));
     switch (iStyle & 0xF) {

@@ -111,9 +111,4 @@ public:
     void Sleep(int milliseconds) override;
     void DoEvents() override;
     [[noreturn]] void EndProgram(int iStatus) override;
-    /// How many boxes with a stop or warning icon were shown.
-    int Complaints() const { return m_complaints; }
-
-private:
-    int m_complaints = 0;
 };

@@ -78,7 +78,7 @@ Color GetIniColor(const QString& sKey, const QString& sDefault) try {
     ErrTail("basCommon!", "GetIniColor", sKey, sDefault);
 }
 
-void TellUnreadableSetting(const QString& sKey, const QString& sValue) try {
+void TellUnreadableSetting(const QString& sKey, const QString& sValue) {
     constexpr int kMostShown = 40;
     if (ToldKeys().contains(sKey)) return;
     ToldKeys().insert(sKey);
@@ -88,8 +88,6 @@ void TellUnreadableSetting(const QString& sKey, const QString& sValue) try {
                              .arg(sKey, shown, GetIniPath());
     basErrLog::ErrLogToFile(text, true);
     basMsgQueue::MsgQueue_Post(text, vbExclamation);
-} catch (...) {
-    ErrTail("basCommon!", "TellUnreadableSetting", sKey, sValue);
 }
 
 void WriteIniString(const QString& sKey, const QString& sValue) try {

@@ -18,7 +18,6 @@ public:
     static const FontFace& Get(const QString& sFamily, bool bBold, bool bItalic);
 
     double Ascent() const { return m_ascent; }
-    double Descent() const { return m_descent; }
     double CellHeight() const { return m_ascent + m_descent; }
     /// Average advance of a to z and the blank, weighted by how often each occurs in text; 0 for a symbol
     /// font. Taken from the advances and not from the font's own table, where stand-ins for Arial and Times

@@ -9,7 +9,6 @@
 #include "platform/paint/Surface.h"
 #include "platform/pictures/PictureHolder.h"
 #include "platform/text/Numbers.h"
-#include "services/basErrLog.h"
 
 namespace {
 
@@ -41,11 +40,9 @@ bool IsBetween(int value, int first, int last) { return value >= first && value 
 
 bool Likeness::HasImage() { return !Image().FullPath().isEmpty(); }
 
-QStringList Likeness::GetTextArray() const try {
+QStringList Likeness::GetTextArray() const {
     const QStringList lines = LinesInUse();
     return lines.isEmpty() ? QStringList{QString()} : lines;
-} catch (...) {
-    ErrTail("Likeness!", "GetTextArray");
 }
 
 QPoint Likeness::BelowText() {
@@ -64,7 +61,7 @@ void Likeness::UseTextFont() {
     basDraw::Draw_SetFont(font.Family, h, CLng(h * 0.5), 0, 0, font.Bold, font.Italic, false);
 }
 
-Likeness::Spot Likeness::WhereIsMouse(Surface& picDest, double X, double Y) try {
+Likeness::Spot Likeness::WhereIsMouse(Surface& picDest, double X, double Y) {
     const int x = CLng(X);
     const int y = CLng(Y);
     const TextBox box = TextPlace();
@@ -79,8 +76,6 @@ Likeness::Spot Likeness::WhereIsMouse(Surface& picDest, double X, double Y) try 
     UseTextFont();
     basDraw::Draw_FindInsertPoint(GetTextArray(), kCentred, box.iCentre, TopOfText(), x, y, spot.iCol, spot.iRow);
     return spot;
-} catch (...) {
-    ErrTail("Likeness!", "WhereIsMouse", X, Y);
 }
 
 void Likeness::DrawText(const TextSelection& selection) {
@@ -101,7 +96,7 @@ void Likeness::DrawImage(Surface& picDest, PictureHolder& picScratch) {
                 basTAVL::g_lMagicColor());
 }
 
-void Likeness::Redraw(Surface& picDest, PictureHolder& picScratch, const TextSelection& selection) try {
+void Likeness::Redraw(Surface& picDest, PictureHolder& picScratch, const TextSelection& selection) {
     const DrawingOn drawing(picDest);
     picDest.Cls();
     basDraw::Draw_SetPen(PenStyle::Solid, kPenWidth, Color::Black());
@@ -110,6 +105,4 @@ void Likeness::Redraw(Surface& picDest, PictureHolder& picScratch, const TextSel
     DrawText(selection);
     basBMP::BMP_SetHDC(&picDest.hDC());
     DrawImage(picDest, picScratch);
-} catch (...) {
-    ErrTail("Likeness!", "Redraw");
 }

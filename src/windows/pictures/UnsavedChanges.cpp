@@ -4,7 +4,7 @@
 #include "services/basErrLog.h"
 #include "services/Desktop.h"
 
-UnsavedChanges AskAboutUnsavedChanges() try {
+UnsavedChanges AskAboutUnsavedChanges() {
     const int lResponse = MsgBox(QStringLiteral("There are unsaved changes. Do you want to save them?"), vbYesNoCancel,
                                  QStringLiteral("Save Changes"));
     switch (lResponse) {
@@ -17,6 +17,4 @@ UnsavedChanges AskAboutUnsavedChanges() try {
         default:
             basErrLog::ErrUnexVal(QStringLiteral("lResponse"), lResponse);
     }
-} catch (...) {
-    ErrTail("UnsavedChanges!", "AskAboutUnsavedChanges");
 }

@@ -33,7 +33,7 @@ bool frmPrintTest::ShowForm(bool bPrintStarted) try { return m_frmTavlPrint->Sho
     ErrTail("frmPrintTest!", "ShowForm", bPrintStarted);
 }
 
-void frmPrintTest::ShowPage(const Picture& page) try {
+void frmPrintTest::ShowPage(const Picture& page) {
     const QSize most = (QSizeF(Screen::FreeArea().size()) * kMostOfScreen).toSize();
     const QSize shown = QSize(page.Width(), page.Height()).scaled(most, Qt::KeepAspectRatio);
     // Disabled with the main window while a page is under way.
@@ -43,6 +43,4 @@ void frmPrintTest::ShowPage(const Picture& page) try {
     picPage->PaintPicture(page, 0, 0, shown.width(), shown.height());
     basCommon::ShowEntireForm(*this);
     exec();
-} catch (...) {
-    ErrTail("frmPrintTest!", "ShowPage");
 }

@@ -38,7 +38,6 @@ public:
 
     /// Edges without half tones, for pictures that are to be flood-filled.
     void SetSmooth(bool smooth);
-    bool IsSmooth() const { return m_smooth; }
 
     /// Draws within the area, which may reach beyond the bounds; every pixel that comes out painted is
     /// combined with what is there by the binary operation (1 to 16).
