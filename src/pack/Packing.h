@@ -15,6 +15,9 @@
 /// can be told, then it is written.
 namespace Packing {
 
+/// Pixels of the board's picture, square: enough to recognise the game by.
+constexpr int kBoardSize = 960;
+
 /// A picture that goes in, once however many pieces show it.
 struct Picture {
     QString sPath;

@@ -55,6 +55,7 @@ private:
         if (m_option == QStringLiteral("-o") || m_option == QStringLiteral("--output"))
             return Text(m_arguments.sOutput);
         if (m_option == QStringLiteral("--board")) return Text(m_arguments.sBoard);
+        if (m_option == QStringLiteral("--pack")) return Text(m_arguments.sPack);
         if (m_option == QStringLiteral("--pieces")) return Text(m_arguments.sPieces);
         if (m_option == QStringLiteral("--data")) return Text(m_arguments.sData);
         if (m_option == QStringLiteral("--size")) return Number(m_arguments.iBoardSize, kMinBoardSize, kMaxBoardSize);
@@ -124,8 +125,8 @@ private:
         if (asked.sGame.isEmpty()) return Fail(QStringLiteral("no game file was given"));
         if (asked.sOutput.isEmpty() && !asked.sheets.isEmpty())
             return Fail(QStringLiteral("sheets need a file to go to: -o FILE.pdf"));
-        if (asked.sOutput.isEmpty() && asked.sBoard.isEmpty() && asked.sPieces.isEmpty())
-            return Fail(QStringLiteral("nothing to make: give -o, --board or --pieces"));
+        if (asked.sOutput.isEmpty() && asked.sBoard.isEmpty() && asked.sPieces.isEmpty() && asked.sPack.isEmpty())
+            return Fail(QStringLiteral("nothing to make: give -o, --board, --pieces or --pack"));
         return true;
     }
 
@@ -151,7 +152,10 @@ QString PrintArguments::Usage() {
   tavlora-print GAME.gam --sheet NAME... -o F.pdf   only these sheets
   tavlora-print GAME.gam --board B.png [--size N]   the board as a picture, N pixels square (default 960)
   tavlora-print GAME.gam --pieces DIR               every made picture (stickers, notes, tokens, titles) as PNG
+  tavlora-print GAME.gam --pack GAME.tavlora        the game with its pictures as one file, to be sent to somebody
   tavlora-print --list                              the sheets: name, title, stock, orientation
+
+Each of them takes a packed game (GAME.tavlora) in place of GAME.gam.
 
 Options:
   --paper letter|a4     paper of the PDF (default letter)

@@ -22,6 +22,8 @@ struct PrintArguments {
     /// PNG file of the board; empty for none.
     QString sBoard;
     int iBoardSize = kDefaultBoardSize;
+    /// File for the game with its pictures; empty for none.
+    QString sPack;
     /// Folder for the made pictures; empty for none.
     QString sPieces;
     bool bA4 = false;

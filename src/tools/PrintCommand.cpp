@@ -7,10 +7,13 @@
 #include "game/Session.h"
 #include "kit/GameKit.h"
 #include "kit/Sheets.h"
+#include "pack/Packing.h"
+#include "pack/Unpacking.h"
 #include "pieces/frmBMP.h"
 #include "platform/files/Console.h"
 #include "platform/files/Files.h"
 #include "platform/files/Folders.h"
+#include "platform/files/TextFile.h"
 #include "platform/pictures/SavePicture.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
@@ -39,6 +42,10 @@ QString TitleOf(const QString& sGame) {
     QString drive, dir, base, ext;
     basCommon::FileNameFactor(Console::CompletePath(sGame), drive, dir, base, ext);
     return base;
+}
+
+QString FindPicture(const QString& sName, const PictureOwner& owner) {
+    return PicturePlaces::FullFor(sName, owner, KitInUse());
 }
 
 // Reads the user's settings and pictures where the window program has them, and keeps everything that is
@@ -115,7 +122,7 @@ int PrintCommand::Run(const QStringList& words) {
 }
 
 int PrintCommand::Carry(const PrintArguments& arguments) {
-    for (const QString& output : {arguments.sOutput, arguments.sBoard}) {
+    for (const QString& output : {arguments.sOutput, arguments.sBoard, arguments.sPack}) {
         if (output.isEmpty() || !Console::IsSameFile(output, arguments.sGame)) continue;
         Complain(QStringLiteral("'%1' is the game itself and would be overwritten").arg(output));
         return kWrongUsage;
@@ -128,13 +135,25 @@ int PrintCommand::Carry(const PrintArguments& arguments) {
     PrintDesktop desktop([this](const QString& sText) { Complain(sText); });
     try {
         PrepareSettings(arguments, privateFolder.Path());
-        return PrintGame(arguments);
+        // Of no name that a made picture could have.
+        const TemporaryFolder unpacked(privateFolder.Path());
+        PrintArguments carried = arguments;
+        carried.sGame = GameOf(arguments.sGame, unpacked.Path());
+        return carried.sGame.isEmpty() ? kFailed : PrintGame(carried);
     } catch (const ProgramEnded&) {
         // What ended it has been told.
     } catch (const TavloraError& error) {
         Complain(basErrLog::ErrDismiss(error.Description()).simplified());
     }
     return kFailed;
+}
+
+QString PrintCommand::GameOf(const QString& sGame, const QString& sUnpackedFolder) {
+    if (!Unpacking::IsPacked(Console::CompletePath(sGame))) return sGame;
+    QString error;
+    const std::optional<QString> game = Unpacking::Unpack(Console::CompletePath(sGame), sUnpackedFolder, error);
+    if (!game) Complain(error);
+    return game.value_or(QString());
 }
 
 bool PrintCommand::LoadGame(const QString& sGame) {
@@ -156,7 +175,29 @@ int PrintCommand::PrintGame(const PrintArguments& arguments) {
     if (!arguments.sBoard.isEmpty() && !PaintBoard(arguments.sBoard, arguments.iBoardSize)) return kFailed;
     basPosit::PosSethDC(&session.MeasuringDevice());
     if (!arguments.sPieces.isEmpty() && !WritePieces(Console::CompletePath(arguments.sPieces))) return kFailed;
+    if (!arguments.sPack.isEmpty() && !PackGame(arguments.sGame, arguments.sPack)) return kFailed;
     return arguments.sOutput.isEmpty() ? kDone : PrintSheetsOf(arguments, sheets);
+}
+
+bool PrintCommand::PackGame(const QString& sGame, const QString& sPath) {
+    QString error;
+    const QString game = Console::CompletePath(sGame);
+    const std::optional<QStringList> lines = TextFile::ReadLines(game, error);
+    const std::optional<QByteArray> board = EncodePicture(basPosit::BoardPicture(Packing::kBoardSize), error);
+    basPosit::PosSethDC(&GameHost::Current().MeasuringDevice());
+    bool well = lines && board;
+    if (well) {
+        Packing::Contents contents = Packing::Gather(*lines, game, FindPicture);
+        contents.board = *board;
+        const auto tell = [this](int iThousandths) {
+            Progress(QStringLiteral("packing"), iThousandths);
+            return true;
+        };
+        well = Packing::Write(contents, Console::CompletePath(sPath), tell, error);
+    }
+    EndProgress();
+    if (!well) Complain(QStringLiteral("'%1' could not be written: %2").arg(sPath, error));
+    return well;
 }
 
 bool PrintCommand::PaintBoard(const QString& sPath, int lSize) {

@@ -25,6 +25,8 @@ public:
 
 private:
     int Carry(const PrintArguments& arguments);
+    /// The game's path, which for a packed game is what was unpacked into that folder; empty when it can't be unpacked.
+    QString GameOf(const QString& sGame, const QString& sUnpackedFolder);
     int PrintGame(const PrintArguments& arguments);
     /// A page of the printer's; sTold is shown with its progress. False when it isn't whole, which has then been told.
     bool PrintOneSheet(Printer& printer, const Sheet& sheet, const QString& sTold);
@@ -33,6 +35,8 @@ private:
     bool PaintBoard(const QString& sPath, int lSize);
     /// Every made picture into a folder, which is made if need be.
     bool WritePieces(const QString& sFolder);
+    /// The game with its pictures as one file.
+    bool PackGame(const QString& sGame, const QString& sPath);
     bool LoadGame(const QString& sGame);
     void List();
     void Complain(const QString& sText);

@@ -5,13 +5,16 @@
 
 #include <QBuffer>
 
-bool SavePicture(const Picture& picture, const QString& sPath, QString& sError) {
+std::optional<QByteArray> EncodePicture(const Picture& picture, QString& sError) {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
-    if (!picture.Image().save(&buffer, "PNG")) {
-        sError = QStringLiteral("The picture could not be encoded");
-        return false;
-    }
-    return Files::WriteWhole(sPath, bytes, sError);
+    if (picture.Image().save(&buffer, "PNG")) return bytes;
+    sError = QStringLiteral("The picture could not be encoded");
+    return std::nullopt;
+}
+
+bool SavePicture(const Picture& picture, const QString& sPath, QString& sError) {
+    const std::optional<QByteArray> bytes = EncodePicture(picture, sError);
+    return bytes && Files::WriteWhole(sPath, *bytes, sError);
 }
