@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "game/GameFile.h"
+#include "game/Refusal.h"
 
 #include <QByteArray>
 #include <QString>

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "game/Refusal.h"
+
 #include <QByteArray>
-#include <QString>
 
 #include <optional>
 
@@ -18,13 +19,6 @@ void GameLoad(QString& sFileName, int& iResult);
 /// unless the new one is complete. A disk that fills up only while the records are written is, as ever, no
 /// failure of the routine: the work is then kept by Autosave, which tells where it lies.
 void GameSave(const QString& sFileName, bool& bResult);
-
-/// What the disk said when a game was to be written.
-struct Refusal {
-    QString sError;
-    /// What was being written; empty behind the lines that are written one by one.
-    QString sDuring;
-};
 
 /// The game in hand as its file holds it.
 QByteArray Content();

@@ -115,6 +115,7 @@ public:
     const BrushHandle& CurrentBrush() const { return m_state.brush; }
     const FontHandle& CurrentFont() const { return m_state.font; }
     Color TextColor() const { return m_state.textColor; }
+    Color BkColor() const { return m_state.bkColor; }
     BkMode CurrentBkMode() const { return m_state.bkMode; }
 
     /// Keeps all that is selected; returns the depth to give to RestoreDC.
