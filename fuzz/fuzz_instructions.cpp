@@ -11,6 +11,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     clsRenderDestination destination;
     destination.Init(page, 0.125);
     const QString tag = QStringLiteral("a <TAVLORA> b");
-    destination.InstructionSheet({tag, tag, tag, tag, tag, tag, tag});
+    QString why;
+    destination.InstructionSheet({tag, tag, tag, tag, tag, tag, tag}, why);
     return 0;
 }

@@ -52,7 +52,9 @@ void clsBMP::SetFontInfo(const QString& sFont, int lSize, bool bBold, bool bItal
 
 bool clsBMP::OpenFileAndSaveHeaders(int lWidth, int lHeight, int lBitsPerPixel, Color lColor1, Color lColor0) try {
     QString error;
+    m_sWhyNotWritten.clear();
     if (!Files::Remove(m_sFullPathToBmpFile, error)) {
+        m_sWhyNotWritten = RefusedText(m_sFullPathToBmpFile, error);
         basMsgQueue::MsgQueue_Post(QStringLiteral("Unable to delete file named '") + m_sFullPathToBmpFile + kGap +
                                        QStringLiteral("The following error was reported: ") + kGap + error,
                                    vbOKOnly);

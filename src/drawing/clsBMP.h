@@ -64,6 +64,9 @@ public:
     /// table. False, after a box, when an old file is in the way. Raises when it can't be written.
     bool OpenFileAndSaveHeaders(int lWidth, int lHeight, int lBitsPerPixel, Color lColor1, Color lColor0);
 
+    /// Why the file begun last was refused; empty when it wasn't.
+    const QString& WhyNotWritten() const { return m_sWhyNotWritten; }
+
     /// Writes the top left lWidth by lHeight pixels of a context. A picture wider than the surface stands on
     /// it folded into bands lwRow wide, lhRow one below the other, and is unfolded here (24 bits only).
     bool CreateFileHoldingImage(const QString& sFile, DeviceContext& hDCSrce, int lWidth, int lHeight, int lwRow,
@@ -111,6 +114,7 @@ private:
     QString m_sFontName;
     int m_lFontSize = 0;
     QString m_sFullPathToBmpFile;
+    QString m_sWhyNotWritten;
     QString m_sFullPathToSrceFile;
     int m_lMargin = 0;
     bool m_bChanged = false;

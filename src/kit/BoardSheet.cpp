@@ -3,6 +3,7 @@
 
 #include "document/basTAVL.h"
 #include "kit/LabelSheet.h"
+#include "kit/PieceNames.h"
 #include "pictures/PaintPicture.h"
 #include "pieces/frmBMP.h"
 #include "pieces/MadePicture.h"
@@ -92,7 +93,8 @@ bool PlaceSpaces(SheetJob& job, clsRenderDestination& sheet, int iSide) {
     for (int iRow = 0; iRow < kRows; ++iRow) {
         for (int iCol = 0; iCol < kColumns; ++iCol) {
             job.Piece("Space", iRow * kColumns + iCol + 1, kRows * kColumns);
-            made = PlaceSpace(sheet, iSide, iRow, iCol) && made;
+            if (!PlaceSpace(sheet, iSide, iRow, iCol))
+                made = job.LacksPicture(PieceNames::Space(GetSpaceFromArrayCoordinates(iSide, iRow, iCol)));
             job.Progress(progress += kProgressPerSpace);
         }
     }
@@ -101,8 +103,8 @@ bool PlaceSpaces(SheetJob& job, clsRenderDestination& sheet, int iSide) {
 
 bool PlaceTitles(SheetJob& job, clsRenderDestination& sheet) {
     job.Progress(800);
-    if (!Make(kTitle)) return LabelSheet::Tell("Cannot create Title Image");
-    if (!Make(kSubtitle)) return LabelSheet::Tell("Cannot Subtitle Image");
+    if (!Make(kTitle)) return LabelSheet::TellTitle(job, kTitle, "Cannot create Title Image");
+    if (!Make(kSubtitle)) return LabelSheet::TellTitle(job, kSubtitle, "Cannot Subtitle Image");
     int title = 0;
     for (const TitlePiece& piece : kTitlePieces) {
         job.Piece("Title", ++title, int(std::size(kTitlePieces)));
@@ -122,7 +124,9 @@ bool PlaceCorners(SheetJob& job, clsRenderDestination& sheet) {
     for (const CornerPiece& piece : kCornerPieces) {
         job.Piece("Corner", iCorner + 1, int(std::size(kCornerPieces)));
         job.Progress(piece.iProgressBefore);
-        made = CornerStickerUsingBMP(sheet, iCorner++, piece.dblX, piece.dblY) && made;
+        if (!CornerStickerUsingBMP(sheet, iCorner, piece.dblX, piece.dblY))
+            made = job.LacksPicture(PieceNames::Corner(iCorner));
+        ++iCorner;
         sheet.Legend(piece.sngLegendX, piece.sngLegendY, QStringLiteral("left"), QString::fromLatin1(piece.sLegend),
                      basTAVL::g_lPrintBlack());
     }

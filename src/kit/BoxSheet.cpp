@@ -3,6 +3,7 @@
 
 #include "document/basTAVL.h"
 #include "kit/LabelSheet.h"
+#include "kit/PieceNames.h"
 #include "pieces/frmBMP.h"
 #include "pieces/MadePicture.h"
 #include "pieces/TitlePictures.h"
@@ -69,7 +70,7 @@ bool MakeBoxPictures(SheetJob& job) {
     int picture = 0;
     for (const BoxPicture& made : kBoxPictures) {
         job.Piece("Title", ++picture, int(std::size(kBoxPictures)));
-        if (!Make(made.picture)) return LabelSheet::Tell(made.sFailure);
+        if (!Make(made.picture)) return LabelSheet::TellTitle(job, made.picture, made.sFailure);
         job.Progress(made.iProgressAfter);
     }
     return true;
@@ -100,7 +101,7 @@ bool PlaceTokens(SheetJob& job, clsRenderDestination& sheet) {
     job.Progress(kProgressOfTokens);
     for (int i = 0; i < basTAVL::kTokens; ++i) {
         job.Piece("Token", i + 1, basTAVL::kTokens);
-        made = PlaceToken(sheet, i) && made;
+        if (!PlaceToken(sheet, i)) made = job.LacksPicture(PieceNames::Token(i));
         job.Progress(kProgressOfFirstToken + kProgressPerToken * i);
     }
     sheet.Legend(8.0F, kTokenRow + 1, QStringLiteral("left"), QStringLiteral("Game Token Stickers"),

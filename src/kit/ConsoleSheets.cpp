@@ -101,6 +101,13 @@ QString PdfMessage(const QString& sPath) {
         .arg(sPath);
 }
 
+QString LackingMessage(const QStringList& lacking) {
+    constexpr qsizetype kMost = 3;
+    QStringList lines = lacking.mid(0, kMost);
+    if (lacking.size() > kMost) lines.append(QStringLiteral("and %1 more.").arg(lacking.size() - kMost));
+    return lines.join(QStringLiteral("\r\n"));
+}
+
 QString DocumentName(const QString& sGame, const QString& sTitle) {
     QString drive;
     QString dir;

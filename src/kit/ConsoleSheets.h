@@ -53,6 +53,8 @@ QString NoPrinterMessage(const Printer& printer);
 QString SmallPageMessage(const Printer& printer, QSizeF needed);
 /// Tells where a PDF file is, and how it has to be printed.
 QString PdfMessage(const QString& sPath);
+/// What a sheet lacks: its first pieces, a line each, and how many more there are.
+QString LackingMessage(const QStringList& lacking);
 /// "Family - Box Top & Token Stickers" for the game's full path.
 QString DocumentName(const QString& sGame, const QString& sTitle);
 

@@ -6,6 +6,7 @@
 #include "document/basTAVL.h"
 #include "drawing/DrawDottedBox.h"
 #include "kit/DeedCards_layout.h"
+#include "kit/PieceNames.h"
 #include "pieces/MadePicture.h"
 #include "platform/files/Folders.h"
 #include "platform/printing/Printer.h"
@@ -68,10 +69,13 @@ QString OrnamentFile(const char* sName) {
     return basCommon::DoesFileExist(colored) ? colored : plain;
 }
 
-bool MakeSideBands(int iFirstSide, QStringList& made) {
+bool MakeSideBands(SheetJob& job, int iFirstSide, QStringList& made) {
     for (int side = iFirstSide; side < iFirstSide + kSidesOnSheet; ++side) {
         QString path;
-        if (!DeedSideColorBitmap(side, path)) return false;
+        if (!DeedSideColorBitmap(side, path)) {
+            TellNoDeeds();
+            return job.LacksPicture(QStringLiteral("The band of side %1").arg(side + 1));
+        }
         made.append(path);
     }
     return true;
@@ -88,7 +92,7 @@ bool PrintCards(SheetJob& job, clsRenderDestination& destination, int iSheet) {
         const int space = kSpaceOnSheet[iSheet - 1][p];
         const bool printed = BoardFacts::IsUtility(space) ? DeedCardTrans(destination, space, lX, lY, true)
                                                           : DeedCardProp(destination, space, lX, lY, true);
-        whole = whole && printed;
+        if (!printed) whole = job.LacksPicture(PieceNames::Deed(space));
     }
     return whole;
 }
@@ -100,10 +104,7 @@ bool PrintDeeds(SheetJob& job, int iSheet) try {
     clsRenderDestination destination;
     destination.Init(job.printer, 1.0);
     QStringList bands;
-    if (!MakeSideBands((iSheet - 1) * kSidesOnSheet, bands)) {
-        TellNoDeeds();
-        return false;
-    }
+    if (!MakeSideBands(job, (iSheet - 1) * kSidesOnSheet, bands)) return false;
     const bool whole = PrintCards(job, destination, iSheet);
     for (const QString& band : bands)
         MadePicture::Delete(band);

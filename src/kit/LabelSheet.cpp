@@ -5,9 +5,10 @@
 
 namespace LabelSheet {
 
-bool Tell(const char* sText) {
+bool TellTitle(SheetJob& job, TitlePictures::Title title, const char* sText) {
     MsgBox(QString::fromLatin1(sText));
-    return false;
+    return job.LacksPicture(title == TitlePictures::kTitle ? QStringLiteral("The title")
+                                                           : QStringLiteral("The subtitle"));
 }
 
 } // namespace LabelSheet

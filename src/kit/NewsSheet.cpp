@@ -68,7 +68,11 @@ bool PaintSheet<class NewsSheet>(SheetJob& job, int iWhich) {
         const int lX = CLng((i % kColumns * kCardWidth + kFirst) * destination.DPI());
         const int lY = CLng((iRow * kCardHeight + kFirst) * destination.DPI());
         const bool printed = NewsRender(destination, lX, lY, iWhich, i);
-        whole = whole && printed;
+        if (!printed) {
+            whole = job.LacksPicture(
+                (iWhich == kBadNews ? QStringLiteral("Bad News card %1") : QStringLiteral("Good News card %1"))
+                    .arg(i + 1));
+        }
     }
     return whole;
 }

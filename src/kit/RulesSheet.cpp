@@ -32,5 +32,6 @@ bool PaintSheet<class RulesSheet>(SheetJob& job, int) {
     job.printer.ForeColor = basTAVL::g_lPrintBlack();
     clsRenderDestination destination;
     destination.Init(job.printer, 1.0);
-    return destination.InstructionSheet(NamesOfGame());
+    QString why;
+    return destination.InstructionSheet(NamesOfGame(), why) || job.Lacks(QStringLiteral("The rules"), why);
 }

@@ -3,6 +3,9 @@
 
 #include "platform/paint/Picture.h"
 
+#include <QString>
+#include <QStringList>
+
 #include <functional>
 
 class Printer;
@@ -23,11 +26,18 @@ struct SheetJob {
     int nCopies = 1;
     /// What PrepareSheet has made, for all copies.
     Picture prepared = {};
+    /// What the page lacks and why, a sentence for each piece.
+    QStringList lacking = {};
+
+    /// Keeps that a piece is lacking, and why; always false. In the words of a sentence's beginning: "The title".
+    bool Lacks(const QString& sPiece, const QString& sWhy);
+    /// The same for a piece whose picture could not be made.
+    bool LacksPicture(const QString& sPiece);
 };
 
 /// Paints one page of a kind of sheet; iWhich is that of its row in the table. False when something is missing from
-/// the page, which has then been told. The file of the sheet defines it for the class that the row names: no header
-/// has to know of a new sheet, and a row without its file doesn't link.
+/// the page: the job then knows what it lacks, and whoever prints throws the page away. The file of the sheet defines
+/// it for the class that the row names: no header has to know of a new sheet, and a row without its file doesn't link.
 template <class Kind>
 bool PaintSheet(SheetJob& job, int iWhich);
 

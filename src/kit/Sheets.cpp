@@ -267,5 +267,6 @@ bool Sheet::Prepare(SheetJob& job) const { return !prepare || prepare(job, iWhic
 bool Sheet::Print(SheetJob& job) const {
     // A font, colour or pen that another sheet has left must never show on this one.
     job.printer.ForgetSettings();
+    job.lacking.clear();
     return paint(job, iWhich);
 }

@@ -81,8 +81,8 @@ struct Sheet {
 
     /// Makes what all copies share. False, after it has said so, when nothing may be printed.
     bool Prepare(SheetJob& job) const;
-    /// Paints one page, whatever sheet or copy was painted before it. False when something is missing from it,
-    /// which has then been told. Not for one that is left out.
+    /// Paints one page, whatever sheet or copy was painted before it. False when it isn't whole: the job knows what
+    /// it lacks, and the page has to be thrown away. Not for a sheet that is left out.
     bool Print(SheetJob& job) const;
 };
 

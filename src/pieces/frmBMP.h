@@ -34,6 +34,9 @@ public:
     // Sizes are inches. True when the file was written. A picture loaded from such a file in this run prints
     // as it was drawn: text as text, photos with their own pixels.
 
+    /// Why the last of them was not written, in a sentence that names the file; empty when it was.
+    const QString& WhyNotMade() const { return m_sWhyNotMade; }
+
     bool GenerateCornerImage(const QString& sFullPathDest, int iCorner);
     bool GenerateMoneyImage(const QString& sFullPathDest, int iMoney);
     /// One line of text, as wide as it comes out but at least dblwInches. Folded into bands while it is drawn
@@ -70,7 +73,7 @@ private:
     using DrawPiece = std::function<void(Surface&)>;
 
     /// dblDPI of the picture's pixels make an inch of the piece.
-    static bool WritePiece(const QString& sFullPathDest, QSize size, double dblDPI, const DrawPiece& draw);
+    bool WritePiece(const QString& sFullPathDest, QSize size, double dblDPI, const DrawPiece& draw);
 
     Pixels Drawn(const OwnedPicture& oImage, QSize size, Color backColor);
     Pixels DrawnSquare(const OwnedPicture& oImage, int lSide);
@@ -82,6 +85,7 @@ private:
     static void WriteThumb(const QString& sThumb, const Pixels& pixels);
 
     PictureHolder picOriginal;
+    QString m_sWhyNotMade;
     /// Used last stands first.
     std::list<Rendering> m_renderings;
 };

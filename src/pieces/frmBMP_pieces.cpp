@@ -58,9 +58,10 @@ bool frmBMP::WritePiece(const QString& sFullPathDest, QSize size, double dblDPI,
     ScratchForm form(size);
     draw(form);
     clsBMP file;
-    if (!file.CreateFileHoldingImage(sFullPathDest, form.hDC(), size.width(), size.height(), size.width(),
-                                     size.height(), 24))
-        return false;
+    const bool written = file.CreateFileHoldingImage(sFullPathDest, form.hDC(), size.width(), size.height(),
+                                                     size.width(), size.height(), 24);
+    m_sWhyNotMade = file.WhyNotWritten();
+    if (!written) return false;
     RecordingForm recording(size, dblDPI);
     draw(recording);
     KeepRecording(sFullPathDest, recording.Take());

@@ -237,9 +237,10 @@ bool frmBMP::GenerateSingleLineImage(const QString& sFullPathDest, double dblwIn
     for (int band = 0; band < line.lBands; ++band)
         PrintAt(form, line, text, band);
     clsBMP file;
-    if (!file.CreateFileHoldingImage(sFullPathDest, form.hDC(), line.lWidth, line.lHeight, line.lBandWidth,
-                                     line.lHeight, 24))
-        return false;
+    const bool written = file.CreateFileHoldingImage(sFullPathDest, form.hDC(), line.lWidth, line.lHeight,
+                                                     line.lBandWidth, line.lHeight, 24);
+    m_sWhyNotMade = file.WhyNotWritten();
+    if (!written) return false;
     RecordingForm recording(QSize(line.lWidth, line.lHeight), line.dblDPI);
     style.UseOn(recording);
     UseSize(recording, line.size);

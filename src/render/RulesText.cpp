@@ -100,7 +100,9 @@ bool ReadRulesLine(const QString& sLine, RulesLine& line) {
 
 RulesReading ReadRules(const QByteArray& bytes, const InstructionNames& names) {
     RulesReading reading;
+    int number = 0;
     for (const QString& raw : TextFile::SplitLines(TextFile::Decode(bytes))) {
+        ++number;
         const QString text = WithNames(raw, names);
         if (const std::optional<RulesBlock> block = BlockOf(text)) {
             reading.items.emplace_back(*block);
@@ -109,7 +111,11 @@ RulesReading ReadRules(const QByteArray& bytes, const InstructionNames& names) {
         if (text.trimmed().isEmpty()) continue;
         RulesLine line;
         reading.bWhole = ReadRulesLine(text, line);
-        if (!reading.bWhole) break;
+        if (!reading.bWhole) {
+            reading.sBadLine = raw;
+            reading.iBadLine = number;
+            break;
+        }
         reading.items.emplace_back(line);
     }
     return reading;

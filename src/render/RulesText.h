@@ -38,6 +38,9 @@ struct RulesReading {
     std::vector<std::variant<RulesBlock, RulesLine>> items;
     /// False: behind the items there is a line in another form, and nothing was read of it or beyond it.
     bool bWhole = true;
+    /// That line as it stands in the file, and its number, from 1.
+    QString sBadLine;
+    int iBadLine = 0;
 };
 
 /// Reads the rules from the bytes of their file.

@@ -73,8 +73,8 @@ public:
     void CornerStickerText(int iCorner, double dblX, double dblY, bool bIncludeImage);
 
     /// Prints the rules of the game on one page from the instruction file in the program's directory. False
-    /// when it stopped early; the reason has then been told.
-    bool InstructionSheet(const InstructionNames& names);
+    /// when it stopped early; a box has then said so, and sWhy names the file and the line.
+    bool InstructionSheet(const InstructionNames& names, QString& sWhy);
 
     /// Every occurrence of a tag replaced; goes on behind what it put in, so that a name holding the tag
     /// can't hang the print.

@@ -48,6 +48,14 @@ void TellBadLine() {
     MsgBox(QStringLiteral("An error occurred processing one of the lines in the GamePlay.dat file."));
 }
 
+QString BadLineText(const QString& sFile, const RulesReading& rules) {
+    constexpr qsizetype kMost = 60;
+    const QString line = rules.sBadLine.simplified();
+    return QStringLiteral("Line %1 of the file named '%2' is in no form that rules have: %3")
+        .arg(rules.iBadLine)
+        .arg(sFile, line.size() > kMost ? line.left(kMost) + QStringLiteral("...") : line);
+}
+
 } // namespace
 
 QString clsRenderDestination::MakeSubstitutions(const QString& sLine, const QString& sTag, const QString& sValue) {
@@ -76,12 +84,13 @@ void clsRenderDestination::PrintInstructionLine(const RulesLine& line, Cursor& c
     TextBlock(text, cursor.lX, cursor.lY, cursor.lWidth, line.sFont, lLine, line.bBold, line.bItalic, line.sAlign);
 }
 
-bool clsRenderDestination::InstructionSheet(const InstructionNames& names) try {
+bool clsRenderDestination::InstructionSheet(const InstructionNames& names, QString& sWhy) try {
     const QString sFile = InstructionFile();
     QString error;
     const std::optional<QByteArray> bytes = Files::ReadAll(sFile, error);
     if (!bytes) {
         TellMissing(sFile, error);
+        sWhy = QStringLiteral("The file named '%1' could not be read: %2").arg(sFile, error);
         return false;
     }
     const RulesReading rules = ReadRules(*bytes, names);
@@ -94,8 +103,10 @@ bool clsRenderDestination::InstructionSheet(const InstructionNames& names) try {
             cursor = {Pixels(place.dblX), Pixels(place.dblY), Pixels(place.dblWidth)};
         }
     }
-    if (!rules.bWhole) TellBadLine();
-    return rules.bWhole;
+    if (rules.bWhole) return true;
+    TellBadLine();
+    sWhy = BadLineText(sFile, rules);
+    return false;
 } catch (...) {
     ErrTail("clsRenderDestination!", "InstructionSheet");
 }

@@ -3,11 +3,14 @@
 
 #include "services/TavloraError.h"
 
-/// Raised when the disk refuses to write, move or delete a file. Its own reason, "Permission denied" and no
+/// What is told when the disk refuses to write, move or delete a file. Its own reason, "Permission denied" and no
 /// more, would leave the reader to guess which file is meant.
+inline QString RefusedText(const QString& sPath, const QString& sReason) {
+    return QStringLiteral("The file named '") + sPath + QStringLiteral("' could not be written or deleted: ") + sReason;
+}
+
 [[noreturn]] inline void ErrRaiseRefused(const QString& sPath, const QString& sReason) {
-    ErrRaise(ErrNumber::kFileAccess, QStringLiteral("The file named '") + sPath +
-                                         QStringLiteral("' could not be written or deleted: ") + sReason);
+    ErrRaise(ErrNumber::kFileAccess, RefusedText(sPath, sReason));
 }
 
 /// Raised for a picture that can't be had, for the same reason.

@@ -232,7 +232,12 @@ bool PrintCommand::PrintOneSheet(Printer& printer, const Sheet& sheet, const QSt
     }
     printer.SetOrientation(sheet.OrientationOf(kit));
     SheetJob job{printer, [this, sTold](int iThousandths) { Progress(sTold, iThousandths); }};
-    if (!sheet.Prepare(job) || !sheet.Print(job)) return false;
+    if (!sheet.Prepare(job)) return false;
+    if (!sheet.Print(job)) {
+        for (const QString& lack : job.lacking)
+            Complain(QString::fromLatin1(sheet.sName) + QStringLiteral(": ") + lack);
+        return false;
+    }
     printer.EndDoc();
     return true;
 }

@@ -55,11 +55,12 @@ protected:
     }
     void PrintRules(const QByteArray& text) {
         WriteFile(QStringLiteral("GamePlay.dat"), text);
-        destination.InstructionSheet(names);
+        destination.InstructionSheet(names, why);
     }
 
     PageOfText page;
     clsRenderDestination destination;
+    QString why;
     InstructionNames names{QStringLiteral("Family TAVLO"), QStringLiteral("Good News"), QStringLiteral("Bad News"),
                            QStringLiteral("Start"),        QStringLiteral("Detention"), QStringLiteral("Rest Stop"),
                            QStringLiteral("Fate!")};
@@ -153,12 +154,14 @@ TEST_F(InstructionSheetTest, BytesAreReadWithoutAPageOrABox) {
     EXPECT_TRUE(line.bBold);
     EXPECT_EQ(std::get<RulesBlock>(rules.items[2]), RulesBlock::Column2);
     EXPECT_EQ(std::get<RulesLine>(rules.items[3]).lSize, 8);
+    EXPECT_EQ(rules.iBadLine, 6);
+    EXPECT_EQ(rules.sBadLine, QStringLiteral("no text line"));
     EXPECT_TRUE(desktop.boxes.isEmpty());
     EXPECT_TRUE(ReadRules(QByteArray(), names).bWhole);
 }
 
 TEST_F(InstructionSheetTest, WithoutTheFileItSaysWhatIsMissing) {
-    destination.InstructionSheet(names);
+    destination.InstructionSheet(names, why);
     ASSERT_EQ(desktop.boxes.size(), 1);
     const QString text = desktop.boxes[0].sText;
     EXPECT_TRUE(text.startsWith(QStringLiteral("Unable to open the file named '") +
@@ -167,11 +170,20 @@ TEST_F(InstructionSheetTest, WithoutTheFileItSaysWhatIsMissing) {
         << qPrintable(text);
     EXPECT_TRUE(text.endsWith(QStringLiteral("\r\n\r\nThe instruction sheet cannot be printed without this file.")));
     EXPECT_EQ(desktop.boxes[0].iStyle, vbInformation);
+    EXPECT_TRUE(why.startsWith(QStringLiteral("The file named '") + PathOf(QStringLiteral("GamePlay_US.dat"))))
+        << qPrintable(why);
+}
+
+TEST_F(InstructionSheetTest, ALineInABadFormIsNamedByItsNumberAndItsBeginning) {
+    PrintRules("<Head>\r\n\r\n" + QByteArray("No layout at all, ").repeated(9) + "\r\n");
+    EXPECT_EQ(why, QStringLiteral("Line 3 of the file named '%1' is in no form that rules have: No layout at all, No "
+                                  "layout at all, No layout at all, No lay...")
+                       .arg(PathOf(QStringLiteral("GamePlay.dat"))));
 }
 
 TEST_F(InstructionSheetTest, TheShippedRulesFitThePage) {
     Folders::SetProgramDirectory(QStringLiteral(TAVLORA_DATA_DIR));
-    destination.InstructionSheet(names);
+    destination.InstructionSheet(names, why);
     EXPECT_TRUE(desktop.boxes.isEmpty());
     const QRect ink = page.Ink();
     EXPECT_GT(ink.height(), 700);

@@ -227,8 +227,12 @@ TEST_F(PrintCommandTest, OldOutputIsReplacedOnlyByACompleteOne) {
     WriteFile(QStringLiteral("out/sheet.pdf"), "old");
     WriteFile(QStringLiteral("program/GamePlay.dat"), "no layout at all\r\n");
     EXPECT_EQ(PrintRules(game), 1);
-    EXPECT_EQ(errors, QStringList{QStringLiteral(
-                          "tavlora-print: An error occurred processing one of the lines in the GamePlay.dat file.")});
+    EXPECT_EQ(errors,
+              (QStringList{QStringLiteral("tavlora-print: An error occurred processing one of the lines in the "
+                                          "GamePlay.dat file."),
+                           QStringLiteral("tavlora-print: rules: The rules could not be made: Line 1 of the file named "
+                                          "'%1' is in no form that rules have: no layout at all")
+                               .arg(PathOf(QStringLiteral("program/GamePlay.dat")))}));
     EXPECT_EQ(ReadFile(pdf), QByteArray("old"));
     EXPECT_EQ(OutFolder().size(), 1);
     WriteFile(QStringLiteral("program/GamePlay.dat"), "<Head>\r\ntimes,20,C,B:x\r\n");

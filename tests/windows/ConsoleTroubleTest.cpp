@@ -2,10 +2,34 @@
 // The print console when the printer or the disk lets it down: what a person is told, and what can still be done.
 #include "ConsoleFixture.h"
 
+#include "pieces/MadePicture.h"
+#include "windowing/SystemPrinter.h"
+
 namespace {
 
+constexpr int kBox = 0;
 constexpr int kWest = 1;
+constexpr int kEast = 3;
+constexpr int kGoodNews = 5;
 constexpr int kRules = 11;
+constexpr int kDeeds1 = 12;
+
+const QString kNotPrinted = QStringLiteral("This sheet could not be printed.\r\n\r\n");
+
+/// As long as it lives nothing can be written under the name of a made picture, as a folder bears it.
+class Blocked {
+public:
+    explicit Blocked(const char* sName) : m_path(MadePicture::PathOf(QString::fromLatin1(sName))) {
+        QFile::remove(m_path);
+        QDir().mkpath(m_path);
+    }
+    ~Blocked() { QDir().rmdir(m_path); }
+    Blocked(const Blocked&) = delete;
+    Blocked& operator=(const Blocked&) = delete;
+
+private:
+    QString m_path;
+};
 
 const QString kGone = QStringLiteral("The printer 'Laser' doesn't answer. Please see that it is switched on and "
                                      "connected, then print again.\r\n\r\nClick 'OK' to print nevertheless.");
@@ -47,4 +71,94 @@ TEST_F(ConsoleTest, ADiskThatFillsUpAmidASheetIsNamedAndTheWindowsAreFreeAgain) 
     EXPECT_TRUE(Shows("fraPrint_0"));
     Click(*console, "cmdCancel");
     EXPECT_FALSE(console->isVisible());
+}
+
+// ---- A sheet that isn't whole.
+
+TEST_F(ConsoleTest, ASheetThatIsNotWholeIsThrownAwayAndSaysWhichPieceFailedAndWhy) {
+    {
+        const Blocked blocked("TokenBMP2.bmp");
+        Print(kBox);
+    }
+    EXPECT_TRUE(printer.ended.isEmpty());
+    EXPECT_EQ(printer.killed, 1);
+    const QString told = desktop.boxes.constLast().sText;
+    EXPECT_TRUE(told.startsWith(kNotPrinted + QStringLiteral("Token 3 could not be made: "))) << qPrintable(told);
+    EXPECT_TRUE(told.contains(QStringLiteral("TokenBMP2.bmp"))) << qPrintable(told);
+    EXPECT_EQ(desktop.boxes.constLast().iStyle, vbExclamation);
+    EXPECT_FALSE(Hourglass());
+    Print(kBox);
+    EXPECT_EQ(printer.ended.size(), 1) << "the next one is printed";
+}
+
+TEST_F(ConsoleTest, EachKindOfPieceThatFailsIsNamed) {
+    basTAVL::g_oSpaces(5).SetText(QStringLiteral("Elm\r\nStreet"));
+    basTAVL::g_oSpaces(13).SetText(QStringLiteral("Oak Lane"));
+    basTAVL::g_oTokens(4).SetText(QStringLiteral("Car"));
+    const struct {
+        int sheet;
+        const char* file;
+        const char* told;
+    } rows[] = {
+        {kBox, "BmpTitle.temp", "The title could not be made: "},
+        {kBox, "BmpSubtitleML.temp", "The subtitle could not be made: "},
+        {kBox, "TokenBMP4.bmp", "The token 'Car' could not be made: "},
+        {kWest, "BmpOneFullSpace.bmp", "The space 'Oak Lane' could not be made: "},
+        {kWest, "CornerImage1.bmp", "Corner 2 could not be made: "},
+        {kEast, "BmpTitle.temp", "The title could not be made: "},
+        {kEast, "BmpSubtitle.temp", "The subtitle could not be made: "},
+        {kDeeds1, "Side1Image.bmp", "The band of side 2 could not be made: "},
+        {kDeeds1, "Rent5Image.bmp", "The deed of 'Elm Street' could not be made: "},
+        {kDeeds1, "TempDeedBMP1.temp", "The deed of space 2 could not be made: "},
+        {kGoodNews, "TempNewsBMP0.temp", "Good News card 1 could not be made: "},
+        {kGoodNews + 1, "TempNewsBMP1.temp", "Bad News card 1 could not be made: "},
+    };
+    for (const auto& row : rows) {
+        desktop.boxes.clear();
+        const Blocked blocked(row.file);
+        Print(row.sheet);
+        ASSERT_FALSE(desktop.boxes.isEmpty()) << row.file;
+        const QString told = desktop.boxes.constLast().sText;
+        EXPECT_TRUE(told.startsWith(kNotPrinted)) << qPrintable(told);
+        EXPECT_TRUE(told.contains(QString::fromLatin1(row.told))) << row.file << ": " << qPrintable(told);
+        EXPECT_TRUE(told.contains(QString::fromLatin1(row.file))) << qPrintable(told);
+        EXPECT_TRUE(printer.ended.isEmpty()) << row.file;
+    }
+}
+
+TEST_F(ConsoleTest, OfManyPiecesThatFailOnlyTheFirstAreNamed) {
+    const Blocked blocked("BmpOneFullSpace.bmp");
+    Print(kWest);
+    const QString told = desktop.boxes.constLast().sText;
+    EXPECT_EQ(told.count(QStringLiteral("could not be made")), 3) << qPrintable(told);
+    EXPECT_TRUE(told.endsWith(QStringLiteral("\r\nand 9 more."))) << qPrintable(told);
+}
+
+TEST_F(ConsoleTest, ALineOfTheRulesThatCannotBeReadIsNamedByItsNumber) {
+    const QString file = WriteFile(QStringLiteral("program/GamePlay.dat"), "<Head>\r\n\r\nno layout at all\r\n");
+    Folders::SetProgramDirectory(PathOf(QStringLiteral("program")));
+    Print(kRules);
+    EXPECT_TRUE(printer.ended.isEmpty());
+    EXPECT_EQ(desktop.boxes.constLast().sText,
+              kNotPrinted + QStringLiteral("The rules could not be made: Line 3 of the file named '%1' is in no form "
+                                           "that rules have: no layout at all")
+                                .arg(file));
+}
+
+TEST_F(ConsoleTest, APdfOfBeforeStaysWhenItsSheetFails) {
+    SystemPrinter system(PathOf(QStringLiteral("Printed")));
+    Printer* const before = Printer::Install(&system);
+    const QString pdf = PathOf(QStringLiteral("Printed/Ours - Box Top & Token Stickers.pdf"));
+    Print(kBox);
+    const QByteArray good = ReadFile(pdf);
+    EXPECT_TRUE(good.startsWith("%PDF-"));
+    EXPECT_TRUE(desktop.boxes.constLast().sText.startsWith(QStringLiteral("This sheet is now in the file")));
+    desktop.boxes.clear();
+    const Blocked blocked("BmpTitle.temp");
+    Print(kBox);
+    EXPECT_TRUE(ReadFile(pdf) == good);
+    EXPECT_EQ(QDir(PathOf(QStringLiteral("Printed"))).entryList(QDir::Files | QDir::Hidden).size(), 1);
+    for (const QString& told : desktop.Texts())
+        EXPECT_FALSE(told.contains(QStringLiteral("is now in the file"))) << qPrintable(told);
+    Printer::Install(before);
 }

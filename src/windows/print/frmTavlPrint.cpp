@@ -182,8 +182,11 @@ bool frmTavlPrint::PrintCopies(SheetJob& job, const Sheet& sheet, double dblFree
             MsgBox(why);
             return true;
         }
-        // A sheet that isn't whole has said why, and what there is of it comes on paper.
-        sheet.Print(job);
+        if (!sheet.Print(job)) {
+            // Neither paper nor the file of before is wasted on a page with holes.
+            m_sFailure = ConsoleSheets::LackingMessage(job.lacking);
+            return true;
+        }
         MarkDone(sheet, sDone);
         CloseDocument(job.printer);
     }
