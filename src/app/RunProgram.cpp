@@ -9,6 +9,7 @@
 #include "pictures/PicturePlaces.h"
 #include "pieces/frmBMP.h"
 #include "platform/files/Folders.h"
+#include "platform/files/Temporaries.h"
 #include "platform/paint/Units.h"
 #include "platform/pictures/LoadPicture.h"
 #include "platform/text/Numbers.h"
@@ -58,7 +59,10 @@ int Start(DesktopWidgets& desktop) {
     ProgramLock lock(basCommon::GetMyGamesDirectory());
     const GamesFolder::Taking taking = GamesFolder::Take(lock, game);
     if (taking != GamesFolder::Taking::GoesOn) return taking == GamesFolder::Taking::HandedOver ? 0 : kNotStarted;
-    desktop.SetAtEnd(std::bind(&ProgramLock::Release, &lock));
+    desktop.SetAtEnd([&lock] {
+        lock.Release();
+        Temporaries::RemoveHeld();
+    });
     // Not before: a start that only hands over its game would end amid the decoding.
     PrefetchOwnPictures();
 

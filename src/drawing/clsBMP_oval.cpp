@@ -9,6 +9,7 @@
 #include "services/basMsgQueue.h"
 #include "services/basPath.h"
 #include "services/Desktop.h"
+#include "services/WorkFiles.h"
 
 #include <algorithm>
 #include <cmath>
@@ -43,6 +44,18 @@ Pixels WhiteEllipse(QSize size) {
         std::fill(row.begin() + span.iFirst, row.begin() + span.iStop, kWhite);
     }
     return mask;
+}
+
+// Whether it may be replaced: nothing else that bears the name is.
+bool IsOval(const QString& sCopy) {
+    constexpr int kHeads = basBMP::FileHead::kSize + basBMP::InfoHead::kSize;
+    const qint64 size = kHeads + basBMP::RowBytes24(clsBMP::kOval.width()) * clsBMP::kOval.height();
+    BinaryFile file;
+    QString error;
+    if (Files::Size(sCopy) != size || !file.OpenForReading(sCopy, error)) return false;
+    const bool bitmap = file.U16() == basBMP::FileHead::kType && file.U32() == size;
+    file.Seek(basBMP::FileHead::kSize + int(sizeof(quint32)));
+    return bitmap && file.S32() == clsBMP::kOval.width() && file.S32() == clsBMP::kOval.height();
 }
 
 } // namespace
@@ -122,8 +135,11 @@ Picture clsBMP::GetEllipticalPicture(const QString& sImagePath, const QString& s
         }
         return {};
     }
-    const QString sCopy = CopyOf(sImagePath);
-    if (!IsCopyUsable(sCopy, sImagePath) && !MakeEllipticalCopy(sCopy, sImagePath, told, bGray)) return {};
+    // A file of the user's that bears the name stays as it is.
+    const bool free = !Files::Exists(CopyOf(sImagePath)) || IsOval(CopyOf(sImagePath));
+    const QString sCopy = free ? CopyOf(sImagePath) : WorkFiles::PathOf(QStringLiteral("Oval.bmp"));
+    const bool usable = free && IsCopyUsable(sCopy, sImagePath);
+    if (!usable && !MakeEllipticalCopy(sCopy, sImagePath, told, bGray)) return {};
     QString error;
     m_oPicture = LoadPicture(sCopy, error);
     return m_oPicture;

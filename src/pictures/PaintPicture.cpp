@@ -14,6 +14,7 @@
 #include "services/basMsgQueue.h"
 #include "services/basPath.h"
 #include "services/Desktop.h"
+#include "services/WorkFiles.h"
 
 #include <QRect>
 
@@ -28,7 +29,7 @@ const QString kEmptyArea = QStringLiteral("The area will be left empty.");
 
 // The copy of a line drawing in another colour; null when there can't be one.
 Picture Recolored(const QString& sPath, Color lBackColor) {
-    const QString temporary = basCommon::JoinPath(basCommon::GetMyGamesDirectory(), QStringLiteral("TempImage.bmp"));
+    const QString temporary = WorkFiles::PathOf(QStringLiteral("TempImage.bmp"));
     if (!basBMP::ChangeMonoBmpBackColor(sPath, temporary, lBackColor)) return {};
     QString error;
     return LoadPicture(temporary, error);

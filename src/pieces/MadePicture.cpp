@@ -5,14 +5,14 @@
 #include "platform/paint/Surface.h"
 #include "platform/pictures/LoadPicture.h"
 #include "services/basErrLog.h"
-#include "services/basPath.h"
 #include "services/FileRefused.h"
+#include "services/WorkFiles.h"
 
 #include <QRect>
 
 namespace MadePicture {
 
-QString PathOf(const QString& sName) { return basCommon::JoinPath(basCommon::GetMyGamesDirectory(), sName); }
+QString PathOf(const QString& sName) { return WorkFiles::PathOf(sName); }
 
 void Paint(Surface& surface, const QString& sFile, const QRect& box) {
     QString error;

@@ -6,7 +6,7 @@
 class QRect;
 class Surface;
 
-/// A picture of a piece that lies in the My Games directory while its sheet is printed.
+/// A picture of a piece that lies among the working files while its sheet is printed.
 namespace MadePicture {
 
 QString PathOf(const QString& sName);

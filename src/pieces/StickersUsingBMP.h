@@ -3,7 +3,7 @@
 
 class clsRenderDestination;
 
-/// Stickers that come as a made picture: the picture is written into My Games, painted and deleted.
+/// Stickers that come as a made picture: the picture is written, painted and deleted.
 /// Positions are inches; when it can't be made a box says so, the place stays blank and the answer is false.
 
 /// A corner, 2.125 inches square, without a cut line.

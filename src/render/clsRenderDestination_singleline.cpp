@@ -9,8 +9,8 @@
 #include "platform/text/Numbers.h"
 #include "render/clsRenderDestination.h"
 #include "services/basErrLog.h"
-#include "services/basPath.h"
 #include "services/FileRefused.h"
+#include "services/WorkFiles.h"
 
 namespace {
 
@@ -19,8 +19,7 @@ bool KeepsItsFile(int iItem) { return iItem >= 1 && iItem <= 3; }
 
 QString TempFileOf(int iItem) {
     const QString sName = KeepsItsFile(iItem) ? QStringLiteral("TempBMP") : QStringLiteral("TempTextBMP");
-    return basCommon::JoinPath(basCommon::GetMyGamesDirectory(),
-                               sName + QString::number(iItem) + QStringLiteral(".temp"));
+    return WorkFiles::PathOf(sName + QString::number(iItem) + QStringLiteral(".temp"));
 }
 
 } // namespace

@@ -8,8 +8,10 @@
 struct ProgramSettings {
     /// Last part of argv[0] as started, without extension. Names the INI file, its section and the log.
     QString sProgramName = QStringLiteral("tavlora");
-    /// Folder for settings, log, autosave, thumbnails and temporary files. Empty until first asked for.
+    /// Folder for settings, log, autosave and thumbnails. Empty until first asked for.
     QString sMyGamesDirectory;
+    /// Folder of this run alone, for files that are made only to be read again. Empty until first asked for.
+    QString sWorkDirectory;
     /// Folder in which relative pictures are looked for first; empty means the My Games directory. Only
     /// tavlora-print sets the two apart, so that it leaves nothing in the user's folder.
     QString sRelativePictureBase;

@@ -55,6 +55,7 @@ void PrepareSettings(const PrintArguments& arguments, const QString& sPrivateFol
     ProgramSettings& settings = Settings();
     settings.sProgramName = kProgramName;
     settings.sMyGamesDirectory = sPrivateFolder;
+    settings.sWorkDirectory = sPrivateFolder;
     if (settings.sRelativePictureBase.isEmpty()) settings.sRelativePictureBase = userFolder;
     if (settings.sIniDirectory.isEmpty()) settings.sIniDirectory = userFolder;
     settings.bIniReadOnly = true;

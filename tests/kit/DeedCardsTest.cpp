@@ -321,7 +321,6 @@ TEST_F(DeedCardsTest, TextsHaveTheInkOfTheGame) {
 }
 
 TEST_F(DeedCardsTest, ABandThatCannotBeMadeIsToldAndEndsTheSheet) {
-    WriteFile(QStringLiteral("games/Side1Image.bmp"), "in the way");
     RefuseToReplace(QStringLiteral("Side1Image.bmp"));
     EXPECT_FALSE(PrintSheet(1));
     EXPECT_EQ(desktop.boxes.last().sText, QStringLiteral("Cannot draw title deeds at this time."));
@@ -330,7 +329,6 @@ TEST_F(DeedCardsTest, ABandThatCannotBeMadeIsToldAndEndsTheSheet) {
 
 TEST_F(DeedCardsTest, APriceThatCannotBeMadeIsToldAndEndsItsCardOnly) {
     if (!PdfReader::IsInstalled()) GTEST_SKIP() << "poppler's tools are not installed";
-    WriteFile(QStringLiteral("games/Rent2Image.bmp"), "in the way");
     RefuseToReplace(QStringLiteral("Rent2Image.bmp"));
     EXPECT_FALSE(PrintSheet(1));
     EXPECT_EQ(desktop.boxes.last().sText, QStringLiteral("Cannot draw title deeds at this time."));

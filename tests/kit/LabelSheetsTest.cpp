@@ -17,6 +17,7 @@
 #include "support/BoardFixture.h"
 #include "support/PdfReader.h"
 #include "support/PictureFiles.h"
+#include "support/WorkingFiles.h"
 
 #include <QFile>
 #include <QPainter>
@@ -248,7 +249,7 @@ TEST_F(LabelSheetsTest, BoxTellsHowFarItIsAndLeavesNoTitleFiles) {
     ASSERT_TRUE(PrintBox());
     EXPECT_EQ(steps, (QList<int>{10,  300, 450, 575, 680, 700, 720, 740, 760, 780,  800,
                                  820, 840, 860, 880, 900, 920, 940, 960, 980, 1000, -1}));
-    EXPECT_TRUE(QDir(PathOf(QStringLiteral("games"))).entryList({QStringLiteral("*.temp")}).isEmpty());
+    EXPECT_TRUE(WorkingFilesLeft(QStringLiteral("*.temp")).isEmpty());
 }
 
 TEST_F(LabelSheetsTest, BoxEndsAtTheFirstTitleThatCannotBeMade) {
@@ -263,7 +264,6 @@ TEST_F(LabelSheetsTest, BoxEndsAtTheFirstTitleThatCannotBeMade) {
     };
     for (const auto& row : rows) {
         const QString file = QString::fromLatin1(row.file);
-        WriteFile(QStringLiteral("games/") + file, "in the way");
         Files::SetFaultHook([file](Files::Operation operation, const QString& sPath) -> std::optional<QString> {
             if (operation == Files::Operation::Remove && sPath.endsWith(file))
                 return QStringLiteral("Permission denied");
@@ -273,7 +273,6 @@ TEST_F(LabelSheetsTest, BoxEndsAtTheFirstTitleThatCannotBeMade) {
         EXPECT_EQ(desktop.boxes.last().sText, QString::fromLatin1(row.told));
         EXPECT_NE(steps.last(), -1);
         Files::SetFaultHook({});
-        QFile::remove(PathOf(QStringLiteral("games/") + file));
     }
 }
 
@@ -318,7 +317,7 @@ TEST_F(LabelSheetsTest, EveryPieceOfTheEastSheetStandsAtItsPlace) {
     ExpectPiece(QRectF(0.05, 7.1, 7.275, 0.49), kGround, QStringLiteral("subtitle"));
     ExpectCaption(0.05, 7.61, QStringLiteral("Game Board Subtitle"), true);
     EXPECT_EQ(steps, (QList<int>{50, 100, 150, 200, 250, 300, 350, 400, 450, 500, 550, 600, 650, 800, 900, 950, -1}));
-    EXPECT_TRUE(QDir(PathOf(QStringLiteral("games"))).entryList({QStringLiteral("*.temp")}).isEmpty());
+    EXPECT_TRUE(WorkingFilesLeft(QStringLiteral("*.temp")).isEmpty());
 }
 
 TEST_F(LabelSheetsTest, Edge_TheRightHandStickersEndAt998HundredthsOfAnInch) {
@@ -330,7 +329,6 @@ TEST_F(LabelSheetsTest, Edge_TheRightHandStickersEndAt998HundredthsOfAnInch) {
 
 TEST_F(LabelSheetsTest, Edge_ACornerThatCannotBeMadeLeavesItsSquareBlankWhileItsCaptionPrints) {
     if (!PdfReader::IsInstalled()) GTEST_SKIP() << "poppler's tools are not installed";
-    WriteFile(QStringLiteral("games/CornerImage1.bmp"), "in the way");
     Files::SetFaultHook([](Files::Operation operation, const QString& sPath) -> std::optional<QString> {
         if (operation == Files::Operation::Remove && sPath.endsWith(QStringLiteral("CornerImage1.bmp")))
             return QStringLiteral("Permission denied");
@@ -344,7 +342,6 @@ TEST_F(LabelSheetsTest, Edge_ACornerThatCannotBeMadeLeavesItsSquareBlankWhileIts
 }
 
 TEST_F(LabelSheetsTest, ATitleOfTheBoardThatCannotBeMadeEndsTheSheet) {
-    WriteFile(QStringLiteral("games/BmpSubtitle.temp"), "in the way");
     Files::SetFaultHook([](Files::Operation operation, const QString& sPath) -> std::optional<QString> {
         if (operation == Files::Operation::Remove && sPath.endsWith(QStringLiteral("BmpSubtitle.temp")))
             return QStringLiteral("Permission denied");

@@ -2,6 +2,7 @@
 // The play money as a reader of the printed page finds it.
 #include "kit/Sheets.h"
 #include "platform/printing/PicturePrinter.h"
+#include "services/WorkFiles.h"
 #include "support/SheetFixture.h"
 
 namespace {
@@ -26,7 +27,7 @@ protected:
     bool PrintCopies(int nCopies) {
         return Print([&](SheetJob& job) {
             EXPECT_TRUE(money500.Prepare(job));
-            EXPECT_TRUE(QFile::exists(PathOf(QStringLiteral("games/MoneyImage.bmp"))));
+            EXPECT_TRUE(QFile::exists(WorkFiles::PathOf(QStringLiteral("MoneyImage.bmp"))));
             job.nCopies = nCopies;
             for (job.iCopy = 0; job.iCopy < nCopies; ++job.iCopy) {
                 if (!money500.Print(job)) return false;
@@ -99,7 +100,6 @@ TEST_F(MoneySheetTest, APhotoIsStoredOnceForAllNotes) {
 }
 
 TEST_F(MoneySheetTest, APictureThatCannotBeMadeIsTold) {
-    WriteFile(QStringLiteral("games/MoneyImage.bmp"), "in the way");
     RefuseToReplace(QStringLiteral("MoneyImage.bmp"));
     PicturePrinter page(60);
     SheetJob job{page};

@@ -137,7 +137,6 @@ TEST_F(NewsSheetTest, CardsHaveTheColorOfTheirDeck) {
 TEST_F(NewsSheetTest, AHeadThatCannotBeMadeIsToldAndEndsItsCard) {
     for (const int deck : {kGood, kBad}) {
         const QString file = QStringLiteral("TempNewsBMP%1.temp").arg(deck);
-        WriteFile(QStringLiteral("games/") + file, "in the way");
         RefuseToReplace(file);
         EXPECT_FALSE(PrintCard(deck));
         EXPECT_EQ(desktop.boxes.last().sText, deck == kGood ? QStringLiteral("Cannot create good news card bitmap.")

@@ -8,6 +8,7 @@
 #include "services/basErrLog.h"
 #include "services/basMsgQueue.h"
 #include "services/TavloraError.h"
+#include "services/WorkFiles.h"
 #include "support/PictureFiles.h"
 #include "support/StartUp.h"
 #include "support/TestFixture.h"
@@ -119,7 +120,8 @@ TEST_F(C_ImagePaintTest, LineDrawingTakesAPaperColourWithRedAndBlueExchanged) {
     image.PaintPictureCentered(form, 0, 0, 100, 100, Color::Rgb(10, 20, 30));
     EXPECT_EQ(form.Image().pixel(20, 50), kBlack);
     EXPECT_EQ(form.Image().pixel(80, 50), qRgb(30, 20, 10));
-    EXPECT_TRUE(Files::Exists(PathOf(QStringLiteral("TempImage.bmp"))));
+    EXPECT_TRUE(Files::Exists(WorkFiles::PathOf(QStringLiteral("TempImage.bmp"))));
+    EXPECT_FALSE(Files::Exists(PathOf(QStringLiteral("TempImage.bmp"))));
 }
 
 TEST_F(C_ImagePaintTest, APictureWiderThanACentreReachesIsPaintedAllTheSame) {
@@ -228,10 +230,11 @@ TEST_F(C_ImagePaintTest, FateIsPaintedFromTheKit) {
 }
 
 TEST_F(C_ImagePaintTest, BrokenThumbnailIsToldOnceAndNotThePicture) {
+    // The corner whose thumbnail is a file of the kit.
+    Folders::SetProgramDirectory(folder.path());
+    WriteFile(QStringLiteral("fate.dat"), "BM");
     C_Image image;
-    image.Init(Photo(QStringLiteral("p.png"), 30, 20), QStringLiteral("Space"), 4);
-    image.GetThumbnail(false);
-    WriteFile(QStringLiteral("Space4.bmp"), "BM");
+    image.Init(Photo(QStringLiteral("p.png"), 30, 20), QStringLiteral("Corner"), 3);
     image.DrawBitmapToScreen(form, 0, 0, 50, 50);
     image.DrawBitmapToScreen(form, 0, 0, 50, 50);
     EXPECT_EQ(desktop.boxes.size(), 1);

@@ -9,6 +9,7 @@
 #include "platform/printing/Printer.h"
 #include "render/clsRenderDestination.h"
 #include "services/basCommon.h"
+#include "services/WorkFiles.h"
 #include "support/GameFixture.h"
 #include "support/MetafileBuilder.h"
 #include "support/StartUp.h"
@@ -343,7 +344,6 @@ TEST_F(PiecesTest, ACornerThatCannotBeMadeSaysSo) {
     ScratchForm form(QSize(400, 400));
     clsRenderDestination destination;
     destination.Init(form, 1.0);
-    WriteFile(QStringLiteral("CornerImage1.bmp"), "in the way");
     Files::SetFaultHook([](Files::Operation operation, const QString& sPath) -> std::optional<QString> {
         if (operation == Files::Operation::Remove && sPath.endsWith(QStringLiteral(".bmp")))
             return QStringLiteral("Permission denied");
@@ -361,7 +361,7 @@ TEST_F(PiecesTest, Edge_AStickersFileIsDeletedOnlyAfterItWasPainted) {
     destination.Init(form, 1.0);
     CornerStickerUsingBMP(destination, 1, 0.5, 0.5);
     EXPECT_EQ(form.hDC().GetPixel(150, 150), Color::Rgb(0xB6, 0xDD, 0xC7));
-    EXPECT_FALSE(Files::Exists(PathOf(QStringLiteral("CornerImage1.bmp"))));
+    EXPECT_FALSE(Files::Exists(WorkFiles::PathOf(QStringLiteral("CornerImage1.bmp"))));
     Files::SetFaultHook([](Files::Operation operation, const QString& sPath) -> std::optional<QString> {
         if (operation == Files::Operation::Read && sPath.endsWith(QStringLiteral("CornerImage1.bmp")))
             return QStringLiteral("Input/output error");
@@ -369,7 +369,7 @@ TEST_F(PiecesTest, Edge_AStickersFileIsDeletedOnlyAfterItWasPainted) {
     });
     ForgetPictures();
     EXPECT_THROW(CornerStickerUsingBMP(destination, 1, 0.5, 0.5), TavloraError);
-    EXPECT_TRUE(Files::Exists(PathOf(QStringLiteral("CornerImage1.bmp"))));
+    EXPECT_TRUE(Files::Exists(WorkFiles::PathOf(QStringLiteral("CornerImage1.bmp"))));
 }
 
 TEST_F(PiecesTest, ASpaceStickerHasCutLinesRoundIt) {

@@ -8,6 +8,7 @@
 #include "platform/files/Folders.h"
 #include "platform/printing/Printer.h"
 #include "services/basErrLog.h"
+#include "services/WorkFiles.h"
 #include "support/TestFixture.h"
 
 #include <QProcess>
@@ -103,10 +104,10 @@ TEST_F(RenderDestinationTest, ASingleLineFillsItsBoxWhateverItsProportions) {
     destination.SingleLine(0, sArial, true, false, 1, 1, 4, 1, 0.5, 0, Color::Black(), Color::White());
     EXPECT_GT(Ink().width(), 300);
     EXPECT_GT(Ink().height(), 60);
-    EXPECT_FALSE(Files::Exists(PathOf(QStringLiteral("TempTextBMP0.temp"))));
+    EXPECT_FALSE(Files::Exists(WorkFiles::PathOf(QStringLiteral("TempTextBMP0.temp"))));
     basPosit::m_CenterText(2).sText = QStringLiteral("Sub");
     destination.SingleLine(2, sArial, true, false, 1, 1, 4, 1, 0.5, 0, Color::Black(), Color::White());
-    EXPECT_TRUE(Files::Exists(PathOf(QStringLiteral("TempBMP2.temp"))));
+    EXPECT_TRUE(Files::Exists(WorkFiles::PathOf(QStringLiteral("TempBMP2.temp"))));
 }
 
 TEST_F(RenderDestinationTest, ASingleLineIsPrintedAsText) {

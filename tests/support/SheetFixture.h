@@ -11,6 +11,7 @@
 #include "services/basCommon.h"
 #include "support/BoardFixture.h"
 #include "support/PdfReader.h"
+#include "support/WorkingFiles.h"
 
 /// An upright page of cards or notes, printed with the rents of the shipped kit and read back by tools that know
 /// nothing of this program. Places are inches from the printable origin.
@@ -58,11 +59,10 @@ protected:
             return std::nullopt;
         });
     }
-    /// Temporary files that a sheet has left in the games folder.
-    QStringList LeftBehind() const {
-        return QDir(PathOf(QStringLiteral("games"))).entryList({QStringLiteral("*.temp"), QStringLiteral("*.bmp")});
+    /// Working files that a sheet has left.
+    static QStringList LeftBehind() {
+        return WorkingFilesLeft(QStringLiteral("*.temp")) + WorkingFilesLeft(QStringLiteral("*.bmp"));
     }
-
     static QRectF Grown(const QRectF& box, double by) { return box.adjusted(-by, -by, by, by); }
     static void ExpectBox(const QRectF& found, const QRectF& told, const QString& sWhat) {
         const std::string what = sWhat.toStdString();

@@ -2,6 +2,7 @@
 // The print console as a person works it, with a printer and a disk of the test's making.
 #include "ConsoleFixture.h"
 
+#include "services/WorkFiles.h"
 #include "windowing/PictureBox.h"
 #include "windows/print/frmPrintTest.h"
 
@@ -296,7 +297,7 @@ TEST_F(ConsoleTest, TheBarShowsThousandthsAndEachChangeLetsEventsRun) {
 }
 
 TEST_F(ConsoleTest, WithoutItsPictureMoneyIsNotPrintedAndTheConsoleStaysShut) {
-    const QString picture = PathOf(QStringLiteral("games/MoneyImage.bmp"));
+    const QString picture = WorkFiles::PathOf(QStringLiteral("MoneyImage.bmp"));
     QDir().mkpath(picture); // no file can be written where a folder is
     Print(kMoney100);
     ASSERT_FALSE(desktop.boxes.isEmpty());
@@ -451,10 +452,10 @@ TEST_F(ConsoleTest, TheAidsForRecolouringMoneyWork) {
     EXPECT_EQ(desktop.Texts(), QStringList{QStringLiteral("failure")});
     QImage mono(40, 20, QImage::Format_Mono);
     mono.fill(1);
-    mono.save(PathOf(QStringLiteral("games/MoneyImage.bmp")));
+    mono.save(WorkFiles::PathOf(QStringLiteral("MoneyImage.bmp")));
     console->Command1_Click();
     EXPECT_EQ(desktop.boxes.size(), 1);
-    EXPECT_TRUE(QFile::exists(PathOf(QStringLiteral("games/MoneyImage2.bmp"))));
+    EXPECT_TRUE(QFile::exists(WorkFiles::PathOf(QStringLiteral("MoneyImage2.bmp"))));
     EXPECT_TRUE(Control("Command1").isHidden());
     QWidget& test = Control("picTest");
     test.show();

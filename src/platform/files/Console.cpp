@@ -96,6 +96,8 @@ TemporaryFolder::TemporaryFolder(const QString& sIn) { Make(sIn, false); }
 
 void TemporaryFolder::Make(const QString& sIn, bool bForThisUserOnly) {
     constexpr int kTries = 5;
+    // The toolkit names no folder where the one in the environment is missing, and would mean the current one.
+    if (sIn.isEmpty()) return;
     const auto owner = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
     Temporaries::ClearLeftovers(sIn);
     for (int i = 0; i < kTries && m_path.isEmpty(); ++i) {

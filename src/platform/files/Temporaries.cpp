@@ -35,8 +35,9 @@ struct State {
     QSet<QString> cleared;
 };
 
+// Never destroyed: a folder may be let go at the very end of the program.
 State& TheState() {
-    static State state;
+    static State& state = *new State;
     return state;
 }
 

@@ -5,11 +5,11 @@
 #include "document/GameHost.h"
 #include "drawing/basBMP.h"
 #include "kit/ConsoleSheets.h"
+#include "pieces/MadePicture.h"
 #include "platform/paint/Units.h"
 #include "platform/printing/Printer.h"
 #include "services/basAPI.h"
 #include "services/basErrLog.h"
-#include "services/basPath.h"
 #include "windowing/ElidedLabel.h"
 #include "windowing/PictureBox.h"
 #include "windowing/Screen.h"
@@ -272,9 +272,8 @@ bool frmTavlPrint::CheckForNagMessage() try {
 }
 
 void frmTavlPrint::Command1_Click() try {
-    const QString folder = basCommon::GetMyGamesDirectory();
-    const bool written = basBMP::ChangeMonoBmpBackColor(basCommon::JoinPath(folder, QStringLiteral("MoneyImage.bmp")),
-                                                        basCommon::JoinPath(folder, QStringLiteral("MoneyImage2.bmp")),
+    const bool written = basBMP::ChangeMonoBmpBackColor(MadePicture::PathOf(QStringLiteral("MoneyImage.bmp")),
+                                                        MadePicture::PathOf(QStringLiteral("MoneyImage2.bmp")),
                                                         basTAVL::g_oMoney(0).BackColor);
     if (!written) MsgBox(QStringLiteral("failure"));
 } catch (...) {
