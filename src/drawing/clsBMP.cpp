@@ -69,7 +69,7 @@ bool clsBMP::OpenFileAndSaveHeaders(int lWidth, int lHeight, int lBitsPerPixel, 
     m_info.bmiHeader =
         basBMP::InfoHead{basBMP::InfoHead::kSize, lWidth,        lHeight, 1, quint16(lBitsPerPixel), 0, quint32(pixels),
                          kDotsPerMetre,           kDotsPerMetre, 0,       0};
-    if (!m_file.OpenEmpty(m_sFullPathToBmpFile, error)) ErrRaiseRefused(m_sFullPathToBmpFile, error);
+    if (!m_file.OpenNew(m_sFullPathToBmpFile, error)) ErrRaiseRefused(m_sFullPathToBmpFile, error);
     basBMP::WriteFileHead(m_file, m_fileHead);
     basBMP::WriteInfoHead(m_file, m_info);
     if (mono) {

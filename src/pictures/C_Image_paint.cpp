@@ -39,7 +39,9 @@ QString C_Image::Thumbname() const try {
     ErrTail("C_Image!", "Thumbname");
 }
 
-void C_Image::KillThumb() const { ThumbnailStore::Instance().Delete(Owner()); }
+void C_Image::KillThumb() const {
+    if (!ThumbnailStore::ShowsItsOwn(m_picture)) ThumbnailStore::Instance().Delete(Owner());
+}
 
 QString C_Image::GetThumbnail(bool bGrayOnly) const try {
     return ThumbnailStore::Instance().Fetch(m_picture);

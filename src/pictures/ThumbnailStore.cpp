@@ -3,6 +3,7 @@
 
 #include "pictures/PaintPicture.h"
 #include "pictures/PictureMiddle.h"
+#include "pictures/ThumbnailFile.h"
 #include "platform/pictures/LoadPicture.h"
 #include "platform/text/NewLine.h"
 #include "services/basErrLog.h"
@@ -58,16 +59,7 @@ ThumbnailStore& ThumbnailStore::Instance() {
     return store;
 }
 
-QSize ThumbnailStore::SizeOf(Kind kind) {
-    switch (kind) {
-        case Kind::Token:
-            return {200, 200};
-        case Kind::Money:
-            return {164, 190};
-        default:
-            return {100, 100};
-    }
-}
+QSize ThumbnailStore::SizeOf(Kind kind) { return ThumbnailFile::SizeOf(kind); }
 
 int ThumbnailStore::LongerSideOf(Kind kind) {
     const QSize size = SizeOf(kind);
@@ -80,6 +72,10 @@ QString ThumbnailStore::PathOf(const PictureOwner& owner) {
     return basCommon::JoinPath(basCommon::GetMyGamesDirectory(), name);
 }
 
+bool ThumbnailStore::ShowsItsOwn(const OwnedPicture& image) {
+    return image.owner.IsPiece() && Files::InDiskSpelling(image.ref.sPath) == PathOf(image.owner);
+}
+
 bool ThumbnailStore::IsStale(const OwnedPicture& image) const {
     const auto origin = m_made.constFind(image.owner);
     if (origin == m_made.constEnd() || origin->picture != PictureMiddle::Centered(image.ref)) return true;
@@ -87,7 +83,7 @@ bool ThumbnailStore::IsStale(const OwnedPicture& image) const {
     if (origin->stamp != picture) return true;
     if (!origin->bOnDisk) return false;
     const Files::Stamp thumbnail = Files::StampOf(PathOf(image.owner));
-    return thumbnail == Files::Stamp() || thumbnail.modifiedMs < picture.modifiedMs;
+    return thumbnail != origin->thumbnail || thumbnail.modifiedMs < picture.modifiedMs;
 }
 
 bool ThumbnailStore::IsRefused(const PictureOwner& owner) const {
@@ -105,9 +101,10 @@ bool ThumbnailStore::Prefetch(const OwnedPicture& image) const {
 void ThumbnailStore::BringUpToDate(const OwnedPicture& image) {
     if (!IsStale(image)) return;
     const Files::Stamp stamp = StampOfPicture(image.ref);
-    const bool bOnDisk = Make(image);
+    const bool bOnDisk = !ShowsItsOwn(image) && Make(image);
     // Only now the middle of a picture that nobody has centred is known.
-    m_made.insert(image.owner, {PictureMiddle::Centered(image.ref), stamp, bOnDisk});
+    m_made.insert(image.owner,
+                  {PictureMiddle::Centered(image.ref), stamp, Files::StampOf(PathOf(image.owner)), bOnDisk});
 }
 
 QString ThumbnailStore::Fetch(const OwnedPicture& image) {
@@ -131,7 +128,7 @@ void ThumbnailStore::Delete(const PictureOwner& owner) {
     const QString name = PathOf(owner);
     TellOnce& told = TellOnce::About(owner);
     QString error;
-    if (Files::Remove(name, error)) {
+    if (ThumbnailFile::IsOfTheUser(name, SizeOf(owner.kind)) || Files::Remove(name, error)) {
         m_made.remove(owner);
         told.Note(Fault::Deletion, QString());
         return;

@@ -38,10 +38,12 @@ public:
     static int LongerSideOf(PictureOwner::Kind kind);
     /// Complete path of the file of a piece. Raises for what is none.
     static QString PathOf(const PictureOwner& owner);
+    /// True where that very file was chosen for the piece's picture. It can't be made anew then, and stays.
+    static bool ShowsItsOwn(const OwnedPicture& image);
 
     /// True when the file has to be made before it shows the image: its picture has another path, zoom, centre or
-    /// time stamp than the one that it was made of, or is younger; or nobody knows what it was made of. That another
-    /// run left it there proves nothing, as it may be of another game.
+    /// time stamp than the one that it was made of, or is younger; or nobody knows what it was made of; or it was
+    /// replaced since. That another run left it there proves nothing, as it may be of another game.
     bool IsStale(const OwnedPicture& image) const;
     /// True when the disk took no file: what lies there, if anything, shows another picture. It isn't tried again
     /// for the same picture.
@@ -51,7 +53,7 @@ public:
     /// Path of an up-to-date file, made if need be; empty without a picture. A missing picture is told, and its own
     /// path is the answer.
     QString Fetch(const OwnedPicture& image);
-    /// Deletes the file; a failure is told, once for each file, and passed over.
+    /// Deletes the file, unless it is one of the user's; a failure is told, once for each file, and passed over.
     void Delete(const PictureOwner& owner);
     /// Deletes what was made for a piece that has no picture any more.
     void DropUnused(const PictureOwner& owner);
@@ -65,6 +67,8 @@ private:
     struct Origin {
         PictureRef picture;
         Files::Stamp stamp;
+        /// Of the file that was made. Another one of its name isn't ours.
+        Files::Stamp thumbnail;
         bool bOnDisk = false;
     };
 

@@ -5,6 +5,7 @@
 #include "drawing/basBMP.h"
 #include "drawing/clsBMP.h"
 #include "pictures/PaintPicture.h"
+#include "pictures/ThumbnailFile.h"
 #include "pieces/frmBMP_turning.h"
 #include "platform/files/BinaryFile.h"
 #include "platform/files/Files.h"
@@ -21,15 +22,6 @@
 namespace {
 
 constexpr int kFirstCornerOrient = 4;
-constexpr int kDotsPerMetre = 3780; // 96 an inch
-constexpr int kHeadSize = basBMP::FileHead::kSize + basBMP::InfoHead::kSize;
-
-// Three times the true size of the pixels. Kept on purpose: thumbnails have always claimed it, and their
-// readers go by the dimensions.
-quint32 ClaimedSize(int lWidth, int lHeight) {
-    constexpr int kTimes = 3;
-    return quint32(kTimes * basBMP::RowBytes24(lWidth) * lHeight);
-}
 
 // A line drawing's paper takes the colour of the board.
 void ReplaceWhite(Pixels& pixels, QRgb by) {
@@ -89,7 +81,6 @@ Pixels frmBMP::Rotated(const OwnedPicture& oImage, int lSide) {
 void frmBMP::CreateThumbRotatedTo90(const OwnedPicture& oImage) try {
     if (!IsThereOrTold(oImage)) return;
     const Pixels square = DrawnSquare(oImage, ThumbnailStore::LongerSideOf(oImage.owner.kind));
-    DeleteThumb(ThumbnailStore::PathOf(oImage.owner));
     WriteThumb(ThumbnailStore::PathOf(oImage.owner), Turning::ForSide(square, oImage.owner.Orient()));
 } catch (...) {
     ErrTail("frmBMP!", "CreateThumbRotatedTo90", oImage);
@@ -98,7 +89,6 @@ void frmBMP::CreateThumbRotatedTo90(const OwnedPicture& oImage) try {
 void frmBMP::CreateThumbRotatedTo45(const OwnedPicture& oImage) try {
     if (!IsThereOrTold(oImage)) return;
     const Pixels square = DrawnSquare(oImage, ThumbnailStore::LongerSideOf(oImage.owner.kind));
-    DeleteThumb(ThumbnailStore::PathOf(oImage.owner));
     WriteThumb(ThumbnailStore::PathOf(oImage.owner),
                Turning::ForCorner(square, oImage.owner.Orient() - kFirstCornerOrient, basTAVL::g_lMagicColor()));
 } catch (...) {
@@ -111,7 +101,6 @@ void frmBMP::CreateThumbElliptical(const OwnedPicture& oImage, bool bGray) try {
     const bool money = owner.kind == PictureOwner::Kind::Money;
     const Color back = money ? basTAVL::g_oMoney(owner.iNumber).BackColor : basTAVL::g_lMagicColor();
     const Pixels drawn = Drawn(oImage, ThumbnailStore::SizeOf(owner.kind), back);
-    DeleteThumb(ThumbnailStore::PathOf(oImage.owner));
     WriteThumb(ThumbnailStore::PathOf(oImage.owner), clsBMP::CutElliptical(drawn, bGray));
 } catch (...) {
     ErrTail("frmBMP!", "CreateThumbElliptical", bGray);
@@ -144,38 +133,29 @@ void frmBMP::DropOldRenderings() {
     }
 }
 
-void frmBMP::DeleteThumb(const QString& sThumb) {
+// What the user keeps under the name of a thumbnail stays, as where the disk refuses the file.
+void frmBMP::DeleteThumb(const QString& sThumb, QSize size) {
     QString error;
-    if (!Files::Remove(sThumb, error)) ErrRaiseRefused(sThumb, error);
+    if (!ThumbnailFile::Remove(sThumb, size, error)) ErrRaiseRefused(sThumb, error);
 }
 
 void frmBMP::WriteFileHead(BinaryFile& file, int lWidth, int lHeight) {
-    basBMP::FileHead head;
-    head.bfType = basBMP::FileHead::kType;
-    head.bfSize = kHeadSize + ClaimedSize(lWidth, lHeight);
-    head.bfOffBits = kHeadSize;
-    basBMP::WriteFileHead(file, head);
+    basBMP::WriteFileHead(file, ThumbnailFile::FileHeadOf({lWidth, lHeight}));
 }
 
 void frmBMP::WriteInfoHead(BinaryFile& file, int lWidth, int lHeight) {
     basBMP::BitmapInfo info;
-    info.bmiHeader.biSize = basBMP::InfoHead::kSize;
-    info.bmiHeader.biWidth = lWidth;
-    info.bmiHeader.biHeight = lHeight;
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 24;
-    info.bmiHeader.biSizeImage = ClaimedSize(lWidth, lHeight);
-    info.bmiHeader.biXPelsPerMeter = kDotsPerMetre;
-    info.bmiHeader.biYPelsPerMeter = kDotsPerMetre;
+    info.bmiHeader = ThumbnailFile::InfoHeadOf({lWidth, lHeight});
     basBMP::WriteInfoHead(file, info);
 }
 
 // Not through a file beside it and a rename: it can be made anew at any time, and a whole board of them
 // shall not wait for the disk.
 void frmBMP::WriteThumb(const QString& sThumb, const Pixels& pixels) {
+    DeleteThumb(sThumb, QSize(pixels.Width(), pixels.Height()));
     BinaryFile file;
     QString error;
-    if (!file.OpenEmpty(sThumb, error)) ErrRaiseRefused(sThumb, error);
+    if (!file.OpenNew(sThumb, error)) ErrRaiseRefused(sThumb, error);
     WriteFileHead(file, pixels.Width(), pixels.Height());
     WriteInfoHead(file, pixels.Width(), pixels.Height());
     QByteArray row(basBMP::RowBytes24(pixels.Width()), '\0');

@@ -79,7 +79,7 @@ private:
     Pixels DrawnSquare(const OwnedPicture& oImage, int lSide);
     Pixels Rotated(const OwnedPicture& oImage, int lSide);
     void DropOldRenderings();
-    static void DeleteThumb(const QString& sThumb);
+    static void DeleteThumb(const QString& sThumb, QSize size);
     static void WriteFileHead(BinaryFile& file, int lWidth, int lHeight);
     static void WriteInfoHead(BinaryFile& file, int lWidth, int lHeight);
     static void WriteThumb(const QString& sThumb, const Pixels& pixels);

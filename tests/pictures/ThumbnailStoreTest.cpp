@@ -5,6 +5,7 @@
 #include "pictures/C_Image.h"
 #include "platform/paint/Surface.h"
 #include "platform/pictures/LoadPicture.h"
+#include "platform/pictures/PictureHolder.h"
 #include "services/basErrLog.h"
 #include "support/PictureFiles.h"
 #include "support/StartUp.h"
@@ -34,6 +35,8 @@ protected:
         image.fill(color);
         return WriteFile(sName, Encoded(image, "png"));
     }
+    // A bitmap as anybody's camera or paint program writes it.
+    static QByteArray UsersPicture() { return Encoded(Quarters(100, 100), "bmp"); }
     QString QuartersPhoto() { return WriteFile(QStringLiteral("q.png"), Encoded(Quarters(300, 300), "png")); }
     static void Touch(const QString& sPath, int seconds) {
         QFile file(sPath);
@@ -68,13 +71,15 @@ TEST_F(ThumbnailStoreTest, ThumbnailIsMadeWhenMissingOrOlderThanThePicture) {
     EXPECT_EQ(thumb, PathOf(QStringLiteral("Space4.bmp")));
     EXPECT_EQ(Files::Size(thumb), 30054);
 
-    WriteFile(QStringLiteral("Space4.bmp"), "mine");
-    Touch(thumb, -10);
+    const Files::Stamp made = Files::StampOf(thumb);
     image.GetThumbnail(false);
-    EXPECT_EQ(Files::Size(thumb), 4) << "a younger thumbnail stands";
+    EXPECT_EQ(Files::StampOf(thumb), made) << "a younger thumbnail stands";
     Touch(thumb, -30);
     image.GetThumbnail(false);
-    EXPECT_EQ(Files::Size(thumb), 30054) << "an older one is made anew";
+    EXPECT_GE(Files::StampOf(thumb).modifiedMs, made.modifiedMs) << "an older one is made anew";
+    WriteFile(QStringLiteral("Space4.bmp"), "cut short");
+    image.GetThumbnail(false);
+    EXPECT_EQ(Files::Size(thumb), 30054) << "so is one that was damaged since";
 }
 
 TEST_F(ThumbnailStoreTest, APictureReplacedByAnOlderOneIsSeenAtTheNextPaint) {
@@ -188,15 +193,84 @@ TEST_F(ThumbnailStoreTest, ThumbnailOfAnotherGameThatCantBeReplacedIsNeverShown)
 TEST_F(ThumbnailStoreTest, TheThumbnailGoesWithItsPicture) {
     ThumbnailStore& store = ThumbnailStore::Instance();
     const PictureOwner owner{PictureOwner::Kind::Token, 2};
-    WriteFile(QStringLiteral("Token2.bmp"), "somebody else's");
+    const QByteArray theirs = UsersPicture();
+    WriteFile(QStringLiteral("Token2.bmp"), theirs);
     store.DropUnused(owner);
-    EXPECT_TRUE(Files::Exists(ThumbnailStore::PathOf(owner)));
+    EXPECT_EQ(ReadFile(ThumbnailStore::PathOf(owner)), theirs);
+    QFile::remove(ThumbnailStore::PathOf(owner));
     C_Image image;
     image.Init(Photo(QStringLiteral("p.png")), QStringLiteral("Token"), 2);
     image.GetThumbnail(false);
     store.DropUnused(owner);
     EXPECT_FALSE(Files::Exists(ThumbnailStore::PathOf(owner)));
     EXPECT_TRUE(store.IsStale(image.Owned()));
+}
+
+class NamedLikeAThumbnailTest : public ThumbnailStoreTest, public testing::WithParamInterface<OwnedPicture> {
+protected:
+    static PictureOwner Owner() {
+        return {PictureOwner::KindOf(QString::fromLatin1(GetParam().sKind)), GetParam().iIndex};
+    }
+    static QString NameOfThumb() {
+        return QString::fromLatin1(GetParam().sKind) + QString::number(GetParam().iIndex) + QStringLiteral(".bmp");
+    }
+    // Makes the piece's thumbnail, and makes it again in every way there is.
+    void UseThePiece(const QString& sPicture) {
+        C_Image image;
+        image.Init(sPicture, QString::fromLatin1(GetParam().sKind), GetParam().iIndex);
+        image.GetThumbnail(false);
+        if (Owner().IsOnBoard()) image.DrawBitmapToScreen(form, 0, 0, 60, 60);
+        image.Let_Zoom(10);
+        image.GetThumbnail(false);
+        PictureHolder holder;
+        image.PaintPictureZoomed(form, holder, ScaleModeKind::Pixels, 0, 0, 60, 60, Color::None());
+        ThumbnailStore::Instance().DropUnused(Owner());
+    }
+};
+
+TEST_P(NamedLikeAThumbnailTest, APictureOfTheUsersStaysAsItIs) {
+    const QByteArray theirs = UsersPicture();
+    for (const QString& name : {NameOfThumb(), NameOfThumb().toLower(), NameOfThumb().toUpper()}) {
+        const QString path = WriteFile(name, theirs);
+        UseThePiece(Photo(QStringLiteral("p.png")));
+        EXPECT_EQ(ReadFile(path), theirs) << name.toStdString();
+        ThumbnailStore::Instance().Delete(Owner());
+        EXPECT_EQ(ReadFile(path), theirs) << name.toStdString();
+        // As the piece's own picture.
+        UseThePiece(path);
+        EXPECT_EQ(ReadFile(path), theirs) << name.toStdString();
+        QFile::remove(path);
+    }
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+}
+
+TEST_P(NamedLikeAThumbnailTest, AThumbnailOfAnotherRunIsReplacedAndTheOneChosenForItsOwnPieceStays) {
+    C_Image image;
+    image.Init(Photo(QStringLiteral("p.png"), Qt::red), QString::fromLatin1(GetParam().sKind), GetParam().iIndex);
+    const QByteArray red = ReadFile(image.GetThumbnail(false));
+    ThumbnailStore::Instance().ForgetAll();
+    Photo(QStringLiteral("p.png"), Qt::blue);
+    EXPECT_NE(ReadFile(image.GetThumbnail(false)), red);
+    const QByteArray blue = ReadFile(image.Thumbname());
+    UseThePiece(image.Thumbname());
+    EXPECT_NE(ReadFile(image.Thumbname()), red);
+    EXPECT_EQ(ReadFile(image.Thumbname()), blue);
+}
+
+INSTANTIATE_TEST_SUITE_P(Pieces, NamedLikeAThumbnailTest,
+                         testing::Values(OwnedPicture{"Space", 12}, OwnedPicture{"Corner", 2}, OwnedPicture{"Money", 3},
+                                         OwnedPicture{"Token", 5}),
+                         [](const auto& each) { return std::string(each.param.sKind); });
+
+TEST_F(ThumbnailStoreTest, APictureOfTheUsersInPlaceOfAThumbnailIsNeverShownForIt) {
+    C_Image image;
+    image.Init(QuartersPhoto(), QStringLiteral("Space"), 7);
+    image.GetThumbnail(false);
+    Touch(WriteFile(QStringLiteral("Space7.bmp"), UsersPicture()), 5);
+    image.DrawBitmapToScreen(form, 0, 0, 60, 60);
+    EXPECT_EQ(form.Image().pixel(5, 5), qRgb(0, 0, 255)) << "turned to the left side, from memory";
+    EXPECT_EQ(ReadFile(image.Thumbname()), UsersPicture());
+    EXPECT_TRUE(desktop.boxes.isEmpty());
 }
 
 TEST_F(ThumbnailStoreTest, ThumbnailThatCantBeDeletedIsToldOnce) {

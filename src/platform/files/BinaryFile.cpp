@@ -19,7 +19,7 @@ BinaryFile::~BinaryFile() = default;
 
 bool BinaryFile::OpenForReading(const QString& sPath, QString& sError) { return Open(sPath, Mode::Read, sError); }
 bool BinaryFile::OpenForWriting(const QString& sPath, QString& sError) { return Open(sPath, Mode::WriteOver, sError); }
-bool BinaryFile::OpenEmpty(const QString& sPath, QString& sError) { return Open(sPath, Mode::WriteEmpty, sError); }
+bool BinaryFile::OpenNew(const QString& sPath, QString& sError) { return Open(sPath, Mode::WriteNew, sError); }
 
 bool BinaryFile::Open(const QString& sPath, Mode mode, QString& sError) {
     Close();
@@ -35,7 +35,7 @@ bool BinaryFile::Open(const QString& sPath, Mode mode, QString& sError) {
     m_file->setFileName(path);
     const QIODevice::OpenMode how = reads                     ? QIODevice::ReadOnly
                                     : mode == Mode::WriteOver ? QIODevice::ReadWrite
-                                                              : QIODevice::WriteOnly | QIODevice::Truncate;
+                                                              : QIODevice::WriteOnly | QIODevice::NewOnly;
     if (m_file->open(how)) return true;
     sError = m_file->errorString();
     return false;

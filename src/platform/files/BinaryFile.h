@@ -21,8 +21,8 @@ public:
     bool OpenForReading(const QString& sPath, QString& sError);
     /// Under exactly this name. What stands in the file already is kept and written over from the start.
     bool OpenForWriting(const QString& sPath, QString& sError);
-    /// The same for a file made anew.
-    bool OpenEmpty(const QString& sPath, QString& sError);
+    /// The same for a new file; fails where there is anything of that name.
+    bool OpenNew(const QString& sPath, QString& sError);
     void Close();
 
     void Seek(qint64 position);
@@ -48,7 +48,7 @@ public:
     static void TellBeforeWriting(BeforeWriting listener);
 
 private:
-    enum class Mode { Read, WriteOver, WriteEmpty };
+    enum class Mode { Read, WriteOver, WriteNew };
     bool Open(const QString& sPath, Mode mode, QString& sError);
     void NoteWriteError();
 

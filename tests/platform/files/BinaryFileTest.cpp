@@ -25,7 +25,7 @@ TEST_F(BinaryFileTest, WhatIsWrittenBearsExactlyTheNameGiven) {
         for (const bool anew : {true, false}) {
             BinaryFile file;
             const QString ours = PathOf(QStringLiteral("Token1.bmp"));
-            ASSERT_TRUE(anew ? file.OpenEmpty(ours, error) : file.OpenForWriting(ours, error));
+            ASSERT_TRUE(anew ? file.OpenNew(ours, error) : file.OpenForWriting(ours, error));
             file.PutBytes("BM");
             EXPECT_TRUE(file.WasWritten(error));
             file.Close();

@@ -87,7 +87,7 @@ TEST_F(FilesTest, ADiskThatFillsUpInTheMiddleOfAWriteLeavesTheOldFileAndSaysWhy)
 TEST_F(FilesTest, ABinaryFileTellsWhyItWasNotWritten) {
     BinaryFile file;
     QString error;
-    ASSERT_TRUE(file.OpenEmpty(PathOf(QStringLiteral("rows.bmp")), error));
+    ASSERT_TRUE(file.OpenNew(PathOf(QStringLiteral("rows.bmp")), error));
     {
         const SmallDisk disk(100'000);
         for (int row = 0; row < 1000; ++row)
