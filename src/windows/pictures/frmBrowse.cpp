@@ -5,6 +5,7 @@
 #include "drawing/basBMP_metafile.h"
 #include "pictures/PaintPicture.h"
 #include "pictures/TellOnce.h"
+#include "pictures/ThumbnailFile.h"
 #include "platform/files/Files.h"
 #include "platform/files/FolderListing.h"
 #include "platform/files/Folders.h"
@@ -184,7 +185,11 @@ void frmBrowse::FillFiles() {
     QString error;
     const QStringList patterns = BrowsePlaces::PatternsOf(cboFilter->currentData().toString());
     const std::optional<QStringList> names = FolderListing::Files(m_sFolder, patterns, error);
-    if (names) filList->addItems(*names);
+    if (!names) return;
+    for (const QString& name : *names) {
+        // Made by the program, and made anew at any time.
+        if (!ThumbnailFile::IsThumbnail(BrowsePlaces::FileIn(m_sFolder, name))) filList->addItem(name);
+    }
 }
 
 void frmBrowse::SelectFile(const QString& sFilePath) {
