@@ -4,6 +4,7 @@
 #include "app/BoardView.h"
 #include "app/GameNames.h"
 #include "app/OpeningNote.h"
+#include "app/PackedGames.h"
 #include "document/Locale.h"
 #include "game/Autosave.h"
 #include "game/Rescue.h"
@@ -17,6 +18,7 @@
 namespace {
 
 const QString kGameFilter = QStringLiteral("Tavlora games|*.gam|All files|*.*");
+const QString kOpenFilter = QStringLiteral("Tavlora games|*.gam;*.tavlora|All files|*.*");
 const QString kGameExtension = QStringLiteral("gam");
 const QString kLastGameKey = QStringLiteral("GameName");
 
@@ -78,12 +80,15 @@ bool GameCommands::WantsItAgain(const QString& sWhat, const QString& sElse) {
 
 // As Open does it, except that there is no game yet that it could come in place of.
 bool GameCommands::LoadAskedFor(const QString& sPath) {
-    m_session.SetGameName(sPath);
-    OpeningNote::Write(sPath);
+    const QString game = PackedGames::Arrive(sPath);
+    if (game.isEmpty()) return false;
+    m_session.SetGameName(game);
+    OpeningNote::Write(game);
     LoadUnderItsName();
     if (m_iLoadResult != 0) return false;
     basCommon::WriteIniString(kLastGameKey, m_session.GameName());
     ShowState();
+    PackedGames::TellWhereItLies(sPath, game);
     return true;
 }
 
@@ -187,7 +192,7 @@ void GameCommands::Open() {
     dlgCommon.sInitDir = GameNames::FolderOf(m_session.GameName());
     dlgCommon.sFileName =
         GameNames::IsUnnamed(m_session.GameName()) ? QString() : GameNames::FileNameOf(m_session.GameName());
-    dlgCommon.sFilter = kGameFilter;
+    dlgCommon.sFilter = kOpenFilter;
     dlgCommon.sDefaultExt = kGameExtension;
     dlgCommon.sError.clear();
     if (!dlgCommon.ShowOpen()) {
@@ -203,13 +208,16 @@ void GameCommands::OpenGame(const QString& sPath) {
 }
 
 void GameCommands::LoadInstead(const QString& sPath) {
-    m_session.SetGameName(sPath);
+    const QString game = PackedGames::Arrive(sPath);
+    if (game.isEmpty()) return AutosaveWhatStays();
+    m_session.SetGameName(game);
     LoadUnderItsName();
     ShowState();
     // A game that was read only in part isn't the file any more.
     m_session.SetSomethingChanged(m_iLoadResult != 0);
     basCommon::WriteIniString(kLastGameKey, m_session.GameName());
     m_view.Redraw();
+    PackedGames::TellWhereItLies(sPath, game);
 }
 
 void GameCommands::Save() {

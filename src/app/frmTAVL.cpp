@@ -16,7 +16,9 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QPushButton>
+#include <QUrl>
 #include <QWheelEvent>
 
 namespace {
@@ -28,6 +30,17 @@ constexpr QSize kSizeOnSmallScreen(512, 600);
 
 int Twips(int pixels) { return pixels * kTwipsPerPixel; }
 QSize Twips(QSize pixels) { return pixels * kTwipsPerPixel; }
+
+// The first game of what is dropped on the window; empty where there is none.
+QString GameDropped(const QMimeData& dropped) {
+    for (const QUrl& url : dropped.urls()) {
+        const QString path = url.toLocalFile();
+        if (path.endsWith(QStringLiteral(".gam"), Qt::CaseInsensitive) ||
+            path.endsWith(QStringLiteral(".tavlora"), Qt::CaseInsensitive))
+            return path;
+    }
+    return {};
+}
 
 } // namespace
 
@@ -42,6 +55,7 @@ frmTAVL::frmTAVL(EditorRoutes& doors)
       m_menu(*menuBar(), m_commands.InHand(), std::bind_front(&frmTAVL::Choose, this)),
       m_about(std::make_unique<frmAbout>(this)) {
     setObjectName(QStringLiteral("frmTAVL"));
+    setAcceptDrops(true);
     setCentralWidget(m_client);
     MakeButtons();
     connect(&m_commands.InHand(), &Session::Changed, &m_menu, &MainMenu::Update);
@@ -92,6 +106,22 @@ void frmTAVL::wheelEvent(QWheelEvent* event) try {
     event->accept();
 } catch (...) {
     ErrTop("frmTAVL!", "wheelEvent");
+}
+
+void frmTAVL::dragEnterEvent(QDragEnterEvent* event) try {
+    if (!GameDropped(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+} catch (...) {
+    ErrTop("frmTAVL!", "dragEnterEvent");
+}
+
+void frmTAVL::dropEvent(QDropEvent* event) try {
+    const QString game = GameDropped(*event->mimeData());
+    if (game.isEmpty()) return;
+    event->acceptProposedAction();
+    // Whoever it was dragged from waits for the end of the drop, and opening may ask questions.
+    QMetaObject::invokeMethod(this, "CalledByAnotherStart", Qt::QueuedConnection, Q_ARG(QString, game));
+} catch (...) {
+    ErrTop("frmTAVL!", "dropEvent");
 }
 
 void frmTAVL::resizeEvent(QResizeEvent* event) try {
