@@ -5,6 +5,8 @@
 #include "app/GameNames.h"
 #include "app/OpeningNote.h"
 #include "app/PackedGames.h"
+#include "app/RecentGames.h"
+#include "document/basTAVL.h"
 #include "document/Locale.h"
 #include "game/Autosave.h"
 #include "game/Rescue.h"
@@ -123,15 +125,19 @@ void GameCommands::BeginNewGame(int& iResult) try {
     const QString folder = Folders::ProgramDirectory();
     QString game = basCommon::JoinPath(folder, QStringLiteral("Default.dat"));
     if (!basCommon::DoesFileExist(game)) game = basCommon::JoinPath(folder, QString::fromLatin1(Locale::kDefaultGame));
-    m_iLoadResult = m_session.Load(game);
+    BeginGameFrom(game);
     iResult = m_iLoadResult;
-    QString name;
+} catch (...) {
+    ErrTail("frmTAVL!", "BeginNewGame", iResult);
+}
+
+void GameCommands::BeginGameFrom(const QString& sFile) {
+    QString name = sFile;
+    m_iLoadResult = m_session.Load(name);
     GetNewGameName(name);
     m_session.SetGameName(name);
     ShowState();
     m_view.Redraw();
-} catch (...) {
-    ErrTail("frmTAVL!", "BeginNewGame", iResult);
 }
 
 void GameCommands::GetNewGameName(QString& sName) try {
@@ -215,9 +221,55 @@ void GameCommands::LoadInstead(const QString& sPath) {
     ShowState();
     // A game that was read only in part isn't the file any more.
     m_session.SetSomethingChanged(m_iLoadResult != 0);
-    basCommon::WriteIniString(kLastGameKey, m_session.GameName());
+    NoteInUse();
     m_view.Redraw();
     PackedGames::TellWhereItLies(sPath, game);
+}
+
+void GameCommands::NoteInUse() {
+    basCommon::WriteIniString(kLastGameKey, m_session.GameName());
+    if (m_iLoadResult == 0) RecentGames::Note(m_session.GameName());
+}
+
+void GameCommands::NewFrom(const QString& sSample) {
+    if (!MayGo()) return;
+    BeginGameFrom(sSample);
+    AutosaveWhatStays();
+}
+
+void GameCommands::Duplicate() {
+    QString name;
+    GetNewGameName(name);
+    m_session.SetGameName(name);
+    m_session.SetSomethingChanged(true);
+    ShowState();
+}
+
+void GameCommands::OpenRecent(const QString& sPath) {
+    if (basCommon::DoesFileExist(sPath)) {
+        OpenGame(sPath);
+        return;
+    }
+    const QString question = QStringLiteral("The game '%1' isn't in '%2' any more. Do you want to look for it?")
+                                 .arg(GameNames::FileNameOf(sPath), GameNames::FolderOf(sPath));
+    if (MsgBox(question, vbYesNo | vbQuestion) == vbYes) Open();
+}
+
+// The board paints itself from the game; nothing that is painted asks for the tokens.
+void GameCommands::ShowStep() {
+    m_view.Redraw();
+    for (int i = 0; i < basTAVL::kTokens; ++i)
+        basTAVL::g_oTokens(i).Image.GetThumbnail(false);
+}
+
+void GameCommands::Undo() {
+    m_session.Undo();
+    ShowStep();
+}
+
+void GameCommands::Redo() {
+    m_session.Redo();
+    ShowStep();
 }
 
 void GameCommands::Save() {
@@ -225,14 +277,14 @@ void GameCommands::Save() {
         SaveAs();
         return;
     }
-    m_session.Save();
+    if (m_session.Save()) RecentGames::Note(m_session.GameName());
 }
 
 void GameCommands::SaveAs() {
     int iResult = 0;
     SetNewGameName(iResult);
     if (iResult < 0) return;
-    m_session.Save();
+    if (m_session.Save()) RecentGames::Note(m_session.GameName());
     ShowState();
 }
 

@@ -33,6 +33,17 @@ public:
     void OpenGame(const QString& sPath);
     void Save();
     void SaveAs();
+    /// One of the games that come with the program, as a new one without a name.
+    void NewFrom(const QString& sSample);
+    /// The game as it stands as a new one without a name, still to be saved; the file of the old one stays as it was
+    /// saved last.
+    void Duplicate();
+    /// One of the games that were opened or saved before; offers to look for one that isn't there any more.
+    void OpenRecent(const QString& sPath);
+
+    // The commands of the edit menu.
+    void Undo();
+    void Redo();
 
     /// Of the last load: 0 good, -1 failed.
     int LoadResult() const { return m_iLoadResult; }
@@ -47,7 +58,10 @@ private:
     bool IsPutAside(const QString& sAutosave);
     static bool WantsItAgain(const QString& sWhat, const QString& sElse = QString());
     void LoadUnderItsName();
+    void BeginGameFrom(const QString& sFile);
     void LoadInstead(const QString& sPath);
+    void NoteInUse();
+    void ShowStep();
     void AutosaveWhatStays();
     void ShowState();
     void ShowDialogError();

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "app/MainMenu.h"
 
+#include "game/Session.h"
 #include "services/basErrLog.h"
 
 #include <QMenuBar>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -14,12 +16,35 @@ using Item = MainMenu::Item;
 bool Always(const Session&) { return true; }
 // For what does nothing.
 bool Never(const Session&) { return false; }
+bool CanUndo(const Session& session) { return session.CanUndo(); }
+bool CanRedo(const Session& session) { return session.CanRedo(); }
+
+// A name may hold an "&", which would underline what follows, and be longer than a menu.
+QString Behind(const char* sWord, const QString& sName) {
+    constexpr int kMostShown = 40;
+    QString name = sName.size() > kMostShown ? sName.left(kMostShown) + QStringLiteral("...") : sName;
+    name.replace(u'&', QStringLiteral("&&"));
+    return (QString::fromLatin1(sWord) + u' ' + name).trimmed();
+}
+QString UndoCaption(const Session& session) { return Behind("&Undo", session.UndoName()); }
+QString RedoCaption(const Session& session) { return Behind("&Redo", session.RedoName()); }
 
 constexpr Item kFileItems[] = {
-    {0, "&New...", "Ctrl+N", Always},  {1, "New Geme &Wizard", "", Never},         {2, "&Open...", "Ctrl+O", Always},
-    {3, "&Save", "Ctrl+S", Always},    {4, "Save &As...", "Ctrl+Shift+S", Always}, {5, "-", "", Never},
-    {6, "P&rinter Setup", "", Always}, {7, "&Print...", "Ctrl+P", Always},         {8, "-", "", Never},
+    {0, "&New...", "Ctrl+N", Always},
+    {1, "New Geme &Wizard", "", Never},
+    {2, "&Open...", "Ctrl+O", Always},
+    {3, "&Save", "Ctrl+S", Always},
+    {4, "Save &As...", "Ctrl+Shift+S", Always},
+    {20, "&Duplicate", "", Always},
+    {5, "-", "", Never},
+    {6, "P&rinter Setup", "", Always},
+    {7, "&Print...", "Ctrl+P", Always},
+    {8, "-", "", Never},
     {9, "E&xit", "Ctrl+Q", Always},
+};
+constexpr Item kEditItems[] = {
+    {0, "&Undo", "Ctrl+Z", CanUndo, UndoCaption},
+    {1, "&Redo", "Ctrl+Shift+Z; Ctrl+Y", CanRedo, RedoCaption},
 };
 constexpr Item kZoomItems[] = {
     {0, "&1X", "Ctrl+1", Always},
@@ -38,6 +63,10 @@ constexpr Item kHelpItems[] = {
     {2, "&Print Instruction Manual", "", Never},
 };
 
+void ChooseOf(const std::function<void(int)>& choose, int iEntry) try { choose(iEntry); } catch (...) {
+    ErrTop("frmTAVL!", "MenuTriggered");
+}
+
 } // namespace
 
 MainMenu::MainMenu(QMenuBar& bar, const Session& session, std::function<void(Menu, int)> choose)
@@ -47,7 +76,9 @@ MainMenu::MainMenu(QMenuBar& bar, const Session& session, std::function<void(Men
         connect(menu, &QMenu::aboutToShow, this, &MainMenu::Update);
         return menu;
     };
-    Fill(*add(bar.addMenu(QStringLiteral("&File")), "mnuTop_0"), Menu::File, "mnuFile_", kFileItems);
+    m_file = add(bar.addMenu(QStringLiteral("&File")), "mnuTop_0");
+    Fill(*m_file, Menu::File, "mnuFile_", kFileItems);
+    Fill(*add(bar.addMenu(QStringLiteral("&Edit")), "mnuEdit"), Menu::Edit, "mnuEdit_", kEditItems);
     QMenu* const view = add(bar.addMenu(QStringLiteral("&View")), "mnuTop_1");
     Fill(*add(view->addMenu(QStringLiteral("&Zoom...")), "mnuView_0"), Menu::Zoom, "mnuZoom_", kZoomItems);
     Fill(*view, Menu::View, "mnuView_", kViewItems);
@@ -60,7 +91,7 @@ void MainMenu::Fill(QMenu& menu, Menu which, const char* sName, std::span<const 
         const bool separator = qstrcmp(item.sCaption, "-") == 0;
         QAction* const action = separator ? menu.addSeparator() : menu.addAction(QString::fromLatin1(item.sCaption));
         action->setObjectName(QString::fromLatin1(sName) + QString::number(item.Index));
-        action->setShortcut(QKeySequence(QString::fromLatin1(item.sShortcut)));
+        action->setShortcuts(QKeySequence::listFromString(QString::fromLatin1(item.sShortcut)));
         connect(action, &QAction::triggered, this, [this, which, &item] { Choose(which, item.Index); });
         m_entries.push_back({action, &item});
     }
@@ -71,6 +102,32 @@ void MainMenu::Choose(Menu menu, int Index) try { m_choose(menu, Index); } catch
 }
 
 void MainMenu::Update() {
-    for (const Entry& entry : m_entries)
+    for (const Entry& entry : m_entries) {
         entry.action->setEnabled(entry.item->canBeChosen(m_session));
+        if (entry.item->caption) entry.action->setText(entry.item->caption(m_session));
+    }
+}
+
+void MainMenu::AddList(QMenu& menu, List list) {
+    auto* const sub = new QMenu(QString::fromLatin1(list.sCaption), &menu);
+    sub->menuAction()->setObjectName(QString::fromLatin1(list.sName));
+    const QList<QAction*> actions = menu.actions();
+    const auto before = std::find_if(actions.begin(), actions.end(), [&list](const QAction* action) {
+        return action->objectName() == QLatin1String(list.sAheadOf);
+    });
+    menu.insertMenu(before == actions.end() ? nullptr : *before, sub);
+    connect(sub, &QMenu::aboutToShow, this, [this, sub, list = std::move(list)] { FillList(*sub, list); });
+}
+
+void MainMenu::FillList(QMenu& menu, const List& list) try {
+    menu.clear();
+    const QStringList entries = list.entries();
+    for (int i = 0; i < entries.size(); ++i) {
+        QAction* const action = menu.addAction(entries[i]);
+        action->setObjectName(QString::fromLatin1(list.sName) + u'_' + QString::number(i));
+        connect(action, &QAction::triggered, this, [choose = list.choose, i] { ChooseOf(choose, i); });
+    }
+    if (entries.isEmpty()) menu.addAction(QStringLiteral("None yet"))->setEnabled(false);
+} catch (...) {
+    ErrTop("frmTAVL!", "FillList");
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QObject>
+#include <QStringList>
 
 #include <functional>
 #include <span>
@@ -13,7 +14,7 @@ class QMenuBar;
 class Session;
 
 /// The menus that hold entries.
-enum class Menu { File, View, Zoom, Help };
+enum class Menu { File, Edit, View, Zoom, Help };
 
 /// The menus of the main window: their entries, the keys of these, and which of them can be chosen just now.
 class MainMenu : public QObject {
@@ -25,12 +26,27 @@ public:
         int Index;
         /// "-" is a separator.
         const char* sCaption;
+        /// Several are parted by "; ".
         const char* sShortcut;
         bool (*canBeChosen)(const Session&);
+        /// What the entry is called just now, where that changes.
+        QString (*caption)(const Session&) = nullptr;
+    };
+    /// A submenu whose entries are asked for whenever it opens.
+    struct List {
+        const char* sName;
+        const char* sCaption;
+        /// Object name of the entry that it stands ahead of.
+        const char* sAheadOf;
+        std::function<QStringList()> entries;
+        std::function<void(int)> choose;
     };
 
     /// What a chosen entry does is for choose, which is told the entry's menu and its index in it.
     MainMenu(QMenuBar& bar, const Session& session, std::function<void(Menu, int)> choose);
+
+    void AddList(QMenu& menu, List list);
+    QMenu& FileMenu() const { return *m_file; }
 
 public Q_SLOTS:
     /// Greys what can't be chosen now. Done whenever a menu opens; a key opens none, so whoever changes what can
@@ -39,6 +55,7 @@ public Q_SLOTS:
 
 private:
     void Choose(Menu menu, int Index);
+    void FillList(QMenu& menu, const List& list);
     void Fill(QMenu& menu, Menu which, const char* sName, std::span<const Item> items);
 
     struct Entry {
@@ -46,6 +63,7 @@ private:
         const Item* item;
     };
 
+    QMenu* m_file;
     const Session& m_session;
     std::function<void(Menu, int)> m_choose;
     std::vector<Entry> m_entries;

@@ -4,7 +4,9 @@
 #include "app/EditorRoutes.h"
 #include "app/frmAbout.h"
 #include "app/frmPrintManual.h"
+#include "app/RecentGames.h"
 #include "document/basTAVL.h"
+#include "game/SampleGames.h"
 #include "platform/paint/Units.h"
 #include "services/basErrLog.h"
 #include "services/basPath.h"
@@ -58,6 +60,7 @@ frmTAVL::frmTAVL(EditorRoutes& doors)
     setAcceptDrops(true);
     setCentralWidget(m_client);
     MakeButtons();
+    MakeLists();
     connect(&m_commands.InHand(), &Session::Changed, &m_menu, &MainMenu::Update);
     const QSize client = SmallestClient(Twips(ToolBarTable::kPictureHeight), Twips(cmd[0]->sizeHint().height()));
     m_client->setMinimumSize(InPixels(QRect(QPoint(0, 0), client)).size());
@@ -74,6 +77,21 @@ void frmTAVL::MakeButtons() {
         button->setObjectName(QStringLiteral("cmd_%1").arg(i));
         connect(button, &QPushButton::clicked, this, &frmTAVL::ButtonClicked);
     }
+}
+
+void frmTAVL::MakeLists() {
+    const auto samples = [] {
+        QStringList names;
+        for (const basTAVL::SampleGame& sample : basTAVL::SampleGames())
+            names.append(sample.sName);
+        return names;
+    };
+    m_menu.AddList(m_menu.FileMenu(), {"mnuNewFrom", "New &From", "mnuFile_5", samples, [this](int i) {
+                                           m_commands.NewFrom(basTAVL::SampleGames().at(size_t(i)).sPath);
+                                       }});
+    const auto recent = [] { return RecentGames::Captions(RecentGames::List()); };
+    m_menu.AddList(m_menu.FileMenu(), {"mnuRecent", "Recen&t Games", "mnuFile_5", recent,
+                                       [this](int i) { m_commands.OpenRecent(RecentGames::List().value(i)); }});
 }
 
 void frmTAVL::ButtonClicked() try {
@@ -198,6 +216,8 @@ void frmTAVL::Choose(Menu menu, int Index) {
     switch (menu) {
         case Menu::File:
             return mnuFile_Click(Index);
+        case Menu::Edit:
+            return mnuEdit_Click(Index);
         case Menu::View:
             return mnuView_Click(Index);
         case Menu::Zoom:
@@ -223,6 +243,8 @@ void frmTAVL::mnuFile_Click(int Index) try {
             return Print();
         case 9:
             return ExitWithQuestion();
+        case 20:
+            return m_commands.Duplicate();
         case 1:
         case 5:
         case 8:
@@ -232,6 +254,14 @@ void frmTAVL::mnuFile_Click(int Index) try {
     }
 } catch (...) {
     ErrTail("frmTAVL!", "mnuFile_Click", Index);
+}
+
+void frmTAVL::mnuEdit_Click(int Index) {
+    if (Index == 0) {
+        m_commands.Undo();
+    } else {
+        m_commands.Redo();
+    }
 }
 
 void frmTAVL::mnuZoom_Click(int Index) try { m_view.SetZoom(Index + 1); } catch (...) {

@@ -48,6 +48,7 @@ public:
     bool HasPrintedSomething() const { return m_bPrintedSomething; }
 
     void mnuFile_Click(int Index);
+    void mnuEdit_Click(int Index);
     void mnuView_Click(int Index);
     void mnuZoom_Click(int Index);
     void mnuHelp_Click(int Index);
@@ -83,6 +84,7 @@ private Q_SLOTS:
 
 private:
     void MakeButtons();
+    void MakeLists();
 
     // The start, in frmTAVL_start.cpp.
     void PrepareStart();

@@ -11,9 +11,19 @@ namespace basTAVL {
 namespace {
 
 constexpr const char* kSamples[] = {"Blank", "Family", "Generic", "Person", "Town"};
+// Offered for a new game; the empty one last.
+constexpr const char* kOffered[] = {"Family", "Generic", "Person", "Town", "Blank"};
 const QString kGame = QStringLiteral(".gam");
 const QString kBackground = QStringLiteral("MoneyBg");
 const QString kBitmap = QStringLiteral(".bmp");
+
+// The name that it has had for longest, or with the mark of its country.
+QString ShippedPath(const QString& sName) {
+    const QString from = Folders::ProgramDirectory();
+    const QString plain = basCommon::JoinPath(from, sName + kGame);
+    if (basCommon::DoesFileExist(plain)) return plain;
+    return basCommon::JoinPath(from, sName + QString::fromLatin1(Locale::kSuffix) + kGame);
+}
 
 void CopyUnlessThere(const QString& sFrom, const QString& sTo) {
     if (basCommon::DoesFileExist(sTo) || !basCommon::DoesFileExist(sFrom)) return;
@@ -25,15 +35,23 @@ void CopyUnlessThere(const QString& sFrom, const QString& sTo) {
 
 } // namespace
 
+std::vector<SampleGame> SampleGames() {
+    std::vector<SampleGame> games;
+    for (const char* sample : kOffered) {
+        const QString name = QString::fromLatin1(sample);
+        const QString path = ShippedPath(name);
+        if (basCommon::DoesFileExist(path)) games.push_back({name, path});
+    }
+    return games;
+}
+
 void CopySampleGames() try {
     const QString from = Folders::ProgramDirectory();
     const QString to = basCommon::GetMyGamesDirectory();
     const QString suffix = QString::fromLatin1(Locale::kSuffix);
     for (const char* sample : kSamples) {
         const QString name = QString::fromLatin1(sample);
-        QString source = basCommon::JoinPath(from, name + kGame);
-        if (!basCommon::DoesFileExist(source)) source = basCommon::JoinPath(from, name + suffix + kGame);
-        CopyUnlessThere(source, basCommon::JoinPath(to, name + kGame));
+        CopyUnlessThere(ShippedPath(name), basCommon::JoinPath(to, name + kGame));
     }
     CopyUnlessThere(basCommon::JoinPath(from, kBackground + suffix + kBitmap),
                     basCommon::JoinPath(to, kBackground + kBitmap));

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#include "app/RecentGames.h"
+
+#include "app/GameNames.h"
+#include "services/basCommon.h"
+#include "services/basPath.h"
+
+namespace RecentGames {
+namespace {
+
+QString KeyOf(int iPlace) { return QStringLiteral("RecentGame%1").arg(iPlace + 1); }
+
+} // namespace
+
+QStringList List() {
+    QStringList paths;
+    for (int i = 0; i < kMost; ++i) {
+        const QString path = basCommon::GetIniString(KeyOf(i));
+        if (!path.isEmpty()) paths.append(path);
+    }
+    return paths;
+}
+
+void Note(const QString& sPath) {
+    QStringList paths = List();
+    if (!paths.isEmpty() && paths.first() == sPath) return;
+    paths.removeAll(sPath);
+    paths.prepend(sPath);
+    for (int i = 0; i < int(qMin(paths.size(), qsizetype(kMost))); ++i)
+        basCommon::WriteIniString(KeyOf(i), paths[i]);
+}
+
+QStringList Captions(const QStringList& paths) {
+    QStringList captions;
+    for (int i = 0; i < paths.size(); ++i) {
+        QString caption = QStringLiteral("&%1 ").arg((i + 1) % kMost);
+        caption += GameNames::FileNameOf(paths[i]).replace(u'&', QStringLiteral("&&"));
+        if (!basCommon::DoesFileExist(paths[i])) {
+            caption +=
+                QStringLiteral(" (not in ") + GameNames::FolderOf(paths[i]).replace(u'&', QStringLiteral("&&")) + u')';
+        }
+        captions.append(caption);
+    }
+    return captions;
+}
+
+} // namespace RecentGames
