@@ -4,6 +4,8 @@
 #include "simulator/Deeds.h"
 #include "simulator/NewsEffect.h"
 
+#include <QString>
+
 #include <array>
 
 namespace Simulator {
@@ -28,13 +30,16 @@ struct HouseRules {
     int mostDoubles = 3;
     /// When the alarm rings the round is finished and the richest wins.
     int alarmMinutes = 105;
-    /// Notes of each kind that the rules tell to print for six players.
+    /// Notes of each kind that the rules tell to print: ten a sheet.
     std::array<int, 4> printed = {50, 30, 40, 10};
+    /// For two or three players.
+    std::array<int, 4> printedForFew = {30, 20, 20, 10};
 
-    int MoneyPrinted() const {
+    int MoneyFor(int players) const {
+        const std::array<int, 4>& notes = players > 3 ? printed : printedForFew;
         int money = 0;
         for (std::size_t note = 0; note < kNotes.size(); ++note)
-            money += kNotes[note] * printed[note];
+            money += kNotes[note] * notes[note];
         return money;
     }
 };
@@ -44,6 +49,8 @@ struct PlaySet {
     Deeds deeds;
     NewsDecks news;
     HouseRules rules;
+    /// What the report calls the groups: their first and last space.
+    std::array<QString, kGroups> groupNames{};
 };
 
 /// The odds that the board prints on its lotto spaces, to 1, for the sum of two dice.
@@ -51,5 +58,19 @@ constexpr int LottoOdds(int sum) {
     constexpr std::array<int, 13> kOdds = {0, 0, 30, 18, 8, 8, 6, 5, 6, 8, 8, 18, 30};
     return kOdds[std::size_t(sum)];
 }
+
+/// What comes back of a dollar bet at the lotto in the long run: who was brought there by a sum bets that it comes
+/// again.
+constexpr double LottoReturn() {
+    double back = 0;
+    for (int sum = 2; sum <= 12; ++sum) {
+        const double chance = (6 - (sum > 7 ? sum - 7 : 7 - sum)) / 36.0;
+        back += chance * chance * (1 + LottoOdds(sum));
+    }
+    return back;
+}
+
+/// The same number for the same deeds, cards and rules, so that a report can be known for one of others.
+QString Fingerprint(const PlaySet& set);
 
 } // namespace Simulator

@@ -10,14 +10,37 @@
 #include "services/basPath.h"
 #include "services/RecordText.h"
 
+#include <bit>
+
 namespace Simulator {
 namespace {
 
-std::optional<Deeds> ReadDeeds(const PlaySetFiles& files, QString& error) {
-    const std::optional<QByteArray> bytes = Files::ReadAll(files.rents, error);
+std::optional<QByteArray> ReadFile(const QString& path, QString& error) {
+    std::optional<QByteArray> bytes = Files::ReadAll(path, error);
+    if (!bytes) error = QStringLiteral("'%1' can't be read: %2").arg(path, error);
+    return bytes;
+}
+
+std::array<QString, kGroups> NamesOfGroups(const basPosit::RentTable& rents, const Deeds& deeds) {
+    std::array<QString, kGroups> names;
+    for (int group = 0; group < kGroups; ++group) {
+        const SpaceSet spaces = deeds.Group(group);
+        const QString& first = rents[std::size_t(std::countr_zero(spaces))].DefaultName;
+        const QString& last = rents[std::size_t(std::bit_width(spaces) - 1)].DefaultName;
+        names[std::size_t(group)] =
+            first + (std::popcount(spaces) > 2 ? QStringLiteral(" to ") : QStringLiteral(", ")) + last;
+    }
+    return names;
+}
+
+std::optional<PlaySet> ReadDeeds(const PlaySetFiles& files, QString& error) {
+    const std::optional<QByteArray> bytes = ReadFile(files.rents, error);
     if (!bytes) return std::nullopt;
     const basPosit::RentReading reading = basPosit::ReadRentRows(*bytes, files.kit, {});
-    if (reading.IsWhole()) return Deeds(reading.rents, files.kit);
+    if (reading.IsWhole()) {
+        const Deeds deeds(reading.rents, files.kit);
+        return PlaySet{deeds, {}, {}, NamesOfGroups(reading.rents, deeds)};
+    }
     error = QStringLiteral("Row %1 of the rents in '%2' can't be read.").arg(reading.iRows).arg(files.rents);
     return std::nullopt;
 }
@@ -55,7 +78,7 @@ std::optional<NewsDecks> ReadNews(const QStringList& lines, QString& error) {
 }
 
 std::optional<NewsDecks> ReadNewsOf(const QString& game, QString& error) {
-    const std::optional<QByteArray> bytes = Files::ReadAll(game, error);
+    const std::optional<QByteArray> bytes = ReadFile(game, error);
     if (!bytes) return std::nullopt;
     if (!ReadGameHeader(*bytes).bIsGame) {
         error = QStringLiteral("'%1' is no game.").arg(game);
@@ -74,11 +97,12 @@ PlaySetFiles ShippedFiles(const QString& folder, Kit kit) {
 }
 
 std::optional<PlaySet> ReadPlaySet(const PlaySetFiles& files, QString& error) {
-    const std::optional<Deeds> deeds = ReadDeeds(files, error);
-    if (!deeds) return std::nullopt;
+    std::optional<PlaySet> set = ReadDeeds(files, error);
+    if (!set) return std::nullopt;
     const std::optional<NewsDecks> news = ReadNewsOf(files.game, error);
     if (!news) return std::nullopt;
-    return PlaySet{*deeds, *news, HouseRules{}};
+    set->news = *news;
+    return set;
 }
 
 } // namespace Simulator

@@ -6,7 +6,7 @@
 namespace Simulator {
 
 Table::Table(const PlaySet& given, const std::vector<int>& kinds)
-    : set(given), seats(kinds.size()), bank(given.rules.MoneyPrinted()) {
+    : set(given), seats(kinds.size()), bank(given.rules.MoneyFor(int(kinds.size()))) {
     owner.fill(kNobody);
     record.players = Players();
     for (int seat = 0; seat < Players(); ++seat) {

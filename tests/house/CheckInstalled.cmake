@@ -18,6 +18,12 @@ function(paint_board expected)
   endif()
 endfunction()
 
+execute_process(COMMAND ${FOLDER}/bin/tavlora-play --games 3 RESULT_VARIABLE status
+  OUTPUT_VARIABLE report ERROR_VARIABLE said)
+if(NOT status EQUAL 0 OR NOT report MATCHES "# The economy, played")
+  message(FATAL_ERROR "tavlora-play: status ${status}, said: ${said}")
+endif()
+
 paint_board("^$")
 file(REMOVE ${data}/family/pond.png)
 paint_board("share/tavlora/family/pond.png")

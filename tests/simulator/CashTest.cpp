@@ -16,7 +16,7 @@ TEST_F(CashTest, EachPlayerStartsWithAHundredMoreThanTheOneBefore) {
     EXPECT_EQ(Money(table, 0), 8000);
     EXPECT_EQ(Money(table, 1), 8100);
     EXPECT_EQ(Money(table, 2), 8200);
-    EXPECT_EQ(AllMoney(table), set.rules.MoneyPrinted());
+    EXPECT_EQ(AllMoney(table), set.rules.MoneyFor(3));
 }
 
 TEST_F(CashTest, MortgagePaysItsValueAndCostsAHundredMoreToLift) {
@@ -62,7 +62,7 @@ TEST_F(CashTest, SingleDeedsAreMortgagedBeforeGroupsAndStoriesAreSoldLast) {
     Cash::Raise(table, 0, 1000000);
     EXPECT_EQ(table.mortgaged, Spaces({0, 2, 4, 5, 6, 11}));
     EXPECT_EQ(Money(table, 0), 1500 + 2 * 100 + 3 * 500);
-    EXPECT_EQ(AllMoney(table), set.rules.MoneyPrinted());
+    EXPECT_EQ(AllMoney(table), set.rules.MoneyFor(3));
 }
 
 TEST_F(CashTest, WhoCanPayPaysToTheDollar) {
@@ -92,7 +92,7 @@ TEST_F(CashTest, WhoCannotPayTheBankGivesAllToTheBank) {
     SetMoney(table, 0, 0);
     EXPECT_FALSE(Cash::Pay(table, 0, kNobody, 600));
     EXPECT_EQ(table.owner[4], kNobody);
-    EXPECT_EQ(AllMoney(table), set.rules.MoneyPrinted());
+    EXPECT_EQ(AllMoney(table), set.rules.MoneyFor(3));
 }
 
 TEST_F(CashTest, WealthCountsPricesStoriesAndHalfOfMortgagedDeeds) {

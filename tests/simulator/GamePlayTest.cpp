@@ -185,7 +185,7 @@ TEST_F(WholeGamesTest, NoMoneyComesFromNowhere) {
                 kinds.push_back(int(seed + std::uint64_t(seat) * 3) % 4);
             GamePlay game(set, kinds, seed);
             game.Run();
-            ASSERT_EQ(AllMoney(game.OnTable()), set.rules.MoneyPrinted()) << players << " " << seed;
+            ASSERT_EQ(AllMoney(game.OnTable()), set.rules.MoneyFor(players)) << players << " " << seed;
             for (const Seat& seat : game.OnTable().seats) {
                 ASSERT_GE(seat.money, 0) << players << " " << seed;
                 ASSERT_EQ(seat.money % kSmallestNote, 0) << players << " " << seed;
