@@ -22,7 +22,9 @@ protected:
         std::map<QString, QByteArray> thumbnails;
     };
 
-    QString Photo(const char* name, const QImage& image) { return WriteFile(QString::fromLatin1(name), Encoded(image, "png")); }
+    QString Photo(const char* name, const QImage& image) {
+        return WriteFile(QString::fromLatin1(name), Encoded(image, "png"));
+    }
 
     State StateNow() {
         State state{Hand().InHand(), basPosit::BoardPicture(600).Image().copy(), {}};
