@@ -9,6 +9,7 @@
 #include <cmath>
 #include <memory>
 #include <mutex>
+#include <vector>
 
 namespace {
 
@@ -55,16 +56,35 @@ std::mutex& Guard() {
     return mutex;
 }
 
+using Face = std::shared_ptr<const FontFace>;
+
+struct Faces {
+    std::array<QHash<QString, Face>, 4> byStyle;
+    // Still drawn with by whoever got them before fonts were added.
+    std::vector<Face> former;
+};
+
+// Never taken down: a thread may be measuring while the program ends, and the toolkit's fonts mustn't outlive it.
+Faces& AllFaces() {
+    static Faces& faces = *new Faces;
+    return faces;
+}
+
 } // namespace
 
 const FontFace& FontFace::Get(const QString& sFamily, bool bBold, bool bItalic) {
-    using Faces = std::array<QHash<QString, std::shared_ptr<const FontFace>>, 4>;
-    // Never taken down: a thread may be measuring while the program ends, and the toolkit's fonts mustn't outlive it.
-    static Faces& faces = *new Faces;
     const std::lock_guard lock(Guard());
-    std::shared_ptr<const FontFace>& face = faces[(bBold ? 1U : 0U) + (bItalic ? 2U : 0U)][sFamily];
+    Face& face = AllFaces().byStyle[(bBold ? 1U : 0U) + (bItalic ? 2U : 0U)][sFamily];
     if (!face) face.reset(new FontFace(sFamily, bBold, bItalic));
     return *face;
+}
+
+void FontFace::ForgetAll() {
+    const std::lock_guard lock(Guard());
+    for (QHash<QString, Face>& faces : AllFaces().byStyle) {
+        AllFaces().former.insert(AllFaces().former.end(), faces.begin(), faces.end());
+        faces.clear();
+    }
 }
 
 FontFace::FontFace(const QString& sFamily, bool bBold, bool bItalic) : m_font(LargeFont(sFamily, bBold, bItalic)) {

@@ -17,6 +17,9 @@ public:
     /// A family that this machine lacks is replaced by the nearest one; an empty family means Arial.
     static const FontFace& Get(const QString& sFamily, bool bBold, bool bItalic);
 
+    /// Fonts have come to this machine's: from here on families are looked up anew. What was given before stays valid.
+    static void ForgetAll();
+
     double Ascent() const { return m_ascent; }
     double CellHeight() const { return m_ascent + m_descent; }
     /// Average advance of a to z and the blank, weighted by how often each occurs in text; 0 for a symbol
