@@ -8,6 +8,7 @@
 #include "game/Rescue.h"
 #include "platform/files/Files.h"
 #include "platform/files/Folders.h"
+#include "platform/paint/FontFiles.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
 #include "services/basMsgQueue.h"
@@ -32,10 +33,13 @@ struct Parts {
 
 bool IsAutosave(const QString& sFileName) { return Parts(sFileName).sBase.toUpper() == kAutosaveBase; }
 
-// Where relative pictures are looked for next. An autosave lies elsewhere than its game.
+// Where relative pictures are looked for next, and the fonts that came along. An autosave lies elsewhere than its game.
 void NoteGameDirectory(const QString& sGame) {
     const Parts parts(sGame);
     Settings().sGameDirectory = parts.sDrive + parts.sDir;
+    // Ahead of fitting the game's texts. A name without a folder would lead to wherever the program was started.
+    if (!Settings().sGameDirectory.isEmpty())
+        FontFiles::UseFolder(basCommon::JoinPath(Settings().sGameDirectory, QStringLiteral("Fonts")));
 }
 
 void SetBlankNotes(Game& game) {

@@ -97,6 +97,7 @@ public:
         zip.Add(PackNames::kTypeEntry, Method::Stored, PackNames::kType);
         zip.Add(m_contents.sName + kGameEnding, Method::Deflated, game);
         if (!m_contents.board.isEmpty()) zip.Add(PackNames::kBoardEntry, Method::Stored, m_contents.board);
+        AddFonts(zip);
         for (const Picture& picture : m_contents.pictures) {
             zip.Add(picture.sEntry, MethodFor(picture, bShrink), picture.PackedSize(),
                     [this, &picture](QString& sWhy) { return BytesOf(picture, sWhy); });
@@ -108,6 +109,17 @@ public:
     }
 
 private:
+    void AddFonts(ZipWriter& zip) const {
+        if (!m_contents.fonts.isEmpty())
+            zip.Add(PackNames::kFontListEntry, Method::Deflated, PackFonts::ListOf(m_contents.fonts));
+        for (const PackFonts::Use& use : m_contents.fonts) {
+            for (const PackFonts::Use::File& file : use.files) {
+                zip.Add(file.sEntry, Method::Deflated, file.size,
+                        [path = file.sPath](QString& sWhy) { return Files::ReadAll(path, sWhy); });
+            }
+        }
+    }
+
     std::optional<QByteArray> BytesOf(const Picture& picture, QString& sError) {
         constexpr qint64 kWhole = 1000;
         const qint64 all = std::max<qint64>(m_contents.PictureBytes(), 1);
@@ -138,6 +150,15 @@ qint64 Contents::PictureBytes() const {
     return sum;
 }
 
+qint64 Contents::FontBytes() const {
+    qint64 sum = 0;
+    for (const PackFonts::Use& use : fonts) {
+        for (const PackFonts::Use::File& file : use.files)
+            sum += file.size;
+    }
+    return sum;
+}
+
 Contents Gather(const QStringList& lines, const QString& sGame, const PicturePlaces::Finder& find) {
     Contents contents;
     contents.sName = BaseName(sGame);
@@ -147,11 +168,13 @@ Contents Gather(const QStringList& lines, const QString& sGame, const PicturePla
     Gathering gathering(contents, find);
     for (const GamePictures::Named& named : GamePictures::Of(lines))
         gathering.Take(named);
+    QSet<QString> taken;
+    contents.fonts = PackFonts::UsesOf(PackFonts::FamiliesOf(lines), taken);
     return contents;
 }
 
 std::optional<QByteArray> Pack(const Contents& contents, const Progress& progress, QString& sError) {
-    const qint64 unpacked = contents.PictureBytes() + contents.board.size();
+    const qint64 unpacked = contents.PictureBytes() + contents.FontBytes() + contents.board.size();
     // A file of that length could be made, but nobody could open it.
     if (unpacked > Files::kMostBytes) {
         sError = QStringLiteral("its pictures are too large for one file");

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "pack/GamePictures.h"
+#include "pack/PackFonts.h"
 #include "pictures/PicturePlaces.h"
 
 #include <QByteArray>
@@ -40,11 +41,15 @@ struct Contents {
     QList<Picture> pictures;
     /// Complete paths of pictures that the game names and that aren't there.
     QStringList missing;
+    /// Families that the game names and that aren't everywhere.
+    QList<PackFonts::Use> fonts;
     /// A picture of the board as a PNG file; empty for none.
     QByteArray board;
 
     /// Bytes of all pictures as they would go in.
     qint64 PictureBytes() const;
+    /// Bytes of all fonts that go along.
+    qint64 FontBytes() const;
 };
 
 /// What would go in of the game with these lines; find leads from a name in the game to a complete path. Nothing is

@@ -180,6 +180,15 @@ int PrintCommand::PrintGame(const PrintArguments& arguments) {
     return arguments.sOutput.isEmpty() ? kDone : PrintSheetsOf(arguments, sheets);
 }
 
+void PrintCommand::TellOfFonts(const Packing::Contents& contents) {
+    for (const PackFonts::Use& use : contents.fonts) {
+        if (use.standing == PackFonts::Use::Standing::StaysBehind)
+            Complain(QStringLiteral("the font '%1' doesn't go along, as it may not be passed on").arg(use.sFamily));
+        if (use.standing == PackFonts::Use::Standing::NotHere)
+            Complain(QStringLiteral("the font '%1' isn't on this computer and doesn't go along").arg(use.sFamily));
+    }
+}
+
 bool PrintCommand::PackGame(const QString& sGame, const QString& sPath) {
     QString error;
     const QString game = Console::CompletePath(sGame);
@@ -190,6 +199,7 @@ bool PrintCommand::PackGame(const QString& sGame, const QString& sPath) {
     if (well) {
         Packing::Contents contents = Packing::Gather(*lines, game, FindPicture);
         contents.board = *board;
+        TellOfFonts(contents);
         const auto tell = [this](int iThousandths) {
             Progress(QStringLiteral("packing"), iThousandths);
             return true;

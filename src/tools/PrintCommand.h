@@ -8,6 +8,9 @@
 class Printer;
 struct PrintArguments;
 struct Sheet;
+namespace Packing {
+struct Contents;
+}
 
 /// The work of tavlora-print: reads a game and prints it into files. It leaves nothing of the user's changed
 /// but the files it was asked for: settings are read only, and log and temporary files go to a folder that
@@ -37,6 +40,8 @@ private:
     bool WritePieces(const QString& sFolder);
     /// The game with its pictures as one file.
     bool PackGame(const QString& sGame, const QString& sPath);
+    /// A line for each font that doesn't go along.
+    void TellOfFonts(const Packing::Contents& contents);
     bool LoadGame(const QString& sGame);
     void List();
     void Complain(const QString& sText);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // A game goes out as one file and is printed by somebody else, each with the real program and a home of its own.
 #include "services/RecordText.h"
+#include "support/FontMaker.h"
 #include "support/PdfReader.h"
 #include "support/PictureFiles.h"
 #include "support/TestFixture.h"
@@ -147,6 +148,42 @@ TEST_F(PackCommandTest, PicturesOfOneNameAndTextsInTwelveScriptsPrintTheSame) {
     }
     ExpectTheSameKit(
         WriteHers(scripts.join(u' ') + QStringLiteral(".gam"), lines.join(QStringLiteral("\r\n")).toUtf8()));
+}
+
+// A sample whose spaces are in a font of hers.
+QStringList InHerFont(QStringList lines) {
+    for (int line = kFirstSpace; line < 31; ++line)
+        lines[line].replace(QStringLiteral("\"Arial\""), basTAVL::Quote(FontMaker::kFamily));
+    return lines;
+}
+
+TEST_F(PackCommandTest, AFreeFontGoesAlongAndIsUsedWithoutBeingInstalled) {
+    const QByteArray font = FontMaker::Font();
+    if (font.isEmpty() || !PdfReader::IsInstalled()) GTEST_SKIP() << "DejaVu Serif or poppler's tools aren't installed";
+    WriteHers(QStringLiteral(".local/share/fonts/quill.ttf"), font);
+    const QString game = WriteHers(QStringLiteral("Quill.gam"),
+                                   InHerFont(LinesOf("Family_US.gam")).join(QStringLiteral("\r\n")).toUtf8());
+    ExpectTheSameKit(game);
+    EXPECT_TRUE(PdfReader(PathOf(QStringLiteral("out/his.pdf"))).Pages() == 12 &&
+                ReadFile(PathOf(QStringLiteral("out/his.pdf"))).contains("QuillLetter"));
+}
+
+TEST_F(PackCommandTest, AFontThatMayNotBePassedOnStaysAndIsTold) {
+    const QString packed = PathOf(QStringLiteral("post/x.tavlora"));
+    const QString game =
+        WriteHers(QStringLiteral("x.gam"), InHerFont(LinesOf("Blank_US.gam")).join(QStringLiteral("\r\n")).toUtf8());
+    EXPECT_EQ(Run("hers", {game, QStringLiteral("--pack"), packed}), 0);
+    EXPECT_EQ(errors,
+              QStringLiteral("tavlora-print: the font 'Quill Letter' isn't on this computer and doesn't go along\n"));
+    if (FontMaker::Font().isEmpty()) GTEST_SKIP() << "DejaVu Serif isn't installed";
+    for (const QByteArray& font : {FontMaker::Font(2), FontMaker::Font(0, false)}) {
+        WriteHers(QStringLiteral(".local/share/fonts/quill.ttf"), font);
+        EXPECT_EQ(Run("hers", {game, QStringLiteral("--pack"), packed}), 0);
+        EXPECT_EQ(errors, QStringLiteral(
+                              "tavlora-print: the font 'Quill Letter' doesn't go along, as it may not be passed on\n"));
+        EXPECT_FALSE(ReadFile(packed).contains("Fonts/"));
+        EXPECT_TRUE(ReadFile(packed).contains("Fonts.txt"));
+    }
 }
 
 TEST_F(PackCommandTest, EveryCommandTakesAPackedGame) {
