@@ -2,13 +2,13 @@
 #include "app/GameCommands.h"
 
 #include "app/BoardView.h"
-#include "app/GameNames.h"
 #include "app/OpeningNote.h"
 #include "app/PackedGames.h"
 #include "app/RecentGames.h"
 #include "document/basTAVL.h"
 #include "document/Locale.h"
 #include "game/Autosave.h"
+#include "game/GameNames.h"
 #include "game/Rescue.h"
 #include "platform/files/Files.h"
 #include "platform/files/Folders.h"
@@ -219,8 +219,9 @@ void GameCommands::LoadInstead(const QString& sPath) {
     m_session.SetGameName(game);
     LoadUnderItsName();
     ShowState();
-    // A game that was read only in part isn't the file any more.
-    m_session.SetSomethingChanged(m_iLoadResult != 0);
+    // A game that was read only in part isn't the file any more, nor is what an autosave holds the game that it was
+    // edited as.
+    m_session.SetSomethingChanged(m_iLoadResult != 0 || Autosave::IsOneOf(game));
     NoteInUse();
     m_view.Redraw();
     PackedGames::TellWhereItLies(sPath, game);

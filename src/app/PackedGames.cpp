@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/PackedGames.h"
 
-#include "app/GameNames.h"
+#include "game/GameNames.h"
 #include "pack/Unpacking.h"
 #include "services/basErrLog.h"
 #include "services/basPath.h"

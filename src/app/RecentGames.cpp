@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/RecentGames.h"
 
-#include "app/GameNames.h"
+#include "game/GameNames.h"
 #include "services/basCommon.h"
 #include "services/basPath.h"
 

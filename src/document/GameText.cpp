@@ -19,10 +19,26 @@ QString Version() {
         .arg(TAVLORA_VERSION_REVISION);
 }
 
-QString HeaderLine(QString sGameName) {
-    // A file's name may hold a line break on some systems; the header must stay one line.
-    sGameName.replace(u'\r', u' ').replace(u'\n', u' ');
-    return basTAVL::Quote(kMagic) + kSeparator + Version() + kSeparator + sGameName;
+QString StartOfHeader() { return basTAVL::Quote(kMagic) + kSeparator + Version() + kSeparator; }
+
+// A bare field ends at a comma, and a name may hold what ends a line. Such a name follows once more in quotes, where
+// programs that know no fourth field never look; what has a meaning there is written as in a web address.
+QString NameField(const QString& sGameName) {
+    QString bare = sGameName;
+    bare.replace(u'\r', u' ').replace(u'\n', u' ');
+    QString asRead = bare;
+    if (basTAVL::GetQuotedField(asRead) == sGameName) return bare;
+    const QByteArray whole = sGameName.toUtf8().toPercentEncoding(" !#$&'()*+,-./:;<=>?@[\\]^_`{|}~");
+    return bare + kSeparator + u'"' + QString::fromLatin1(whole) + u'"';
+}
+
+// The name in the fourth field, where the line is just what NameField makes of it.
+std::optional<QString> WholeName(const QString& sNameField) {
+    const qsizetype start = sNameField.lastIndexOf(kSeparator + u'"') + kSeparator.size() + 1;
+    if (start <= kSeparator.size() || !sNameField.endsWith(u'"') || start == sNameField.size()) return std::nullopt;
+    const QByteArray whole = sNameField.mid(start, sNameField.size() - start - 1).toUtf8();
+    const QString name = QString::fromUtf8(QByteArray::fromPercentEncoding(whole));
+    return NameField(name) == sNameField ? std::optional(name) : std::nullopt;
 }
 
 QString TitlesLine(const Titles& titles, int iFirst, int iLast) {
@@ -42,7 +58,8 @@ GameHeader HeaderOf(QString sLine) {
     GameHeader header;
     const QString magic = basTAVL::GetQuotedField(sLine);
     basTAVL::GetQuotedField(sLine);
-    header.sGameName = basTAVL::GetQuotedField(sLine);
+    const std::optional<QString> whole = WholeName(sLine);
+    header.sGameName = whole ? *whole : basTAVL::GetQuotedField(sLine);
     header.bIsGame = magic.toUpper() == kMagic.toUpper();
     return header;
 }
@@ -247,7 +264,8 @@ bool GameReader::ReadTokens() {
 } // namespace
 
 QStringList ComposeLines(const Game& game, const QString& sGameName) {
-    QStringList lines{HeaderLine(sGameName), TitlesLine(game.titles, 1, 3), TitlesLine(game.titles, 4, 5)};
+    QStringList lines{StartOfHeader() + NameField(sGameName), TitlesLine(game.titles, 1, 3),
+                      TitlesLine(game.titles, 4, 5)};
     AppendRecords(lines, game.spaces);
     AppendRecords(lines, game.corners);
     for (const auto& set : game.news)

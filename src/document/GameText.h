@@ -33,7 +33,7 @@ QStringList ComposeLines(const Game& game, const QString& sGameName);
 struct GameHeader {
     /// Whether the bytes are those of a game at all.
     bool bIsGame = false;
-    /// The name that the game was edited by, up to its first comma.
+    /// The name that the game was edited by. Up to its first comma where the file is of a program that wrote no more.
     QString sGameName;
 };
 GameHeader ReadGameHeader(const QByteArray& bytes);

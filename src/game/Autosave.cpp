@@ -2,12 +2,15 @@
 #include "game/Autosave.h"
 
 #include "document/GameHost.h"
+#include "game/GameNames.h"
 #include "game/Rescue.h"
 #include "platform/files/Files.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
 #include "services/Desktop.h"
 #include "services/FileRefused.h"
+
+#include <QDir>
 
 #include <utility>
 
@@ -37,12 +40,6 @@ void RemoveOrRaise(const QString& sPath) {
     // On a full disk a state that nobody could read goes in favour of the one that is being written.
     Rescue::KeepUnread(sPath, error);
     if (!Files::Remove(sPath, error)) ErrRaiseRefused(sPath, error);
-}
-
-QString FileNameOf(const QString& sPath) {
-    QString drive, dir, base, ext;
-    basCommon::FileNameFactor(sPath, drive, dir, base, ext);
-    return ext.isEmpty() ? base : base + u'.' + ext;
 }
 
 QString FreeRescuedPath(const QString& sGameName) {
@@ -75,7 +72,7 @@ void TellOfFailedSave(const FailedSave& failed, const QString& sWhere) {
     QString text = sWhere;
     if (!failed.sUntold.isEmpty())
         text = QStringLiteral("The game '%1' could not be saved: %2\r\n\r\n%3")
-                   .arg(FileNameOf(failed.sGameName), failed.sUntold, sWhere);
+                   .arg(GameNames::FileNameOf(failed.sGameName), failed.sUntold, sWhere);
     MsgBox(text, vbExclamation);
 }
 
@@ -94,7 +91,8 @@ bool KeepWork() {
     }
     basErrLog::ErrLogToFile(QStringLiteral("The game could not be saved. It was kept as ") + path, true);
     const FailedSave failed = *std::exchange(Failed(), std::nullopt);
-    TellOfFailedSave(failed, QStringLiteral("Your work was kept in My Games as '%1'.").arg(FileNameOf(path)));
+    TellOfFailedSave(failed,
+                     QStringLiteral("Your work was kept in My Games as '%1'.").arg(GameNames::FileNameOf(path)));
     return true;
 }
 
@@ -102,6 +100,13 @@ bool KeepWork() {
 
 QString DataPath() { return InMyGames(QStringLiteral("~AutoSave.dat")); }
 QString BackupPath() { return InMyGames(QStringLiteral("~AutoSave.bak")); }
+
+bool IsOneOf(const QString& sPath) {
+    const QString path = QDir::cleanPath(sPath);
+    // Some disks know a file by any spelling.
+    return path.compare(QDir::cleanPath(DataPath()), Qt::CaseInsensitive) == 0 ||
+           path.compare(QDir::cleanPath(BackupPath()), Qt::CaseInsensitive) == 0;
+}
 
 Rotated Rotate() {
     // Without a newer state the earlier one is the only copy there is.

@@ -15,6 +15,8 @@ namespace Autosave {
 /// The current state, and the state one change earlier.
 QString DataPath();
 QString BackupPath();
+/// Whether a path is that of one of the two. A file of that name elsewhere is as good as any other.
+bool IsOneOf(const QString& sPath);
 
 /// What became of the two files ahead of writing a new state.
 enum class Rotated { DataBecameBackup, BackupIsAll };

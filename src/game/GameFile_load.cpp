@@ -20,8 +20,6 @@ namespace {
 using Fault = GameReading::Fault;
 
 const QString kAutosaveBase = QStringLiteral("~AUTOSAVE");
-// A game is some ten thousand bytes; what is larger than this isn't read into memory at all.
-constexpr qint64 kMaxGameSize = qint64(64) << 20;
 
 // Blank notes of the program's directory, as .bmp or else as .dat.
 constexpr const char* kBlankNotes[basTAVL::kMoney] = {"BLNK100", "BLNK500", "BLNK1000", "BLNK5000"};

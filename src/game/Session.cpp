@@ -3,6 +3,7 @@
 
 #include "game/Autosave.h"
 #include "game/GameFile.h"
+#include "game/RecoveredName.h"
 #include "services/basErrLog.h"
 #include "services/Desktop.h"
 
@@ -24,6 +25,7 @@ int Session::Recover(const QString& sAutosave) {
 
 int Session::Load(QString& sFileName) {
     const Game before = InHand();
+    const QString file = sFileName;
     int result = -1;
     try {
         GameFile::GameLoad(sFileName, result);
@@ -33,6 +35,8 @@ int Session::Load(QString& sFileName) {
     }
     // Where nothing could be read, the game is still the one that the steps lead through.
     if (result == 0 || before != InHand()) BeginHistory();
+    // Whatever a file calls itself, only the program's own two say what game they are; these are never a game's name.
+    sFileName = Autosave::IsOneOf(file) ? RecoveredName::For(sFileName) : file;
     return result;
 }
 

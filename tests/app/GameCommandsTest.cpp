@@ -2,7 +2,7 @@
 // New, Open, Save, Save As, the autosave and the question about unsaved changes.
 #include "AppFixture.h"
 
-#include "app/GameNames.h"
+#include "game/GameNames.h"
 #include "game/SampleGames.h"
 #include "platform/files/Folders.h"
 

@@ -72,11 +72,39 @@ TEST_F(LoadTest, Edge_MagicWordIsComparedInUpperCase) {
 }
 
 TEST_F(LoadTest, Edge_GamePathWithACommaIsCutThereInTheHeader) {
-    session.SetGameName(InGames(QStringLiteral("Mum, Dad.gam")));
-    session.SetSomethingChanged(true);
-    QString name = autosave;
+    QStringList lines = PlainLines();
+    lines[0] = QStringLiteral("\"TavloraGameBoard\", 8.0.0, ") + InGames(QStringLiteral("Mum, Dad.gam"));
+    QString name = WriteGame(lines, QStringLiteral("~AutoSave.dat"));
     EXPECT_EQ(Load(name), 0);
-    EXPECT_EQ(name, InGames(QStringLiteral("Mum")));
+    EXPECT_EQ(name, InGames(QStringLiteral("Mum"))) << "as programs wrote it that knew no other way";
+}
+
+TEST_F(LoadTest, AutosaveBringsBackNamesThatAFieldCantHold) {
+    for (const char* odd : {"Mum, Dad and me.gam", "a, \"b\".gam", "\"a\", \"b\".gam", "line\nbreak.gam", "a\r\nb,.gam",
+                            "100%, 20%2C.gam", "Żółw, 🐢.gam", ",.gam", "a\\nb, \\q.gam", "a,\"", "a, \""}) {
+        session.SetGameName(InGames(QString::fromUtf8(odd)));
+        session.SetSomethingChanged(true);
+        QString name = autosave;
+        ASSERT_EQ(Load(name), 0) << odd;
+        EXPECT_EQ(name, session.GameName());
+        const QByteArray bytes = ReadFile(autosave);
+        EXPECT_EQ(bytes.count("\r\n"), 69) << odd;
+        QString header = QString::fromUtf8(bytes.left(bytes.indexOf("\r\n")));
+        basTAVL::GetQuotedField(header);
+        basTAVL::GetQuotedField(header);
+        QString asEver = session.GameName().replace(u'\r', u' ').replace(u'\n', u' ');
+        EXPECT_EQ(basTAVL::GetQuotedField(header), basTAVL::GetQuotedField(asEver)) << "for older programs: " << odd;
+    }
+}
+
+TEST_F(LoadTest, WhatOnlyLooksLikeAWholeNameIsReadAsEver) {
+    QStringList lines = PlainLines();
+    for (const char* field : {"/a, \"/b\"", "/a, \"\"", "/a, \"", "/a, \"/a%2C\"", "/a, b, \"/a, c\""}) {
+        lines[0] = QStringLiteral("\"TavloraGameBoard\", 8.0.0, ") + QString::fromLatin1(field);
+        QString name = WriteGame(lines, QStringLiteral("~AutoSave.dat"));
+        ASSERT_EQ(Load(name), 0);
+        EXPECT_EQ(name, QStringLiteral("/a")) << field;
+    }
 }
 
 TEST_F(LoadTest, Edge_AutosaveKeepsTheUnsavedStateAndBringsBackTheRealName) {

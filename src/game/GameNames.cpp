@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/GameNames.h"
+#include "game/GameNames.h"
 
 #include "platform/text/Numbers.h"
 #include "services/basPath.h"
