@@ -32,8 +32,6 @@ State& Module() {
     return state;
 }
 
-void ResetForTest() { Module() = State{}; }
-
 void Draw_SetHdc(DeviceContext* hDC) { Module().m_hDC = hDC; }
 
 void Draw_SetPen(PenStyle lStyle, int lWidth, Color lColor) try {
@@ -81,6 +79,8 @@ void Draw_ReleaseObjects() try {
 } catch (...) {
     ErrTail("basDraw!", "Draw_ReleaseObjects");
 }
+
+void Draw_Abandon() { Module() = State{}; }
 
 void Draw_Line(int x1, int y1, int x2, int y2) try {
     Context().MoveTo(x1, y1);

@@ -36,6 +36,9 @@ void Draw_SetFont(const QString& sFamily, int lHeight, int lWidth, int lEscapeme
 /// Gives back what was selected before this layer's first pen, brush, font and colours.
 void Draw_ReleaseObjects();
 
+/// After a failure amid drawing, when the context may be gone: forgets it, and gives nothing back. Tests begin so.
+void Draw_Abandon();
+
 void Draw_Line(int x1, int y1, int x2, int y2);
 /// Right and bottom edge excluded.
 void Draw_Rect(int x1, int y1, int x2, int y2);
@@ -71,8 +74,5 @@ void Draw_GetDPIandPrinterSizeRatio(Surface& objDest, double& dblDPI, double& db
 /// object's own text, so the same call serves a window and the printer.
 void Draw_MultiLineText(Surface& objDest, const QStringList& sTextLines, int iNLines, const QString& sFont, bool bBold,
                         bool bItalic, int x, int y, int w, int h);
-
-/// For tests: as at the start of the program.
-void ResetForTest();
 
 } // namespace basDraw

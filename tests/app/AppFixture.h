@@ -72,7 +72,7 @@ protected:
     /// As if the program had ended.
     void ForgetTheRun() {
         window.reset();
-        basDraw::ResetForTest();
+        basDraw::Draw_Abandon();
         basTAVL::ResetForTest();
         basPosit::ResetForTest();
         basCommon::ResetForTest();

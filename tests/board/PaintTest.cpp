@@ -125,7 +125,7 @@ TEST_F(PaintTest, HiddenSpaceDoesNotTouchTheContext) {
     // Zoomed four times, the upper left quarter of the board.
     PaintScrolled(4 * kSize, 0, 0);
     ASSERT_FALSE(g_oSpaces(0).IsShowing);
-    basDraw::ResetForTest();
+    basDraw::Draw_Abandon();
     EXPECT_NO_THROW(PosDrawSpaceText(0)) << "there is none";
     const PaintedBoard lowerRight = PaintScrolled(4 * kSize, -3 * kSize, -3 * kSize);
     EXPECT_EQ(lowerRight.ColorAt(4 * 0.76 - 3, 4 * 0.86 - 3), kMagic);

@@ -34,10 +34,10 @@ protected:
     DrawPlacesTest() {
         basErrLog::ResetForTest();
         basErrLog::ErrInit(60000);
-        basDraw::ResetForTest();
+        basDraw::Draw_Abandon();
         Open(600, false);
     }
-    ~DrawPlacesTest() override { basDraw::ResetForTest(); }
+    ~DrawPlacesTest() override { basDraw::Draw_Abandon(); }
 
     void Open(int dpi, bool bPrinter) {
         m_dpi = dpi;

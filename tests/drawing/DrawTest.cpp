@@ -32,10 +32,10 @@ protected:
         basErrLog::ResetForTest();
         basErrLog::ErrInit(60000);
         image.fill(Qt::white);
-        basDraw::ResetForTest();
+        basDraw::Draw_Abandon();
         Draw_SetHdc(&context);
     }
-    ~DrawTest() override { basDraw::ResetForTest(); }
+    ~DrawTest() override { basDraw::Draw_Abandon(); }
 
     void UseFont(int height, int escapement = 0) {
         Draw_SetFont(QStringLiteral("Arial"), height, 0, escapement, escapement, false, false, false);

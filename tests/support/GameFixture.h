@@ -35,7 +35,7 @@ protected:
 
 private:
     static void ResetModules() {
-        basDraw::ResetForTest();
+        basDraw::Draw_Abandon();
         basTAVL::ResetForTest();
         basErrLog::ResetForTest();
     }

@@ -98,6 +98,8 @@ TEST_F(ConsoleTest, InNoMenuTwoButtonsAnswerToOneKey) {
         Open(kit);
         for (int menu = 0; menu < int(std::size(kFrames)); ++menu) {
             console->cmdNav_Click(menu);
+            Control("fraProgress").show();
+            Control("cmdTryAgain").show();
             QMap<QString, QString> buttonOf;
             for (const QAbstractButton* button : console->findChildren<QAbstractButton*>()) {
                 if (!button->isVisible()) continue;

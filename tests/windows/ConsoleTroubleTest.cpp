@@ -2,6 +2,8 @@
 // The print console when the printer or the disk lets it down: what a person is told, and what can still be done.
 #include "ConsoleFixture.h"
 
+#include "drawing/basDraw.h"
+#include "drawing/basDraw_state.h"
 #include "pieces/MadePicture.h"
 #include "windowing/SystemPrinter.h"
 
@@ -11,6 +13,7 @@ constexpr int kBox = 0;
 constexpr int kWest = 1;
 constexpr int kEast = 3;
 constexpr int kGoodNews = 5;
+constexpr int kMoney100 = 7;
 constexpr int kRules = 11;
 constexpr int kDeeds1 = 12;
 
@@ -161,4 +164,108 @@ TEST_F(ConsoleTest, APdfOfBeforeStaysWhenItsSheetFails) {
     for (const QString& told : desktop.Texts())
         EXPECT_FALSE(told.contains(QStringLiteral("is now in the file"))) << qPrintable(told);
     Printer::Install(before);
+}
+
+// ---- Another printer, and another try.
+
+TEST_F(ConsoleTest, QuestionsRefusalsAndFilesDoNotKeepAnybodyFromChangingThePrinter) {
+    int dialogs = 0;
+    desktop.onDialog = [&](CommonDialog&) {
+        ++dialogs;
+        return true;
+    };
+    printer.printable = QSizeF(6, 9);
+    desktop.answers = {vbCancel};
+    Print(kRules);
+    printer.printable = {};
+    printer.there = false;
+    desktop.answers = {vbCancel};
+    Print(kRules);
+    printer.there = true;
+    printer.device.clear();
+    Print(kRules);
+    EXPECT_EQ(printer.ended.size(), 1) << "into a file";
+    Open("2");
+    ClickSheet(kWest);
+    Click(*console, "cmdChangePrinter");
+    EXPECT_EQ(dialogs, 1);
+}
+
+TEST_F(ConsoleTest, APageThatThePrinterDidNotTakeKeepsNobodyFromChangingIt) {
+    int dialogs = 0;
+    desktop.onDialog = [&](CommonDialog&) { return ++dialogs > 0; };
+    printer.error = QStringLiteral("The printer 'Laser' can't be opened");
+    Print(kRules);
+    Click(*console, "cmdChangePrinter");
+    EXPECT_EQ(dialogs, 1);
+}
+
+TEST_F(ConsoleTest, AfterAFailureNothingPrintsUntilTryAgainWhichBeginsWithThatSheet) {
+    desktop.onPump = [this] {
+        if (console->Progress() > 500) ErrRaise(ErrNumber::kOutOfMemory, QStringLiteral("Out of memory"));
+    };
+    Print(kGoodNews);
+    desktop.onPump = nullptr;
+    EXPECT_TRUE(Shows("cmdTryAgain"));
+    EXPECT_EQ(Button("cmdTryAgain").text().remove(u'&'), QStringLiteral("Try Again"));
+    EXPECT_EQ(Text("lblSheet"), QStringLiteral("Printing has stopped."));
+    EXPECT_EQ(Text("lblPiece"), QStringLiteral("It got as far as: Card 8 of 12"));
+    EXPECT_TRUE(Hourglass());
+    for (const Sheet& sheet : Sheets())
+        EXPECT_FALSE(Button(qPrintable(QStringLiteral("cmdPrint_%1").arg(sheet.iButton))).isEnabled());
+    ModalSteps person;
+    person.In("frmPrntPrep", [](QWidget& window) {
+        EXPECT_TRUE(Find<QLabel>(window, "lblMain").text().contains(QStringLiteral("colored card stock")));
+        Click(window, "cmd_2");
+    });
+    Click(*console, "cmdTryAgain");
+    EXPECT_EQ(printer.ended, QStringList{QStringLiteral("Ours - Good News Cards")});
+    EXPECT_FALSE(Hourglass());
+    EXPECT_FALSE(Shows("fraProgress"));
+    for (const int sheet : {kMoney100, kBox}) {
+        printer.ended.clear();
+        Print(sheet);
+        EXPECT_EQ(printer.ended.size(), 1) << sheet;
+    }
+    EXPECT_FALSE(Shows("cmdTryAgain"));
+}
+
+TEST_F(ConsoleTest, WhoeverTriesAgainMayLeaveItAtThePaper) {
+    desktop.onPump = [] { ErrRaise(ErrNumber::kOutOfMemory, QStringLiteral("Out of memory")); };
+    Print(kGoodNews);
+    desktop.onPump = nullptr;
+    ModalSteps person;
+    person.In("frmPrntPrep", [](QWidget& window) { Click(window, "cmd_0"); });
+    Click(*console, "cmdTryAgain");
+    EXPECT_TRUE(printer.ended.isEmpty());
+    EXPECT_FALSE(Hourglass());
+    Print(kRules);
+    EXPECT_EQ(printer.ended.size(), 1);
+}
+
+TEST_F(ConsoleTest, APageAfterAFailureIsPaintedAsIfNothingHadFailed) {
+    Print(kBox);
+    const QImage good = printer.Page().Image().copy();
+    bool selected = false;
+    desktop.onPump = [&] {
+        if (std::exchange(selected, true)) return;
+        basDraw::Draw_SetHdc(&printer.hDC());
+        basDraw::Draw_SetBrush(Color::Rgb(0xFF, 0, 0xFF));
+        basDraw::Draw_SetFont(QStringLiteral("Times New Roman"), 90, 0, 0, 0, true, true, false);
+        ErrRaise(ErrNumber::kOutOfMemory, QStringLiteral("Out of memory"));
+    };
+    Print(kBox);
+    desktop.onPump = nullptr;
+    ASSERT_TRUE(selected);
+    ModalSteps person;
+    person.In("frmPrntPrep", [](QWidget& window) { Click(window, "cmd_2"); });
+    Click(*console, "cmdTryAgain");
+    EXPECT_EQ(printer.Page().Image(), good);
+    EXPECT_FALSE(basDraw::Module().m_hOldFont.has_value());
+}
+
+TEST_F(ConsoleTest, TryAgainIsNoneOfTheButtonsUntilSomethingFails) {
+    Print(kRules);
+    EXPECT_FALSE(Shows("cmdTryAgain"));
+    EXPECT_GE(Control("fraProgress").height(), Control("cmdTryAgain").sizeHint().height()) << "it has its room";
 }

@@ -4,6 +4,7 @@
 #include "document/basTAVL.h"
 #include "document/GameHost.h"
 #include "drawing/basBMP.h"
+#include "drawing/basDraw.h"
 #include "kit/ConsoleSheets.h"
 #include "pieces/MadePicture.h"
 #include "platform/paint/Units.h"
@@ -22,6 +23,9 @@
 #include <QFrame>
 #include <QGroupBox>
 #include <QPointer>
+#include <QPushButton>
+
+#include <utility>
 
 namespace {
 
@@ -98,30 +102,63 @@ void frmTavlPrint::cmdCancel_Click() { hide(); }
 void frmTavlPrint::reject() { cmdCancel_Click(); }
 
 void frmTavlPrint::cmdChangePrinter_Click() try {
-    ChangePrinter(dlgCommon, m_bPrintStarted);
+    const bool amidASheet = bInPrint && !m_stoppedAt;
+    ChangePrinter(dlgCommon, m_bPrintStarted || amidASheet);
     ShowDestination();
 } catch (...) {
     ErrTop("frmTavlPrint!", "cmdChangePrinter_Click");
 }
 
 void frmTavlPrint::cmdPrint_Click(int Index) try {
-    m_bPrintStarted = true;
     if (bInPrint) return;
     bInPrint = true;
     const Sheet& sheet = ConsoleSheets::SheetOf(Index);
+    if (const QString why = ConsoleSheets::WhyNotPrinted(sheet, KitInUse()); !why.isEmpty()) {
+        CleanUp();
+        MsgBox(why);
+        return;
+    }
     QString answer;
     if (const auto prompt = sheet.Prompt(KitInUse())) answer = m_frmPrntPrep->ShowForm(*prompt);
     if (answer != kCancelled && !RunJob(sheet, ConsoleSheets::DoneMark(answer))) {
-        TellStopped();
+        Stop(Index);
         return;
     }
     CleanUp();
     TellWhereItWent();
 } catch (...) {
-    // Hourglass and guard stay as they are, on purpose: whatever has failed may have left the sheets' drawing
-    // in disorder, and a new start puts it right.
-    TellStopped();
+    // What was selected belongs to a page that is gone; the next one would be painted with it.
+    basDraw::Draw_Abandon();
+    // Hourglass and guard stay as they are, on purpose, until somebody has seen that a sheet is missing.
+    Stop(Index);
     ErrTop("frmTavlPrint!", "cmdPrint_Click", Index);
+}
+
+void frmTavlPrint::Stop(int iButton) {
+    m_stoppedAt = iButton;
+    for (QAbstractButton* button : cmdPrint->buttons())
+        button->setEnabled(false);
+    lblSheet->SetWholeText(QStringLiteral("Printing has stopped."));
+    const QString piece = lblPiece->text();
+    lblPiece->SetWholeText(piece.isEmpty() ? QString() : QStringLiteral("It got as far as: ") + piece);
+    shpProgressBack->hide();
+    cmdTryAgain->show();
+    fraProgress->show();
+    fraProgress->raise();
+    cmdTryAgain->setFocus();
+}
+
+void frmTavlPrint::cmdTryAgain_Click() try {
+    if (!m_stoppedAt) return;
+    const int index = *std::exchange(m_stoppedAt, std::nullopt);
+    for (QAbstractButton* button : cmdPrint->buttons())
+        button->setEnabled(true);
+    cmdTryAgain->hide();
+    shpProgressBack->show();
+    CleanUp();
+    cmdPrint_Click(index);
+} catch (...) {
+    ErrTop("frmTavlPrint!", "cmdTryAgain_Click");
 }
 
 Printer& frmTavlPrint::JobPrinter() {
@@ -135,6 +172,8 @@ bool frmTavlPrint::RunJob(const Sheet& sheet, const QString& sDone) {
     Printer& printer = JobPrinter();
     m_sWrittenPdf.clear();
     m_sFailure.clear();
+    lblSheet->SetWholeText(sheet.Title(kit));
+    lblPiece->SetWholeText(QString());
     printer.SetOrientation(sheet.OrientationOf(kit));
     if (!AcceptsPrinter(printer) || !AcceptsPage(printer, sheet.NeededInches(kit))) return true;
     Screen::SetMousePointer(Screen::MousePointer::HourGlass);
@@ -144,8 +183,6 @@ bool frmTavlPrint::RunJob(const Sheet& sheet, const QString& sDone) {
         return true;
     }
     const PageUnderWay page(*this, printer);
-    lblSheet->SetWholeText(sheet.Title(kit));
-    lblPiece->SetWholeText(QString());
     SheetJob job{printer, std::bind_front(&frmTavlPrint::Let_Progress, this),
                  std::bind_front(&frmTavlPrint::ShowPiece, this)};
     if (!sheet.Prepare(job)) return false;
@@ -178,10 +215,6 @@ bool frmTavlPrint::PrintCopies(SheetJob& job, const Sheet& sheet, double dblFree
             return false;
         }
         job.printer.SetDocumentName(ConsoleSheets::DocumentName(GameHost::Current().GameName(), sheet.Title(kit)));
-        if (const QString why = ConsoleSheets::WhyNotPrinted(sheet, kit); !why.isEmpty()) {
-            MsgBox(why);
-            return true;
-        }
         if (!sheet.Print(job)) {
             // Neither paper nor the file of before is wasted on a page with holes.
             m_sFailure = ConsoleSheets::LackingMessage(job.lacking);
@@ -203,7 +236,11 @@ void frmTavlPrint::CloseDocument(Printer& printer) {
     printer.EndDoc();
     if (bPrintOnScreen) ShowPage(m_screen.Page());
     m_sWrittenPdf = printer.LastPdf();
-    if (printer.LastError().isEmpty()) return;
+    if (printer.LastError().isEmpty()) {
+        // The next page may belong to this one: from now on the printer stays the same.
+        m_bPrintStarted = m_bPrintStarted || !printer.DeviceName().isEmpty();
+        return;
+    }
     // What a device reports isn't told, as the desktop tells of it itself; of a file nobody else does.
     if (printer.DeviceName().isEmpty()) m_sFailure = printer.LastError();
     const QString message = QStringLiteral("Your printer has reported a problem. "
@@ -244,13 +281,6 @@ void frmTavlPrint::Let_Progress(int lValue) try {
 
 void frmTavlPrint::ShowPiece(const char* sPiece, int iPiece, int nPieces) {
     lblPiece->SetWholeText(QStringLiteral("%1 %2 of %3").arg(QString::fromLatin1(sPiece)).arg(iPiece).arg(nPieces));
-}
-
-void frmTavlPrint::TellStopped() {
-    lblSheet->SetWholeText(QStringLiteral("Printing has stopped."));
-    lblPiece->SetWholeText(QStringLiteral("Restart the program to print again."));
-    fraProgress->show();
-    fraProgress->raise();
 }
 
 bool frmTavlPrint::CheckForNagMessage() try {

@@ -11,6 +11,7 @@
 #include <QString>
 
 #include <functional>
+#include <optional>
 
 class ElidedLabel;
 class frmPrntPrep;
@@ -32,7 +33,7 @@ public:
     explicit frmTavlPrint(QWidget* parent = nullptr);
     ~frmTavlPrint() override;
 
-    /// Modal, from the first menu on. Takes and gives whether printing has been begun in this run.
+    /// Modal, from the first menu on. Takes and gives whether a page has gone to a printer in this run.
     bool ShowForm(bool bPrintStarted);
 
     /// Place of the progress bar, 0 to 1000; hidden below 0. Each change lets events run once.
@@ -56,6 +57,7 @@ public Q_SLOTS:
     void cmdPrint_Click(int Index);
     void cmdChangePrinter_Click();
     void cmdCancel_Click();
+    void cmdTryAgain_Click();
     void Command1_Click();
     void picTest_Click();
 
@@ -87,7 +89,8 @@ private:
     void CleanUp();
     void TellWhereItWent();
     void ShowPiece(const char* sPiece, int iPiece, int nPieces);
-    void TellStopped();
+    /// Nothing more is printed until somebody has pressed Try Again, which begins with this button's sheet.
+    void Stop(int iButton);
 
     QList<QGroupBox*> fraPrint;
     QList<QLabel*> lbl;
@@ -102,6 +105,7 @@ private:
     QFrame* shpProgressFore = nullptr;
     ElidedLabel* lblSheet = nullptr;
     ElidedLabel* lblPiece = nullptr;
+    QPushButton* cmdTryAgain = nullptr;
     QLabel* lblPrinter = nullptr;
     PictureBox* picTest = nullptr;
     QPushButton* Command1 = nullptr;
@@ -113,6 +117,8 @@ private:
     int m_lProgress = -1;
     /// Guards against a second job: events run while a sheet is being printed.
     bool bInPrint = false;
+    /// Number of the button whose sheet has failed; the guard stays until it is tried again.
+    std::optional<int> m_stoppedAt;
     bool m_bNagged = false;
     /// The page that the user has accepted as too small.
     QString m_sAcceptedPage;

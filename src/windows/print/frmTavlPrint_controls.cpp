@@ -147,6 +147,13 @@ void frmTavlPrint::BuildProgress() {
     row->setContentsMargins(kGap, kGap / 2, kGap, kGap / 2);
     row->addWidget(shpProgressBack);
     row->addLayout(words, 1);
+    cmdTryAgain = MakeButton(fraProgress, QStringLiteral("cmdTryAgain"), QStringLiteral("Try &Again"),
+                             QStringLiteral("Print the sheet that has failed once more"));
+    row->addWidget(cmdTryAgain);
+    connect(cmdTryAgain, &QPushButton::clicked, this, &frmTavlPrint::cmdTryAgain_Click);
+    // Its room is kept, so that nothing moves when a sheet fails.
+    fraProgress->setMinimumHeight(row->sizeHint().height());
+    cmdTryAgain->hide();
     fraProgress->hide();
 }
 
@@ -181,7 +188,7 @@ void frmTavlPrint::PlaceControls() {
     QSize button;
     for (const QWidget* each : row)
         button = button.expandedTo(each->sizeHint());
-    const int progress = fraProgress->sizeHint().height();
+    const int progress = std::max(fraProgress->sizeHint().height(), fraProgress->minimumHeight());
 
     const int inner = std::max({TwipsToPixels(kWidth) - 2 * leftTop.x(), frame.width(),
                                 int(row.size()) * button.width() + int(row.size() - 1) * kGap});
