@@ -216,7 +216,7 @@ TEST_F(DeedCardsTest, Edge_TheLastCardOfTheSecondSheetEndsAt775By10375) {
 TEST_F(DeedCardsTest, Edge_APriceOf0StillPrintsTheBandWithTheCurrencySign) {
     if (!PdfReader::IsInstalled()) GTEST_SKIP() << "poppler's tools are not installed";
     QByteArray rents = ReadFile(ProgramFile(QStringLiteral("Rents.dat")));
-    rents.replace("5,1000,100,200,600,1200,500,500", "5,0,0,0,0,0,0,0");
+    rents.replace("5,1000,100,300,600,1000,400,500", "5,0,0,0,0,0,0,0");
     WriteFile(QStringLiteral("program/Rents.dat"), rents);
     basPosit::ResetRentsForTest();
     basPosit::PosInit();
@@ -269,7 +269,7 @@ TEST_F(DeedCardsTest, RentsOfAUtilityAreForOneAndTwo) {
     if (!PdfReader::IsInstalled()) GTEST_SKIP() << "poppler's tools are not installed";
     ASSERT_TRUE(PrintUtility(1));
     const QString text = reader.Text(1).simplified();
-    EXPECT_TRUE(text.contains(QStringLiteral("One Utility $200 Two Utilities 500 Mortgage Value = $ 800")))
+    EXPECT_TRUE(text.contains(QStringLiteral("One Utility $200 Two Utilities 600 Mortgage Value = $ 800")))
         << text.toStdString();
     EXPECT_TRUE(text.contains(QStringLiteral("Value = $1,600")));
     EXPECT_FALSE(text.contains(QStringLiteral("doubles")));
