@@ -56,6 +56,7 @@ private:
             return Text(m_arguments.sOutput);
         if (m_option == QStringLiteral("--board")) return Text(m_arguments.sBoard);
         if (m_option == QStringLiteral("--pack")) return Text(m_arguments.sPack);
+        if (m_option == QStringLiteral("--small-pictures")) return Flag(m_arguments.bSmallPictures);
         if (m_option == QStringLiteral("--pieces")) return Text(m_arguments.sPieces);
         if (m_option == QStringLiteral("--data")) return Text(m_arguments.sData);
         if (m_option == QStringLiteral("--size")) return Number(m_arguments.iBoardSize, kMinBoardSize, kMaxBoardSize);
@@ -127,6 +128,8 @@ private:
             return Fail(QStringLiteral("sheets need a file to go to: -o FILE.pdf"));
         if (asked.sOutput.isEmpty() && asked.sBoard.isEmpty() && asked.sPieces.isEmpty() && asked.sPack.isEmpty())
             return Fail(QStringLiteral("nothing to make: give -o, --board, --pieces or --pack"));
+        if (asked.sPack.isEmpty() && asked.bSmallPictures)
+            return Fail(QStringLiteral("option '--small-pictures' goes with --pack"));
         return true;
     }
 
@@ -161,6 +164,7 @@ Options:
   --paper letter|a4     paper of the PDF (default letter)
   --dpi N               dots an inch of the PDF (default 600)
   --variant 8|5|2A|2    the boxed kit to print for, whatever the settings say
+  --small-pictures      --pack puts pictures in only as large as paper shows them
   --data DIR            take the program's own data files (rents, rules, pictures) from DIR
   --help, --version
 

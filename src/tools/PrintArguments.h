@@ -24,6 +24,8 @@ struct PrintArguments {
     int iBoardSize = kDefaultBoardSize;
     /// File for the game with its pictures; empty for none.
     QString sPack;
+    /// The pictures go into it only as large as paper shows them.
+    bool bSmallPictures = false;
     /// Folder for the made pictures; empty for none.
     QString sPieces;
     bool bA4 = false;

@@ -8,6 +8,7 @@
 #include "kit/GameKit.h"
 #include "kit/Sheets.h"
 #include "pack/Packing.h"
+#include "pack/SmallPictures.h"
 #include "pack/Unpacking.h"
 #include "pieces/frmBMP.h"
 #include "platform/files/Console.h"
@@ -176,7 +177,7 @@ int PrintCommand::PrintGame(const PrintArguments& arguments) {
     if (!arguments.sBoard.isEmpty() && !PaintBoard(arguments.sBoard, arguments.iBoardSize)) return kFailed;
     basPosit::PosSethDC(&session.MeasuringDevice());
     if (!arguments.sPieces.isEmpty() && !WritePieces(Console::CompletePath(arguments.sPieces))) return kFailed;
-    if (!arguments.sPack.isEmpty() && !PackGame(arguments.sGame, arguments.sPack)) return kFailed;
+    if (!arguments.sPack.isEmpty() && !PackGame(arguments)) return kFailed;
     return arguments.sOutput.isEmpty() ? kDone : PrintSheetsOf(arguments, sheets);
 }
 
@@ -189,9 +190,9 @@ void PrintCommand::TellOfFonts(const Packing::Contents& contents) {
     }
 }
 
-bool PrintCommand::PackGame(const QString& sGame, const QString& sPath) {
+bool PrintCommand::PackGame(const PrintArguments& arguments) {
     QString error;
-    const QString game = Console::CompletePath(sGame);
+    const QString game = Console::CompletePath(arguments.sGame);
     const std::optional<QStringList> lines = TextFile::ReadLines(game, error);
     const std::optional<QByteArray> board = EncodePicture(basPosit::BoardPicture(Packing::kBoardSize), error);
     basPosit::PosSethDC(&GameHost::Current().MeasuringDevice());
@@ -204,10 +205,11 @@ bool PrintCommand::PackGame(const QString& sGame, const QString& sPath) {
             Progress(QStringLiteral("packing"), iThousandths);
             return true;
         };
-        well = Packing::Write(contents, Console::CompletePath(sPath), tell, error);
+        if (arguments.bSmallPictures) SmallPictures::Make(contents, tell);
+        well = Packing::Write(contents, Console::CompletePath(arguments.sPack), tell, error);
     }
     EndProgress();
-    if (!well) Complain(QStringLiteral("'%1' could not be written: %2").arg(sPath, error));
+    if (!well) Complain(QStringLiteral("'%1' could not be written: %2").arg(arguments.sPack, error));
     return well;
 }
 

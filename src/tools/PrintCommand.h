@@ -39,7 +39,7 @@ private:
     /// Every made picture into a folder, which is made if need be.
     bool WritePieces(const QString& sFolder);
     /// The game with its pictures as one file.
-    bool PackGame(const QString& sGame, const QString& sPath);
+    bool PackGame(const PrintArguments& arguments);
     /// A line for each font that doesn't go along.
     void TellOfFonts(const Packing::Contents& contents);
     bool LoadGame(const QString& sGame);
