@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "platform/paint/FontFace.h"
 
+#include <QFontInfo>
 #include <QFontMetricsF>
+#include <QGlyphRun>
 #include <QPainter>
 #include <QPainterPath>
+#include <QRawFont>
+#include <QTextBoundaryFinder>
+#include <QTextLayout>
 
 #include <array>
 #include <cmath>
@@ -104,6 +109,40 @@ double FontFace::Advance(const QString& sText) const {
     if (known != m_advances.constEnd()) return *known;
     if (m_advances.size() >= kMost) m_advances.clear();
     return *m_advances.insert(sText, QFontMetricsF(m_font).horizontalAdvance(sText));
+}
+
+QString FontFace::FamilyInUse() const {
+    const std::lock_guard lock(Guard());
+    return QFontInfo(m_font).family();
+}
+
+bool FontFace::Prints(const QString& sCharacter) const {
+    const auto known = m_prints.constFind(sCharacter);
+    if (known != m_prints.constEnd()) return *known;
+    QTextLayout layout(sCharacter, m_font);
+    layout.beginLayout();
+    layout.createLine();
+    layout.endLayout();
+    bool prints = true;
+    for (const QGlyphRun& run : layout.glyphRuns()) {
+        for (const quint32 glyph : run.glyphIndexes())
+            prints = prints && glyph != 0 && !run.rawFont().pathForGlyph(glyph).isEmpty();
+    }
+    return *m_prints.insert(sCharacter, prints);
+}
+
+QStringList FontFace::Unprintable(const QString& sText) const {
+    constexpr ushort kLastPlain = 0x7E;
+    const std::lock_guard lock(Guard());
+    QStringList missing;
+    QTextBoundaryFinder characters(QTextBoundaryFinder::Grapheme, sText);
+    for (qsizetype from = 0, to = 0; (to = characters.toNextBoundary()) >= 0; from = to) {
+        const QString character = sText.mid(from, to - from);
+        const QChar first = character.front();
+        if (first.unicode() <= kLastPlain || first.isSpace() || missing.contains(character)) continue;
+        if (!Prints(character)) missing.append(character);
+    }
+    return missing;
 }
 
 void FontFace::Draw(QPainter& painter, const QString& sText, bool bUnderline) const {

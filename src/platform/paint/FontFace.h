@@ -4,6 +4,7 @@
 #include <QFont>
 #include <QHash>
 #include <QString>
+#include <QStringList>
 
 class QPainter;
 
@@ -29,10 +30,17 @@ public:
     /// Sum of the advances of a text.
     double Advance(const QString& sText) const;
 
+    /// The family that stands here, in this face's own spelling: another where this machine lacks the one asked for.
+    QString FamilyInUse() const;
+    /// The characters of a text that paper will not show, each once and in their order: those that no font of this
+    /// machine has, and those whose letters have no outline, such as coloured pictures.
+    QStringList Unprintable(const QString& sText) const;
+
     /// Draws with the left end of the baseline in the origin, in these units: 2048 to the em.
     void Draw(QPainter& painter, const QString& sText, bool bUnderline) const;
 
 private:
+    bool Prints(const QString& sCharacter) const;
     FontFace(const QString& sFamily, bool bBold, bool bItalic);
 
     QFont m_font;
@@ -41,4 +49,5 @@ private:
     double m_averageWidth = 0;
     /// Measured before.
     mutable QHash<QString, double> m_advances;
+    mutable QHash<QString, bool> m_prints;
 };

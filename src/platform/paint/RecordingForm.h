@@ -23,3 +23,14 @@ private:
     QPainter m_painter;
     DeviceContext m_context;
 };
+
+/// A page of a printer that keeps what was drawn, so that what will be printed can be looked at without a printer. In
+/// dots of the page; its size is in dots, too.
+class RecordingPage : public RecordingForm {
+public:
+    static constexpr double kDotsPerInch = 600;
+
+    explicit RecordingPage(QSize size) : RecordingForm(size, kDotsPerInch) {}
+    double DotsPerInch() const override { return kDotsPerInch; }
+    bool IsPrinter() const override { return true; }
+};
