@@ -6,6 +6,8 @@
 #include "platform/paint/Color.h"
 #include "platform/paint/Picture.h"
 
+#include <QSizeF>
+
 #include <array>
 
 class Surface;
@@ -27,6 +29,10 @@ public:
     /// Raise the subscript error outside 0 to 1.
     QString Text(int iIndex) const;
     void Let_Text(int iIndex, const QString& sText);
+
+    /// Of a note, and of the oval that shows its picture; inches.
+    static QSizeF NoteInches();
+    static QSizeF OvalInches();
 
     /// Draws the note, 3.75 by 2 inches, with its top left in the given pixel of a surface in pixels. With the
     /// image flag its colour, the blank and the oval; with the text flag both texts; with the dots flag its

@@ -95,6 +95,10 @@ QString CurrencyOval() {
 
 } // namespace
 
+QSizeF C_Money::NoteInches() { return {kNote.width, kNote.height}; }
+
+QSizeF C_Money::OvalInches() { return {kOval.width, kOval.height}; }
+
 // Tells once for each picture, not at every key that is typed on the note.
 Picture C_Money::LoadOrTell(const QString& sPath, TellOnce::Fault fault) const {
     if (sPath.isEmpty()) return {};

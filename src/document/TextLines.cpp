@@ -9,12 +9,6 @@
 #include "platform/text/TextColumns.h"
 #include "services/basErrLog.h"
 
-namespace {
-
-constexpr int kMaxLastLine = 40;
-
-} // namespace
-
 const QString TextLines::kUseExisting = QStringLiteral("UseExistingString");
 
 const QString& TextLines::Line(int iLine) const { return m_sText[CheckedSubscript(iLine, kMaxLines)]; }

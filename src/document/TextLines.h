@@ -13,6 +13,8 @@ class C_FontInfo;
 class TextLines {
 public:
     static constexpr int kMaxLines = 10;
+    /// UTF-16 units of a last line; what goes beyond them is cut off.
+    static constexpr int kMaxLastLine = 40;
     /// Given as a text, it means that the lines stay as they are and are fitted anew.
     static const QString kUseExisting;
 

@@ -154,6 +154,13 @@ int GetSpaceFromArrayCoordinates(int iSide, int iRow, int iCol) {
     return iSpace;
 }
 
+std::vector<LabelSheet::TitleLabel> TitleLabelsOfBoard() {
+    std::vector<LabelSheet::TitleLabel> labels;
+    for (const auto& piece : kTitlePieces)
+        labels.push_back({piece.picture, QSizeF(piece.dblWidth, piece.dblHeight), piece.sLegend});
+    return labels;
+}
+
 template <>
 bool PaintSheet<class BoardSheet>(SheetJob& job, int iWhich) {
     const bool east = iWhich > 0;

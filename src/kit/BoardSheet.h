@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "kit/LabelSheet.h"
 #include "kit/SheetJob.h"
+
+#include <vector>
 
 /// The sheets of peel-and-stick labels of kit "8" that turn a blank board into the user's. All places are inches from
 /// the printable origin.
@@ -14,3 +17,6 @@ bool StickerSpaceSheet(SheetJob& job, int iSide, bool bCorners, bool bTitle);
 
 /// The board space of a place on a sheet of two rows of six; iSide above 0 is the second half of the board.
 int GetSpaceFromArrayCoordinates(int iSide, int iRow, int iCol);
+
+/// The labels with titles that lie on it.
+std::vector<LabelSheet::TitleLabel> TitleLabelsOfBoard();

@@ -135,6 +135,13 @@ bool StickerBoxAndTokenSheet(SheetJob& job) try {
     ErrTail("frmTavlPrint!", "StickerBoxAndTokenSheet");
 }
 
+std::vector<LabelSheet::TitleLabel> TitleLabelsOfBox() {
+    std::vector<LabelSheet::TitleLabel> labels;
+    for (const auto& piece : kBoxPieces)
+        labels.push_back({piece.picture, QSizeF(piece.dblWidth, piece.dblHeight), piece.sLegend});
+    return labels;
+}
+
 template <>
 bool PaintSheet<class BoxSheet>(SheetJob& job, int) {
     return StickerBoxAndTokenSheet(job);

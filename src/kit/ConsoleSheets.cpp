@@ -77,8 +77,10 @@ QString LittleDiskMessage(double dblFree, int iMegabytes) {
            QStringLiteral(" MB free disk space to print Tavlora.\r\nPlease free up some disk space and try again.");
 }
 
-bool Holds(const Printer& printer, QSizeF needed) {
-    const QSizeF lacking = needed - printer.PrintableInches();
+bool Holds(const Printer& printer, QSizeF needed) { return Holds(printer.PrintableInches(), needed); }
+
+bool Holds(QSizeF printable, QSizeF needed) {
+    const QSizeF lacking = needed - printable;
     return lacking.width() <= kToleranceInches && lacking.height() <= kToleranceInches;
 }
 

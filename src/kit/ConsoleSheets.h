@@ -47,6 +47,8 @@ QString DoneMark(const QString& sAnswer);
 QString LittleDiskMessage(double dblFree, int iMegabytes);
 /// Whether the printer's page, in the orientation that holds, has room for so many inches.
 bool Holds(const Printer& printer, QSizeF needed);
+/// Whether so many printable inches are enough.
+bool Holds(QSizeF printable, QSizeF needed);
 /// The question whether to print on a printer that doesn't answer.
 QString NoPrinterMessage(const Printer& printer);
 /// The question whether to print on a printer whose page doesn't hold the sheet.

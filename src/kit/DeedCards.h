@@ -2,9 +2,11 @@
 #pragma once
 
 #include "kit/SheetJob.h"
+#include "pieces/PrintedText.h"
 
 #include <QString>
 
+class C_Space;
 class clsRenderDestination;
 
 /// The title deeds of the users' properties: squares of 2.5 inches with dashed cut lines, twelve to a sheet.
@@ -27,6 +29,9 @@ void DeedTextRent(clsRenderDestination& destination, int iDeed, int lX, int lY, 
 
 /// The name of the space, in up to two lines unless it has line breaks of its own.
 bool DeedTextTitle(clsRenderDestination& destination, int iDeed, int lX, int lY);
+
+/// The name of a space of whatever game as its deed bears it.
+PrintedText DeedTitleOnPaper(int iDeed, const C_Space& space);
 
 /// The price of a utility, and what the card is.
 void DeedTextValue(clsRenderDestination& destination, int iDeed, int lX, int lY);

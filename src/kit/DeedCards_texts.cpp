@@ -130,6 +130,8 @@ QString TitleLines(const QString& sText) {
     return at < 0 ? text : text.left(at).trimmed() + QStringLiteral("\r\n") + text.mid(at).trimmed();
 }
 
+const TitleBox& TitleBoxOf(int iDeed) { return BoardFacts::IsUtility(iDeed) ? kTitleOfUtility : kTitleOfProperty; }
+
 } // namespace
 
 void DeedTextRent(clsRenderDestination& destination, int iDeed, int lX, int lY, float sngTop) try {
@@ -158,7 +160,7 @@ void DeedTextRent(clsRenderDestination& destination, int iDeed, int lX, int lY, 
 
 bool DeedTextTitle(clsRenderDestination& destination, int iDeed, int lX, int lY) try {
     const C_Space& space = basTAVL::g_oSpaces(iDeed);
-    const TitleBox& title = BoardFacts::IsUtility(iDeed) ? kTitleOfUtility : kTitleOfProperty;
+    const TitleBox& title = TitleBoxOf(iDeed);
     const QString file = MadePicture::PathOf(QStringLiteral("TempDeedBMP%1.temp").arg(iDeed));
     if (!frmBMP::Instance().GenerateTextImage(file, title.box.width, title.box.height, TitleLines(space.TextAll()),
                                               space.Font.Family, space.Font.Bold, space.Font.Italic, title.line,
@@ -172,6 +174,12 @@ bool DeedTextTitle(clsRenderDestination& destination, int iDeed, int lX, int lY)
     return true;
 } catch (...) {
     ErrTail("clsRenderDestination!", "DeedTextTitle", iDeed, lX, lY);
+}
+
+PrintedText DeedTitleOnPaper(int iDeed, const C_Space& space) {
+    const TitleBox& title = TitleBoxOf(iDeed);
+    return frmBMP::RecordTextImage(title.box.width, title.box.height, TitleLines(space.TextAll()), space.Font.Family,
+                                   space.Font.Bold, space.Font.Italic, title.line);
 }
 
 void DeedTextValue(clsRenderDestination& destination, int iDeed, int lX, int lY) try {

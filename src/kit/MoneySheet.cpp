@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // A sheet of banknotes: ten of one denomination (0 to 3), all from one picture.
+#include "kit/MoneySheet.h"
+
 #include "document/basTAVL.h"
 #include "drawing/basDraw.h"
 #include "kit/SheetJob.h"
@@ -14,7 +16,7 @@
 
 namespace {
 
-constexpr int kNotes = 10;
+constexpr int kNotes = kNotesOnSheet;
 constexpr int kColumns = 2;
 
 // In inches: notes lie edge to edge.

@@ -8,6 +8,7 @@
 #include "kit/SheetJob.h"
 #include "pieces/frmBMP.h"
 #include "pieces/MadePicture.h"
+#include "platform/paint/RecordingForm.h"
 #include "platform/printing/Printer.h"
 #include "render/PiecePlace.h"
 #include "services/basErrLog.h"
@@ -110,3 +111,20 @@ bool NewsHeadBitmap(int iDeck, const C_FontInfo& oFont, QString& sPath) {
     return frmBMP::Instance().GenerateSingleLineImage(sPath, kFrame.width, kFrame.height, title, oFont.Family,
                                                       oFont.Bold, oFont.Italic, ink, ground);
 }
+
+PrintedText NewsTextOnPaper(const C_News& news) {
+    RecordingPage page((NewsCardInches() * RecordingPage::kDotsPerInch).toSize());
+    clsRenderDestination destination;
+    destination.Init(page, 1.0);
+    PrintText(destination, PiecePlace(destination, 0, 0), news);
+    return PrintedText::AsMade(page.Take());
+}
+
+PrintedText NewsHeadOnPaper(const QString& sTitle, const C_FontInfo& oFont) {
+    PrintedText head =
+        frmBMP::RecordSingleLine(kFrame.width, kFrame.height, sTitle, oFont.Family, oFont.Bold, oFont.Italic);
+    head.inches = QSizeF(kHead.width, kHead.height);
+    return head;
+}
+
+QSizeF NewsCardInches() { return {kCardWidth, kCardHeight}; }

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "pieces/PrintedText.h"
+
 #include <QString>
 
 class C_FontInfo;
+class C_News;
 class clsRenderDestination;
 
 /// A card of a deck (0 Good News, 1 Bad News), 3 by 1.62 inches, with its top left in the given pixel. Where its head
@@ -13,3 +16,10 @@ bool NewsRender(clsRenderDestination& destination, int lX, int lY, int iDeck, in
 /// Writes the picture of a deck's title: white on black for Bad News. Its file is named in sPath. False when
 /// that fails.
 bool NewsHeadBitmap(int iDeck, const C_FontInfo& oFont, QString& sPath);
+
+/// What a card of whatever game says, as it is printed; nothing for a card without a text.
+PrintedText NewsTextOnPaper(const C_News& news);
+/// The title of a deck as its cards bear it.
+PrintedText NewsHeadOnPaper(const QString& sTitle, const C_FontInfo& oFont);
+/// A card's width and height, in inches.
+QSizeF NewsCardInches();

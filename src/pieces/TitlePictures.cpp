@@ -32,6 +32,8 @@ constexpr Layout kLayouts[kCount] = {
 
 } // namespace
 
+int RecordOf(Title title) { return title == kTitle ? kTitleRecord : kSubtitleRecord; }
+
 QString FileOf(Title title) { return MadePicture::PathOf(QString::fromLatin1(kLayouts[title].sFile)); }
 
 bool Make(Title title) {
@@ -40,7 +42,7 @@ bool Make(Title title) {
     const bool style = layout.bBoldItalic;
     const Color fore = basTAVL::g_lPrintBlack();
     const Color back = layout.bOnRed ? basTAVL::g_lPrintRed() : basTAVL::g_lPrintBack();
-    const SpecialText& record = basPosit::m_CenterText(title == kTitle ? kTitleRecord : kSubtitleRecord);
+    const SpecialText& record = basPosit::m_CenterText(RecordOf(title));
     if (layout.dblLineHeight > 0) {
         return frmBMP::Instance().GenerateTextImage(FileOf(title), layout.dblWidth, layout.dblHeight,
                                                     record.Lines().join(QStringLiteral("\r\n")), family, style, style,
@@ -48,6 +50,18 @@ bool Make(Title title) {
     }
     return frmBMP::Instance().GenerateSingleLineImage(FileOf(title), layout.dblWidth, layout.dblHeight, record.sText,
                                                       family, style, style, fore, back);
+}
+
+PrintedText Record(Title title, const Titles& titles) {
+    const Layout& layout = kLayouts[title];
+    const QString family = QString::fromLatin1(layout.sFamily);
+    const bool style = layout.bBoldItalic;
+    const SpecialText& record = titles.Text(RecordOf(title));
+    if (layout.dblLineHeight > 0) {
+        return frmBMP::RecordTextImage(layout.dblWidth, layout.dblHeight, record.Lines().join(QStringLiteral("\r\n")),
+                                       family, style, style, layout.dblLineHeight);
+    }
+    return frmBMP::RecordSingleLine(layout.dblWidth, layout.dblHeight, record.sText, family, style, style);
 }
 
 } // namespace TitlePictures

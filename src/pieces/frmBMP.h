@@ -2,6 +2,7 @@
 #pragma once
 
 #include "pictures/ThumbnailStore.h"
+#include "pieces/PrintedText.h"
 #include "platform/files/Files.h"
 #include "platform/paint/Pixels.h"
 #include "platform/pictures/PictureHolder.h"
@@ -10,6 +11,10 @@
 #include <list>
 
 class BinaryFile;
+class C_Corner;
+class C_Money;
+class C_Space;
+class C_Token;
 class Surface;
 
 /// The hidden drawing surface of the run: turns and cuts pictures into the small bitmap files that the board
@@ -55,8 +60,22 @@ public:
     bool GenerateTextImage(const QString& sFullPathDest, double dblwInches, double dblhInches, const QString& sText,
                            const QString& sFamily, bool bBold, bool bItalic, double dblSize, Color lForeColor,
                            Color lBackColor);
+    /// Side of the square that a token's sticker is made for.
+    static constexpr double kTokenInches = 0.875;
     /// 266 pixels square.
     bool GenerateTokenImage(const QString& sFullPathDest, int iToken);
+
+    // The same drawings, kept instead of written, of pieces in whatever game; of stickers, notes and tokens the words
+    // only, as they stand where there is a picture, too. No file is read or written.
+
+    static PrintedText RecordSpaceText(const C_Space& space);
+    static PrintedText RecordCornerText(const C_Corner& corner);
+    static PrintedText RecordMoneyText(const C_Money& note);
+    static PrintedText RecordTokenText(const C_Token& token);
+    static PrintedText RecordSingleLine(double dblwInches, double dblhInches, const QString& sText,
+                                        const QString& sFamily, bool bBold, bool bItalic);
+    static PrintedText RecordTextImage(double dblwInches, double dblhInches, const QString& sText,
+                                       const QString& sFamily, bool bBold, bool bItalic, double dblSize);
 
     /// The space in a cell of a two-row sheet of six columns; blocks above 0 are the second half. The label
     /// sheets ask it under a routine of their own.

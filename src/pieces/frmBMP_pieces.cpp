@@ -24,7 +24,6 @@ constexpr double kNoteWidth = 3.75;
 constexpr double kNoteHeight = 2.0;
 
 constexpr int kTokenPixels = 266;
-constexpr double kTokenInches = 0.875;
 // A corner's content starts this far from both edges of its sticker.
 constexpr double kCornerStart = 0.05;
 
@@ -68,6 +67,22 @@ bool frmBMP::WritePiece(const QString& sFullPathDest, QSize size, double dblDPI,
     return true;
 }
 
+namespace {
+
+// The words of a piece, drawn as WritePiece has them drawn.
+template <typename Draw>
+PrintedText Recorded(QSize size, double dblDPI, Draw draw) {
+    RecordingForm recording(size, dblDPI);
+    draw(recording);
+    return PrintedText::AsMade(recording.Take());
+}
+
+void DrawCornerText(clsRenderDestination& sticker, const C_Corner& corner) {
+    sticker.CornerStickerText(corner, kCornerStart, kCornerStart, !corner.Image.FullPath().isEmpty());
+}
+
+} // namespace
+
 bool frmBMP::GenerateCornerImage(const QString& sFullPathDest, int iCorner) try {
     const double factor = StickerFactor(Size(kCornerSide));
     const int lSide = PixelsOf(Size(kCornerSide), factor);
@@ -76,11 +91,20 @@ bool frmBMP::GenerateCornerImage(const QString& sFullPathDest, int iCorner) try 
         clsRenderDestination sticker;
         sticker.Init(form, factor);
         sticker.CornerStickerImageV6(iCorner, kCornerStart, kCornerStart);
-        const bool picture = !basTAVL::g_oCorners(iCorner).Image.FullPath().isEmpty();
-        sticker.CornerStickerText(iCorner, kCornerStart, kCornerStart, picture);
+        DrawCornerText(sticker, basTAVL::g_oCorners(iCorner));
     });
 } catch (...) {
     ErrTail("frmBMP!", "GenerateCornerImage", sFullPathDest, iCorner);
+}
+
+PrintedText frmBMP::RecordCornerText(const C_Corner& corner) {
+    const double factor = StickerFactor(Size(kCornerSide));
+    const int lSide = PixelsOf(Size(kCornerSide), factor);
+    return Recorded(QSize(lSide, lSide), factor * kScreenDotsPerInch, [&](Surface& form) {
+        clsRenderDestination sticker;
+        sticker.Init(form, factor);
+        DrawCornerText(sticker, corner);
+    });
 }
 
 bool frmBMP::GenerateSpaceStickerImage(const QString& sFullPathDest, int iSpace) try {
@@ -121,6 +145,17 @@ void DrawCost(Surface& form, const C_Space& space, int lWidth, int lBand, double
     basDraw::Draw_ReleaseObjects();
 }
 
+// The sticker's own area, centred in what remains under the band.
+QPointF StickerOnFullSpace() {
+    return {(Size(kFullWidth) - Size(kStickerWidth)) / 2,
+            (Size(kFullHeight) - Size(kFullBand) - Size(kStickerHeight)) / 2 + Size(kFullBand)};
+}
+
+void DrawFullSpaceText(clsRenderDestination& sticker, const C_Space& space) {
+    const QPointF at = StickerOnFullSpace();
+    sticker.SpaceStickerText(space, at.x(), at.y(), !space.Image.FullPath().isEmpty());
+}
+
 void DrawFullSpace(Surface& form, int iSpace, double factor) {
     const C_Space& space = basTAVL::g_oSpaces(iSpace);
     const int lW = PixelsOf(Size(kFullWidth), factor);
@@ -132,22 +167,32 @@ void DrawFullSpace(Surface& form, int iSpace, double factor) {
     DrawCost(form, space, lW, lBand, factor);
     clsRenderDestination sticker;
     sticker.Init(form, factor);
-    // The sticker's own area, centred in what remains under the band.
-    const double dblX = (Size(kFullWidth) - Size(kStickerWidth)) / 2;
-    const double dblY = (Size(kFullHeight) - Size(kFullBand) - Size(kStickerHeight)) / 2 + Size(kFullBand);
-    sticker.SpaceStickerImageV6(iSpace, dblX, dblY);
-    sticker.SpaceStickerText(iSpace, dblX, dblY, !space.Image.FullPath().isEmpty());
+    const QPointF at = StickerOnFullSpace();
+    sticker.SpaceStickerImageV6(iSpace, at.x(), at.y());
+    DrawFullSpaceText(sticker, space);
+}
+
+QSize FullSpacePixels(double factor) {
+    return {PixelsOf(Size(kFullWidth), factor), PixelsOf(Size(kFullHeight), factor)};
 }
 
 } // namespace
 
 bool frmBMP::GenerateSpaceFullImage(const QString& sFullPathDest, int iSpace) try {
     const double factor = StickerFactor(Size(kFullHeight));
-    const QSize size(PixelsOf(Size(kFullWidth), factor), PixelsOf(Size(kFullHeight), factor));
-    return WritePiece(sFullPathDest, size, factor * kScreenDotsPerInch,
+    return WritePiece(sFullPathDest, FullSpacePixels(factor), factor * kScreenDotsPerInch,
                       [=](Surface& form) { DrawFullSpace(form, iSpace, factor); });
 } catch (...) {
     ErrTail("frmBMP!", "GenerateSpaceFullImage", sFullPathDest, iSpace);
+}
+
+PrintedText frmBMP::RecordSpaceText(const C_Space& space) {
+    const double factor = StickerFactor(Size(kFullHeight));
+    return Recorded(FullSpacePixels(factor), factor * kScreenDotsPerInch, [&](Surface& form) {
+        clsRenderDestination sticker;
+        sticker.Init(form, factor);
+        DrawFullSpaceText(sticker, space);
+    });
 }
 
 bool frmBMP::GenerateMoneyImage(const QString& sFullPathDest, int iMoney) try {
@@ -160,6 +205,14 @@ bool frmBMP::GenerateMoneyImage(const QString& sFullPathDest, int iMoney) try {
     ErrTail("frmBMP!", "GenerateMoneyImage", sFullPathDest, iMoney);
 }
 
+PrintedText frmBMP::RecordMoneyText(const C_Money& note) {
+    const double factor = MoneyFactor();
+    const QSize size(PixelsOf(kNoteWidth, factor), PixelsOf(kNoteHeight, factor));
+    return Recorded(size, factor * kScreenDotsPerInch, [&](Surface& form) {
+        note.DrawMoney(form, factor * kScreenDotsPerInch, 0, 0, false, true, false);
+    });
+}
+
 bool frmBMP::GenerateTokenImage(const QString& sFullPathDest, int iToken) try {
     return WritePiece(sFullPathDest, QSize(kTokenPixels, kTokenPixels), kTokenPixels / kTokenInches,
                       [this, iToken](Surface& form) {
@@ -168,4 +221,13 @@ bool frmBMP::GenerateTokenImage(const QString& sFullPathDest, int iToken) try {
                       });
 } catch (...) {
     ErrTail("frmBMP!", "GenerateTokenImage", sFullPathDest, iToken);
+}
+
+PrintedText frmBMP::RecordTokenText(const C_Token& token) {
+    return Recorded(QSize(kTokenPixels, kTokenPixels), kTokenPixels / kTokenInches, [&](Surface& form) {
+        C_Token likeness = token;
+        basDraw::Draw_SetHdc(&form.hDC());
+        likeness.DrawText(0, 0, kTokenPixels, kTokenPixels, false, {});
+        basDraw::Draw_ReleaseObjects();
+    });
 }

@@ -108,21 +108,45 @@ void DrawBlock(Surface& form, const QStringList& lines, const TextStyle& style, 
     }
 }
 
+/// Lines of text in a box of so many inches.
+class BoxedText {
+public:
+    BoxedText(double dblwInches, double dblhInches, const QString& sText, const TextStyle& style, double dblSize)
+        : m_factor(FactorFor(dblwInches, dblhInches)), m_box(BoxOf(dblwInches, dblhInches, m_factor)), m_style(style),
+          m_lines(sText.split(QStringLiteral("\r\n"))),
+          m_block(FitBlock(m_lines, style, m_box, CLng(m_factor * dblSize * kScreenDotsPerInch))) {}
+
+    QSize Box() const { return m_box; }
+    double DotsPerInch() const { return m_factor * kScreenDotsPerInch; }
+    void Draw(Surface& form) const { DrawBlock(form, m_lines, m_style, m_box, m_block); }
+
+private:
+    double m_factor;
+    QSize m_box;
+    TextStyle m_style;
+    QStringList m_lines;
+    FittedBlock m_block;
+};
+
 } // namespace
 
 bool frmBMP::GenerateTextImage(const QString& sFullPathDest, double dblwInches, double dblhInches, const QString& sText,
                                const QString& sFamily, bool bBold, bool bItalic, double dblSize, Color lForeColor,
                                Color lBackColor) try {
-    const double factor = FactorFor(dblwInches, dblhInches);
-    const QSize box = BoxOf(dblwInches, dblhInches, factor);
-    const TextStyle style{sFamily, bBold, bItalic, lForeColor, lBackColor};
-    const QStringList lines = sText.split(QStringLiteral("\r\n"));
-    const FittedBlock block = FitBlock(lines, style, box, CLng(factor * dblSize * kScreenDotsPerInch));
-    return WritePiece(sFullPathDest, box, factor * kScreenDotsPerInch,
-                      [&](Surface& form) { DrawBlock(form, lines, style, box, block); });
+    const BoxedText block(dblwInches, dblhInches, sText, {sFamily, bBold, bItalic, lForeColor, lBackColor}, dblSize);
+    return WritePiece(sFullPathDest, block.Box(), block.DotsPerInch(), [&](Surface& form) { block.Draw(form); });
 } catch (...) {
     ErrTail("frmBMP!", "GenerateTextImage", sFullPathDest, dblwInches, dblhInches, sText, sFamily, bBold, bItalic,
             dblSize, lForeColor, lBackColor);
+}
+
+PrintedText frmBMP::RecordTextImage(double dblwInches, double dblhInches, const QString& sText, const QString& sFamily,
+                                    bool bBold, bool bItalic, double dblSize) {
+    const TextStyle style{sFamily, bBold, bItalic, Color::Black(), Color::White()};
+    const BoxedText block(dblwInches, dblhInches, sText, style, dblSize);
+    RecordingForm recording(block.Box(), block.DotsPerInch());
+    block.Draw(recording);
+    return PrintedText::AsMade(recording.Take());
 }
 
 namespace {
@@ -223,6 +247,14 @@ void PrintAt(Surface& form, const FoldedLine& line, const QString& sText, int lB
     form.Print(sText);
 }
 
+std::shared_ptr<const Recording> Recorded(const FoldedLine& line, const QString& sText, const TextStyle& style) {
+    RecordingForm recording(QSize(line.lWidth, line.lHeight), line.dblDPI);
+    style.UseOn(recording);
+    UseSize(recording, line.size);
+    PrintAt(recording, line, sText, 0);
+    return recording.Take();
+}
+
 } // namespace
 
 bool frmBMP::GenerateSingleLineImage(const QString& sFullPathDest, double dblwInches, double dblhInches,
@@ -241,13 +273,16 @@ bool frmBMP::GenerateSingleLineImage(const QString& sFullPathDest, double dblwIn
                                                      line.lBandWidth, line.lHeight, 24);
     m_sWhyNotMade = file.WhyNotWritten();
     if (!written) return false;
-    RecordingForm recording(QSize(line.lWidth, line.lHeight), line.dblDPI);
-    style.UseOn(recording);
-    UseSize(recording, line.size);
-    PrintAt(recording, line, text, 0);
-    KeepRecording(sFullPathDest, recording.Take());
+    KeepRecording(sFullPathDest, Recorded(line, text, style));
     return true;
 } catch (...) {
     ErrTail("frmBMP!", "GenerateSingleLineImage", sFullPathDest, dblwInches, dblhInches, sText, sFamily, bBold, bItalic,
             lForeColor, lBackColor);
+}
+
+PrintedText frmBMP::RecordSingleLine(double dblwInches, double dblhInches, const QString& sText, const QString& sFamily,
+                                     bool bBold, bool bItalic) {
+    const QString text = basTAVL::CRLF2Space(sText);
+    const TextStyle style{sFamily, bBold, bItalic, Color::Black(), Color::White()};
+    return PrintedText::AsMade(Recorded(Fold(text, style, dblwInches, dblhInches), text, style));
 }

@@ -7,8 +7,10 @@
 #include <QString>
 #include <QStringList>
 
+class C_Corner;
 class C_FontInfo;
 class C_Image;
+class C_Space;
 class Surface;
 
 /// The paint target of all printed pieces: wraps a drawing surface (the printer, or any window or scratch
@@ -67,10 +69,16 @@ public:
     /// the sticker's top left in inches.
     void SpaceStickerImageV6(int iSpace, double dblX, double dblY);
     void CornerStickerImageV6(int iCorner, double dblX, double dblY);
+    /// Sides of these pictures, which are square.
+    static double SpaceStickerImageInches();
+    static double CornerStickerImageInches();
     /// The text of a space or corner, never larger than on the board: in the lower half of the sticker when a
     /// picture has the upper one, else in all of it.
     void SpaceStickerText(int iSpace, double dblX, double dblY, bool bIncludeImage);
     void CornerStickerText(int iCorner, double dblX, double dblY, bool bIncludeImage);
+    /// The same of a space or corner in whatever game.
+    void SpaceStickerText(const C_Space& space, double dblX, double dblY, bool bIncludeImage);
+    void CornerStickerText(const C_Corner& corner, double dblX, double dblY, bool bIncludeImage);
 
     /// Prints the rules of the game on one page from the instruction file in the program's directory. False
     /// when it stopped early; a box has then said so, and sWhy names the file and the line.

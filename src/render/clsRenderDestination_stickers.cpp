@@ -51,10 +51,13 @@ void clsRenderDestination::StickerText(const QStringList& saLines, const C_FontI
                                  basTAVL::g_lPrintBlack());
 }
 
+double clsRenderDestination::SpaceStickerImageInches() { return basTAVL::g_dblLabelSizes(basTAVL::kStickerHeight) / 2; }
+
+double clsRenderDestination::CornerStickerImageInches() { return CornerContent() / 2; }
+
 void clsRenderDestination::SpaceStickerImageV6(int iSpace, double dblX, double dblY) try {
     const double w = basTAVL::g_dblLabelSizes(basTAVL::kStickerWidth) * dblDPI;
-    const double h = basTAVL::g_dblLabelSizes(basTAVL::kStickerHeight) * dblDPI;
-    const int lSide = CLng(h / 2);
+    const int lSide = Pixels(SpaceStickerImageInches());
     StickerImage(basTAVL::g_oSpaces(iSpace).Image, CLng((w - lSide) / 2 + Pixels(dblX)), Pixels(dblY), lSide);
 } catch (...) {
     ErrTail("clsRenderDestination!", "SpaceStickerImageV6", iSpace, dblX, dblY);
@@ -62,24 +65,31 @@ void clsRenderDestination::SpaceStickerImageV6(int iSpace, double dblX, double d
 
 void clsRenderDestination::CornerStickerImageV6(int iCorner, double dblX, double dblY) try {
     const double g = CornerContent() * dblDPI;
-    StickerImage(basTAVL::g_oCorners(iCorner).Image, CLng(g / 4 + Pixels(dblX)), Pixels(dblY), CLng(g / 2));
+    StickerImage(basTAVL::g_oCorners(iCorner).Image, CLng(g / 4 + Pixels(dblX)), Pixels(dblY),
+                 Pixels(CornerStickerImageInches()));
 } catch (...) {
     ErrTail("clsRenderDestination!", "CornerStickerImageV6", iCorner, dblX, dblY);
 }
 
 void clsRenderDestination::SpaceStickerText(int iSpace, double dblX, double dblY, bool bIncludeImage) try {
-    const C_Space& space = basTAVL::g_oSpaces(iSpace);
-    StickerText(space.TextArray(), space.Font, double(space.TextSize()) * kSpaceTextInches,
-                basTAVL::g_dblLabelSizes(basTAVL::kStickerWidth), basTAVL::g_dblLabelSizes(basTAVL::kStickerHeight),
-                dblX, dblY, bIncludeImage);
+    SpaceStickerText(basTAVL::g_oSpaces(iSpace), dblX, dblY, bIncludeImage);
 } catch (...) {
     ErrTail("clsRenderDestination!", "SpaceStickerText", iSpace, dblX, dblY, bIncludeImage);
 }
 
+void clsRenderDestination::SpaceStickerText(const C_Space& space, double dblX, double dblY, bool bIncludeImage) {
+    StickerText(space.TextArray(), space.Font, double(space.TextSize()) * kSpaceTextInches,
+                basTAVL::g_dblLabelSizes(basTAVL::kStickerWidth), basTAVL::g_dblLabelSizes(basTAVL::kStickerHeight),
+                dblX, dblY, bIncludeImage);
+}
+
 void clsRenderDestination::CornerStickerText(int iCorner, double dblX, double dblY, bool bIncludeImage) try {
-    const C_Corner& corner = basTAVL::g_oCorners(iCorner);
-    StickerText(corner.TextArray(0), corner.Font, double(corner.TextSize(0)) * kCornerTextInches, CornerContent(),
-                CornerContent(), dblX, dblY, bIncludeImage);
+    CornerStickerText(basTAVL::g_oCorners(iCorner), dblX, dblY, bIncludeImage);
 } catch (...) {
     ErrTail("clsRenderDestination!", "CornerStickerText", iCorner, dblX, dblY, bIncludeImage);
+}
+
+void clsRenderDestination::CornerStickerText(const C_Corner& corner, double dblX, double dblY, bool bIncludeImage) {
+    StickerText(corner.TextArray(0), corner.Font, double(corner.TextSize(0)) * kCornerTextInches, CornerContent(),
+                CornerContent(), dblX, dblY, bIncludeImage);
 }
