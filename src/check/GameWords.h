@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+struct Game;
+
+/// What the pieces of a game say, each on one line.
+namespace GameWords {
+
+QString OfSpace(const Game& game, int iSpace);
+/// The words that are printed, which are those of the first block.
+QString OfCorner(const Game& game, int iCorner);
+QString OfCard(const Game& game, int iDeck, int iCard);
+QString OfToken(const Game& game, int iToken);
+/// Of a title by its number, 1 to 5.
+QString OfTitle(const Game& game, int iTitle);
+
+/// Nothing but blanks, or what stands for a text that nobody has written yet.
+bool IsBlank(const QString& sText);
+
+} // namespace GameWords

@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: MIT
+// The table of checks and what holds for all of them.
+#include "check/Checks.h"
+
+#include "CheckFixture.h"
+
+#include "check/FindingWords.h"
+#include "drawing/DrawingAside.h"
+#include "game/GameFile.h"
+#include "game/Session.h"
+
+#include <QElapsedTimer>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+#include <QSet>
+
+namespace {
+
+// Everything that can be wrong with a game at once.
+void Spoil(Game& game) {
+    game.spaces[0].SetText(QString(40, u'i'));
+    game.spaces[1].SetText(QStringLiteral("?\uF8F0"));
+    game.spaces[2].SetText(QString());
+    game.spaces[4].Font.Family = QStringLiteral("No Such Font");
+    game.spaces[5].Font.Size = 1;
+    game.spaces[5].Image.Init(QStringLiteral("/nowhere/photo.png"), QStringLiteral("Space"), 5);
+    game.spaces[6].SetText(game.spaces[7].TextAll());
+    game.corners[0].SetText(0, QString());
+    game.tokens[2].BackColor = Color::Black();
+    basPosit::SetSpecialText(game.titles.Text(1), 1, QString(39, u'M'));
+}
+
+} // namespace
+
+TEST(Checks, EveryRowHasAWordOfItsOwn) {
+    static const QRegularExpression word(QStringLiteral("^[a-z]+(-[a-z]+)*$"));
+    QSet<QString> names;
+    for (const Check& check : Checks()) {
+        EXPECT_TRUE(word.match(QString::fromLatin1(check.sName)).hasMatch()) << check.sName;
+        names.insert(QString::fromLatin1(check.sName));
+    }
+    EXPECT_EQ(size_t(names.size()), Checks().size());
+}
+
+TEST_F(CheckTest, FindingsComeByPieceAndTheSameTwice) {
+    Spoil(game);
+    const std::vector<Finding> once = Findings();
+    EXPECT_GE(once.size(), 9);
+    EXPECT_EQ(once, Findings());
+    for (size_t i = 1; i < once.size(); ++i)
+        EXPECT_FALSE(once[i].piece < once[i - 1].piece) << i;
+    PictureFacts others;
+    EXPECT_EQ(once, CheckGame(game, others));
+}
+
+TEST_F(CheckTest, FindingsAreSentences) {
+    Spoil(game);
+    options.printableInches = QSizeF(4, 6);
+    for (const Finding& finding : Findings()) {
+        EXPECT_TRUE(finding.sText.endsWith(u'.') || finding.sText.endsWith(u'?')) << finding.sText.toStdString();
+        EXPECT_TRUE(finding.sAdvice.endsWith(u'.')) << finding.sAdvice.toStdString();
+        EXPECT_FALSE(finding.sText.contains(QStringLiteral("/nowhere"))) << "no path";
+        EXPECT_FALSE(FindingWords::LineOf(game, finding).contains(u'\n'));
+    }
+}
+
+TEST_F(CheckTest, CheckingChangesNothing) {
+    Spoil(game);
+    desktop.boxes.clear();
+    const Game before = game;
+    basDraw::Draw_SetHdc(&context);
+    basDraw::Draw_SetFont(QStringLiteral("Arial"), 20, 10, 0, 0, true, false, false);
+    const int width = basDraw::Draw_GetWidth(QStringLiteral("Acorn Lane"));
+    Findings();
+    EXPECT_EQ(basDraw::Draw_GetWidth(QStringLiteral("Acorn Lane")), width) << "the font is still selected";
+    basDraw::Draw_ReleaseObjects();
+    EXPECT_TRUE(game == before);
+    EXPECT_EQ(LeftBehind(), QStringList());
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+}
+
+TEST_F(CheckTest, AKeyTellsWhichFindingItIs) {
+    Spoil(game);
+    QSet<QString> keys;
+    for (const Finding& finding : Findings())
+        keys.insert(finding.Key());
+    EXPECT_EQ(size_t(keys.size()), Findings().size());
+    game.spaces[2].SetText(QStringLiteral("Ours"));
+    game.spaces[2].SetText(QString());
+    for (const Finding& finding : Findings())
+        EXPECT_TRUE(keys.contains(finding.Key())) << finding.Key().toStdString();
+}
+
+TEST_F(CheckTest, AGameWithoutPicturesTakesNoTime) {
+    Findings();
+    qint64 best = std::numeric_limits<qint64>::max();
+    for (int run = 0; run < 20; ++run) {
+        QElapsedTimer timer;
+        timer.start();
+        Findings();
+        best = std::min(best, timer.nsecsElapsed());
+    }
+    EXPECT_LT(best / 1e6, 20.0) << "milliseconds";
+    RecordProperty("microseconds", int(best / 1000));
+}
+
+TEST_F(CheckTest, OtherKitsAreCheckedByWhatTheyPrint) {
+    game.spaces[4].Font.Size = 1;
+    EXPECT_EQ(Of("text-small").size(), 1);
+    game.kit = Kit::Two;
+    ExpectNone("text-small");
+}
+
+TEST_F(CheckTest, FindingsForScriptsAreJson) {
+    Spoil(game);
+    const std::vector<Finding> findings = Findings();
+    const QJsonArray array = QJsonDocument::fromJson(FindingWords::Json(game, findings)).array();
+    ASSERT_EQ(size_t(array.size()), findings.size());
+    for (size_t i = 0; i < findings.size(); ++i) {
+        const QJsonObject object = array[qsizetype(i)].toObject();
+        EXPECT_EQ(object[QStringLiteral("check")].toString(), findings[i].sCheck);
+        EXPECT_EQ(object[QStringLiteral("text")].toString(), findings[i].sText);
+        EXPECT_EQ(object[QStringLiteral("piece")].toString(), findings[i].piece.Word());
+        EXPECT_EQ(object[QStringLiteral("severity")].toString(), NameOf(findings[i].severity));
+    }
+}
+
+TEST_F(CheckTest, PiecesAreCalledByTheirNames) {
+    game.spaces[6].SetText(QStringLiteral("Under\r\nthe Sink"));
+    game.spaces[7].SetText(QString());
+    EXPECT_EQ(GamePiece::Space(6).NameIn(game), QStringLiteral("Space \"Under the Sink\""));
+    EXPECT_EQ(GamePiece::Space(7).NameIn(game), QStringLiteral("Space 8"));
+    EXPECT_EQ(GamePiece::Card(1, 11).NameIn(game), QStringLiteral("Bad News card 12"));
+    EXPECT_EQ(GamePiece::Money(3).NameIn(game), QStringLiteral("$5,000 note"));
+    EXPECT_EQ(GamePiece::Token(0).NameIn(game), QStringLiteral("Token \"Tim 1\""));
+}
+
+/// The games that are shipped.
+class SampleCheckTest : public SheetTest, public testing::WithParamInterface<const char*> {
+protected:
+    SampleCheckTest() { Folders::SetProgramDirectory(QStringLiteral(TAVLORA_DATA_DIR)); }
+    Session session;
+};
+
+TEST_P(SampleCheckTest, HasNothingToMend) {
+    QString path = QStringLiteral(TAVLORA_DATA_DIR) + u'/' + QString::fromLatin1(GetParam());
+    int result = 99;
+    basPosit::PosSethDC(&session.MeasuringDevice());
+    basPosit::PosInit();
+    GameFile::GameLoad(path, result);
+    ASSERT_EQ(result, 0);
+    PictureFacts facts;
+    for (const Finding& finding : CheckGame(TheGame(), facts, {QSizeF(8, 10.5)})) {
+        if (finding.IsSerious()) ADD_FAILURE() << FindingWords::LineOf(TheGame(), finding).toStdString();
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Shipped, SampleCheckTest,
+                         testing::Values("Blank_US.gam", "Family_US.gam", "Generic_US.gam", "Person_US.gam",
+                                         "Town_US.gam", "Default_US.dat"));

@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: MIT
+// What is told of colours, prices, paper and ink: each time of a game that has it, and of one that just hasn't.
+#include "check/Checks.h"
+
+#include "CheckFixture.h"
+
+namespace {
+
+/// The shipped rents with a field of a row in another way: 1 price, 2 to 5 rents, 7 the mortgage.
+QByteArray RentsWith(int row, int field, int value) {
+    QFile file(QStringLiteral(TAVLORA_DATA_DIR "/Rents_US.dat"));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    QList<QByteArray> rows = file.readAll().split('\n');
+    QList<QByteArray> fields = rows[row].split(',');
+    fields[field] = QByteArray::number(value);
+    rows[row] = fields.join(',');
+    return rows.join('\n');
+}
+
+} // namespace
+
+class PriceCheckTest : public CheckTest {
+protected:
+    void UseRents(int row, int field, int value) {
+        // A file of another length is told to be another one even within the same millisecond.
+        static int blanks = 0;
+        WriteFile(QStringLiteral("program/Rents.dat"), RentsWith(row, field, value) + QByteArray(++blanks, ' '));
+        basPosit::PosInit();
+    }
+};
+
+TEST_F(CheckTest, AGoodGameHasNothingToTell) {
+    options.printableInches = QSizeF(8, 10.5);
+    for (const Finding& finding : Findings())
+        ADD_FAILURE() << finding.sCheck.toStdString() << ' ' << finding.sText.toStdString();
+}
+
+TEST_F(PriceCheckTest, APriceOfNothingIsTold) {
+    UseRents(4, 1, 500);
+    ExpectNone("prices-odd");
+    UseRents(4, 1, 0);
+    ExpectOnly("prices-odd", GamePiece::Space(4));
+}
+
+// Space 4 brings 100, 200, 600 and 1,200.
+TEST_F(PriceCheckTest, RentsThatFallAreTold) {
+    UseRents(4, 3, 100);
+    ExpectNone("prices-odd");
+    UseRents(4, 3, 99);
+    ExpectOnly("prices-odd", GamePiece::Space(4));
+    UseRents(1, 3, 199);
+    ExpectOnly("prices-odd", GamePiece::Space(1));
+}
+
+TEST_F(PriceCheckTest, TheBankLendsNoMoreThanTheSpaceCosts) {
+    UseRents(4, 7, 1000);
+    ExpectNone("prices-odd");
+    UseRents(4, 7, 1001);
+    ExpectOnly("prices-odd", GamePiece::Space(4));
+}
+
+// Spaces 4, 5 and 6 are a group; 6 costs more than the others.
+TEST_F(PriceCheckTest, TheDearerSpaceOfAGroupBringsNoLess) {
+    UseRents(4, 2, 101);
+    ExpectOnly("prices-odd", GamePiece::Space(6));
+    UseRents(4, 2, 100);
+    ExpectNone("prices-odd");
+}
+
+// The grey of 40 has the contrast of 3 with one of 112.
+TEST_F(CheckTest, InkTooNearToItsGroundIsTold) {
+    basTAVL::g_lPrintBlack() = Color::Rgb(40, 40, 40);
+    ExpectNone("colours-near");
+    basTAVL::g_lPrintRed() = Color::Rgb(90, 90, 90);
+    ExpectOnly("colours-near", GamePiece::Whole());
+    basTAVL::g_lPrintRed() = Color::Rgb(255, 255, 255);
+    basTAVL::g_lPrintBack() = Color::Rgb(110, 110, 110);
+    ExpectOnly("colours-near", GamePiece::Whole());
+    basTAVL::g_lPrintBack() = Color::Rgb(114, 114, 114);
+    ExpectNone("colours-near");
+}
+
+TEST_F(CheckTest, BlackOnADarkNoteOrTokenIsTold) {
+    // Black has the contrast of 3 with a grey of 89 or 90.
+    game.money[2].BackColor = Color::Rgb(90, 90, 90);
+    game.tokens[1].BackColor = Color::Rgb(90, 90, 90);
+    ExpectNone("colours-near");
+    game.money[2].BackColor = Color::Rgb(88, 88, 88);
+    ExpectOnly("colours-near", GamePiece::Money(2));
+    game.money[2].BackColor = Color::White();
+    game.tokens[1].BackColor = Color::Rgb(88, 88, 88);
+    ExpectOnly("colours-near", GamePiece::Token(1));
+    game.tokens[1].SetImagePath(Photo({400, 400}));
+    ExpectNone("colours-near");
+}
+
+TEST_F(CheckTest, PaperThatIsTooSmallIsTold) {
+    ExpectNone("paper-small");
+    options.printableInches = QSizeF(8.0, 10.5);
+    ExpectNone("paper-small");
+    options.printableInches = QSizeF(7.9, 11.0);
+    ExpectOnly("paper-small", GamePiece::Whole());
+    const QString text = Of("paper-small")[0].sText;
+    EXPECT_TRUE(text.contains(QStringLiteral("Good News Cards"))) << text.toStdString();
+}
+
+// Twelve cards of 3 by 1.62 inches on 8 by 10.5.
+TEST_F(CheckTest, MuchInkIsTold) {
+    basTAVL::g_lNewsColor(1) = Color::Rgb(110, 110, 110);
+    ExpectNone("much-ink");
+    basTAVL::g_lNewsColor(1) = Color::Rgb(106, 106, 106);
+    ExpectOnly("much-ink", GamePiece::Whole());
+    EXPECT_TRUE(Of("much-ink")[0].sText.contains(QStringLiteral("40 %"))) << Of("much-ink")[0].sText.toStdString();
+    EXPECT_FALSE(Of("much-ink")[0].IsSerious());
+}
+
+TEST_F(CheckTest, DarkLabelsAndNotesTakeMuchInk) {
+    game.money[0].BackColor = Color::Rgb(120, 120, 120);
+    ExpectOnly("much-ink", GamePiece::Whole());
+    game.money[0].BackColor = Color::White();
+    basTAVL::g_lPrintBack() = Color::Rgb(100, 100, 100);
+    EXPECT_EQ(Of("much-ink").size(), 2) << "west and east";
+}
