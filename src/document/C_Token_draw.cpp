@@ -141,8 +141,7 @@ void C_Token::Redraw(int xStart, int yStart, int xEnd, int yEnd, bool bWithSelec
     FillCircle(picDest.hDC(), xStart, yStart, xEnd, yEnd, BackColor);
     basDraw::Draw_SetHdc(&picDest.hDC());
     basBMP::BMP_SetHDC(&picDest.hDC());
-    if (!Image.FullPath().isEmpty() && !PaintImage(picDest, picScratch, xStart, yStart, xEnd, yEnd))
-        Image.Let_FullPath(QString());
+    if (!Image.FullPath().isEmpty() && !PaintImage(picDest, picScratch, xStart, yStart, xEnd, yEnd)) Image.GiveUp();
     if (Image.FullPath().isEmpty()) DrawText(xStart, yStart, xEnd, yEnd, bWithSelection, selection);
     CutRound(picDest, xStart, yStart, xEnd, yEnd, lBackColor);
     basDraw::Draw_ReleaseObjects();

@@ -50,6 +50,8 @@ public:
     QString FullPath() const { return m_picture.ref.sPath; }
     /// A new picture starts unzoomed and uncentred. A missing file is told.
     void Let_FullPath(const QString& sNewPath);
+    /// Takes the picture off a copy that is to be painted without it. What was told of it stays told.
+    void GiveUp() { m_picture.ref = PictureRef(); }
 
     /// The path as a game file holds it: relative where the picture lies in the user's games folder or the
     /// program's, so that games travel with their pictures.

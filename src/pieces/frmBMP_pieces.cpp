@@ -216,8 +216,9 @@ PrintedText frmBMP::RecordMoneyText(const C_Money& note) {
 bool frmBMP::GenerateTokenImage(const QString& sFullPathDest, int iToken) try {
     return WritePiece(sFullPathDest, QSize(kTokenPixels, kTokenPixels), kTokenPixels / kTokenInches,
                       [this, iToken](Surface& form) {
-                          basTAVL::g_oTokens(iToken).Redraw(0, 0, kTokenPixels, kTokenPixels, false, form, picOriginal,
-                                                            {}, Color::White());
+                          // A record of its own, as one whose picture is away gives it up.
+                          C_Token token = basTAVL::g_oTokens(iToken);
+                          token.Redraw(0, 0, kTokenPixels, kTokenPixels, false, form, picOriginal, {}, Color::White());
                       });
 } catch (...) {
     ErrTail("frmBMP!", "GenerateTokenImage", sFullPathDest, iToken);

@@ -21,7 +21,7 @@ void FillCircle(Surface& surface, const QRect& box, Color color) {
 } // namespace
 
 void OutputToken(clsRenderDestination& destination, int iToken, double dblX, double dblY, double dblSize) try {
-    C_Token& token = basTAVL::g_oTokens(iToken);
+    C_Token token = basTAVL::g_oTokens(iToken);
     Surface& surface = destination.Destination();
     const PiecePlace page(destination, 0, 0);
     const QRect box = page.Box({dblX, dblY, dblSize, dblSize});
@@ -32,8 +32,8 @@ void OutputToken(clsRenderDestination& destination, int iToken, double dblX, dou
     if (!token.Image.FullPath().isEmpty()) {
         PictureHolder original;
         if (token.PaintImage(surface, original, box.left(), box.top(), lRight, lBottom)) return;
-        // It is given up for good, as everywhere: the token then has its text.
-        token.Image.Let_FullPath(QString());
+        // One that is away, as on a stick, is passed over for this print, and the text stands in its place.
+        token.Image.GiveUp();
     }
     basDraw::Draw_SetHdc(&surface.hDC());
     token.DrawText(box.left(), box.top(), lRight, lBottom, false, {});

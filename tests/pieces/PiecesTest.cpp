@@ -298,7 +298,7 @@ TEST_F(PiecesTest, ATokenIsRoundOnWhite) {
     EXPECT_GT(ink, 5);
 }
 
-TEST_F(PiecesTest, ATokenWhosePictureIsGoneShowsItsText) {
+TEST_F(PiecesTest, ATokenWhosePictureIsAwayShowsItsTextAndKeepsThePicture) {
     C_Token& token = basTAVL::g_oTokens(0);
     token.Init(0);
     token.SetText(QStringLiteral("Mum"));
@@ -308,7 +308,7 @@ TEST_F(PiecesTest, ATokenWhosePictureIsGoneShowsItsText) {
     ForgetPictures();
     ASSERT_TRUE(frmBMP::Instance().GenerateTokenImage(file, 0));
     EXPECT_EQ(desktop.boxes.size(), 1);
-    EXPECT_TRUE(token.Image.FullPath().isEmpty());
+    EXPECT_EQ(token.Image.FullPath(), PathOf(QStringLiteral("photo.png")));
 }
 
 TEST_F(PiecesTest, TextsFillTheirBoxesWithoutLeavingThem) {

@@ -56,14 +56,22 @@ TEST_F(OutputTokenTest, ATokenWithAPictureIsRoundToo) {
     EXPECT_TRUE(reader.Text(1).simplified().isEmpty());
 }
 
-TEST_F(OutputTokenTest, APictureThatIsGoneIsToldAndTheTextStandsInItsPlace) {
+TEST_F(OutputTokenTest, APictureThatIsAwayIsToldAndTheTextStandsInItsPlaceWhileTheGameKeepsIt) {
     if (!PdfReader::IsInstalled()) GTEST_SKIP() << "poppler's tools are not installed";
-    basTAVL::g_oTokens(2).Image.Init(Photo(Qt::blue), QStringLiteral("Token"), 2);
+    C_Image& image = basTAVL::g_oTokens(2).Image;
+    image.Init(Photo(Qt::blue), QStringLiteral("Token"), 2);
+    image.Let_Zoom(7);
+    image.Let_XCenter(3);
+    const C_Image before = image;
     ASSERT_TRUE(QFile::remove(PathOf(QStringLiteral("photo.png"))));
     ForgetPictures();
     ASSERT_TRUE(PrintToken());
     EXPECT_EQ(desktop.boxes.size(), 1);
     EXPECT_FALSE(reader.BoxOf(1, QStringLiteral("Grandma")).isEmpty());
+    EXPECT_EQ(image, before);
+    Photo(Qt::blue);
+    ASSERT_TRUE(PrintToken());
+    EXPECT_TRUE(reader.Text(1).simplified().isEmpty()) << "it is back";
 }
 
 } // namespace

@@ -298,15 +298,23 @@ TEST_F(EditTokenTest, APictureIsCroppedBehindARoundHole) {
     });
 }
 
-TEST_F(EditTokenTest, APictureThatIsGoneMakesRoomForText) {
+TEST_F(EditTokenTest, LookingAtATokenWhosePictureIsAwayChangesNothing) {
     GivePicture();
+    Token().Image.Let_Zoom(7);
+    Token().Image.Let_XCenter(12);
     QFile::remove(Token().Image.FullPath());
-    Edit([&] {
-        EXPECT_FALSE(ShowsImage());
-        EXPECT_EQ(Caption("cmdBitmap"), QStringLiteral("&Select Image"));
-        EXPECT_EQ(desktop.boxes.size(), 1) << "told once";
-        EXPECT_TRUE(desktop.Texts().join(u' ').contains(QStringLiteral("quarters.bmp")));
-    });
+    const C_Token before = Token();
+    for (const char* button : {"cmdCancel", "cmdOK"}) {
+        Edit([&] {
+            EXPECT_TRUE(ShowsImage());
+            EXPECT_EQ(desktop.boxes.size(), 1) << "told once";
+            EXPECT_TRUE(desktop.Texts().join(u' ').contains(QStringLiteral("quarters.bmp")));
+            Click(button);
+        });
+        EXPECT_FALSE(Token().IsDifferentFrom(before)) << button;
+    }
+    EXPECT_EQ(Token().Image.Zoom(), 7);
+    EXPECT_FALSE(session.IsUnsaved());
 }
 
 // Games made by hand have such tokens, and a token's name is worth keeping.

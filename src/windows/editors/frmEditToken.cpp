@@ -79,10 +79,11 @@ void frmEditToken::Redraw() try {
     const Redrawing redrawing;
     const C_Token::TextSelection selection{m_selection.m_iCol, m_selection.m_iRow, m_selection.m_iColEnd,
                                            m_selection.m_iRowEnd};
-    m_oToken.Redraw(0, 0, picDest->width(), picDest->height(), m_selection.IsOn(), *picDest, picScratch, selection,
+    // A record of its own: one whose picture is away, as on a stick, gives it up.
+    C_Token likeness = m_oToken;
+    likeness.Redraw(0, 0, picDest->width(), picDest->height(), m_selection.IsOn(), *picDest, picScratch, selection,
                     WidgetLook::FillOf(*this));
     picDest->Refresh();
-    // A picture that couldn't be painted has been given up just now.
     ShowInclude(HasImage() ? kImage : kText);
     ShowTyping();
     redrawing.ShowMessages();

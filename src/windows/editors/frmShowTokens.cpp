@@ -139,7 +139,8 @@ void frmShowTokens::Zoom() try {
 
 void frmShowTokens::DrawToken(int iToken) {
     PictureBox& picture = *picToken[size_t(iToken)];
-    C_Token& token = m_oTokens[size_t(iToken)];
+    // A record of its own: one whose picture is away, as on a stick, gives it up.
+    C_Token token = m_oTokens[size_t(iToken)];
     token.Redraw(0, 0, picture.width(), picture.height(), false, picture, picOriginal, {}, WidgetLook::FillOf(*this));
     if (picture.hasFocus()) DrawFocus(picture);
     picture.Refresh();
