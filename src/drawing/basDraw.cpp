@@ -80,7 +80,12 @@ void Draw_ReleaseObjects() try {
     ErrTail("basDraw!", "Draw_ReleaseObjects");
 }
 
-void Draw_Abandon() { Module() = State{}; }
+DeviceContext* Draw_Hdc() { return Module().m_hDC; }
+
+void Draw_Abandon(DeviceContext* hDC) {
+    Module() = State{};
+    Module().m_hDC = hDC;
+}
 
 void Draw_Line(int x1, int y1, int x2, int y2) try {
     Context().MoveTo(x1, y1);

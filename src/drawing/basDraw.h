@@ -36,8 +36,12 @@ void Draw_SetFont(const QString& sFamily, int lHeight, int lWidth, int lEscapeme
 /// Gives back what was selected before this layer's first pen, brush, font and colours.
 void Draw_ReleaseObjects();
 
-/// After a failure amid drawing, when the context may be gone: forgets it, and gives nothing back. Tests begin so.
-void Draw_Abandon();
+/// The context in force; nothing before the first.
+DeviceContext* Draw_Hdc();
+
+/// After a failure amid drawing, when the context may be gone: goes on with another one and gives nothing back. Tests
+/// begin so, with none.
+void Draw_Abandon(DeviceContext* hDC = nullptr);
 
 void Draw_Line(int x1, int y1, int x2, int y2);
 /// Right and bottom edge excluded.

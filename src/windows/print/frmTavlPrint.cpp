@@ -48,6 +48,8 @@ public:
         if (m_focus) m_focus->setFocus();
     }
     ~PageUnderWay() {
+        // What a failure has left selected belongs to a page that is gone; the board would be painted with it.
+        basDraw::Draw_Abandon(m_hDC);
         m_printer.KillDoc();
         m_console.TellInPrint(false);
     }
@@ -58,6 +60,7 @@ private:
     frmTavlPrint& m_console;
     Printer& m_printer;
     QPointer<QWidget> m_focus;
+    DeviceContext* m_hDC = basDraw::Draw_Hdc();
 };
 
 frmTavlPrint::frmTavlPrint(QWidget* parent) : QDialog(parent) {
@@ -127,8 +130,6 @@ void frmTavlPrint::cmdPrint_Click(int Index) try {
     CleanUp();
     TellWhereItWent();
 } catch (...) {
-    // What was selected belongs to a page that is gone; the next one would be painted with it.
-    basDraw::Draw_Abandon();
     // Hourglass and guard stay as they are, on purpose, until somebody has seen that a sheet is missing.
     Stop(Index);
     ErrTop("frmTavlPrint!", "cmdPrint_Click", Index);
