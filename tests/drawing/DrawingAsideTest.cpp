@@ -7,7 +7,7 @@
 #include <gtest/gtest.h>
 
 TEST(DrawingAside, GivesBackTheContextAndItsFont) {
-    basDraw::ResetForTest();
+    basDraw::Draw_Abandon();
     ScratchForm mine(QSize(10, 10));
     basDraw::Draw_SetHdc(&mine.hDC());
     basDraw::Draw_SetFont(QStringLiteral("Arial"), 40, 20, 0, 0, false, false, false);
@@ -21,5 +21,5 @@ TEST(DrawingAside, GivesBackTheContextAndItsFont) {
     }
     EXPECT_EQ(basDraw::Draw_GetWidth(QStringLiteral("Acorn")), width);
     basDraw::Draw_ReleaseObjects();
-    basDraw::ResetForTest();
+    basDraw::Draw_Abandon();
 }
