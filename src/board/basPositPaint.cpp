@@ -8,6 +8,8 @@
 #include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
 
+#include <algorithm>
+
 using namespace basDraw;
 
 namespace basPosit {
@@ -51,6 +53,26 @@ BoardPoint CostAnchor(int iSide, const BoardRect& first, const BoardRect& space)
         default:
             return {first.x1 + kCostGap, middle.y};
     }
+}
+
+int HeightOfCosts() { return CLng(PosLength(kCostHeight)); }
+
+// Of an average letter.
+int WidthOfCosts() { return CLng(HeightOfCosts() * 0.5); }
+
+// Of letters that leave the cost no longer than its space; with those of the side in force.
+int WidthThatFits(int iSpace) {
+    const DeviceRect rect = Mapped(m_SpaceRect(iSpace, SpacePart::Whole));
+    const bool bUpright = iSpace / basTAVL::kSpacesPerSide % 2 == 0;
+    const int iLength = bUpright ? rect.x2 - rect.x1 : rect.y2 - rect.y1;
+    const int iWritten = Draw_GetWidth(basTAVL::g_oSpaces(iSpace).Cost);
+    if (iWritten <= iLength) return WidthOfCosts();
+    return std::max(Int(double(iLength) * WidthOfCosts() / iWritten), 1);
+}
+
+void SetCostFont(int iSide, int iWidth) {
+    Draw_SetFont(QStringLiteral("Arial"), HeightOfCosts(), iWidth,
+                 EscapementOfSide(iSide, QStringLiteral("Unexpected Case 2")), 0, false, false, false);
 }
 
 } // namespace
@@ -134,16 +156,17 @@ void DrawSpaces() try {
 }
 
 void PosDrawCosts() try {
-    const int h = CLng(PosLength(kCostHeight));
     for (int iSide = 0; iSide < kSidesOfBoard; ++iSide) {
-        Draw_SetFont(QStringLiteral("Arial"), h, CLng(h * 0.5),
-                     EscapementOfSide(iSide, QStringLiteral("Unexpected Case 2")), 0, false, false, false);
+        SetCostFont(iSide, WidthOfCosts());
         const int iFirst = iSide * basTAVL::kSpacesPerSide;
         for (int iSpace = iFirst; iSpace < iFirst + basTAVL::kSpacesPerSide; ++iSpace) {
             const C_Space& space = basTAVL::g_oSpaces(iSpace);
             const BoardPoint anchor =
                 CostAnchor(iSide, m_SpaceRect(iFirst, SpacePart::Whole), m_SpaceRect(iSpace, SpacePart::Whole));
+            const int iNarrower = BoardFacts::IsLotto(iSpace) ? WidthThatFits(iSpace) : WidthOfCosts();
+            if (iNarrower < WidthOfCosts()) SetCostFont(iSide, iNarrower);
             Draw_Text(space.Cost, QStringLiteral("C"), PosX(anchor.x), PosY(anchor.y), space.CostColor);
+            if (iNarrower < WidthOfCosts()) SetCostFont(iSide, WidthOfCosts());
         }
     }
 } catch (...) {

@@ -17,6 +17,8 @@ namespace {
 // Letters are a little lower than the line height that the text was fitted with, which leaves a gap
 // between the lines of the fit; the block is centred by the line height itself.
 constexpr double kLetterShare = 0.95;
+// A font of height 0 is one of the desktop's choice, many times as high as what a small board has room for.
+constexpr int kSmallestLetter = 1;
 
 // From a space's inner edge: where the text's part of the depth starts, and how deep it is. A picture takes
 // the inner half.
@@ -89,7 +91,8 @@ int SetLottoFont(const LottoFont& font, int iEscapement) {
     return height;
 }
 
-void WriteLotto(const char* sText, const QString& sAlign, int x, int y) {
+void WriteLotto(int iHeight, const char* sText, const QString& sAlign, int x, int y) {
+    if (iHeight < kSmallestLetter) return;
     Draw_Text(QString::fromLatin1(sText), sAlign, x, y, Color::Black());
 }
 
@@ -105,7 +108,7 @@ void PosDrawSpaceText(int iSpace) try {
     const float fAcross = (part.depth - float(space.NLines()) * space.TextSize()) * 0.5F + part.start;
     const BoardPoint anchor = TextAnchor(iSide, m_SpaceRect(iSpace, SpacePart::Whole), fAcross);
     Draw_SetFont(space.Font.Family, h, CLng(h * 0.5), iEscapement, 0, space.Font.Bold, space.Font.Italic, false);
-    if (space.NLines() < 1) return;
+    if (space.NLines() < 1 || h < kSmallestLetter) return;
     Draw_TextArray(space.TextArray(), QStringLiteral("C"), PosX(anchor.x), PosY(anchor.y), Color::Black());
 } catch (...) {
     ErrTail("basPosit!", "PosDrawSpaceText", iSpace);
@@ -118,7 +121,7 @@ void PosDrawCornerText(int iBlock, int iCorner) try {
     const bool bOwnFont = iBlock == 0;
     Draw_SetFont(bOwnFont ? corner.Font.Family : QStringLiteral("Times New Roman"), h, CLng(h * 0.5),
                  kCornerEscapement[iCorner], 0, bOwnFont && corner.Font.Bold, !bOwnFont || corner.Font.Italic, false);
-    if (corner.NLines(iBlock) <= 0) return;
+    if (corner.NLines(iBlock) <= 0 || h < kSmallestLetter) return;
     Draw_TextArray(corner.TextArray(iBlock), QStringLiteral("C"), PosX(corner.X), PosY(corner.Y), Color::Black());
 } catch (...) {
     ErrTail("basPosit!", "PosDrawCornerText", iBlock, iCorner);
@@ -129,22 +132,23 @@ void DrawLotto(int iSpace) try {
     const QString sLeft = QStringLiteral("L");
     const int y = PosY(place.start.y);
     int x = PosX(place.start.x);
-    SetLottoFont(kLottoHead, place.iEscapement);
-    WriteLotto("PLACE YOUR BET", sLeft, x, y);
+    WriteLotto(SetLottoFont(kLottoHead, place.iEscapement), "PLACE YOUR BET", sLeft, x, y);
 
-    const int iBodyStep = place.iDirection * SetLottoFont(kLottoBody, place.iEscapement);
+    const int iBody = SetLottoFont(kLottoBody, place.iEscapement);
+    const int iBodyStep = place.iDirection * iBody;
     x += iBodyStep;
     for (const char* sRule : kLottoRule) {
         x += iBodyStep;
-        WriteLotto(sRule, sLeft, x, y);
+        WriteLotto(iBody, sRule, sLeft, x, y);
     }
     x += 2 * iBodyStep;
 
-    const int iTableStep = place.iDirection * SetLottoFont(kLottoTable, place.iEscapement);
+    const int iTable = SetLottoFont(kLottoTable, place.iEscapement);
+    const int iTableStep = place.iDirection * iTable;
     const int yAnswers = CLng(y - place.iDirection * kLottoAnswers * GetScale());
     for (const LottoPay& pay : kLottoPay) {
-        WriteLotto(pay.sRoll, sLeft, x, y);
-        WriteLotto(pay.sPay, QStringLiteral("R"), x, yAnswers);
+        WriteLotto(iTable, pay.sRoll, sLeft, x, y);
+        WriteLotto(iTable, pay.sPay, QStringLiteral("R"), x, yAnswers);
         x += iTableStep;
     }
 } catch (...) {
