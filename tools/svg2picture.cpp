@@ -2,20 +2,33 @@
 // Turns a drawing (SVG) into a picture file while the program is built. Run by data/CMakeLists.txt only.
 // Drawings hold no text: without a display there are no fonts, and letters would depend on the machine.
 
+#include <QHash>
 #include <QImage>
 #include <QPainter>
 #include <QSvgRenderer>
 #include <QTextStream>
 
+#include <algorithm>
+#include <cstdlib>
+#include <functional>
+#include <utility>
+
 namespace {
+
+constexpr int kPaletteSize = 256;
+// Two colours nearer than this in every channel share a place in the palette, so that it isn't spent on the many
+// shades of one soft edge.
+constexpr int kLikeEnough = 9;
 
 struct Order {
     QString sDrawing;
     QString sPicture;
     int lWidth = 0;
     int lHeight = 0;
-    QByteArray format; // "PNG" keeps transparency, "BMP" gets a white ground
-    int iTurn = 0;     // clockwise, in degrees
+    // "PNG" keeps transparency, "BMP" gets a white ground, "PALETTE" is a PNG of at most 256 colours: a third of
+    // the size for drawings in flat colours.
+    QByteArray format;
+    int iTurn = 0; // clockwise, in degrees
 };
 
 bool ReadOrder(int argc, char** argv, Order& order) {
@@ -30,7 +43,7 @@ bool ReadOrder(int argc, char** argv, Order& order) {
     order.format = argv[5];
     order.iTurn = QString::fromLatin1(argv[6]).toInt(&bTurn);
     return bWidth && bHeight && bTurn && order.lWidth > 0 && order.lHeight > 0 &&
-           (order.format == "PNG" || order.format == "BMP");
+           (order.format == "PNG" || order.format == "BMP" || order.format == "PALETTE");
 }
 
 QImage Paint(QSvgRenderer& drawing, const Order& order) {
@@ -46,13 +59,69 @@ QImage Paint(QSvgRenderer& drawing, const Order& order) {
     return picture.convertToFormat(order.format == "BMP" ? QImage::Format_RGB888 : QImage::Format_ARGB32);
 }
 
+int Distance(QRgb one, QRgb other) {
+    return std::max({std::abs(qRed(one) - qRed(other)), std::abs(qGreen(one) - qGreen(other)),
+                     std::abs(qBlue(one) - qBlue(other)), std::abs(qAlpha(one) - qAlpha(other))});
+}
+
+int NearestIn(const QList<QRgb>& palette, QRgb color) {
+    const auto nearest = std::min_element(palette.begin(), palette.end(), [color](QRgb one, QRgb other) {
+        return Distance(one, color) < Distance(other, color);
+    });
+    return int(nearest - palette.begin());
+}
+
+// How often each colour of a picture of 32 bits stands in it, the most frequent first.
+QList<std::pair<int, QRgb>> ColorsByFrequency(const QImage& picture) {
+    QHash<QRgb, int> counts;
+    for (int y = 0; y < picture.height(); ++y) {
+        const auto* row = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
+        for (int x = 0; x < picture.width(); ++x)
+            ++counts[row[x]];
+    }
+    QList<std::pair<int, QRgb>> colors;
+    for (auto it = counts.cbegin(); it != counts.cend(); ++it)
+        colors.append({it.value(), it.key()});
+    // The colour decides between equals, so that every build writes the same file.
+    std::sort(colors.begin(), colors.end(), std::greater<>());
+    return colors;
+}
+
+// The drawing's flat colours come first, as they are the frequent ones, and stay exact; edges take what is nearest.
+QImage WithPalette(const QImage& picture) {
+    const QList<std::pair<int, QRgb>> colors = ColorsByFrequency(picture);
+    QList<QRgb> palette;
+    for (const auto& [count, color] : colors) {
+        if (palette.size() == kPaletteSize) break;
+        if (palette.isEmpty() || Distance(palette[NearestIn(palette, color)], color) > kLikeEnough)
+            palette.append(color);
+    }
+    QHash<QRgb, int> places;
+    for (const auto& [count, color] : colors)
+        places[color] = NearestIn(palette, color);
+    QImage indexed(picture.size(), QImage::Format_Indexed8);
+    indexed.setColorTable(palette);
+    for (int y = 0; y < picture.height(); ++y) {
+        const auto* from = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
+        uchar* to = indexed.scanLine(y);
+        for (int x = 0; x < picture.width(); ++x)
+            to[x] = uchar(places[from[x]]);
+    }
+    return indexed;
+}
+
+bool Write(const QImage& picture, const Order& order) {
+    if (order.format != "PALETTE") return picture.save(order.sPicture, order.format.constData());
+    return WithPalette(picture).save(order.sPicture, "PNG");
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
     QTextStream errors(stderr);
     Order order;
     if (!ReadOrder(argc, argv, order)) {
-        errors << "usage: svg2picture DRAWING.svg PICTURE WIDTH HEIGHT PNG|BMP TURN\n";
+        errors << "usage: svg2picture DRAWING.svg PICTURE WIDTH HEIGHT PNG|PALETTE|BMP TURN\n";
         return 2;
     }
     QSvgRenderer drawing;
@@ -60,7 +129,7 @@ int main(int argc, char** argv) {
         errors << "svg2picture: cannot read the drawing " << order.sDrawing << "\n";
         return 1;
     }
-    if (!Paint(drawing, order).save(order.sPicture, order.format.constData())) {
+    if (!Write(Paint(drawing, order), order)) {
         errors << "svg2picture: cannot write the picture " << order.sPicture << "\n";
         return 1;
     }
