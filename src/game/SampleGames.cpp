@@ -11,8 +11,9 @@ namespace basTAVL {
 namespace {
 
 constexpr const char* kSamples[] = {"Blank", "Family", "Generic", "Person", "Town"};
-// Offered for a new game; the empty one last.
-constexpr const char* kOffered[] = {"Family", "Generic", "Person", "Town", "Blank"};
+// Offered for a new game; the empty one last. Class and Holiday aren't copied: five games are enough in a folder that
+// was empty.
+constexpr const char* kOffered[] = {"Family", "Generic", "Person", "Town", "Class", "Holiday", "Blank"};
 const QString kGame = QStringLiteral(".gam");
 const QString kBackground = QStringLiteral("MoneyBg");
 const QString kBitmap = QStringLiteral(".bmp");

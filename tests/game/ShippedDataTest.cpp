@@ -56,19 +56,14 @@ TEST_F(ShippedDataTest, EveryGameLoadsWholeAndSavesTheSameRecords) {
     EXPECT_TRUE(desktop.boxes.isEmpty()) << desktop.Texts().join(u'\n').toStdString();
 }
 
-QStringList Shown(const QStringList& paths) {
-    QStringList shown;
-    for (const QString& path : paths) {
-        if (!path.isEmpty()) shown += path;
-    }
-    return shown;
-}
-
-// Where the pictures of the game in memory lie.
-QStringList PicturesOfTheGame() {
+// Where the pictures of the game in memory lie, of each piece that the kit doesn't fill by itself. Nothing for a piece
+// without one.
+QStringList PicturesOfThePieces() {
     QStringList paths;
-    for (int i = 0; i < 28; ++i)
-        paths += basTAVL::g_oSpaces(i).Image.FullPath();
+    for (int i = 0; i < 28; ++i) {
+        const bool lotto = i == 10 || i == 24;
+        if (!lotto) paths += basTAVL::g_oSpaces(i).Image.FullPath();
+    }
     // The last corner's picture is the kit's and not the game's.
     for (int i = 0; i < 3; ++i)
         paths += basTAVL::g_oCorners(i).Image.FullPath();
@@ -76,7 +71,13 @@ QStringList PicturesOfTheGame() {
         paths += basTAVL::g_oMoney(i).FaceImage.FullPath();
     for (int i = 0; i < 6; ++i)
         paths += basTAVL::g_oTokens(i).Image.FullPath();
-    return Shown(paths);
+    return paths;
+}
+
+QStringList PicturesOfTheGame() {
+    QStringList shown = PicturesOfThePieces();
+    shown.removeAll(QString());
+    return shown;
 }
 
 TEST_F(ShippedDataTest, EveryPictureNamedInAGameIsThereAndCanBeRead) {
@@ -109,12 +110,73 @@ TEST_F(ShippedDataTest, CopyOfTheFamilyFindsItsPicturesBesideTheProgramAndKeepsT
     EXPECT_TRUE(desktop.boxes.isEmpty()) << desktop.Texts().join(u'\n').toStdString();
 }
 
-TEST_F(ShippedDataTest, NoPictureOfTheFamilyIsShippedForNothing) {
-    ASSERT_EQ(Load(Shipped(QStringLiteral("Family_US.gam"))), 0);
-    const QStringList used = PicturesOfTheGame();
-    const QDir pictures(Shipped(QStringLiteral("family")));
-    for (const QString& name : pictures.entryList(QDir::Files))
-        EXPECT_TRUE(used.contains(pictures.filePath(name))) << name.toStdString();
+// The folder that a sample keeps its pictures in.
+QString FolderOf(const QString& sSample) { return sSample.toLower(); }
+
+TEST_F(ShippedDataTest, EverySampleButBlankHasAPictureOfItsOwnOnEachPiece) {
+    QStringList withPictures;
+    for (const basTAVL::SampleGame& sample : basTAVL::SampleGames()) {
+        if (sample.sName == QStringLiteral("Blank")) continue;
+        withPictures += sample.sName;
+        basPosit::PosInit();
+        ASSERT_EQ(Load(QString(sample.sPath)), 0) << sample.sName.toStdString();
+        QStringList paths = PicturesOfThePieces();
+        EXPECT_EQ(paths.size(), 26 + 3 + 4 + 6);
+        for (const QString& path : paths) {
+            EXPECT_TRUE(path.startsWith(Shipped(FolderOf(sample.sName) + u'/')))
+                << sample.sName.toStdString() << ": \"" << path.toStdString() << '"';
+        }
+        EXPECT_EQ(paths.removeDuplicates(), 0) << sample.sName.toStdString() << " shows a picture twice";
+    }
+    EXPECT_EQ(withPictures, QStringList({"Family", "Generic", "Person", "Town", "Class", "Holiday"}));
+}
+
+TEST_F(ShippedDataTest, NoPictureOfASampleIsShippedForNothing) {
+    for (const basTAVL::SampleGame& sample : basTAVL::SampleGames()) {
+        ASSERT_EQ(Load(QString(sample.sPath)), 0) << sample.sName.toStdString();
+        const QStringList used = PicturesOfTheGame();
+        const QDir pictures(Shipped(FolderOf(sample.sName)));
+        for (const QString& name : pictures.entryList(QDir::Files))
+            EXPECT_TRUE(used.contains(pictures.filePath(name)))
+                << sample.sName.toStdString() << ": " << name.toStdString();
+    }
+}
+
+// Centred, so that the whole drawing shows.
+TEST_F(ShippedDataTest, EverySampleShowsItsDrawingsWhole) {
+    for (const basTAVL::SampleGame& sample : basTAVL::SampleGames()) {
+        basPosit::PosInit();
+        ASSERT_EQ(Load(QString(sample.sPath)), 0) << sample.sName.toStdString();
+        for (int i = 0; i < 28; ++i) {
+            const C_Image& image = basTAVL::g_oSpaces(i).Image;
+            if (image.FullPath().isEmpty()) continue;
+            QString error;
+            const Picture picture = LoadPicture(image.FullPath(), error);
+            EXPECT_EQ(QPointF(image.XCenter(), image.YCenter()), QPointF(picture.Width() / 2, picture.Height() / 2))
+                << sample.sName.toStdString() << i;
+        }
+    }
+}
+
+TEST_F(ShippedDataTest, ANewGameCanStartFromMoreSamplesThanAreCopied) {
+    QStringList names;
+    for (const basTAVL::SampleGame& sample : basTAVL::SampleGames()) {
+        names += sample.sName;
+        EXPECT_EQ(sample.sPath, Shipped(sample.sName + QStringLiteral("_US.gam")));
+    }
+    EXPECT_EQ(names, QStringList({"Family", "Generic", "Person", "Town", "Class", "Holiday", "Blank"}));
+    basTAVL::CopySampleGames();
+    EXPECT_EQ(QDir(PathOf(QStringLiteral("games"))).entryList({QStringLiteral("*.gam")}),
+              QStringList({"Blank.gam", "Family.gam", "Generic.gam", "Person.gam", "Town.gam"}));
+}
+
+TEST_F(ShippedDataTest, ASampleWithoutItsFileIsNotOffered) {
+    Folders::SetProgramDirectory(PathOf(QStringLiteral("program")));
+    WriteFile(QStringLiteral("program/Town.gam"), "ours");
+    WriteFile(QStringLiteral("program/Town_US.gam"), "the locale's");
+    const std::vector<basTAVL::SampleGame> samples = basTAVL::SampleGames();
+    ASSERT_EQ(samples.size(), 1);
+    EXPECT_EQ(samples[0].sPath, PathOf(QStringLiteral("program/Town.gam")));
 }
 
 } // namespace

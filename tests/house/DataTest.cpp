@@ -2,6 +2,7 @@
 // The data that ships with the program: what every part of it counts on.
 #include "support/TestFixture.h"
 
+#include <QDir>
 #include <QImage>
 #include <QImageReader>
 #include <QRegularExpression>
@@ -29,6 +30,13 @@ QList<QByteArray> Lines(const QByteArray& bytes) {
     for (QByteArray& line : lines)
         line.chop(1);
     return lines;
+}
+
+/// The game that a new one begins as, and the samples.
+QStringList Games() {
+    QStringList games = QDir(QStringLiteral(TAVLORA_DATA_DIR)).entryList({QStringLiteral("*_US.gam")}, QDir::Files);
+    EXPECT_EQ(games.size(), 7);
+    return games << QStringLiteral("Default_US.dat");
 }
 
 /// The largest difference of a channel between the pixels of a box and the pixel in its middle.
@@ -120,18 +128,20 @@ TEST_F(ShippedData, ArrowsPointTheWayTheyAreNamed) {
 
 // The title editor cuts lines to 40 characters, and a longer subtitle runs over its box on the board.
 TEST_F(ShippedData, NoTitleIsLongerThanTheEditorKeeps) {
-    for (const char* name :
-         {"Default_US.dat", "Blank_US.gam", "Family_US.gam", "Generic_US.gam", "Person_US.gam", "Town_US.gam"}) {
-        for (const QByteArray& title : Lines(ReadFile(DataPath(QString::fromLatin1(name))))[1].split(','))
-            EXPECT_LE(title.trimmed().size(), 40 + 2) << name << ": " << title.toStdString();
+    for (const QString& name : Games()) {
+        // Quoted, so that a comma in one of them doesn't part it.
+        const QList<QByteArray> fields = Lines(ReadFile(DataPath(name)))[1].split('"');
+        ASSERT_EQ(fields.size(), 7) << name.toStdString();
+        for (const QByteArray& title : {fields[1], fields[3], fields[5]})
+            EXPECT_LE(title.size(), 40) << name.toStdString() << ": " << title.toStdString();
     }
 }
 
 TEST_F(ShippedData, EveryGameHoldsItsRecordsInOrder) {
     const struct { int first, count; } runs[] = {{3, 28}, {31, 4}, {35, 12}, {47, 12}, {59, 4}, {63, 6}};
-    for (const char* name :
-         {"Default_US.dat", "Blank_US.gam", "Family_US.gam", "Generic_US.gam", "Person_US.gam", "Town_US.gam"}) {
-        const QList<QByteArray> lines = Lines(ReadFile(DataPath(QString::fromLatin1(name))));
+    for (const QString& sName : Games()) {
+        const std::string name = sName.toStdString();
+        const QList<QByteArray> lines = Lines(ReadFile(DataPath(sName)));
         ASSERT_EQ(lines.size(), 69) << name;
         EXPECT_TRUE(lines[0].startsWith("\"TavloraGameBoard\", ")) << name;
         for (const auto& run : runs) {
