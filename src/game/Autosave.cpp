@@ -5,12 +5,11 @@
 #include "game/GameNames.h"
 #include "game/Rescue.h"
 #include "platform/files/Files.h"
+#include "platform/files/Folders.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
 #include "services/Desktop.h"
 #include "services/FileRefused.h"
-
-#include <QDir>
 
 #include <utility>
 
@@ -102,10 +101,10 @@ QString DataPath() { return InMyGames(QStringLiteral("~AutoSave.dat")); }
 QString BackupPath() { return InMyGames(QStringLiteral("~AutoSave.bak")); }
 
 bool IsOneOf(const QString& sPath) {
-    const QString path = QDir::cleanPath(sPath);
+    const QString path = Folders::CompletePath(sPath);
     // Some disks know a file by any spelling.
-    return path.compare(QDir::cleanPath(DataPath()), Qt::CaseInsensitive) == 0 ||
-           path.compare(QDir::cleanPath(BackupPath()), Qt::CaseInsensitive) == 0;
+    return path.compare(Folders::CompletePath(DataPath()), Qt::CaseInsensitive) == 0 ||
+           path.compare(Folders::CompletePath(BackupPath()), Qt::CaseInsensitive) == 0;
 }
 
 Rotated Rotate() {

@@ -6,10 +6,9 @@
 #include "game/GameFile.h"
 #include "game/GameNames.h"
 #include "platform/files/Files.h"
+#include "platform/files/Folders.h"
 #include "services/basErrLog.h"
 #include "services/basPath.h"
-
-#include <QDir>
 
 namespace RecoveredName {
 namespace {
@@ -22,7 +21,7 @@ bool IsGame(const QString& sPath) {
 }
 
 bool MayBeSavedTo(const QString& sPath) {
-    if (!QDir::isAbsolutePath(sPath) || Autosave::IsOneOf(sPath) || Files::IsDirectory(sPath)) return false;
+    if (!Folders::IsComplete(sPath) || Autosave::IsOneOf(sPath) || Files::IsDirectory(sPath)) return false;
     if (Files::Exists(sPath)) return IsGame(sPath);
     QString error;
     return Files::IsNoSpecialFile(sPath, error) && sPath.endsWith(QStringLiteral(".gam"), Qt::CaseInsensitive);

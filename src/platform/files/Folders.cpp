@@ -109,6 +109,8 @@ QString Runtime() {
 
 QString CompletePath(const QString& sPath) { return QFileInfo(sPath).absoluteFilePath(); }
 
+bool IsComplete(const QString& sPath) { return QDir::isAbsolutePath(sPath); }
+
 QString ProgramDirectory() {
     if (!GivenProgramDirectory().isEmpty()) return GivenProgramDirectory();
     const QString own = QCoreApplication::applicationDirPath();

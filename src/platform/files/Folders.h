@@ -24,6 +24,8 @@ void SetProgramDirectory(const QString& sFolder);
 
 /// A path as a person types it, seen from the folder the program was started in, made complete.
 QString CompletePath(const QString& sPath);
+/// True for a path that doesn't depend on the current folder.
+bool IsComplete(const QString& sPath);
 
 struct Volume {
     QString sRoot;
