@@ -9,8 +9,14 @@
 
 // Not in a namespace without a name, whose kinds no other file could define.
 constexpr Check kChecks[] = {
-    {.sName = "picture-missing", .severity = Severity::Must, .run = RunCheck<class PictureMissing>},
-    {.sName = "picture-unreadable", .severity = Severity::Must, .run = RunCheck<class PictureUnreadable>},
+    {.sName = "picture-missing",
+     .severity = Severity::Must,
+     .run = RunCheck<class PictureMissing>,
+     .bToldElsewhere = true},
+    {.sName = "picture-unreadable",
+     .severity = Severity::Must,
+     .run = RunCheck<class PictureUnreadable>,
+     .bToldElsewhere = true},
     {.sName = "letters-missing", .severity = Severity::Must, .run = RunCheck<class LettersMissing>},
     {.sName = "paper-small", .severity = Severity::Must, .run = RunCheck<class PaperSmall>},
     {.sName = "piece-empty", .severity = Severity::Should, .run = RunCheck<class PieceEmpty>},
@@ -41,6 +47,12 @@ QString NameOf(Severity severity) {
 }
 
 std::span<const Check> Checks() { return kChecks; }
+
+bool IsToldElsewhere(const Finding& finding) {
+    return std::ranges::any_of(kChecks, [&](const Check& check) {
+        return check.bToldElsewhere && finding.sCheck == QLatin1String(check.sName);
+    });
+}
 
 std::vector<Finding> CheckGame(const Game& game, PictureFacts& facts, const CheckOptions& options) try {
     const DrawingAside aside;

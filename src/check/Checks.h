@@ -37,10 +37,14 @@ struct Check {
     const char* sName;
     Severity severity;
     void (*run)(const CheckedGame& game, Findings& findings);
+    /// Whoever reads or prints the game says it in words of their own.
+    bool bToldElsewhere = false;
 };
 
 /// All that are looked for, a row each.
 std::span<const Check> Checks();
+/// Whether somebody else tells it too while the game is read or printed.
+bool IsToldElsewhere(const Finding& finding);
 
 /// What there is to tell of a game, by piece, and of a piece in the order of the table. Two calls with the same game
 /// and the same files give the same. Touches neither game nor files, and leaves the drawing layer as it was. The kit's

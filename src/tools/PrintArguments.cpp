@@ -52,6 +52,8 @@ private:
         if (m_option == QStringLiteral("--help") || m_option == QStringLiteral("-h")) return Flag(m_arguments.bHelp);
         if (m_option == QStringLiteral("--version")) return Flag(m_arguments.bVersion);
         if (m_option == QStringLiteral("--list")) return Flag(m_arguments.bList);
+        if (m_option == QStringLiteral("--check")) return Flag(m_arguments.bCheck);
+        if (m_option == QStringLiteral("--json")) return Flag(m_arguments.bJson);
         if (m_option == QStringLiteral("-o") || m_option == QStringLiteral("--output"))
             return Text(m_arguments.sOutput);
         if (m_option == QStringLiteral("--board")) return Text(m_arguments.sBoard);
@@ -126,7 +128,9 @@ private:
         if (asked.sGame.isEmpty()) return Fail(QStringLiteral("no game file was given"));
         if (asked.sOutput.isEmpty() && !asked.sheets.isEmpty())
             return Fail(QStringLiteral("sheets need a file to go to: -o FILE.pdf"));
-        if (asked.sOutput.isEmpty() && asked.sBoard.isEmpty() && asked.sPieces.isEmpty() && asked.sPack.isEmpty())
+        if (asked.bJson && (asked.Makes() || !asked.bCheck))
+            return Fail(QStringLiteral("--json goes with --check alone"));
+        if (!asked.Makes() && !asked.bCheck)
             return Fail(QStringLiteral("nothing to make: give -o, --board, --pieces or --pack"));
         if (asked.sPack.isEmpty() && asked.bSmallPictures)
             return Fail(QStringLiteral("option '--small-pictures' goes with --pack"));
@@ -155,7 +159,7 @@ QString PrintArguments::Usage() {
   tavlora-print GAME.gam --sheet NAME... -o F.pdf   only these sheets
   tavlora-print GAME.gam --board B.png [--size N]   the board as a picture, N pixels square (default 960)
   tavlora-print GAME.gam --pieces DIR               every made picture (stickers, notes, tokens, titles) as PNG
-  tavlora-print GAME.gam --pack GAME.tavlora        the game with its pictures as one file, to be sent to somebody
+  tavlora-print GAME.gam --check [--json]           what would come out badly on paper
   tavlora-print --list                              the sheets: name, title, stock, orientation
 
 Each of them takes a packed game (GAME.tavlora) in place of GAME.gam.
@@ -166,8 +170,10 @@ Options:
   --variant 8|5|2A|2    the boxed kit to print for, whatever the settings say
   --small-pictures      --pack puts pictures in only as large as paper shows them
   --data DIR            take the program's own data files (rents, rules, pictures) from DIR
+  --check               beside -o, --board, --pieces or --pack: warns of what would come out badly on paper
   --help, --version
 
 Exit status: 0 when all was made, 1 when something could not be read, loaded or written, 2 for wrong usage.
+Of a check: 0 when there is nothing to mend, though there may be hints; 1 when there is; 2 for wrong usage.
 )");
 }

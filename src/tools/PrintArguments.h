@@ -28,6 +28,10 @@ struct PrintArguments {
     bool bSmallPictures = false;
     /// Folder for the made pictures; empty for none.
     QString sPieces;
+    /// Look the game over, and warn of what is found where something is made, too.
+    bool bCheck = false;
+    /// Tell what was found in a form for scripts.
+    bool bJson = false;
     bool bA4 = false;
     int iDpi = kDefaultDpi;
     /// Kit variant; empty for the one in the settings.
@@ -37,5 +41,7 @@ struct PrintArguments {
 
     /// Reads the words behind the program's name. Nothing, and a sentence in sError, for wrong usage.
     static std::optional<PrintArguments> Parse(const QStringList& words, QString& sError);
+    /// Whether any file is to be made.
+    bool Makes() const { return !sOutput.isEmpty() || !sBoard.isEmpty() || !sPieces.isEmpty() || !sPack.isEmpty(); }
     static QString Usage();
 };

@@ -3,6 +3,8 @@
 
 #include "board/basPosit.h"
 #include "board/BoardPicture.h"
+#include "check/Checks.h"
+#include "check/FindingWords.h"
 #include "game/GameFile.h"
 #include "game/Session.h"
 #include "kit/GameKit.h"
@@ -37,6 +39,16 @@ QStringList AllSheets() {
     for (const Sheet& sheet : Sheets())
         names.append(QString::fromLatin1(sheet.sName));
     return names;
+}
+
+QPageSize::PageSizeId PaperOf(const PrintArguments& arguments) {
+    return arguments.bA4 ? QPageSize::A4 : QPageSize::Letter;
+}
+
+std::vector<Finding> FindingsInHand(const PrintArguments& arguments) {
+    PictureFacts facts;
+    const PdfPrinter page({}, {}, PaperOf(arguments));
+    return CheckGame(TheGame(), facts, {page.PrintableInches()});
 }
 
 QString TitleOf(const QString& sGame) {
@@ -174,6 +186,8 @@ int PrintCommand::PrintGame(const PrintArguments& arguments) {
     basPosit::PosSethDC(&session.MeasuringDevice());
     basPosit::PosInit();
     if (!LoadGame(arguments.sGame)) return kFailed;
+    if (arguments.bCheck && !arguments.Makes()) return CheckInHand(arguments);
+    if (arguments.bCheck) WarnOfInHand(arguments);
     if (!arguments.sBoard.isEmpty() && !PaintBoard(arguments.sBoard, arguments.iBoardSize)) return kFailed;
     basPosit::PosSethDC(&session.MeasuringDevice());
     if (!arguments.sPieces.isEmpty() && !WritePieces(Console::CompletePath(arguments.sPieces))) return kFailed;
@@ -211,6 +225,24 @@ bool PrintCommand::PackGame(const PrintArguments& arguments) {
     EndProgress();
     if (!well) Complain(QStringLiteral("'%1' could not be written: %2").arg(arguments.sPack, error));
     return well;
+}
+
+int PrintCommand::CheckInHand(const PrintArguments& arguments) {
+    const std::vector<Finding> findings = FindingsInHand(arguments);
+    if (arguments.bJson) {
+        m_out << FindingWords::Json(TheGame(), findings).constData();
+    } else {
+        for (const Finding& finding : findings)
+            m_out << FindingWords::LineOf(TheGame(), finding).toUtf8().constData() << '\n';
+    }
+    m_out.flush();
+    return FindingWords::SeriousOnes(findings) == 0 ? kDone : kFailed;
+}
+
+void PrintCommand::WarnOfInHand(const PrintArguments& arguments) {
+    for (const Finding& finding : FindingsInHand(arguments)) {
+        if (finding.IsSerious() && !IsToldElsewhere(finding)) Complain(FindingWords::LineOf(TheGame(), finding));
+    }
 }
 
 bool PrintCommand::PaintBoard(const QString& sPath, int lSize) {
@@ -256,8 +288,7 @@ bool PrintCommand::PrintOneSheet(Printer& printer, const Sheet& sheet, const QSt
 }
 
 int PrintCommand::PrintSheetsOf(const PrintArguments& arguments, const QStringList& sheets) {
-    PdfPrinter printer(arguments.sOutput, TitleOf(arguments.sGame), arguments.bA4 ? QPageSize::A4 : QPageSize::Letter,
-                       arguments.iDpi);
+    PdfPrinter printer(arguments.sOutput, TitleOf(arguments.sGame), PaperOf(arguments), arguments.iDpi);
     int number = 0;
     for (const QString& name : sheets) {
         const Sheet& sheet = *FindSheet(name);

@@ -31,6 +31,10 @@ private:
     /// The game's path, which for a packed game is what was unpacked into that folder; empty when it can't be unpacked.
     QString GameOf(const QString& sGame, const QString& sUnpackedFolder);
     int PrintGame(const PrintArguments& arguments);
+    /// Tells what there is to mend. kFailed when there is something.
+    int CheckInHand(const PrintArguments& arguments);
+    /// Warns of what would come out badly and isn't told in another way.
+    void WarnOfInHand(const PrintArguments& arguments);
     /// A page of the printer's; sTold is shown with its progress. False when it isn't whole, which has then been told.
     bool PrintOneSheet(Printer& printer, const Sheet& sheet, const QString& sTold);
     int PrintSheetsOf(const PrintArguments& arguments, const QStringList& sheets);
