@@ -152,11 +152,14 @@ TEST_P(SampleCheckTest, HasNothingToMend) {
     GameFile::GameLoad(path, result);
     ASSERT_EQ(result, 0);
     PictureFacts facts;
+    // What is still to be filled in is no more than a hint.
+    const bool isEmpty = path.endsWith(QStringLiteral("/Blank_US.gam"));
     for (const Finding& finding : CheckGame(TheGame(), facts, {QSizeF(8, 10.5)})) {
-        if (finding.IsSerious()) ADD_FAILURE() << FindingWords::LineOf(TheGame(), finding).toStdString();
+        if (isEmpty && !finding.IsSerious()) continue;
+        ADD_FAILURE() << FindingWords::LineOf(TheGame(), finding).toStdString();
     }
 }
 
 INSTANTIATE_TEST_SUITE_P(Shipped, SampleCheckTest,
                          testing::Values("Blank_US.gam", "Family_US.gam", "Generic_US.gam", "Person_US.gam",
-                                         "Town_US.gam", "Default_US.dat"));
+                                         "Town_US.gam", "Class_US.gam", "Holiday_US.gam", "Default_US.dat"));
