@@ -4,27 +4,20 @@
 
 #include "CheckFixture.h"
 
-namespace {
-
-/// The shipped rents with a field of a row in another way: 1 price, 2 to 5 rents, 7 the mortgage.
-QByteArray RentsWith(int row, int field, int value) {
-    QFile file(QStringLiteral(TAVLORA_DATA_DIR "/Rents_US.dat"));
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    QList<QByteArray> rows = file.readAll().split('\n');
-    QList<QByteArray> fields = rows[row].split(',');
-    fields[field] = QByteArray::number(value);
-    rows[row] = fields.join(',');
-    return rows.join('\n');
-}
-
-} // namespace
-
 class PriceCheckTest : public CheckTest {
 protected:
+    /// Space r costs 100 r + 1,000 and brings 10 r + 1 to 10 r + 4; the bank lends 10 r + 6. One field of a row is
+    /// another: 1 the price, 2 to 5 the rents, 7 the loan.
     void UseRents(int row, int field, int value) {
-        // A file of another length is told to be another one even within the same millisecond.
-        static int blanks = 0;
-        WriteFile(QStringLiteral("program/Rents.dat"), RentsWith(row, field, value) + QByteArray(++blanks, ' '));
+        QByteArray rents;
+        for (int r = 0; r < basTAVL::kSpaces; ++r) {
+            QList<QByteArray> fields = RentRow(r).split(',');
+            if (r == row) fields[field] = QByteArray::number(value);
+            rents += fields.join(',');
+        }
+        WriteFile(QStringLiteral("program/Rents.dat"), rents);
+        // The file may have changed within the same millisecond.
+        basPosit::ResetRentsForTest();
         basPosit::PosInit();
     }
 };
@@ -42,29 +35,28 @@ TEST_F(PriceCheckTest, APriceOfNothingIsTold) {
     ExpectOnly("prices-odd", GamePiece::Space(4));
 }
 
-// Space 4 brings 100, 200, 600 and 1,200.
 TEST_F(PriceCheckTest, RentsThatFallAreTold) {
-    UseRents(4, 3, 100);
+    UseRents(4, 3, 41);
     ExpectNone("prices-odd");
-    UseRents(4, 3, 99);
+    UseRents(4, 3, 40);
     ExpectOnly("prices-odd", GamePiece::Space(4));
-    UseRents(1, 3, 199);
+    UseRents(1, 3, 10);
     ExpectOnly("prices-odd", GamePiece::Space(1));
 }
 
 TEST_F(PriceCheckTest, TheBankLendsNoMoreThanTheSpaceCosts) {
-    UseRents(4, 7, 1000);
+    UseRents(4, 7, 1400);
     ExpectNone("prices-odd");
-    UseRents(4, 7, 1001);
+    UseRents(4, 7, 1401);
     ExpectOnly("prices-odd", GamePiece::Space(4));
 }
 
-// Spaces 4, 5 and 6 are a group; 6 costs more than the others.
+// Spaces 4, 5 and 6 are a group, and 5 costs more than 4.
 TEST_F(PriceCheckTest, TheDearerSpaceOfAGroupBringsNoLess) {
-    UseRents(4, 2, 101);
-    ExpectOnly("prices-odd", GamePiece::Space(6));
-    UseRents(4, 2, 100);
+    UseRents(5, 2, 41);
     ExpectNone("prices-odd");
+    UseRents(5, 2, 40);
+    ExpectOnly("prices-odd", GamePiece::Space(5));
 }
 
 // The grey of 40 has the contrast of 3 with one of 112.
