@@ -36,6 +36,7 @@ constexpr Item kFileItems[] = {
     {3, "&Save", "Ctrl+S", Always},
     {4, "Save &As...", "Ctrl+Shift+S", Always},
     {20, "&Duplicate", "", Always},
+    {30, "Send to a &Friend...", "", Always},
     {5, "-", "", Never},
     {6, "P&rinter Setup", "", Always},
     {7, "&Print...", "Ctrl+P", Always},

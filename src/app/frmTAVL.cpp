@@ -52,7 +52,7 @@ frmTAVL::frmTAVL(EditorRoutes& doors)
       m_view(
           *m_client, m_tips,
           {.layOut = std::bind_front(&frmTAVL::Form_Resize, this), .open = std::bind_front(&frmTAVL::OpenPlace, this)}),
-      m_commands(*this, m_view),
+      m_commands(*this, m_view), m_sharing(*this, m_view, m_commands.InHand()),
       m_requests(std::bind_front(&GameCommands::OpenGame, &m_commands), std::bind_front(&frmTAVL::IsInPrint, this)),
       m_menu(*menuBar(), m_commands.InHand(), std::bind_front(&frmTAVL::Choose, this)),
       m_about(std::make_unique<frmAbout>(this)) {
@@ -245,6 +245,8 @@ void frmTAVL::mnuFile_Click(int Index) try {
             return ExitWithQuestion();
         case 20:
             return m_commands.Duplicate();
+        case 30:
+            return m_sharing.Send();
         case 1:
         case 5:
         case 8:

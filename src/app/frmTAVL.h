@@ -3,6 +3,7 @@
 
 #include "app/BoardView.h"
 #include "app/GameCommands.h"
+#include "app/GameSharing.h"
 #include "app/MainLayout.h"
 #include "app/MainMenu.h"
 #include "app/StartRequests.h"
@@ -109,6 +110,7 @@ private:
     ToolBar m_toolBar;
     BoardView m_view;
     GameCommands m_commands;
+    GameSharing m_sharing;
     StartRequests m_requests;
     MainMenu m_menu;
 

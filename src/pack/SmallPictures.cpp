@@ -46,7 +46,10 @@ qint16 Moved(qint16 place, double factor) {
     return place != 0 && moved == 0 ? qint16(1) : moved;
 }
 
-void Shrink(Packing::Contents& contents, Packing::Picture& picture) {
+} // namespace
+
+void MakeOne(Packing::Contents& contents, int iPicture) {
+    Packing::Picture& picture = contents.pictures[iPicture];
     // White of a drawing of one bit lets what is beneath show through; no photo does.
     if (basBMP::IsMonochromeBMP(picture.sPath)) return;
     const std::optional<SmallerPicture> smaller = ShrinkPicture(picture.sPath, SideNeeded(picture.users));
@@ -61,8 +64,6 @@ void Shrink(Packing::Contents& contents, Packing::Picture& picture) {
     }
 }
 
-} // namespace
-
 int SideNeeded(const QList<GamePictures::Named>& users) {
     int side = 0;
     for (const GamePictures::Named& user : users)
@@ -75,7 +76,7 @@ bool Make(Packing::Contents& contents, const Packing::Progress& progress) {
     const int count = int(contents.pictures.size());
     for (int i = 0; i < count; ++i) {
         if (progress && !progress(i * kWhole / count)) return false;
-        Shrink(contents, contents.pictures[i]);
+        MakeOne(contents, i);
     }
     return true;
 }
