@@ -38,7 +38,7 @@ TEST_F(PlayCommandTest, ReportTellsTheSeedAndAllTablesOfBothKits) {
     EXPECT_EQ(out.count(QStringLiteral("60 games for each number of players, seed 17,")), 2);
     for (const char* words : {"## Kit \"8\": Rents_US.dat", "## Kit \"5\": older/Rents_US.dat",
                               "### How long a game lasts", "### Who wins", "### The groups", "### Lotto and money",
-                              "| Chestnut Street to Elder Street |", "| Water Works, Power Plant |", "\n| 6 |"})
+                              "| Chestnut Street to Elder Street |", "| Pump House, Power Plant |", "\n| 6 |"})
         EXPECT_TRUE(out.contains(QString::fromLatin1(words))) << words;
     EXPECT_FALSE(out.contains(QStringLiteral(".svg")));
 }
