@@ -7,6 +7,7 @@
 #include "services/BoardFacts.h"
 #include "services/ProgramSettings.h"
 
+#include <algorithm>
 #include <optional>
 
 namespace PicturePlaces {
@@ -36,11 +37,22 @@ bool IsComplete(const QString& sName) {
     return sName.startsWith(u'/') || sName.startsWith(u'\\') || (sName.size() >= 2 && sName[1] == u':');
 }
 
+// Of a folder with or without a separator behind it.
+QString FolderAbove(const QString& sFolder) {
+    const QString folder = sFolder.endsWith(u'/') || sFolder.endsWith(u'\\') ? sFolder.chopped(1) : sFolder;
+    return folder.left(std::max(folder.lastIndexOf(u'/'), folder.lastIndexOf(u'\\')) + 1);
+}
+
 // The places at which a picture of a game file is looked for ahead of the program's own folder.
 QStringList PlacesOf(const QString& sName) {
     if (IsComplete(sName)) return {basCommon::GetFullPath(PictureBase(), sName, QString())};
     QStringList places{basCommon::JoinPath(PictureBase(), sName)};
-    if (!Settings().sGameDirectory.isEmpty()) places.append(basCommon::JoinPath(Settings().sGameDirectory, sName));
+    const QString& beside = Settings().sGameDirectory;
+    if (beside.isEmpty()) return places;
+    places.append(basCommon::JoinPath(beside, sName));
+    // A game in a folder of its own, "Family/Family.gam", names "Family/Pictures/cat.jpg": moved as a whole, both still
+    // lie in a folder of that name.
+    places.append(basCommon::JoinPath(FolderAbove(beside), sName));
     return places;
 }
 

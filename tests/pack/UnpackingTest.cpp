@@ -70,6 +70,18 @@ TEST_F(UnpackingTest, InMyGamesItsPicturesAreNamedAsASaveNamesThem) {
     EXPECT_EQ(ReadFile(game).split('\n')[3], unpacked.split('\n')[3]);
 }
 
+TEST_F(UnpackingTest, ItsFolderMayBeMovedAsAWhole) {
+    const QString games = PathOf(QStringLiteral("games"));
+    QString game =
+        Unpacking::Unpack(WriteFile(QStringLiteral("x.tavlora"), Plain().Bytes()), games, error).value_or(QString());
+    ASSERT_EQ(Load(QString(game)), 0);
+    ASSERT_TRUE(Save(game)) << "as the program writes it";
+    ASSERT_TRUE(QDir().rename(games + QStringLiteral("/Plain"), out + QStringLiteral("/Plain")));
+    ASSERT_EQ(Load(QString(out + QStringLiteral("/Plain/Plain.gam"))), 0);
+    EXPECT_EQ(TheGame().spaces[0].Image.FullPath(), out + QStringLiteral("/Plain/Pictures/a.png"));
+    EXPECT_TRUE(desktop.boxes.isEmpty()) << desktop.Texts().join(u'\n').toStdString();
+}
+
 TEST_F(UnpackingTest, NothingIsWrittenOver) {
     WriteFile(QStringLiteral("out/Plain"), "a file");
     QDir(out).mkdir(QStringLiteral("Plain 2"));
