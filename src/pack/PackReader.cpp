@@ -10,12 +10,22 @@
 #include "services/TavloraError.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace {
 
 const QString kGameEnding = QStringLiteral(".gam");
 const QString kDamaged = QStringLiteral("a part of it is missing or was changed on its way");
 const QString kNoGame = QStringLiteral("it holds no game");
+
+// What an entry can be unpacked to at the most, so that a few bytes that claim to be a disk full take no memory.
+qint64 LargestOf(const ZipReader::Entry& entry) {
+    constexpr qint64 kMostShrunk = 1040;
+    constexpr qint64 kSmall = 1 << 16;
+    return entry.packedSize > std::numeric_limits<qint64>::max() / kMostShrunk - kSmall
+               ? -1
+               : entry.packedSize * kMostShrunk + kSmall;
+}
 
 bool IsGameEntry(const QString& sName) {
     return sName.endsWith(kGameEnding, Qt::CaseInsensitive) && !sName.contains(u'/');
@@ -55,13 +65,16 @@ QString PackReader::WhyRefused(qint64 packedSize) {
     if (m_zip.Entries().size() > PackLimits::kMostEntries)
         return QStringLiteral("it holds far more files than a game has");
     qint64 unpacked = 0;
+    bool bLies = false;
     for (const ZipReader::Entry& entry : m_zip.Entries()) {
         if (entry.kind == ZipReader::Kind::Special) return QStringLiteral("it holds something that is no plain file");
         if (!entry.bReadable) return QStringLiteral("it is packed in a way that isn't known");
+        bLies = bLies || entry.size > LargestOf(entry);
         // Each on its own, so that the sum can't run over.
         unpacked += std::min(entry.size, PackLimits::kMostUnpacked + 1);
     }
     if (PackLimits::IsTrap(unpacked, packedSize)) return QStringLiteral("unpacked, it would be far too large");
+    if (bLies) return kDamaged;
     for (const auto step : {&PackReader::TakeNames, &PackReader::TakeGame, &PackReader::TakePictures}) {
         const QString why = (this->*step)();
         if (!why.isEmpty()) return why;

@@ -73,6 +73,7 @@ ZipReader::Entry ZipReader::EntryAt(qsizetype iEntry) const {
     zip_stat_init(&told);
     if (zip_stat_index(m_archive->zip, place, 0, &told) != 0 || !(told.valid & ZIP_STAT_SIZE)) return entry;
     entry.size = qint64(told.size);
+    if (told.valid & ZIP_STAT_COMP_SIZE) entry.packedSize = qint64(told.comp_size);
     const bool known = told.comp_method == ZIP_CM_STORE || told.comp_method == ZIP_CM_DEFLATE;
     entry.bReadable = entry.size >= 0 && known && told.encryption_method == ZIP_EM_NONE;
     return entry;

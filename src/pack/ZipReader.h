@@ -18,6 +18,8 @@ public:
         Kind kind = Kind::Special;
         /// As the archive says; bytes are unpacked to this size or not at all.
         qint64 size = -1;
+        /// In the archive, as it says.
+        qint64 packedSize = -1;
         /// Stored or deflated, and not under lock and key.
         bool bReadable = false;
     };
