@@ -101,4 +101,57 @@ TEST_F(TypedTextTest, RemovingNeedsASelection) {
     EXPECT_EQ(Text(), QStringLiteral("Elm|Stet"));
 }
 
+TEST_F(TypedTextTest, APasteStopsAtWhatItsLineCanHold) {
+    lines = {QString(38, u'a')};
+    CaretAt(2, 0);
+    EXPECT_EQ(Feed(QStringLiteral("xyz\nnext")), KeyResult::TextChanged);
+    EXPECT_EQ(lines, (QStringList{QStringLiteral("aaxy"), QStringLiteral("next") + QString(36, u'a')}))
+        << "what stood behind the caret goes on behind the break";
+}
+
+TEST_F(TypedTextTest, AHugePasteKeepsWhatStands) {
+    lines = {QStringLiteral("Elm Street")};
+    CaretAt(10, 0);
+    Feed(QString(40000, u'x'));
+    EXPECT_EQ(lines, QStringList{QStringLiteral("Elm Street") + QString(30, u'x')});
+    EXPECT_EQ(selection.m_iCol, 40);
+    EXPECT_EQ(TypedText::Feed(lines, selection, QString(40000, u'y'), TypedText::kAnyLength), KeyResult::TextChanged);
+    EXPECT_EQ(lines[0].size(), TypedText::kAnyLength);
+}
+
+TEST_F(TypedTextTest, APasteOverAMarkedTextHasItsRoom) {
+    lines = {QString(40, u'a')};
+    selection.SetCaret(0, 0);
+    selection.SetEnd(40, 0);
+    Feed(QStringLiteral("bcd"));
+    EXPECT_EQ(lines, QStringList{QStringLiteral("bcd")});
+}
+
+TEST_F(TypedTextTest, TheCaretComesBackToTheEndOfAStoredLine) {
+    selection.SetCaret(9, 1);
+    TypedText::KeepWithin(selection, lines);
+    EXPECT_EQ(selection.m_iCol, 6);
+    selection.SetCaret(2, 5);
+    TypedText::KeepWithin(selection, lines);
+    EXPECT_EQ(selection.m_iRow, 1);
+    EXPECT_EQ(selection.m_iCol, 2);
+    selection.Clear();
+    TypedText::KeepWithin(selection, lines);
+    EXPECT_FALSE(selection.IsOn());
+}
+
+TEST_F(TypedTextTest, ALossIsToldByItsCause) {
+    const QStringList full{QString(40, u'a')};
+    const QStringList ten(10, QStringLiteral("a"));
+    const auto loss = [](const QString& text, const QStringList& before, const QStringList& stored) {
+        return TypedText::Loss(text, before, stored, TypedText::kLongestLine);
+    };
+    EXPECT_EQ(loss(QStringLiteral("b"), full, full), QStringLiteral("Only 40 letters fit on a line."));
+    EXPECT_EQ(loss(QStringLiteral("b\nc"), ten, ten), QStringLiteral("Only 10 lines fit here."));
+    EXPECT_EQ(loss(QStringLiteral("b"), {QStringLiteral("a")}, {QStringLiteral("ab")}), QString());
+    EXPECT_EQ(loss(QStringLiteral("\n"), {QStringLiteral("ab")}, {QStringLiteral("a"), QStringLiteral("b")}),
+              QString());
+    EXPECT_EQ(loss(QStringLiteral("\b"), {QStringLiteral("ab")}, {QStringLiteral("a")}), QString()) << "on purpose";
+}
+
 } // namespace

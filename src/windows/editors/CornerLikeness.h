@@ -3,6 +3,7 @@
 
 #include "document/C_Corner.h"
 #include "windows/editors/Likeness.h"
+#include "windows/editors/TypedText.h"
 
 /// A corner of the board in its editor: turned so that its diagonal stands upright and its text, which runs
 /// at 45 degrees on the board, reads level. Block 0 of the text is edited.
@@ -19,6 +20,7 @@ public:
     void SetImagePath(const QString& sFullPath) override { oCorner.Image.Let_FullPath(sFullPath); }
     /// Lines of any length.
     QString Joined(const QStringList& sTextLines) const override;
+    int MostInLine() const override { return TypedText::kAnyLength; }
 
     void LoadFromGame(const Game& game, int iIndex) override;
     void TakeBack(const Game& game) override;

@@ -61,7 +61,7 @@ bool EditWindow::EditPiece(int iIndex) {
 
 void EditWindow::Redraw() try {
     if (m_bLoading) return;
-    const Redrawing redrawing;
+    Redrawing redrawing;
     m_likeness.Redraw(*picDest, picScratch, m_selection);
     picDest->Refresh();
     txtBitmapPath->SetWholeText(m_likeness.Image().FullPath());

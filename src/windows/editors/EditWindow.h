@@ -60,6 +60,7 @@ protected:
     void cmdBitmap_Click();
 
     void KeepTyped(const QStringList& sTextLines) override;
+    int MostInLine() const override { return m_likeness.MostInLine(); }
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

@@ -49,6 +49,8 @@ public:
     virtual void SetImagePath(const QString& sFullPath) = 0;
     /// The lines as they are stored after typing.
     virtual QString Joined(const QStringList& sTextLines) const = 0;
+    /// Units of a line that are kept by it.
+    virtual int MostInLine() const = 0;
 
     /// Takes a copy of a game's record.
     virtual void LoadFromGame(const Game& game, int iIndex) = 0;

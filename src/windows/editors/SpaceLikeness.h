@@ -3,6 +3,7 @@
 
 #include "document/C_Space.h"
 #include "windows/editors/Likeness.h"
+#include "windows/editors/TypedText.h"
 
 /// A space of the board in its editor: upright, 174 by 300 pixels, a colour band with the price on top.
 class SpaceLikeness : public Likeness {
@@ -18,6 +19,7 @@ public:
     void SetImagePath(const QString& sFullPath) override { oSpace.SetImagePath(sFullPath); }
     /// Each line cut to its first 40 characters.
     QString Joined(const QStringList& sTextLines) const override;
+    int MostInLine() const override { return TypedText::kLongestLine; }
 
     void LoadFromGame(const Game& game, int iIndex) override;
     void TakeBack(const Game& game) override;

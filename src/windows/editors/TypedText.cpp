@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QKeySequence>
 
+#include <algorithm>
 #include <utility>
 
 using basEditTextArray::KeyResult;
@@ -15,7 +16,6 @@ namespace TypedText {
 namespace {
 
 constexpr QChar kTab = u'\t';
-constexpr int kLongestLine = 40;
 
 struct KeyCodeRow {
     int qtKey;
@@ -52,6 +52,20 @@ int KeyAsciiOf(char32_t character) {
     return IsControl(character) ? 0 : int(character);
 }
 
+// At the caret; a marked text makes room first.
+bool HasRoom(const QStringList& sTextLines, const TextSelection& selection, char32_t character, int iMostInLine) {
+    if (selection.HasText() || selection.m_iRow >= sTextLines.size()) return true;
+    const QString line = sTextLines[selection.m_iRow] + QString::fromUcs4(&character, 1);
+    return TextColumns::LeftCharacters(line, iMostInLine).size() == line.size();
+}
+
+qsizetype Characters(const QStringList& sTextLines) {
+    qsizetype count = 0;
+    for (const QString& line : sTextLines)
+        count += line.size();
+    return count;
+}
+
 } // namespace
 
 Key KeyOf(const QKeyEvent& event) {
@@ -74,14 +88,19 @@ KeyResult Apply(QStringList& sTextLines, TextSelection& selection, int iKeyCode)
                                          selection.m_iRowEnd);
 }
 
-KeyResult Feed(QStringList& sTextLines, TextSelection& selection, const QString& sText) {
+KeyResult Feed(QStringList& sTextLines, TextSelection& selection, const QString& sText, int iMostInLine) {
     QString text = sText;
     text.replace(QStringLiteral("\r\n"), QStringLiteral("\r"));
     KeyResult result = KeyResult::Nothing;
-    for (const char32_t character : text.toUcs4()) {
+    const auto characters = text.toUcs4();
+    for (const char32_t character : characters) {
         int iKeyAscii = KeyAsciiOf(character);
         if (iKeyAscii == 0) continue;
         const bool enter = iKeyAscii == basEditTextArray::vbKeyReturn;
+        const bool backspace = iKeyAscii == basEditTextArray::vbKeyBack;
+        const bool several = characters.size() > 1;
+        if (several && !enter && !backspace && !HasRoom(sTextLines, selection, char32_t(iKeyAscii), iMostInLine))
+            continue;
         const KeyResult one = basEditTextArray::ETA_KeyPress(sTextLines, iKeyAscii, selection.m_iCol, selection.m_iRow,
                                                              selection.m_iColEnd, selection.m_iRowEnd);
         result = std::max(result, one);
@@ -91,14 +110,41 @@ KeyResult Feed(QStringList& sTextLines, TextSelection& selection, const QString&
     return result;
 }
 
-KeyResult Take(const Key& key, QStringList& sTextLines, TextSelection& selection) {
+QString Entered(const Key& key) {
+    if (key.kind == Key::Kind::Press) return key.sText;
+    return key.kind == Key::Kind::Paste ? Clipboard::Text() : QString();
+}
+
+void KeepWithin(TextSelection& selection, const QStringList& sTextLines) {
+    if (!selection.IsOn() || sTextLines.isEmpty()) return;
+    const auto keep = [&sTextLines](qint16& iCol, qint16& iRow) {
+        iRow = qint16(std::min<qsizetype>(iRow, sTextLines.size() - 1));
+        iCol = qint16(std::min<qsizetype>(iCol, sTextLines[iRow].size()));
+    };
+    keep(selection.m_iCol, selection.m_iRow);
+    keep(selection.m_iColEnd, selection.m_iRowEnd);
+}
+
+QString Loss(const QString& sEntered, const QStringList& sBefore, const QStringList& sStored, int iMostInLine) {
+    QString letters = sEntered;
+    letters.removeIf([](QChar c) { return IsLineBreak(c.unicode()) || (IsControl(c.unicode()) && c != kTab); });
+    if (Characters(sStored) >= Characters(sBefore) + letters.size()) return {};
+    const auto isFull = [iMostInLine](const QString& line) { return line.size() >= iMostInLine; };
+    if (std::any_of(sStored.begin(), sStored.end(), isFull))
+        return QStringLiteral("Only %1 letters fit on a line.").arg(iMostInLine);
+    if (sStored.size() >= basEditTextArray::kMaxLines)
+        return QStringLiteral("Only %1 lines fit here.").arg(basEditTextArray::kMaxLines);
+    return {};
+}
+
+KeyResult Take(const Key& key, QStringList& sTextLines, TextSelection& selection, int iMostInLine) {
     switch (key.kind) {
         case Key::Kind::Down:
             return Apply(sTextLines, selection, key.iKeyCode);
         case Key::Kind::Press:
-            return Feed(sTextLines, selection, key.sText);
+            return Feed(sTextLines, selection, key.sText, iMostInLine);
         case Key::Kind::Paste:
-            return Feed(sTextLines, selection, Clipboard::Text());
+            return Feed(sTextLines, selection, Clipboard::Text(), iMostInLine);
         case Key::Kind::Copy:
         case Key::Kind::Cut:
             if (selection.HasText()) Clipboard::SetText(Selected(sTextLines, selection));

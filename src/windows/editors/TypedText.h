@@ -30,12 +30,29 @@ Key KeyOf(const QKeyEvent& event);
 /// Applies a key of kind Down.
 basEditTextArray::KeyResult Apply(QStringList& sTextLines, TextSelection& selection, int iKeyCode);
 
+/// Units that a line of most texts keeps when it is stored.
+constexpr int kLongestLine = 40;
+/// For lines that keep all; no more than a column can count to.
+constexpr int kAnyLength = 10000;
+
 /// Feeds characters one at a time. Any kind of line break is Enter; a tab becomes a blank; other control
-/// characters but Backspace are passed over. Stops at an Enter for which there is no room.
-basEditTextArray::KeyResult Feed(QStringList& sTextLines, TextSelection& selection, const QString& sText);
+/// characters but Backspace are passed over. Stops at an Enter for which there is no room. Of several characters
+/// those are left out that a line of iMostInLine units has no room for; one alone pushes another off the line's end.
+basEditTextArray::KeyResult Feed(QStringList& sTextLines, TextSelection& selection, const QString& sText,
+                                 int iMostInLine = kLongestLine);
 
 /// Does what a key asks for, Copy, Cut and Paste with the desktop's clipboard included.
-basEditTextArray::KeyResult Take(const Key& key, QStringList& sTextLines, TextSelection& selection);
+basEditTextArray::KeyResult Take(const Key& key, QStringList& sTextLines, TextSelection& selection,
+                                 int iMostInLine = kLongestLine);
+
+/// What a key or a paste would enter; empty for the others.
+QString Entered(const Key& key);
+
+/// Brings both ends back to where the lines end that were stored.
+void KeepWithin(TextSelection& selection, const QStringList& sTextLines);
+
+/// What to say when not all of a text came to stand in the lines; empty when it did.
+QString Loss(const QString& sEntered, const QStringList& sBefore, const QStringList& sStored, int iMostInLine);
 
 /// The lines as records keep them: each cut to its first 40 characters, joined with CR LF.
 QString Joined(const QStringList& sTextLines);

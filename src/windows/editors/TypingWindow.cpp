@@ -31,9 +31,9 @@ bool TypingWindow::TakesKey(const QKeyEvent& event) {
 }
 
 void TypingWindow::Form_KeyDown(const TypedText::Key& key) try {
-    const TextSelection before = m_selection;
     QStringList sTextLines = GetTextArray();
-    const KeyResult result = TypedText::Take(key, sTextLines, m_selection);
+    const Typed before{sTextLines, m_selection, TypedText::Entered(key)};
+    const KeyResult result = TypedText::Take(key, sTextLines, m_selection, MostInLine());
     StoreTyped(result, sTextLines, before);
 } catch (...) {
     ErrTop(m_sModule, "Form_KeyDown", key.iKeyCode, key.sText);
@@ -41,19 +41,32 @@ void TypingWindow::Form_KeyDown(const TypedText::Key& key) try {
 
 void TypingWindow::Form_KeyPress(const QString& sText) try {
     if (!m_selection.IsOn()) return;
-    const TextSelection before = m_selection;
     QStringList sTextLines = GetTextArray();
-    const KeyResult result = TypedText::Feed(sTextLines, m_selection, sText);
+    const Typed before{sTextLines, m_selection, sText};
+    const KeyResult result = TypedText::Feed(sTextLines, m_selection, sText, MostInLine());
     StoreTyped(result, sTextLines, before);
 } catch (...) {
     ErrTop(m_sModule, "Form_KeyPress", sText);
 }
 
-void TypingWindow::StoreTyped(KeyResult result, const QStringList& sTextLines, const TextSelection& before) {
+void TypingWindow::StoreTyped(KeyResult result, const QStringList& sTextLines, const Typed& before) {
+    // What a line had no room for is told though nothing came of it.
+    TellLoss({});
+    const bool changed = result == KeyResult::TextChanged;
     // A key that did nothing to the text may still have collapsed the selection.
-    if (result == KeyResult::Nothing && m_selection == before) return;
-    if (result == KeyResult::TextChanged) KeepTyped(sTextLines);
-    Redraw();
+    if (changed || !(m_selection == before.selection)) {
+        if (changed) KeepTyped(sTextLines);
+        TypedText::KeepWithin(m_selection, GetTextArray());
+        Redraw();
+    }
+    if (m_selection.IsOn() && !before.selection.HasText()) TellLoss(before);
+}
+
+// Below the picture, where it hides nothing that is being typed.
+void TypingWindow::TellLoss(const Typed& before) {
+    const QString sLoss = TypedText::Loss(before.sText, before.sTextLines, GetTextArray(), MostInLine());
+    const QRect picture(picDest->mapTo(this, QPoint(0, 0)), picDest->size());
+    m_tip->ShowUnder(sLoss, {picture.center().x(), picture.bottom()});
 }
 
 // Whoever comes by the keyboard finds the caret behind the text, as there is no click to place it.

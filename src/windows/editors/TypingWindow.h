@@ -27,6 +27,8 @@ protected:
 
     /// Stores the lines after typing and fits them; the window is redrawn next.
     virtual void KeepTyped(const QStringList& sTextLines) = 0;
+    /// Units of a line that are kept.
+    virtual int MostInLine() const { return TypedText::kLongestLine; }
 
     bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -49,7 +51,14 @@ private:
     bool TakesKey(const QKeyEvent& event);
     void Form_KeyDown(const TypedText::Key& key);
     void Form_KeyPress(const QString& sText);
-    void StoreTyped(basEditTextArray::KeyResult result, const QStringList& sTextLines, const TextSelection& before);
+    /// Of a text as it was, what was entered into it.
+    struct Typed {
+        QStringList sTextLines;
+        TextSelection selection;
+        QString sText;
+    };
+    void StoreTyped(basEditTextArray::KeyResult result, const QStringList& sTextLines, const Typed& before);
+    void TellLoss(const Typed& before);
     void HoldFocus_Tabbed();
     void HoldFocus_TabbedOut();
     void HoldFocus_Composing(const QString& sText);

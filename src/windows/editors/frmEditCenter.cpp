@@ -279,25 +279,31 @@ void frmEditCenter::Form_KeyDown(const TypedText::Key& key) {
 
 void frmEditCenter::Form_KeyPress(const QString& sCharacters) try {
     if (!m_selection.IsOn() || m_iTextArea == kNoArea) return;
-    QString text = sCharacters;
-    text.replace(kNewLine, QStringLiteral("\r"));
-    for (const char32_t character : text.toUcs4())
-        TypeCharacter(QString::fromUcs4(&character, 1));
+    const QString text = WhatMayBeTyped(sCharacters);
+    if (!sCharacters.isEmpty() && text.isEmpty()) return;
+    const QStringList linesBefore = LinesUnderEdit();
+    QStringList lines = linesBefore;
+    const TextSelection before = m_selection;
+    const KeyResult result = TypedText::Feed(lines, m_selection, text);
+    StoreTyped(result, lines, before);
+    if (before.HasText()) return;
+    const QRect area = m_area[size_t(m_iTextArea)];
+    const QString sLoss = TypedText::Loss(text, linesBefore, LinesUnderEdit(), TypedText::kLongestLine);
+    txtToolTip->ShowUnder(sLoss, {area.center().x(), area.bottom()});
 } catch (...) {
     ErrTop("frmEditCenter!", "Form_KeyPress", sCharacters);
 }
 
-void frmEditCenter::TypeCharacter(const QString& sCharacter) {
-    const bool enter = sCharacter == QStringLiteral("\r") || sCharacter == QStringLiteral("\n");
-    const bool backspace = sCharacter == QChar(basEditTextArray::vbKeyBack);
-    if (m_iTextArea == kGameName && enter) return;
-    QStringList lines = LinesUnderEdit();
-    // A text of ten lines takes no more characters, not even on a line that has room; kept on purpose.
-    const bool full = m_iTextArea != kGameName && m_titles.Text(m_iTextArea).iNLines >= basEditTextArray::kMaxLines;
-    if (full && !backspace) return;
-    const TextSelection before = m_selection;
-    const KeyResult result = TypedText::Feed(lines, m_selection, sCharacter);
-    StoreTyped(result, lines, before);
+// The game's name is one line. A text of ten lines takes no more characters, not even on a line that has room; kept
+// on purpose.
+QString frmEditCenter::WhatMayBeTyped(const QString& sCharacters) const {
+    QString text = sCharacters;
+    text.replace(kNewLine, QStringLiteral("\r")).replace(u'\n', u'\r');
+    if (text == QChar(basEditTextArray::vbKeyBack)) return text;
+    if (m_iTextArea == kGameName) return text.remove(u'\r');
+    const int room = basEditTextArray::kMaxLines - std::max(int(m_titles.Text(m_iTextArea).iNLines), 1);
+    if (room <= 0) return {};
+    return text.section(u'\r', 0, room - 1) + (text.count(u'\r') >= room ? QStringLiteral("\r") : QString());
 }
 
 void frmEditCenter::StoreTyped(KeyResult result, const QStringList& sTextLines, const TextSelection& before) {
@@ -307,6 +313,7 @@ void frmEditCenter::StoreTyped(KeyResult result, const QStringList& sTextLines, 
         basDraw::Draw_SetHdc(&picForm->hDC());
         basPosit::SetSpecialText(m_titles.Text(m_iTextArea), m_iTextArea, TypedText::Joined(sTextLines));
     }
+    TypedText::KeepWithin(m_selection, LinesUnderEdit());
     Redraw(m_iTextArea);
 }
 

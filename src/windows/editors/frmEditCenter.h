@@ -100,7 +100,7 @@ private:
     bool HandleTab(bool bBack);
     void EditBehindText(int iArea);
     void Form_KeyDown(const TypedText::Key& key);
-    void TypeCharacter(const QString& sCharacter);
+    QString WhatMayBeTyped(const QString& sCharacters) const;
     void StoreTyped(basEditTextArray::KeyResult result, const QStringList& sTextLines, const TextSelection& before);
     QStringList LinesUnderEdit() const;
 

@@ -92,7 +92,7 @@ void frmEditMoney::ShowImagePath() {
 }
 
 void frmEditMoney::RedrawMoney() try {
-    const Redrawing redrawing;
+    Redrawing redrawing;
     double dblDPI = 0;
     double dblRatio = 0;
     picNote->ScaleMode = ScaleModeKind::Pixels;

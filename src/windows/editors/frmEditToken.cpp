@@ -76,7 +76,7 @@ void frmEditToken::LoadFromGame() {
 
 void frmEditToken::Redraw() try {
     if (m_bLoading) return;
-    const Redrawing redrawing;
+    Redrawing redrawing;
     const C_Token::TextSelection selection{m_selection.m_iCol, m_selection.m_iRow, m_selection.m_iColEnd,
                                            m_selection.m_iRowEnd};
     // A record of its own: one whose picture is away, as on a stick, gives it up.

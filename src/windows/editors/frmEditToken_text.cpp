@@ -14,15 +14,9 @@ void frmEditToken::KeepTyped(const QStringList& sTextLines) {
     if (!EnterText(TypedText::Joined(sTextLines))) m_selection.Clear();
 }
 
-// True when the token shows the text now; false when it keeps its picture, without a text.
+// True when the token shows the text now; false when it keeps its picture, and everything else as it was.
 bool frmEditToken::EnterText(const QString& sText) {
-    if (HasImage()) {
-        const bool hasCharacter = !sText.trimmed().isEmpty();
-        if (!hasCharacter || !MayClearImage()) {
-            SetText(QString());
-            return false;
-        }
-    }
+    if (HasImage() && !MayClearImage()) return false;
     SetText(sText);
     return true;
 }
@@ -39,7 +33,8 @@ bool frmEditToken::MayClearImage() {
 }
 
 void frmEditToken::txtToken_Change() try {
-    EnterText(TypedText::Joined(txtToken->toPlainText().split(u'\n')));
+    // The box goes back with the text.
+    if (!EnterText(TypedText::Joined(txtToken->toPlainText().split(u'\n')))) SetText(m_oToken.TextAll());
     m_selection.Clear();
     Redraw();
 } catch (...) {

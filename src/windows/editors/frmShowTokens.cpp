@@ -129,7 +129,7 @@ void frmShowTokens::Form_Resize() try {
 }
 
 void frmShowTokens::Zoom() try {
-    const Redrawing redrawing;
+    Redrawing redrawing;
     for (int i = 0; i < basTAVL::kTokens; ++i)
         DrawToken(i);
     redrawing.ShowMessages();
