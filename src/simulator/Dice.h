@@ -24,10 +24,10 @@ public:
 private:
     // Steps by the golden ratio and scrambles: neighbouring seeds give unlike rows of numbers.
     std::uint64_t Next() {
-        m_state += 0x9E3779B97F4A7C15U;
+        m_state += 0x9E3779B97F4A7C15;
         std::uint64_t bits = m_state;
-        bits = (bits ^ (bits >> 30)) * 0xBF58476D1CE4E5B9U;
-        bits = (bits ^ (bits >> 27)) * 0x94D049BB133111EBU;
+        bits = (bits ^ (bits >> 30)) * 0xBF58476D1CE4E5B9;
+        bits = (bits ^ (bits >> 27)) * 0x94D049BB133111EB;
         return bits ^ (bits >> 31);
     }
 

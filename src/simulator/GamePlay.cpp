@@ -43,19 +43,20 @@ void GamePlay::TakeTurn(int seat) {
     Market::Improve(m_table, seat);
     if (m_table.KindOf(seat).proposesTrades) Market::TryTrade(m_table, seat);
     int doubles = 0;
-    bool again = true;
-    while (again) {
+    while (!m_table.IsOver()) {
         const int first = m_dice.Die();
         const int second = m_dice.Die();
-        ++m_table.record.turns;
-        doubles = first == second ? doubles + 1 : 0;
-        if (doubles == m_table.set.rules.mostDoubles) {
-            GoToLoseTurn(seat);
-            return;
-        }
-        const After after = MoveBy(seat, first, second);
-        again = !m_table.IsOver() && after != After::TurnEnds && (after == After::OnceMore || first == second);
+        if (Throw(seat, first, second, doubles) != After::OnceMore) return;
     }
+}
+
+GamePlay::After GamePlay::Throw(int seat, int first, int second, int& doubles) {
+    ++m_table.record.turns;
+    const bool isDouble = first == second;
+    doubles = isDouble ? doubles + 1 : 0;
+    if (doubles == m_table.set.rules.mostDoubles) return GoToLoseTurn(seat);
+    const After after = MoveBy(seat, first, second);
+    return isDouble && after == After::TurnIsOver ? After::OnceMore : after;
 }
 
 GamePlay::After GamePlay::MoveBy(int seat, int first, int second) {

@@ -18,7 +18,10 @@ public:
 
     /// A turn with all its throws.
     void TakeTurn(int seat);
+    /// The turn is over unless a double was thrown; or another throw follows anyway; or none whatever was thrown.
     enum class After { TurnIsOver, OnceMore, TurnEnds };
+    /// One throw of a turn, behind so many doubles in a row.
+    After Throw(int seat, int first, int second, int& doubles);
     /// The token goes ahead by both dice and does what it finds there.
     After MoveBy(int seat, int first, int second);
     After Land(int seat, int rolled);

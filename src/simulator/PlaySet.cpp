@@ -6,11 +6,11 @@ namespace {
 
 class Mixer {
 public:
-    void Add(int value) { m_bits = (m_bits ^ std::uint32_t(value)) * 0x100000001B3U; }
+    void Add(int value) { m_bits = (m_bits ^ std::uint32_t(value)) * 0x100000001B3; }
     QString Text() const { return QStringLiteral("%1").arg(m_bits, 16, 16, QLatin1Char('0')); }
 
 private:
-    std::uint64_t m_bits = 0xCBF29CE484222325U;
+    std::uint64_t m_bits = 0xCBF29CE484222325;
 };
 
 void AddRules(Mixer& mixer, const HouseRules& rules) {

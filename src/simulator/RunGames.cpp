@@ -20,7 +20,7 @@ Tally RunSome(const PlaySet& set, const Plan& plan, int first, int end) {
 
 std::uint64_t SeedOf(const Plan& plan, int game) {
     // Far enough apart that no two games of a run share a seed.
-    return plan.seed * 1000000007U + std::uint64_t(plan.players) * 100000000U + std::uint64_t(game);
+    return plan.seed * 1000000007 + std::uint64_t(plan.players) * 100000000 + std::uint64_t(game);
 }
 
 std::vector<int> KindsOf(const Plan& plan, int game) {

@@ -65,6 +65,18 @@ TEST_F(CashTest, SingleDeedsAreMortgagedBeforeGroupsAndStoriesAreSoldLast) {
     EXPECT_EQ(AllMoney(table), set.rules.MoneyFor(3));
 }
 
+TEST_F(CashTest, SecondStoriesAreSoldFirst) {
+    GiveDeeds(table, 0, {4, 5, 6});
+    for (const int space : {4, 5, 6, 6})
+        Cash::BuyStory(table, space);
+    SetMoney(table, 0, 0);
+    Cash::Raise(table, 0, 100);
+    EXPECT_EQ(table.stories[4], 1);
+    EXPECT_EQ(table.stories[5], 1);
+    EXPECT_EQ(table.stories[6], 1);
+    EXPECT_EQ(table.record.spent[6], 2 * 200 - 100);
+}
+
 TEST_F(CashTest, WhoCanPayPaysToTheDollar) {
     EXPECT_TRUE(Cash::Pay(table, 0, 1, 8000));
     EXPECT_EQ(Money(table, 0), 0);

@@ -139,6 +139,8 @@ TEST_F(GamePlayTest, CardsMoveTokens) {
     game.DoNews(0, {Kind::ToSpace, 0, 0, 22}, 7);
     EXPECT_EQ(table.At(0).place, PlaceOfSpace(22));
     EXPECT_EQ(Money(table, 0), 10000) << "the start doesn't lie between";
+    game.DoNews(0, {Kind::ToSpace, 0, 0, 22}, 7);
+    EXPECT_EQ(Money(table, 0), 11000) << "from there it is once round";
     EXPECT_EQ(game.DoNews(0, {Kind::ToLoseTurn}, 7), GamePlay::After::TurnEnds);
     EXPECT_EQ(game.DoNews(0, {Kind::AgainNow}, 7), GamePlay::After::OnceMore);
 }
@@ -160,8 +162,30 @@ TEST_F(GamePlayTest, OwedToTwoAtOnceEndsWithTheOneWhoCouldNotBePaid) {
     EXPECT_EQ(Money(table, 2), 8200);
 }
 
-TEST_F(GamePlayTest, DoublesGoOnAndTheThirdLosesATurn) {
-    // The turn of a seed whose dice begin with three doubles, and of one with one double.
+TEST_F(GamePlayTest, DoublesInARowAreCounted) {
+    int doubles = 0;
+    EXPECT_EQ(game.Throw(0, 1, 1, doubles), GamePlay::After::OnceMore);
+    EXPECT_EQ(game.Throw(0, 2, 2, doubles), GamePlay::After::OnceMore);
+    EXPECT_EQ(doubles, 2);
+    EXPECT_EQ(game.Throw(0, 1, 2, doubles), GamePlay::After::TurnIsOver);
+    EXPECT_EQ(doubles, 0) << "not in a row any more";
+    EXPECT_EQ(game.Throw(0, 1, 1, doubles), GamePlay::After::OnceMore);
+    EXPECT_EQ(game.Throw(0, 1, 1, doubles), GamePlay::After::OnceMore);
+    const int place = table.At(0).place;
+    EXPECT_EQ(game.Throw(0, 6, 6, doubles), GamePlay::After::TurnEnds);
+    EXPECT_EQ(table.At(0).place, PlaceOfCorner(1)) << "and not twelve on from " << place;
+    EXPECT_TRUE(table.At(0).missesNextTurn);
+    EXPECT_EQ(table.record.turns, 6);
+}
+
+TEST_F(GamePlayTest, DoubleOntoTheCornerWhereATurnIsLostEndsTheTurn) {
+    int doubles = 0;
+    PutOn(0, PlaceOfCorner(1) - 4);
+    EXPECT_EQ(game.Throw(0, 2, 2, doubles), GamePlay::After::TurnEnds);
+    EXPECT_TRUE(table.At(0).missesNextTurn);
+}
+
+TEST_F(GamePlayTest, ThirdDoubleOfATurnIsItsLastThrow) {
     bool sawThird = false;
     for (std::uint64_t seed = 0; seed < 3000 && !sawThird; ++seed) {
         GamePlay other(set, {kSaver, kSaver}, seed);

@@ -97,6 +97,27 @@ TEST_F(MarketTest, DeedsAreExchangedWhereBothCompleteAGroup) {
     EXPECT_EQ(AllMoney(table), money);
 }
 
+TEST_F(MarketTest, MoneyEvensOutWhatBothGainByTheirOwnReckoning) {
+    Table table(set, {kTrader, kSaver});
+    GiveDeeds(table, 0, {4, 5});
+    GiveDeeds(table, 1, {6});
+    Market::TryTrade(table, 0);
+    // The trader has 2,000 and 450 for a group that is nearly whole, and would have 3,000 and 2,400: gains 2,950. The
+    // saver loses a deed of 1,000, and half of the 1,200 that a whole group is worth to it. Half of 4,550, in hundreds.
+    EXPECT_EQ(table.At(0).deeds, Spaces({4, 5, 6}));
+    EXPECT_EQ(Money(table, 0), 8000 - 2200);
+    EXPECT_EQ(Money(table, 1), 8100 + 2200);
+}
+
+TEST_F(MarketTest, NobodyTradesWhatTheyCannotAfford) {
+    Table table(set, {kTrader, kSaver});
+    GiveDeeds(table, 0, {4, 5});
+    GiveDeeds(table, 1, {6});
+    SetMoney(table, 0, 2200);
+    Market::TryTrade(table, 0);
+    EXPECT_EQ(table.record.trades, 0) << "a trader keeps 250";
+}
+
 TEST_F(MarketTest, DeedOfAGroupWithStoriesIsNotTraded) {
     Table table(set, {kTrader, kBuilder});
     GiveDeeds(table, 0, {4});

@@ -36,9 +36,10 @@ TEST_F(PlayCommandTest, ReportTellsTheSeedAndAllTablesOfBothKits) {
     ASSERT_EQ(Play({QStringLiteral("--seed=17")}), PlayCommand::kDone) << errors.toStdString();
     EXPECT_EQ(errors, QString());
     EXPECT_EQ(out.count(QStringLiteral("60 games for each number of players, seed 17,")), 2);
-    for (const char* words : {"## Kit \"8\": Rents_US.dat", "## Kit \"5\": older/Rents_US.dat",
-                              "### How long a game lasts", "### Who wins", "### The groups", "### Lotto and money",
-                              "| Chestnut Street to Elder Street |", "| Pump House, Power Plant |", "\n| 6 |"})
+    for (const char* words :
+         {"## Kit \"8\": Rents_US.dat", "## Kit \"5\": older/Rents_US.dat", "### How long a game lasts", "### Who wins",
+          "### The groups", "### Lotto and money", "| Players | seat 1 | seat 2 | seat 3 | seat 4 | seat 5 | seat 6 |",
+          "| Chestnut Street to Elder Street |", "| Pump House, Power Plant |", "\n| 6 |"})
         EXPECT_TRUE(out.contains(QString::fromLatin1(words))) << words;
     EXPECT_FALSE(out.contains(QStringLiteral(".svg")));
 }
