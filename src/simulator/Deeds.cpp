@@ -43,7 +43,7 @@ int Deeds::RentWithoutStories(int space, int ownedOfGroup, bool wholeSide) const
 int Deeds::RentOf(int space, SpaceSet owned, int stories) const {
     const Deed& deed = (*this)[space];
     const bool wholeSide = (owned & Side(deed.side)) == Side(deed.side);
-    if (stories > 0) return deed.rent[std::size_t(1 + stories)] * (wholeSide ? 2 : 1);
+    if (stories > 0) return deed.rent[std::size_t(stories) + 1] * (wholeSide ? 2 : 1);
     return RentWithoutStories(space, std::popcount(owned & Group(deed.group)), wholeSide);
 }
 
