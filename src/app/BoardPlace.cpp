@@ -2,7 +2,10 @@
 #include "app/BoardPlace.h"
 
 #include "board/basPosit.h"
+#include "check/GamePiece.h"
 #include "platform/text/Numbers.h"
+
+#include <QPolygonF>
 
 #include <array>
 
@@ -69,6 +72,54 @@ constexpr CenterWords kCenterWords[] = {
 };
 
 } // namespace
+
+BoardPlace BoardPlace::Of(const GamePiece& piece) {
+    BoardPlace place;
+    switch (piece.kind) {
+        case GamePiece::Kind::Titles:
+            place.m_bOverTitles = true;
+            break;
+        case GamePiece::Kind::Space:
+            place.m_iOverSpace = piece.iNumber;
+            break;
+        case GamePiece::Kind::Corner:
+            place.m_iOverCorner = piece.iNumber;
+            break;
+        case GamePiece::Kind::Deck:
+        case GamePiece::Kind::Card:
+            (piece.iDeck == 0 ? place.m_bOverGoodNews : place.m_bOverBadNews) = true;
+            break;
+        case GamePiece::Kind::Money:
+            place.m_bOverMoney = true;
+            break;
+        case GamePiece::Kind::Token:
+            place.m_bOverTokens = true;
+            break;
+        case GamePiece::Kind::Game:
+            break;
+    }
+    return place;
+}
+
+QRectF BoardPlace::Box() const {
+    const auto boxOf = [](const basPosit::BoardRect& rect) {
+        return QRectF(QPointF(double(rect.x1), double(rect.y1)), QPointF(double(rect.x2), double(rect.y2)))
+            .normalized();
+    };
+    if (m_iOverSpace >= 0) return boxOf(basPosit::m_SpaceRect(m_iOverSpace, basPosit::SpacePart::Whole));
+    if (m_iOverCorner >= 0) {
+        QPolygonF outline;
+        for (const basPosit::BoardPoint& point : basPosit::m_CornerPoly(m_iOverCorner))
+            outline.append(QPointF(double(point.x), double(point.y)));
+        return outline.boundingRect();
+    }
+    if (m_bOverTitles) return boxOf(basPosit::m_CenterRect(basPosit::kTitleBox));
+    if (m_bOverGoodNews) return boxOf(basPosit::m_CenterRect(basPosit::kGoodNewsBox));
+    if (m_bOverBadNews) return boxOf(basPosit::m_CenterRect(basPosit::kBadNewsBox));
+    if (m_bOverMoney) return boxOf(basPosit::m_CenterRect(basPosit::kMoneyBox));
+    if (m_bOverTokens) return boxOf(basPosit::m_CenterRect(basPosit::kTokensBox));
+    return {};
+}
 
 bool BoardPlace::IsEditable() const { return IsSomething() && WhyNotEditable(*this).isEmpty(); }
 

@@ -2,8 +2,11 @@
 #pragma once
 
 #include <QPoint>
+#include <QRectF>
 #include <QSize>
 #include <QString>
+
+struct GamePiece;
 
 /// What lies under a point of the board. Everything on the board is a door to an editor.
 struct BoardPlace {
@@ -15,6 +18,11 @@ struct BoardPlace {
     bool m_bOverBadNews = false;
     bool m_bOverMoney = false;
     bool m_bOverTokens = false;
+
+    /// Where a piece lies; nowhere for the game as a whole.
+    static BoardPlace Of(const GamePiece& piece);
+    /// Its box, in fractions of the board; empty for nowhere.
+    QRectF Box() const;
 
     bool IsSomething() const { return *this != BoardPlace{}; }
     /// The two lotto spaces, the two news spaces and the corner of fate belong to the kit.

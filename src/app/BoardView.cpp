@@ -16,6 +16,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QRubberBand>
 #include <QScrollBar>
 #include <QWheelEvent>
 
@@ -32,12 +33,15 @@ constexpr int kWheelNotch = 120;
 constexpr int kStepsPerNotch = 3;
 constexpr int kStepsPerPage = 10;
 constexpr int kPicturesInterval = 40;
+// How long a place stays framed.
+constexpr int kFrameMs = 2000;
 
 } // namespace
 
 BoardView::BoardView(QWidget& parent, ToolTips& tips, Window window)
     : m_tips(tips), m_window(std::move(window)), picBoard(new PictureBox(&parent)),
-      hscrl(MakeBar(parent, "hscrl", Qt::Horizontal)), vscrl(MakeBar(parent, "vscrl", Qt::Vertical)) {
+      hscrl(MakeBar(parent, "hscrl", Qt::Horizontal)), vscrl(MakeBar(parent, "vscrl", Qt::Vertical)),
+      m_frame(new QRubberBand(QRubberBand::Rectangle, picBoard)) {
     picBoard->setObjectName(QStringLiteral("picBoard"));
     picBoard->setFocusPolicy(Qt::StrongFocus);
     picBoard->setAccessibleName(QStringLiteral("Game board"));
@@ -49,6 +53,9 @@ BoardView::BoardView(QWidget& parent, ToolTips& tips, Window window)
     connect(vscrl, &QScrollBar::valueChanged, this, &BoardView::vscrl_Change);
     TimerPictures.setObjectName(QStringLiteral("TimerPictures"));
     connect(&TimerPictures, &QTimer::timeout, this, &BoardView::TimerPictures_Timer);
+    m_frame->setObjectName(QStringLiteral("frmShownPlace"));
+    TimerFrame.setSingleShot(true);
+    connect(&TimerFrame, &QTimer::timeout, m_frame, &QRubberBand::hide);
 }
 
 QScrollBar* BoardView::MakeBar(QWidget& parent, const char* sName, Qt::Orientation orientation) {
@@ -107,6 +114,26 @@ void BoardView::vscrl_Change() try {
 void BoardView::ScrollBy(int iSteps, Qt::Orientation orientation, bool bPages) {
     QScrollBar& bar = orientation == Qt::Horizontal ? *hscrl : *vscrl;
     bar.setValue(bar.value() + iSteps * (bPages ? bar.pageStep() : bar.singleStep()));
+}
+
+void BoardView::ShowPlace(const BoardPlace& place) {
+    const QRectF box = place.Box();
+    m_frame->hide();
+    if (box.isEmpty()) return;
+    const double side = picBoard->width() * double(m_fZoom);
+    if (m_fZoom > 1) {
+        const double hidden = side - picBoard->width();
+        const auto middleTo = [&](QScrollBar& bar, double middle) {
+            bar.setValue(int(std::lround((middle * side - picBoard->width() / 2.0) / hidden * kScrollMax)));
+        };
+        middleTo(*hscrl, box.center().x());
+        middleTo(*vscrl, box.center().y());
+    }
+    const QRectF seen(box.topLeft() * side, box.size() * side);
+    const QPointF offset(basPosit::GetOffsetX(), basPosit::GetOffsetY());
+    m_frame->setGeometry(seen.translated(offset).toAlignedRect());
+    m_frame->show();
+    TimerFrame.start(kFrameMs);
 }
 
 void BoardView::ZoomAtMouse(int iZoom, QPointF position) {

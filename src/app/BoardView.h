@@ -11,6 +11,7 @@
 
 class PictureBox;
 class QKeyEvent;
+class QRubberBand;
 class QScrollBar;
 class QWheelEvent;
 class QWidget;
@@ -54,6 +55,9 @@ public:
     bool IsOverChanged() const { return m_bOverChanged; }
     bool IsOverSomething() const { return m_bOverSomething; }
 
+    /// Scrolls a zoomed board to the place, and frames it for a moment.
+    void ShowPlace(const BoardPlace& place);
+
     /// Scrolls a zoomed board by the keyboard; false for any other key.
     bool TakesKey(const QKeyEvent& event);
     /// Scrolls, or with Ctrl zooms.
@@ -83,7 +87,9 @@ private:
     PictureBox* picBoard;
     QScrollBar* hscrl;
     QScrollBar* vscrl;
+    QRubberBand* m_frame;
     QTimer TimerPictures;
+    QTimer TimerFrame;
 
     float m_fZoom = 1.0F;
     /// While true, Redraw returns at once.

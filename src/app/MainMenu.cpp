@@ -46,6 +46,8 @@ constexpr Item kFileItems[] = {
 constexpr Item kEditItems[] = {
     {0, "&Undo", "Ctrl+Z", CanUndo, UndoCaption},
     {1, "&Redo", "Ctrl+Shift+Z; Ctrl+Y", CanRedo, RedoCaption},
+    {2, "-", "", Never},
+    {3, "&Check My Game", "F7", Always},
 };
 constexpr Item kZoomItems[] = {
     {0, "&1X", "Ctrl+1", Always},

@@ -5,6 +5,7 @@
 #include "app/frmAbout.h"
 #include "app/frmPrintManual.h"
 #include "app/RecentGames.h"
+#include "check/GamePiece.h"
 #include "document/basTAVL.h"
 #include "game/SampleGames.h"
 #include "platform/paint/Units.h"
@@ -12,6 +13,7 @@
 #include "services/basPath.h"
 #include "windowing/PictureBox.h"
 #include "windowing/WidgetLook.h"
+#include "windows/check/frmCheck.h"
 #include "windows/print/ChangePrinter.h"
 
 #include <QApplication>
@@ -261,8 +263,10 @@ void frmTAVL::mnuFile_Click(int Index) try {
 void frmTAVL::mnuEdit_Click(int Index) {
     if (Index == 0) {
         m_commands.Undo();
-    } else {
+    } else if (Index == 1) {
         m_commands.Redo();
+    } else {
+        CheckGameInHand();
     }
 }
 
@@ -341,6 +345,18 @@ void frmTAVL::Print() {
         return;
     }
     m_bPrintedSomething = m_doors.Print(*this);
+}
+
+void frmTAVL::CheckGameInHand() {
+    if (!m_check) {
+        const frmCheck::Doors doors{
+            .show = [this](const GamePiece& piece) { m_view.ShowPlace(BoardPlace::Of(piece)); },
+            .open = [this](const GamePiece& piece) { OpenPlace(BoardPlace::Of(piece)); },
+            .isBusy = std::bind_front(&frmTAVL::IsInPrint, this),
+        };
+        m_check = new frmCheck(m_commands.InHand(), doors, this);
+    }
+    m_check->ShowForm();
 }
 
 void frmTAVL::PrinterSetup() { ChangePrinter(dlgCommon, m_bPrintedSomething); }

@@ -13,11 +13,13 @@
 #include "services/Desktop.h"
 
 #include <QMainWindow>
+#include <QPointer>
 
 #include <array>
 
 class EditorRoutes;
 class frmAbout;
+class frmCheck;
 class QPushButton;
 
 /// The main window, and the program's start: loading it starts the program, unloading it ends it. Builds what
@@ -99,6 +101,8 @@ private:
 
     void OpenPlace(const BoardPlace& place);
     void Choose(Menu menu, int Index);
+    /// Opens the list of what there is to mend.
+    void CheckGameInHand();
     void PrinterSetup();
     void Print();
     void ExitWithQuestion();
@@ -117,6 +121,7 @@ private:
     std::array<QPushButton*, MainLayout::kButtons> cmd{};
     CommonDialog dlgCommon;
     std::unique_ptr<frmAbout> m_about;
+    QPointer<frmCheck> m_check;
 
     bool bInPrint = false;
     bool m_bPrintedSomething = false;

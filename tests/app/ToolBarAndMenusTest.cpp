@@ -182,6 +182,7 @@ TEST_F(ToolBarAndMenusTest, MenusCarryTheirCaptionsAndShortcuts) {
         {"mnuEdit", "&Edit", "", true},
         {"mnuEdit_0", "&Undo", "Ctrl+Z", false},
         {"mnuEdit_1", "&Redo", "Ctrl+Shift+Z", false},
+        {"mnuEdit_3", "&Check My Game", "F7", true},
         {"mnuTop_1", "&View", "", true},
         {"mnuView_0", "&Zoom...", "", true},
         {"mnuZoom_0", "&1X", "Ctrl+1", true},
