@@ -259,7 +259,8 @@ QSizeF Sheet::NeededInches(Kit kit) const {
 
 QString Sheet::WhyLeftOut(Kit kit) const {
     if (paint && (otherKits == OtherKits::Same || HasLabelSheets(kit))) return {};
-    return QStringLiteral("The label sheets of this kit are not part of this build.");
+    return QStringLiteral("The label sheets of this kit are not part of this build. Kit \"8\" has all of its sheets; "
+                          "its labels are printed on white label paper.");
 }
 
 bool Sheet::Prepare(SheetJob& job) const { return !prepare || prepare(job, iWhich); }

@@ -167,7 +167,8 @@ Each of them takes a packed game (GAME.tavlora) in place of GAME.gam.
 Options:
   --paper letter|a4     paper of the PDF (default letter)
   --dpi N               dots an inch of the PDF (default 600)
-  --variant 8|5|2A|2    the boxed kit to print for, whatever the settings say
+  --variant 8|5|2A|2    the boxed kit to print for, whatever the settings say; 5, 2A and 2 come
+                        without their label sheets
   --small-pictures      --pack puts pictures in only as large as paper shows them
   --data DIR            take the program's own data files (rents, rules, pictures) from DIR
   --check               beside -o, --board, --pieces or --pack: warns of what would come out badly on paper

@@ -270,12 +270,7 @@ bool PrintCommand::WritePieces(const QString& sFolder) {
 }
 
 bool PrintCommand::PrintOneSheet(Printer& printer, const Sheet& sheet, const QString& sTold) {
-    const Kit kit = KitInUse();
-    if (const QString why = sheet.WhyLeftOut(kit); !why.isEmpty()) {
-        Complain(why);
-        return false;
-    }
-    printer.SetOrientation(sheet.OrientationOf(kit));
+    printer.SetOrientation(sheet.OrientationOf(KitInUse()));
     SheetJob job{printer, [this, sTold](int iThousandths) { Progress(sTold, iThousandths); }};
     if (!sheet.Prepare(job)) return false;
     if (!sheet.Print(job)) {
@@ -287,7 +282,23 @@ bool PrintCommand::PrintOneSheet(Printer& printer, const Sheet& sheet, const QSt
     return true;
 }
 
-int PrintCommand::PrintSheetsOf(const PrintArguments& arguments, const QStringList& sheets) {
+QStringList PrintCommand::WithoutLeftOut(const QStringList& sheets) {
+    QStringList printed;
+    QStringList leftOut;
+    QString why;
+    for (const QString& name : sheets) {
+        const QString reason = FindSheet(name)->WhyLeftOut(KitInUse());
+        (reason.isEmpty() ? printed : leftOut).append(name);
+        if (!reason.isEmpty()) why = reason;
+    }
+    if (!leftOut.isEmpty())
+        Complain(why + QStringLiteral(" Left out: ") + leftOut.join(QStringLiteral(", ")) + QStringLiteral("."));
+    return printed;
+}
+
+int PrintCommand::PrintSheetsOf(const PrintArguments& arguments, const QStringList& asked) {
+    const QStringList sheets = WithoutLeftOut(asked);
+    if (sheets.isEmpty()) return kFailed;
     PdfPrinter printer(arguments.sOutput, TitleOf(arguments.sGame), PaperOf(arguments), arguments.iDpi);
     int number = 0;
     for (const QString& name : sheets) {
@@ -301,7 +312,7 @@ int PrintCommand::PrintSheetsOf(const PrintArguments& arguments, const QStringLi
     }
     EndProgress();
     QString error;
-    if (printer.Close(error)) return kDone;
+    if (printer.Close(error)) return sheets.size() == asked.size() ? kDone : kFailed;
     Complain(QStringLiteral("'%1' could not be written: %2").arg(arguments.sOutput, error));
     return kFailed;
 }

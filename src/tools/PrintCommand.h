@@ -37,7 +37,9 @@ private:
     void WarnOfInHand(const PrintArguments& arguments);
     /// A page of the printer's; sTold is shown with its progress. False when it isn't whole, which has then been told.
     bool PrintOneSheet(Printer& printer, const Sheet& sheet, const QString& sTold);
-    int PrintSheetsOf(const PrintArguments& arguments, const QStringList& sheets);
+    int PrintSheetsOf(const PrintArguments& arguments, const QStringList& asked);
+    /// Those of the sheets that this build prints for the kit; names the others in one line.
+    QStringList WithoutLeftOut(const QStringList& sheets);
     /// The board as a PNG file of so many pixels square.
     bool PaintBoard(const QString& sPath, int lSize);
     /// Every made picture into a folder, which is made if need be.

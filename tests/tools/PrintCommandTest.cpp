@@ -57,6 +57,9 @@ protected:
         process.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), pdfFile, QStringLiteral("-")});
         return process.waitForFinished() ? QString::fromUtf8(process.readAllStandardOutput()) : QString();
     }
+    const QString kLabelsLeftOut = QStringLiteral(
+        "tavlora-print: The label sheets of this kit are not part of this build. Kit \"8\" has all of its sheets; its "
+        "labels are printed on white label paper. Left out: ");
     const QString kData = QStringLiteral(TAVLORA_DATA_DIR);
     const QString kFamily = kData + QStringLiteral("/Family_US.gam");
     QString game;
@@ -218,9 +221,20 @@ TEST_F(PrintCommandTest, ColoursOfTheStickersAreThoseOfTheKitAndTheSettings) {
 
 TEST_F(PrintCommandTest, LabelSheetsOfOlderKitsAreRefusedPlainly) {
     EXPECT_EQ(PrintKit({QStringLiteral("--variant=2"), QStringLiteral("--sheet=west")}), 1);
-    EXPECT_EQ(errors,
-              QStringList{QStringLiteral("tavlora-print: The label sheets of this kit are not part of this build.")});
+    EXPECT_EQ(errors, QStringList{kLabelsLeftOut + QStringLiteral("west.")});
     EXPECT_TRUE(OutFolder().isEmpty());
+}
+
+TEST_F(PrintCommandTest, AnOlderKitIsPrintedWithoutTheSheetsThatThisBuildLacks) {
+    if (!PdfReader::IsInstalled()) GTEST_SKIP() << "poppler's tools are not installed";
+    for (const char* variant : {"2", "2A", "5"}) {
+        EXPECT_EQ(PrintKit({QStringLiteral("--variant"), QString::fromLatin1(variant)}), 1) << variant;
+        EXPECT_EQ(errors, QStringList{kLabelsLeftOut + QStringLiteral("box, west, east.")}) << variant;
+        const PdfReader reader(pdf);
+        EXPECT_EQ(reader.Pages(), int(Sheets().size()) - 3) << variant;
+        EXPECT_FALSE(reader.BoxesOf(reader.Pages(), QStringLiteral("How to play")).isEmpty()) << variant;
+        QFile::remove(pdf);
+    }
 }
 
 TEST_F(PrintCommandTest, OldOutputIsReplacedOnlyByACompleteOne) {
@@ -416,6 +430,7 @@ TEST_F(PrintCommandTest, ListHasALineForEachSheetOfTheKit) {
 TEST_F(PrintCommandTest, HelpAndVersionGoToStandardOutput) {
     EXPECT_EQ(Run({QStringLiteral("--help")}), 0);
     EXPECT_TRUE(out.contains(QStringLiteral("--variant")));
+    EXPECT_TRUE(out.contains(QStringLiteral("without their label sheets"))) << "what older kits lack";
     EXPECT_EQ(Run({QStringLiteral("--version")}), 0);
     EXPECT_EQ(out, QStringLiteral("tavlora-print 8.0.0\n"));
 }

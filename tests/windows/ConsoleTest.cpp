@@ -8,6 +8,10 @@
 
 namespace {
 
+const QString kLabelsLeftOut = QStringLiteral(
+    "The label sheets of this kit are not part of this build. Kit \"8\" has all of its sheets; its labels "
+    "are printed on white label paper.");
+
 constexpr int kBox = 0;
 constexpr int kObsolete = 2;
 constexpr int kGoodNews = 5;
@@ -408,8 +412,7 @@ TEST_F(ConsoleTest, LabelSheetsOfOtherKitsAreToldToBeMissing) {
         for (const int index : {0, 1, 3, 4}) {
             desktop.boxes.clear();
             ClickSheet(index); // no paper is asked for
-            EXPECT_EQ(desktop.Texts(),
-                      QStringList{QStringLiteral("The label sheets of this kit are not part of this build.")});
+            EXPECT_EQ(desktop.Texts(), QStringList{kLabelsLeftOut});
         }
     }
     EXPECT_TRUE(printer.ended.isEmpty());
@@ -421,8 +424,7 @@ TEST_F(ConsoleTest, AnUnknownKitIsToldUnderWhichNamesTheProgramPrints) {
         ClickSheet(index);
     const QString told = QStringLiteral("This program only prints if the EXE name is set to 'Tavlora2.exe' or "
                                         "'Tavlora2a.exe' or 'Tavlora4.exe'");
-    const QString left = QStringLiteral("The label sheets of this kit are not part of this build.");
-    EXPECT_EQ(desktop.Texts(), (QStringList{told, told, left}));
+    EXPECT_EQ(desktop.Texts(), (QStringList{told, told, kLabelsLeftOut}));
     EXPECT_TRUE(printer.ended.isEmpty());
 }
 
