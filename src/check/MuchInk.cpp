@@ -9,6 +9,8 @@
 
 namespace {
 
+// What a page of US Letter shows inside margins of a quarter inch.
+constexpr QSizeF kPage(8.0, 10.5);
 constexpr double kMuch = 0.4;
 // Photos are taken as half dark, half light.
 constexpr double kInkOfPhoto = 0.5;
@@ -67,7 +69,7 @@ double InkOfBoardSheet(const CheckedGame& game, int iSide) {
 
 void Look(Findings& findings, const char* sSheet, double ink) {
     const Sheet& sheet = *FindSheet(QString::fromLatin1(sSheet));
-    const double part = ink / AreaOf(sheet.neededInches);
+    const double part = ink / AreaOf(kPage);
     if (part <= kMuch) return;
     findings.Add(GamePiece::Whole(),
                  QStringLiteral("The sheet %1 takes much ink: about %2 % of it is covered.")

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "check/Checks.h"
-#include "kit/ConsoleSheets.h"
+#include "kit/Sheets.h"
 
 namespace {
 
@@ -23,7 +23,7 @@ void RunCheck<class PaperSmall>(const CheckedGame& game, Findings& findings) {
     for (const Sheet& sheet : Sheets()) {
         if (!sheet.WhyLeftOut(kit).isEmpty()) continue;
         const QSizeF printable = InOrientation(*game.options.printableInches, sheet.OrientationOf(kit));
-        if (!ConsoleSheets::Holds(printable, sheet.NeededInches(kit))) tooLarge.append(sheet.Title(kit));
+        if (!sheet.WhatIsLostOn(printable, kit).isEmpty()) tooLarge.append(sheet.Title(kit));
     }
     if (tooLarge.isEmpty()) return;
     findings.Add(GamePiece::Whole(),

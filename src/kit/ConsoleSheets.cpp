@@ -12,8 +12,6 @@ namespace ConsoleSheets {
 namespace {
 
 constexpr double kBytesPerMegabyte = 1'048'576;
-// What the width of a hair may lack.
-constexpr double kToleranceInches = 0.02;
 
 constexpr FrameWords kFrames[] = {
     {"Printer &Main Menu", "What would you like to print?",
@@ -77,24 +75,19 @@ QString LittleDiskMessage(double dblFree, int iMegabytes) {
            QStringLiteral(" MB free disk space to print Tavlora.\r\nPlease free up some disk space and try again.");
 }
 
-bool Holds(const Printer& printer, QSizeF needed) { return Holds(printer.PrintableInches(), needed); }
-
-bool Holds(QSizeF printable, QSizeF needed) {
-    const QSizeF lacking = needed - printable;
-    return lacking.width() <= kToleranceInches && lacking.height() <= kToleranceInches;
-}
-
 QString NoPrinterMessage(const Printer& printer) {
     return QStringLiteral("The printer '%1' doesn't answer. Please see that it is switched on and connected, then "
                           "print again.\r\n\r\nClick 'OK' to print nevertheless.")
         .arg(printer.DeviceName());
 }
 
-QString SmallPageMessage(const Printer& printer, QSizeF needed) {
-    return QStringLiteral("The printer '%1' prints on only %2 inches of its paper. This sheet needs %3 inches, so "
-                          "its edges would be missing.\r\n\r\nPlease choose US Letter paper or smaller margins in "
-                          "the printer's settings. Click 'OK' to print nevertheless.")
-        .arg(printer.DeviceName(), Inches(printer.PrintableInches()), Inches(needed));
+QString SmallPageMessage(const Printer& printer, const Sheet& sheet, Kit kit) {
+    const QString lost = sheet.WhatIsLostOn(printer.PrintableInches(), kit);
+    if (lost.isEmpty()) return {};
+    return QStringLiteral("The printer '%1' prints on only %2 inches of its paper. %3\r\n\r\n'Change Printer' chooses "
+                          "other paper, smaller margins or another printer: click 'Cancel' for that, or 'OK' to print "
+                          "nevertheless.")
+        .arg(printer.DeviceName(), Inches(printer.PrintableInches()), lost);
 }
 
 QString PdfMessage(const QString& sPath) {

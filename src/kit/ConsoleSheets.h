@@ -45,14 +45,11 @@ QString WhyNotPrinted(const Sheet& sheet, Kit kit);
 QString DoneMark(const QString& sAnswer);
 
 QString LittleDiskMessage(double dblFree, int iMegabytes);
-/// Whether the printer's page, in the orientation that holds, has room for so many inches.
-bool Holds(const Printer& printer, QSizeF needed);
-/// Whether so many printable inches are enough.
-bool Holds(QSizeF printable, QSizeF needed);
 /// The question whether to print on a printer that doesn't answer.
 QString NoPrinterMessage(const Printer& printer);
-/// The question whether to print on a printer whose page doesn't hold the sheet.
-QString SmallPageMessage(const Printer& printer, QSizeF needed);
+/// The question whether to print on a printer whose page, in the orientation that holds, doesn't hold the sheet; empty
+/// when it does.
+QString SmallPageMessage(const Printer& printer, const Sheet& sheet, Kit kit);
 /// Tells where a PDF file is, and how it has to be printed.
 QString PdfMessage(const QString& sPath);
 /// What a sheet lacks: its first pieces, a line each, and how many more there are.

@@ -2,6 +2,8 @@
 // The table of the sheets. To add one, see CONTRIBUTING.
 #include "kit/Sheets.h"
 
+#include "platform/text/Numbers.h"
+
 #include <algorithm>
 
 namespace {
@@ -36,8 +38,14 @@ constexpr Sheet::ByKit<PageOrientation> kLengthwiseInKit8{PageOrientation::Lands
 
 constexpr Sheet::ByKit<const char*> InAllKits(const char* sCaption) { return {sCaption, sCaption}; }
 
-constexpr QSizeF kWholePage(8.0, 10.5);
-constexpr QSizeF kWholePageLengthwise(10.5, 8.0);
+// Where a page of nothing, or of what nobody prints, ends.
+constexpr Sheet::Ends kNoEnds{{0, ""}, {0, ""}};
+constexpr Sheet::Ends kEndsOfDeeds{{7.75, "right-hand column of deeds"}, {10.375, "lowest row of deeds"}};
+constexpr Sheet::Ends kEndsOfNews{{6.275, "right-hand column of cards"}, {9.995, "lowest row of cards"}};
+constexpr Sheet::Ends kEndsOfMoney{{7.8, "right-hand column of notes"}, {10.125, "lowest row of notes"}};
+
+// What the width of a hair may lack.
+constexpr double kToleranceInches = 0.02;
 
 // What is printed for a button that prints nothing: the page that the console then ends stays empty.
 bool PrintNothing(SheetJob&, int) { return true; }
@@ -52,7 +60,7 @@ constexpr Sheet kSheets[] = {
      .caption = {"&Box Top && Token Stickers", "&Green  Box && Board Labels #1"},
      .paper = {{kLabelPaper, kGreenLabels}},
      .orientation = kLengthwiseInKit8,
-     .neededInches = kWholePageLengthwise,
+     .ends = {{10.0, "right-hand column of subtitles"}, {7.96, "line of words at the foot"}},
      .otherKits = OtherKits::LeftOutOrNameless,
      .paint = PaintSheet<class BoxSheet>},
     {.iButton = 1,
@@ -61,7 +69,7 @@ constexpr Sheet kSheets[] = {
      .caption = {"&West, South && Corner Board Stickers", "Green Game &Board Labels #2"},
      .paper = {{kLabelPaper, kGreenLabels}},
      .orientation = kLengthwiseInKit8,
-     .neededInches = kWholePageLengthwise,
+     .ends = {{9.98, "right-hand column of stickers"}, {7.975, "row of corner stickers"}},
      .otherKits = OtherKits::LeftOut,
      .paint = PaintSheet<class BoardSheet>},
     {.iButton = 3,
@@ -70,7 +78,7 @@ constexpr Sheet kSheets[] = {
      .caption = {"&East, North && Title Board Stickers", "Game  Box &Red Sheet"},
      .paper = {{kLabelPaper, kRedLabels}},
      .orientation = kLengthwise,
-     .neededInches = kWholePageLengthwise,
+     .ends = {{9.98, "right-hand column of stickers"}, {7.72, "caption of the subtitle"}},
      .otherKits = OtherKits::LeftOutOrNameless,
      .iWhich = 1,
      .paint = PaintSheet<class BoardSheet>},
@@ -81,7 +89,7 @@ constexpr Sheet kSheets[] = {
      .sToolTip = "Click to begin printing Deed Card Sheet #1",
      .paper = {{kWhiteCard, kNotUsed}},
      .orientation = kUpright,
-     .neededInches = kWholePage,
+     .ends = kEndsOfDeeds,
      .otherKits = OtherKits::Same,
      .iWhich = 1,
      .paint = PaintSheet<class DeedSheet>},
@@ -92,7 +100,7 @@ constexpr Sheet kSheets[] = {
      .sToolTip = "Click to begin printing Deed Card Sheet #2",
      .paper = {{kWhiteCard, kNotUsed}},
      .orientation = kUpright,
-     .neededInches = kWholePage,
+     .ends = kEndsOfDeeds,
      .otherKits = OtherKits::Same,
      .iWhich = 2,
      .paint = PaintSheet<class DeedSheet>},
@@ -102,7 +110,7 @@ constexpr Sheet kSheets[] = {
      .caption = InAllKits("&Good News Cards"),
      .paper = {{kColoredCard, kPinkCard}},
      .orientation = kUpright,
-     .neededInches = kWholePage,
+     .ends = kEndsOfNews,
      .otherKits = OtherKits::Same,
      .paint = PaintSheet<class NewsSheet>},
     {.iButton = 6,
@@ -111,7 +119,7 @@ constexpr Sheet kSheets[] = {
      .caption = InAllKits("&Bad News Cards"),
      .paper = {{kColoredCard, kGreenCard}},
      .orientation = kUpright,
-     .neededInches = kWholePage,
+     .ends = kEndsOfNews,
      .otherKits = OtherKits::Same,
      .iWhich = 1,
      .paint = PaintSheet<class NewsSheet>},
@@ -121,7 +129,7 @@ constexpr Sheet kSheets[] = {
      .caption = InAllKits("$ &100"),
      .paper = {{kWhitePaper, kPinkPaper}},
      .orientation = kUpright,
-     .neededInches = kWholePage,
+     .ends = kEndsOfMoney,
      .otherKits = OtherKits::Same,
      .bMoney = true,
      .prepare = PrepareSheet<class MoneySheet>,
@@ -132,7 +140,7 @@ constexpr Sheet kSheets[] = {
      .caption = InAllKits("$ &500"),
      .paper = {{kWhitePaper, kBluePaper}},
      .orientation = kUpright,
-     .neededInches = kWholePage,
+     .ends = kEndsOfMoney,
      .otherKits = OtherKits::Same,
      .bMoney = true,
      .iWhich = 1,
@@ -144,7 +152,7 @@ constexpr Sheet kSheets[] = {
      .caption = InAllKits("$ 1,00&0"),
      .paper = {{kWhitePaper, kGreenPaper}},
      .orientation = kUpright,
-     .neededInches = kWholePage,
+     .ends = kEndsOfMoney,
      .otherKits = OtherKits::Same,
      .bMoney = true,
      .iWhich = 2,
@@ -156,7 +164,7 @@ constexpr Sheet kSheets[] = {
      .caption = InAllKits("$ 5&,000"),
      .paper = {{kWhitePaper, kMustardPaper}},
      .orientation = kUpright,
-     .neededInches = kWholePage,
+     .ends = kEndsOfMoney,
      .otherKits = OtherKits::Same,
      .bMoney = true,
      .iWhich = 3,
@@ -169,7 +177,7 @@ constexpr Sheet kSheets[] = {
      .sToolTip = "Once you have created your game, this gives you the rules for playing it.",
      .paper = {{kWhitePaper, kWhitePaper}},
      .orientation = kUpright,
-     .neededInches = kWholePage,
+     .ends = {{7.0, "right-hand column of the rules"}, {10.3, "last line of the rules"}},
      .otherKits = OtherKits::Same,
      .paint = PaintSheet<class RulesSheet>},
 };
@@ -181,7 +189,7 @@ constexpr Sheet kButtonsWithoutSheet[] = {
      .caption = InAllKits("Game Box &Light Green Sheet"),
      .paper = {{kObsolete, kObsolete}},
      .orientation = kLengthwiseInKit8,
-     .neededInches = kWholePageLengthwise,
+     .ends = kNoEnds,
      .otherKits = OtherKits::Same,
      .paint = PrintNothing},
     {.iButton = 4,
@@ -191,7 +199,7 @@ constexpr Sheet kButtonsWithoutSheet[] = {
      .sToolTip = "Click to print Deel Card Lable Sheet",
      .paper = {{kUnasked, kWhiteLabels}},
      .orientation = kUpright,
-     .neededInches = kWholePage,
+     .ends = kNoEnds,
      .otherKits = OtherKits::LeftOut,
      .paint = nullptr},
     // The one index that no paper is asked for. It never had a button.
@@ -201,7 +209,7 @@ constexpr Sheet kButtonsWithoutSheet[] = {
      .caption = InAllKits(""),
      .paper = std::nullopt,
      .orientation = kUpright,
-     .neededInches = kWholePage,
+     .ends = kNoEnds,
      .otherKits = OtherKits::Same,
      .paint = PrintNothing},
 };
@@ -254,7 +262,24 @@ PageOrientation Sheet::OrientationOf(Kit kit) const {
 }
 
 QSizeF Sheet::NeededInches(Kit kit) const {
-    return OrientationOf(kit) == orientation.kit8 ? neededInches : neededInches.transposed();
+    const QSizeF needed(ends.right.inches, ends.bottom.inches);
+    return OrientationOf(kit) == orientation.kit8 ? needed : needed.transposed();
+}
+
+QString Sheet::WhatIsLostOn(QSizeF printable, Kit kit) const {
+    constexpr double kMillimetresPerInch = 25.4;
+    if (OrientationOf(kit) != orientation.kit8) printable.transpose();
+    QStringList lost;
+    const auto look = [&lost](const End& end, double inches) {
+        if (end.inches - inches <= kToleranceInches) return;
+        const int millimetres = std::max(CLng((end.inches - inches) * kMillimetresPerInch), 1);
+        lost.append(QStringLiteral("the %1 would lose %2 mm").arg(QString::fromLatin1(end.sPieces)).arg(millimetres));
+    };
+    look(ends.right, printable.width());
+    look(ends.bottom, printable.height());
+    QString told = lost.join(QStringLiteral(", and "));
+    if (!told.isEmpty()) told[0] = told[0].toUpper();
+    return told.isEmpty() ? told : told + QStringLiteral(".");
 }
 
 QString Sheet::WhyLeftOut(Kit kit) const {

@@ -44,6 +44,16 @@ struct Sheet {
         Paper coloured;
     };
 
+    /// How far its ink goes from the printable origin, in inches, and which of its pieces end there.
+    struct End {
+        double inches;
+        const char* sPieces;
+    };
+    struct Ends {
+        End right;
+        End bottom;
+    };
+
     /// Index of its button: the 3 of "cmdPrint_3".
     int iButton;
     /// Its word on the command line; empty for a button that this build prints nothing for.
@@ -56,8 +66,8 @@ struct Sheet {
     /// Nothing: no paper is asked for.
     std::optional<ByStock> paper;
     ByKit<PageOrientation> orientation;
-    /// Width and height that it needs on its page, in kit "8"'s orientation.
-    QSizeF neededInches;
+    /// On its page in kit "8"'s orientation.
+    Ends ends;
     OtherKits otherKits;
     /// Banknotes: in copies, with more room on the disk.
     bool bMoney = false;
@@ -76,6 +86,9 @@ struct Sheet {
     std::optional<QString> Prompt(Kit kit) const;
     PageOrientation OrientationOf(Kit kit) const;
     QSizeF NeededInches(Kit kit) const;
+    /// "The lowest row of deeds would lose 2 mm.": what a page of so many inches, in its orientation for the kit, cuts
+    /// off. Empty when the page holds it.
+    QString WhatIsLostOn(QSizeF printable, Kit kit) const;
     /// Why this build doesn't print it for a kit; empty when it does.
     QString WhyLeftOut(Kit kit) const;
 

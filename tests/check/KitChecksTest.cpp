@@ -93,7 +93,8 @@ TEST_F(CheckTest, PaperThatIsTooSmallIsTold) {
     options.printableInches = QSizeF(7.9, 11.0);
     ExpectOnly("paper-small", GamePiece::Whole());
     const QString text = Of("paper-small")[0].sText;
-    EXPECT_TRUE(text.contains(QStringLiteral("Good News Cards"))) << text.toStdString();
+    EXPECT_TRUE(text.contains(QStringLiteral("West, South & Corner Board Stickers"))) << text.toStdString();
+    EXPECT_FALSE(text.contains(QStringLiteral("News"))) << "the cards end well within: " << text.toStdString();
 }
 
 // Twelve cards of 3 by 1.62 inches on 8 by 10.5.

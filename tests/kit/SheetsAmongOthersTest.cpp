@@ -105,3 +105,26 @@ TEST_F(SheetsAmongOthersTest, TheDisorderlySheetIsSeenWhereNothingIsSetAfresh) {
     EXPECT_EQ(page.ScaleMode, ScaleModeKind::Twips);
     EXPECT_EQ(page.FontSize(), PicturePrinter(kDotsPerInch).FontSize());
 }
+
+// A warning of a page that is too small is true only as long as the rows say where the ink ends.
+TEST_F(SheetsAmongOthersTest, TheInkOfASheetEndsWhereItsRowSays) {
+    if (!PdfReader::IsInstalled()) GTEST_SKIP() << "poppler's tools are not installed";
+    PrintInto(pdf, Sheets());
+    int page = 0;
+    for (const Sheet& sheet : Sheets()) {
+        constexpr double kWithin = 0.012;
+        ++page;
+        const QRectF ink = reader.InkBox(page, QRectF(QPointF(-0.25, -0.25), reader.PaperInches(page)));
+        if (sheet.bMoney || qstrcmp(sheet.sName, "rules") == 0) {
+            // The rim of a note may be white, and every game has its own names in the rules.
+            constexpr double kWhite = 0.25;
+            EXPECT_LE(ink.right(), sheet.ends.right.inches + kWithin) << sheet.sName;
+            EXPECT_GT(ink.right(), sheet.ends.right.inches - kWhite) << sheet.sName;
+            EXPECT_LE(ink.bottom(), sheet.ends.bottom.inches + kWithin) << sheet.sName;
+            EXPECT_GT(ink.bottom(), sheet.ends.bottom.inches - kWhite) << sheet.sName;
+            continue;
+        }
+        EXPECT_NEAR(ink.right(), sheet.ends.right.inches, kWithin) << sheet.sName;
+        EXPECT_NEAR(ink.bottom(), sheet.ends.bottom.inches, kWithin) << sheet.sName;
+    }
+}

@@ -41,6 +41,7 @@ QStringList LackingIn(const Sheet& sheet) {
     for (const Kit kit : kKits) {
         want(!Mnemonic(sheet.Caption(kit)).isNull(), "a caption with one mnemonic");
         const QSizeF needed = sheet.NeededInches(kit);
+        want(*sheet.ends.right.sPieces && *sheet.ends.bottom.sPieces, "names of the pieces at its ends");
         const bool upright = sheet.OrientationOf(kit) == PageOrientation::Portrait;
         const QSizeF most = upright ? kMostInches : kMostInches.transposed();
         want(!needed.isEmpty() && needed.boundedTo(most) == needed, "inches that a page has");
@@ -69,9 +70,9 @@ TEST_F(SheetsTest, TheCheckFindsWhatARowLacks) {
     sheet.frame.reset();
     sheet.caption.others = "&Two &mnemonics";
     sheet.paper.reset();
-    sheet.neededInches = QSizeF(8.5, 11);
+    sheet.ends = {{8.5, "notes"}, {11, ""}};
     sheet.paint = nullptr;
-    EXPECT_EQ(LackingIn(sheet).size(), 6);
+    EXPECT_EQ(LackingIn(sheet).size(), 7);
 }
 
 TEST_F(SheetsTest, NoTwoRowsShareANameAButtonOrAMnemonicOfTheirFrame) {
@@ -120,9 +121,24 @@ TEST_F(SheetsTest, CaptionsCarryMnemonicsAndTitlesNone) {
 
 TEST_F(SheetsTest, WhatIsNeededTurnsWithThePageOfTheKit) {
     const Sheet& box = *FindSheet(QStringLiteral("box"));
-    EXPECT_EQ(box.NeededInches(Kit::Eight), QSizeF(10.5, 8.0));
-    EXPECT_EQ(box.NeededInches(Kit::Two), QSizeF(8.0, 10.5));
-    EXPECT_EQ(FindSheet(QStringLiteral("east"))->NeededInches(Kit::Two), QSizeF(10.5, 8.0));
+    EXPECT_EQ(box.NeededInches(Kit::Eight), QSizeF(10.0, 7.96));
+    EXPECT_EQ(box.NeededInches(Kit::Two), QSizeF(7.96, 10.0));
+    EXPECT_EQ(FindSheet(QStringLiteral("east"))->NeededInches(Kit::Two), QSizeF(9.98, 7.72));
+}
+
+TEST_F(SheetsTest, WhatAPageCutsOffIsToldByPieceAndOnlyThen) {
+    const auto lost = [](const char* name, QSizeF printable, Kit kit = Kit::Eight) {
+        return FindSheet(QString::fromLatin1(name))->WhatIsLostOn(printable, kit);
+    };
+    EXPECT_EQ(lost("deeds1", {8.0, 10.0}), QStringLiteral("The lowest row of deeds would lose 10 mm."));
+    EXPECT_EQ(lost("deeds2", {7.5, 10.375}), QStringLiteral("The right-hand column of deeds would lose 6 mm."));
+    EXPECT_EQ(lost("good", {6.0, 9.0}), QStringLiteral("The right-hand column of cards would lose 7 mm, and the lowest "
+                                                       "row of cards would lose 25 mm."));
+    EXPECT_EQ(lost("west", {11.35, 7.93}), QStringLiteral("The row of corner stickers would lose 1 mm."));
+    EXPECT_EQ(lost("west", {7.93, 11.35}, Kit::Two), QStringLiteral("The row of corner stickers would lose 1 mm."));
+    for (const char* fits : {"deeds1", "deeds2", "good", "bad", "money100", "money5000", "rules"})
+        EXPECT_EQ(lost(fits, {7.93, 11.35}), QString()) << fits << " on A4 with margins of 12 points";
+    EXPECT_EQ(lost("east", {11.35, 7.93}), QString());
 }
 
 TEST_F(SheetsTest, WhatThisBuildCannotPrintIsSaidPlainly) {

@@ -379,20 +379,36 @@ TEST_F(ConsoleTest, AFileThatCannotBeWrittenIsTold) {
 TEST_F(ConsoleTest, APageSmallerThanTheSheetIsAskedAboutOnce) {
     printer.printable = QSizeF(8.0, 10.0);
     desktop.answers = {vbCancel, vbOK};
-    Print(kRules);
+    Print(kDeeds1);
     EXPECT_TRUE(printer.ended.isEmpty());
-    ASSERT_EQ(desktop.boxes.size(), 1);
-    EXPECT_TRUE(desktop.boxes[0].sText.startsWith(
-        QStringLiteral("The printer 'Laser' prints on only 8.00 by 10.00 inches of its paper. This sheet needs 8.00 by "
-                       "10.50 inches")))
-        << qPrintable(desktop.boxes[0].sText);
+    EXPECT_EQ(desktop.Texts(),
+              QStringList{QStringLiteral("The printer 'Laser' prints on only 8.00 by 10.00 inches of its paper. The "
+                                         "lowest row of deeds would lose 10 mm.\r\n\r\n'Change Printer' chooses other "
+                                         "paper, smaller margins or another printer: click 'Cancel' for that, or 'OK' "
+                                         "to print nevertheless.")});
     EXPECT_EQ(desktop.boxes[0].iStyle, vbOKCancel | vbExclamation);
-    Print(kRules);
-    Print(kRules);
+    Print(kDeeds1);
+    Print(kDeeds1);
     EXPECT_EQ(printer.ended.size(), 2);
     EXPECT_EQ(desktop.boxes.size(), 2) << "accepted once";
+    Print(kGoodNews);
+    EXPECT_EQ(desktop.boxes.size(), 2) << "the page has room for the cards";
     Print(kBox);
     EXPECT_EQ(desktop.boxes.size(), 3) << "another orientation, another page";
+}
+
+TEST_F(ConsoleTest, AnotherPrinterMayBeChosenAfterTheWarningOfASmallPage) {
+    printer.printable = QSizeF(8.0, 10.0);
+    desktop.answers = {vbCancel};
+    desktop.onDialog = [this](CommonDialog&) {
+        printer.printable = QSizeF(8.0, 10.5);
+        return true;
+    };
+    Print(kDeeds1);
+    Click(*console, "cmdChangePrinter");
+    Print(kDeeds1);
+    EXPECT_EQ(desktop.boxes.size(), 1);
+    EXPECT_EQ(printer.ended.size(), 1);
 }
 
 // ---- Other kits.

@@ -176,7 +176,7 @@ bool frmTavlPrint::RunJob(const Sheet& sheet, const QString& sDone) {
     lblSheet->SetWholeText(sheet.Title(kit));
     lblPiece->SetWholeText(QString());
     printer.SetOrientation(sheet.OrientationOf(kit));
-    if (!AcceptsPrinter(printer) || !AcceptsPage(printer, sheet.NeededInches(kit))) return true;
+    if (!AcceptsPrinter(printer) || !AcceptsPage(printer, sheet)) return true;
     Screen::SetMousePointer(Screen::MousePointer::HourGlass);
     const double dblFree = basAPI::FreeSpaceOnDisk(QStringLiteral("C:\\"));
     if (dblFree < ConsoleSheets::kLeastFree) {
@@ -197,12 +197,12 @@ bool frmTavlPrint::AcceptsPrinter(const Printer& printer) {
     return MsgBox(ConsoleSheets::NoPrinterMessage(printer), vbOKCancel | vbExclamation) == vbOK;
 }
 
-bool frmTavlPrint::AcceptsPage(const Printer& printer, QSizeF needed) {
-    if (printer.DeviceName().isEmpty() || ConsoleSheets::Holds(printer, needed)) return true;
-    const QString question = ConsoleSheets::SmallPageMessage(printer, needed);
-    if (question == m_sAcceptedPage) return true;
+bool frmTavlPrint::AcceptsPage(const Printer& printer, const Sheet& sheet) {
+    if (printer.DeviceName().isEmpty()) return true;
+    const QString question = ConsoleSheets::SmallPageMessage(printer, sheet, KitInUse());
+    if (question.isEmpty() || m_acceptedPages.contains(question)) return true;
     if (MsgBox(question, vbOKCancel | vbExclamation) != vbOK) return false;
-    m_sAcceptedPage = question;
+    m_acceptedPages.append(question);
     return true;
 }
 

@@ -82,7 +82,7 @@ private:
     /// False when the console has to stay as it is, hourglass and all.
     bool RunJob(const Sheet& sheet, const QString& sDone);
     static bool AcceptsPrinter(const Printer& printer);
-    bool AcceptsPage(const Printer& printer, QSizeF needed);
+    bool AcceptsPage(const Printer& printer, const Sheet& sheet);
     bool PrintCopies(SheetJob& job, const Sheet& sheet, double dblFree, const QString& sDone);
     void MarkDone(const Sheet& sheet, const QString& sDone);
     void CloseDocument(Printer& printer);
@@ -120,8 +120,8 @@ private:
     /// Number of the button whose sheet has failed; the guard stays until it is tried again.
     std::optional<int> m_stoppedAt;
     bool m_bNagged = false;
-    /// The page that the user has accepted as too small.
-    QString m_sAcceptedPage;
+    /// Questions about a page that is too small for a sheet, and was accepted.
+    QStringList m_acceptedPages;
     QString m_sWrittenPdf;
     QString m_sFailure;
 };
