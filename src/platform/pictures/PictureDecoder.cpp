@@ -2,6 +2,7 @@
 #include "platform/pictures/PictureDecoder.h"
 
 #include "platform/paint/Resample.h"
+#include "platform/pictures/DecodingRoom.h"
 #include "platform/pictures/Metafile.h"
 #include "platform/pictures/PictureFormat.h"
 
@@ -11,6 +12,7 @@
 #include <QPainter>
 
 #include <mutex>
+#include <optional>
 
 namespace PictureDecoder {
 namespace {
@@ -38,8 +40,8 @@ QString TooLarge(QSize size) {
         .arg(size.height());
 }
 
-// One of the toolkit's readers.
-QImage Read(const QByteArray& bytes, PictureFormat format, QString& sError) {
+// One of the toolkit's readers. The room that the picture takes is left to the caller.
+QImage Read(const QByteArray& bytes, PictureFormat format, std::optional<DecodingRoom>& room, QString& sError) {
     static std::once_flag limit;
     std::call_once(limit, [] { QImageReader::setAllocationLimit(int(kMaxPictureBytes >> 20)); });
     if ((format == PictureFormat::Bmp && !IsBmpWhole(bytes)) || (format == PictureFormat::Gif && !IsGifWhole(bytes))) {
@@ -57,13 +59,16 @@ QImage Read(const QByteArray& bytes, PictureFormat format, QString& sError) {
         sError = TooLarge(size);
         return {};
     }
+    room.emplace(size.isValid() ? size : QSize(1, 1));
     QImage image = reader.read();
     if (image.isNull()) sError = reader.errorString();
     return image;
 }
 
-QImage AsPixels(const QImage& image) {
-    return image.convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
+// In place where the pixels are of 32 bits already: a second copy of a large photograph is a lot of memory.
+QImage AsPixels(QImage image) {
+    image.convertTo(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
+    return image;
 }
 
 // Keeps no more pixels than will be drawn; formats without a fast reduced decoding come whole.
@@ -131,13 +136,14 @@ Picture Decode(const QByteArray& bytes, int longerSideWanted, QString& sError) {
         default:
             break;
     }
-    const QImage image = Read(bytes, format, sError);
+    std::optional<DecodingRoom> room;
+    QImage image = Read(bytes, format, room, sError);
     if (image.isNull()) return {};
     if (!IsSizeAllowed(image.size())) {
         sError = TooLarge(image.size());
         return {};
     }
-    return Reduced(InScreenColors(AsPixels(image), {}), longerSideWanted);
+    return Reduced(InScreenColors(AsPixels(std::move(image)), {}), longerSideWanted);
 }
 
 } // namespace PictureDecoder

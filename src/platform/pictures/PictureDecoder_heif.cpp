@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "platform/pictures/DecodingRoom.h"
 #include "platform/pictures/HeifLibrary.h"
 #include "platform/pictures/PictureDecoder.h"
 #include "platform/pictures/PictureFormat.h"
@@ -50,6 +51,7 @@ Picture DecodeHeif(QByteArrayView bytes, QString& sError) {
                      .arg(told.height());
         return {};
     }
+    const DecodingRoom room(told);
     heif_image* rawImage = nullptr;
     if (Failed(heif.decode_image(rawHandle, &rawImage, heif_colorspace_RGB, heif_chroma_interleaved_RGBA, nullptr),
                sError))

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "platform/pictures/DecodingRoom.h"
 #include "platform/pictures/JpegMarkers.h"
 #include "platform/pictures/PictureDecoder.h"
 #include "platform/pictures/PictureFormat.h"
@@ -75,7 +76,9 @@ Picture DecodeJpeg(const QByteArray& bytes, int longerSideWanted, QString& sErro
         return {};
     }
     const tjscalingfactor factor{1, ReductionFor(std::max(head.width, head.height), longerSideWanted)};
-    QImage image(TJSCALED(head.width, factor), TJSCALED(head.height, factor), QImage::Format_RGB32);
+    const QSize size(TJSCALED(head.width, factor), TJSCALED(head.height, factor));
+    const DecodingRoom room(size);
+    QImage image(size, QImage::Format_RGB32);
     if (image.isNull()) {
         sError = QStringLiteral("There is not enough memory for the picture");
         return {};
