@@ -6,6 +6,7 @@
 #include "game/GameFile.h"
 #include "game/PrintCaptions.h"
 #include "game/Rescue.h"
+#include "pictures/ThumbnailStore.h"
 #include "platform/files/Files.h"
 #include "platform/files/Folders.h"
 #include "platform/paint/FontFiles.h"
@@ -13,6 +14,9 @@
 #include "services/basErrLog.h"
 #include "services/basMsgQueue.h"
 #include "services/ProgramSettings.h"
+
+#include <chrono>
+#include <thread>
 
 namespace GameFile {
 namespace {
@@ -49,8 +53,23 @@ void SetBlankNotes(Game& game) {
     }
 }
 
+using Clock = std::chrono::steady_clock;
+
+// How long a load waits for photographs to be decoded.
+constexpr std::chrono::milliseconds kPatience{150};
+
+// A photograph that isn't decoded by then is made small when it is wanted: the window doesn't stand still for it.
+bool IsReady(const C_Image& image, Clock::time_point until) {
+    while (!ThumbnailStore::Instance().Prefetch(image.Owned())) {
+        if (Clock::now() > until) return false;
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
+    return true;
+}
+
 // A picture that can't be made small is told by its image, or lies in the log; the game loads all the same.
-void FetchThumbnail(const C_Image& image) {
+void FetchThumbnail(const C_Image& image, Clock::time_point until) {
+    if (!IsReady(image, until)) return;
     try {
         image.GetThumbnail(false);
     } catch (const TavloraError& error) {
@@ -73,19 +92,27 @@ public:
             m_game.corners[i].Image.TellIfMissing(m_before.corners[i].Image);
         if (WasRead(GameLines::kNews - 1)) SetSideNames();
         if (WasRead(GameLines::kMoney - 1)) SetBlankNotes(m_game);
+        StartDecoding();
+        const Clock::time_point until = Clock::now() + kPatience;
         for (size_t i = 0; i < m_game.money.size(); ++i) {
             m_game.money[i].FaceImage.TellIfMissing(m_before.money[i].FaceImage);
-            if (WasRead(GameLines::kMoney + int(i))) FetchThumbnail(m_game.money[i].FaceImage);
+            if (WasRead(GameLines::kMoney + int(i))) FetchThumbnail(m_game.money[i].FaceImage, until);
         }
         for (size_t i = 0; i < m_game.tokens.size(); ++i) {
             m_game.tokens[i].Image.TellIfMissing(m_before.tokens[i].Image);
-            if (WasRead(GameLines::kTokens + int(i))) FetchThumbnail(m_game.tokens[i].Image);
+            if (WasRead(GameLines::kTokens + int(i))) FetchThumbnail(m_game.tokens[i].Image, until);
         }
     }
 
 private:
     bool WasRead(int iLine) const { return iLine < m_lines; }
 
+    void StartDecoding() const {
+        for (const C_Money& note : m_game.money)
+            ThumbnailStore::Instance().Prefetch(note.FaceImage.Owned());
+        for (const C_Token& token : m_game.tokens)
+            ThumbnailStore::Instance().Prefetch(token.Image.Owned());
+    }
     static void SetSideNames() {
         for (int i = 0; i < basTAVL::kSides; ++i)
             basPosit::SetSideText(i, QString::fromLatin1(Locale::kSideNames[size_t(i)]));

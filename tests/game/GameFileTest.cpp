@@ -3,6 +3,7 @@
 
 #include "pictures/ThumbnailStore.h"
 #include "platform/files/Files.h"
+#include "platform/pictures/LoadPicture.h"
 #include "services/basMsgQueue.h"
 
 namespace {
@@ -375,7 +376,33 @@ private:
     }
 };
 
+void DecodeForThumbnails(const QString& sPath) {
+    QString error;
+    LoadPicture(sPath, error, ThumbnailStore::LongerSideOf(PictureOwner::Kind::Token));
+}
+
+TEST_F(LoadTest, ALoadDoesNotWaitForAPhotographThatTakesLongToDecode) {
+    // Unfolds to 400 MB, on another processor.
+    QImage large(10000, 10000, QImage::Format_Grayscale8);
+    large.fill(200);
+    const QString path = InGames(QStringLiteral("large.png"));
+    ASSERT_TRUE(large.save(path));
+    QStringList lines = PlainLines();
+    lines[63 + 4] = QStringLiteral("4, \"t\", \"large.png\",0,0,0");
+    RecordingMaker::Instance().wanted.clear();
+    ThumbnailMaker::Creator before =
+        ThumbnailMaker::Install([]() -> ThumbnailMaker& { return RecordingMaker::Instance(); });
+    EXPECT_EQ(Load(WriteGame(lines)), 0);
+    EXPECT_EQ(RecordingMaker::Instance().wanted, QStringList());
+    DecodeForThumbnails(path);
+    TheGame().tokens[4].Image.GetThumbnail(false);
+    EXPECT_EQ(RecordingMaker::Instance().wanted, QStringList{QStringLiteral("Token4")}) << "when it is wanted";
+    ThumbnailMaker::Install(before);
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+}
+
 TEST_F(LoadTest, ThumbnailsOfNotesAndTokensAreFetchedAndNoneStopsTheLoad) {
+    RecordingMaker::Instance().wanted.clear();
     ThumbnailMaker::Creator before =
         ThumbnailMaker::Install([]() -> ThumbnailMaker& { return RecordingMaker::Instance(); });
     WriteFile(QStringLiteral("games/cat.bmp"), "picture");
@@ -383,6 +410,7 @@ TEST_F(LoadTest, ThumbnailsOfNotesAndTokensAreFetchedAndNoneStopsTheLoad) {
     lines[3] = QStringLiteral("0, \"t\", \"cat.bmp\",0,0,0");
     lines[60] = QStringLiteral("1, \"a\", \"b\",\"cat.bmp\",0,0,0");
     lines[63 + 4] = QStringLiteral("4, \"t\", \"cat.bmp\",0,0,0");
+    DecodeForThumbnails(InGames(QStringLiteral("cat.bmp")));
     EXPECT_EQ(Load(WriteGame(lines)), 0);
     ThumbnailMaker::Install(before);
     EXPECT_EQ(RecordingMaker::Instance().wanted, (QStringList{QStringLiteral("Money1"), QStringLiteral("Token4")}));
