@@ -31,6 +31,8 @@ constexpr std::array<const char*, MainLayout::kButtons> kButtonCaptions = {"&Mon
                                                                            "E&xit"};
 // Of the window on a small screen, in pixels: all the height there is, and no wider than its board needs.
 constexpr QSize kSizeOnSmallScreen(512, 600);
+// Milliseconds between two looks for pictures that are away.
+constexpr int kAwayInterval = 2000;
 
 int Twips(int pixels) { return pixels * kTwipsPerPixel; }
 QSize Twips(QSize pixels) { return pixels * kTwipsPerPixel; }
@@ -68,6 +70,7 @@ frmTAVL::frmTAVL(EditorRoutes& doors)
     m_client->setMinimumSize(InPixels(QRect(QPoint(0, 0), client)).size());
     resize(kSizeOnSmallScreen);
     m_view.Board().setFocus();
+    connect(&TimerAway, &QTimer::timeout, this, &frmTAVL::TimerAway_Timer);
 }
 
 frmTAVL::~frmTAVL() = default;
@@ -162,8 +165,24 @@ void frmTAVL::changeEvent(QEvent* event) try {
     QMainWindow::changeEvent(event);
     // The toolbar's picture lies on the colour of the desktop's theme.
     if (event->type() == QEvent::PaletteChange) m_toolBar.Draw();
+    // Who went away to bring a stick or to move a folder, comes back to this window.
+    if (event->type() == QEvent::ActivationChange) TimerAway_Timer();
 } catch (...) {
     ErrTop("frmTAVL!", "changeEvent");
+}
+
+void frmTAVL::TimerAway_Timer() try {
+    // There is one drawing layer, and the window on top or the page may be in the middle of its own drawing.
+    if (bInPrint || QApplication::activeModalWidget()) return;
+    if (m_away.Look(TheGame())) m_view.Redraw();
+    if (m_away.IsAny() && isActiveWindow()) {
+        TimerAway.start(kAwayInterval);
+    } else {
+        TimerAway.stop();
+    }
+} catch (...) {
+    TimerAway.stop();
+    ErrTop("frmTAVL!", "TimerAway_Timer");
 }
 
 void frmTAVL::closeEvent(QCloseEvent* event) try {

@@ -9,11 +9,13 @@
 #include "app/StartRequests.h"
 #include "app/ToolBar.h"
 #include "app/ToolTips.h"
+#include "game/AwayPictures.h"
 #include "platform/paint/Color.h"
 #include "services/Desktop.h"
 
 #include <QMainWindow>
 #include <QPointer>
+#include <QTimer>
 
 #include <array>
 
@@ -84,6 +86,8 @@ protected:
 
 private Q_SLOTS:
     void ButtonClicked();
+    /// Shows pictures whose folder has come back.
+    void TimerAway_Timer();
 
 private:
     void MakeButtons();
@@ -117,6 +121,8 @@ private:
     GameSharing m_sharing;
     StartRequests m_requests;
     MainMenu m_menu;
+    AwayPictures m_away;
+    QTimer TimerAway;
 
     std::array<QPushButton*, MainLayout::kButtons> cmd{};
     CommonDialog dlgCommon;
