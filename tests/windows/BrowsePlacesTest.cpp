@@ -67,8 +67,11 @@ TEST_F(BrowsePlacesTest, TheFiltersFollowTheScreenAndWhetherMetafilesAreAllowed)
                           QStringLiteral("*.jfif"), QStringLiteral("*.gif"),  QStringLiteral("*.png"),
                           QStringLiteral("*.webp"), QStringLiteral("*.tif"),  QStringLiteral("*.tiff"),
                           QStringLiteral("*.heic"), QStringLiteral("*.heif"), QStringLiteral("*.avif")};
-    EXPECT_EQ(PatternsOf(AllPicturesFilter(false)), all);
-    EXPECT_EQ(PatternsOf(AllPicturesFilter(true)), all + QStringList{QStringLiteral("*.wmf")});
+    EXPECT_EQ(PatternsOf(AllPicturesFilter(false, 24)), all);
+    EXPECT_EQ(PatternsOf(AllPicturesFilter(true, 24)), all + QStringList{QStringLiteral("*.wmf")});
+    EXPECT_EQ(AllPicturesFilter(true, 8), UsualFilter(true, 8));
+    EXPECT_TRUE(IsListed(UsualFilter(true, 24), QStringLiteral("/home/us/Dog.JPG")));
+    EXPECT_FALSE(IsListed(UsualFilter(true, 24), QStringLiteral("/home/us/jpg.png")));
 }
 
 TEST_F(BrowsePlacesTest, DriveLettersAreComparedWithoutCase) {

@@ -234,21 +234,27 @@ TEST_F(BrowseTest, AChosenPlaceOpensItsRoot) {
     });
 }
 
-TEST_F(BrowseTest, AllPicturesIsTheSecondFilterAndTheChoiceIsKept) {
-    WriteFile(QStringLiteral("cat.png"), PictureFiles::Encoded(PictureFiles::Quarters(8, 8), "png"));
+TEST_F(BrowseTest, AllPicturesIsChosenFirstAndAnotherChoiceIsKept) {
+    const QString png =
+        WriteFile(QStringLiteral("cat.png"), PictureFiles::Encoded(PictureFiles::Quarters(8, 8), "png"));
+    const QString bmp = Picture(QStringLiteral("dog.bmp"));
     Browse(QString(), [](QWidget& window) {
-        EXPECT_EQ(FilesIn(window), QStringList());
         auto& filter = Find<QComboBox>(window, "cboFilter");
-        filter.setFocus();
-        QTest::keyClick(&filter, Qt::Key_Down);
         EXPECT_EQ(filter.currentText(), QStringLiteral("All pictures"));
-        EXPECT_EQ(FilesIn(window), QStringList{QStringLiteral("cat.png")});
+        EXPECT_EQ(FilesIn(window), (QStringList{QStringLiteral("cat.png"), QStringLiteral("dog.bmp")}));
+        filter.setFocus();
+        QTest::keyClick(&filter, Qt::Key_Up);
+        EXPECT_EQ(FilesIn(window), QStringList{QStringLiteral("dog.bmp")});
         Click(window, "cmdCancel");
     });
-    Browse(QString(), [](QWidget& window) {
-        EXPECT_EQ(FilesIn(window), QStringList{QStringLiteral("cat.png")});
-        Click(window, "cmdCancel");
-    });
+    for (const QString& inUse : {QString(), bmp}) {
+        Browse(inUse, [](QWidget& window) {
+            EXPECT_EQ(FilesIn(window), QStringList{QStringLiteral("dog.bmp")});
+            Click(window, "cmdCancel");
+        });
+    }
+    EXPECT_EQ(Browse(png, [](QWidget& window) { Click(window, "cmdOK"); }), png) << "the picture in use is listed";
+    EXPECT_TRUE(desktop.boxes.isEmpty());
 }
 
 TEST_F(BrowseTest, MetafilesAreOfferedOnlyWhereTheyAreAllowed) {

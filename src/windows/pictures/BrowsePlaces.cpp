@@ -4,6 +4,8 @@
 #include "platform/files/Folders.h"
 #include "services/basPath.h"
 
+#include <algorithm>
+
 namespace BrowsePlaces {
 namespace {
 
@@ -116,12 +118,21 @@ QString UsualFilter(bool bAllowWMF, int iBitsPerPixel) {
     return fewColors ? QStringLiteral("*.bmp;") : QStringLiteral("*.bmp;*.jpg;*.gif");
 }
 
-QString AllPicturesFilter(bool bAllowWMF) {
+QString AllPicturesFilter(bool bAllowWMF, int iBitsPerPixel) {
+    // Few colours show no photograph.
+    if (iBitsPerPixel <= kFewColorsBits) return UsualFilter(bAllowWMF, iBitsPerPixel);
     const QString pictures =
         QStringLiteral("*.bmp;*.jpg;*.jpeg;*.jfif;*.gif;*.png;*.webp;*.tif;*.tiff;*.heic;*.heif;*.avif");
     return bAllowWMF ? pictures + QStringLiteral(";*.wmf") : pictures;
 }
 
 QStringList PatternsOf(const QString& sFilter) { return sFilter.split(u';', Qt::SkipEmptyParts); }
+
+bool IsListed(const QString& sFilter, const QString& sFilePath) {
+    const QStringList patterns = PatternsOf(sFilter);
+    return std::any_of(patterns.begin(), patterns.end(), [&sFilePath](const QString& pattern) {
+        return sFilePath.endsWith(QStringView(pattern).mid(1), Qt::CaseInsensitive);
+    });
+}
 
 } // namespace BrowsePlaces

@@ -47,9 +47,11 @@ QString CopyName(const QString& sBase, const QString& sExt, int iCopy);
 
 /// File patterns of the first filter, as a screen of so many bits a pixel shows them.
 QString UsualFilter(bool bAllowWMF, int iBitsPerPixel);
-/// File patterns of every kind of picture that can be loaded.
-QString AllPicturesFilter(bool bAllowWMF);
+/// File patterns of every kind of picture that can be loaded and shown.
+QString AllPicturesFilter(bool bAllowWMF, int iBitsPerPixel);
 /// The single patterns of a filter.
 QStringList PatternsOf(const QString& sFilter);
+/// True when a file's name fits one of them, in any case of its letters.
+bool IsListed(const QString& sFilter, const QString& sFilePath);
 
 } // namespace BrowsePlaces

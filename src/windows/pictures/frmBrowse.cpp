@@ -40,7 +40,7 @@ enum FilterNumber { kUsualPictures = 0, kAllPictures = 1 };
 /// What the chooser remembers from one opening to the next.
 struct Memory {
     QString sLastFolder;
-    int iFilter = kUsualPictures;
+    int iFilter = kAllPictures;
 };
 
 Memory& Remembered() {
@@ -82,7 +82,7 @@ QString frmBrowse::ShowForm(const QString& sFilePath, bool bAllowWMF, const QStr
     m_sOriginalPath = sFilePath;
     m_bOK = false;
     FillPlaces();
-    FillFilters(bAllowWMF);
+    FillFilters(sFilePath, bAllowWMF);
     QString error;
     if (sFilePath.isEmpty()) {
         StartIn(sStartFolder);
@@ -109,12 +109,15 @@ void frmBrowse::FillPlaces() {
     }
 }
 
-void frmBrowse::FillFilters(bool bAllowWMF) {
-    const QString usual = BrowsePlaces::UsualFilter(bAllowWMF, basAPI::ScreenBitsPerPixel());
+// The picture in use is always among those listed.
+void frmBrowse::FillFilters(const QString& sInUse, bool bAllowWMF) {
+    const int bits = basAPI::ScreenBitsPerPixel();
+    const QString usual = BrowsePlaces::UsualFilter(bAllowWMF, bits);
     cboFilter->clear();
     cboFilter->addItem(QStringLiteral("Pictures (") + BrowsePlaces::PatternsOf(usual).join(u' ') + u')', usual);
-    cboFilter->addItem(QStringLiteral("All pictures"), BrowsePlaces::AllPicturesFilter(bAllowWMF));
-    cboFilter->setCurrentIndex(Remembered().iFilter);
+    cboFilter->addItem(QStringLiteral("All pictures"), BrowsePlaces::AllPicturesFilter(bAllowWMF, bits));
+    const bool hidden = !sInUse.isEmpty() && !BrowsePlaces::IsListed(usual, sInUse);
+    cboFilter->setCurrentIndex(hidden ? kAllPictures : Remembered().iFilter);
 }
 
 // Nothing is chosen yet. Callers that remember no folder hand over My Games; the one used last is nearer then.

@@ -58,7 +58,7 @@ private:
     void Connect();
 
     void FillPlaces();
-    void FillFilters(bool bAllowWMF);
+    void FillFilters(const QString& sInUse, bool bAllowWMF);
     void StartIn(const QString& sStartFolder);
     bool ShowPath(const QString& sFilePath, QString& sError);
     /// Lists a folder; nothing changes, and there is a sentence in sError, when it can't be listed.
