@@ -54,7 +54,8 @@ bool GameCommands::TakeUpGame(const QString& sAskedFor) try {
 }
 
 bool GameCommands::LoadAutosave(const QString& sPath, const QString& sMessage) {
-    if (!basCommon::DoesFileExist(sPath) || IsPutAside(sPath)) return false;
+    // In this very spelling: what bears the name in another one isn't ours.
+    if (!Files::Exists(sPath) || IsPutAside(sPath)) return false;
     MsgBox(sMessage + QStringLiteral("This game is being loaded."));
     OpeningNote::Write(sPath);
     m_iLoadResult = m_session.Recover(sPath);
