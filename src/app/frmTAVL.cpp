@@ -59,7 +59,7 @@ frmTAVL::frmTAVL(EditorRoutes& doors)
       m_commands(*this, m_view), m_sharing(*this, m_view, m_commands.InHand()),
       m_requests(std::bind_front(&GameCommands::OpenGame, &m_commands), std::bind_front(&frmTAVL::IsInPrint, this)),
       m_menu(*menuBar(), m_commands.InHand(), std::bind_front(&frmTAVL::Choose, this)),
-      m_about(std::make_unique<frmAbout>(this)) {
+      m_drop(m_view, m_commands.InHand()), m_about(std::make_unique<frmAbout>(this)) {
     setObjectName(QStringLiteral("frmTAVL"));
     setAcceptDrops(true);
     setCentralWidget(m_client);
@@ -132,19 +132,40 @@ void frmTAVL::wheelEvent(QWheelEvent* event) try {
 }
 
 void frmTAVL::dragEnterEvent(QDragEnterEvent* event) try {
-    if (!GameDropped(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+    const QMimeData& dragged = *event->mimeData();
+    if (!GameDropped(dragged).isEmpty() || PictureDrop::Holds(dragged)) event->acceptProposedAction();
 } catch (...) {
     ErrTop("frmTAVL!", "dragEnterEvent");
 }
 
+void frmTAVL::dragMoveEvent(QDragMoveEvent* event) try {
+    const bool game = !GameDropped(*event->mimeData()).isEmpty();
+    event->setAccepted(game || m_drop.Move(m_view.Board().mapFrom(this, event->position().toPoint())));
+} catch (...) {
+    ErrTop("frmTAVL!", "dragMoveEvent");
+}
+
+void frmTAVL::dragLeaveEvent(QDragLeaveEvent*) { m_drop.Leave(); }
+
 void frmTAVL::dropEvent(QDropEvent* event) try {
-    const QString game = GameDropped(*event->mimeData());
-    if (game.isEmpty()) return;
     event->acceptProposedAction();
-    // Whoever it was dragged from waits for the end of the drop, and opening may ask questions.
-    QMetaObject::invokeMethod(this, "CalledByAnotherStart", Qt::QueuedConnection, Q_ARG(QString, game));
+    // Whoever it was dragged from waits for the end of the drop, and both may ask questions.
+    const QString game = GameDropped(*event->mimeData());
+    if (!game.isEmpty()) {
+        QMetaObject::invokeMethod(this, "CalledByAnotherStart", Qt::QueuedConnection, Q_ARG(QString, game));
+        return;
+    }
+    m_droppedAt = m_view.Board().mapFrom(this, event->position().toPoint());
+    event->setAccepted(m_drop.Move(m_droppedAt));
+    if (!event->isAccepted()) return;
+    m_dropped = m_drop.FilesOf(*event->mimeData());
+    QMetaObject::invokeMethod(this, &frmTAVL::TakeDropped, Qt::QueuedConnection);
 } catch (...) {
     ErrTop("frmTAVL!", "dropEvent");
+}
+
+void frmTAVL::TakeDropped() try { m_drop.Drop(std::exchange(m_dropped, {}), m_droppedAt); } catch (...) {
+    ErrTop("frmTAVL!", "TakeDropped");
 }
 
 void frmTAVL::resizeEvent(QResizeEvent* event) try {

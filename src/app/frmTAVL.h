@@ -6,6 +6,7 @@
 #include "app/GameSharing.h"
 #include "app/MainLayout.h"
 #include "app/MainMenu.h"
+#include "app/PictureDrop.h"
 #include "app/StartRequests.h"
 #include "app/ToolBar.h"
 #include "app/ToolTips.h"
@@ -82,10 +83,13 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
 private Q_SLOTS:
     void ButtonClicked();
+    void TakeDropped();
     /// Shows pictures whose folder has come back.
     void TimerAway_Timer();
 
@@ -121,6 +125,9 @@ private:
     GameSharing m_sharing;
     StartRequests m_requests;
     MainMenu m_menu;
+    PictureDrop m_drop;
+    QStringList m_dropped;
+    QPoint m_droppedAt;
     AwayPictures m_away;
     QTimer TimerAway;
 

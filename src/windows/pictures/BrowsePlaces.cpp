@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "windows/pictures/BrowsePlaces.h"
 
+#include "pictures/ThumbnailFile.h"
 #include "platform/files/Folders.h"
 #include "services/basPath.h"
 
@@ -110,6 +111,17 @@ bool IsOnGamesDrive(const QString& sFilePath, const QString& sGamesDirectory) {
 QString CopyName(const QString& sBase, const QString& sExt, int iCopy) {
     const QString number = iCopy > 0 ? u'(' + QString::number(iCopy) + u')' : QString();
     return sBase + number + u'.' + sExt;
+}
+
+int FirstFreeCopy(const QString& sFolder, const QString& sBase, const QString& sExt) {
+    const auto isTaken = [&](int iCopy) {
+        const QString path = basCommon::JoinPath(sFolder, CopyName(sBase, sExt, iCopy));
+        return ThumbnailFile::HasNameOfOne(path) || basCommon::DoesFileExist(path);
+    };
+    int iCopy = 0;
+    while (isTaken(iCopy))
+        ++iCopy;
+    return iCopy;
 }
 
 QString UsualFilter(bool bAllowWMF, int iBitsPerPixel) {

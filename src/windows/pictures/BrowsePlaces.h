@@ -44,6 +44,9 @@ bool IsOnGamesDrive(const QString& sFilePath, const QString& sGamesDirectory);
 /// Name under which the copy of a picture is kept: the picture's own for iCopy 0, else with the number in
 /// brackets.
 QString CopyName(const QString& sBase, const QString& sExt, int iCopy);
+/// Number of the first copy whose name is free in a folder. The names of thumbnails are taken also while there is
+/// none.
+int FirstFreeCopy(const QString& sFolder, const QString& sBase, const QString& sExt);
 
 /// File patterns of the first filter, as a screen of so many bits a pixel shows them.
 QString UsualFilter(bool bAllowWMF, int iBitsPerPixel);

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // Pictures from disks that may go away are kept in the My Games directory.
-#include "pictures/ThumbnailFile.h"
 #include "platform/files/Files.h"
 #include "platform/files/Folders.h"
 #include "platform/text/NewLine.h"
@@ -16,9 +15,6 @@ bool IsDiskFull(const QString& sSource, const QString& sFolder) {
     return Folders::FreeBytes(sFolder) < double(Files::Size(sSource));
 }
 
-// The name of a thumbnail is taken also while there is none.
-bool IsTaken(const QString& sPath) { return ThumbnailFile::HasNameOfOne(sPath) || basCommon::DoesFileExist(sPath); }
-
 } // namespace
 
 bool frmBrowse::CopyFileToRoot() try {
@@ -28,9 +24,7 @@ bool frmBrowse::CopyFileToRoot() try {
 
     QString drive, dir, base, ext;
     basCommon::FileNameFactor(m_sFilePath, drive, dir, base, ext);
-    int iCopy = 0;
-    while (IsTaken(basCommon::JoinPath(games, BrowsePlaces::CopyName(base, ext, iCopy))))
-        ++iCopy;
+    const int iCopy = BrowsePlaces::FirstFreeCopy(games, base, ext);
     const QString name = BrowsePlaces::CopyName(base, ext, iCopy);
     const QString target = basCommon::JoinPath(games, name);
     QString error;
