@@ -52,7 +52,8 @@ QStringList PlacesOf(const QString& sName) {
     places.append(basCommon::JoinPath(beside, sName));
     // A game in a folder of its own, "Family/Family.gam", names "Family/Pictures/cat.jpg": moved as a whole, both still
     // lie in a folder of that name.
-    places.append(basCommon::JoinPath(FolderAbove(beside), sName));
+    const QString above = FolderAbove(beside);
+    if (!above.isEmpty()) places.append(basCommon::JoinPath(above, sName));
     return places;
 }
 
