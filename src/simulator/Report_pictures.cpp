@@ -54,6 +54,7 @@ QString SeatsPicture(const KitPlayed& played) {
         rows.push_back(row);
     }
     std::vector<QString> legend;
+    legend.reserve(kMostPlayers);
     for (int seat = 0; seat < kMostPlayers; ++seat)
         legend.push_back(QStringLiteral("seat %1").arg(seat + 1));
     return DotChart(QStringLiteral("Wins by seat"),

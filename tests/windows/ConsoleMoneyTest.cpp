@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "services/WorkFiles.h"
 #include "windows/ConsoleFixture.h"
 
 namespace {
@@ -22,6 +23,22 @@ TEST_F(ConsoleTest, Edge_SeveralCopiesMakeThePictureOnceAndRepeatThePage) {
         EXPECT_EQ(written, 1) << copies << " copies";
     }
     EXPECT_TRUE(desktop.boxes.isEmpty());
+}
+
+TEST_F(ConsoleTest, TheAidsForRecolouringMoneyWork) {
+    console->Command1_Click();
+    EXPECT_EQ(desktop.Texts(), QStringList{QStringLiteral("failure")});
+    QImage mono(40, 20, QImage::Format_Mono);
+    mono.fill(1);
+    mono.save(WorkFiles::PathOf(QStringLiteral("MoneyImage.bmp")));
+    console->Command1_Click();
+    EXPECT_EQ(desktop.boxes.size(), 1);
+    EXPECT_TRUE(QFile::exists(WorkFiles::PathOf(QStringLiteral("MoneyImage2.bmp"))));
+    EXPECT_TRUE(Control("Command1").isHidden());
+    QWidget& test = Control("picTest");
+    test.show();
+    QTest::mouseClick(&test, Qt::LeftButton);
+    EXPECT_TRUE(test.isHidden());
 }
 
 } // namespace

@@ -471,22 +471,6 @@ TEST_F(ConsoleTest, OnTheScreenASheetIsShownAsItWouldBePrintedAndNothingIsPrinte
     EXPECT_NE(page.Image().pixel(60, 90), qRgb(255, 255, 255)) << "the title's background";
 }
 
-TEST_F(ConsoleTest, TheAidsForRecolouringMoneyWork) {
-    console->Command1_Click();
-    EXPECT_EQ(desktop.Texts(), QStringList{QStringLiteral("failure")});
-    QImage mono(40, 20, QImage::Format_Mono);
-    mono.fill(1);
-    mono.save(WorkFiles::PathOf(QStringLiteral("MoneyImage.bmp")));
-    console->Command1_Click();
-    EXPECT_EQ(desktop.boxes.size(), 1);
-    EXPECT_TRUE(QFile::exists(WorkFiles::PathOf(QStringLiteral("MoneyImage2.bmp"))));
-    EXPECT_TRUE(Control("Command1").isHidden());
-    QWidget& test = Control("picTest");
-    test.show();
-    QTest::mouseClick(&test, Qt::LeftButton);
-    EXPECT_TRUE(test.isHidden());
-}
-
 TEST_F(ConsoleTest, TheTestWindowOpensTheConsoleAndShowsPagesWhole) {
     frmPrintTest door;
     ModalSteps person;
