@@ -15,8 +15,12 @@ public:
 
     /// As one file with its pictures, by a window that tells what goes in.
     void Send();
+    /// The board as a picture for a message, a web page or the copy shop.
+    void SaveBoardPicture();
+    void CopyBoardPicture();
 
 private:
+    QString GameTitle() const;
     Packing::Contents Contents();
     /// Paints the board for others, and puts the view back after that.
     QByteArray BoardAsPng(int lSize);

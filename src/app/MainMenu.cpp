@@ -37,6 +37,7 @@ constexpr Item kFileItems[] = {
     {4, "Save &As...", "Ctrl+Shift+S", Always},
     {20, "&Duplicate", "", Always},
     {30, "Send to a &Friend...", "", Always},
+    {31, "Save a Picture of the &Board...", "", Always},
     {5, "-", "", Never},
     {6, "P&rinter Setup", "", Always},
     {7, "&Print...", "Ctrl+P", Always},
@@ -48,6 +49,8 @@ constexpr Item kEditItems[] = {
     {1, "&Redo", "Ctrl+Shift+Z; Ctrl+Y", CanRedo, RedoCaption},
     {2, "-", "", Never},
     {3, "&Check My Game", "F7", Always},
+    {30, "-", "", Never},
+    {31, "Copy a Picture of the &Board", "Ctrl+Shift+C", Always},
 };
 constexpr Item kZoomItems[] = {
     {0, "&1X", "Ctrl+1", Always},

@@ -289,6 +289,8 @@ void frmTAVL::mnuFile_Click(int Index) try {
             return m_commands.Duplicate();
         case 30:
             return m_sharing.Send();
+        case 31:
+            return m_sharing.SaveBoardPicture();
         case 1:
         case 5:
         case 8:
@@ -305,8 +307,10 @@ void frmTAVL::mnuEdit_Click(int Index) {
         m_commands.Undo();
     } else if (Index == 1) {
         m_commands.Redo();
-    } else {
+    } else if (Index == 3) {
         CheckGameInHand();
+    } else {
+        m_sharing.CopyBoardPicture();
     }
 }
 

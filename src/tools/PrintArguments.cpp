@@ -169,6 +169,7 @@ Options:
   --dpi N               dots an inch of the PDF (default 600)
   --variant 8|5|2A|2    the boxed kit to print for, whatever the settings say; 5, 2A and 2 come
                         without their label sheets
+  --board B.pdf         the board as a page of ten inches, which stays sharp at every size
   --small-pictures      --pack puts pictures in only as large as paper shows them
   --data DIR            take the program's own data files (rents, rules, pictures) from DIR
   --check               beside -o, --board, --pieces or --pack: warns of what would come out badly on paper

@@ -247,7 +247,7 @@ void PrintCommand::WarnOfInHand(const PrintArguments& arguments) {
 
 bool PrintCommand::PaintBoard(const QString& sPath, int lSize) {
     QString error;
-    if (SavePicture(basPosit::BoardPicture(lSize), sPath, error)) return true;
+    if (basPosit::SaveBoard(sPath, lSize, TitleOf(GameHost::Current().GameName()), error)) return true;
     Complain(QStringLiteral("'%1' could not be written: %2").arg(sPath, error));
     return false;
 }

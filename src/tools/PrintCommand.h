@@ -40,7 +40,7 @@ private:
     int PrintSheetsOf(const PrintArguments& arguments, const QStringList& asked);
     /// Those of the sheets that this build prints for the kit; names the others in one line.
     QStringList WithoutLeftOut(const QStringList& sheets);
-    /// The board as a PNG file of so many pixels square.
+    /// The board as the file's ending says, a PNG file being so many pixels square.
     bool PaintBoard(const QString& sPath, int lSize);
     /// Every made picture into a folder, which is made if need be.
     bool WritePieces(const QString& sFolder);

@@ -10,4 +10,6 @@ QString Text() { return QGuiApplication::clipboard()->text(); }
 
 void SetText(const QString& sText) { QGuiApplication::clipboard()->setText(sText); }
 
+void SetPicture(const Picture& picture) { QGuiApplication::clipboard()->setImage(picture.Image()); }
+
 } // namespace Clipboard

@@ -120,6 +120,24 @@ QString WithExtension(const QString& sPath, const QString& sExtension) {
     return sExtension.isEmpty() || sPath.endsWith(ending, Qt::CaseInsensitive) ? sPath : sPath + ending;
 }
 
+// "*.pdf" of "PDF page (*.pdf)"; empty where the filter takes any name.
+QStringList EndingsOf(const QString& sNameFilter) {
+    QStringList endings;
+    for (const QString& pattern : QString(sNameFilter.section(u'(', -1)).remove(u')').split(u' ')) {
+        if (pattern.startsWith(QStringLiteral("*.")) && pattern.size() > 2) endings.append(pattern.mid(1));
+    }
+    return endings;
+}
+
+QString WithEndingOfFilter(const QString& sPath, const QFileDialog& window) {
+    for (const QString& filter : window.nameFilters()) {
+        for (const QString& ending : EndingsOf(filter)) {
+            if (sPath.endsWith(ending, Qt::CaseInsensitive)) return sPath;
+        }
+    }
+    return sPath + EndingsOf(window.selectedNameFilter()).value(0);
+}
+
 bool MayBeReplaced(const QString& sPath) {
     const QFileInfo there(sPath);
     if (!there.exists()) return true;
@@ -140,7 +158,9 @@ bool ShowFileDialog(CommonDialog& dialog, QFileDialog::AcceptMode mode) {
     while (window.exec() == QDialog::Accepted && !window.selectedFiles().isEmpty()) {
         const QString typed = window.selectedFiles().constFirst();
         const bool bSave = mode == QFileDialog::AcceptSave;
-        const QString path = bSave ? WithExtension(typed, dialog.sDefaultExt) : typed;
+        const QString named =
+            dialog.sDefaultExt.isEmpty() ? WithEndingOfFilter(typed, window) : WithExtension(typed, dialog.sDefaultExt);
+        const QString path = bSave ? named : typed;
         if (!bSave || !dialog.bOverwritePrompt || MayBeReplaced(path)) {
             dialog.sFileName = path;
             return true;

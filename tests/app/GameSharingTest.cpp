@@ -4,6 +4,7 @@
 
 #include "pack/PackReader.h"
 
+#include <QClipboard>
 #include <QMenu>
 
 namespace {
@@ -43,6 +44,39 @@ TEST_F(GameSharingTest, WhatIsSentIsTheGameAsItStandsAndTheViewStaysAsItWas) {
     const QStringList lines = reader->Lines([](const QString& entry) { return entry; }, QStringLiteral("x"));
     EXPECT_TRUE(lines.value(7).contains(QStringLiteral("Edited"))) << lines.value(7).toStdString();
     EXPECT_TRUE(ReadFile(packed).contains("Board.png"));
+}
+
+TEST_F(GameSharingTest, TheBoardIsSavedAsThePictureThatItsNameSays) {
+    StartWithGame();
+    window->View().SetZoom(3);
+    const QImage before = window->View().Board().Image();
+    const struct {
+        const char* name;
+        const char* start;
+    } rows[] = {{"b.png", "\x89PNG"}, {"b.PDF", "%PDF-"}};
+    for (const auto& row : rows) {
+        const QString path = PathOf(QString::fromLatin1(row.name));
+        AnswerDialog(path);
+        ChooseMenu("mnuFile_31");
+        EXPECT_TRUE(ReadFile(path).startsWith(row.start)) << row.name;
+        EXPECT_EQ(asked.sFileName, QStringLiteral("Mine board.png"));
+        EXPECT_EQ(window->View().Board().Image(), before) << row.name;
+    }
+    EXPECT_EQ(QImage(PathOf(QStringLiteral("b.png"))).size(), QSize(3000, 3000));
+    AnswerDialog(PathOf(QStringLiteral("nowhere/b.pdf")));
+    ChooseMenu("mnuFile_31");
+    ASSERT_EQ(desktop.boxes.size(), 1);
+    EXPECT_TRUE(desktop.Texts()[0].startsWith(QStringLiteral("'b.pdf' could not be written: ")));
+}
+
+TEST_F(GameSharingTest, TheBoardIsCopiedAsAPicture) {
+    StartWithGame();
+    const QImage before = window->View().Board().Image();
+    ChooseMenu("mnuEdit_31");
+    const QImage copied = QGuiApplication::clipboard()->image();
+    EXPECT_EQ(copied.size(), QSize(1200, 1200));
+    EXPECT_EQ(copied.pixelColor(552, 552), QColor(0, 176, 255)) << "the panel in the middle";
+    EXPECT_EQ(window->View().Board().Image(), before);
 }
 
 TEST_F(GameSharingTest, NewEntriesStandBetweenToldOnes) {
