@@ -4,6 +4,7 @@
 #include "services/basCommon.h"
 
 #include <QCryptographicHash>
+#include <QStringList>
 
 namespace NoProblems {
 namespace {
