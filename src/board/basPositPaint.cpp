@@ -60,13 +60,16 @@ int HeightOfCosts() { return CLng(PosLength(kCostHeight)); }
 // Of an average letter.
 int WidthOfCosts() { return CLng(HeightOfCosts() * 0.5); }
 
+// Of a text's width, without the blanks ahead of its first letter and behind its last.
+constexpr double kInkShare = 0.975;
+
 // Of letters that leave the cost no longer than its space; with those of the side in force.
 int WidthThatFits(int iSpace) {
     const DeviceRect rect = Mapped(m_SpaceRect(iSpace, SpacePart::Whole));
     const bool bUpright = iSpace / basTAVL::kSpacesPerSide % 2 == 0;
     const int iLength = bUpright ? rect.x2 - rect.x1 : rect.y2 - rect.y1;
     const int iWritten = Draw_GetWidth(basTAVL::g_oSpaces(iSpace).Cost);
-    if (iWritten <= iLength) return WidthOfCosts();
+    if (iWritten * kInkShare <= iLength) return WidthOfCosts();
     return std::max(Int(double(iLength) * WidthOfCosts() / iWritten), 1);
 }
 
