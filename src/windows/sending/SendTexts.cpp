@@ -2,6 +2,7 @@
 #include "windows/sending/SendTexts.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace SendTexts {
 namespace {
@@ -44,7 +45,7 @@ QString Size(qint64 bytes) {
     constexpr double kKilo = 1024;
     constexpr double kMega = kKilo * kKilo;
     constexpr double kFewMegas = 10;
-    if (double(bytes) < kMega) return QStringLiteral("%1 KB").arg(std::max(1, int(double(bytes) / kKilo + 0.5)));
+    if (double(bytes) < kMega) return QStringLiteral("%1 KB").arg(std::max(1L, std::lround(double(bytes) / kKilo)));
     const double megas = double(bytes) / kMega;
     return QStringLiteral("%1 MB").arg(megas, 0, 'f', megas < kFewMegas ? 1 : 0);
 }
