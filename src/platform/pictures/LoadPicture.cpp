@@ -102,7 +102,11 @@ void WaitForDecoders() {
     s_bEnding = false;
 }
 
-void SeeToTheEnd() { qAddPostRoutine(&WaitForDecoders); }
+// The threads are made with the application, so that one that lives as long as the program ends ahead of them.
+void SeeToTheEnd() {
+    Decoders();
+    qAddPostRoutine(&WaitForDecoders);
+}
 Q_COREAPP_STARTUP_FUNCTION(SeeToTheEnd)
 
 PictureCache::Entry DecodeUnlessEnding(const PictureCache::Key& key) {
