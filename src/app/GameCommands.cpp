@@ -6,12 +6,11 @@
 #include "app/PackedGames.h"
 #include "app/RecentGames.h"
 #include "document/basTAVL.h"
-#include "document/Locale.h"
 #include "game/Autosave.h"
 #include "game/GameNames.h"
 #include "game/Rescue.h"
+#include "game/SampleGames.h"
 #include "platform/files/Files.h"
-#include "platform/files/Folders.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
 #include "windowing/PictureBox.h"
@@ -123,10 +122,7 @@ void GameCommands::LoadUnderItsName() {
 }
 
 void GameCommands::BeginNewGame(int& iResult) try {
-    const QString folder = Folders::ProgramDirectory();
-    QString game = basCommon::JoinPath(folder, QStringLiteral("Default.dat"));
-    if (!basCommon::DoesFileExist(game)) game = basCommon::JoinPath(folder, QString::fromLatin1(Locale::kDefaultGame));
-    BeginGameFrom(game);
+    BeginGameFrom(basTAVL::NewGameFile());
     iResult = m_iLoadResult;
 } catch (...) {
     ErrTail("frmTAVL!", "BeginNewGame", iResult);

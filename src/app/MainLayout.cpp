@@ -22,12 +22,29 @@ int BoardSide(const MainWindowSize& sizes) {
     return std::max(std::min({lTall, lWide, tallest, widest}), MainLayout::kSmallestBoard);
 }
 
+// Puts the side panel or its handle beside a board of this side, and answers where the board's left edge is.
+int PlaceSide(MainLayout& layout, const MainWindowSize& sizes, int lSize, MainLayout::Side side) {
+    const int left = lSize + MainLayout::kGap * 2;
+    const int free = sizes.client.width() - left;
+    if (side == MainLayout::Side::None || free < MainLayout::kLeastSide) return MainLayout::kGap;
+    const int top = sizes.lToolBarHeight;
+    const int height = lSize + MainLayout::kGap + sizes.lButtonHeight;
+    if (side == MainLayout::Side::Shown) {
+        layout.sideHandle = QRect(left, top, MainLayout::kSideHandle, height);
+        layout.side = QRect(left + MainLayout::kSideHandle, top, free - MainLayout::kSideHandle, height);
+        return MainLayout::kGap;
+    }
+    const int room = sizes.client.width() - MainLayout::kSideHandle;
+    layout.sideHandle = QRect(room, top, MainLayout::kSideHandle, height);
+    return (room - lSize) / 2 / kTwipsPerPixel * kTwipsPerPixel;
+}
+
 } // namespace
 
-MainLayout ComputeMainLayout(const MainWindowSize& sizes, float fZoom) {
+MainLayout ComputeMainLayout(const MainWindowSize& sizes, float fZoom, MainLayout::Side side) {
     MainLayout layout;
     const int lSize = BoardSide(sizes);
-    const QPoint at(MainLayout::kGap, sizes.lToolBarHeight);
+    const QPoint at(PlaceSide(layout, sizes, lSize, side), sizes.lToolBarHeight);
     layout.bScrollBars = fZoom > 1.0F;
     const int lBoard = layout.bScrollBars ? lSize - MainLayout::kScrollBar : lSize;
     layout.picBoard = QRect(at, QSize(lBoard, lBoard));
@@ -35,8 +52,8 @@ MainLayout ComputeMainLayout(const MainWindowSize& sizes, float fZoom) {
     layout.vscrl = QRect(at.x() + lBoard, at.y(), MainLayout::kScrollBar, lBoard);
     const int lWidth = CLng((lSize - 480) / 5.0);
     for (int i = 0; i < MainLayout::kButtons; ++i) {
-        layout.cmd[size_t(i)] = QRect((lWidth + MainLayout::kGap) * i + MainLayout::kGap,
-                                      at.y() + lSize + MainLayout::kGap, lWidth, sizes.lButtonHeight);
+        layout.cmd[size_t(i)] = QRect((lWidth + MainLayout::kGap) * i + at.x(), at.y() + lSize + MainLayout::kGap,
+                                      lWidth, sizes.lButtonHeight);
     }
     return layout;
 }

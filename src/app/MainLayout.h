@@ -12,12 +12,21 @@ struct MainLayout {
     static constexpr int kGap = 120;
     static constexpr int kScrollBar = 240;
     static constexpr int kSmallestBoard = 1800;
+    /// What has to be free beside the board for the side panel, with its handle.
+    static constexpr int kLeastSide = 3600;
+    static constexpr int kSideHandle = 210;
+
+    /// Whether there is a side panel to show, and whether it is wished.
+    enum class Side { None, Shown, Hidden };
 
     QRect picBoard;
     QRect hscrl;
     QRect vscrl;
     bool bScrollBars = false;
     std::array<QRect, kButtons> cmd;
+    /// Empty where they don't show.
+    QRect side;
+    QRect sideHandle;
 };
 
 /// What the layout has to fit into.
@@ -30,7 +39,9 @@ struct MainWindowSize {
     int lButtonHeight = 0;
 };
 
-MainLayout ComputeMainLayout(const MainWindowSize& sizes, float fZoom);
+/// A hidden side panel leaves its field to the board, which then stands in the middle; without room for the panel the
+/// board stands at the left.
+MainLayout ComputeMainLayout(const MainWindowSize& sizes, float fZoom, MainLayout::Side side = MainLayout::Side::None);
 
 /// A rectangle of the layout in pixels.
 QRect InPixels(const QRect& twips);

@@ -59,14 +59,24 @@ constexpr Item kZoomItems[] = {
     {3, "&4X", "Ctrl+4", Always},
 };
 constexpr Item kViewItems[] = {
-    {1, "&Money", "", Always}, {2, "&Good News", "", Always}, {3, "&Bad News", "", Always},
-    {4, "&Token", "", Always}, {5, "-", "", Never},           {6, "&Tool Tips", "", Always},
-    {7, "-", "", Never},       {8, "&Setup", "", Always},     {9, "&About...", "", Always},
+    {1, "&Money", "", Always},
+    {2, "&Good News", "", Always},
+    {3, "&Bad News", "", Always},
+    {4, "&Token", "", Always},
+    {5, "-", "", Never},
+    {6, "&Tool Tips", "", Always},
+    {7, "-", "", Never},
+    {8, "&Setup", "", Always},
+    {9, "&About...", "", Always},
+    {20, "-", "", Never},
+    {21, "Side &Panel", "F9", Always},
 };
 constexpr Item kHelpItems[] = {
     {0, "&About...", "", Always},
     {1, "A&ssembly Instructions", "", Always},
     {2, "&Print Instruction Manual", "", Never},
+    {20, "-", "", Never},
+    {21, "&First Evening", "", Always},
 };
 
 void ChooseOf(const std::function<void(int)>& choose, int iEntry) try { choose(iEntry); } catch (...) {
@@ -111,6 +121,14 @@ void MainMenu::Update() {
     for (const Entry& entry : m_entries) {
         entry.action->setEnabled(entry.item->canBeChosen(m_session));
         if (entry.item->caption) entry.action->setText(entry.item->caption(m_session));
+    }
+}
+
+void MainMenu::SetChecked(const char* sName, bool bChecked) {
+    for (const Entry& entry : m_entries) {
+        if (entry.action->objectName() != QLatin1String(sName)) continue;
+        entry.action->setCheckable(true);
+        entry.action->setChecked(bChecked);
     }
 }
 

@@ -46,6 +46,8 @@ public:
     MainMenu(QMenuBar& bar, const Session& session, std::function<void(Menu, int)> choose);
 
     void AddList(QMenu& menu, List list);
+    /// Gives an entry a check mark, or takes it; by its object name.
+    void SetChecked(const char* sName, bool bChecked);
     QMenu& FileMenu() const { return *m_file; }
 
 public Q_SLOTS:

@@ -3,7 +3,6 @@
 
 #include "app/EditorRoutes.h"
 #include "app/frmAbout.h"
-#include "app/frmPrintManual.h"
 #include "app/RecentGames.h"
 #include "check/GamePiece.h"
 #include "document/basTAVL.h"
@@ -14,7 +13,7 @@
 #include "windowing/PictureBox.h"
 #include "windowing/WidgetLook.h"
 #include "windows/check/frmCheck.h"
-#include "windows/print/ChangePrinter.h"
+#include "windows/side/GuideTab.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -56,7 +55,8 @@ frmTAVL::frmTAVL(EditorRoutes& doors)
       m_view(
           *m_client, m_tips,
           {.layOut = std::bind_front(&frmTAVL::Form_Resize, this), .open = std::bind_front(&frmTAVL::OpenPlace, this)}),
-      m_commands(*this, m_view), m_sharing(*this, m_view, m_commands.InHand()),
+      m_side(*m_client, std::bind_front(&frmTAVL::Form_Resize, this)), m_commands(*this, m_view),
+      m_sharing(*this, m_view, m_commands.InHand()),
       m_requests(std::bind_front(&GameCommands::OpenGame, &m_commands), std::bind_front(&frmTAVL::IsInPrint, this)),
       m_menu(*menuBar(), m_commands.InHand(), std::bind_front(&frmTAVL::Choose, this)),
       m_drop(m_view, m_commands.InHand()), m_about(std::make_unique<frmAbout>(this)) {
@@ -65,6 +65,7 @@ frmTAVL::frmTAVL(EditorRoutes& doors)
     setCentralWidget(m_client);
     MakeButtons();
     MakeLists();
+    MakeTabs();
     connect(&m_commands.InHand(), &Session::Changed, &m_menu, &MainMenu::Update);
     const QSize client = SmallestClient(Twips(ToolBarTable::kPictureHeight), Twips(cmd[0]->sizeHint().height()));
     m_client->setMinimumSize(InPixels(QRect(QPoint(0, 0), client)).size());
@@ -99,6 +100,12 @@ void frmTAVL::MakeLists() {
                                        [this](int i) { m_commands.OpenRecent(RecentGames::List().value(i)); }});
 }
 
+void frmTAVL::MakeTabs() {
+    m_guide = new GuideTab(m_commands.InHand(), {.open = std::bind_front(&frmTAVL::OpenStep, this),
+                                                 .sendAway = [this] { ShowGuide(false); }});
+    m_side.Panel().AddTab(GuideTab::kName, QStringLiteral("Guide"), m_guide);
+}
+
 void frmTAVL::ButtonClicked() try {
     const auto* const at = std::find(cmd.begin(), cmd.end(), sender());
     cmd_Click(int(at - cmd.begin()));
@@ -109,8 +116,10 @@ void frmTAVL::ButtonClicked() try {
 void frmTAVL::Form_Resize() try {
     const MainWindowSize sizes{Twips(frameGeometry().size()), Twips(m_client->size()),
                                Twips(ToolBarTable::kPictureHeight), Twips(cmd[0]->sizeHint().height())};
-    const MainLayout layout = ComputeMainLayout(sizes, m_view.Zoom());
+    const MainLayout layout = ComputeMainLayout(sizes, m_view.Zoom(), m_side.Wish());
     m_view.LayOut(layout);
+    m_side.LayOut(layout);
+    m_menu.SetChecked("mnuView_21", m_side.IsWished());
     for (int i = 0; i < MainLayout::kButtons; ++i)
         cmd[size_t(i)]->setGeometry(InPixels(layout.cmd[size_t(i)]));
     m_view.Redraw();
@@ -254,163 +263,6 @@ void frmTAVL::CalledByAnotherStart(const QString& sGame) try {
     ErrTop("frmTAVL!", "CalledByAnotherStart", sGame);
 }
 
-void frmTAVL::Choose(Menu menu, int Index) {
-    switch (menu) {
-        case Menu::File:
-            return mnuFile_Click(Index);
-        case Menu::Edit:
-            return mnuEdit_Click(Index);
-        case Menu::View:
-            return mnuView_Click(Index);
-        case Menu::Zoom:
-            return mnuZoom_Click(Index);
-        case Menu::Help:
-            return mnuHelp_Click(Index);
-    }
-}
-
-void frmTAVL::mnuFile_Click(int Index) try {
-    switch (Index) {
-        case 0:
-            return m_commands.New();
-        case 2:
-            return m_commands.Open();
-        case 3:
-            return m_commands.Save();
-        case 4:
-            return m_commands.SaveAs();
-        case 6:
-            return PrinterSetup();
-        case 7:
-            return Print();
-        case 9:
-            return ExitWithQuestion();
-        case 20:
-            return m_commands.Duplicate();
-        case 30:
-            return m_sharing.Send();
-        case 31:
-            return m_sharing.SaveBoardPicture();
-        case 1:
-        case 5:
-        case 8:
-            return;
-        default:
-            basCommon::Assert(false, QStringLiteral("Unexpected mnu_File"), QStringLiteral("frmTAVL!mnuFile_Click"));
-    }
-} catch (...) {
-    ErrTail("frmTAVL!", "mnuFile_Click", Index);
-}
-
-void frmTAVL::mnuEdit_Click(int Index) {
-    if (Index == 0) {
-        m_commands.Undo();
-    } else if (Index == 1) {
-        m_commands.Redo();
-    } else if (Index == 3) {
-        CheckGameInHand();
-    } else {
-        m_sharing.CopyBoardPicture();
-    }
-}
-
-void frmTAVL::mnuZoom_Click(int Index) try { m_view.SetZoom(Index + 1); } catch (...) {
-    ErrTail("frmTAVL!", "mnuZoom_Click", Index);
-}
-
-void frmTAVL::mnuView_Click(int Index) try {
-    switch (Index) {
-        case 0:
-            m_view.SetZoom(1);
-            return m_view.Redraw();
-        case 1:
-            return EditMoney();
-        case 2:
-            return EditNews(0);
-        case 3:
-            return EditNews(1);
-        case 4:
-            return EditToken();
-        case 5:
-        case 7:
-            return;
-        case 6:
-            return m_tips.Toggle();
-        case 8:
-            return m_doors.Setup(*this);
-        case 9:
-            return m_about->ShowForm();
-        default:
-            basCommon::Assert(false, QStringLiteral("Unexpected Case"), QStringLiteral("frmTAVL!mnuView_Click"));
-    }
-} catch (...) {
-    ErrTail("frmTAVL!", "mnuView_Click", Index);
-}
-
-void frmTAVL::mnuHelp_Click(int Index) try {
-    switch (Index) {
-        case 0:
-            return m_about->ShowForm();
-        case 1:
-            return frmPrintManual(this).ShowForm(false);
-        case 2:
-            return;
-        default:
-            basCommon::Assert(false, QStringLiteral("Unexpected Case"), QStringLiteral("frmTAVL!mnuHelp_Click"));
-    }
-} catch (...) {
-    ErrTail("frmTAVL!", "mnuHelp_Click", Index);
-}
-
-void frmTAVL::cmd_Click(int Index) try {
-    switch (Index) {
-        case 0:
-            return EditMoney();
-        case 1:
-        case 2:
-            // Both open Good News, on purpose: so it has always been.
-            return EditNews(0);
-        case 3:
-            return Print();
-        case 4:
-            // No question but the one about unsaved changes.
-            close();
-            return;
-        default:
-            basCommon::Assert(false, QStringLiteral("Unexpected Case"), QStringLiteral("frmTAVL!cmd_Click"));
-    }
-} catch (...) {
-    ErrTail("frmTAVL!", "cmd_Click", Index);
-}
-
-void frmTAVL::Print() {
-    if (m_commands.InHand().IsUnsaved()) {
-        MsgBox(QStringLiteral("Please save your changes before printing."));
-        return;
-    }
-    m_bPrintedSomething = m_doors.Print(*this);
-}
-
-void frmTAVL::CheckGameInHand() {
-    if (!m_check) {
-        const frmCheck::Doors doors{
-            .show = [this](const GamePiece& piece) { m_view.ShowPlace(BoardPlace::Of(piece)); },
-            .open = [this](const GamePiece& piece) { OpenPlace(BoardPlace::Of(piece)); },
-            .isBusy = std::bind_front(&frmTAVL::IsInPrint, this),
-        };
-        m_check = new frmCheck(m_commands.InHand(), doors, this);
-    }
-    m_check->ShowForm();
-}
-
-void frmTAVL::PrinterSetup() { ChangePrinter(dlgCommon, m_bPrintedSomething); }
-
-void frmTAVL::ExitWithQuestion() {
-    const int answer =
-        MsgBox(QStringLiteral("Are you certain you want to exit Tavlora at this time?"), vbYesNo | vbQuestion);
-    if (answer == vbYes) close();
-}
-
 void frmTAVL::OpenPlace(const BoardPlace& place) {
     if (place.m_iOverSpace >= 0) {
         EditSpaceText(place.m_iOverSpace);
@@ -427,6 +279,22 @@ void frmTAVL::OpenPlace(const BoardPlace& place) {
     } else if (place.m_bOverTokens) {
         EditToken();
     }
+}
+
+void frmTAVL::OpenStep(FirstSteps::Step step, const std::optional<GamePiece>& piece) {
+    if (step == FirstSteps::Step::Print) {
+        Print();
+    } else if (piece) {
+        OpenPlace(BoardPlace::Of(*piece));
+    }
+}
+
+void frmTAVL::ShowGuide(bool bShown) {
+    GuideTab::SetWanted(bShown);
+    m_side.Panel().SetTabShown(GuideTab::kName, bShown);
+    if (!bShown) return;
+    m_side.Panel().ShowTab(GuideTab::kName);
+    m_side.SetWished(true);
 }
 
 void frmTAVL::EditCenterText() try {

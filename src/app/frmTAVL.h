@@ -7,9 +7,11 @@
 #include "app/MainLayout.h"
 #include "app/MainMenu.h"
 #include "app/PictureDrop.h"
+#include "app/SideField.h"
 #include "app/StartRequests.h"
 #include "app/ToolBar.h"
 #include "app/ToolTips.h"
+#include "check/FirstSteps.h"
 #include "game/AwayPictures.h"
 #include "platform/paint/Color.h"
 #include "services/Desktop.h"
@@ -23,6 +25,7 @@
 class EditorRoutes;
 class frmAbout;
 class frmCheck;
+class GuideTab;
 class QPushButton;
 
 /// The main window, and the program's start: loading it starts the program, unloading it ends it. Builds what
@@ -96,9 +99,12 @@ private Q_SLOTS:
 private:
     void MakeButtons();
     void MakeLists();
+    /// What stands beside the board: a tab is one call.
+    void MakeTabs();
 
     // The start, in frmTAVL_start.cpp.
     void PrepareStart();
+    void ReadSideSettings();
     void StartWithGame();
     void SizeMainWindow();
     void WarnOfFewColors();
@@ -108,6 +114,9 @@ private:
     void InitColors();
 
     void OpenPlace(const BoardPlace& place);
+    /// A step of the guide; the piece at which it goes on, if there is one.
+    void OpenStep(FirstSteps::Step step, const std::optional<GamePiece>& piece);
+    void ShowGuide(bool bShown);
     void Choose(Menu menu, int Index);
     /// Opens the list of what there is to mend.
     void CheckGameInHand();
@@ -121,6 +130,7 @@ private:
     ToolTips m_tips;
     ToolBar m_toolBar;
     BoardView m_view;
+    SideField m_side;
     GameCommands m_commands;
     GameSharing m_sharing;
     StartRequests m_requests;
@@ -135,6 +145,7 @@ private:
     CommonDialog dlgCommon;
     std::unique_ptr<frmAbout> m_about;
     QPointer<frmCheck> m_check;
+    GuideTab* m_guide = nullptr;
 
     bool bInPrint = false;
     bool m_bPrintedSomething = false;

@@ -21,6 +21,7 @@
 #include "windowing/basCommon_forms.h"
 #include "windowing/PictureBox.h"
 #include "windowing/Screen.h"
+#include "windows/side/GuideTab.h"
 
 namespace {
 
@@ -34,6 +35,7 @@ constexpr qint32 kBoardFace = 0xE0FFE0;
 // Each part on its own: whatever the disk refuses, a window with a game stands in the end.
 void frmTAVL::Form_Load() {
     PrepareStart();
+    ReadSideSettings();
     StartWithGame();
     HideSplash();
 }
@@ -54,6 +56,13 @@ void frmTAVL::PrepareStart() try {
     SizeMainWindow();
     basTAVL::g_lMagicColor() = basDraw::Draw_ReverseColor(Color::FromValue(kBoardFace));
     GameKit::ReadGameVersion();
+} catch (...) {
+    ErrTop("frmTAVL!", "Form_Load");
+}
+
+void frmTAVL::ReadSideSettings() try {
+    m_side.Panel().SetTabShown(GuideTab::kName, GuideTab::IsWanted());
+    m_side.ReadSettings();
 } catch (...) {
     ErrTop("frmTAVL!", "Form_Load");
 }

@@ -46,6 +46,13 @@ std::vector<SampleGame> SampleGames() {
     return games;
 }
 
+QString NewGameFile() {
+    const QString folder = Folders::ProgramDirectory();
+    const QString game = basCommon::JoinPath(folder, QStringLiteral("Default.dat"));
+    if (basCommon::DoesFileExist(game)) return game;
+    return basCommon::JoinPath(folder, QString::fromLatin1(Locale::kDefaultGame));
+}
+
 void CopySampleGames() try {
     const QString from = Folders::ProgramDirectory();
     const QString to = basCommon::GetMyGamesDirectory();

@@ -31,6 +31,38 @@ TEST(MainLayoutTest, ScrollBarsTakeTheirWidthFromTheBoard) {
     EXPECT_EQ(layout.vscrl, QRect(120 + 12960, 390, 240, 12960));
 }
 
+constexpr int kBoard = 13200;
+
+MainLayout LaidOutWithFree(int pixels, MainLayout::Side side) {
+    const QSize size(kBoard + 2 * MainLayout::kGap + pixels * 15, kSide);
+    return ComputeMainLayout({size, size, 390, 300}, 1.0F, side);
+}
+
+TEST(MainLayoutTest, SidePanelTakesWhatIsFreeFrom240PixelsOn) {
+    const MainLayout layout = LaidOutWithFree(240, MainLayout::Side::Shown);
+    EXPECT_EQ(layout.picBoard, QRect(120, 390, kBoard, kBoard)) << "the board stays";
+    EXPECT_EQ(layout.cmd[0].left(), 120);
+    EXPECT_EQ(layout.sideHandle, QRect(120 + kBoard + 120, 390, 210, kBoard + 120 + 300));
+    EXPECT_EQ(layout.side, QRect(120 + kBoard + 120 + 210, 390, 240 * 15 - 210, kBoard + 120 + 300));
+    const MainLayout narrow = LaidOutWithFree(239, MainLayout::Side::Shown);
+    EXPECT_TRUE(narrow.side.isEmpty());
+    EXPECT_TRUE(narrow.sideHandle.isEmpty());
+    EXPECT_EQ(narrow.picBoard, layout.picBoard);
+}
+
+TEST(MainLayoutTest, HiddenSidePanelLeavesTheBoardInTheMiddle) {
+    const MainLayout layout = LaidOutWithFree(400, MainLayout::Side::Hidden);
+    EXPECT_TRUE(layout.side.isEmpty());
+    const int right = layout.sideHandle.left();
+    EXPECT_EQ(right + layout.sideHandle.width(), kBoard + 240 + 6000) << "the handle stays at the edge";
+    const int left = layout.picBoard.left();
+    EXPECT_NEAR(left, right - left - kBoard, 15);
+    EXPECT_EQ(left % 15, 0) << "whole pixels";
+    EXPECT_EQ(layout.cmd[0].left(), left);
+    EXPECT_EQ(LaidOutWithFree(200, MainLayout::Side::Hidden).picBoard.left(), 120);
+    EXPECT_EQ(LaidOutWithFree(400, MainLayout::Side::None).picBoard.left(), 120) << "there is no panel to hide";
+}
+
 TEST(MainLayoutTest, OffsetIsTheScrolledPartOfWhatIsHidden) {
     EXPECT_EQ(ScrollOffset(100, 100, 2.0F, 6000, 15), -400);
     EXPECT_EQ(ScrollOffset(50, 100, 3.0F, 6000, 15), -400);

@@ -10,6 +10,7 @@
 #include "platform/paint/Units.h"
 #include "platform/printing/Printer.h"
 #include "services/basAPI.h"
+#include "services/basCommon.h"
 #include "services/basErrLog.h"
 #include "windowing/ElidedLabel.h"
 #include "windowing/PictureBox.h"
@@ -238,6 +239,7 @@ void frmTavlPrint::CloseDocument(Printer& printer) {
     if (bPrintOnScreen) ShowPage(m_screen.Page());
     m_sWrittenPdf = printer.LastPdf();
     if (printer.LastError().isEmpty()) {
+        if (!bPrintOnScreen) basCommon::WriteIniString(QStringLiteral("PrintedGame"), GameHost::Current().GameName());
         // The next page may belong to this one: from now on the printer stays the same.
         m_bPrintStarted = m_bPrintStarted || !printer.DeviceName().isEmpty();
         return;

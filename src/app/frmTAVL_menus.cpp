@@ -1,0 +1,172 @@
+// SPDX-License-Identifier: MIT
+#include "app/frmTAVL.h"
+
+#include "app/EditorRoutes.h"
+#include "app/frmAbout.h"
+#include "app/frmPrintManual.h"
+#include "check/GamePiece.h"
+#include "services/basCommon.h"
+#include "services/basErrLog.h"
+#include "windows/check/frmCheck.h"
+#include "windows/print/ChangePrinter.h"
+
+void frmTAVL::Choose(Menu menu, int Index) {
+    switch (menu) {
+        case Menu::File:
+            return mnuFile_Click(Index);
+        case Menu::Edit:
+            return mnuEdit_Click(Index);
+        case Menu::View:
+            return mnuView_Click(Index);
+        case Menu::Zoom:
+            return mnuZoom_Click(Index);
+        case Menu::Help:
+            return mnuHelp_Click(Index);
+    }
+}
+
+void frmTAVL::mnuFile_Click(int Index) try {
+    switch (Index) {
+        case 0:
+            return m_commands.New();
+        case 2:
+            return m_commands.Open();
+        case 3:
+            return m_commands.Save();
+        case 4:
+            return m_commands.SaveAs();
+        case 6:
+            return PrinterSetup();
+        case 7:
+            return Print();
+        case 9:
+            return ExitWithQuestion();
+        case 20:
+            return m_commands.Duplicate();
+        case 30:
+            return m_sharing.Send();
+        case 31:
+            return m_sharing.SaveBoardPicture();
+        case 1:
+        case 5:
+        case 8:
+            return;
+        default:
+            basCommon::Assert(false, QStringLiteral("Unexpected mnu_File"), QStringLiteral("frmTAVL!mnuFile_Click"));
+    }
+} catch (...) {
+    ErrTail("frmTAVL!", "mnuFile_Click", Index);
+}
+
+void frmTAVL::mnuEdit_Click(int Index) {
+    if (Index == 0) {
+        m_commands.Undo();
+    } else if (Index == 1) {
+        m_commands.Redo();
+    } else if (Index == 3) {
+        CheckGameInHand();
+    } else {
+        m_sharing.CopyBoardPicture();
+    }
+}
+
+void frmTAVL::mnuZoom_Click(int Index) try { m_view.SetZoom(Index + 1); } catch (...) {
+    ErrTail("frmTAVL!", "mnuZoom_Click", Index);
+}
+
+void frmTAVL::mnuView_Click(int Index) try {
+    switch (Index) {
+        case 0:
+            m_view.SetZoom(1);
+            return m_view.Redraw();
+        case 1:
+            return EditMoney();
+        case 2:
+            return EditNews(0);
+        case 3:
+            return EditNews(1);
+        case 4:
+            return EditToken();
+        case 5:
+        case 7:
+            return;
+        case 6:
+            return m_tips.Toggle();
+        case 8:
+            return m_doors.Setup(*this);
+        case 9:
+            return m_about->ShowForm();
+        case 21:
+            return m_side.SetWished(!m_side.IsWished());
+        default:
+            basCommon::Assert(false, QStringLiteral("Unexpected Case"), QStringLiteral("frmTAVL!mnuView_Click"));
+    }
+} catch (...) {
+    ErrTail("frmTAVL!", "mnuView_Click", Index);
+}
+
+void frmTAVL::mnuHelp_Click(int Index) try {
+    switch (Index) {
+        case 0:
+            return m_about->ShowForm();
+        case 1:
+            return frmPrintManual(this).ShowForm(false);
+        case 2:
+            return;
+        case 21:
+            return ShowGuide(true);
+        default:
+            basCommon::Assert(false, QStringLiteral("Unexpected Case"), QStringLiteral("frmTAVL!mnuHelp_Click"));
+    }
+} catch (...) {
+    ErrTail("frmTAVL!", "mnuHelp_Click", Index);
+}
+
+void frmTAVL::cmd_Click(int Index) try {
+    switch (Index) {
+        case 0:
+            return EditMoney();
+        case 1:
+        case 2:
+            // Both open Good News, on purpose: so it has always been.
+            return EditNews(0);
+        case 3:
+            return Print();
+        case 4:
+            // No question but the one about unsaved changes.
+            close();
+            return;
+        default:
+            basCommon::Assert(false, QStringLiteral("Unexpected Case"), QStringLiteral("frmTAVL!cmd_Click"));
+    }
+} catch (...) {
+    ErrTail("frmTAVL!", "cmd_Click", Index);
+}
+
+void frmTAVL::Print() {
+    if (m_commands.InHand().IsUnsaved()) {
+        MsgBox(QStringLiteral("Please save your changes before printing."));
+        return;
+    }
+    m_bPrintedSomething = m_doors.Print(*this);
+}
+
+void frmTAVL::CheckGameInHand() {
+    if (!m_check) {
+        const frmCheck::Doors doors{
+            .show = [this](const GamePiece& piece) { m_view.ShowPlace(BoardPlace::Of(piece)); },
+            .open = [this](const GamePiece& piece) { OpenPlace(BoardPlace::Of(piece)); },
+            .isBusy = std::bind_front(&frmTAVL::IsInPrint, this),
+        };
+        m_check = new frmCheck(m_commands.InHand(), doors, this);
+    }
+    m_check->ShowForm();
+}
+
+void frmTAVL::PrinterSetup() { ChangePrinter(dlgCommon, m_bPrintedSomething); }
+
+void frmTAVL::ExitWithQuestion() {
+    const int answer =
+        MsgBox(QStringLiteral("Are you certain you want to exit Tavlora at this time?"), vbYesNo | vbQuestion);
+    if (answer == vbYes) close();
+}

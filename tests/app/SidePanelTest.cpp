@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: MIT
+// The panel beside the board: its coming and going, its tabs, and the guide in it.
+#include "MainWindowFixture.h"
+
+#include "windows/side/GuideTab.h"
+
+#include <QCommandLinkButton>
+#include <QTabBar>
+#include <QToolButton>
+
+namespace {
+
+class SidePanelTest : public MainWindowTest {
+protected:
+    SidePanelTest() { Widen(); }
+    void Widen() const {
+        window->resize(1300, 700);
+        QApplication::processEvents();
+    }
+    SidePanel& Panel() const { return Find<SidePanel>("SidePanel"); }
+    QToolButton& Handle() const { return Find<QToolButton>("cmdSideHandle"); }
+    QCommandLinkButton& StepButton(int step) const {
+        return Find<QCommandLinkButton>(qPrintable(QStringLiteral("cmdStep_%1").arg(step)));
+    }
+    void Click(QAbstractButton& button) const { QTest::mouseClick(&button, Qt::LeftButton); }
+    QRect BoardAt() const { return window->View().Board().geometry(); }
+    bool IsMarked() const { return Find<QAction>("mnuView_21").isChecked(); }
+};
+
+TEST_F(SidePanelTest, StandsBesideTheBoardWhereThereIsRoom) {
+    EXPECT_TRUE(Panel().isVisible());
+    EXPECT_EQ(BoardAt().left(), 8);
+    EXPECT_GT(Panel().x(), BoardAt().right());
+    window->resize(BoardAt().width() + 16 + 239, window->height());
+    QApplication::processEvents();
+    EXPECT_FALSE(Panel().isVisible());
+    EXPECT_FALSE(Handle().isVisible());
+    EXPECT_EQ(BoardAt().left(), 8);
+}
+
+TEST_F(SidePanelTest, HandleAndMenuHideItAndTheBoardMovesToTheMiddle) {
+    Click(Handle());
+    EXPECT_FALSE(Panel().isVisible());
+    EXPECT_FALSE(IsMarked());
+    const int left = BoardAt().left();
+    EXPECT_NEAR(left, Handle().x() - BoardAt().right(), 2);
+    EXPECT_EQ(Find<QPushButton>("cmd_0").x(), left);
+    ChooseMenu("mnuView_21");
+    EXPECT_TRUE(Panel().isVisible());
+    EXPECT_TRUE(IsMarked());
+    EXPECT_EQ(BoardAt().left(), 8);
+}
+
+TEST_F(SidePanelTest, BoardInTheMiddleIsClickedWhereItLies) {
+    Click(Handle());
+    ClickBoard(MiddleOf(4).x(), MiddleOf(4).y());
+    EXPECT_EQ(routes.Take(), Strings{QStringLiteral("space 4")});
+}
+
+TEST_F(SidePanelTest, StaysAsItWasAtTheNextStart) {
+    Click(Handle());
+    Start();
+    Widen();
+    EXPECT_FALSE(Panel().isVisible());
+    EXPECT_TRUE(Handle().isVisible());
+}
+
+TEST_F(SidePanelTest, AnotherTabIsOneCallAndComesToTheFrontAgain) {
+    Panel().AddTab("Other", QStringLiteral("Other"), new QLabel(QStringLiteral("Here")));
+    QTest::mouseClick(Panel().tabBar(), Qt::LeftButton, {}, Panel().tabBar()->tabRect(1).center());
+    EXPECT_EQ(Panel().currentIndex(), 1);
+    EXPECT_TRUE(Find<QLabel>("Other").isVisible());
+    EXPECT_EQ(Ini("SideTab"), QStringLiteral("Other"));
+    EXPECT_TRUE(Panel().ShowTab(GuideTab::kName));
+    Panel().ReadSettings();
+    EXPECT_EQ(Panel().currentIndex(), 1);
+    EXPECT_FALSE(Panel().ShowTab("Nowhere"));
+}
+
+TEST_F(SidePanelTest, AStepOpensItsPlace) {
+    const Strings opened = {QStringLiteral("titles"), QStringLiteral("space 0"), QStringLiteral("space 0"),
+                           QStringLiteral("news 0"), QStringLiteral("print")};
+    for (int i = 0; i < FirstSteps::kSteps; ++i) {
+        Click(StepButton(i));
+        EXPECT_EQ(routes.Take(), Strings{opened[i]});
+    }
+}
+
+TEST_F(SidePanelTest, AStepIsTickedWhileItIsDone) {
+    Session& session = window->Commands().InHand();
+    EXPECT_FALSE(StepButton(0).description().startsWith(QStringLiteral("Done")));
+    Titles titles = session.InHand().titles;
+    titles.Text(1).sText = QStringLiteral("OURS");
+    session.Do(Edits::OfTitles(session.InHand(), titles));
+    EXPECT_EQ(StepButton(0).description(), QStringLiteral("Done."));
+    session.Undo();
+    EXPECT_FALSE(StepButton(0).description().startsWith(QStringLiteral("Done")));
+    EXPECT_EQ(StepButton(2).description(), QStringLiteral("Click a space and type its name."));
+    Edit(QStringLiteral("Our street"));
+    EXPECT_EQ(StepButton(2).description(), QStringLiteral("1 of 24 names are yours."));
+}
+
+TEST_F(SidePanelTest, GuideGoesForEverAndTheMenuBringsItBack) {
+    Click(Find<QPushButton>("cmdGuideAway"));
+    EXPECT_FALSE(Panel().isVisible()) << "nothing else stands in it";
+    EXPECT_FALSE(Handle().isVisible());
+    Start();
+    Widen();
+    EXPECT_FALSE(Panel().isVisible());
+    ChooseMenu("mnuHelp_21");
+    EXPECT_TRUE(Panel().isVisible());
+    EXPECT_TRUE(StepButton(0).isVisible());
+}
+
+TEST_F(SidePanelTest, WheelOverThePanelLeavesTheBoardAlone) {
+    QWheelEvent event(QPointF(5, 200), Panel().mapToGlobal(QPointF(5, 200)), QPoint(), QPoint(0, 120), Qt::NoButton,
+                      Qt::ControlModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&Panel(), &event);
+    EXPECT_EQ(window->View().Zoom(), 1.0F);
+}
+
+} // namespace
