@@ -5,6 +5,7 @@
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
 #include "services/Desktop.h"
+#include "services/Guide.h"
 #include "windowing/basCommon_forms.h"
 #include "windowing/WebPage.h"
 #include "windowing/WidgetLook.h"
@@ -22,7 +23,7 @@ constexpr int kIconSide = 64;
 constexpr double kHeadSize = 1.6;
 const QString kShowSplashKey = QStringLiteral("ShowSplash");
 
-QString LocalPage() { return basCommon::JoinPath(Folders::ProgramDirectory(), QStringLiteral("Assembly_US.html")); }
+QString LocalPage() { return Guide::PathOf(QString::fromLatin1(Guide::kStepsPage)); }
 
 // A build may name a page on the net; the page that is installed with the program has an address in any case.
 QString HelpAddress() {

@@ -2,6 +2,7 @@
 #include "tools/PrintArguments.h"
 
 #include "kit/Sheets.h"
+#include "services/ArgumentReader.h"
 
 namespace {
 
@@ -11,92 +12,42 @@ constexpr int kMaxDpi = 2400;
 constexpr int kMinBoardSize = 64;
 constexpr int kMaxBoardSize = 16384;
 
-class ArgumentReader {
+class PrintArgumentReader : ArgumentReader {
 public:
-    ArgumentReader(const QStringList& words, QString& sError) : m_words(words), m_error(sError) {}
+    PrintArgumentReader(const QStringList& words, QString& sError) : ArgumentReader(words, sError) {}
 
     std::optional<PrintArguments> Read() {
-        while (m_at < m_words.size()) {
-            if (!ReadWord(m_words.at(m_at++))) return std::nullopt;
-        }
-        if (!IsComplete()) return std::nullopt;
+        if (!ReadWords() || !IsComplete()) return std::nullopt;
         return m_arguments;
     }
 
 private:
-    bool Fail(const QString& sError) {
-        m_error = sError;
-        return false;
-    }
-
-    bool ReadWord(const QString& sWord) {
-        const bool option = !m_onlyNames && sWord.size() > 1 && sWord.startsWith(u'-');
-        if (!option) return TakeGame(sWord);
-        if (sWord == QStringLiteral("--")) {
-            m_onlyNames = true;
-            return true;
-        }
-        const qsizetype equals = sWord.startsWith(QStringLiteral("--")) ? sWord.indexOf(u'=') : -1;
-        m_option = equals < 0 ? sWord : sWord.left(equals);
-        m_inline = equals < 0 ? std::optional<QString>() : sWord.mid(equals + 1);
-        return ReadOption();
-    }
-
-    bool TakeGame(const QString& sWord) {
-        if (!m_arguments.sGame.isEmpty()) return Fail(QStringLiteral("unexpected argument '%1'").arg(sWord));
+    bool TakeWord(const QString& sWord) override {
+        if (!m_arguments.sGame.isEmpty()) return ArgumentReader::TakeWord(sWord);
         m_arguments.sGame = sWord;
         return true;
     }
 
-    bool ReadOption() {
-        if (m_option == QStringLiteral("--help") || m_option == QStringLiteral("-h")) return Flag(m_arguments.bHelp);
-        if (m_option == QStringLiteral("--version")) return Flag(m_arguments.bVersion);
-        if (m_option == QStringLiteral("--list")) return Flag(m_arguments.bList);
-        if (m_option == QStringLiteral("--check")) return Flag(m_arguments.bCheck);
-        if (m_option == QStringLiteral("--json")) return Flag(m_arguments.bJson);
-        if (m_option == QStringLiteral("-o") || m_option == QStringLiteral("--output"))
-            return Text(m_arguments.sOutput);
-        if (m_option == QStringLiteral("--board")) return Text(m_arguments.sBoard);
-        if (m_option == QStringLiteral("--pack")) return Text(m_arguments.sPack);
-        if (m_option == QStringLiteral("--small-pictures")) return Flag(m_arguments.bSmallPictures);
-        if (m_option == QStringLiteral("--pieces")) return Text(m_arguments.sPieces);
-        if (m_option == QStringLiteral("--data")) return Text(m_arguments.sData);
-        if (m_option == QStringLiteral("--size")) return Number(m_arguments.iBoardSize, kMinBoardSize, kMaxBoardSize);
-        if (m_option == QStringLiteral("--dpi")) return Number(m_arguments.iDpi, kMinDpi, kMaxDpi);
-        if (m_option == QStringLiteral("--paper")) return Paper();
-        if (m_option == QStringLiteral("--variant")) return Variant();
-        if (m_option == QStringLiteral("--sheet")) return Sheets();
-        return Fail(QStringLiteral("unknown option '%1'").arg(m_option));
-    }
-
-    bool Flag(bool& bFlag) {
-        if (m_inline) return Fail(QStringLiteral("option '%1' takes no value").arg(m_option));
-        bFlag = true;
-        return true;
-    }
-
-    bool Text(QString& sValue) {
-        if (!m_inline && m_at < m_words.size()) m_inline = m_words.at(m_at++);
-        if (!m_inline || m_inline->isEmpty()) return Fail(QStringLiteral("option '%1' needs a value").arg(m_option));
-        sValue = *m_inline;
-        return true;
-    }
-
-    bool Number(int& iValue, int iLeast, int iMost) {
-        QString text;
-        if (!Text(text)) return false;
-        bool ok = false;
-        iValue = text.toInt(&ok);
-        if (ok && iValue >= iLeast && iValue <= iMost) return true;
-        return Fail(QStringLiteral("option '%1' takes a whole number from %2 to %3, not '%4'")
-                        .arg(m_option, QString::number(iLeast), QString::number(iMost), text));
-    }
-
-    bool OneOf(QString& sValue, const QStringList& allowed) {
-        if (!Text(sValue)) return false;
-        if (allowed.contains(sValue)) return true;
-        return Fail(QStringLiteral("option '%1' takes one of %2, not '%3'")
-                        .arg(m_option, allowed.join(QStringLiteral(", ")), sValue));
+    bool ReadOption(const QString& sOption) override {
+        if (sOption == QStringLiteral("--help") || sOption == QStringLiteral("-h")) return Flag(m_arguments.bHelp);
+        if (sOption == QStringLiteral("--version")) return Flag(m_arguments.bVersion);
+        if (sOption == QStringLiteral("--list")) return Flag(m_arguments.bList);
+        if (sOption == QStringLiteral("--guide")) return Flag(m_arguments.bGuide);
+        if (sOption == QStringLiteral("--check")) return Flag(m_arguments.bCheck);
+        if (sOption == QStringLiteral("--json")) return Flag(m_arguments.bJson);
+        if (sOption == QStringLiteral("-o") || sOption == QStringLiteral("--output")) return Text(m_arguments.sOutput);
+        if (sOption == QStringLiteral("--board")) return Text(m_arguments.sBoard);
+        if (sOption == QStringLiteral("--pages")) return Text(m_arguments.sPages);
+        if (sOption == QStringLiteral("--pack")) return Text(m_arguments.sPack);
+        if (sOption == QStringLiteral("--small-pictures")) return Flag(m_arguments.bSmallPictures);
+        if (sOption == QStringLiteral("--pieces")) return Text(m_arguments.sPieces);
+        if (sOption == QStringLiteral("--data")) return Text(m_arguments.sData);
+        if (sOption == QStringLiteral("--size")) return Number(m_arguments.iBoardSize, kMinBoardSize, kMaxBoardSize);
+        if (sOption == QStringLiteral("--dpi")) return Number(m_arguments.iDpi, kMinDpi, kMaxDpi);
+        if (sOption == QStringLiteral("--paper")) return Paper();
+        if (sOption == QStringLiteral("--variant")) return Variant();
+        if (sOption == QStringLiteral("--sheet")) return Sheets();
+        return Fail(QStringLiteral("unknown option '%1'").arg(sOption));
     }
 
     bool Paper() {
@@ -117,39 +68,42 @@ private:
         if (!Text(name)) return false;
         if (!FindSheet(name)) return Fail(QStringLiteral("there is no sheet '%1'; see --list").arg(name));
         m_arguments.sheets.append(name);
-        while (m_at < m_words.size() && FindSheet(m_words.at(m_at)))
-            m_arguments.sheets.append(m_words.at(m_at++));
+        for (std::optional<QString> next = NextWord(); next && FindSheet(*next); next = NextWord()) {
+            m_arguments.sheets.append(*next);
+            SkipWord();
+        }
         return true;
+    }
+
+    bool IsGuideComplete() {
+        if (m_arguments.sOutput.isEmpty()) return Fail(QStringLiteral("the guide needs a file to go to: -o FILE.pdf"));
+        if (m_arguments.sGame.isEmpty()) return true;
+        return Fail(QStringLiteral("the guide is the same for every game: --guide goes without one"));
     }
 
     bool IsComplete() {
         const PrintArguments& asked = m_arguments;
         if (asked.bHelp || asked.bVersion || asked.bList) return true;
+        if (asked.bGuide) return IsGuideComplete();
         if (asked.sGame.isEmpty()) return Fail(QStringLiteral("no game file was given"));
-        if (asked.sOutput.isEmpty() && !asked.sheets.isEmpty())
+        if (asked.sOutput.isEmpty() && asked.sPages.isEmpty() && !asked.sheets.isEmpty())
             return Fail(QStringLiteral("sheets need a file to go to: -o FILE.pdf"));
         if (asked.bJson && (asked.Makes() || !asked.bCheck))
             return Fail(QStringLiteral("--json goes with --check alone"));
         if (!asked.Makes() && !asked.bCheck)
-            return Fail(QStringLiteral("nothing to make: give -o, --board, --pieces or --pack"));
+            return Fail(QStringLiteral("nothing to make: give -o, --board, --pages, --pieces or --pack"));
         if (asked.sPack.isEmpty() && asked.bSmallPictures)
             return Fail(QStringLiteral("option '--small-pictures' goes with --pack"));
         return true;
     }
 
-    const QStringList& m_words;
-    QString& m_error;
-    qsizetype m_at = 0;
-    bool m_onlyNames = false;
-    QString m_option;
-    std::optional<QString> m_inline;
     PrintArguments m_arguments;
 };
 
 } // namespace
 
 std::optional<PrintArguments> PrintArguments::Parse(const QStringList& words, QString& sError) {
-    return ArgumentReader(words, sError).Read();
+    return PrintArgumentReader(words, sError).Read();
 }
 
 QString PrintArguments::Usage() {
@@ -158,8 +112,11 @@ QString PrintArguments::Usage() {
   tavlora-print GAME.gam -o KIT.pdf                 the whole kit, one page a sheet
   tavlora-print GAME.gam --sheet NAME... -o F.pdf   only these sheets
   tavlora-print GAME.gam --board B.png [--size N]   the board as a picture, N pixels square (default 960)
+  tavlora-print GAME.gam --pages DIR [--size N]     each sheet as a picture, N pixels on its longer side
   tavlora-print GAME.gam --pieces DIR               every made picture (stickers, notes, tokens, titles) as PNG
   tavlora-print GAME.gam --check [--json]           what would come out badly on paper
+  tavlora-print GAME.gam --pack GAME.tavlora        the game with its pictures, to be sent to somebody
+  tavlora-print --guide -o GUIDE.pdf                how a game is put together, with pictures
   tavlora-print --list                              the sheets: name, title, stock, orientation
 
 Each of them takes a packed game (GAME.tavlora) in place of GAME.gam.
@@ -172,7 +129,7 @@ Options:
   --board B.pdf         the board as a page of ten inches, which stays sharp at every size
   --small-pictures      --pack puts pictures in only as large as paper shows them
   --data DIR            take the program's own data files (rents, rules, pictures) from DIR
-  --check               beside -o, --board, --pieces or --pack: warns of what would come out badly on paper
+  --check               beside what is made: warns of what would come out badly on paper
   --help, --version
 
 Exit status: 0 when all was made, 1 when something could not be read, loaded or written, 2 for wrong usage.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QPageSize>
 #include <QString>
 #include <QStringList>
 
@@ -21,6 +22,7 @@ struct PrintArguments {
     QStringList sheets;
     /// PNG file of the board; empty for none.
     QString sBoard;
+    /// Pixels of the board's sides, and of the longer side of a sheet's picture.
     int iBoardSize = kDefaultBoardSize;
     /// File for the game with its pictures; empty for none.
     QString sPack;
@@ -28,6 +30,10 @@ struct PrintArguments {
     bool bSmallPictures = false;
     /// Folder for the made pictures; empty for none.
     QString sPieces;
+    /// Folder for pictures of the sheets; empty for none.
+    QString sPages;
+    /// The kit's guide goes to the output, in place of a game.
+    bool bGuide = false;
     /// Look the game over, and warn of what is found where something is made, too.
     bool bCheck = false;
     /// Tell what was found in a form for scripts.
@@ -42,6 +48,9 @@ struct PrintArguments {
     /// Reads the words behind the program's name. Nothing, and a sentence in sError, for wrong usage.
     static std::optional<PrintArguments> Parse(const QStringList& words, QString& sError);
     /// Whether any file is to be made.
-    bool Makes() const { return !sOutput.isEmpty() || !sBoard.isEmpty() || !sPieces.isEmpty() || !sPack.isEmpty(); }
+    bool Makes() const {
+        return !sOutput.isEmpty() || !sBoard.isEmpty() || !sPieces.isEmpty() || !sPages.isEmpty() || !sPack.isEmpty();
+    }
+    QPageSize::PageSizeId Paper() const { return bA4 ? QPageSize::A4 : QPageSize::Letter; }
     static QString Usage();
 };

@@ -41,20 +41,10 @@ QStringList AllSheets() {
     return names;
 }
 
-QPageSize::PageSizeId PaperOf(const PrintArguments& arguments) {
-    return arguments.bA4 ? QPageSize::A4 : QPageSize::Letter;
-}
-
 std::vector<Finding> FindingsInHand(const PrintArguments& arguments) {
     PictureFacts facts;
-    const PdfPrinter page({}, {}, PaperOf(arguments));
+    const PdfPrinter page({}, {}, arguments.Paper());
     return CheckGame(TheGame(), facts, {page.PrintableInches()});
-}
-
-QString TitleOf(const QString& sGame) {
-    QString drive, dir, base, ext;
-    basCommon::FileNameFactor(Console::CompletePath(sGame), drive, dir, base, ext);
-    return base;
 }
 
 QString FindPicture(const QString& sName, const PictureOwner& owner) {
@@ -85,6 +75,12 @@ void PrepareSettings(const PrintArguments& arguments, const QString& sPrivateFol
 }
 
 } // namespace
+
+QString PrintCommand::TitleOf(const QString& sGame) {
+    QString drive, dir, base, ext;
+    basCommon::FileNameFactor(Console::CompletePath(sGame), drive, dir, base, ext);
+    return base;
+}
 
 void PrintCommand::Complain(const QString& sText) {
     EndProgress();
@@ -129,7 +125,7 @@ int PrintCommand::Run(const QStringList& words) {
     } else if (arguments->bList) {
         List();
     } else {
-        return Carry(*arguments);
+        return arguments->bGuide ? PrintGuide(*arguments) : Carry(*arguments);
     }
     m_out.flush();
     return kDone;
@@ -178,8 +174,7 @@ bool PrintCommand::LoadGame(const QString& sGame) {
 }
 
 int PrintCommand::PrintGame(const PrintArguments& arguments) {
-    const QStringList sheets =
-        arguments.sheets.isEmpty() && !arguments.sOutput.isEmpty() ? AllSheets() : arguments.sheets;
+    const QStringList sheets = arguments.sheets.isEmpty() ? AllSheets() : arguments.sheets;
     Session session;
     frmBMP::InstallAsThumbnailMaker();
     session.SetGameName(Console::CompletePath(arguments.sGame));
@@ -192,6 +187,7 @@ int PrintCommand::PrintGame(const PrintArguments& arguments) {
     basPosit::PosSethDC(&session.MeasuringDevice());
     if (!arguments.sPieces.isEmpty() && !WritePieces(Console::CompletePath(arguments.sPieces))) return kFailed;
     if (!arguments.sPack.isEmpty() && !PackGame(arguments)) return kFailed;
+    if (!arguments.sPages.isEmpty() && !PaintPages(arguments, sheets)) return kFailed;
     return arguments.sOutput.isEmpty() ? kDone : PrintSheetsOf(arguments, sheets);
 }
 
@@ -267,52 +263,4 @@ bool PrintCommand::WritePieces(const QString& sFolder) {
     }
     EndProgress();
     return true;
-}
-
-bool PrintCommand::PrintOneSheet(Printer& printer, const Sheet& sheet, const QString& sTold) {
-    printer.SetOrientation(sheet.OrientationOf(KitInUse()));
-    SheetJob job{printer, [this, sTold](int iThousandths) { Progress(sTold, iThousandths); }};
-    if (!sheet.Prepare(job)) return false;
-    if (!sheet.Print(job)) {
-        for (const QString& lack : job.lacking)
-            Complain(QString::fromLatin1(sheet.sName) + QStringLiteral(": ") + lack);
-        return false;
-    }
-    printer.EndDoc();
-    return true;
-}
-
-QStringList PrintCommand::WithoutLeftOut(const QStringList& sheets) {
-    QStringList printed;
-    QStringList leftOut;
-    QString why;
-    for (const QString& name : sheets) {
-        const QString reason = FindSheet(name)->WhyLeftOut(KitInUse());
-        (reason.isEmpty() ? printed : leftOut).append(name);
-        if (!reason.isEmpty()) why = reason;
-    }
-    if (!leftOut.isEmpty())
-        Complain(why + QStringLiteral(" Left out: ") + leftOut.join(QStringLiteral(", ")) + QStringLiteral("."));
-    return printed;
-}
-
-int PrintCommand::PrintSheetsOf(const PrintArguments& arguments, const QStringList& asked) {
-    const QStringList sheets = WithoutLeftOut(asked);
-    if (sheets.isEmpty()) return kFailed;
-    PdfPrinter printer(arguments.sOutput, TitleOf(arguments.sGame), PaperOf(arguments), arguments.iDpi);
-    int number = 0;
-    for (const QString& name : sheets) {
-        const Sheet& sheet = *FindSheet(name);
-        const QString told = QStringLiteral("%1/%2 %3").arg(++number).arg(sheets.size()).arg(sheet.Title(kKitOfList));
-        Progress(told, 0);
-        if (!PrintOneSheet(printer, sheet, told)) {
-            EndProgress();
-            return kFailed;
-        }
-    }
-    EndProgress();
-    QString error;
-    if (printer.Close(error)) return sheets.size() == asked.size() ? kDone : kFailed;
-    Complain(QStringLiteral("'%1' could not be written: %2").arg(arguments.sOutput, error));
-    return kFailed;
 }

@@ -37,6 +37,9 @@ private:
     void WarnOfInHand(const PrintArguments& arguments);
     /// A page of the printer's; sTold is shown with its progress. False when it isn't whole, which has then been told.
     bool PrintOneSheet(Printer& printer, const Sheet& sheet, const QString& sTold);
+    /// Each sheet as a picture into a folder, which is made if need be. False when one isn't there.
+    bool PaintPages(const PrintArguments& arguments, const QStringList& asked);
+    int PrintGuide(const PrintArguments& arguments);
     int PrintSheetsOf(const PrintArguments& arguments, const QStringList& asked);
     /// Those of the sheets that this build prints for the kit; names the others in one line.
     QStringList WithoutLeftOut(const QStringList& sheets);
@@ -49,6 +52,8 @@ private:
     /// A line for each font that doesn't go along.
     void TellOfFonts(const Packing::Contents& contents);
     bool LoadGame(const QString& sGame);
+    /// A game's file without its folder and its ending.
+    static QString TitleOf(const QString& sGame);
     void List();
     void Complain(const QString& sText);
     /// Shows what is made and how far that is, in thousandths.

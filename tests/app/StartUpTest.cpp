@@ -30,7 +30,7 @@ bool Shows(const QWidget& window, const char* name) {
 
 class StartUpTest : public AppTest {
 protected:
-    static QUrl HelpPage() { return QUrl::fromLocalFile(QStringLiteral(TAVLORA_DATA_DIR "/Assembly_US.html")); }
+    static QUrl HelpPage() { return QUrl::fromLocalFile(QStringLiteral(TAVLORA_DATA_DIR "/guide/index.html")); }
 };
 
 TEST_F(StartUpTest, Edge_NameTavlora2aIsVariant2AAndTheIniChangesTheVariantButNotTheColours) {

@@ -2,6 +2,7 @@
 #include "simulator/PlayCommand.h"
 
 #include "simulator/PlayArguments.h"
+#include "support/ManPage.h"
 #include "support/TestFixture.h"
 
 #include <QDir>
@@ -115,6 +116,10 @@ TEST_F(PlayCommandTest, WrongUsageIsToldInASentence) {
         EXPECT_EQ(Run(row.words), PlayCommand::kWrongUsage);
         EXPECT_EQ(errors, QStringLiteral("tavlora-play: %1; see --help\n").arg(QString::fromLatin1(row.error)));
     }
+}
+
+TEST_F(PlayCommandTest, ManPageTellsEveryArgumentAndNoOther) {
+    EXPECT_EQ(ManPage::OptionsOf("tavlora-play.1"), ManPage::OptionsIn(PlayArguments::Usage()));
 }
 
 TEST_F(PlayCommandTest, HelpAndVersion) {

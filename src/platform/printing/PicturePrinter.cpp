@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/printing/PicturePrinter.h"
 
+#include "platform/paint/Resample.h"
+
 #include <utility>
 
 namespace {
@@ -29,6 +31,13 @@ void PicturePrinter::EndDoc() {
     hDC().Flush(); // a page without a mark on it is a page all the same
     m_context.reset();
     m_page = Picture(std::exchange(m_image, QImage()));
+}
+
+Picture PicturePrinter::SmallPage(int longerSide) const {
+    const QImage& page = m_page.Image();
+    const QSize size = page.size().scaled(longerSide, longerSide, Qt::KeepAspectRatio);
+    if (page.isNull() || size.width() >= page.width()) return m_page;
+    return Picture(Resample(page, page.rect(), size));
 }
 
 void PicturePrinter::KillDoc() {

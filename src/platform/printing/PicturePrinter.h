@@ -24,6 +24,8 @@ public:
 
     /// The page ended last; nothing before the first.
     const Picture& Page() const { return m_page; }
+    /// The same with so many pixels on its longer side, at most as many as it has.
+    Picture SmallPage(int longerSide) const;
 
 private:
     int m_dpi;

@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+// The sheets of the game in memory, and the guide.
+#include "kit/Sheets.h"
+#include "platform/files/Console.h"
+#include "platform/files/Files.h"
+#include "platform/files/Folders.h"
+#include "platform/pictures/SavePicture.h"
+#include "platform/printing/PicturePrinter.h"
+#include "platform/printing/SaveHtml.h"
+#include "services/basPath.h"
+#include "services/Guide.h"
+#include "tools/PrintArguments.h"
+#include "tools/PrintCommand.h"
+
+#include <algorithm>
+
+namespace {
+
+// Painted finer than it is wanted and then shrunk, as lines of a few hundredths of an inch would vanish or double.
+int DotsFor(int lSize) {
+    constexpr int kShorterSideInches = 8;
+    return std::max(PicturePrinter::kDefaultDpi, lSize / kShorterSideInches);
+}
+
+} // namespace
+
+bool PrintCommand::PrintOneSheet(Printer& printer, const Sheet& sheet, const QString& sTold) {
+    printer.SetOrientation(sheet.OrientationOf(KitInUse()));
+    SheetJob job{printer, [this, sTold](int iThousandths) { Progress(sTold, iThousandths); }};
+    if (!sheet.Prepare(job)) return false;
+    if (!sheet.Print(job)) {
+        for (const QString& lack : job.lacking)
+            Complain(QString::fromLatin1(sheet.sName) + QStringLiteral(": ") + lack);
+        return false;
+    }
+    printer.EndDoc();
+    return true;
+}
+
+QStringList PrintCommand::WithoutLeftOut(const QStringList& sheets) {
+    QStringList printed;
+    QStringList leftOut;
+    QString why;
+    for (const QString& name : sheets) {
+        const QString reason = FindSheet(name)->WhyLeftOut(KitInUse());
+        (reason.isEmpty() ? printed : leftOut).append(name);
+        if (!reason.isEmpty()) why = reason;
+    }
+    if (!leftOut.isEmpty())
+        Complain(why + QStringLiteral(" Left out: ") + leftOut.join(QStringLiteral(", ")) + QStringLiteral("."));
+    return printed;
+}
+
+int PrintCommand::PrintSheetsOf(const PrintArguments& arguments, const QStringList& asked) {
+    const QStringList sheets = WithoutLeftOut(asked);
+    if (sheets.isEmpty()) return kFailed;
+    PdfPrinter printer(arguments.sOutput, TitleOf(arguments.sGame), arguments.Paper(), arguments.iDpi);
+    int number = 0;
+    for (const QString& name : sheets) {
+        const Sheet& sheet = *FindSheet(name);
+        const QString told = QStringLiteral("%1/%2 %3").arg(++number).arg(sheets.size()).arg(sheet.Title(Kit::Eight));
+        Progress(told, 0);
+        if (!PrintOneSheet(printer, sheet, told)) {
+            EndProgress();
+            return kFailed;
+        }
+    }
+    EndProgress();
+    QString error;
+    if (printer.Close(error)) return sheets.size() == asked.size() ? kDone : kFailed;
+    Complain(QStringLiteral("'%1' could not be written: %2").arg(arguments.sOutput, error));
+    return kFailed;
+}
+
+bool PrintCommand::PaintPages(const PrintArguments& arguments, const QStringList& asked) {
+    const QString folder = Console::CompletePath(arguments.sPages);
+    QString error;
+    if (!Files::MakeDirectory(folder, error)) {
+        Complain(QStringLiteral("'%1' could not be made: %2").arg(folder, error));
+        return false;
+    }
+    const QStringList sheets = WithoutLeftOut(asked);
+    for (const QString& name : sheets) {
+        PicturePrinter printer(DotsFor(arguments.iBoardSize));
+        if (!PrintOneSheet(printer, *FindSheet(name), name)) return false;
+        const QString file = basCommon::JoinPath(folder, name + QStringLiteral(".png"));
+        if (SavePicture(printer.SmallPage(arguments.iBoardSize), file, error)) continue;
+        Complain(QStringLiteral("'%1' could not be written: %2").arg(file, error));
+        return false;
+    }
+    EndProgress();
+    return sheets.size() == asked.size();
+}
+
+int PrintCommand::PrintGuide(const PrintArguments& arguments) {
+    if (!arguments.sData.isEmpty()) Folders::SetProgramDirectory(Console::CompletePath(arguments.sData));
+    QString error;
+    const HtmlBook guide{Guide::Folder(), Guide::Pages(), QStringLiteral("Putting a game of Tavlora together")};
+    if (SaveHtmlAsPdf(guide, arguments.Paper(), Console::CompletePath(arguments.sOutput), error)) return kDone;
+    Complain(QStringLiteral("'%1' could not be written: %2").arg(arguments.sOutput, error));
+    return kFailed;
+}
