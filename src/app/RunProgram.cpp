@@ -22,6 +22,7 @@
 #include "windowing/Screen.h"
 #include "windowing/SystemPrinter.h"
 #include "windowing/WidgetLook.h"
+#include "windows/help/WindowHelp.h"
 
 namespace {
 
@@ -87,6 +88,8 @@ int RunProgram(int argc, char** argv, DesktopWidgets& desktop) {
     Settings().sProgramName = ProgramNameFromArgv0(QString::fromLocal8Bit(argv[0]));
     Application application(argc, argv);
     application.SetLastNet(&ReportUncaught);
+    WindowHelp help;
+    application.installEventFilter(&help);
     Desktop::Install(&desktop);
     try {
         return Start(desktop);

@@ -8,6 +8,7 @@
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
 #include "windows/check/frmCheck.h"
+#include "windows/help/WindowHelp.h"
 #include "windows/print/ChangePrinter.h"
 
 void frmTAVL::Choose(Menu menu, int Index) {
@@ -115,6 +116,10 @@ void frmTAVL::mnuHelp_Click(int Index) try {
             return;
         case 21:
             return ShowGuide(true);
+        case 30:
+            return WindowHelp::ShowPageOf(*this);
+        case 31:
+            return WindowHelp::AskForControl();
         default:
             basCommon::Assert(false, QStringLiteral("Unexpected Case"), QStringLiteral("frmTAVL!mnuHelp_Click"));
     }
