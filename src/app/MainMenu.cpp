@@ -41,6 +41,7 @@ constexpr Item kFileItems[] = {
     {5, "-", "", Never},
     {6, "P&rinter Setup", "", Always},
     {7, "&Print...", "Ctrl+P", Always},
+    {21, "Print &Everything...", "Ctrl+Shift+P", Always},
     {8, "-", "", Never},
     {9, "E&xit", "Ctrl+Q", Always},
 };

@@ -6,6 +6,7 @@
 #include "app/GamesFolder.h"
 #include "app/MainLayout.h"
 #include "board/basPositTables.h"
+#include "kit/ConsoleSheets.h"
 #include "pictures/PicturePlaces.h"
 #include "pieces/frmBMP.h"
 #include "platform/files/Folders.h"
@@ -68,7 +69,7 @@ int Start(DesktopWidgets& desktop) {
     PrefetchOwnPictures();
 
     WidgetLook::SetWindowIcon(OwnFile("tavlora.png"));
-    SystemPrinter printer(basCommon::JoinPath(basCommon::GetMyGamesDirectory(), QStringLiteral("Printed")));
+    SystemPrinter printer(ConsoleSheets::PrintedFolder());
     Printer::Install(&printer);
     frmBMP::InstallAsThumbnailMaker();
     EditorWindows doors;

@@ -25,6 +25,7 @@
 #include "windows/print/frmPrintTest.h"
 #include "windows/print/frmPrntPrep.h"
 #include "windows/print/frmTavlPrint.h"
+#include "windows/print/PrintEverything.h"
 #include "windows/sending/frmSendGame.h"
 
 #include <QAbstractButton>
@@ -75,6 +76,7 @@ protected:
         add(new frmPrintTest);
         add(new frmPrntPrep);
         add(new frmTavlPrint);
+        add(new PrintEverything);
         add(new frmSendGame({}, QString()));
         return all;
     }

@@ -19,7 +19,7 @@ constexpr Row kRows[] = {
     {"frmShowNews", "news.html"},     {"frmEditNews", "news.html"},         {"frmBrowse", "pictures.html"},
     {"frmFileName", "pictures.html"}, {"frmImagePosition", "cutting.html"}, {"frmCheck", "check.html"},
     {"frmTavlPrint", "print.html"},   {"frmPrntPrep", "print.html"},        {"frmPrintTest", "print.html"},
-    {"frmColor", "print.html"},       {"frmSendGame", "sending.html"},
+    {"frmColor", "print.html"},       {"frmSendGame", "sending.html"},      {"PrintEverything", "print.html"},
 };
 
 } // namespace

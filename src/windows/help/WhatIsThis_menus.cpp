@@ -14,6 +14,7 @@ constexpr WhatIsThis::Row kRows[] = {
     {"frmTAVL", "mnuFile_7", "Opens the print window, where each sheet of the kit has a button."},
     {"frmTAVL", "mnuFile_9", "Ends the program. If the game is not saved yet, you are asked first."},
     {"frmTAVL", "mnuFile_20", "Makes a copy of the game to play about with, and opens it."},
+    {"frmTAVL", "mnuFile_21", "Prints the whole kit in one go, and tells what paper that takes."},
     {"frmTAVL", "mnuFile_30", "Puts the game with all its pictures into one file that you can give away."},
     {"frmTAVL", "mnuFile_31", "Saves the board as a picture or as a PDF page."},
     {"frmTAVL", "mnuNewFrom", "Begins a new game from one of the samples."},
