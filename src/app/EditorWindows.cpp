@@ -54,18 +54,12 @@ bool EditorWindows::ShowTokens(frmTAVL& main) {
     return changed;
 }
 
-frmPrintTest& EditorWindows::PrintDoor(frmTAVL& main) {
+bool EditorWindows::Print(frmTAVL& main) {
     if (!m_frmPrintTest) {
         m_frmPrintTest = new frmPrintTest(&main);
         m_frmPrintTest->Console().TellInPrint = std::bind_front(&frmTAVL::SetInPrint, &main);
     }
-    return *m_frmPrintTest;
-}
-
-bool EditorWindows::Print(frmTAVL& main) { return PrintDoor(main).ShowForm(main.HasPrintedSomething()); }
-
-bool EditorWindows::PrintEverything(frmTAVL& main) {
-    return PrintDoor(main).Console().ShowEverything(main.HasPrintedSomething());
+    return m_frmPrintTest->ShowForm(main.HasPrintedSomething());
 }
 
 void EditorWindows::Setup(frmTAVL& main) {

@@ -8,8 +8,10 @@
 #include "document/basTAVL.h"
 #include "game/Autosave.h"
 #include "game/GameNames.h"
+#include "game/PieceImages.h"
 #include "game/Rescue.h"
 #include "game/SampleGames.h"
+#include "pictures/SeenPictures.h"
 #include "platform/files/Files.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
@@ -119,6 +121,14 @@ void GameCommands::LoadUnderItsName() {
     QString name = m_session.GameName();
     m_iLoadResult = m_session.Load(name);
     m_session.SetGameName(name);
+    SeenPictures::Note(PieceImages::Files(m_session.InHand()));
+}
+
+bool GameCommands::SaveUnderItsName() {
+    if (!m_session.Save()) return false;
+    RecentGames::Note(m_session.GameName());
+    SeenPictures::Note(PieceImages::Files(m_session.InHand()));
+    return true;
 }
 
 void GameCommands::BeginNewGame(int& iResult) try {
@@ -275,14 +285,14 @@ void GameCommands::Save() {
         SaveAs();
         return;
     }
-    if (m_session.Save()) RecentGames::Note(m_session.GameName());
+    SaveUnderItsName();
 }
 
 void GameCommands::SaveAs() {
     int iResult = 0;
     SetNewGameName(iResult);
     if (iResult < 0) return;
-    if (m_session.Save()) RecentGames::Note(m_session.GameName());
+    SaveUnderItsName();
     ShowState();
 }
 

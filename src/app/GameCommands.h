@@ -58,6 +58,7 @@ private:
     bool IsPutAside(const QString& sAutosave);
     static bool WantsItAgain(const QString& sWhat, const QString& sElse = QString());
     void LoadUnderItsName();
+    bool SaveUnderItsName();
     void BeginGameFrom(const QString& sFile);
     void LoadInstead(const QString& sPath);
     void NoteInUse();

@@ -56,7 +56,7 @@ frmTAVL::frmTAVL(EditorRoutes& doors)
           *m_client, m_tips,
           {.layOut = std::bind_front(&frmTAVL::Form_Resize, this), .open = std::bind_front(&frmTAVL::OpenPlace, this)}),
       m_side(*m_client, std::bind_front(&frmTAVL::Form_Resize, this)), m_commands(*this, m_view),
-      m_sharing(*this, m_view, m_commands.InHand()),
+      m_sharing(*this, m_view, m_commands.InHand()), m_pictures(*this, m_view, m_commands.InHand()),
       m_requests(std::bind_front(&GameCommands::OpenGame, &m_commands), std::bind_front(&frmTAVL::IsInPrint, this)),
       m_menu(*menuBar(), m_commands.InHand(), std::bind_front(&frmTAVL::Choose, this)),
       m_drop(m_view, m_commands.InHand()), m_about(std::make_unique<frmAbout>(this)) {

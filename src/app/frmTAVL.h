@@ -6,6 +6,7 @@
 #include "app/GameSharing.h"
 #include "app/MainLayout.h"
 #include "app/MainMenu.h"
+#include "app/PictureCommands.h"
 #include "app/PictureDrop.h"
 #include "app/SideField.h"
 #include "app/StartRequests.h"
@@ -122,8 +123,6 @@ private:
     void CheckGameInHand();
     void PrinterSetup();
     void Print();
-    void PrintEverything();
-    bool IsSavedForPrinting();
     void ExitWithQuestion();
 
     EditorRoutes& m_doors;
@@ -135,6 +134,7 @@ private:
     SideField m_side;
     GameCommands m_commands;
     GameSharing m_sharing;
+    PictureCommands m_pictures;
     StartRequests m_requests;
     MainMenu m_menu;
     PictureDrop m_drop;

@@ -8,7 +8,6 @@
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
 #include "windows/check/frmCheck.h"
-#include "windows/help/WindowHelp.h"
 #include "windows/print/ChangePrinter.h"
 
 void frmTAVL::Choose(Menu menu, int Index) {
@@ -44,15 +43,16 @@ void frmTAVL::mnuFile_Click(int Index) try {
             return ExitWithQuestion();
         case 20:
             return m_commands.Duplicate();
-        case 21:
-            return PrintEverything();
         case 30:
             return m_sharing.Send();
         case 31:
             return m_sharing.SaveBoardPicture();
+        case 51:
+            return m_pictures.FindMissing();
         case 1:
         case 5:
         case 8:
+        case 50:
             return;
         default:
             basCommon::Assert(false, QStringLiteral("Unexpected mnu_File"), QStringLiteral("frmTAVL!mnuFile_Click"));
@@ -118,10 +118,6 @@ void frmTAVL::mnuHelp_Click(int Index) try {
             return;
         case 21:
             return ShowGuide(true);
-        case 30:
-            return WindowHelp::ShowPageOf(*this);
-        case 31:
-            return WindowHelp::AskForControl();
         default:
             basCommon::Assert(false, QStringLiteral("Unexpected Case"), QStringLiteral("frmTAVL!mnuHelp_Click"));
     }
@@ -150,22 +146,12 @@ void frmTAVL::cmd_Click(int Index) try {
     ErrTail("frmTAVL!", "cmd_Click", Index);
 }
 
-bool frmTAVL::IsSavedForPrinting() {
-    if (!m_commands.InHand().IsUnsaved()) return true;
-    const int answer = MsgBox(QStringLiteral("Please save your changes before printing.\r\n\r\nSave them now?"),
-                              vbYesNo | vbQuestion);
-    if (answer != vbYes) return false;
-    m_commands.Save();
-    // Whatever went wrong has been told.
-    return !m_commands.InHand().IsUnsaved();
-}
-
 void frmTAVL::Print() {
-    if (IsSavedForPrinting()) m_bPrintedSomething = m_doors.Print(*this);
-}
-
-void frmTAVL::PrintEverything() {
-    if (IsSavedForPrinting()) m_bPrintedSomething = m_doors.PrintEverything(*this);
+    if (m_commands.InHand().IsUnsaved()) {
+        MsgBox(QStringLiteral("Please save your changes before printing."));
+        return;
+    }
+    m_bPrintedSomething = m_doors.Print(*this);
 }
 
 void frmTAVL::CheckGameInHand() {

@@ -6,6 +6,7 @@
 #include "document/basTAVL.h"
 #include "drawing/basDraw.h"
 #include "pictures/BoardThumbnail.h"
+#include "pictures/MissingMark.h"
 #include "pictures/PicturePlaces.h"
 #include "pictures/ThumbnailStore.h"
 #include "platform/files/Folders.h"
@@ -53,6 +54,13 @@ QRect BoxOf(const C_Image& image) {
     return {PosX(image.X), PosY(image.Y), CLng(PosLength(image.W)), CLng(PosLength(image.H))};
 }
 
+// A corner stands on its tip: its middle lies within it.
+QRectF MarkPlace(const PictureOwner& owner, const QRectF& box) {
+    if (owner.kind != PictureOwner::Kind::Corner) return box;
+    const double aside = box.width() / 4;
+    return box.adjusted(aside, aside, -aside, -aside);
+}
+
 // The thumbnails are made for their side of the board, so nothing is turned here.
 void Paste(const C_Image& image, int iPlace) {
     if (image.FullPath().isEmpty()) {
@@ -66,6 +74,10 @@ void Paste(const C_Image& image, int iPlace) {
     const QRect box = BoxOf(image);
     if (module.shown == PicturesShown::All) {
         image.DrawBitmapToScreen(*module.picBoard, box.x(), box.y(), box.width(), box.height());
+    } else if (IsMissing(image.Ref())) {
+        // It is told on the way.
+        DrawWhatIsReady(image.Owned(), *module.picBoard, QRectF(box));
+        PaintMissingMark(*module.picBoard, MarkPlace(image.Owner(), QRectF(box)));
     } else if (Clock::now() > module.until || !DrawWhatIsReady(image.Owned(), *module.picBoard, QRectF(box))) {
         module.awaited.push_back(iPlace);
     }

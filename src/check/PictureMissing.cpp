@@ -9,6 +9,6 @@ void RunCheck<class PictureMissing>(const CheckedGame& game, Findings& findings)
         findings.Add(picture.piece,
                      QStringLiteral("The picture %1 isn't where it was, so its place stays empty.")
                          .arg(FileNameOf(picture.ref.sPath)),
-                     QStringLiteral("Put it back, or choose Find Image in the editor."));
+                     QStringLiteral("Put it back, or choose Find Missing Pictures in the File menu."));
     }
 }

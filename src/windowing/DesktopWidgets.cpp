@@ -106,6 +106,28 @@ void SetText(QMessageBox& box, const QString& sText) {
     box.setDetailedText(sText);
 }
 
+void Fill(QMessageBox& box, const QString& sText, int iStyle, const QString& sTitle) {
+    box.setTextFormat(Qt::PlainText);
+    box.setWindowTitle(sTitle);
+    SetText(box, QString(sText).remove(u'\r'));
+    box.setIcon(IconOf(iStyle));
+    box.setStandardButtons(ButtonsOf(iStyle));
+    box.setDefaultButton(DefaultButtonOf(iStyle));
+}
+
+ListOffer& Offered() {
+    static ListOffer offer;
+    return offer;
+}
+
+int Show(QMessageBox& box) {
+    // The hourglass of work under way would lie over the buttons.
+    QApplication::setOverrideCursor(Qt::ArrowCursor);
+    const int button = box.exec();
+    QApplication::restoreOverrideCursor();
+    return button;
+}
+
 QString PathInDialog(const CommonDialog& dialog) { return QDir(dialog.sInitDir).filePath(dialog.sFileName); }
 
 // The window a box belongs to, so that it stands before it and not beside.
@@ -148,8 +170,10 @@ bool MayBeReplaced(const QString& sPath) {
 bool ShowFileDialog(CommonDialog& dialog, QFileDialog::AcceptMode mode) {
     QFileDialog window(Owner(), dialog.sDialogTitle);
     window.setAcceptMode(mode);
+    const bool folder = (dialog.iFlags & kChooseFolder) != 0;
     window.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
-    window.setNameFilters(DesktopWidgets::NameFilters(dialog.sFilter));
+    if (folder) window.setFileMode(QFileDialog::Directory);
+    if (!folder) window.setNameFilters(DesktopWidgets::NameFilters(dialog.sFilter));
     if (!dialog.sDefaultExt.isEmpty()) window.setDefaultSuffix(dialog.sDefaultExt);
     // The toolkit would ask about the name as it was typed.
     window.setOption(QFileDialog::DontConfirmOverwrite);
@@ -186,18 +210,21 @@ QStringList DesktopWidgets::NameFilters(const QString& sFilter) {
 
 int DesktopWidgets::MsgBox(const QString& sText, int iStyle, const QString& sTitle) {
     QMessageBox box(Owner());
-    box.setTextFormat(Qt::PlainText);
-    box.setWindowTitle(sTitle);
-    SetText(box, QString(sText).remove(u'\r'));
-    box.setIcon(IconOf(iStyle));
-    box.setStandardButtons(ButtonsOf(iStyle));
-    box.setDefaultButton(DefaultButtonOf(iStyle));
-    // The hourglass of work under way would lie over the buttons.
-    QApplication::setOverrideCursor(Qt::ArrowCursor);
-    const int button = box.exec();
-    QApplication::restoreOverrideCursor();
-    return ResultOf(button, iStyle);
+    Fill(box, sText, iStyle, sTitle);
+    return ResultOf(Show(box), iStyle);
 }
+
+void DesktopWidgets::MsgList(const QStringList& messages, int iStyle, const QString& sTitle) {
+    QMessageBox box(Owner());
+    Fill(box, messages.join(u'\n'), iStyle, sTitle);
+    const ListOffer& offer = Offered();
+    const bool helps = offer.applies && offer.applies();
+    const QAbstractButton* const way = helps ? box.addButton(offer.sCaption, QMessageBox::ActionRole) : nullptr;
+    Show(box);
+    if (way && box.clickedButton() == way) offer.take();
+}
+
+void DesktopWidgets::OfferBelowLists(ListOffer offer) { Offered() = std::move(offer); }
 
 bool DesktopWidgets::ShowOpen(CommonDialog& dialog) { return ShowFileDialog(dialog, QFileDialog::AcceptOpen); }
 

@@ -175,6 +175,36 @@ TEST(DesktopWidgetsTest, BoxOfManyMessagesShowsTheFirstAndHasTheRestBehindAButto
     EXPECT_EQ(shown, messages.mid(0, 12).join(u'\n'));
 }
 
+TEST(DesktopWidgetsTest, BelowSeveralMessagesStandsAWayOutWhereItHelps) {
+    bool helps = false;
+    int taken = 0;
+    DesktopWidgets::OfferBelowLists({.sCaption = QStringLiteral("&Find Them..."),
+                                     .applies = [&helps] { return helps; },
+                                     .take = [&taken] { ++taken; }});
+    const auto ask = [](bool take) {
+        bool offered = false;
+        QTimer::singleShot(0, [&offered, take] {
+            auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(box);
+            for (QAbstractButton* const button : box->buttons()) {
+                if (button->text() != QStringLiteral("&Find Them...")) continue;
+                offered = true;
+                if (take) button->click();
+            }
+            box->close();
+        });
+        DesktopWidgets().MsgList({QStringLiteral("One."), QStringLiteral("Two.")}, vbExclamation, QString());
+        return offered;
+    };
+    EXPECT_FALSE(ask(true));
+    helps = true;
+    EXPECT_TRUE(ask(false));
+    EXPECT_EQ(taken, 0);
+    EXPECT_TRUE(ask(true));
+    EXPECT_EQ(taken, 1);
+    DesktopWidgets::OfferBelowLists({});
+}
+
 /// Save dialogs of the toolkit, answered by typing.
 class SaveDialogTest : public TavloraTest {
 protected:

@@ -328,7 +328,8 @@ TEST_F(EditTokenTest, HelpTellsHowToType) {
         "mouse to select text or set the insert point and again, start typing. ");
     Edit([&] {
         Click("cmdHelp");
-        EXPECT_EQ(desktop.Texts(), QStringList{help});
+        Press(Qt::Key_F1);
+        EXPECT_EQ(desktop.Texts(), (QStringList{help, help}));
     });
 }
 

@@ -5,6 +5,7 @@
 #include "drawing/basBMP.h"
 #include "drawing/basDraw.h"
 #include "pictures/C_Image.h"
+#include "pictures/MissingMark.h"
 #include "pictures/PaintPicture.h"
 #include "platform/paint/Surface.h"
 #include "platform/pictures/PictureHolder.h"
@@ -88,6 +89,7 @@ void Likeness::DrawImage(Surface& picDest, PictureHolder& picScratch) {
     if (!HasImage()) return;
     const C_Image& image = Image();
     const QRect box = ImagePlace();
+    if (IsMissing(image.Ref())) PaintMissingMark(picDest, QRectF(box));
     if (image.IsWMF()) {
         DrawMetafile(image.Ref(), image.Told(), picDest.hDC(), box);
         return;

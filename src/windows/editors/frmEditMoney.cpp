@@ -4,6 +4,7 @@
 #include "document/basTAVL.h"
 #include "drawing/basDraw.h"
 #include "game/Session.h"
+#include "pictures/MissingMark.h"
 #include "services/basErrLog.h"
 #include "windowing/ElidedLabel.h"
 #include "windowing/PictureBox.h"
@@ -99,10 +100,19 @@ void frmEditMoney::RedrawMoney() try {
     basDraw::Draw_GetDPIandPrinterSizeRatio(*picNote, dblDPI, dblRatio, 1.0);
     picNote->Cls();
     Note().DrawMoney(*picNote, dblDPI, 0, 0, true, true, false);
+    if (IsMissing(Note().FaceImage.Ref())) PaintMissingMark(*picNote, InMiddleOfNote(dblDPI));
     picNote->Refresh();
     redrawing.ShowMessages();
 } catch (...) {
     ErrTail("frmEditMoney!", "RedrawMoney");
+}
+
+// The oval lies there, near enough.
+QRectF frmEditMoney::InMiddleOfNote(double dblDPI) {
+    const QSizeF note = C_Money::NoteInches();
+    const QSizeF oval = C_Money::OvalInches();
+    const QPointF place((note.width() - oval.width()) / 2, (note.height() - oval.height()) / 2);
+    return {place * dblDPI, oval * dblDPI};
 }
 
 // The texts stand on plates of their own, but the plates have no more than the whole note beneath them.

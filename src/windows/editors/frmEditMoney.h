@@ -57,6 +57,7 @@ private:
     void ShowImagePath();
     void RedrawMoney();
     void RedrawTextOnly();
+    static QRectF InMiddleOfNote(double dblDPI);
     void LoadFromGame();
     bool IsAnyDifferent() const;
 

@@ -4,6 +4,7 @@
 #include "document/basTAVL.h"
 #include "document/Subscript.h"
 #include "game/Session.h"
+#include "pictures/MissingMark.h"
 #include "platform/text/NewLine.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
@@ -83,6 +84,7 @@ void frmEditToken::Redraw() try {
     C_Token likeness = m_oToken;
     likeness.Redraw(0, 0, picDest->width(), picDest->height(), m_selection.IsOn(), *picDest, picScratch, selection,
                     WidgetLook::FillOf(*this));
+    if (IsMissing(m_oToken.Image.Ref())) PaintMissingMark(*picDest, MarkPlaceOnToken(picDest->size()));
     picDest->Refresh();
     ShowInclude(HasImage() ? kImage : kText);
     ShowTyping();

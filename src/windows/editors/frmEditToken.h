@@ -44,6 +44,7 @@ public:
 
 protected:
     void KeepTyped(const QStringList& sTextLines) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     /// What stands on the token; also the indexes of optInclude.

@@ -3,6 +3,7 @@
 
 #include "drawing/basDraw.h"
 #include "game/Session.h"
+#include "pictures/MissingMark.h"
 #include "platform/paint/Units.h"
 #include "platform/text/Numbers.h"
 #include "services/basCommon.h"
@@ -142,6 +143,8 @@ void frmShowTokens::DrawToken(int iToken) {
     // A record of its own: one whose picture is away, as on a stick, gives it up.
     C_Token token = m_oTokens[size_t(iToken)];
     token.Redraw(0, 0, picture.width(), picture.height(), false, picture, picOriginal, {}, WidgetLook::FillOf(*this));
+    const PictureRef& shown = m_oTokens[size_t(iToken)].Image.Ref();
+    if (IsMissing(shown)) PaintMissingMark(picture, MarkPlaceOnToken(picture.size()));
     if (picture.hasFocus()) DrawFocus(picture);
     picture.Refresh();
 }

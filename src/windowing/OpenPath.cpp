@@ -1,7 +1,0 @@
-// SPDX-License-Identifier: MIT
-#include "windowing/OpenPath.h"
-
-#include <QDesktopServices>
-#include <QUrl>
-
-bool OpenPath(const QString& sPath) { return QDesktopServices::openUrl(QUrl::fromLocalFile(sPath)); }
