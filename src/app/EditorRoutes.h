@@ -18,5 +18,6 @@ public:
     virtual bool ShowTokens(frmTAVL& main) = 0;
     /// Tells whether anything was printed, now or earlier in this run.
     virtual bool Print(frmTAVL& main) = 0;
+    virtual bool PrintEverything(frmTAVL& main) = 0;
     virtual void Setup(frmTAVL& main) = 0;
 };

@@ -54,12 +54,18 @@ bool EditorWindows::ShowTokens(frmTAVL& main) {
     return changed;
 }
 
-bool EditorWindows::Print(frmTAVL& main) {
+frmPrintTest& EditorWindows::PrintDoor(frmTAVL& main) {
     if (!m_frmPrintTest) {
         m_frmPrintTest = new frmPrintTest(&main);
         m_frmPrintTest->Console().TellInPrint = std::bind_front(&frmTAVL::SetInPrint, &main);
     }
-    return m_frmPrintTest->ShowForm(main.HasPrintedSomething());
+    return *m_frmPrintTest;
+}
+
+bool EditorWindows::Print(frmTAVL& main) { return PrintDoor(main).ShowForm(main.HasPrintedSomething()); }
+
+bool EditorWindows::PrintEverything(frmTAVL& main) {
+    return PrintDoor(main).Console().ShowEverything(main.HasPrintedSomething());
 }
 
 void EditorWindows::Setup(frmTAVL& main) {

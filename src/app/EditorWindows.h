@@ -25,9 +25,12 @@ public:
     bool EditMoney(frmTAVL& main) override;
     bool ShowTokens(frmTAVL& main) override;
     bool Print(frmTAVL& main) override;
+    bool PrintEverything(frmTAVL& main) override;
     void Setup(frmTAVL& main) override;
 
 private:
+    frmPrintTest& PrintDoor(frmTAVL& main);
+
     QPointer<frmEditSpace> m_frmEditSpace;
     QPointer<frmEditCorner> m_frmEditCorner;
     QPointer<frmEditCenter> m_frmEditCenter;

@@ -43,6 +43,7 @@ constexpr Item kFileItems[] = {
     {5, "-", "", Never},
     {6, "P&rinter Setup", "", Always},
     {7, "&Print...", "Ctrl+P", Always},
+    {21, "Print &Everything...", "Ctrl+Shift+P", Always},
     {8, "-", "", Never},
     {9, "E&xit", "Ctrl+Q", Always},
 };
@@ -79,6 +80,9 @@ constexpr Item kHelpItems[] = {
     {2, "&Print Instruction Manual", "", Never},
     {20, "-", "", Never},
     {21, "&First Evening", "", Always},
+    {30, "About This &Window", "F1", Always},
+    // Not a key of the menu's: in every window it tells about the control that has the focus.
+    {31, "What &Is This?\tShift+F1", "", Always},
 };
 
 void ChooseOf(const std::function<void(int)>& choose, int iEntry) try { choose(iEntry); } catch (...) {

@@ -6,6 +6,7 @@
 #include "app/GamesFolder.h"
 #include "app/MainLayout.h"
 #include "board/basPositTables.h"
+#include "kit/ConsoleSheets.h"
 #include "pictures/PicturePlaces.h"
 #include "pieces/frmBMP.h"
 #include "platform/files/Folders.h"
@@ -22,6 +23,7 @@
 #include "windowing/Screen.h"
 #include "windowing/SystemPrinter.h"
 #include "windowing/WidgetLook.h"
+#include "windows/help/WindowHelp.h"
 
 namespace {
 
@@ -67,7 +69,7 @@ int Start(DesktopWidgets& desktop) {
     PrefetchOwnPictures();
 
     WidgetLook::SetWindowIcon(OwnFile("tavlora.png"));
-    SystemPrinter printer(basCommon::JoinPath(basCommon::GetMyGamesDirectory(), QStringLiteral("Printed")));
+    SystemPrinter printer(ConsoleSheets::PrintedFolder());
     Printer::Install(&printer);
     frmBMP::InstallAsThumbnailMaker();
     EditorWindows doors;
@@ -87,6 +89,8 @@ int RunProgram(int argc, char** argv, DesktopWidgets& desktop) {
     Settings().sProgramName = ProgramNameFromArgv0(QString::fromLocal8Bit(argv[0]));
     Application application(argc, argv);
     application.SetLastNet(&ReportUncaught);
+    WindowHelp help;
+    application.installEventFilter(&help);
     Desktop::Install(&desktop);
     try {
         return Start(desktop);

@@ -4,11 +4,11 @@
 #include "platform/files/Folders.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
-#include "services/Desktop.h"
 #include "services/Guide.h"
 #include "windowing/basCommon_forms.h"
 #include "windowing/WebPage.h"
 #include "windowing/WidgetLook.h"
+#include "windows/help/OpenGuide.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -119,11 +119,7 @@ void frmPrintManual::cmdOK_Click() try {
 }
 
 void frmPrintManual::cmdShowPage_Click() try {
-    if (WebPage::Open(LocalPage(), HelpAddress())) return;
-    MsgBox(QStringLiteral("No web browser was found on this computer. The instructions are in this file:\r\n\r\n%1"
-                          "\r\n\r\nA browser on any other computer shows them too.")
-               .arg(LocalPage()),
-           vbInformation);
+    OpenGuide(QString::fromLatin1(Guide::kStepsPage), HelpAddress());
 } catch (...) {
     ErrTop("frmPrintManual!", "cmdShowPage_Click");
 }

@@ -123,6 +123,8 @@ private:
     void CheckGameInHand();
     void PrinterSetup();
     void Print();
+    void PrintEverything();
+    bool IsSavedForPrinting();
     void ExitWithQuestion();
 
     EditorRoutes& m_doors;

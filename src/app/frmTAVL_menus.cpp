@@ -8,6 +8,7 @@
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
 #include "windows/check/frmCheck.h"
+#include "windows/help/WindowHelp.h"
 #include "windows/print/ChangePrinter.h"
 
 void frmTAVL::Choose(Menu menu, int Index) {
@@ -43,6 +44,8 @@ void frmTAVL::mnuFile_Click(int Index) try {
             return ExitWithQuestion();
         case 20:
             return m_commands.Duplicate();
+        case 21:
+            return PrintEverything();
         case 30:
             return m_sharing.Send();
         case 31:
@@ -118,6 +121,10 @@ void frmTAVL::mnuHelp_Click(int Index) try {
             return;
         case 21:
             return ShowGuide(true);
+        case 30:
+            return WindowHelp::ShowPageOf(*this);
+        case 31:
+            return WindowHelp::AskForControl();
         default:
             basCommon::Assert(false, QStringLiteral("Unexpected Case"), QStringLiteral("frmTAVL!mnuHelp_Click"));
     }
@@ -146,12 +153,22 @@ void frmTAVL::cmd_Click(int Index) try {
     ErrTail("frmTAVL!", "cmd_Click", Index);
 }
 
+bool frmTAVL::IsSavedForPrinting() {
+    if (!m_commands.InHand().IsUnsaved()) return true;
+    const int answer = MsgBox(QStringLiteral("Please save your changes before printing.\r\n\r\nSave them now?"),
+                              vbYesNo | vbQuestion);
+    if (answer != vbYes) return false;
+    m_commands.Save();
+    // Whatever went wrong has been told.
+    return !m_commands.InHand().IsUnsaved();
+}
+
 void frmTAVL::Print() {
-    if (m_commands.InHand().IsUnsaved()) {
-        MsgBox(QStringLiteral("Please save your changes before printing."));
-        return;
-    }
-    m_bPrintedSomething = m_doors.Print(*this);
+    if (IsSavedForPrinting()) m_bPrintedSomething = m_doors.Print(*this);
+}
+
+void frmTAVL::PrintEverything() {
+    if (IsSavedForPrinting()) m_bPrintedSomething = m_doors.PrintEverything(*this);
 }
 
 void frmTAVL::CheckGameInHand() {

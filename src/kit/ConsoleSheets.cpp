@@ -103,6 +103,8 @@ QString LackingMessage(const QStringList& lacking) {
     return lines.join(QStringLiteral("\r\n"));
 }
 
+QString PrintedFolder() { return basCommon::JoinPath(basCommon::GetMyGamesDirectory(), QStringLiteral("Printed")); }
+
 QString DocumentName(const QString& sGame, const QString& sTitle) {
     QString drive;
     QString dir;

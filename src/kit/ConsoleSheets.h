@@ -54,6 +54,8 @@ QString SmallPageMessage(const Printer& printer, const Sheet& sheet, Kit kit);
 QString PdfMessage(const QString& sPath);
 /// What a sheet lacks: its first pieces, a line each, and how many more there are.
 QString LackingMessage(const QStringList& lacking);
+/// Where PDF files of sheets go.
+QString PrintedFolder();
 /// "Family - Box Top & Token Stickers" for the game's full path.
 QString DocumentName(const QString& sGame, const QString& sTitle);
 

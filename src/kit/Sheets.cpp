@@ -132,6 +132,7 @@ constexpr Sheet kSheets[] = {
      .ends = kEndsOfMoney,
      .otherKits = OtherKits::Same,
      .bMoney = true,
+     .iSheetsForSix = 5,
      .prepare = PrepareSheet<class MoneySheet>,
      .paint = PaintSheet<class MoneySheet>},
     {.iButton = 8,
@@ -143,6 +144,7 @@ constexpr Sheet kSheets[] = {
      .ends = kEndsOfMoney,
      .otherKits = OtherKits::Same,
      .bMoney = true,
+     .iSheetsForSix = 3,
      .iWhich = 1,
      .prepare = PrepareSheet<class MoneySheet>,
      .paint = PaintSheet<class MoneySheet>},
@@ -155,6 +157,7 @@ constexpr Sheet kSheets[] = {
      .ends = kEndsOfMoney,
      .otherKits = OtherKits::Same,
      .bMoney = true,
+     .iSheetsForSix = 4,
      .iWhich = 2,
      .prepare = PrepareSheet<class MoneySheet>,
      .paint = PaintSheet<class MoneySheet>},
@@ -167,6 +170,7 @@ constexpr Sheet kSheets[] = {
      .ends = kEndsOfMoney,
      .otherKits = OtherKits::Same,
      .bMoney = true,
+     .iSheetsForSix = 1,
      .iWhich = 3,
      .prepare = PrepareSheet<class MoneySheet>,
      .paint = PaintSheet<class MoneySheet>},
@@ -250,6 +254,8 @@ QString Sheet::Title(Kit kit) const {
 }
 
 bool Sheet::IsShown(Kit kit) const { return frame && paper && *PaperOf(*paper, kit).sStock; }
+
+QString Sheet::Stock(Kit kit) const { return paper ? QString::fromLatin1(PaperOf(*paper, kit).sStock) : QString(); }
 
 std::optional<QString> Sheet::Prompt(Kit kit) const {
     if (!paper) return std::nullopt;

@@ -71,6 +71,8 @@ struct Sheet {
     OtherKits otherKits;
     /// Banknotes: in copies, with more room on the disk.
     bool bMoney = false;
+    /// How often six players need it; 0 where one is enough for however many.
+    int iSheetsForSix = 0;
     /// Which of its kind.
     int iWhich = 0;
     /// Nothing where copies share nothing.
@@ -82,6 +84,8 @@ struct Sheet {
     QString Caption(Kit kit) const;
     QString Title(Kit kit) const;
     bool IsShown(Kit kit) const;
+    /// The kind of paper that it goes on; empty where no paper is asked for.
+    QString Stock(Kit kit) const;
     /// What to load into the printer; nothing where no paper is asked for.
     std::optional<QString> Prompt(Kit kit) const;
     PageOrientation OrientationOf(Kit kit) const;

@@ -39,6 +39,7 @@ public:
     bool EditMoney(frmTAVL&) override { return Note(QStringLiteral("money")); }
     bool ShowTokens(frmTAVL&) override { return Note(QStringLiteral("tokens")); }
     bool Print(frmTAVL&) override { return Note(QStringLiteral("print")); }
+    bool PrintEverything(frmTAVL&) override { return Note(QStringLiteral("print everything")); }
     void Setup(frmTAVL&) override { Note(QStringLiteral("setup")); }
 
     /// All doors opened since the last call.

@@ -3,6 +3,7 @@
 #include "AppFixture.h"
 
 #include "app/EditorWindows.h"
+#include "kit/Sheets.h"
 #include "pieces/frmBMP.h"
 #include "platform/files/Folders.h"
 #include "support/ModalSteps.h"
@@ -56,6 +57,40 @@ TEST_F(PrintDoorTest, TheConsolePrintsTheGameOfTheMainWindow) {
     EXPECT_EQ(desktop.Texts(),
               QStringList{QStringLiteral("Sorry, but you can't change printers once you have started the printing "
                                          "process.\r\nPlease stop and restart the program before changing printers.")});
+}
+
+TEST_F(PrintDoorTest, TheWholeKitIsPrintedFromTheMenuAndFromTheConsole) {
+    const auto print = [](QWidget& everything) {
+        ClickIn(everything, "cmdPrint");
+        ClickIn(everything, "cmdClose");
+    };
+    {
+        ModalSteps person;
+        person.In("PrintEverything", print);
+        ChooseMenu("mnuFile_21");
+    }
+    const qsizetype whole = printer.ended.size();
+    EXPECT_GT(whole, qsizetype(Sheets().size()));
+    EXPECT_TRUE(window->HasPrintedSomething());
+    EXPECT_FALSE(window->IsInPrint());
+    ModalSteps person;
+    person.In("frmTavlPrint", [](QWidget& console) {
+        ClickIn(console, "cmdEverything");
+        ClickIn(console, "cmdCancel");
+    });
+    person.In("PrintEverything", print);
+    ClickButton(3);
+    EXPECT_EQ(printer.ended.size(), 2 * whole);
+    EXPECT_TRUE(window->isEnabled());
+}
+
+TEST_F(PrintDoorTest, UnsavedChangesAreNotPrintedFromTheMenuEither) {
+    Edit(QStringLiteral("Chair"));
+    desktop.answers = {vbNo};
+    ChooseMenu("mnuFile_21");
+    EXPECT_EQ(desktop.Texts(),
+              QStringList{QStringLiteral("Please save your changes before printing.\r\n\r\nSave them now?")});
+    EXPECT_TRUE(printer.ended.isEmpty());
 }
 
 TEST_F(PrintDoorTest, TheNextOpeningStillRefusesToChangeThePrinter) {

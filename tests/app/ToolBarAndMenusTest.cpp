@@ -4,6 +4,8 @@
 
 namespace {
 
+const QString kSaveFirst = QStringLiteral("Please save your changes before printing.\r\n\r\nSave them now?");
+
 class ToolBarAndMenusTest : public MainWindowTest {};
 
 TEST_F(ToolBarAndMenusTest, Edge_BadNewsButtonOpensGoodNewsWhileToolbarAndBoardOpenBadNews) {
@@ -177,6 +179,7 @@ TEST_F(ToolBarAndMenusTest, MenusCarryTheirCaptionsAndShortcuts) {
         {"mnuFile_7", "&Print...", "Ctrl+P", true},
         {"mnuFile_9", "E&xit", "Ctrl+Q", true},
         {"mnuFile_20", "&Duplicate", "", true},
+        {"mnuFile_21", "Print &Everything...", "Ctrl+Shift+P", true},
         {"mnuNewFrom", "New &From", "", true},
         {"mnuRecent", "Recen&t Games", "", true},
         {"mnuEdit", "&Edit", "", true},
@@ -220,10 +223,12 @@ TEST_F(ToolBarAndMenusTest, WhatCanBeChosenIsAskedAnewWheneverAMenuOpens) {
 }
 
 TEST_F(ToolBarAndMenusTest, MenusRunTheirCommands) {
-    for (const char* item : {"mnuView_1", "mnuView_2", "mnuView_3", "mnuView_4", "mnuView_8", "mnuFile_7"})
+    for (const char* item :
+         {"mnuView_1", "mnuView_2", "mnuView_3", "mnuView_4", "mnuView_8", "mnuFile_7", "mnuFile_21"})
         ChooseMenu(item);
     EXPECT_EQ(routes.Take(), (Strings{QStringLiteral("money"), QStringLiteral("news 0"), QStringLiteral("news 1"),
-                                      QStringLiteral("tokens"), QStringLiteral("setup"), QStringLiteral("print")}));
+                                      QStringLiteral("tokens"), QStringLiteral("setup"), QStringLiteral("print"),
+                                      QStringLiteral("print everything")}));
     for (const int nothing : {1, 5, 8})
         window->mnuFile_Click(nothing);
     window->mnuHelp_Click(2);
@@ -264,9 +269,32 @@ TEST_F(ToolBarAndMenusTest, ExitOfTheMenuAsksFirst) {
 
 TEST_F(ToolBarAndMenusTest, PrintIsRefusedWhileChangesAreUnsaved) {
     Edit(QStringLiteral("One"));
+    desktop.answers = {vbNo};
     ClickButton(3);
-    EXPECT_EQ(desktop.Texts(), Strings{QStringLiteral("Please save your changes before printing.")});
+    EXPECT_EQ(desktop.Texts(), Strings{kSaveFirst});
     EXPECT_TRUE(routes.Take().isEmpty());
+    EXPECT_TRUE(window->Commands().InHand().IsUnsaved());
+}
+
+TEST_F(ToolBarAndMenusTest, PrintGoesOnWhenTheChangesAreSavedFirst) {
+    window->Commands().InHand().SetGameName(InGames(QStringLiteral("Ours.gam")));
+    for (const char* item : {"mnuFile_7", "mnuFile_21"}) {
+        Edit(QString::fromLatin1(item));
+        desktop.answers = {vbYes};
+        ChooseMenu(item);
+        EXPECT_FALSE(window->Commands().InHand().IsUnsaved()) << item;
+        EXPECT_TRUE(ReadFile(InGames(QStringLiteral("Ours.gam"))).contains(item));
+    }
+    EXPECT_EQ(desktop.Texts(), (Strings{kSaveFirst, kSaveFirst}));
+    EXPECT_EQ(routes.Take(), (Strings{QStringLiteral("print"), QStringLiteral("print everything")}));
+}
+
+TEST_F(ToolBarAndMenusTest, PrintWaitsForAGameThatCouldNotBeSaved) {
+    Edit(QStringLiteral("One"));
+    desktop.answers = {vbYes};
+    ChooseMenu("mnuFile_7");
+    EXPECT_TRUE(routes.Take().isEmpty()) << "the name was asked for and not given";
+    EXPECT_TRUE(window->Commands().InHand().IsUnsaved());
 }
 
 } // namespace

@@ -12,6 +12,7 @@
 
 #ifdef Q_OS_UNIX
 #include <csignal>
+#include <sys/wait.h>
 #endif
 
 namespace {
@@ -30,7 +31,8 @@ protected:
     QStringList InTmp() const { return Names(PathOf(QStringLiteral("tmp"))).filter(QStringLiteral("tavlora")); }
     QStringList InOut() const { return Names(PathOf(QStringLiteral("out"))); }
 
-    /// Starts printing the whole kit, and comes back when it is amid its work and what another has left has gone.
+    /// Starts printing the whole kit, and comes back when it stands still amid its work and what another has left has
+    /// gone. It has to stand still: on a busy machine it would be over before anybody has looked.
     void StartPrinting(QProcess& process) const {
         const QStringList left = InTmp() + InOut();
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -44,12 +46,32 @@ protected:
         ASSERT_TRUE(process.waitForStarted());
         QElapsedTimer waited;
         waited.start();
-        while (waited.elapsed() < 20000 && !IsAmidItsWork(left))
+        while (HoldUp(process) && !IsAmidItsWork(left)) {
+            ASSERT_LT(waited.elapsed(), kPatience);
+            Send(process, SIGCONT);
             QThread::msleep(5);
-        ASSERT_TRUE(IsAmidItsWork(left));
+        }
+        ASSERT_TRUE(IsAmidItsWork(left)) << "over too soon";
+    }
+
+    /// Lets it go on with a signal waiting for it.
+    static void End(QProcess& process, int signal) {
+        Send(process, signal);
+        Send(process, SIGCONT);
+        ASSERT_TRUE(process.waitForFinished(kPatience));
     }
 
 private:
+    static constexpr int kPatience = 60000; // milliseconds
+
+    static void Send(const QProcess& process, int signal) { ASSERT_EQ(::kill(pid_t(process.processId()), signal), 0); }
+    /// False for one that has ended.
+    static bool HoldUp(const QProcess& process) {
+        Send(process, SIGSTOP);
+        siginfo_t info{};
+        return ::waitid(P_PID, id_t(process.processId()), &info, WSTOPPED | WEXITED | WNOWAIT) == 0 &&
+               info.si_code == CLD_STOPPED;
+    }
     bool IsAmidItsWork(const QStringList& left) const {
         const QStringList names = InTmp() + InOut();
         const bool cleared =
@@ -63,8 +85,7 @@ TEST_F(PrintEndedTest, AnyPoliteEndLeavesNothing) {
     for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
         QProcess process;
         ASSERT_NO_FATAL_FAILURE(StartPrinting(process));
-        ASSERT_EQ(::kill(pid_t(process.processId()), signal), 0);
-        ASSERT_TRUE(process.waitForFinished());
+        ASSERT_NO_FATAL_FAILURE(End(process, signal));
         EXPECT_EQ(process.exitStatus(), QProcess::CrashExit) << "a shell must see what ended it";
         EXPECT_EQ(process.exitCode(), signal);
         EXPECT_EQ(InTmp(), QStringList());
@@ -75,13 +96,11 @@ TEST_F(PrintEndedTest, AnyPoliteEndLeavesNothing) {
 TEST_F(PrintEndedTest, NextRunClearsAwayWhatAKilledOneLeft) {
     QProcess killed;
     ASSERT_NO_FATAL_FAILURE(StartPrinting(killed));
-    killed.kill();
-    ASSERT_TRUE(killed.waitForFinished());
+    ASSERT_NO_FATAL_FAILURE(End(killed, SIGKILL));
     ASSERT_EQ(InTmp().size(), 1);
     QProcess next;
     ASSERT_NO_FATAL_FAILURE(StartPrinting(next));
-    next.terminate();
-    ASSERT_TRUE(next.waitForFinished());
+    ASSERT_NO_FATAL_FAILURE(End(next, SIGTERM));
     EXPECT_EQ(InTmp(), QStringList());
     EXPECT_EQ(InOut(), QStringList());
 }

@@ -44,6 +44,7 @@ sigset_t SignalsThatEnd() {
 void WaitAndClearUp(sigset_t signals) {
     int signal = 0;
     if (sigwait(&signals, &signal) != 0) return;
+    const Temporaries::Making nobodyElse;
     Temporaries::RemoveHeld();
     // And then the end that the signal means, so that a shell sees what ended the program.
     pthread_sigmask(SIG_UNBLOCK, &signals, nullptr);
@@ -101,6 +102,7 @@ void TemporaryFolder::Make(const QString& sIn, bool bForThisUserOnly) {
     const auto owner = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
     Temporaries::ClearLeftovers(sIn);
     for (int i = 0; i < kTries && m_path.isEmpty(); ++i) {
+        const Temporaries::Making making;
         const QString path = Temporaries::FolderIn(sIn);
         const bool bMade = bForThisUserOnly ? QDir().mkdir(path, owner) : QDir().mkdir(path);
         if (bMade && Temporaries::Hold(path, -1)) m_path = path;

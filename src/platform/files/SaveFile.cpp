@@ -89,6 +89,7 @@ bool SaveFile::OpenBeside(OpenMode mode) {
     const QFileInfo existing(m_target);
     Temporaries::ClearLeftoversOnce(existing.path());
     for (int i = 0; i < kTries; ++i) {
+        const Temporaries::Making making;
         m_beside = Temporaries::FileIn(existing.path());
         setFileName(m_beside);
         const bool bOpen =

@@ -29,7 +29,7 @@ constexpr int kTries = 50;
 constexpr int kBetweenTries = 10;
 
 struct State {
-    QMutex mutex;
+    QRecursiveMutex mutex;
     // What is held, with the handle that holds a folder.
     QHash<QString, int> held;
     QSet<QString> cleared;
@@ -84,6 +84,9 @@ void RemoveUnlessHeld(const QFileInfo& info) {
 #endif
 
 } // namespace
+
+Making::Making() { TheState().mutex.lock(); }
+Making::~Making() { TheState().mutex.unlock(); }
 
 QString FileIn(const QString& sFolder) { return FreePath(sFolder, u'.' + Mark()); }
 QString FolderIn(const QString& sFolder) { return FreePath(sFolder, Mark()); }

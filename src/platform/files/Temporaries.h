@@ -13,6 +13,16 @@ QString FileIn(const QString& sFolder);
 /// Path of a folder in another.
 QString FolderIn(const QString& sFolder);
 
+/// While one exists, other threads wait with what they make: under it a file or folder is made and held at once, and
+/// whoever ends the program under it leaves none behind that was made but not held yet.
+class Making {
+public:
+    Making();
+    ~Making();
+    Making(const Making&) = delete;
+    Making& operator=(const Making&) = delete;
+};
+
 /// Tells that this process is at work on it; handle is the open file's, or -1 for a folder. False when somebody has
 /// just cleared it away: then another is needed.
 bool Hold(const QString& sPath, int handle);

@@ -44,7 +44,6 @@ public:
 
 protected:
     void KeepTyped(const QStringList& sTextLines) override;
-    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     /// What stands on the token; also the indexes of optInclude.

@@ -85,11 +85,3 @@ void frmEditToken::picDest_MouseUp(int iButton, int, float, float) {
 void frmEditToken::picDest_BackingChanged() try { Redraw(); } catch (...) {
     ErrTop("frmEditToken!", "picDest_BackingChanged");
 }
-
-void frmEditToken::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_F1) {
-        cmdHelp_Click();
-    } else {
-        TypingWindow::keyPressEvent(event);
-    }
-}

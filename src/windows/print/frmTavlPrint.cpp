@@ -4,7 +4,6 @@
 #include "document/basTAVL.h"
 #include "document/GameHost.h"
 #include "drawing/basBMP.h"
-#include "drawing/basDraw.h"
 #include "kit/ConsoleSheets.h"
 #include "pieces/MadePicture.h"
 #include "platform/paint/Units.h"
@@ -17,13 +16,14 @@
 #include "windowing/Screen.h"
 #include "windows/print/ChangePrinter.h"
 #include "windows/print/frmPrntPrep.h"
+#include "windows/print/PageUnderWay.h"
+#include "windows/print/PrintEverything.h"
 
 #include <QAbstractButton>
 #include <QButtonGroup>
 #include <QComboBox>
 #include <QFrame>
 #include <QGroupBox>
-#include <QPointer>
 #include <QPushButton>
 
 #include <utility>
@@ -36,33 +36,6 @@ constexpr int kFirstWidthTwips = 15;
 const QString kCancelled = QStringLiteral("Cancel");
 
 } // namespace
-
-/// As long as it lives, a page is being printed: the windows behind the console take no input. A document that
-/// is then still open is thrown away.
-class frmTavlPrint::PageUnderWay {
-public:
-    PageUnderWay(frmTavlPrint& console, Printer& printer)
-        : m_console(console), m_printer(printer), m_focus(console.focusWidget()) {
-        m_console.TellInPrint(true);
-        // The console lives on while the window that owns it is disabled.
-        m_console.setEnabled(true);
-        if (m_focus) m_focus->setFocus();
-    }
-    ~PageUnderWay() {
-        // What a failure has left selected belongs to a page that is gone; the board would be painted with it.
-        basDraw::Draw_Abandon(m_hDC);
-        m_printer.KillDoc();
-        m_console.TellInPrint(false);
-    }
-    PageUnderWay(const PageUnderWay&) = delete;
-    PageUnderWay& operator=(const PageUnderWay&) = delete;
-
-private:
-    frmTavlPrint& m_console;
-    Printer& m_printer;
-    QPointer<QWidget> m_focus;
-    DeviceContext* m_hDC = basDraw::Draw_Hdc();
-};
 
 frmTavlPrint::frmTavlPrint(QWidget* parent) : QDialog(parent) {
     BuildControls();
@@ -111,6 +84,22 @@ void frmTavlPrint::cmdChangePrinter_Click() try {
     ShowDestination();
 } catch (...) {
     ErrTop("frmTavlPrint!", "cmdChangePrinter_Click");
+}
+
+bool frmTavlPrint::ShowEverything(bool bPrintStarted) try {
+    if (!m_everything) {
+        m_everything = new PrintEverything(this);
+        m_everything->TellInPrint = [this](bool bNow) { TellInPrint(bNow); };
+    }
+    return m_everything->ShowForm(bPrintStarted);
+} catch (...) {
+    ErrTail("frmTavlPrint!", "ShowEverything", bPrintStarted);
+}
+
+void frmTavlPrint::cmdEverything_Click() try {
+    if (!bInPrint) m_bPrintStarted = ShowEverything(m_bPrintStarted);
+} catch (...) {
+    ErrTop("frmTavlPrint!", "cmdEverything_Click");
 }
 
 void frmTavlPrint::cmdPrint_Click(int Index) try {
@@ -184,7 +173,7 @@ bool frmTavlPrint::RunJob(const Sheet& sheet, const QString& sDone) {
         MsgBox(ConsoleSheets::LittleDiskMessage(dblFree, ConsoleSheets::kMegabytesTold));
         return true;
     }
-    const PageUnderWay page(*this, printer);
+    const PageUnderWay page(*this, printer, TellInPrint);
     SheetJob job{printer, std::bind_front(&frmTavlPrint::Let_Progress, this),
                  std::bind_front(&frmTavlPrint::ShowPiece, this)};
     if (!sheet.Prepare(job)) return false;

@@ -16,6 +16,7 @@
 class ElidedLabel;
 class frmPrntPrep;
 class PictureBox;
+class PrintEverything;
 class QButtonGroup;
 class QComboBox;
 class QFrame;
@@ -35,6 +36,9 @@ public:
 
     /// Modal, from the first menu on. Takes and gives whether a page has gone to a printer in this run.
     bool ShowForm(bool bPrintStarted);
+
+    /// The whole kit in one go, whether or not the console is open. Takes and gives the same.
+    bool ShowEverything(bool bPrintStarted);
 
     /// Place of the progress bar, 0 to 1000; hidden below 0. Each change lets events run once.
     int Progress() const { return m_lProgress; }
@@ -58,12 +62,11 @@ public Q_SLOTS:
     void cmdChangePrinter_Click();
     void cmdCancel_Click();
     void cmdTryAgain_Click();
+    void cmdEverything_Click();
     void Command1_Click();
     void picTest_Click();
 
 private:
-    class PageUnderWay;
-
     // Building the window.
     void BuildControls();
     QGroupBox* BuildFrame(Frame frame);
@@ -111,6 +114,7 @@ private:
     QPushButton* Command1 = nullptr;
     CommonDialog dlgCommon;
     frmPrntPrep* m_frmPrntPrep = nullptr;
+    PrintEverything* m_everything = nullptr;
     PicturePrinter m_screen;
 
     bool m_bPrintStarted = false;

@@ -98,6 +98,11 @@ void frmTavlPrint::AddMenuButtons(QVBoxLayout* column) {
         cmdNav->addButton(button, i);
         column->addWidget(button);
     }
+    auto* everything =
+        MakeButton(column->parentWidget(), QStringLiteral("cmdEverything"), QStringLiteral("Print &Everything..."),
+                   QStringLiteral("Print the whole kit in one go"));
+    connect(everything, &QPushButton::clicked, this, &frmTavlPrint::cmdEverything_Click);
+    column->addWidget(everything);
 }
 
 void frmTavlPrint::AddButtons(Frame frame, QVBoxLayout* column) {

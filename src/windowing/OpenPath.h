@@ -1,0 +1,7 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+/// Opens a file or a folder as a double click on it would. False when nothing on this desktop opens it.
+bool OpenPath(const QString& sPath);

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+// The table of the windows' pages: a window without a row fails a test. A page is a file in data/guide.
+#include "windows/help/HelpPages.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+struct Row {
+    const char* sWindow;
+    const char* sPage;
+};
+
+constexpr Row kRows[] = {
+    {"frmTAVL", "board.html"},        {"frmAbout", "board.html"},           {"frmPrintManual", "index.html"},
+    {"frmEditSpace", "spaces.html"},  {"frmEditCorner", "spaces.html"},     {"frmEditCenter", "titles.html"},
+    {"frmEditMoney", "money.html"},   {"frmShowTokens", "tokens.html"},     {"frmEditToken", "tokens.html"},
+    {"frmShowNews", "news.html"},     {"frmEditNews", "news.html"},         {"frmBrowse", "pictures.html"},
+    {"frmFileName", "pictures.html"}, {"frmImagePosition", "cutting.html"}, {"frmCheck", "check.html"},
+    {"frmTavlPrint", "print.html"},   {"frmPrntPrep", "print.html"},        {"frmPrintTest", "print.html"},
+    {"frmColor", "print.html"},       {"frmSendGame", "sending.html"},      {"PrintEverything", "print.html"},
+};
+
+} // namespace
+
+QString HelpPages::PageOf(const QString& sWindow) {
+    const auto* const found =
+        std::ranges::find_if(kRows, [&](const Row& row) { return sWindow == QString::fromLatin1(row.sWindow); });
+    return found == std::end(kRows) ? QString() : QString::fromLatin1(found->sPage);
+}
+
+QStringList HelpPages::Windows() {
+    QStringList windows;
+    for (const Row& row : kRows)
+        windows.append(QString::fromLatin1(row.sWindow));
+    return windows;
+}
