@@ -3,8 +3,6 @@
 
 #include "check/GameWords.h"
 #include "check/OwnPieces.h"
-#include "pieces/frmBMP.h"
-#include "render/clsRenderDestination.h"
 
 namespace {
 
@@ -20,54 +18,23 @@ bool IsBegunIn(const Game& game) {
     return 2 * filled > own;
 }
 
-/// Collects the pictures that there are.
-class PictureList {
-public:
-    explicit PictureList(PictureFacts& facts) : m_facts(facts) {}
-
-    void Add(GamePiece piece, const C_Image& image, QSizeF inches) {
-        if (image.Ref().IsEmpty()) return;
-        m_pictures.push_back({piece, image.Ref(), inches, m_facts.Of(image.FullPath())});
-    }
-    std::vector<PaperPicture> Take() { return std::move(m_pictures); }
-
-private:
-    PictureFacts& m_facts;
-    std::vector<PaperPicture> m_pictures;
-};
-
-QSizeF Square(double side) { return {side, side}; }
-
-std::vector<PaperPicture> PicturesOf(const Game& game, PictureFacts& facts) {
-    PictureList list(facts);
-    for (int i = 0; i < basTAVL::kSpaces; ++i) {
-        if (OwnPieces::IsSpace(i))
-            list.Add(GamePiece::Space(i), game.spaces[size_t(i)].Image,
-                     Square(clsRenderDestination::SpaceStickerImageInches()));
-    }
-    for (int i = 0; i < basTAVL::kCorners; ++i) {
-        if (OwnPieces::IsCorner(i))
-            list.Add(GamePiece::Corner(i), game.corners[size_t(i)].Image,
-                     Square(clsRenderDestination::CornerStickerImageInches()));
-    }
-    for (int i = 0; i < basTAVL::kMoney; ++i)
-        list.Add(GamePiece::Money(i), game.money[size_t(i)].FaceImage, C_Money::OvalInches());
-    for (int i = 0; i < basTAVL::kTokens; ++i)
-        list.Add(GamePiece::Token(i), game.tokens[size_t(i)].Image, Square(frmBMP::kTokenInches));
-    return list.Take();
-}
-
 } // namespace
 
 CheckedGame::CheckedGame(const Game& checked, PictureFacts& facts, CheckOptions known)
     : game(checked), options(known), m_facts(facts), m_begun(IsBegunIn(checked)) {}
 
-const std::vector<PaperText>& CheckedGame::Texts() const {
-    if (!m_texts) m_texts = PaperTextsOf(game);
-    return *m_texts;
+bool CheckedGame::Gather() {
+    if (AddPaperTexts(game, m_part, m_texts)) {
+        ++m_part;
+        return true;
+    }
+    return GatherPicture();
 }
 
-const std::vector<PaperPicture>& CheckedGame::Pictures() const {
-    if (!m_pictures) m_pictures = PicturesOf(game, m_facts);
-    return *m_pictures;
+bool CheckedGame::GatherPicture() {
+    const std::span<const GamePiece> pieces = PiecesWithPictures();
+    if (m_picture == pieces.size()) return false;
+    if (std::optional<PaperPicture> picture = PaperPictureOf(game, pieces[m_picture++], m_facts))
+        m_pictures.push_back(*std::move(picture));
+    return true;
 }

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "check/GamePiece.h"
+#include "check/PaperPictures.h"
 #include "check/PaperTexts.h"
-#include "check/PictureFacts.h"
 #include "document/Game.h"
-#include "pictures/PictureRef.h"
 
 #include <optional>
 #include <vector>
@@ -14,14 +12,6 @@
 struct CheckOptions {
     /// What of an upright page can be printed on, in inches; nothing where that isn't known.
     std::optional<QSizeF> printableInches;
-};
-
-/// A picture of a piece, and the box that it is printed in.
-struct PaperPicture {
-    GamePiece piece;
-    PictureRef ref;
-    QSizeF inches;
-    PictureFacts::Fact fact;
 };
 
 /// A game that is being checked: the game, and what the checks want to know of it, worked out once for all of them.
@@ -36,12 +26,20 @@ public:
     /// Most of the spaces have a name or a picture. Before that what is missing is still to come.
     bool IsBegun() const { return m_begun; }
 
-    const std::vector<PaperText>& Texts() const;
-    const std::vector<PaperPicture>& Pictures() const;
+    const std::vector<PaperText>& Texts() const { return m_texts; }
+    const std::vector<PaperPicture>& Pictures() const { return m_pictures; }
+
+    /// Works out a little more of what the checks want to know: the words of a piece, or one picture. False when
+    /// nothing is left; the checks may be run only then.
+    bool Gather();
 
 private:
+    bool GatherPicture();
+
     PictureFacts& m_facts;
     bool m_begun;
-    mutable std::optional<std::vector<PaperText>> m_texts;
-    mutable std::optional<std::vector<PaperPicture>> m_pictures;
+    int m_part = 0;
+    size_t m_picture = 0;
+    std::vector<PaperText> m_texts;
+    std::vector<PaperPicture> m_pictures;
 };

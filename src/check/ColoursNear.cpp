@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "check/Checks.h"
 #include "document/basTAVL.h"
+#include "services/BoardFacts.h"
 
 #include <algorithm>
 #include <cmath>
@@ -26,22 +27,32 @@ double Contrast(Color a, Color b) {
     return (light + kStrayLight) / (dark + kStrayLight);
 }
 
-void Look(Findings& findings, GamePiece piece, Color ink, Color ground, const char* sWhat) {
+void Look(Findings& findings, GamePiece piece, Color ink, Color ground, const char* sWhat, const QStringList& sheets) {
     if (Contrast(ink, ground) >= kLeastContrast) return;
-    findings.Add(piece,
-                 QStringLiteral("The colours of %1 and of the letters on it are too near to each other.")
-                     .arg(QLatin1String(sWhat)),
-                 QStringLiteral("Choose a darker ink under View, Setup."));
+    findings
+        .Add(piece,
+             QStringLiteral("The colours of %1 and of the letters on it are too near to each other.")
+                 .arg(QLatin1String(sWhat)),
+             QStringLiteral("Choose a darker ink under View, Setup."))
+        .sheets = sheets;
 }
+
+void Look(Findings& findings, GamePiece piece, Color ink, Color ground, const char* sWhat) {
+    Look(findings, piece, ink, ground, sWhat, PieceSheets::Of(piece));
+}
+
+QStringList DeedSheets() { return PieceSheets::OfDeed(0) + PieceSheets::OfDeed(BoardFacts::kSpaces - 1); }
 
 } // namespace
 
 template <>
 void RunCheck<class ColoursNear>(const CheckedGame& game, Findings& findings) {
     const Color ink = basTAVL::g_lPrintBlack();
-    Look(findings, GamePiece::Whole(), ink, basTAVL::g_lPrintBack(), "the labels");
-    Look(findings, GamePiece::Whole(), ink, basTAVL::g_lPrintRed(), "the subtitle's labels");
-    Look(findings, GamePiece::Whole(), ink, Color::White(), "the deeds");
+    const QStringList titles = PieceSheets::Of(GamePiece::Titles());
+    const QStringList labels = titles + PieceSheets::OfSticker(GamePiece::Corner(0));
+    Look(findings, GamePiece::Whole(), ink, basTAVL::g_lPrintBack(), "the labels", labels);
+    Look(findings, GamePiece::Whole(), ink, basTAVL::g_lPrintRed(), "the subtitle's labels", titles);
+    Look(findings, GamePiece::Whole(), ink, Color::White(), "the deeds", DeedSheets());
     for (int deck = 0; deck < basTAVL::kNewsSets; ++deck)
         Look(findings, GamePiece::Deck(deck), ink, basTAVL::g_lNewsColor(deck), "the cards");
     for (int i = 0; i < basTAVL::kMoney; ++i)

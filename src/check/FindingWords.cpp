@@ -25,7 +25,8 @@ QByteArray Json(const Game& game, const std::vector<Finding>& findings) {
                                  {QStringLiteral("piece"), finding.piece.Word()},
                                  {QStringLiteral("name"), finding.piece.NameIn(game)},
                                  {QStringLiteral("text"), finding.sText},
-                                 {QStringLiteral("advice"), finding.sAdvice}});
+                                 {QStringLiteral("advice"), finding.sAdvice},
+                                 {QStringLiteral("sheets"), QJsonArray::fromStringList(finding.sheets)}});
     }
     return QJsonDocument(array).toJson();
 }

@@ -71,11 +71,13 @@ void Look(Findings& findings, const char* sSheet, double ink) {
     const Sheet& sheet = *FindSheet(QString::fromLatin1(sSheet));
     const double part = ink / AreaOf(kPage);
     if (part <= kMuch) return;
-    findings.Add(GamePiece::Whole(),
-                 QStringLiteral("The sheet %1 takes much ink: about %2 % of it is covered.")
-                     .arg(sheet.Title(Kit::Eight))
-                     .arg(int(part * kHundred)),
-                 QStringLiteral("Have ink at hand, and let the sheet dry before you cut it."));
+    findings
+        .Add(GamePiece::Whole(),
+             QStringLiteral("The sheet %1 takes much ink: about %2 % of it is covered.")
+                 .arg(sheet.Title(Kit::Eight))
+                 .arg(int(part * kHundred)),
+             QStringLiteral("Have ink at hand, and let the sheet dry before you cut it."))
+        .sheets = QStringList{QString::fromLatin1(sSheet)};
 }
 
 } // namespace

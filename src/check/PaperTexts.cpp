@@ -2,7 +2,9 @@
 #include "check/PaperTexts.h"
 
 #include "check/OwnPieces.h"
+#include "check/PieceSheets.h"
 #include "document/Game.h"
+#include "drawing/DrawingAside.h"
 #include "kit/BoardSheet.h"
 #include "kit/BoxSheet.h"
 #include "kit/DeedCards.h"
@@ -13,71 +15,113 @@ namespace {
 
 class TextList {
 public:
-    void Add(GamePiece piece, const QString& sWhere, const PrintedText& printed, bool bRound = false) {
-        m_texts.push_back({piece, sWhere, WrittenTextsOf(*printed.recording, printed.inches), printed.inches, bRound});
+    explicit TextList(std::vector<PaperText>& texts) : m_texts(texts) {}
+
+    void Add(GamePiece piece, const QString& sWhere, const QStringList& sheets, const PrintedText& printed) {
+        m_texts.push_back({piece, sWhere, WrittenTextsOf(*printed.recording, printed.inches), printed.inches, sheets,
+                           piece.kind == GamePiece::Kind::Token});
     }
-    std::vector<PaperText> Take() { return std::move(m_texts); }
+    /// On all sheets of its piece.
+    void Add(GamePiece piece, const QString& sWhere, const PrintedText& printed) {
+        Add(piece, sWhere, PieceSheets::Of(piece), printed);
+    }
 
 private:
-    std::vector<PaperText> m_texts;
+    std::vector<PaperText>& m_texts;
 };
 
-void AddTitles(TextList& list, const std::vector<LabelSheet::TitleLabel>& labels, const Titles& titles) {
+void AddLabels(TextList& list, const std::vector<LabelSheet::TitleLabel>& labels, const QStringList& sheets,
+               const Titles& titles) {
     for (const LabelSheet::TitleLabel& label : labels) {
         if (titles.Text(TitlePictures::RecordOf(label.picture)).sText.trimmed().isEmpty()) continue;
         PrintedText printed = TitlePictures::Record(label.picture, titles);
         printed.inches = label.inches;
-        list.Add(GamePiece::Titles(), QStringLiteral("on the label \"%1\"").arg(QLatin1String(label.sLegend)), printed);
+        list.Add(GamePiece::Titles(), QStringLiteral("on the label \"%1\"").arg(QLatin1String(label.sLegend)), sheets,
+                 printed);
     }
 }
 
-void AddSpacesAndCorners(TextList& list, const Game& game) {
-    for (int i = 0; i < basTAVL::kSpaces; ++i) {
-        if (!OwnPieces::IsSpace(i)) continue;
-        const C_Space& space = game.spaces[size_t(i)];
-        if (HasLabelSheets(game.kit))
-            list.Add(GamePiece::Space(i), QStringLiteral("on its sticker"), frmBMP::RecordSpaceText(space));
-        if (HasDeedSheets(game.kit))
-            list.Add(GamePiece::Space(i), QStringLiteral("on its deed"), DeedTitleOnPaper(i, space));
-    }
-    for (int i = 0; i < basTAVL::kCorners && HasLabelSheets(game.kit); ++i) {
-        if (OwnPieces::IsCorner(i))
-            list.Add(GamePiece::Corner(i), QStringLiteral("on its sticker"),
-                     frmBMP::RecordCornerText(game.corners[size_t(i)]));
+void AddTitles(TextList& list, const Game& game, int iPart) {
+    if (!HasLabelSheets(game.kit)) return;
+    if (iPart == 0) {
+        AddLabels(list, TitleLabelsOfBoard(), PieceSheets::OfBoardLabels(), game.titles);
+    } else {
+        AddLabels(list, TitleLabelsOfBox(), PieceSheets::OfBoxLabels(), game.titles);
     }
 }
 
-void AddCards(TextList& list, const Game& game) {
-    for (int deck = 0; deck < basTAVL::kNewsSets; ++deck) {
-        const QString& head = game.titles.Text(Titles::kLast - 1 + deck).sText;
-        const auto& cards = game.news[size_t(deck)];
-        if (!head.trimmed().isEmpty())
-            list.Add(GamePiece::Deck(deck), QStringLiteral("on its cards"),
-                     NewsHeadOnPaper(head, cards.front().FontHead));
-        for (int i = 0; i < basTAVL::kCards; ++i)
-            list.Add(GamePiece::Card(deck, i), QString(), NewsTextOnPaper(cards[size_t(i)]));
-    }
+void AddSpace(TextList& list, const Game& game, int iSpace) {
+    if (!OwnPieces::IsSpace(iSpace)) return;
+    const C_Space& space = game.spaces[size_t(iSpace)];
+    const GamePiece piece = GamePiece::Space(iSpace);
+    if (HasLabelSheets(game.kit))
+        list.Add(piece, QStringLiteral("on its sticker"), PieceSheets::OfSticker(piece),
+                 frmBMP::RecordSpaceText(space));
+    if (HasDeedSheets(game.kit))
+        list.Add(piece, QStringLiteral("on its deed"), PieceSheets::OfDeed(iSpace), DeedTitleOnPaper(iSpace, space));
 }
 
-void AddMoneyAndTokens(TextList& list, const Game& game) {
-    for (int i = 0; i < basTAVL::kMoney; ++i)
-        list.Add(GamePiece::Money(i), QString(), frmBMP::RecordMoneyText(game.money[size_t(i)]));
-    for (int i = 0; i < basTAVL::kTokens && HasLabelSheets(game.kit); ++i) {
-        if (game.tokens[size_t(i)].Image.FullPath().isEmpty())
-            list.Add(GamePiece::Token(i), QString(), frmBMP::RecordTokenText(game.tokens[size_t(i)]), true);
-    }
+void AddCorner(TextList& list, const Game& game, int iCorner) {
+    if (!HasLabelSheets(game.kit) || !OwnPieces::IsCorner(iCorner)) return;
+    list.Add(GamePiece::Corner(iCorner), QStringLiteral("on its sticker"),
+             frmBMP::RecordCornerText(game.corners[size_t(iCorner)]));
 }
+
+// Ahead of the first card the head that all of its deck bear.
+void AddCard(TextList& list, const Game& game, int iPart) {
+    const int deck = iPart / basTAVL::kCards;
+    const int card = iPart % basTAVL::kCards;
+    const QString& head = game.titles.Text(Titles::kLast - 1 + deck).sText;
+    const auto& cards = game.news[size_t(deck)];
+    if (card == 0 && !head.trimmed().isEmpty())
+        list.Add(GamePiece::Deck(deck), QStringLiteral("on its cards"), NewsHeadOnPaper(head, cards.front().FontHead));
+    list.Add(GamePiece::Card(deck, card), QString(), NewsTextOnPaper(cards[size_t(card)]));
+}
+
+void AddMoney(TextList& list, const Game& game, int iMoney) {
+    list.Add(GamePiece::Money(iMoney), QString(), frmBMP::RecordMoneyText(game.money[size_t(iMoney)]));
+}
+
+void AddToken(TextList& list, const Game& game, int iToken) {
+    const C_Token& token = game.tokens[size_t(iToken)];
+    if (HasLabelSheets(game.kit) && token.Image.FullPath().isEmpty())
+        list.Add(GamePiece::Token(iToken), QString(), frmBMP::RecordTokenText(token));
+}
+
+struct Parts {
+    GamePiece::Kind kind;
+    int count;
+    void (*add)(TextList& list, const Game& game, int iPart);
+};
+constexpr Parts kParts[] = {{GamePiece::Kind::Titles, 2, AddTitles},
+                            {GamePiece::Kind::Space, basTAVL::kSpaces, AddSpace},
+                            {GamePiece::Kind::Corner, basTAVL::kCorners, AddCorner},
+                            {GamePiece::Kind::Card, basTAVL::kNewsSets* basTAVL::kCards, AddCard},
+                            {GamePiece::Kind::Money, basTAVL::kMoney, AddMoney},
+                            {GamePiece::Kind::Token, basTAVL::kTokens, AddToken}};
 
 } // namespace
 
-std::vector<PaperText> PaperTextsOf(const Game& game) {
-    TextList list;
-    if (HasLabelSheets(game.kit)) {
-        AddTitles(list, TitleLabelsOfBoard(), game.titles);
-        AddTitles(list, TitleLabelsOfBox(), game.titles);
+bool AddPaperTexts(const Game& game, int iPart, std::vector<PaperText>& texts) {
+    for (const Parts& parts : kParts) {
+        if (iPart < parts.count) {
+            TextList list(texts);
+            parts.add(list, game, iPart);
+            return true;
+        }
+        iPart -= parts.count;
     }
-    AddSpacesAndCorners(list, game);
-    AddCards(list, game);
-    AddMoneyAndTokens(list, game);
-    return list.Take();
+    return false;
+}
+
+std::vector<PaperText> PaperTextsOf(const Game& game, const GamePiece& piece) {
+    // Whoever asks may be in the middle of measuring.
+    const DrawingAside aside;
+    std::vector<PaperText> texts;
+    TextList list(texts);
+    for (const Parts& parts : kParts) {
+        if (parts.kind == piece.kind) parts.add(list, game, piece.iDeck * basTAVL::kCards + piece.iNumber);
+    }
+    std::erase_if(texts, [&](const PaperText& text) { return !(text.piece == piece); });
+    return texts;
 }

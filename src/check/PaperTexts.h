@@ -17,10 +17,16 @@ struct PaperText {
     QString sWhere;
     QList<WrittenText> written;
     QSizeF inches;
+    /// Words of the sheets that it stands on.
+    QStringList sheets;
     /// Only what lies in the circle is cut out.
     bool bRound = false;
 };
 
-/// All words of a game that a family has chosen, as its kit's sheets will show them: drawn by the routines that print
-/// them, without their pictures. The rules aren't among them, as their letters never shrink.
-std::vector<PaperText> PaperTextsOf(const Game& game);
+/// Adds a part, of a piece or two, of all words of a game that a family has chosen, as its kit's sheets will show them:
+/// drawn by the routines that print them, without their pictures. The rules aren't among them, as their letters never
+/// shrink. Parts count from 0; false for one that there isn't.
+bool AddPaperTexts(const Game& game, int iPart, std::vector<PaperText>& texts);
+
+/// Those of one piece.
+std::vector<PaperText> PaperTextsOf(const Game& game, const GamePiece& piece);

@@ -3,28 +3,25 @@
 #include "check/FileName.h"
 #include "check/ShownPart.h"
 
-#include <algorithm>
-
-namespace {
-
-// Below this a family sees squares and blurred faces on paper.
-constexpr double kFewestDotsPerInch = 150;
-
-} // namespace
-
 template <>
 void RunCheck<class PictureCoarse>(const CheckedGame& game, Findings& findings) {
     for (const PaperPicture& picture : game.Pictures()) {
         const std::optional<ZoomedSource> part = ShownPartOf(picture);
         if (!part) continue;
-        const double inches = std::max(picture.inches.width(), picture.inches.height());
-        const double dots = part->iSide / inches;
+        const double dots = DotsPerInch(picture, *part);
         if (dots >= kFewestDotsPerInch) continue;
-        findings.Add(picture.piece,
-                     QStringLiteral("The picture %1 comes out coarse: %2 dots an inch, where %3 are needed.")
-                         .arg(FileNameOf(picture.ref.sPath))
-                         .arg(int(dots))
-                         .arg(kFewestDotsPerInch),
-                     QStringLiteral("Show more of it with Crop Image, or choose a larger picture."));
+        findings
+            .Add(picture.piece,
+                 QStringLiteral("The picture %1 comes out coarse: %2 dots an inch, where %3 are needed.")
+                     .arg(FileNameOf(picture.ref.sPath))
+                     .arg(int(dots))
+                     .arg(kFewestDotsPerInch),
+                 QStringLiteral("Show more of it with Crop Image, or choose a larger picture."))
+            .sheets = picture.sheets;
     }
+}
+
+template <>
+std::optional<Edit> MendFinding<class PictureCoarse>(const Game& game, const Finding& finding, const QString&) {
+    return WithOtherPart(game, finding.piece, -1);
 }

@@ -10,6 +10,10 @@ namespace {
 
 const QString kAdvice = QStringLiteral("Prices and rents lie in the file Rents of the kit, beside the program.");
 
+void Tell(Findings& findings, int iSpace, const QString& sText) {
+    findings.Add(GamePiece::Space(iSpace), sText, kAdvice).sheets = PieceSheets::OfDeed(iSpace);
+}
+
 // What there is of single, two, one storey and two storeys; utilities have no storeys.
 bool Falls(const RentRecord& rent) {
     qint16 before = 0;
@@ -22,15 +26,10 @@ bool Falls(const RentRecord& rent) {
 }
 
 void LookAtDeed(Findings& findings, int iSpace, const RentRecord& rent) {
-    const GamePiece piece = GamePiece::Space(iSpace);
-    if (rent.Cost <= 0) {
-        findings.Add(piece, QStringLiteral("Its price is 0."), kAdvice);
-        return;
-    }
-    if (rent.RentSingle <= 0) findings.Add(piece, QStringLiteral("It brings no rent."), kAdvice);
-    if (Falls(rent)) findings.Add(piece, QStringLiteral("Its rents fall where they should rise."), kAdvice);
-    if (rent.Extra > rent.Cost)
-        findings.Add(piece, QStringLiteral("The bank lends more on it than it costs."), kAdvice);
+    if (rent.Cost <= 0) return Tell(findings, iSpace, QStringLiteral("Its price is 0."));
+    if (rent.RentSingle <= 0) Tell(findings, iSpace, QStringLiteral("It brings no rent."));
+    if (Falls(rent)) Tell(findings, iSpace, QStringLiteral("Its rents fall where they should rise."));
+    if (rent.Extra > rent.Cost) Tell(findings, iSpace, QStringLiteral("The bank lends more on it than it costs."));
 }
 
 // Of one group a dearer space never brings less.
@@ -41,9 +40,8 @@ void LookAtGroup(Findings& findings, int iSpace) {
         const RentRecord& a = basPosit::m_Rent(other);
         const RentRecord& b = basPosit::m_Rent(iSpace);
         if ((a.Cost < b.Cost && a.RentSingle > b.RentSingle) || (a.Cost > b.Cost && a.RentSingle < b.RentSingle))
-            findings.Add(GamePiece::Space(iSpace),
-                         QStringLiteral("The dearer space of its colour brings less rent than the cheaper one."),
-                         kAdvice);
+            Tell(findings, iSpace,
+                 QStringLiteral("The dearer space of its colour brings less rent than the cheaper one."));
     }
 }
 

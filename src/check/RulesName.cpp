@@ -12,8 +12,10 @@ constexpr int kTitle = 1;
 
 void Look(const CheckedGame& game, Findings& findings, GamePiece piece, const QString& sWords, const QString& sText) {
     if (!IsBlank(sWords)) return;
-    findings.Add(piece, game.IsBegun() ? Severity::Should : Severity::Hint, sText,
-                 QStringLiteral("Give it a name of a word or two."));
+    findings
+        .Add(piece, game.IsBegun() ? Severity::Should : Severity::Hint, sText,
+             QStringLiteral("Give it a name of a word or two."))
+        .sheets.append(QStringLiteral("rules"));
 }
 
 } // namespace

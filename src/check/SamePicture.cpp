@@ -13,9 +13,11 @@ void RunCheck<class SamePicture>(const CheckedGame& game, Findings& findings) {
             return other.ref == picture->ref && other.piece.kind == picture->piece.kind;
         });
         if (before == picture) continue;
-        findings.Add(picture->piece,
-                     QStringLiteral("It shows the same picture %1 as another: %2.")
-                         .arg(FileNameOf(picture->ref.sPath), before->piece.NameIn(game.game)),
-                     QStringLiteral("Leave it so if you like it, or choose another picture or another part of it."));
+        findings
+            .Add(picture->piece,
+                 QStringLiteral("It shows the same picture %1 as another: %2.")
+                     .arg(FileNameOf(picture->ref.sPath), before->piece.NameIn(game.game)),
+                 QStringLiteral("Leave it so if you like it, or choose another picture or another part of it."))
+            .sheets = picture->sheets;
     }
 }

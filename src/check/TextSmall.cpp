@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "check/Checks.h"
+#include "check/LinesAnew.h"
+#include "check/TextLimits.h"
 
 #include <map>
 
 namespace {
 
-// Smaller letters need a magnifying glass.
-constexpr double kSmallestPoints = 5;
-
 struct Smallest {
-    double dblPoints = kSmallestPoints;
+    double dblPoints = TextLimits::kSmallestPoints;
     const PaperText* text = nullptr;
 };
 
@@ -27,9 +26,16 @@ void RunCheck<class TextSmall>(const CheckedGame& game, Findings& findings) {
     for (const auto& [piece, found] : smallest) {
         if (!found.text) continue;
         const QString where = found.text->sWhere.isEmpty() ? QString() : u' ' + found.text->sWhere;
-        findings.Add(piece,
-                     QStringLiteral("The letters are too small to read%1: %2 points high.")
-                         .arg(where, QString::number(found.dblPoints, 'f', 1)),
-                     QStringLiteral("Start new lines with Enter, or say it in fewer words."));
+        findings
+            .Add(piece,
+                 QStringLiteral("The letters are too small to read%1: %2 points high.")
+                     .arg(where, QString::number(found.dblPoints, 'f', 1)),
+                 QStringLiteral("Start new lines with Enter, or say it in fewer words."))
+            .sheets = found.text->sheets;
     }
+}
+
+template <>
+std::optional<Edit> MendFinding<class TextSmall>(const Game& game, const Finding& finding, const QString&) {
+    return LinesAnew(game, finding.piece);
 }

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "check/Checks.h"
+#include "check/LinesAnew.h"
+#include "check/TextLimits.h"
 
 #include <map>
 
 namespace {
 
-// Narrower letters are hard to tell apart.
-constexpr double kNarrowest = 0.6;
 constexpr int kHundred = 100;
 
 struct Narrowest {
-    double dblSqueeze = kNarrowest;
+    double dblSqueeze = TextLimits::kNarrowest;
     const PaperText* text = nullptr;
 };
 
@@ -27,10 +27,17 @@ void RunCheck<class TextSqueezed>(const CheckedGame& game, Findings& findings) {
     }
     for (const auto& [piece, found] : narrowest) {
         if (!found.text) continue;
-        findings.Add(piece,
-                     QStringLiteral("The letters are squeezed to %1 % of their width %2.")
-                         .arg(int(found.dblSqueeze * kHundred))
-                         .arg(found.text->sWhere),
-                     QStringLiteral("A shorter text gets wider letters."));
+        findings
+            .Add(piece,
+                 QStringLiteral("The letters are squeezed to %1 % of their width %2.")
+                     .arg(int(found.dblSqueeze * kHundred))
+                     .arg(found.text->sWhere),
+                 QStringLiteral("A shorter text gets wider letters."))
+            .sheets = found.text->sheets;
     }
+}
+
+template <>
+std::optional<Edit> MendFinding<class TextSqueezed>(const Game& game, const Finding& finding, const QString&) {
+    return LinesAnew(game, finding.piece);
 }

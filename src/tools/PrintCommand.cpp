@@ -182,7 +182,7 @@ int PrintCommand::PrintGame(const PrintArguments& arguments) {
     basPosit::PosInit();
     if (!LoadGame(arguments.sGame)) return kFailed;
     if (arguments.bCheck && !arguments.Makes()) return CheckInHand(arguments);
-    if (arguments.bCheck) WarnOfInHand(arguments);
+    WarnOfInHand(arguments, sheets);
     if (!arguments.sBoard.isEmpty() && !PaintBoard(arguments.sBoard, arguments.iBoardSize)) return kFailed;
     basPosit::PosSethDC(&session.MeasuringDevice());
     if (!arguments.sPieces.isEmpty() && !WritePieces(Console::CompletePath(arguments.sPieces))) return kFailed;
@@ -235,9 +235,12 @@ int PrintCommand::CheckInHand(const PrintArguments& arguments) {
     return FindingWords::SeriousOnes(findings) == 0 ? kDone : kFailed;
 }
 
-void PrintCommand::WarnOfInHand(const PrintArguments& arguments) {
+void PrintCommand::WarnOfInHand(const PrintArguments& arguments, const QStringList& sheets) {
+    if (!arguments.bCheck && sheets.isEmpty()) return;
     for (const Finding& finding : FindingsInHand(arguments)) {
-        if (finding.IsSerious() && !IsToldElsewhere(finding)) Complain(FindingWords::LineOf(TheGame(), finding));
+        const bool meant = arguments.bCheck || finding.ShowsOn(sheets);
+        if (meant && finding.IsSerious() && !IsToldElsewhere(finding))
+            Complain(FindingWords::LineOf(TheGame(), finding));
     }
 }
 

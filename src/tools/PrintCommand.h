@@ -33,8 +33,8 @@ private:
     int PrintGame(const PrintArguments& arguments);
     /// Tells what there is to mend. kFailed when there is something.
     int CheckInHand(const PrintArguments& arguments);
-    /// Warns of what would come out badly and isn't told in another way.
-    void WarnOfInHand(const PrintArguments& arguments);
+    /// Warns of what would come out badly on these sheets, or was to be checked, and isn't told in another way.
+    void WarnOfInHand(const PrintArguments& arguments, const QStringList& sheets);
     /// A page of the printer's; sTold is shown with its progress. False when it isn't whole, which has then been told.
     bool PrintOneSheet(Printer& printer, const Sheet& sheet, const QString& sTold);
     /// Each sheet as a picture into a folder, which is made if need be. False when one isn't there.

@@ -33,6 +33,7 @@ TEST_F(PriceCheckTest, APriceOfNothingIsTold) {
     ExpectNone("prices-odd");
     UseRents(4, 1, 0);
     ExpectOnly("prices-odd", GamePiece::Space(4));
+    EXPECT_EQ(Of("prices-odd")[0].sheets, QStringList{QStringLiteral("deeds1")});
 }
 
 TEST_F(PriceCheckTest, RentsThatFallAreTold) {
@@ -91,10 +92,15 @@ TEST_F(CheckTest, PaperThatIsTooSmallIsTold) {
     options.printableInches = QSizeF(8.0, 10.5);
     ExpectNone("paper-small");
     options.printableInches = QSizeF(7.9, 11.0);
-    ExpectOnly("paper-small", GamePiece::Whole());
-    const QString text = Of("paper-small")[0].sText;
-    EXPECT_TRUE(text.contains(QStringLiteral("West, South & Corner Board Stickers"))) << text.toStdString();
-    EXPECT_FALSE(text.contains(QStringLiteral("News"))) << "the cards end well within: " << text.toStdString();
+    QStringList sheets;
+    for (const Finding& finding : Of("paper-small"))
+        sheets += finding.sheets;
+    EXPECT_EQ(sheets, (QStringList{QStringLiteral("box"), QStringLiteral("west")})) << "all others end well within";
+    EXPECT_EQ(
+        Of("paper-small")[1].sText,
+        QStringLiteral("The sheet West, South & Corner Board Stickers is larger than the paper. The row of corner "
+                       "stickers would lose 2 mm."));
+    EXPECT_EQ(Of("paper-small")[1].severity, Severity::Should);
 }
 
 // Twelve cards of 3 by 1.62 inches on 8 by 10.5.

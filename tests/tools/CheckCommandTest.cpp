@@ -78,7 +78,10 @@ TEST_F(CheckCommandTest, ScriptsGetJson) {
 
 TEST_F(CheckCommandTest, ThePaperCounts) {
     EXPECT_EQ(Check(PlainLines(), {QStringLiteral("--paper"), QStringLiteral("a4")}), 1);
-    EXPECT_TRUE(out.startsWith(QStringLiteral("must: The whole game: Only 7.8 by 11.2 inches"))) << out.toStdString();
+    EXPECT_TRUE(
+        out.startsWith(QStringLiteral("should: The whole game: The sheet Box Top & Token Stickers is "
+                                      "larger than the paper. The line of words at the foot would lose 5 mm. ")))
+        << out.toStdString();
 }
 
 TEST_F(CheckCommandTest, WrongUsageGivesStatusTwo) {
@@ -111,17 +114,22 @@ TEST_F(CheckCommandTest, APictureThatIsAwayIsToldOnce) {
     EXPECT_TRUE(out.startsWith(QStringLiteral("must: Space \"Photo\": The picture \"away.png\" isn't where it was")));
 }
 
-TEST_F(CheckCommandTest, PrintingWarnsInTheSameWords) {
+TEST_F(CheckCommandTest, PrintingWarnsInTheSameWordsOfWhatTheSheetsShow) {
     Check(WithSmallName());
-    const QString line = out.trimmed();
+    const QStringList line{QStringLiteral("tavlora-print: ") + out.trimmed()};
     Folders::SetProgramDirectory(QStringLiteral(TAVLORA_DATA_DIR));
     const QString game = InGames(QStringLiteral("Plain.gam"));
     const QString pdf = PathOf(QStringLiteral("out/kit.pdf"));
-    const QStringList sheet{game, QStringLiteral("--sheet"), QStringLiteral("good"), QStringLiteral("-o"), pdf};
-    EXPECT_EQ(Run(sheet + QStringList{QStringLiteral("--check")}), 0) << errors.join(u'\n').toStdString();
-    EXPECT_EQ(errors, QStringList{QStringLiteral("tavlora-print: ") + line});
+    const auto printed = [&](const char* sheet, const QStringList& options = {}) {
+        return Run(QStringList{game, QStringLiteral("--sheet"), QString::fromLatin1(sheet), QStringLiteral("-o"), pdf} +
+                   options);
+    };
+    EXPECT_EQ(printed("west"), 0);
+    EXPECT_EQ(errors, line);
     EXPECT_EQ(out, QString());
     EXPECT_TRUE(QFile::exists(pdf));
-    EXPECT_EQ(Run(sheet), 0);
-    EXPECT_EQ(errors, QStringList()) << "nobody has asked";
+    EXPECT_EQ(printed("good"), 0);
+    EXPECT_EQ(errors, QStringList()) << "the cards don't show the name";
+    EXPECT_EQ(printed("good", {QStringLiteral("--check")}), 0);
+    EXPECT_EQ(errors, line) << "the whole game was to be checked";
 }
