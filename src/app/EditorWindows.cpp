@@ -57,7 +57,17 @@ bool EditorWindows::ShowTokens(frmTAVL& main) {
 frmPrintTest& EditorWindows::PrintDoor(frmTAVL& main) {
     if (!m_frmPrintTest) {
         m_frmPrintTest = new frmPrintTest(&main);
-        m_frmPrintTest->Console().TellInPrint = std::bind_front(&frmTAVL::SetInPrint, &main);
+        frmTavlPrint& console = m_frmPrintTest->Console();
+        console.TellInPrint = std::bind_front(&frmTAVL::SetInPrint, &main);
+        console.MayPrint = [&main, &console](QDialog& window, const QStringList& sheets) {
+            const PrintQuestion::Answer answer = main.Check().BeforePrinting(sheets, &window);
+            if (answer == PrintQuestion::Answer::ShowMe) {
+                // What is shown lies behind them.
+                window.reject();
+                console.reject();
+            }
+            return answer == PrintQuestion::Answer::PrintAnyway;
+        };
     }
     return *m_frmPrintTest;
 }

@@ -12,7 +12,6 @@
 #include "services/basPath.h"
 #include "windowing/PictureBox.h"
 #include "windowing/WidgetLook.h"
-#include "windows/check/frmCheck.h"
 #include "windows/side/GuideTab.h"
 
 #include <QApplication>
@@ -57,6 +56,7 @@ frmTAVL::frmTAVL(EditorRoutes& doors)
           {.layOut = std::bind_front(&frmTAVL::Form_Resize, this), .open = std::bind_front(&frmTAVL::OpenPlace, this)}),
       m_side(*m_client, std::bind_front(&frmTAVL::Form_Resize, this)), m_commands(*this, m_view),
       m_sharing(*this, m_view, m_commands.InHand()), m_pictures(*this, m_view, m_commands.InHand()),
+      m_check(*this, m_commands.InHand(), DoorsOfCheck(), std::bind_front(&frmTAVL::IsInPrint, this)),
       m_requests(std::bind_front(&GameCommands::OpenGame, &m_commands), std::bind_front(&frmTAVL::IsInPrint, this)),
       m_menu(*menuBar(), m_commands.InHand(), std::bind_front(&frmTAVL::Choose, this)),
       m_drop(m_view, m_commands.InHand()), m_about(std::make_unique<frmAbout>(this)) {
@@ -66,6 +66,7 @@ frmTAVL::frmTAVL(EditorRoutes& doors)
     MakeButtons();
     MakeLists();
     MakeTabs();
+    menuBar()->setCornerWidget(&m_check.Light());
     connect(&m_commands.InHand(), &Session::Changed, &m_menu, &MainMenu::Update);
     const QSize client = SmallestClient(Twips(ToolBarTable::kPictureHeight), Twips(cmd[0]->sizeHint().height()));
     m_client->setMinimumSize(InPixels(QRect(QPoint(0, 0), client)).size());
@@ -104,6 +105,7 @@ void frmTAVL::MakeTabs() {
     m_guide = new GuideTab(m_commands.InHand(), {.open = std::bind_front(&frmTAVL::OpenStep, this),
                                                  .sendAway = [this] { ShowGuide(false); }});
     m_side.Panel().AddTab(GuideTab::kName, QStringLiteral("Guide"), m_guide);
+    m_side.Panel().AddTab(CheckList::kName, QStringLiteral("Check"), m_check.MakeTab());
 }
 
 void frmTAVL::ButtonClicked() try {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/BoardView.h"
+#include "app/GameCheck.h"
 #include "app/GameCommands.h"
 #include "app/GameSharing.h"
 #include "app/MainLayout.h"
@@ -18,14 +19,12 @@
 #include "services/Desktop.h"
 
 #include <QMainWindow>
-#include <QPointer>
 #include <QTimer>
 
 #include <array>
 
 class EditorRoutes;
 class frmAbout;
-class frmCheck;
 class GuideTab;
 class QPushButton;
 
@@ -74,6 +73,7 @@ public:
     BoardView& View() { return m_view; }
     ToolTips& Tips() { return m_tips; }
     GameCommands& Commands() { return m_commands; }
+    GameCheck& Check() { return m_check; }
 
 public Q_SLOTS:
     /// A start of the program, this one or a later one, wants this window with a game to open or an empty text.
@@ -119,11 +119,11 @@ private:
     void OpenStep(FirstSteps::Step step, const std::optional<GamePiece>& piece);
     void ShowGuide(bool bShown);
     void Choose(Menu menu, int Index);
-    /// Opens the list of what there is to mend.
-    void CheckGameInHand();
+    CheckList::Doors DoorsOfCheck();
     void PrinterSetup();
     void Print();
     void PrintEverything();
+    void PrintBy(bool (EditorRoutes::*door)(frmTAVL&));
     bool IsSavedForPrinting();
     void ExitWithQuestion();
 
@@ -137,6 +137,7 @@ private:
     GameCommands m_commands;
     GameSharing m_sharing;
     PictureCommands m_pictures;
+    GameCheck m_check;
     StartRequests m_requests;
     MainMenu m_menu;
     PictureDrop m_drop;
@@ -148,7 +149,6 @@ private:
     std::array<QPushButton*, MainLayout::kButtons> cmd{};
     CommonDialog dlgCommon;
     std::unique_ptr<frmAbout> m_about;
-    QPointer<frmCheck> m_check;
     GuideTab* m_guide = nullptr;
 
     bool bInPrint = false;

@@ -7,7 +7,6 @@
 #include "check/GamePiece.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
-#include "windows/check/frmCheck.h"
 #include "windows/help/WindowHelp.h"
 #include "windows/print/ChangePrinter.h"
 
@@ -70,7 +69,7 @@ void frmTAVL::mnuEdit_Click(int Index) {
     } else if (Index == 1) {
         m_commands.Redo();
     } else if (Index == 3) {
-        CheckGameInHand();
+        m_check.ShowList();
     } else {
         m_sharing.CopyBoardPicture();
     }
@@ -155,8 +154,8 @@ void frmTAVL::cmd_Click(int Index) try {
 
 bool frmTAVL::IsSavedForPrinting() {
     if (!m_commands.InHand().IsUnsaved()) return true;
-    const int answer = MsgBox(QStringLiteral("Please save your changes before printing.\r\n\r\nSave them now?"),
-                              vbYesNo | vbQuestion);
+    const int answer =
+        MsgBox(QStringLiteral("Please save your changes before printing.\r\n\r\nSave them now?"), vbYesNo | vbQuestion);
     if (answer != vbYes) return false;
     m_commands.Save();
     // Whatever went wrong has been told.
@@ -164,23 +163,26 @@ bool frmTAVL::IsSavedForPrinting() {
 }
 
 void frmTAVL::Print() {
-    if (IsSavedForPrinting()) m_bPrintedSomething = m_doors.Print(*this);
+    if (IsSavedForPrinting()) PrintBy(&EditorRoutes::Print);
 }
 
 void frmTAVL::PrintEverything() {
-    if (IsSavedForPrinting()) m_bPrintedSomething = m_doors.PrintEverything(*this);
+    if (IsSavedForPrinting()) PrintBy(&EditorRoutes::PrintEverything);
 }
 
-void frmTAVL::CheckGameInHand() {
-    if (!m_check) {
-        const frmCheck::Doors doors{
-            .show = [this](const GamePiece& piece) { m_view.ShowPlace(BoardPlace::Of(piece)); },
-            .open = [this](const GamePiece& piece) { OpenPlace(BoardPlace::Of(piece)); },
-            .isBusy = std::bind_front(&frmTAVL::IsInPrint, this),
-        };
-        m_check = new frmCheck(m_commands.InHand(), doors, this);
-    }
-    m_check->ShowForm();
+void frmTAVL::PrintBy(bool (EditorRoutes::*door)(frmTAVL&)) {
+    m_check.BeginPrinting();
+    m_bPrintedSomething = (m_doors.*door)(*this);
+    m_check.EndPrinting();
+}
+
+CheckList::Doors frmTAVL::DoorsOfCheck() {
+    return {
+        .show = [this](const GamePiece& piece) { m_view.ShowPlace(BoardPlace::Of(piece)); },
+        .open = [this](const GamePiece& piece) { OpenPlace(BoardPlace::Of(piece)); },
+        .mended = [this] { m_view.Redraw(); },
+        .showTab = [this] { return m_side.Panel().isVisible() && m_side.Panel().ShowTab(CheckList::kName); },
+    };
 }
 
 void frmTAVL::PrinterSetup() { ChangePrinter(dlgCommon, m_bPrintedSomething); }

@@ -2,9 +2,11 @@
 // Check My Game from the main window: what it lists, and where it leads.
 #include "AppFixture.h"
 
+#include "windowing/CountLight.h"
 #include "windows/check/frmCheck.h"
 
 #include <QLabel>
+#include <QMenuBar>
 #include <QRubberBand>
 #include <QTreeWidget>
 
@@ -28,7 +30,12 @@ protected:
         ChooseMenu("mnuEdit_3");
         return Find<frmCheck>("frmCheck");
     }
-    QTreeWidget& List() const { return Find<QTreeWidget>("tvwFindings"); }
+    QTreeWidget& List() const { return OfWindow<QTreeWidget>("tvwFindings"); }
+    /// Of the window, as the panel has a list with the same names.
+    template <typename Control>
+    Control& OfWindow(const char* name) const {
+        return ::Find<Control>(Find<frmCheck>("frmCheck"), name);
+    }
     /// The pieces, each with its findings behind it.
     QStringList Rows() const {
         QStringList rows;
@@ -39,7 +46,7 @@ protected:
         }
         return rows;
     }
-    QString Summary() const { return Find<QLabel>("lblSummary").text(); }
+    QString Summary() const { return OfWindow<QLabel>("lblSummary").text(); }
     const QString kEmptySpace = QStringLiteral("Space 6: Mend it");
 };
 
@@ -85,10 +92,10 @@ TEST_F(CheckWindowTest, AClickShowsThePieceAndADoubleClickOpensIt) {
 TEST_F(CheckWindowTest, WhatIsNoProblemStaysAwayInThisGame) {
     EditSpace(5, QString());
     OpenList();
-    EXPECT_FALSE(Find<QPushButton>("cmdNoProblem").isEnabled());
-    EXPECT_FALSE(Find<QPushButton>("cmdTellAll").isEnabled());
+    EXPECT_FALSE(OfWindow<QPushButton>("cmdNoProblem").isEnabled());
+    EXPECT_FALSE(OfWindow<QPushButton>("cmdTellAll").isEnabled());
     List().setCurrentItem(List().topLevelItem(0)->child(0));
-    Find<QPushButton>("cmdNoProblem").click();
+    OfWindow<QPushButton>("cmdNoProblem").click();
     EXPECT_EQ(Rows(), QStringList());
     EditSpace(6, QString());
     OpenList();
@@ -99,6 +106,95 @@ TEST_F(CheckWindowTest, WhatIsNoProblemStaysAwayInThisGame) {
     InHand().SetGameName(InGames(QStringLiteral("Ours.gam")));
     OpenList();
     EXPECT_EQ(Rows().size(), 1);
-    Find<QPushButton>("cmdTellAll").click();
+    OfWindow<QPushButton>("cmdTellAll").click();
     EXPECT_EQ(Rows().size(), 2);
+}
+
+TEST_F(CheckWindowTest, ShowMeOpensTheListAtWhatIsMeant) {
+    EditSpace(5, QString());
+    EditSpace(6, QString());
+    window->Commands().InHand().Save();
+    PrintQuestion::Answer answer = PrintQuestion::Answer::Cancel;
+    routes.onEdit = [&] {
+        ModalSteps person;
+        person.In("frmBeforePrint", [](QWidget& question) {
+            auto& rows = ::Find<QTreeWidget>(question, "tvwFindings");
+            rows.setCurrentItem(rows.topLevelItem(1)->child(0));
+            Click(question, "cmdShowMe");
+        });
+        answer = window->Check().BeforePrinting({QStringLiteral("west")}, window.get());
+        return false;
+    };
+    window->mnuFile_Click(7);
+    EXPECT_EQ(answer, PrintQuestion::Answer::ShowMe);
+    EXPECT_TRUE(Find<frmCheck>("frmCheck").isVisible());
+    EXPECT_EQ(List().currentItem()->parent()->text(0), QStringLiteral("Space 7"));
+    EXPECT_TRUE(Find<QRubberBand>("frmShownPlace").isVisible()) << "and the board shows it";
+}
+
+TEST_F(CheckWindowTest, TheLightTellsHowMuchThereIsToMendAndOpensTheList) {
+    auto& light = Find<CountLight>("CountLight");
+    EXPECT_TRUE(light.isVisible());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return light.Count() == 0; }, 2000));
+    EXPECT_EQ(light.accessibleName(), QStringLiteral("Nothing to look at. Click for the list."));
+    EditSpace(5, QString());
+    EditSpace(6, QString());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return light.Count() == 2; }, 2000));
+    EXPECT_EQ(light.toolTip(), QStringLiteral("2 things to look at. Click for the list."));
+    QTest::mouseClick(&light, Qt::LeftButton);
+    EXPECT_TRUE(Find<frmCheck>("frmCheck").isVisible());
+    EXPECT_EQ(Rows().size(), 2);
+}
+
+TEST_F(CheckWindowTest, TheLightLeavesTheMenuBarAsHighAsItIs) {
+    const int with = window->menuBar()->sizeHint().height();
+    window->menuBar()->setCornerWidget(nullptr);
+    EXPECT_EQ(with, window->menuBar()->sizeHint().height());
+}
+
+// Edits that come faster than anybody pauses must not put the check off, and each slice of it has to be short.
+TEST_F(CheckWindowTest, TheLightFollowsWhileEditsGoOnComing) {
+    auto& light = Find<CountLight>("CountLight");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return light.Count() == 0; }, 2000));
+    EditSpace(5, QString());
+    bool seen = false;
+    for (int edit = 0; edit < 200 && !seen; ++edit) {
+        EditSpace(6, QStringLiteral("Edit %1").arg(edit));
+        QTest::qWait(10);
+        seen = light.Count() == 1;
+    }
+    EXPECT_TRUE(seen);
+}
+
+TEST_F(CheckWindowTest, FixMendsWithOneStepThatCanBeUndone) {
+    const QString name = QStringLiteral("The old lane behind the mill of Ada");
+    EditSpace(5, name);
+    OpenList();
+    ASSERT_EQ(Rows().size(), 1);
+    EXPECT_FALSE(OfWindow<QPushButton>("cmdFix").isEnabled()) << "nothing is chosen";
+    List().setCurrentItem(List().topLevelItem(0)->child(0));
+    OfWindow<QPushButton>("cmdFix").click();
+    EXPECT_EQ(Rows(), QStringList());
+    EXPECT_GT(InHand().InHand().spaces[5].TextArray().size(), 1);
+    EXPECT_EQ(InHand().UndoName(), QStringLiteral("Name of ") + name);
+    InHand().Undo();
+    EXPECT_EQ(InHand().InHand().spaces[5].TextAll(), name);
+}
+
+TEST_F(CheckWindowTest, FixIsGreyWhereAPersonIsNeeded) {
+    EditSpace(5, QString());
+    OpenList();
+    List().setCurrentItem(List().topLevelItem(0)->child(0));
+    EXPECT_FALSE(OfWindow<QPushButton>("cmdFix").isEnabled());
+}
+
+TEST_F(CheckWindowTest, TheListStandsBesideTheBoardWhereThereIsRoom) {
+    window->resize(1300, 700);
+    QApplication::processEvents();
+    EditSpace(5, QString());
+    ChooseMenu("mnuEdit_3");
+    EXPECT_FALSE(window->findChild<frmCheck*>(QStringLiteral("frmCheck")));
+    EXPECT_TRUE(Find<CheckList>(CheckList::kName).isVisible());
+    auto& rows = ::Find<QTreeWidget>(Find<CheckList>(CheckList::kName), "tvwFindings");
+    EXPECT_EQ(rows.topLevelItemCount(), 1);
 }

@@ -6,7 +6,9 @@
 #include "app/frmPrintManual.h"
 #include "pack/Packing.h"
 #include "services/Guide.h"
+#include "windows/check/frmBeforePrint.h"
 #include "windows/check/frmCheck.h"
+#include "windows/check/GameChecker.h"
 #include "windows/editors/frmEditCenter.h"
 #include "windows/editors/frmEditCorner.h"
 #include "windows/editors/frmEditMoney.h"
@@ -60,7 +62,8 @@ protected:
         all.emplace(window->objectName(), nullptr); // stands already
         add(new frmAbout);
         add(new frmPrintManual);
-        add(new frmCheck(session, {}));
+        add(new frmCheck(*new GameChecker(session, window.get()), {}));
+        add(new frmBeforePrint(session.InHand(), {}, 1, nullptr));
         add(new frmEditCenter(session));
         add(new frmEditCorner(session));
         add(new frmEditMoney(session));

@@ -67,19 +67,19 @@ TEST_F(SidePanelTest, StaysAsItWasAtTheNextStart) {
 
 TEST_F(SidePanelTest, AnotherTabIsOneCallAndComesToTheFrontAgain) {
     Panel().AddTab("Other", QStringLiteral("Other"), new QLabel(QStringLiteral("Here")));
-    QTest::mouseClick(Panel().tabBar(), Qt::LeftButton, {}, Panel().tabBar()->tabRect(1).center());
-    EXPECT_EQ(Panel().currentIndex(), 1);
+    QTest::mouseClick(Panel().tabBar(), Qt::LeftButton, {}, Panel().tabBar()->tabRect(2).center());
+    EXPECT_EQ(Panel().currentIndex(), 2);
     EXPECT_TRUE(Find<QLabel>("Other").isVisible());
     EXPECT_EQ(Ini("SideTab"), QStringLiteral("Other"));
     EXPECT_TRUE(Panel().ShowTab(GuideTab::kName));
     Panel().ReadSettings();
-    EXPECT_EQ(Panel().currentIndex(), 1);
+    EXPECT_EQ(Panel().currentIndex(), 2);
     EXPECT_FALSE(Panel().ShowTab("Nowhere"));
 }
 
 TEST_F(SidePanelTest, AStepOpensItsPlace) {
     const Strings opened = {QStringLiteral("titles"), QStringLiteral("space 0"), QStringLiteral("space 0"),
-                           QStringLiteral("news 0"), QStringLiteral("print")};
+                            QStringLiteral("news 0"), QStringLiteral("print")};
     for (int i = 0; i < FirstSteps::kSteps; ++i) {
         Click(StepButton(i));
         EXPECT_EQ(routes.Take(), Strings{opened[i]});
@@ -101,12 +101,14 @@ TEST_F(SidePanelTest, AStepIsTickedWhileItIsDone) {
 }
 
 TEST_F(SidePanelTest, GuideGoesForEverAndTheMenuBringsItBack) {
+    Panel().SetTabShown(CheckList::kName, false);
     Click(Find<QPushButton>("cmdGuideAway"));
     EXPECT_FALSE(Panel().isVisible()) << "nothing else stands in it";
     EXPECT_FALSE(Handle().isVisible());
     Start();
     Widen();
-    EXPECT_FALSE(Panel().isVisible());
+    EXPECT_FALSE(Panel().IsTabShown(GuideTab::kName));
+    EXPECT_FALSE(StepButton(0).isVisible());
     ChooseMenu("mnuHelp_21");
     EXPECT_TRUE(Panel().isVisible());
     EXPECT_TRUE(StepButton(0).isVisible());

@@ -175,3 +175,20 @@ TEST_F(PrintEverythingTest, AFailureFreesTheWindow) {
     EXPECT_TRUE(ReadFile(basErrLog::ErrLogPath()).contains("PrintEverything!cmdPrint_Click"));
     EXPECT_EQ(pages.count(true), pages.count(false));
 }
+
+TEST_F(PrintEverythingTest, IsAskedOnceAheadOfAllSheetsThatAreTicked) {
+    QList<QStringList> asked;
+    window.MayPrint = [&](QDialog&, const QStringList& sheets) {
+        asked.append(sheets);
+        return false;
+    };
+    Show([this] {
+        for (int row = 1; row < int(Sheets().size()) - 1; ++row)
+            Tick(row, false);
+        Print();
+        EXPECT_EQ(Ticked(), 2);
+    });
+    EXPECT_EQ(asked, QList<QStringList>{QStringList({QStringLiteral("box"), QStringLiteral("rules")})});
+    EXPECT_TRUE(printer.ended.isEmpty());
+    EXPECT_TRUE(pages.isEmpty());
+}

@@ -10,7 +10,7 @@
 
 class Session;
 
-/// Looks the game in hand over again a moment after each edit, when nobody waits for anything.
+/// Looks the game in hand over again a moment after each edit, in slices so short that nobody who types waits for it.
 class GameChecker : public QObject {
     Q_OBJECT
 
@@ -30,6 +30,14 @@ public:
     /// All that was called no problem in this game is told again.
     void TellAllAgain();
 
+    /// Whether a click mends it.
+    bool CanMend(const Finding& finding);
+    /// Mends it, with a picture for kinds that want one, as an edit that can be undone. False when nothing was done.
+    bool MendNow(const Finding& finding, const QString& sPicture);
+
+    /// Whoever prints now has been told of the pictures that are missing or bad; no box tells of them once more.
+    void NotePicturesAway();
+
     const Session& InHand() const { return m_session; }
 
 Q_SIGNALS:
@@ -38,11 +46,17 @@ Q_SIGNALS:
 
 private:
     void TimerLook_Timer();
+    void TimerSlice_Timer();
+    void Stop();
+    std::optional<Edit> MendOf(const Finding& finding, const QString& sPicture);
+    void Tell(const std::vector<Finding>& all);
 
     Session& m_session;
     PictureFacts m_facts;
     std::vector<Finding> m_found;
     int m_putAside = 0;
     std::function<bool()> m_isBusy = [] { return false; };
+    std::unique_ptr<CheckRun> m_run;
     QTimer TimerLook;
+    QTimer TimerSlice;
 };

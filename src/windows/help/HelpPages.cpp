@@ -13,13 +13,14 @@ struct Row {
 };
 
 constexpr Row kRows[] = {
-    {"frmTAVL", "board.html"},        {"frmAbout", "board.html"},           {"frmPrintManual", "index.html"},
-    {"frmEditSpace", "spaces.html"},  {"frmEditCorner", "spaces.html"},     {"frmEditCenter", "titles.html"},
-    {"frmEditMoney", "money.html"},   {"frmShowTokens", "tokens.html"},     {"frmEditToken", "tokens.html"},
-    {"frmShowNews", "news.html"},     {"frmEditNews", "news.html"},         {"frmBrowse", "pictures.html"},
-    {"frmFileName", "pictures.html"}, {"frmImagePosition", "cutting.html"}, {"frmCheck", "check.html"},
-    {"frmTavlPrint", "print.html"},   {"frmPrntPrep", "print.html"},        {"frmPrintTest", "print.html"},
-    {"frmColor", "print.html"},       {"frmSendGame", "sending.html"},      {"PrintEverything", "print.html"},
+    {"frmTAVL", "board.html"},         {"frmAbout", "board.html"},           {"frmPrintManual", "index.html"},
+    {"frmEditSpace", "spaces.html"},   {"frmEditCorner", "spaces.html"},     {"frmEditCenter", "titles.html"},
+    {"frmEditMoney", "money.html"},    {"frmShowTokens", "tokens.html"},     {"frmEditToken", "tokens.html"},
+    {"frmShowNews", "news.html"},      {"frmEditNews", "news.html"},         {"frmBrowse", "pictures.html"},
+    {"frmFileName", "pictures.html"},  {"frmImagePosition", "cutting.html"}, {"frmCheck", "check.html"},
+    {"frmTavlPrint", "print.html"},    {"frmPrntPrep", "print.html"},        {"frmPrintTest", "print.html"},
+    {"frmColor", "print.html"},        {"frmSendGame", "sending.html"},      {"frmBeforePrint", "check.html"},
+    {"PrintEverything", "print.html"},
 };
 
 } // namespace

@@ -41,6 +41,13 @@ void ShowAllRows(QListWidget& list) {
 
 bool GoesIntoFile() { return Printer::Current()->DeviceName().isEmpty(); }
 
+QStringList WordsOf(const std::vector<WholeKit::Run>& runs) {
+    QStringList words;
+    for (const WholeKit::Run& run : runs)
+        words.append(QString::fromLatin1(run.sheet->sName));
+    return words;
+}
+
 } // namespace
 
 bool PrintEverything::ShowForm(bool bPrintStarted) try {
@@ -120,6 +127,7 @@ void PrintEverything::cmdPrint_Click() try {
         MsgBox(ConsoleSheets::LittleDiskMessage(dblFree, ConsoleSheets::kMegabytesToldForMoney));
         return;
     }
+    if (!MayPrint(*this, WordsOf(runs))) return;
     ShowDestination();
     m_nPages = WholeKit::Pages(runs);
     m_nPagesDone = 0;

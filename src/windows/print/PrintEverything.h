@@ -2,6 +2,7 @@
 #pragma once
 
 #include "kit/WholeKit.h"
+#include "windows/print/MayPrintQuestion.h"
 
 #include <QDialog>
 #include <QString>
@@ -32,6 +33,8 @@ public:
 
     /// Told when pages are begun and when they are finished, so that the program isn't closed in between.
     std::function<void(bool bInPrint)> TellInPrint = [](bool) {};
+    /// Asked ahead of the first page, with the words of all sheets that are ticked.
+    MayPrintQuestion MayPrint = [](QDialog&, const QStringList&) { return true; };
 
 public Q_SLOTS:
     void cmdPrint_Click();

@@ -90,6 +90,9 @@ bool frmTavlPrint::ShowEverything(bool bPrintStarted) try {
     if (!m_everything) {
         m_everything = new PrintEverything(this);
         m_everything->TellInPrint = [this](bool bNow) { TellInPrint(bNow); };
+        m_everything->MayPrint = [this](QDialog& window, const QStringList& sheets) {
+            return MayPrint(window, sheets);
+        };
     }
     return m_everything->ShowForm(bPrintStarted);
 } catch (...) {
@@ -111,6 +114,7 @@ void frmTavlPrint::cmdPrint_Click(int Index) try {
         MsgBox(why);
         return;
     }
+    if (!MayPrint(*this, {QString::fromLatin1(sheet.sName)})) return CleanUp();
     QString answer;
     if (const auto prompt = sheet.Prompt(KitInUse())) answer = m_frmPrntPrep->ShowForm(*prompt);
     if (answer != kCancelled && !RunJob(sheet, ConsoleSheets::DoneMark(answer))) {

@@ -5,10 +5,11 @@
 #include "platform/paint/Picture.h"
 #include "platform/printing/PicturePrinter.h"
 #include "services/Desktop.h"
+#include "windows/print/MayPrintQuestion.h"
 
 #include <QDialog>
 #include <QList>
-#include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <optional>
@@ -52,6 +53,8 @@ public:
 
     /// Told when a page is begun and when it is finished, so that the program isn't closed in between.
     std::function<void(bool bInPrint)> TellInPrint = [](bool) {};
+    /// Asked ahead of each job, by the window that asks, with the words of its sheets.
+    MayPrintQuestion MayPrint = [](QDialog&, const QStringList&) { return true; };
     /// Sheets are painted into pictures and shown, and nothing is printed.
     bool bPrintOnScreen = false;
     std::function<void(const Picture&)> ShowPage = [](const Picture&) {};

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#include "windows/check/FindingTree.h"
+
+#include <QHeaderView>
+#include <QSignalBlocker>
+#include <QTreeWidgetItemIterator>
+
+namespace {
+
+// Words beside the row, for whoever doesn't see colours.
+QString SignOf(Severity severity) {
+    switch (severity) {
+        case Severity::Must:
+            return QStringLiteral("Missing on paper");
+        case Severity::Should:
+            return QStringLiteral("Mend it");
+        default:
+            return QStringLiteral("Hint");
+    }
+}
+
+} // namespace
+
+FindingTree::FindingTree(QWidget* parent) : QTreeWidget(parent) {
+    setObjectName(QStringLiteral("tvwFindings"));
+    setHeaderHidden(true);
+    setColumnCount(2);
+    setWordWrap(true);
+    setExpandsOnDoubleClick(false);
+    header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+}
+
+void FindingTree::Fill(const Game& game, const std::vector<Finding>& findings) {
+    const Finding* const before = Chosen();
+    const QString key = before ? before->Key() : QString();
+    const QSignalBlocker quiet(this);
+    clear();
+    m_shown = findings;
+    QTreeWidgetItem* piece = nullptr;
+    for (size_t i = 0; i < m_shown.size(); ++i) {
+        const Finding& finding = m_shown[i];
+        if (i == 0 || !(m_shown[i - 1].piece == finding.piece)) {
+            piece = new QTreeWidgetItem(this, {finding.piece.NameIn(game)});
+            piece->setFirstColumnSpanned(true);
+            piece->setExpanded(true);
+        }
+        auto* const row = new QTreeWidgetItem(piece, {SignOf(finding.severity), finding.sText});
+        row->setData(0, Qt::UserRole, int(i));
+        row->setToolTip(1, finding.sAdvice);
+    }
+    ChooseKey(key);
+}
+
+void FindingTree::Choose(const Finding& finding) { ChooseKey(finding.Key()); }
+
+void FindingTree::ChooseKey(const QString& sKey) {
+    for (QTreeWidgetItemIterator row(this); *row; ++row) {
+        const Finding* const finding = FindingOf(*row);
+        if (finding && finding->Key() == sKey) return setCurrentItem(*row);
+    }
+}
+
+const Finding* FindingTree::FindingOf(const QTreeWidgetItem* item) const {
+    const QVariant number = item ? item->data(0, Qt::UserRole) : QVariant();
+    return number.isValid() ? &m_shown.at(size_t(number.toInt())) : nullptr;
+}
+
+const Finding* FindingTree::FirstOf(const QTreeWidgetItem* item) const {
+    const Finding* const finding = FindingOf(item);
+    return finding || !item || item->childCount() == 0 ? finding : FindingOf(item->child(0));
+}
