@@ -81,6 +81,8 @@ public:
     }
     void drawImage(const QRectF& target, const QImage& image, const QRectF& source, Qt::ImageConversionFlags) override {
         Keep([target, image, source](QPainter& painter) {
+            // Of a page that shows a part, what lies beyond it costs neither time nor room in the file.
+            if (painter.hasClipping() && !painter.clipBoundingRect().intersects(target)) return;
             PaintImage(painter, target, image, source, painter.compositionMode());
         });
     }
@@ -130,6 +132,25 @@ void Apply(const Look& look, const Look* before, QPainter& painter, const QTrans
     painter.setRenderHints(look.hints);
 }
 
+// From the drawing's units to the page's.
+QTransform TransformOf(const LaidDrawing& laid) {
+    const bool upright = laid.iQuarterTurns % 2 == 0;
+    const QSizeF size = upright ? laid.target.size() : laid.target.size().transposed();
+    QTransform transform;
+    if (laid.iQuarterTurns == 0 && !laid.bMirrored) {
+        transform.translate(laid.target.x(), laid.target.y());
+    } else {
+        constexpr double kQuarter = 90;
+        transform.translate(laid.target.center().x(), laid.target.center().y());
+        transform.rotate(kQuarter * laid.iQuarterTurns);
+        if (laid.bMirrored) transform.scale(-1, 1);
+        transform.translate(-size.width() / 2, -size.height() / 2);
+    }
+    transform.scale(size.width() / laid.part.width(), size.height() / laid.part.height());
+    transform.translate(-laid.part.x(), -laid.part.y());
+    return transform;
+}
+
 } // namespace
 
 Recording::Recording(QSize size, double unitsPerInch)
@@ -138,14 +159,17 @@ Recording::~Recording() = default;
 
 QPaintEngine* Recording::paintEngine() const { return m_engine.get(); }
 
-void Recording::Play(QPainter& painter, const QRectF& target) const {
-    if (m_size.isEmpty() || target.isEmpty()) return;
+void Recording::Play(QPainter& painter, const QRectF& target) const { Play(painter, LaidDrawing{Whole(), target}); }
+
+void Recording::Play(QPainter& painter, const LaidDrawing& laid) const {
+    if (laid.part.isEmpty() || laid.target.isEmpty()) return;
     painter.save();
-    QTransform base = painter.worldTransform();
-    base.translate(target.x(), target.y());
-    base.scale(target.width() / m_size.width(), target.height() / m_size.height());
+    const QTransform toPage = TransformOf(laid);
+    const QTransform base = toPage * painter.worldTransform();
     QPainterPath frame;
-    frame.addRect(QRectF(QPointF(0, 0), m_size));
+    frame.addRect(laid.part);
+    // The clips of the drawing take the place of the painter's own, which holds all the same.
+    if (painter.hasClipping()) frame = frame.intersected(toPage.inverted().map(painter.clipPath()));
     const Look* shown = nullptr;
     for (const Step& step : m_engine->Steps()) {
         if (step.look.get() != shown) Apply(*step.look, shown, painter, base, frame);

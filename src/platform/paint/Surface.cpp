@@ -138,6 +138,8 @@ void Surface::PaintPicture(const Picture& picture, double x, double y, double wi
                     picture.PartOfImage(source), operation);
 }
 
+void Surface::PaintDrawing(const Recording& drawing, const LaidDrawing& laid) { drawing.Play(hDC().Painter(), laid); }
+
 int Surface::PicturePixels(double length) {
     const double worth = IsPrinter() ? kPaperDotsPerInch / DotsPerInch() : hDC().PixelRatio();
     return CLng(std::abs(ToPixels(length)) * worth);

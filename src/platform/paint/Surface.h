@@ -9,6 +9,8 @@
 #include <QString>
 
 class Picture;
+class Recording;
+struct LaidDrawing;
 
 enum class ScaleModeKind { Twips = 1, Pixels = 3 };
 enum class LineForm { Line, Box, FilledBox };
@@ -68,6 +70,8 @@ public:
     /// Paints a part of the picture, given in the picture's own pixels.
     void PaintPicture(const Picture& picture, double x, double y, double width, double height, const QRectF& source,
                       RasterOp operation = RasterOp::SourceCopy);
+    /// Paints a drawing, or part of it; its target is in pixels whatever the ScaleMode.
+    void PaintDrawing(const Recording& drawing, const LaidDrawing& laid);
     /// How many pixels of a picture are worth having along a length of this surface, in its ScaleMode.
     virtual int PicturePixels(double length);
     /// Clears to the back colour.

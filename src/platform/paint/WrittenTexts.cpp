@@ -10,10 +10,12 @@
 #include <QPainter>
 
 #include <cmath>
+#include <numbers>
 
 namespace {
 
 constexpr double kPointsPerInch = 72;
+constexpr double kDegrees = 180 / std::numbers::pi;
 
 /// Takes the texts out of what is painted and lets all else go.
 class TextEngine : public QPaintEngine {
@@ -41,7 +43,7 @@ public:
         const QRectF inInches(inPoints.topLeft() / kPointsPerInch, inPoints.size() / kPointsPerInch);
         const QFont font = item.font();
         texts.append({item.text(), font.family(), font.bold(), font.italic(), down * font.pixelSize(),
-                      down > 0 ? across / down : 1, inInches});
+                      down > 0 ? across / down : 1, inInches, std::atan2(transform.m12(), transform.m11()) * kDegrees});
     }
 
     QList<WrittenText> texts;

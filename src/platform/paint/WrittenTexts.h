@@ -20,6 +20,8 @@ struct WrittenText {
     double dblSqueeze = 1;
     /// The ink, in inches from the top left of the piece.
     QRectF box;
+    /// Which way it reads, in degrees clockwise from left to right.
+    double dblTurn = 0;
 };
 
 /// What is written in a recording that is printed so many inches wide and high, in the order in which it was drawn.

@@ -65,6 +65,8 @@ public:
     void EndDoc() override { m_pageOpen = false; }
     void KillDoc() override;
     QSizeF PrintableInches() const override;
+    /// Of any size; holds from the next page on.
+    void SetPaper(const QPageSize& paper) { m_paper = paper; }
 
     /// Completes the file and puts it in place. False and a sentence in sError when that fails; no part of
     /// it is then left, and a file that stood there before stands as it was.
