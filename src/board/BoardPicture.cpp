@@ -3,10 +3,12 @@
 
 #include "board/basPosit.h"
 #include "board/basPositPaint.h"
+#include "document/basTAVL.h"
 #include "platform/paint/RecordingForm.h"
 #include "platform/paint/Surface.h"
 #include "platform/pictures/SavePicture.h"
 #include "platform/printing/SaveDrawing.h"
+#include "platform/text/Numbers.h"
 
 namespace basPosit {
 namespace {
@@ -50,7 +52,43 @@ bool EndsIn(const QString& sPath, const char* sEnding) {
     return sPath.endsWith(QLatin1String(sEnding), Qt::CaseInsensitive);
 }
 
+// In force while it lives. What is turned for the board is filled beyond the picture with the board's face.
+class ForPaper {
+public:
+    explicit ForPaper(const PaperLook& look) : m_face(basTAVL::g_lMagicColor()) {
+        PosSetPaper(look);
+        if (look.bSavesInk) basTAVL::g_lMagicColor() = Color::White();
+    }
+    ~ForPaper() {
+        PosSetPaper(std::nullopt);
+        basTAVL::g_lMagicColor() = m_face;
+    }
+    ForPaper(const ForPaper&) = delete;
+    ForPaper& operator=(const ForPaper&) = delete;
+
+private:
+    Color m_face;
+};
+
+// While the board's own face is in force: thumbnails are files, which the screen shows later.
+void MakeThumbnails() {
+    for (int i = 0; i < kSpacesOnBoard; ++i)
+        basTAVL::g_oSpaces(i).Image.GetThumbnail(false);
+    for (int i = 0; i < kCornersOnBoard; ++i)
+        basTAVL::g_oCorners(i).Image.GetThumbnail(false);
+}
+
 } // namespace
+
+std::shared_ptr<const Recording> BoardOnPaper(double dblInches, QSizeF cardInches, bool bSavesInk) {
+    constexpr double kUnitsPerInch = 600;
+    const int units = CLng(dblInches * kUnitsPerInch);
+    if (bSavesInk) MakeThumbnails();
+    const ForPaper forPaper({float(cardInches.width() / dblInches), float(cardInches.height() / dblInches), bSavesInk});
+    RecordingForm picBoard(QSize(units, units), kUnitsPerInch);
+    PaintOn(picBoard, units);
+    return picBoard.Take();
+}
 
 Picture BoardPicture(int lSize, double dDevicePixelRatio) {
     ScratchForm picBoard(QSize(lSize, lSize), dDevicePixelRatio);

@@ -91,7 +91,7 @@ void PosDrawAll() try {
     StartPictures();
     Pos_DrawCenter();
     Draw_SetPen(PenStyle::Solid, CLng(PosLength(kBoardPen)), Color::Black());
-    Draw_SetBrush(basTAVL::g_lMagicColor());
+    Draw_SetBrush(FaceColor());
     DrawCorners();
     DrawSides();
     DrawSpaces();
@@ -127,18 +127,19 @@ void DrawCorners() try {
 void DrawSides() try {
     for (int iSide = 0; iSide < kSidesOfBoard; ++iSide) {
         const SideRecord& side = m_SideRec(iSide);
-        Draw_SetBrush(side.lFill);
-        Draw(Mapped(side.rect));
+        const DeviceRect band = Mapped(side.rect);
+        DrawColored(side.lFill, band.x1, band.y1, band.x2, band.y2);
         Draw_SetFont(QStringLiteral("Arial"), CLng(PosLength(side.fFontHeight)), CLng(PosLength(side.fFontWidth)),
                      EscapementOfSide(iSide, QStringLiteral("Unexpected side")), 0, true, false, false);
-        Draw_Text(side.sText, QStringLiteral("C"), PosX(side.anchor.x), PosY(side.anchor.y), side.lText);
+        Draw_Text(side.sText, QStringLiteral("C"), PosX(side.anchor.x), PosY(side.anchor.y),
+                  SavesInk() ? Color::Black() : side.lText);
     }
 } catch (...) {
     ErrTail("basPosit!", "DrawSides");
 }
 
 void DrawSpaces() try {
-    Draw_SetBrush(basTAVL::g_lMagicColor());
+    Draw_SetBrush(FaceColor());
     for (int iSpace = 0; iSpace < kSpacesOnBoard; ++iSpace) {
         const DeviceRect rect = Mapped(m_SpaceRect(iSpace, SpacePart::Whole));
         C_Space& space = basTAVL::g_oSpaces(iSpace);
@@ -148,11 +149,10 @@ void DrawSpaces() try {
     for (int iSpace = 0; iSpace < kSpacesOnBoard; ++iSpace) {
         const C_Space& space = basTAVL::g_oSpaces(iSpace);
         if (space.SpaceColor.IsNone() || !space.IsShowing) continue;
-        Draw_SetBrush(space.SpaceColor);
         // One unit further out than the space itself, which closes the gap under the pen. Ahead of the rounding: of
         // two halves in a row one is rounded down and one up.
         const BoardRect& band = m_SpaceRect(iSpace, SpacePart::Band);
-        Draw_Rect(PosX(band.x1), PosY(band.y1), PosX(band.x2, 1), PosY(band.y2, 1));
+        DrawColored(space.SpaceColor, PosX(band.x1), PosY(band.y1), PosX(band.x2, 1), PosY(band.y2, 1));
     }
 } catch (...) {
     ErrTail("basPosit!", "DrawSpaces");
@@ -168,7 +168,8 @@ void PosDrawCosts() try {
                 CostAnchor(iSide, m_SpaceRect(iFirst, SpacePart::Whole), m_SpaceRect(iSpace, SpacePart::Whole));
             const int iNarrower = BoardFacts::IsLotto(iSpace) ? WidthThatFits(iSpace) : WidthOfCosts();
             if (iNarrower < WidthOfCosts()) SetCostFont(iSide, iNarrower);
-            Draw_Text(space.Cost, QStringLiteral("C"), PosX(anchor.x), PosY(anchor.y), space.CostColor);
+            Draw_Text(space.Cost, QStringLiteral("C"), PosX(anchor.x), PosY(anchor.y),
+                      SavesInk() ? Color::Black() : space.CostColor);
             if (iNarrower < WidthOfCosts()) SetCostFont(iSide, WidthOfCosts());
         }
     }

@@ -1,7 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "board/basPositTables.h"
+
 #include <QString>
+
+#include <array>
+#include <optional>
 
 class QRect;
 class Surface;
@@ -22,6 +27,25 @@ enum class PicturesShown { All, Ready };
 /// out. The surface's scale mode is pixels while the board is painted. Corners show their pictures only while
 /// the board is on screen.
 void PosSetPicture(Surface* picBoard, bool bOnScreen = true, PicturesShown shown = PicturesShown::All);
+
+/// What paper shows in place of the boxes that open an editor on a screen: places for the two decks.
+struct PaperLook {
+    /// Of a card, with what it needs to lie freely; in fractions of the board's width.
+    float fCardWidth = 0;
+    float fCardHeight = 0;
+    /// White grounds with coloured edges.
+    bool bSavesInk = false;
+};
+/// The next paints are for paper; nothing: for a screen.
+void PosSetPaper(const std::optional<PaperLook>& look);
+
+/// Where the decks lie on paper.
+struct DeckPlaces {
+    std::array<BoardRect, 2> box;
+    /// The cards lie turned, because the board is too small for two of them side by side.
+    bool bTurned = false;
+};
+DeckPlaces DeckPlacesOf(const PaperLook& look);
 
 /// Paints everything, and gives back pens, brushes and fonts at the end. PosInit comes before it, then the
 /// view.

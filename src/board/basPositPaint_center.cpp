@@ -2,6 +2,8 @@
 #include "board/basPositPaint.h"
 
 #include "board/basPosit.h"
+#include "board/basPositPaint_state.h"
+#include "board/basTAVL_news.h"
 #include "document/basTAVL.h"
 #include "drawing/basDraw.h"
 #include "platform/text/Numbers.h"
@@ -46,6 +48,23 @@ constexpr float kColumnInner = 0.0392F;
 
 constexpr int kTitles = 3;
 
+// Parts of a deck's place that its title takes.
+constexpr double kDeckTitleFill = 0.7;
+// Of the half of the panel that a deck lies in, so that what it leaves is seen.
+constexpr float kMostOfHalf = 0.94F;
+constexpr int kUpward = 900;
+// Of what is edged with a colour in place of being filled with it.
+constexpr float kColoredEdge = 0.003F;
+
+struct PaintedFor {
+    std::optional<PaperLook> paper;
+};
+
+PaintedFor& Module() {
+    static PaintedFor paintedFor;
+    return paintedFor;
+}
+
 // Edges of the title box, its two strips (T and B) and its two columns (L and R).
 struct TitleGrid {
     BoardRect box;
@@ -69,12 +88,40 @@ void DrawBoardRect(float x1, float y1, float x2, float y2) { Draw_Rect(PosX(x1),
 void DrawBoardLine(float x1, float y1, float x2, float y2) { Draw_Line(PosX(x1), PosY(y1), PosX(x2), PosY(y2)); }
 
 void DrawBoxes() {
-    const Color magic = basTAVL::g_lMagicColor();
-    const Color fill[kCenterBoxes] = {kPanelColor, magic, magic, kNewsColor, kNewsColor, kMoneyColor, kTokensColor};
-    for (int i = 0; i < kCenterBoxes; ++i) {
+    const Color face = FaceColor();
+    const Color fill[kCenterBoxes] = {
+        SavesInk() ? Color::White() : kPanelColor, face, face, kNewsColor, kNewsColor, kMoneyColor, kTokensColor};
+    const int boxes = OnPaper() ? kGoodNewsBox : kCenterBoxes;
+    for (int i = 0; i < boxes; ++i) {
         const BoardRect& box = m_CenterRect(i);
         Draw_SetBrush(fill[i]);
         DrawBoardRect(box.x1, box.y1, box.x2, box.y2);
+    }
+}
+
+// The title of a deck on the place where it lies, a word to a line, as its cards bear it.
+void DrawDeckTitle(int iDeck, const BoardRect& box, bool bTurned) {
+    const QStringList words =
+        basTAVL::CRLF2Space(m_CenterText(basTAVL::NewsTitleRecord(iDeck)).sText).split(u' ', Qt::SkipEmptyParts);
+    if (words.isEmpty()) return;
+    const QSize size(PosX(box.x2) - PosX(box.x1), PosY(box.y2) - PosY(box.y1));
+    const QSize inside = (bTurned ? size.transposed() : size) * kDeckTitleFill;
+    const QString family = QStringLiteral("Arial");
+    const int lines = int(words.size());
+    const int height = Pos_ComputeSize(family, false, true, words, lines, inside.width(), inside.height());
+    Draw_SetFont(family, height, 0, bTurned ? kUpward : 0, 0, false, true, false);
+    const int before = lines * height / 2;
+    const int x = PosX((box.x1 + box.x2) / 2) - (bTurned ? before : 0);
+    const int y = PosY((box.y1 + box.y2) / 2) - (bTurned ? 0 : before);
+    Draw_TextArray(words, QStringLiteral("C"), x, y, Color::Black());
+}
+
+void DrawDeckPlaces(const PaperLook& look) {
+    const DeckPlaces places = DeckPlacesOf(look);
+    for (int deck = 0; deck < int(places.box.size()); ++deck) {
+        const BoardRect& box = places.box[size_t(deck)];
+        DrawColored(kNewsColor, PosX(box.x1), PosY(box.y1), PosX(box.x2), PosY(box.y2));
+        DrawDeckTitle(deck, box, places.bTurned);
     }
 }
 
@@ -180,10 +227,50 @@ void DrawTitles() {
 
 } // namespace
 
+void PosSetPaper(const std::optional<PaperLook>& look) { Module().paper = look; }
+
+const PaperLook* OnPaper() { return Module().paper ? &*Module().paper : nullptr; }
+
+bool SavesInk() { return OnPaper() && OnPaper()->bSavesInk; }
+
+Color FaceColor() { return SavesInk() ? Color::White() : basTAVL::g_lMagicColor(); }
+
+void DrawColored(Color color, int x1, int y1, int x2, int y2) {
+    Draw_SetBrush(SavesInk() ? Color::White() : color);
+    Draw_Rect(x1, y1, x2, y2);
+    if (!SavesInk()) return;
+    const int pen = CLng(PosLength(kBoardPen));
+    const int inside = CLng(PosLength(kColoredEdge) / 2 + pen / 2.0);
+    Draw_SetPen(PenStyle::Solid, CLng(PosLength(kColoredEdge)), color);
+    Draw_SetBrush(Color::None());
+    Draw_Rect(x1 + inside, y1 + inside, x2 - inside, y2 - inside);
+    Draw_SetPen(PenStyle::Solid, pen, Color::Black());
+}
+
+DeckPlaces DeckPlacesOf(const PaperLook& look) {
+    // Under the titles, as far from them as from the panel's lower edge; each in the middle of its half.
+    const BoardRect& panel = m_CenterRect(kPanel);
+    const float half = panel.Width() / 2;
+    const float middle = (m_CenterRect(kSubtitleBox).y2 + panel.y2) / 2;
+    DeckPlaces places;
+    places.bTurned = look.fCardWidth > half * kMostOfHalf;
+    const float w = places.bTurned ? look.fCardHeight : look.fCardWidth;
+    const float h = places.bTurned ? look.fCardWidth : look.fCardHeight;
+    for (size_t deck = 0; deck < places.box.size(); ++deck) {
+        const float x = panel.x1 + half * (float(deck) + 0.5F);
+        places.box[deck] = {x - w / 2, middle - h / 2, x + w / 2, middle + h / 2};
+    }
+    return places;
+}
+
 void Pos_DrawCenter() try {
     Draw_SetPen(PenStyle::Solid, CLng(PosLength(kBoardPen)), Color::Black());
     DrawBoxes();
-    DrawLabels();
+    if (OnPaper()) {
+        DrawDeckPlaces(*OnPaper());
+    } else {
+        DrawLabels();
+    }
     DrawDecoration(m_CenterRect(kTitleBox));
     DrawTitles();
 } catch (...) {

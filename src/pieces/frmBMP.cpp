@@ -111,12 +111,14 @@ Picture frmBMP::RenderRotated(const OwnedPicture& oImage, int lSide) {
     if (stamp == Files::Stamp()) return {};
     const auto kept = std::find_if(m_renderings.begin(), m_renderings.end(), [&](const Rendering& rendering) {
         return rendering.picture == oImage.ref && rendering.stamp == stamp &&
-               rendering.iOrient == oImage.owner.Orient() && rendering.pixels.Width() == lSide;
+               rendering.iOrient == oImage.owner.Orient() && rendering.beyond == basTAVL::g_lMagicColor() &&
+               rendering.pixels.Width() == lSide;
     });
     if (kept != m_renderings.end()) {
         m_renderings.splice(m_renderings.begin(), m_renderings, kept);
     } else {
-        m_renderings.push_front({oImage.ref, stamp, oImage.owner.Orient(), Rotated(oImage, lSide)});
+        m_renderings.push_front(
+            {oImage.ref, stamp, oImage.owner.Orient(), basTAVL::g_lMagicColor(), Rotated(oImage, lSide)});
         DropOldRenderings();
     }
     return m_renderings.front().pixels.AsPicture();

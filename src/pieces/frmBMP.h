@@ -87,6 +87,7 @@ private:
         PictureRef picture;
         Files::Stamp stamp;
         int iOrient;
+        Color beyond;
         Pixels pixels;
     };
     using DrawPiece = std::function<void(Surface&)>;
