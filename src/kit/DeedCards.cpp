@@ -114,6 +114,10 @@ bool PrintDeeds(SheetJob& job, int iSheet) try {
     ErrTail("frmTavlPrint!", "PrintDeeds", iSheet);
 }
 
+CardGrid DeedGrid() { return {{kFirstX, kFirstY}, {kCardSide, kCardSide}, kColumns, kCards / kColumns}; }
+
+int SpaceOfDeed(int iSheet, int iCard) { return kSpaceOnSheet[iSheet - 1][iCard]; }
+
 template <>
 bool PaintSheet<class DeedSheet>(SheetJob& job, int iWhich) {
     return PrintDeeds(job, iWhich);

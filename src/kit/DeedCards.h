@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "kit/CardGrid.h"
 #include "kit/SheetJob.h"
 #include "pieces/PrintedText.h"
 
@@ -16,6 +17,11 @@ class clsRenderDestination;
 /// Prints sheet 1 or 2 on a page that the caller has set upright, without ending the document. False when a
 /// card isn't whole; the reason has then been told.
 bool PrintDeeds(SheetJob& job, int iSheet);
+
+/// Of both sheets.
+CardGrid DeedGrid();
+/// Which space's deed lies at a place of sheet 1 or 2, by its number row by row.
+int SpaceOfDeed(int iSheet, int iCard);
 
 /// The deed of a property; the picture of its side's band must have been made. bColor is handed on by whoever prints
 /// and changes nothing: colours are printed always.

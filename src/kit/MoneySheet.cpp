@@ -27,6 +27,8 @@ constexpr double kFirstY = 0.125;
 
 } // namespace
 
+CardGrid MoneyGrid() { return {{kFirstX, kFirstY}, {kNoteWidth, kNoteHeight}, kColumns, kNotesOnSheet / kColumns}; }
+
 template <>
 bool PrepareSheet<class MoneySheet>(SheetJob& job, int iWhich) {
     // Told here, once, if the user's picture can't be had; the note is then printed without it.

@@ -127,4 +127,6 @@ PrintedText NewsHeadOnPaper(const QString& sTitle, const C_FontInfo& oFont) {
     return head;
 }
 
+CardGrid NewsGrid() { return {{kFirst, kFirst}, NewsCardInches(), kColumns, basTAVL::kCards / kColumns}; }
+
 QSizeF NewsCardInches() { return {kCardWidth, kCardHeight}; }

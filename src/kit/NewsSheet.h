@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "kit/CardGrid.h"
 #include "pieces/PrintedText.h"
 
 #include <QString>
@@ -21,5 +22,7 @@ bool NewsHeadBitmap(int iDeck, const C_FontInfo& oFont, QString& sPath);
 PrintedText NewsTextOnPaper(const C_News& news);
 /// The title of a deck as its cards bear it.
 PrintedText NewsHeadOnPaper(const QString& sTitle, const C_FontInfo& oFont);
+/// Of both decks.
+CardGrid NewsGrid();
 /// A card's width and height, in inches.
 QSizeF NewsCardInches();
