@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "nokit/NoKitSheets.h"
+#include "nokit/PageCanvas.h"
+
+#include <QByteArray>
+
+/// Prints a game on plain paper and card.
+namespace NoKitPrint {
+
+struct Job {
+    /// Told what is being made, and how far it is, in thousandths. Events may run inside.
+    std::function<void(const QString& sWhat, int iThousandths)> Progress = [](const QString&, int) {};
+    /// What pages lack, a sentence for each piece.
+    QStringList lacking = {};
+};
+
+/// The sheets of these names, or all when there is none, in the order of the table.
+std::vector<const NoKitSheet*> SheetsOf(const QStringList& names);
+
+/// Prints sheets into a PDF file, whose pages are as large as the sheets want them. False, and a sentence in sError
+/// unless the job tells what is lacking, when it isn't whole; no part of it is then left, and a file that stood there
+/// before stands as it was.
+bool IntoPdf(const std::vector<const NoKitSheet*>& sheets, const NoKitChoices& choices, const QString& sPath,
+             const QString& sTitle, int iDpi, Job& job, QString& sError);
+
+/// The cut and fold lines of every page, each as an SVG drawing at true size, into a folder that is made if need be.
+/// False and a sentence in sError when one can't be written.
+bool WriteCutLines(const std::vector<const NoKitSheet*>& sheets, const NoKitChoices& choices, const QString& sFolder,
+                   Job& job, QString& sError);
+
+/// A page's lines as such a drawing, with the marks that are printed on the page.
+QByteArray SvgOf(QSizeF paperInches, const std::vector<PageLine>& lines);
+
+} // namespace NoKitPrint
