@@ -2,6 +2,7 @@
 #include "tools/PrintArguments.h"
 
 #include "kit/Sheets.h"
+#include "nokit/NoKitSheets.h"
 #include "services/ArgumentReader.h"
 
 namespace {
@@ -47,13 +48,58 @@ private:
         if (sOption == QStringLiteral("--paper")) return Paper();
         if (sOption == QStringLiteral("--variant")) return Variant();
         if (sOption == QStringLiteral("--sheet")) return Sheets();
+        if (sOption == QStringLiteral("--no-kit")) return Flag(m_arguments.bNoKit);
+        // A service prints without a kit whether one says so or not.
+        if (sOption == QStringLiteral("--service")) return Text(m_arguments.sService);
+        return ReadNoKitOption(sOption);
+    }
+
+    // Of a game for plain paper and card.
+    bool ReadNoKitOption(const QString& sOption) {
+        NoKitChoices& choices = m_arguments.noKit;
+        if (m_noKitOption.isEmpty()) m_noKitOption = sOption;
+        if (sOption == QStringLiteral("--players"))
+            return Number(choices.nPlayers, NoKitChoices::kLeastPlayers, NoKitChoices::kMostPlayers);
+        if (sOption == QStringLiteral("--board-size")) return BoardSize();
+        if (sOption == QStringLiteral("--board-way")) return BoardWays();
+        if (sOption == QStringLiteral("--colours") || sOption == QStringLiteral("--colors")) return Colours();
+        if (sOption == QStringLiteral("--cut-lines")) return Text(m_arguments.sCutLines);
+        if (sOption == QStringLiteral("--dice-picture")) return Flag(choices.bPictureOnDice);
         return Fail(QStringLiteral("unknown option '%1'").arg(sOption));
+    }
+
+    bool BoardSize() {
+        QString size;
+        if (!Text(size)) return false;
+        const std::optional<double> inches = NoKitChoices::WantedInchesOf(size);
+        m_arguments.noKit.dblWantedInches = inches.value_or(0);
+        return inches || Fail(QStringLiteral("option '--board-size' takes kit, or a length from 8in to 40in such as "
+                                             "16in or 40cm, not '%1'")
+                                  .arg(size));
+    }
+
+    bool BoardWays() {
+        QString way;
+        if (!OneOf(way, {QStringLiteral("pages"), QStringLiteral("quarters"), QStringLiteral("page")})) return false;
+        m_arguments.noKit.way = NoKitChoices::WayOf(way).value_or(BoardWay::Pages);
+        return true;
+    }
+
+    bool Colours() {
+        QString colours;
+        if (!OneOf(colours, {QStringLiteral("screen"), QStringLiteral("ink-saving")})) return false;
+        m_arguments.noKit.bSavesInk = colours == QStringLiteral("ink-saving");
+        return true;
     }
 
     bool Paper() {
         QString paper;
-        if (!OneOf(paper, {QStringLiteral("letter"), QStringLiteral("a4")})) return false;
+        if (!OneOf(paper,
+                   {QStringLiteral("letter"), QStringLiteral("a4"), QStringLiteral("tabloid"), QStringLiteral("a3")}))
+            return false;
         m_arguments.bA4 = paper == QStringLiteral("a4");
+        m_arguments.noKit.paper = NoKitChoices::PaperOf(paper).value_or(PaperSize::Letter);
+        if (m_arguments.noKit.paper > PaperSize::A4) m_noKitOption = QStringLiteral("--paper ") + paper;
         return true;
     }
 
@@ -66,13 +112,32 @@ private:
     bool Sheets() {
         QString name;
         if (!Text(name)) return false;
-        if (!FindSheet(name)) return Fail(QStringLiteral("there is no sheet '%1'; see --list").arg(name));
+        if (!IsSheet(name)) return Fail(QStringLiteral("there is no sheet '%1'; see --list").arg(name));
         m_arguments.sheets.append(name);
-        for (std::optional<QString> next = NextWord(); next && FindSheet(*next); next = NextWord()) {
+        for (std::optional<QString> next = NextWord(); next && IsSheet(*next); next = NextWord()) {
             m_arguments.sheets.append(*next);
             SkipWord();
         }
         return true;
+    }
+
+    static bool IsSheet(const QString& sName) { return FindSheet(sName) || FindNoKitSheet(sName); }
+
+    // The words may stand in any order, so what belongs together is known at the end only.
+    bool IsOneKindOfSheets() {
+        const PrintArguments& asked = m_arguments;
+        for (const QString& name : asked.sheets) {
+            if (asked.bNoKit && !FindNoKitSheet(name))
+                return Fail(QStringLiteral("the sheet '%1' is for the boxed kit only; see --list").arg(name));
+            if (!asked.bNoKit && !FindSheet(name))
+                return Fail(QStringLiteral("the sheet '%1' goes with --no-kit").arg(name));
+        }
+        if (asked.bNoKit && !asked.sPages.isEmpty())
+            return Fail(QStringLiteral("--pages shows the sheets of the boxed kit and goes without --no-kit"));
+        if (!asked.sCutLines.isEmpty() && !asked.bNoKit)
+            return Fail(QStringLiteral("option '--cut-lines' goes with --no-kit"));
+        return asked.bNoKit || !asked.sService.isEmpty() || m_noKitOption.isEmpty() ||
+               Fail(QStringLiteral("option '%1' goes with --no-kit").arg(m_noKitOption));
     }
 
     bool IsGuideComplete() {
@@ -86,18 +151,20 @@ private:
         if (asked.bHelp || asked.bVersion || asked.bList) return true;
         if (asked.bGuide) return IsGuideComplete();
         if (asked.sGame.isEmpty()) return Fail(QStringLiteral("no game file was given"));
-        if (asked.sOutput.isEmpty() && asked.sPages.isEmpty() && !asked.sheets.isEmpty())
-            return Fail(QStringLiteral("sheets need a file to go to: -o FILE.pdf"));
+        const bool toGo = !asked.sOutput.isEmpty() || !asked.sPages.isEmpty() || !asked.sCutLines.isEmpty();
+        if (!toGo && !asked.sheets.isEmpty()) return Fail(QStringLiteral("sheets need a file to go to: -o FILE.pdf"));
         if (asked.bJson && (asked.Makes() || !asked.bCheck))
             return Fail(QStringLiteral("--json goes with --check alone"));
         if (!asked.Makes() && !asked.bCheck)
-            return Fail(QStringLiteral("nothing to make: give -o, --board, --pages, --pieces or --pack"));
+            return Fail(QStringLiteral("nothing to make: give -o, --board, --pages, --pieces, --pack or --service"));
         if (asked.sPack.isEmpty() && asked.bSmallPictures)
             return Fail(QStringLiteral("option '--small-pictures' goes with --pack"));
-        return true;
+        return IsOneKindOfSheets();
     }
 
     PrintArguments m_arguments;
+    /// The first of those that mean nothing for the boxed kit.
+    QString m_noKitOption;
 };
 
 } // namespace
@@ -116,17 +183,28 @@ QString PrintArguments::Usage() {
   tavlora-print GAME.gam --pieces DIR               every made picture (stickers, notes, tokens, titles) as PNG
   tavlora-print GAME.gam --check [--json]           what would come out badly on paper
   tavlora-print GAME.gam --pack GAME.tavlora        the game with its pictures, to be sent to somebody
+  tavlora-print GAME.gam --no-kit -o ALL.pdf        everything of a game on plain paper and card
+  tavlora-print GAME.gam --service DIR              pictures for a printing service, and a list of their sizes
   tavlora-print --guide -o GUIDE.pdf                how a game is put together, with pictures
   tavlora-print --list                              the sheets: name, title, stock, orientation
 
 Each of them takes a packed game (GAME.tavlora) in place of GAME.gam.
 
 Options:
-  --paper letter|a4     paper of the PDF (default letter)
+  --paper letter|a4     paper of the PDF (default letter); with --no-kit tabloid or a3, too
   --dpi N               dots an inch of the PDF (default 600)
   --variant 8|5|2A|2    the boxed kit to print for, whatever the settings say; 5, 2A and 2 come
                         without their label sheets
   --board B.pdf         the board as a page of ten inches, which stays sharp at every size
+  --no-kit              prints without the boxed kit; --sheet takes the names that --list shows under "Without a kit"
+  --board-size SIZE     side of that board: kit, or from 8in to 40in, such as 16in or 40cm (default 16in)
+  --board-way pages|quarters|page
+                        on pages that are glued (default), in quarters that fold, or on one page for a copy shop
+  --players N           2 to 6, by whom the money is counted (default 4)
+  --colours screen|ink-saving
+                        the screen's colours (default), or white grounds with coloured edges
+  --dice-picture        the dice bear the board of the game in place of the one
+  --cut-lines DIR       beside --no-kit: where each page is cut and folded, as SVG for a cutting machine
   --small-pictures      --pack puts pictures in only as large as paper shows them
   --data DIR            take the program's own data files (rents, rules, pictures) from DIR
   --check               beside what is made: warns of what would come out badly on paper

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "nokit/NoKitChoices.h"
+
 #include <QPageSize>
 #include <QString>
 #include <QStringList>
@@ -39,6 +41,13 @@ struct PrintArguments {
     /// Tell what was found in a form for scripts.
     bool bJson = false;
     bool bA4 = false;
+    /// For plain paper and card: sheets are those that need no boxed kit.
+    bool bNoKit = false;
+    NoKitChoices noKit;
+    /// Folder for the lines that a machine cuts and folds at; empty for none.
+    QString sCutLines;
+    /// Folder for pictures that a printing service takes; empty for none.
+    QString sService;
     int iDpi = kDefaultDpi;
     /// Kit variant; empty for the one in the settings.
     QString sVariant;
@@ -49,7 +58,12 @@ struct PrintArguments {
     static std::optional<PrintArguments> Parse(const QStringList& words, QString& sError);
     /// Whether any file is to be made.
     bool Makes() const {
-        return !sOutput.isEmpty() || !sBoard.isEmpty() || !sPieces.isEmpty() || !sPages.isEmpty() || !sPack.isEmpty();
+        return !sOutput.isEmpty() || !sBoard.isEmpty() || !sPieces.isEmpty() || !sPages.isEmpty() || !sPack.isEmpty() ||
+               MakesWithoutKit();
+    }
+    /// Whether any is for plain paper, a cutting machine or a printing service.
+    bool MakesWithoutKit() const {
+        return (bNoKit && !sOutput.isEmpty()) || !sCutLines.isEmpty() || !sService.isEmpty();
     }
     QPageSize::PageSizeId Paper() const { return bA4 ? QPageSize::A4 : QPageSize::Letter; }
     static QString Usage();

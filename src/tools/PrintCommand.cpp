@@ -9,6 +9,7 @@
 #include "game/Session.h"
 #include "kit/GameKit.h"
 #include "kit/Sheets.h"
+#include "nokit/NoKitSheets.h"
 #include "pack/Packing.h"
 #include "pack/SmallPictures.h"
 #include "pack/Unpacking.h"
@@ -108,6 +109,11 @@ void PrintCommand::List() {
               << QByteArray(sheet.paper->white.sStock).leftJustified(kStockWidth).constData()
               << (portrait ? "portrait" : "landscape") << '\n';
     }
+    m_out << "\nWithout a kit (--no-kit):\n";
+    for (const NoKitSheet& sheet : NoKitSheets())
+        m_out << QByteArray(sheet.sName).leftJustified(kNameWidth).constData()
+              << QByteArray(sheet.sTitle).leftJustified(kTitleWidth).constData()
+              << NameOf(sheet.stock).toUtf8().constData() << '\n';
 }
 
 int PrintCommand::Run(const QStringList& words) {
@@ -188,7 +194,8 @@ int PrintCommand::PrintGame(const PrintArguments& arguments) {
     if (!arguments.sPieces.isEmpty() && !WritePieces(Console::CompletePath(arguments.sPieces))) return kFailed;
     if (!arguments.sPack.isEmpty() && !PackGame(arguments)) return kFailed;
     if (!arguments.sPages.isEmpty() && !PaintPages(arguments, sheets)) return kFailed;
-    return arguments.sOutput.isEmpty() ? kDone : PrintSheetsOf(arguments, sheets);
+    if (arguments.MakesWithoutKit() && !PrintWithoutKit(arguments)) return kFailed;
+    return arguments.sOutput.isEmpty() || arguments.bNoKit ? kDone : PrintSheetsOf(arguments, sheets);
 }
 
 void PrintCommand::TellOfFonts(const Packing::Contents& contents) {

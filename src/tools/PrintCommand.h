@@ -40,6 +40,8 @@ private:
     /// Each sheet as a picture into a folder, which is made if need be. False when one isn't there.
     bool PaintPages(const PrintArguments& arguments, const QStringList& asked);
     int PrintGuide(const PrintArguments& arguments);
+    /// What is for plain paper and card, a cutting machine or a printing service.
+    bool PrintWithoutKit(const PrintArguments& arguments);
     int PrintSheetsOf(const PrintArguments& arguments, const QStringList& asked);
     /// Those of the sheets that this build prints for the kit; names the others in one line.
     QStringList WithoutLeftOut(const QStringList& sheets);

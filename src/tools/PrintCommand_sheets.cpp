@@ -9,6 +9,7 @@
 #include "platform/printing/SaveHtml.h"
 #include "services/basPath.h"
 #include "services/Guide.h"
+#include "tools/NoKitCommand.h"
 #include "tools/PrintArguments.h"
 #include "tools/PrintCommand.h"
 
@@ -48,6 +49,14 @@ QStringList PrintCommand::WithoutLeftOut(const QStringList& sheets) {
     }
     if (!leftOut.isEmpty())
         Complain(why + QStringLiteral(" Left out: ") + leftOut.join(QStringLiteral(", ")) + QStringLiteral("."));
+    return printed;
+}
+
+bool PrintCommand::PrintWithoutKit(const PrintArguments& arguments) {
+    const NoKitCommand::Voice voice{[this](const QString& sText) { Complain(sText); },
+                                    [this](const QString& sWhat, int iThousandths) { Progress(sWhat, iThousandths); }};
+    const bool printed = NoKitCommand::Print(arguments, TitleOf(arguments.sGame), voice);
+    EndProgress();
     return printed;
 }
 
