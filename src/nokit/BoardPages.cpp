@@ -2,7 +2,9 @@
 // The board on paper: on pages that are glued into one, in quarters that fold, or on a page as large as it is.
 #include "nokit/BoardPages.h"
 
+#include "board/basPosit.h"
 #include "board/BoardPicture.h"
+#include "document/GameHost.h"
 #include "kit/NewsSheet.h"
 #include "nokit/Millimetres.h"
 #include "nokit/NoKitSheets.h"
@@ -166,8 +168,11 @@ BoardGrid GridOf(const NoKitChoices& choices, const std::vector<QRectF>& words) 
 }
 
 std::shared_ptr<const Recording> BoardForPages(const NoKitChoices& choices) {
-    return basPosit::BoardOnPaper(choices.BoardInches(), NewsCardInches() + QSizeF(kAroundCards, kAroundCards),
-                                  choices.bSavesInk);
+    const QSizeF place = NewsCardInches() + QSizeF(kAroundCards, kAroundCards);
+    std::shared_ptr<const Recording> board = basPosit::BoardOnPaper(choices.BoardInches(), place, choices.bSavesInk);
+    // What is measured from here on is measured where it was before.
+    basPosit::PosSethDC(&GameHost::Current().MeasuringDevice());
+    return board;
 }
 
 template <>

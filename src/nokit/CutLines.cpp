@@ -63,7 +63,7 @@ bool WriteCutLines(const std::vector<const NoKitSheet*>& sheets, const NoKitChoi
                    Job& job, QString& sError) {
     if (!Files::MakeDirectory(sFolder, sError)) return false;
     for (size_t i = 0; i < sheets.size(); ++i) {
-        job.Progress(QStringLiteral("cut lines"), int(i * 1000 / sheets.size()));
+        if (!job.GoesOn(QStringLiteral("cut lines"), int(i * 1000 / sheets.size()))) return false;
         for (const NoKitPage& page : sheets[i]->pages(choices)) {
             if (!WritePage(*sheets[i], page, sFolder, job, sError)) return false;
         }

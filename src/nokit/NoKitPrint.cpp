@@ -28,11 +28,11 @@ bool PrintOne(PdfPrinter& printer, const NoKitPage& page, Job& job) {
 bool PrintSheet(PdfPrinter& printer, const NoKitSheet& sheet, const NoKitChoices& choices, Job& job, int iDone,
                 int iNext) {
     const QString title = QString::fromLatin1(sheet.sTitle);
-    job.Progress(title, iDone);
+    if (!job.GoesOn(title, iDone)) return false;
     const std::vector<NoKitPage> pages = sheet.pages(choices);
     for (size_t i = 0; i < pages.size(); ++i) {
         if (!PrintOne(printer, pages[i], job)) return false;
-        job.Progress(title, iDone + int(size_t(iNext - iDone) * (i + 1) / pages.size()));
+        if (!job.GoesOn(title, iDone + int(size_t(iNext - iDone) * (i + 1) / pages.size()))) return false;
     }
     return true;
 }

@@ -55,7 +55,9 @@ private:
     // The piece is painted with the bleed; its cut begins at (kBleed, kBleed).
     template <typename Paint>
     bool Save(const Piece& piece, Paint paint) {
-        m_job.Progress(piece.sFile, 0);
+        constexpr size_t kPieces = 63;
+        constexpr size_t kThousand = 1000;
+        if (!m_job.GoesOn(piece.sFile, int(m_pieces.size() * kThousand / kPieces))) return false;
         PictureForm form(piece.inches + QSizeF(2 * kBleed, 2 * kBleed), kDpi);
         PageCanvas canvas(form, piece.inches + QSizeF(2 * kBleed, 2 * kBleed));
         canvas.Box(canvas.Whole(), piece.ground);

@@ -19,7 +19,8 @@ public:
     }
 
     bool Print(const QString& sTitle) {
-        const QString& pdf = m_arguments.sOutput;
+        // Beside a service's pictures the file may be the boxed kit's.
+        const QString pdf = m_arguments.bNoKit ? m_arguments.sOutput : QString();
         return pdf.isEmpty() ||
                Told(pdf, NoKitPrint::IntoPdf(m_sheets, m_choices, pdf, sTitle, m_arguments.iDpi, m_job, m_error));
     }

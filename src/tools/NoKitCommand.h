@@ -12,7 +12,7 @@ namespace NoKitCommand {
 
 struct Voice {
     std::function<void(const QString& sText)> Complain;
-    std::function<void(const QString& sWhat, int iThousandths)> Progress;
+    std::function<bool(const QString& sWhat, int iThousandths)> Progress;
 };
 
 /// False when something could not be made, which has then been told.

@@ -54,7 +54,10 @@ QStringList PrintCommand::WithoutLeftOut(const QStringList& sheets) {
 
 bool PrintCommand::PrintWithoutKit(const PrintArguments& arguments) {
     const NoKitCommand::Voice voice{[this](const QString& sText) { Complain(sText); },
-                                    [this](const QString& sWhat, int iThousandths) { Progress(sWhat, iThousandths); }};
+                                    [this](const QString& sWhat, int iThousandths) {
+                                        Progress(sWhat, iThousandths);
+                                        return true;
+                                    }};
     const bool printed = NoKitCommand::Print(arguments, TitleOf(arguments.sGame), voice);
     EndProgress();
     return printed;

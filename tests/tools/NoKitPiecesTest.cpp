@@ -93,7 +93,8 @@ TEST_F(NoKitPiecesTest, DiceAreCubesOfNineTenths) {
     const double net = 3 * 0.9 + 2 * 0.252;
     EXPECT_NEAR(cuts.Box().width(), 4 * 0.9 + 0.252, 0.004);
     EXPECT_NEAR(cuts.Box().height(), 2 * net + 0.5, 0.004);
-    EXPECT_EQ(cuts.lines.size(), 2U * 7U * 4U - 2U * 7U) << "three edges of each flap; all other edges are folded";
+    EXPECT_EQ(cuts.lines.size(), 2U * 7U * (3U + 1U))
+        << "three edges of each flap, and the edge that it is glued behind";
 }
 
 TEST_F(NoKitPiecesTest, FortyStoriesInTheColoursOfTheGroups) {
@@ -156,9 +157,16 @@ TEST_F(NoKitPiecesTest, InkIsSaved) {
         }
         return ink;
     };
-    for (const char* sheet : {"board --board-way page", "standees", "stories", "money", "box-wrap"}) {
-        const QString options = QStringLiteral("--sheet %1").arg(QString::fromLatin1(sheet));
-        EXPECT_LT(inkOf(options + QStringLiteral(" --colours ink-saving")), 0.75 * inkOf(options)) << sheet;
+    // How much is left of it; pictures take what they take.
+    const struct {
+        const char* sheet;
+        double most;
+    } rows[] = {
+        {"board --board-way page", 0.6}, {"standees", 0.95}, {"stories", 0.7}, {"money", 0.6}, {"box-wrap", 0.6}};
+    for (const auto& row : rows) {
+        const QString options = QStringLiteral("--sheet %1").arg(QString::fromLatin1(row.sheet));
+        const double saving = inkOf(options + QStringLiteral(" --colours ink-saving"));
+        EXPECT_LT(saving, row.most * inkOf(options)) << row.sheet;
     }
 }
 
