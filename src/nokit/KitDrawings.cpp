@@ -2,18 +2,25 @@
 #include "nokit/KitDrawings.h"
 
 #include "kit/Sheets.h"
+#include "kit/WholeKit.h"
 #include "platform/printing/RecordingPrinter.h"
 
 namespace {
 
-constexpr MoneyKind kMoney[] = {
-    {"money100", 100, 3, 5}, {"money500", 500, 2, 3}, {"money1000", 1000, 2, 4}, {"money5000", 5000, 1, 1}};
+constexpr MoneyKind kMoney[] = {{"money100", 100}, {"money500", 500}, {"money1000", 1000}, {"money5000", 5000}};
 
 } // namespace
 
 QSizeF KitPageInches() { return {8.0, 10.5}; }
 
 std::span<const MoneyKind> MoneySheets() { return kMoney; }
+
+int MoneyKind::SheetsFor(int nPlayers) const {
+    for (const WholeKit::Run& run : WholeKit::Runs(KitInUse(), nPlayers)) {
+        if (QLatin1String(run.sheet->sName) == QLatin1String(sSheet)) return run.nCopies;
+    }
+    return 0;
+}
 
 KitDrawing DrawingOfKitSheet(const char* sSheet, QStringList& lacking) {
     RecordingPrinter printer(KitPageInches());

@@ -16,13 +16,12 @@ QSizeF KitPageInches();
 /// A sheet of the boxed kit as a drawing of that size; nothing when it isn't whole, for the reasons then in lacking.
 KitDrawing DrawingOfKitSheet(const char* sSheet, QStringList& lacking);
 
-/// A kind of banknote, and how many sheets of it the rules ask for.
+/// A kind of banknote.
 struct MoneyKind {
     const char* sSheet;
     int iValue;
-    int nSheetsForFew; ///< two or three players
-    int nSheetsForMany;
 
-    int SheetsFor(int nPlayers) const { return nPlayers <= 3 ? nSheetsForFew : nSheetsForMany; }
+    /// As many sheets as so many players need.
+    int SheetsFor(int nPlayers) const;
 };
 std::span<const MoneyKind> MoneySheets();

@@ -128,7 +128,7 @@ private:
         const PrintArguments& asked = m_arguments;
         for (const QString& name : asked.sheets) {
             if (asked.bNoKit && !FindNoKitSheet(name))
-                return Fail(QStringLiteral("the sheet '%1' is for the boxed kit only; see --list").arg(name));
+                return Fail(QStringLiteral("the sheet '%1' is for the boxed kit only; see --list --no-kit").arg(name));
             if (!asked.bNoKit && !FindSheet(name))
                 return Fail(QStringLiteral("the sheet '%1' goes with --no-kit").arg(name));
         }
@@ -196,7 +196,7 @@ Options:
   --variant 8|5|2A|2    the boxed kit to print for, whatever the settings say; 5, 2A and 2 come
                         without their label sheets
   --board B.pdf         the board as a page of ten inches, which stays sharp at every size
-  --no-kit              prints without the boxed kit; --sheet takes the names that --list shows under "Without a kit"
+  --no-kit              prints without the boxed kit; --sheet takes the names that --list --no-kit shows
   --board-size SIZE     side of that board: kit, or from 8in to 40in, such as 16in or 40cm (default 16in)
   --board-way pages|quarters|page
                         on pages that are glued (default), in quarters that fold, or on one page for a copy shop

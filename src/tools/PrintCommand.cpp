@@ -34,6 +34,8 @@ namespace {
 const QString kProgramName = QStringLiteral("tavlora");
 // The sheets are listed and named as this kit has them.
 constexpr Kit kKitOfList = Kit::Eight;
+constexpr int kNameWidth = 11;
+constexpr int kTitleWidth = 38;
 
 QStringList AllSheets() {
     QStringList names;
@@ -99,8 +101,6 @@ void PrintCommand::EndProgress() {
 }
 
 void PrintCommand::List() {
-    constexpr int kNameWidth = 11;
-    constexpr int kTitleWidth = 38;
     constexpr int kStockWidth = 20;
     for (const Sheet& sheet : Sheets()) {
         const bool portrait = sheet.OrientationOf(kKitOfList) == PageOrientation::Portrait;
@@ -109,7 +109,9 @@ void PrintCommand::List() {
               << QByteArray(sheet.paper->white.sStock).leftJustified(kStockWidth).constData()
               << (portrait ? "portrait" : "landscape") << '\n';
     }
-    m_out << "\nWithout a kit (--no-kit):\n";
+}
+
+void PrintCommand::ListWithoutKit() {
     for (const NoKitSheet& sheet : NoKitSheets())
         m_out << QByteArray(sheet.sName).leftJustified(kNameWidth).constData()
               << QByteArray(sheet.sTitle).leftJustified(kTitleWidth).constData()
@@ -129,7 +131,7 @@ int PrintCommand::Run(const QStringList& words) {
         m_out << "tavlora-print " << TAVLORA_VERSION_MAJOR << '.' << TAVLORA_VERSION_MINOR << '.'
               << TAVLORA_VERSION_REVISION << '\n';
     } else if (arguments->bList) {
-        List();
+        arguments->bNoKit ? ListWithoutKit() : List();
     } else {
         return arguments->bGuide ? PrintGuide(*arguments) : Carry(*arguments);
     }

@@ -57,6 +57,7 @@ private:
     /// A game's file without its folder and its ending.
     static QString TitleOf(const QString& sGame);
     void List();
+    void ListWithoutKit();
     void Complain(const QString& sText);
     /// Shows what is made and how far that is, in thousandths.
     void Progress(const QString& sWhat, int iThousandths);

@@ -162,11 +162,10 @@ TEST_F(NoKitCommandTest, WrongUsageIsTold) {
 }
 
 TEST_F(NoKitCommandTest, TheListNamesTheSheetsThatNeedNoKit) {
-    EXPECT_EQ(Run({QStringLiteral("--list")}), 0);
-    const QString without = out.section(QStringLiteral("Without a kit (--no-kit):"), 1);
+    EXPECT_EQ(Run({QStringLiteral("--list"), QStringLiteral("--no-kit")}), 0);
     for (const char* name :
          {"guide", "board", "standees", "dice", "stories", "box-wrap", "deeds", "news", "money", "rules", "bank"})
-        EXPECT_TRUE(without.contains(u'\n' + QString::fromLatin1(name) + u' ')) << name;
+        EXPECT_TRUE((u'\n' + out).contains(u'\n' + QString::fromLatin1(name) + u' ')) << name;
 }
 
 } // namespace
