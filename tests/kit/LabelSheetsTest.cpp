@@ -136,8 +136,9 @@ protected:
         }
         EXPECT_TRUE(stands) << sText.toStdString() << " at " << dblX << ", " << dblY;
         const QRectF arrow(dblX, dblY, kDrawnArrow, kDrawnArrow);
-        if (bArrow)
-            ExpectBox(reader.ColorBox(1, Grown(arrow, 0.01), Qt::blue), arrow, QStringLiteral("arrow ") + sText);
+        const QRectF drawn = reader.ColorBox(1, Grown(arrow, 0.01), Qt::blue);
+        EXPECT_EQ(drawn.isEmpty(), !bArrow) << sText.toStdString();
+        if (bArrow) ExpectBox(drawn, arrow, QStringLiteral("arrow ") + sText);
     }
     void ExpectSpace(int iSpace, double dblX, double dblY) const {
         const QRectF band(dblX, dblY, 1.65, 0.4375);

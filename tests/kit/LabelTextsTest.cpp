@@ -51,6 +51,7 @@ protected:
                            .y = told.y * kDotsPerInch,
                            .align = 'L',
                            .height = kCaptionHeight,
+                           .heightWithin = kCaptionHeight / 50,
                            .color = kInk});
     }
     // As many arrows as captions, each at its own.

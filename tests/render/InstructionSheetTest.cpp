@@ -73,16 +73,6 @@ TEST_F(InstructionSheetTest, Edge_ATextBeforeAnyTagPrintsOneCharacterALineAtTheL
     EXPECT_GT(ink.height(), 2 * 13);
 }
 
-TEST_F(InstructionSheetTest, Edge_TheSecondColumnStartsAtItsTopWhateverTheFirstHolds) {
-    PrintRules("<Col1>\r\ntimes,20,L,R:HHH\r\ntimes,20,L,R:HHH\r\ntimes,20,L,R:HHH\r\n<Col2>\r\ntimes,20,L,R:HHH\r\n");
-    const QRect first = page.Ink(QRect(0, 0, 384, 1008));
-    const QRect second = page.Ink(QRect(400, 0, 368, 1008));
-    EXPECT_EQ(first.top(), second.top());
-    EXPECT_GE(second.top(), 132);
-    EXPECT_GE(second.left(), 408);
-    EXPECT_GT(first.bottom(), second.bottom() + 40);
-}
-
 TEST_F(InstructionSheetTest, Edge_TimesSelectsArialWithAPitchOfTenPoints) {
     const ParsedLine line = Parse("times,10,L,R:Hello");
     EXPECT_EQ(line.sFont, QStringLiteral("Arial"));

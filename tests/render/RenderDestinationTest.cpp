@@ -9,6 +9,7 @@
 #include "platform/printing/Printer.h"
 #include "services/basErrLog.h"
 #include "services/WorkFiles.h"
+#include "support/PageMarks.h"
 #include "support/TestFixture.h"
 
 #include <QProcess>
@@ -39,6 +40,23 @@ protected:
         TheGame() = Game();
     }
     QRect Ink() { return InkBox(form.Image()); }
+    /// The texts of a single line that is printed at 600 dots an inch.
+    QList<PageMark> PrintedLine(int iItem, double x, double y, double width, double height, double margin) {
+        const QString path = PathOf(QStringLiteral("single.pdf"));
+        PdfPrinter printer(path, QStringLiteral("single"), QPageSize::Letter, 600);
+        clsRenderDestination onPrinter;
+        onPrinter.Init(printer, 1.0);
+        onPrinter.SingleLine(iItem, sArial, false, false, x, y, width, height, 0.5, margin, Color::Black(),
+                             Color::Rgb(255, 255, 0));
+        printer.EndDoc();
+        QString error;
+        EXPECT_TRUE(printer.Close(error)) << qPrintable(error);
+        QList<PageMark> texts;
+        for (const PageMark& mark : ReadPageMarks(path, 1, 600)) {
+            if (mark.kind == PageMark::Kind::Text) texts.append(mark);
+        }
+        return texts;
+    }
 
     ScratchForm form;
     clsRenderDestination destination;
@@ -97,6 +115,15 @@ TEST_F(RenderDestinationTest, Edge_AVeryLongSingleLineIsSqueezedIntoItsBox) {
     EXPECT_TRUE(QRect(96 + 5, 96 + 5, 192 - 10, 48 - 10).contains(Ink()));
     EXPECT_GT(Ink().width(), 170);
     EXPECT_EQ(form.hDC().GetPixel(97, 97), Color::Rgb(255, 255, 0));
+    // On paper it is one text, whole, from margin to margin but for the white of its picture, which is stretched with
+    // it; 30 of 600 dots are the margin.
+    const QList<PageMark> texts = PrintedLine(1, 1, 1, 2, 0.5, 0.05);
+    ASSERT_EQ(texts.size(), 1) << "not wrapped";
+    EXPECT_EQ(texts[0].sText, basPosit::m_CenterText(1).sText) << "not cut";
+    EXPECT_NEAR(texts[0].Box().left(), 630, 24);
+    EXPECT_NEAR(texts[0].Box().right(), 600 + 1200 - 30, 24);
+    EXPECT_NEAR(texts[0].Box().top(), 630, 3);
+    EXPECT_NEAR(texts[0].Box().bottom(), 600 + 300 - 30, 3);
 }
 
 TEST_F(RenderDestinationTest, ASingleLineFillsItsBoxWhateverItsProportions) {

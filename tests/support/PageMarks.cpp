@@ -84,15 +84,21 @@ struct PageFont {
 };
 
 void ReadLetters(const QByteArray& table, PageFont& font) {
-    static const QRegularExpression range(QStringLiteral("<(\\w{4})> <\\w{4}> \\[([^\\]]*)\\]"));
+    // Letters one by one, or the first of a run that follow each other.
+    static const QRegularExpression range(QStringLiteral("<(\\w{4})> <(\\w{4})> (?:\\[([^\\]]*)\\]|<(\\w{4})>)"));
+    const auto number = [](const QString& digits) { return digits.toUShort(nullptr, 16); };
     for (auto ranges = range.globalMatch(QString::fromLatin1(table)); ranges.hasNext();) {
         const auto match = ranges.next();
-        uint glyph = match.captured(1).toUInt(nullptr, 16);
-        for (const QString& code : match.captured(2).split(u' ', Qt::SkipEmptyParts)) {
-            const QChar letter(code.mid(1, 4).toUShort(nullptr, 16));
+        uint glyph = number(match.captured(1));
+        const auto keep = [&](ushort code) {
             // The toolkit names the blank by another letter that looks like it.
-            font.letters.insert(glyph++, letter.isSpace() ? QChar(u' ') : letter);
-        }
+            font.letters.insert(glyph++, QChar(code).isSpace() ? QChar(u' ') : QChar(code));
+        };
+        for (const QString& code : match.captured(3).split(u' ', Qt::SkipEmptyParts))
+            keep(number(code.mid(1, 4)));
+        if (match.captured(4).isEmpty()) continue;
+        for (ushort code = number(match.captured(4)); glyph <= number(match.captured(2));)
+            keep(code++);
     }
 }
 

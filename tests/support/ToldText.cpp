@@ -71,7 +71,7 @@ void ExpectText(const QList<PageMark>& marks, const ToldText& told) {
     EXPECT_TRUE(nearest->sFace == QLatin1String(told.face->onPage) ||
                 nearest->sFace == QLatin1String(told.face->orOnPage))
         << what << ": " << nearest->sFace.toStdString() << " and not " << told.face->onPage;
-    EXPECT_NEAR(nearest->height, told.height, 0.05) << what;
+    EXPECT_NEAR(nearest->height, told.height, told.heightWithin) << what;
     if (told.letter == 0) {
         EXPECT_NEAR(nearest->stretch, 1, 0.002) << what;
     } else {

@@ -29,6 +29,8 @@ struct ToldText {
     double y = 0;
     char align = 'C';
     double height = 0;
+    /// What the height may be off; a face's own numbers in the file are rounded.
+    double heightWithin = 0.05;
     /// Width of an average letter; 0 for the font's own.
     double letter = 0;
     int angle = 0;
