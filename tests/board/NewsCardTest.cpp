@@ -91,6 +91,11 @@ TEST_F(NewsCardTest, Edge_ManyLinesGetSmallLettersAndNeverLeaveTheBoxByHeight) {
             EXPECT_EQ(tops[i] - tops[i - 1], row.pitch) << "from line to line";
         EXPECT_TRUE(basTAVL::kNewsTextBox.contains(InkOfText(Lines(row.lines))));
     }
+    // Nor does one of 1 point, which would be 1 pixel and a third.
+    const QList<int> tops = TopsOfText(SparseLines(40, 10), 1);
+    ASSERT_EQ(tops.size(), 4);
+    for (int i = 1; i < tops.size(); ++i)
+        EXPECT_EQ(tops[i] - tops[i - 1], 20);
 }
 
 TEST_F(NewsCardTest, TheBlockOfLinesStandsInTheMiddleOfItsBox) {

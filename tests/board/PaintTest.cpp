@@ -184,6 +184,21 @@ TEST_F(PaintTest, PictureStandsInItsBoxOnEachSide) {
     }
 }
 
+TEST_F(PaintTest, PictureThatComesBackAfterNoneMayBeToldToBeBadAgain) {
+    const QString bad = WriteFile(QStringLiteral("games/bad.jpg"), "picture");
+    const auto boxesOfAPaint = [&](const QString& path) {
+        for (C_Image* image : {&SetSpace(5, QString()).Image, &SetCorner(0, QString(), 0.04F).Image})
+            image->Let_FullPath(path);
+        desktop.boxes.clear();
+        Paint();
+        return desktop.Texts().filter(bad).size();
+    };
+    EXPECT_EQ(boxesOfAPaint(bad), 2);
+    EXPECT_EQ(boxesOfAPaint(bad), 0);
+    EXPECT_EQ(boxesOfAPaint(QString()), 0);
+    EXPECT_EQ(boxesOfAPaint(bad), 2);
+}
+
 TEST_F(PaintTest, CornerTextStandsAboveItsPicture) {
     SetCorner(0, QStringLiteral("HHHHHH"), 0.04F).Image.Let_FullPath(RedPicture());
     const C_Image& image = g_oCorners(0).Image;
