@@ -2,6 +2,8 @@
 #include "drawing/basDraw.h"
 
 #include "drawing/basDraw_state.h"
+#include "drawing/TwoWayLine.h"
+#include "platform/paint/ClipScope.h"
 #include "platform/text/Numbers.h"
 #include "platform/text/TextColumns.h"
 #include "services/basErrLog.h"
@@ -81,17 +83,51 @@ QPoint WriteOn(QPoint at, const QString& sText, const Direction& direction) {
     return direction.Along(at, Draw_GetWidth(sText));
 }
 
+int CaretPlace(const QString& sLine, int iCol) {
+    if (!TwoWayLine::Is(sLine)) return Draw_GetWidth(LeftStr(sLine, iCol));
+    return TwoWayLine::CaretAt(*Context().CurrentFont(), sLine, iCol);
+}
+
 void DrawCaret(QPoint lineStart, const QString& sLine, const Direction& direction) {
-    const QPoint top = direction.Along(lineStart, Draw_GetWidth(LeftStr(sLine, Module().m_iColStart)));
+    const QPoint top = direction.Along(lineStart, CaretPlace(sLine, Module().m_iColStart));
     const QPoint bottom = direction.OneLineOn(top);
     Draw_Line(top.x(), top.y(), bottom.x(), bottom.y());
+}
+
+// The line with what lies between two columns in reversed colours.
+void WriteTwoWayLine(const QString& sLine, QPoint start, int iCol, int iColEnd, Color lColor) {
+    UsePlainColors(lColor);
+    Write(start, sLine);
+    const auto covered = TwoWayLine::Covered(*Context().CurrentFont(), sLine, iCol, iColEnd);
+    for (const TwoWayLine::Stretch& stretch : covered) {
+        const QRect place(start.x() + stretch.iLeft, start.y(), stretch.iRight - stretch.iLeft, Module().m_lFontHeight);
+        UseReversedColors(lColor);
+        {
+            // The whole line each time: letters that are cut out of it would take other shapes and places.
+            const ClipScope only(Context(), place);
+            Write(start, sLine);
+        }
+        UsePlainColors(lColor);
+    }
+}
+
+bool ShowsPartTwoWay(const QString& sLine, int row) {
+    const State& module = Module();
+    const bool caret = module.m_iRowStart == module.m_iRowEnd && module.m_iColStart == module.m_iColEnd;
+    const bool touched = row >= module.m_iRowStart && row <= module.m_iRowEnd;
+    return touched && !caret && module.m_lEscapement == 0 && TwoWayLine::Is(sLine);
 }
 
 void WriteLineShowingSelection(const QString& sLine, int row, QPoint start, const Direction& direction, Color lColor) {
     const State& module = Module();
     const bool atStart = row == module.m_iRowStart;
     const bool atEnd = row == module.m_iRowEnd;
-    if (atStart && atEnd && module.m_iColStart == module.m_iColEnd) {
+    if (ShowsPartTwoWay(sLine, row)) {
+        WriteTwoWayLine(sLine, start, atStart ? module.m_iColStart : 0, atEnd ? module.m_iColEnd : int(sLine.size()),
+                        lColor);
+        // The rows below go on as they would behind any other.
+        if (!atEnd) UseReversedColors(lColor);
+    } else if (atStart && atEnd && module.m_iColStart == module.m_iColEnd) {
         Write(start, sLine);
         DrawCaret(start, sLine, direction);
     } else if (atStart && atEnd) {
@@ -206,7 +242,9 @@ void Draw_FindInsertPoint(const QStringList& sTextLines, const QString& sAlign, 
     if (sAlign == QStringLiteral("C")) u = CLng(u + direction.c * width / 2);
     if (sAlign == QStringLiteral("R")) u = CLng(u + direction.c * width);
     ReportAlignment(sAlign);
-    if (u >= width) {
+    if (TwoWayLine::Is(line)) {
+        iCol = TwoWayLine::ColumnAt(*Context().CurrentFont(), line, u);
+    } else if (u >= width) {
         iCol = int(line.size());
     } else if (u > 0) {
         iCol = NearestColumn(line, u);

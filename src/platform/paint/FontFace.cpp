@@ -12,6 +12,7 @@
 
 #include <array>
 #include <cmath>
+#include <limits>
 #include <memory>
 #include <mutex>
 #include <vector>
@@ -109,6 +110,62 @@ double FontFace::Advance(const QString& sText) const {
     if (known != m_advances.constEnd()) return *known;
     if (m_advances.size() >= kMost) m_advances.clear();
     return *m_advances.insert(sText, QFontMetricsF(m_font).horizontalAdvance(sText));
+}
+
+namespace {
+
+// Letter by the glyphs that show it: a caret's places as the toolkit tells them are those of another letter where words
+// of both directions meet.
+FontFace::Letter LetterOf(const QTextLine& line, int iFrom, int iTo) {
+    double left = std::numeric_limits<double>::max();
+    double right = std::numeric_limits<double>::lowest();
+    bool fromRight = false;
+    for (const QGlyphRun& run : line.glyphRuns(iFrom, iTo - iFrom)) {
+        const QList<QPointF> advances = run.rawFont().advancesForGlyphIndexes(run.glyphIndexes());
+        const QList<QPointF> positions = run.positions();
+        for (qsizetype i = 0; i < positions.size(); ++i) {
+            left = std::min(left, positions[i].x());
+            right = std::max(right, positions[i].x() + advances[i].x());
+        }
+        fromRight = run.isRightToLeft();
+    }
+    if (left > right) left = right = -1;
+    return {iFrom, iTo, fromRight ? right : left, fromRight ? left : right};
+}
+
+// Letters that are written as one sign have a part of it each, and one without a sign none.
+void ShareSigns(QList<FontFace::Letter>& letters) {
+    for (qsizetype from = 0; from < letters.size();) {
+        const FontFace::Letter sign = letters[from];
+        qsizetype to = from + 1;
+        while (to < letters.size() && letters[to].dblAhead == sign.dblAhead && letters[to].dblBehind == sign.dblBehind)
+            ++to;
+        const double step = (sign.dblBehind - sign.dblAhead) / double(to - from);
+        for (; from < to; ++from) {
+            FontFace::Letter& letter = letters[from];
+            const bool unseen = letter.dblAhead < 0 && letter.dblBehind < 0;
+            letter.dblAhead =
+                unseen ? (from > 0 ? letters[from - 1].dblBehind : 0) : sign.dblBehind - step * double(to - from);
+            letter.dblBehind = unseen ? letter.dblAhead : letter.dblAhead + step;
+        }
+    }
+}
+
+} // namespace
+
+QList<FontFace::Letter> FontFace::Letters(const QString& sText) const {
+    const std::lock_guard lock(Guard());
+    QTextLayout layout(sText, m_font);
+    layout.beginLayout();
+    const QTextLine line = layout.createLine();
+    layout.endLayout();
+    QList<Letter> letters;
+    if (!line.isValid()) return letters;
+    QTextBoundaryFinder boundaries(QTextBoundaryFinder::Grapheme, sText);
+    for (qsizetype from = 0, to = 0; (to = boundaries.toNextBoundary()) >= 0; from = to)
+        letters.append(LetterOf(line, int(from), int(to)));
+    ShareSigns(letters);
+    return letters;
 }
 
 QString FontFace::FamilyInUse() const {

@@ -3,6 +3,7 @@
 
 #include <QFont>
 #include <QHash>
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -29,6 +30,17 @@ public:
     double AverageWidth() const { return m_averageWidth; }
     /// Sum of the advances of a text.
     double Advance(const QString& sText) const;
+
+    /// A letter with its combining marks, as a line of text shows it: its units from iFrom up to iTo, and where a caret
+    /// stands ahead of it and behind it. Behind lies to the left in words that run from the right.
+    struct Letter {
+        int iFrom;
+        int iTo;
+        double dblAhead;
+        double dblBehind;
+    };
+    /// In the order in which they are read.
+    QList<Letter> Letters(const QString& sText) const;
 
     /// The family that stands here, in this face's own spelling: another where this machine lacks the one asked for.
     QString FamilyInUse() const;
