@@ -4,6 +4,7 @@
 #include "platform/paint/Painting.h"
 #include "platform/paint/Units.h"
 
+#include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPaintEvent>
@@ -104,8 +105,24 @@ void PictureBox::paintEvent(QPaintEvent* event) {
 void PictureBox::resizeEvent(QResizeEvent*) { KeepBackingFitting(); }
 
 void PictureBox::mousePressEvent(QMouseEvent* event) {
-    Q_EMIT MouseDown(ButtonNumber(event->button()), ShiftSum(event->modifiers()), Twips(event->position().x()),
-                     Twips(event->position().y()));
+    const bool soon = m_sinceDouble.isValid() && m_sinceDouble.elapsed() <= QApplication::doubleClickInterval();
+    const QPoint moved = event->position().toPoint() - m_doubleAt;
+    const bool third = soon && moved.manhattanLength() < QApplication::startDragDistance();
+    m_sinceDouble.invalidate();
+    m_clicks = third ? 3 : 1;
+    TellPress(*event);
+}
+
+void PictureBox::mouseDoubleClickEvent(QMouseEvent* event) {
+    m_clicks = 2;
+    m_sinceDouble.start();
+    m_doubleAt = event->position().toPoint();
+    TellPress(*event);
+}
+
+void PictureBox::TellPress(const QMouseEvent& event) {
+    Q_EMIT MouseDown(ButtonNumber(event.button()), ShiftSum(event.modifiers()), Twips(event.position().x()),
+                     Twips(event.position().y()));
 }
 
 void PictureBox::mouseMoveEvent(QMouseEvent* event) {

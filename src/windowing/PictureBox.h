@@ -3,6 +3,7 @@
 
 #include "platform/paint/Surface.h"
 
+#include <QElapsedTimer>
 #include <QWidget>
 
 #include <memory>
@@ -32,6 +33,10 @@ public:
     static constexpr int kLeftButton = 1;
     static constexpr int kRightButton = 2;
     static constexpr int kMiddleButton = 4;
+    static constexpr int kShift = 1;
+
+    /// Of the last press: 1, or 2 or 3 where it follows others of the same button at the same place.
+    int Clicks() const { return m_clicks; }
 
 Q_SIGNALS:
     // Coordinates are twips. iButton is the button pressed or released; for a move the sum of all that are
@@ -47,6 +52,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
@@ -57,6 +63,12 @@ private:
     double WantedRatio() const;
     QSize WantedSize() const;
 
+    void TellPress(const QMouseEvent& event);
+
+    int m_clicks = 0;
+    /// Since a double click, and where it was.
+    QElapsedTimer m_sinceDouble;
+    QPoint m_doubleAt;
     QImage m_image;
     std::unique_ptr<DeviceContext> m_context;
 };

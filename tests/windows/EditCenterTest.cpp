@@ -152,6 +152,7 @@ TEST_F(EditCenterTest, Edge_CancelRestoresAllThreeAndOkWithAnEmptyTitleStays) {
 
 TEST_F(EditCenterTest, Edge_TheFixedWordShowsInItsPartAndCannotBeEdited) {
     Edit([](QDialog& form) {
+        ClickAt(form, kOutside);
         // Its part is 150 pixels about the middle of the right half; the strips above and below are left out.
         const QRect part(kName.left() + 240, kName.top() + 22, 165, 52);
         const QRect ink = DarkBox(Shown(form), part, 100);
@@ -168,6 +169,7 @@ TEST_F(EditCenterTest, Edge_TheFixedWordShowsInItsPartAndCannotBeEdited) {
 
 TEST_F(EditCenterTest, Edge_AClickOutsideAllAreasEndsTheEditing) {
     Edit([](QDialog& form) {
+        ClickAt(form, kOutside);
         const QImage plain = Shown(form);
         ClickBehind(form, kSubtitle);
         EXPECT_NE(Shown(form), plain) << "a caret stands";
@@ -228,7 +230,9 @@ TEST_F(EditCenterTest, WhileACaretStandsEnterAndBlankBelongToTheTextWhateverHasT
 
 TEST_F(EditCenterTest, EnterPressesTheButtonThatHasTheFocus) {
     EXPECT_FALSE(Edit([](QDialog& form) {
-        Find<QPushButton>(form, "cmdCancel").setFocus();
+        for (int i = 0; i < 4; ++i)
+            Press(form, Qt::Key_Tab);
+        EXPECT_EQ(form.focusWidget(), &Find<QPushButton>(form, "cmdCancel"));
         Press(form, Qt::Key_Return);
         EXPECT_FALSE(form.isVisible());
     }));
@@ -324,7 +328,6 @@ TEST_F(EditCenterTest, AccentsFromAnInputMethodAreTyped) {
 
 TEST_F(EditCenterTest, TheTabKeyGoesThroughTheTextsAndOnToTheButtons) {
     Edit([](QDialog& form) {
-        Press(form, Qt::Key_Tab);
         Type(form, QStringLiteral("1"));
         Press(form, Qt::Key_Tab);
         Type(form, QStringLiteral("2"));

@@ -77,6 +77,7 @@ TEST_F(EditSpaceTest, WhileACaretStandsSpaceAndEnterBelongToTheText) {
         EXPECT_EQ(form.GetTextArray().join(u'|'), QStringLiteral("Elm|Street |"));
     });
     Edit([&] {
+        ClickPicture(kOutside.x(), kOutside.y());
         Press(Qt::Key_Return);
         Press(Qt::Key_Space);
         EXPECT_TRUE(form.isVisible()) << "no caret and nothing to press";

@@ -334,6 +334,10 @@ TEST_F(EditTokenTest, HelpTellsHowToType) {
 
 TEST_F(EditTokenTest, KeysEditTheTextWhileACaretStands) {
     Edit([&] {
+        Type(QStringLiteral("s"));
+        EXPECT_EQ(WorkingText(), QStringLiteral("Dads")) << "the caret stands in the text";
+        Press(Qt::Key_Backspace);
+        ClickPicture(kBesideText.x(), kBesideText.y());
         Type(QStringLiteral("nobody listens"));
         EXPECT_EQ(WorkingText(), QStringLiteral("Dad"));
         ClickBehindText();

@@ -43,9 +43,11 @@ std::optional<Edit> EditWindow::Ask(int iIndex) {
     m_likeness.LoadFromGame(m_session.InHand(), iIndex);
     m_selection.Clear();
     m_bSelecting = false;
+    BeginTyping();
     chkIncludeImage->setChecked(!m_likeness.Image().FullPath().isEmpty());
     chkIncludeImage_Click();
     m_bLoading = false;
+    PlaceCaretBehind();
     Redraw();
     TakeFocus();
     exec();

@@ -59,6 +59,7 @@ protected:
     bool IsLoading() const { return m_bLoading; }
     void cmdBitmap_Click();
 
+    std::optional<QPoint> TextPlaceAt(QPoint at) override;
     void KeepTyped(const QStringList& sTextLines) override;
     int MostInLine() const override { return m_likeness.MostInLine(); }
     bool eventFilter(QObject* watched, QEvent* event) override;

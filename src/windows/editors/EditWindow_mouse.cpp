@@ -37,7 +37,7 @@ void EditWindow::picDest_MouseDown(int iButton, int iShift, float X, float Y) tr
     txtHoldFocus->setFocus(Qt::MouseFocusReason);
     m_bSelecting = spot.bInText;
     if (spot.bInText) {
-        m_selection.SetCaret(spot.iCol, spot.iRow);
+        m_bSelecting = !MarkByClick(iShift, spot.iCol, spot.iRow);
     } else {
         m_selection.Clear();
     }
@@ -45,6 +45,11 @@ void EditWindow::picDest_MouseDown(int iButton, int iShift, float X, float Y) tr
     if (spot.bInImage) cmdBitmap_Click();
 } catch (...) {
     ErrTop(m_wording.sModule, "picDest_MouseDown", iButton, iShift, X, Y);
+}
+
+std::optional<QPoint> EditWindow::TextPlaceAt(QPoint at) {
+    const Likeness::Spot spot = m_likeness.WhereIsMouse(*picDest, at.x(), at.y());
+    return spot.bInText ? std::optional(QPoint(spot.iCol, spot.iRow)) : std::nullopt;
 }
 
 void EditWindow::picDest_MouseMove(int iButton, int iShift, float X, float Y) try {

@@ -10,6 +10,8 @@ bool IsByTab(const QFocusEvent& event) {
     return event.reason() == Qt::TabFocusReason || event.reason() == Qt::BacktabFocusReason;
 }
 
+bool IsByKey(const QFocusEvent& event) { return IsByTab(event) || event.reason() == Qt::ShortcutFocusReason; }
+
 } // namespace
 
 HoldFocusBox::HoldFocusBox(QWidget* parent) : QWidget(parent) {
@@ -42,10 +44,10 @@ void HoldFocusBox::inputMethodEvent(QInputMethodEvent* event) {
 void HoldFocusBox::focusInEvent(QFocusEvent* event) {
     QWidget::focusInEvent(event);
     // A dialog that is being shown sends such an event before any widget has the focus.
-    if (IsByTab(*event) && hasFocus()) Q_EMIT TabbedInto();
+    if (IsByTab(*event) && hasFocus()) Q_EMIT TabbedInto(event->reason() == Qt::BacktabFocusReason);
 }
 
 void HoldFocusBox::focusOutEvent(QFocusEvent* event) {
     QWidget::focusOutEvent(event);
-    if (IsByTab(*event)) Q_EMIT TabbedOutOf();
+    if (IsByKey(*event)) Q_EMIT TabbedOutOf();
 }

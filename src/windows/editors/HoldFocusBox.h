@@ -22,8 +22,9 @@ Q_SIGNALS:
     void Committed(const QString& sText);
     /// Text under composition; empty when it is done.
     void Composing(const QString& sText);
-    /// The focus came from or went to another control by the Tab key.
-    void TabbedInto();
+    /// The focus came from another control by the Tab key, or backwards by Shift and Tab.
+    void TabbedInto(bool bBack);
+    /// It went to another control by a key, be it Tab or the letter of a button.
     void TabbedOutOf();
 
 protected:

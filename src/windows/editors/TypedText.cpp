@@ -28,6 +28,46 @@ constexpr KeyCodeRow kKeyCodes[] = {
     {Qt::Key_Delete, basEditTextArray::vbKeyDelete},
 };
 
+struct WayRow {
+    int qtKey;
+    TextMotion::Way way;
+    TextMotion::Way withCtrl;
+};
+
+using TextMotion::Way;
+constexpr WayRow kWays[] = {
+    {Qt::Key_Left, Way::Left, Way::WordLeft},       {Qt::Key_Right, Way::Right, Way::WordRight},
+    {Qt::Key_Up, Way::Up, Way::TextStart},          {Qt::Key_Down, Way::Down, Way::TextEnd},
+    {Qt::Key_Home, Way::LineStart, Way::TextStart}, {Qt::Key_End, Way::LineEnd, Way::TextEnd},
+};
+
+// Plain arrows aren't among them: their way is the told one, by which up and down move by a letter.
+Key WayOf(const QKeyEvent& event) {
+    const bool ctrl = event.modifiers().testFlag(Qt::ControlModifier);
+    const bool shift = event.modifiers().testFlag(Qt::ShiftModifier);
+    for (const WayRow& row : kWays) {
+        if (event.key() != row.qtKey) continue;
+        const bool plainArrow = !ctrl && !shift && row.qtKey != Qt::Key_Home && row.qtKey != Qt::Key_End;
+        if (plainArrow) break;
+        return {.kind = Key::Kind::Go, .way = ctrl ? row.withCtrl : row.way, .bMark = shift};
+    }
+    return {};
+}
+
+Key CommandOf(const QKeyEvent& event) {
+    constexpr std::pair<QKeySequence::StandardKey, Key::Kind> kCommands[] = {
+        {QKeySequence::Copy, Key::Kind::Copy},   {QKeySequence::Cut, Key::Kind::Cut},
+        {QKeySequence::Paste, Key::Kind::Paste}, {QKeySequence::Undo, Key::Kind::Undo},
+        {QKeySequence::Redo, Key::Kind::Redo},   {QKeySequence::SelectAll, Key::Kind::MarkAll},
+    };
+    for (const auto& [sequence, kind] : kCommands) {
+        if (event.matches(sequence)) return {.kind = kind};
+    }
+    // Not every desktop has it among its own.
+    const bool ctrlY = event.key() == Qt::Key_Y && event.modifiers() == Qt::ControlModifier;
+    return {.kind = ctrlY ? Key::Kind::Redo : Key::Kind::None};
+}
+
 bool IsLineBreak(char32_t character) {
     return character == U'\r' || character == U'\n' || character == QChar::LineSeparator ||
            character == QChar::ParagraphSeparator;
@@ -69,17 +109,21 @@ qsizetype Characters(const QStringList& sTextLines) {
 } // namespace
 
 Key KeyOf(const QKeyEvent& event) {
-    // First, as Shift makes no difference to them, while the toolkit takes Shift+Delete for a way to cut.
-    for (const KeyCodeRow& row : kKeyCodes) {
-        if (event.key() == row.qtKey) return {Key::Kind::Down, row.iKeyCode, {}};
+    if (const Key way = WayOf(event); way.kind != Key::Kind::None) return way;
+    if (event.modifiers() == Qt::ControlModifier) {
+        if (event.key() == Qt::Key_Backspace) return {.kind = Key::Kind::DeleteWord, .way = Way::WordLeft};
+        if (event.key() == Qt::Key_Delete) return {.kind = Key::Kind::DeleteWord, .way = Way::WordRight};
     }
-    if (event.matches(QKeySequence::Copy)) return {Key::Kind::Copy, 0, {}};
-    if (event.matches(QKeySequence::Cut)) return {Key::Kind::Cut, 0, {}};
-    if (event.matches(QKeySequence::Paste)) return {Key::Kind::Paste, 0, {}};
-    if (event.key() == Qt::Key_Backspace) return {Key::Kind::Press, 0, QChar(basEditTextArray::vbKeyBack)};
+    // Ahead of the commands, as the toolkit takes Shift+Delete for a way to cut.
+    for (const KeyCodeRow& row : kKeyCodes) {
+        if (event.key() == row.qtKey) return {.kind = Key::Kind::Down, .iKeyCode = row.iKeyCode};
+    }
+    if (const Key command = CommandOf(event); command.kind != Key::Kind::None) return command;
+    if (event.key() == Qt::Key_Backspace)
+        return {.kind = Key::Kind::Press, .sText = QChar(basEditTextArray::vbKeyBack)};
     if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter)
-        return {Key::Kind::Press, 0, QChar(basEditTextArray::vbKeyReturn)};
-    if (GivesCharacters(event)) return {Key::Kind::Press, 0, event.text()};
+        return {.kind = Key::Kind::Press, .sText = QChar(basEditTextArray::vbKeyReturn)};
+    if (GivesCharacters(event)) return {.kind = Key::Kind::Press, .sText = event.text()};
     return {};
 }
 
@@ -149,6 +193,17 @@ KeyResult Take(const Key& key, QStringList& sTextLines, TextSelection& selection
         case Key::Kind::Cut:
             if (selection.HasText()) Clipboard::SetText(Selected(sTextLines, selection));
             return key.kind == Key::Kind::Cut ? Remove(sTextLines, selection) : KeyResult::Nothing;
+        case Key::Kind::Go:
+            return TextMotion::Go(sTextLines, selection, key.way, key.bMark) ? KeyResult::CaretMoved
+                                                                             : KeyResult::Nothing;
+        case Key::Kind::MarkAll:
+            TextMotion::MarkAll(sTextLines, selection);
+            return KeyResult::CaretMoved;
+        case Key::Kind::DeleteWord:
+            if (!selection.HasText()) TextMotion::Go(sTextLines, selection, key.way, true);
+            return Remove(sTextLines, selection);
+        case Key::Kind::Undo:
+        case Key::Kind::Redo:
         case Key::Kind::None:
             break;
     }

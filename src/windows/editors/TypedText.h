@@ -2,6 +2,7 @@
 #pragma once
 
 #include "windows/editors/basEditTextArray.h"
+#include "windows/editors/TextMotion.h"
 #include "windows/editors/TextSelection.h"
 
 #include <QString>
@@ -15,12 +16,15 @@ namespace TypedText {
 
 /// A key that edits text, or the reason why it doesn't.
 struct Key {
-    enum class Kind { None, Down, Press, Copy, Cut, Paste };
+    enum class Kind { None, Down, Press, Go, MarkAll, DeleteWord, Copy, Cut, Paste, Undo, Redo };
     Kind kind = Kind::None;
     /// For Down: the platform's virtual key code.
     int iKeyCode = 0;
     /// For Press: the characters that the key gives.
-    QString sText;
+    QString sText = {};
+    /// For Go and DeleteWord: where to, and whether what lies between is marked.
+    TextMotion::Way way = TextMotion::Way::Left;
+    bool bMark = false;
 };
 
 /// Which of these a key event of the toolkit is. Tab, Escape, shortcuts and all control characters but
@@ -41,7 +45,8 @@ constexpr int kAnyLength = 10000;
 basEditTextArray::KeyResult Feed(QStringList& sTextLines, TextSelection& selection, const QString& sText,
                                  int iMostInLine = kLongestLine);
 
-/// Does what a key asks for, Copy, Cut and Paste with the desktop's clipboard included.
+/// Does what a key asks for, Copy, Cut and Paste with the desktop's clipboard included. Undo and Redo are for whoever
+/// keeps the history.
 basEditTextArray::KeyResult Take(const Key& key, QStringList& sTextLines, TextSelection& selection,
                                  int iMostInLine = kLongestLine);
 

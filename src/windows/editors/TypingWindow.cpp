@@ -5,8 +5,10 @@
 #include "services/basErrLog.h"
 #include "windowing/PictureBox.h"
 #include "windows/editors/HoldFocusBox.h"
+#include "windows/editors/TextMenu.h"
 #include "windows/editors/TipLabel.h"
 
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 
 using basEditTextArray::KeyResult;
@@ -31,6 +33,8 @@ bool TypingWindow::TakesKey(const QKeyEvent& event) {
 }
 
 void TypingWindow::Form_KeyDown(const TypedText::Key& key) try {
+    if (key.kind == TypedText::Key::Kind::Undo || key.kind == TypedText::Key::Kind::Redo)
+        return Step(key.kind == TypedText::Key::Kind::Undo);
     QStringList sTextLines = GetTextArray();
     const Typed before{sTextLines, m_selection, TypedText::Entered(key)};
     const KeyResult result = TypedText::Take(key, sTextLines, m_selection, MostInLine());
@@ -57,9 +61,21 @@ void TypingWindow::StoreTyped(KeyResult result, const QStringList& sTextLines, c
     if (changed || !(m_selection == before.selection)) {
         if (changed) KeepTyped(sTextLines);
         TypedText::KeepWithin(m_selection, GetTextArray());
+        if (changed && GetTextArray() != before.sTextLines)
+            m_history.Note({0, before.sTextLines, before.selection}, State(), before.sText);
         Redraw();
     }
     if (m_selection.IsOn() && !before.selection.HasText()) TellLoss(before);
+}
+
+void TypingWindow::Step(bool bUndo) {
+    const std::optional<TypedHistory::State> state = bUndo ? m_history.Undo(State()) : m_history.Redo(State());
+    if (!state) return;
+    TellLoss({});
+    KeepTyped(state->sTextLines);
+    if (m_selection.IsOn()) m_selection = state->selection;
+    TypedText::KeepWithin(m_selection, GetTextArray());
+    Redraw();
 }
 
 // Below the picture, where it hides nothing that is being typed.
@@ -69,10 +85,45 @@ void TypingWindow::TellLoss(const Typed& before) {
     m_tip->ShowUnder(sLoss, {picture.center().x(), picture.bottom()});
 }
 
-// Whoever comes by the keyboard finds the caret behind the text, as there is no click to place it.
-void TypingWindow::HoldFocus_Tabbed() try {
+void TypingWindow::PlaceCaretBehind() {
     const QStringList sTextLines = GetTextArray();
     m_selection.SetCaret(int(sTextLines.last().size()), int(sTextLines.size()) - 1);
+}
+
+bool TypingWindow::MarkByClick(int iShift, int iCol, int iRow) {
+    const int clicks = picDest->Clicks();
+    if (clicks == 1 && iShift == PictureBox::kShift && m_selection.IsOn()) {
+        m_selection.SetEnd(iCol, iRow);
+        return true;
+    }
+    m_selection.SetCaret(iCol, iRow);
+    if (clicks == 2) TextMotion::MarkWord(GetTextArray(), m_selection);
+    if (clicks == 3) TextMotion::MarkLine(GetTextArray(), m_selection);
+    return clicks > 1;
+}
+
+// On the text, wherever it is opened by the mouse; at the text when it is opened by a key.
+void TypingWindow::contextMenuEvent(QContextMenuEvent* event) try {
+    const bool byMouse = event->reason() == QContextMenuEvent::Mouse;
+    QPoint at = picDest->mapToGlobal(picDest->rect().center());
+    if (byMouse) {
+        const std::optional<QPoint> place = TextPlaceAt(picDest->mapFromGlobal(event->globalPos()));
+        if (!place) return;
+        if (!m_selection.IsOn() || !m_selection.HasText()) m_selection.SetCaret(place->x(), place->y());
+        TakeFocus();
+        Redraw();
+        at = event->globalPos();
+    } else if (!m_selection.IsOn()) {
+        return;
+    }
+    TextMenu::Show(*this, at, {m_history.CanUndo(), m_history.CanRedo(), m_selection.HasText()},
+                   [this](TypedText::Key::Kind kind) { Form_KeyDown({.kind = kind}); });
+} catch (...) {
+    ErrTop(m_sModule, "contextMenuEvent");
+}
+
+void TypingWindow::HoldFocus_Tabbed() try {
+    PlaceCaretBehind();
     Redraw();
 } catch (...) {
     ErrTop(m_sModule, "HoldFocus_Tabbed");

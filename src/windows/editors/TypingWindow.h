@@ -2,10 +2,14 @@
 #pragma once
 
 #include "windows/editors/TextSelection.h"
+#include "windows/editors/TypedHistory.h"
 #include "windows/editors/TypedText.h"
 
 #include <QDialog>
+#include <QPoint>
 #include <QStringList>
+
+#include <optional>
 
 class HoldFocusBox;
 class PictureBox;
@@ -32,9 +36,19 @@ protected:
 
     bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
     /// Points the drawing layer at the picture, as fitting a text measures there.
     void UsePicDest();
+    /// Places the caret behind the text, as whoever comes without a click expects it.
+    void PlaceCaretBehind();
+    /// What was typed before isn't taken back any more: another text is edited.
+    void BeginTyping() { m_history.Clear(); }
+    /// A second click in a row marks the word, a third the line, and with Shift the text up to the click. False for a
+    /// plain click.
+    bool MarkByClick(int iShift, int iCol, int iRow);
+    /// The place in the text at a point of the picture, in pixels; nothing beside the text.
+    virtual std::optional<QPoint> TextPlaceAt(QPoint at) = 0;
     /// Brings the focus back to where keys go to the text.
     void TakeFocus();
     /// Tells the input method whether and where text can be typed now.
@@ -59,9 +73,12 @@ private:
     };
     void StoreTyped(basEditTextArray::KeyResult result, const QStringList& sTextLines, const Typed& before);
     void TellLoss(const Typed& before);
+    void Step(bool bUndo);
+    TypedHistory::State State() const { return {0, GetTextArray(), m_selection}; }
     void HoldFocus_Tabbed();
     void HoldFocus_TabbedOut();
     void HoldFocus_Composing(const QString& sText);
 
     const char* const m_sModule;
+    TypedHistory m_history;
 };

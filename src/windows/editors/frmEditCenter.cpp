@@ -5,23 +5,18 @@
 #include "drawing/basDraw.h"
 #include "game/Session.h"
 #include "platform/paint/Units.h"
-#include "platform/text/NewLine.h"
 #include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
 #include "services/Desktop.h"
 #include "windowing/ButtonKeys.h"
-#include "windowing/Clipboard.h"
 #include "windowing/PictureBox.h"
 #include "windowing/Screen.h"
 #include "windowing/WidgetLook.h"
 #include "windows/editors/HoldFocusBox.h"
 #include "windows/editors/TipLabel.h"
 
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
-
-using basEditTextArray::KeyResult;
 
 namespace {
 
@@ -90,6 +85,7 @@ frmEditCenter::frmEditCenter(Session& session, QWidget* parent)
     connect(txtHoldFocus, &HoldFocusBox::Committed, this, &frmEditCenter::Form_KeyPress);
     connect(txtHoldFocus, &HoldFocusBox::Composing, this, &frmEditCenter::HoldFocus_Composing);
     connect(txtHoldFocus, &HoldFocusBox::TabbedInto, this, &frmEditCenter::HoldFocus_TabbedInto);
+    connect(txtHoldFocus, &HoldFocusBox::TabbedOutOf, this, &frmEditCenter::HoldFocus_TabbedOutOf);
     connect(cmdOK, &QPushButton::clicked, this, &frmEditCenter::cmdOK_Click);
     connect(cmdCancel, &QPushButton::clicked, this, &frmEditCenter::cmdCancel_Click);
 }
@@ -148,7 +144,8 @@ std::optional<Edit> frmEditCenter::Ask() {
     for (int i = 1; i <= kAreas; ++i)
         m_sSaved[size_t(i)] = m_titles.Text(i).sText;
     m_bInArea.fill(false);
-    EditArea(kNoArea, -1, -1);
+    m_history.Clear();
+    EditBehindText(kGameName);
     m_bLoading = false;
     Redraw(0);
     txtHoldFocus->setFocus();
@@ -178,7 +175,7 @@ void frmEditCenter::Form_MouseDown(int Button, int Shift, float X, float Y) try 
         if (inArea[size_t(i)]) area = i;
     }
     m_bInArea = inArea;
-    EditArea(area, column, row);
+    if (MarkByClick(Shift, area, column, row)) m_bInArea.fill(false);
     txtHoldFocus->setFocus();
     Redraw(0);
 } catch (...) {
@@ -207,114 +204,6 @@ void frmEditCenter::Form_MouseMove(int Button, int Shift, float X, float Y) try 
 
 void frmEditCenter::Form_MouseUp(int Button, int, float, float) {
     if (Button == PictureBox::kLeftButton) m_bInArea.fill(false);
-}
-
-// Sees the keys before the control that has the focus: while a caret stands, those that edit belong to the
-// text.
-bool frmEditCenter::eventFilter(QObject* watched, QEvent* event) try {
-    if (event->type() == QEvent::KeyPress) return HandleKey(static_cast<QKeyEvent&>(*event));
-    return QDialog::eventFilter(watched, event);
-} catch (...) {
-    ErrTop("frmEditCenter!", "Form_KeyDown", int(event->type()));
-    return true;
-}
-
-bool frmEditCenter::HandleKey(const QKeyEvent& event) {
-    if (focusWidget() == txtHoldFocus && (event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab))
-        return HandleTab(event.key() == Qt::Key_Backtab);
-    const TypedText::Key key = TypedText::KeyOf(event);
-    if (!m_selection.IsOn() || m_iTextArea == kNoArea || key.kind == TypedText::Key::Kind::None) return false;
-    if (key.kind == TypedText::Key::Kind::Press) {
-        Form_KeyPress(key.sText);
-    } else if (key.kind == TypedText::Key::Kind::Paste) {
-        Form_KeyPress(Clipboard::Text());
-    } else {
-        Form_KeyDown(key);
-    }
-    return true;
-}
-
-// The Tab key goes through the texts, so that they are reached without a mouse, and on to the buttons.
-bool frmEditCenter::HandleTab(bool bBack) {
-    const int area = m_iTextArea + (bBack ? -1 : 1);
-    const bool toText = area >= 1 && area <= kAreas;
-    EditBehindText(toText ? area : kNoArea);
-    return toText;
-}
-
-void frmEditCenter::EditBehindText(int iArea) {
-    m_iTextArea = iArea;
-    if (iArea == kNoArea) {
-        EditArea(kNoArea, -1, -1);
-    } else {
-        const QStringList lines = LinesUnderEdit();
-        EditArea(iArea, int(lines.last().size()), int(lines.size()) - 1);
-    }
-    Redraw(0);
-}
-
-void frmEditCenter::HoldFocus_TabbedInto() try { EditBehindText(kGameName); } catch (...) {
-    ErrTop("frmEditCenter!", "HoldFocus_TabbedInto");
-}
-
-void frmEditCenter::HoldFocus_Composing(const QString& sText) {
-    const QRect area = m_area[size_t(m_iTextArea)];
-    txtToolTip->ShowUnder(m_iTextArea == kNoArea ? QString() : sText, {area.center().x(), area.bottom()});
-}
-
-QStringList frmEditCenter::LinesUnderEdit() const {
-    basErrLog::ErrAssert(m_iTextArea >= 1 && m_iTextArea <= kAreas, QStringLiteral("Unexpected m_iTextArea"));
-    const SpecialText& record = m_titles.Text(m_iTextArea);
-    if (m_iTextArea == kGameName) return {record.sText};
-    const QStringList lines = record.Lines();
-    return lines.isEmpty() ? QStringList{QString()} : lines;
-}
-
-void frmEditCenter::Form_KeyDown(const TypedText::Key& key) {
-    const TextSelection before = m_selection;
-    QStringList lines = LinesUnderEdit();
-    const KeyResult result = TypedText::Take(key, lines, m_selection);
-    StoreTyped(result, lines, before);
-}
-
-void frmEditCenter::Form_KeyPress(const QString& sCharacters) try {
-    if (!m_selection.IsOn() || m_iTextArea == kNoArea) return;
-    const QString text = WhatMayBeTyped(sCharacters);
-    if (!sCharacters.isEmpty() && text.isEmpty()) return;
-    const QStringList linesBefore = LinesUnderEdit();
-    QStringList lines = linesBefore;
-    const TextSelection before = m_selection;
-    const KeyResult result = TypedText::Feed(lines, m_selection, text);
-    StoreTyped(result, lines, before);
-    if (before.HasText()) return;
-    const QRect area = m_area[size_t(m_iTextArea)];
-    const QString sLoss = TypedText::Loss(text, linesBefore, LinesUnderEdit(), TypedText::kLongestLine);
-    txtToolTip->ShowUnder(sLoss, {area.center().x(), area.bottom()});
-} catch (...) {
-    ErrTop("frmEditCenter!", "Form_KeyPress", sCharacters);
-}
-
-// The game's name is one line. A text of ten lines takes no more characters, not even on a line that has room; kept
-// on purpose.
-QString frmEditCenter::WhatMayBeTyped(const QString& sCharacters) const {
-    QString text = sCharacters;
-    text.replace(kNewLine, QStringLiteral("\r")).replace(u'\n', u'\r');
-    if (text == QChar(basEditTextArray::vbKeyBack)) return text;
-    if (m_iTextArea == kGameName) return text.remove(u'\r');
-    const int room = basEditTextArray::kMaxLines - std::max(int(m_titles.Text(m_iTextArea).iNLines), 1);
-    if (room <= 0) return {};
-    return text.section(u'\r', 0, room - 1) + (text.count(u'\r') >= room ? QStringLiteral("\r") : QString());
-}
-
-void frmEditCenter::StoreTyped(KeyResult result, const QStringList& sTextLines, const TextSelection& before) {
-    // A key that did nothing to the text may still have collapsed the selection.
-    if (result == KeyResult::Nothing && m_selection == before) return;
-    if (result == KeyResult::TextChanged) {
-        basDraw::Draw_SetHdc(&picForm->hDC());
-        basPosit::SetSpecialText(m_titles.Text(m_iTextArea), m_iTextArea, TypedText::Joined(sTextLines));
-    }
-    TypedText::KeepWithin(m_selection, LinesUnderEdit());
-    Redraw(m_iTextArea);
 }
 
 bool frmEditCenter::RangeCheck() {

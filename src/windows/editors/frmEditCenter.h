@@ -4,6 +4,7 @@
 #include "game/Edit.h"
 #include "platform/paint/Color.h"
 #include "windows/editors/TextSelection.h"
+#include "windows/editors/TypedHistory.h"
 #include "windows/editors/TypedText.h"
 
 #include <QDialog>
@@ -51,12 +52,14 @@ private Q_SLOTS:
     void Form_MouseUp(int Button, int Shift, float X, float Y);
     void Form_KeyPress(const QString& sCharacters);
     void HoldFocus_Composing(const QString& sText);
-    void HoldFocus_TabbedInto();
+    void HoldFocus_TabbedInto(bool bBack);
+    void HoldFocus_TabbedOutOf();
     void cmdOK_Click();
     void cmdCancel_Click();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
     static constexpr int kAreas = 3;
@@ -99,9 +102,16 @@ private:
     bool HandleKey(const QKeyEvent& event);
     bool HandleTab(bool bBack);
     void EditBehindText(int iArea);
+    void Form_Key(const TypedText::Key& key);
     void Form_KeyDown(const TypedText::Key& key);
     QString WhatMayBeTyped(const QString& sCharacters) const;
-    void StoreTyped(basEditTextArray::KeyResult result, const QStringList& sTextLines, const TextSelection& before);
+    void StoreTyped(basEditTextArray::KeyResult result, const QStringList& sTextLines, const TextSelection& before,
+                    const QString& sEntered = QString());
+    void KeepLines(const QStringList& sTextLines);
+    void Step(bool bUndo);
+    TypedHistory::State State(int iArea);
+    void EditAt(QPoint at);
+    bool MarkByClick(int iShift, int iArea, int iCol, int iRow);
     QStringList LinesUnderEdit() const;
 
     bool RangeCheck();
@@ -117,6 +127,7 @@ private:
     /// The left button went down on this text and is still held.
     PerArea<bool> m_bInArea{};
     TextSelection m_selection;
+    TypedHistory m_history;
     bool m_bLoading = false;
     /// In pixels.
     PerArea<QRect> m_area;

@@ -51,8 +51,11 @@ std::optional<Edit> frmEditToken::Ask(int iToken) {
     m_bSetAllFonts = false;
     m_bSelecting = false;
     m_selection.Clear();
+    BeginTyping();
     LoadFromGame();
     m_bLoading = false;
+    // On a picture the first letter would ask whether it is to go.
+    if (!HasImage()) PlaceCaretBehind();
     Redraw();
     TakeFocus();
     exec();

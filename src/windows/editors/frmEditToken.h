@@ -43,6 +43,7 @@ public:
     void reject() override;
 
 protected:
+    std::optional<QPoint> TextPlaceAt(QPoint at) override;
     void KeepTyped(const QStringList& sTextLines) override;
 
 private:

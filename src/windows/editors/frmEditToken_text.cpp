@@ -54,7 +54,7 @@ void frmEditToken::picDest_MouseDown(int iButton, int iShift, float X, float Y) 
     int row = 0;
     m_bSelecting = WhereIsMouse(X, Y, column, row);
     if (m_bSelecting) {
-        m_selection.SetCaret(column, row);
+        m_bSelecting = !MarkByClick(iShift, column, row);
     } else {
         m_selection.Clear();
     }
@@ -62,6 +62,13 @@ void frmEditToken::picDest_MouseDown(int iButton, int iShift, float X, float Y) 
     Redraw();
 } catch (...) {
     ErrTop("frmEditToken!", "picDest_MouseDown", iButton, iShift, X, Y);
+}
+
+std::optional<QPoint> frmEditToken::TextPlaceAt(QPoint at) {
+    int column = 0;
+    int row = 0;
+    const bool found = WhereIsMouse(float(at.x() * kTwipsPerPixel), float(at.y() * kTwipsPerPixel), column, row);
+    return found ? std::optional(QPoint(column, row)) : std::nullopt;
 }
 
 void frmEditToken::picDest_MouseMove(int iButton, int iShift, float X, float Y) try {
