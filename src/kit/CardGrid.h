@@ -15,6 +15,7 @@ struct CardGrid {
     QRectF Box() const { return {first, QSizeF(card.width() * iColumns, card.height() * iRows)}; }
     /// By its number, row by row.
     QRectF CardBox(int iCard) const {
-        return {first + QPointF(iCard % iColumns * card.width(), iCard / iColumns * card.height()), card};
+        const int iRow = iCard / iColumns;
+        return {first + QPointF(iCard % iColumns * card.width(), iRow * card.height()), card};
     }
 };

@@ -20,7 +20,6 @@ namespace {
 using namespace PictureFiles;
 
 constexpr QRgb kBoard = 0xFFE0FFE0;
-constexpr QRgb kWhite = 0xFFFFFFFF;
 constexpr QRgb kBlack = 0xFF000000;
 
 class C_ImagePaintTest : public TavloraTest {
