@@ -6,6 +6,7 @@
 
 #include <QDateTime>
 #include <QMimeData>
+#include <QRect>
 
 #ifdef Q_OS_UNIX
 #include <sys/stat.h>

@@ -34,15 +34,15 @@ protected:
         return rents;
     }
     static Simulator::PlaySet PlainSet(Kit kit = Kit::Eight) {
-        Simulator::PlaySet set{Simulator::Deeds(PlainRents(), kit), {}, {}};
-        for (auto& deck : set.news)
+        Simulator::PlaySet plain{Simulator::Deeds(PlainRents(), kit), {}, {}};
+        for (auto& deck : plain.news)
             deck.fill({Simulator::NewsEffect::Kind::FromBank, 100});
-        return set;
+        return plain;
     }
 
     static Simulator::SpaceSet Spaces(std::initializer_list<int> spaces) {
         return std::accumulate(spaces.begin(), spaces.end(), Simulator::SpaceSet(0),
-                               [](Simulator::SpaceSet set, int space) { return set | Simulator::Only(space); });
+                               [](Simulator::SpaceSet all, int space) { return all | Simulator::Only(space); });
     }
     static void GiveDeeds(Simulator::Table& table, int seat, std::initializer_list<int> spaces) {
         for (const int space : spaces)

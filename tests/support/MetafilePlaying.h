@@ -6,6 +6,8 @@
 
 #include "platform/pictures/Metafile.h"
 
+#include <QPainter>
+
 /// Plays metafiles onto white pictures and asks for single pixels.
 class MetafileTest : public TavloraTest {
 protected:

@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QPainter>
 
 #include <cstdio>
 #include <ctime>

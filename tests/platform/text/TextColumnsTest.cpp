@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/text/TextColumns.h"
 
+#include <QList>
+
 #include <gtest/gtest.h>
 
 using namespace TextColumns;
