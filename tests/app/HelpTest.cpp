@@ -20,6 +20,7 @@
 #include "windows/help/HelpPages.h"
 #include "windows/help/WhatIsThis.h"
 #include "windows/help/WindowHelp.h"
+#include "windows/nokit/PrintWithoutKit.h"
 #include "windows/pictures/frmBrowse.h"
 #include "windows/pictures/frmFileName.h"
 #include "windows/pictures/frmImagePosition.h"
@@ -80,6 +81,7 @@ protected:
         add(new frmPrntPrep);
         add(new frmTavlPrint);
         add(new PrintEverything);
+        add(new PrintWithoutKit);
         add(new frmSendGame({}, QString()));
         return all;
     }

@@ -20,7 +20,7 @@ constexpr Row kRows[] = {
     {"frmFileName", "pictures.html"},  {"frmImagePosition", "cutting.html"}, {"frmCheck", "check.html"},
     {"frmTavlPrint", "print.html"},    {"frmPrntPrep", "print.html"},        {"frmPrintTest", "print.html"},
     {"frmColor", "print.html"},        {"frmSendGame", "sending.html"},      {"frmBeforePrint", "check.html"},
-    {"PrintEverything", "print.html"},
+    {"PrintEverything", "print.html"}, {"PrintWithoutKit", "print.html"},
 };
 
 } // namespace

@@ -14,6 +14,7 @@
 #include "windowing/ElidedLabel.h"
 #include "windowing/PictureBox.h"
 #include "windowing/Screen.h"
+#include "windows/nokit/PrintWithoutKit.h"
 #include "windows/print/ChangePrinter.h"
 #include "windows/print/frmPrntPrep.h"
 #include "windows/print/PageUnderWay.h"
@@ -103,6 +104,15 @@ void frmTavlPrint::cmdEverything_Click() try {
     if (!bInPrint) m_bPrintStarted = ShowEverything(m_bPrintStarted);
 } catch (...) {
     ErrTop("frmTavlPrint!", "cmdEverything_Click");
+}
+
+void frmTavlPrint::cmdNoKit_Click() try {
+    if (bInPrint) return;
+    PrintWithoutKit form(this);
+    form.TellInPrint = [this](bool bNow) { TellInPrint(bNow); };
+    form.ShowForm();
+} catch (...) {
+    ErrTop("frmTavlPrint!", "cmdNoKit_Click");
 }
 
 void frmTavlPrint::cmdPrint_Click(int Index) try {

@@ -66,6 +66,7 @@ public Q_SLOTS:
     void cmdCancel_Click();
     void cmdTryAgain_Click();
     void cmdEverything_Click();
+    void cmdNoKit_Click();
     void Command1_Click();
     void picTest_Click();
 

@@ -103,6 +103,10 @@ void frmTavlPrint::AddMenuButtons(QVBoxLayout* column) {
                    QStringLiteral("Print the whole kit in one go"));
     connect(everything, &QPushButton::clicked, this, &frmTavlPrint::cmdEverything_Click);
     column->addWidget(everything);
+    auto* noKit = MakeButton(column->parentWidget(), QStringLiteral("cmdNoKit"), QStringLiteral("I &have no kit..."),
+                             QStringLiteral("Print the game on plain paper and card"));
+    connect(noKit, &QPushButton::clicked, this, &frmTavlPrint::cmdNoKit_Click);
+    column->addWidget(noKit);
 }
 
 void frmTavlPrint::AddButtons(Frame frame, QVBoxLayout* column) {
