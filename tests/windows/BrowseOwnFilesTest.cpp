@@ -27,7 +27,7 @@ TEST_F(BrowseOwnFilesTest, ThumbnailsAreNotOfferedAndPicturesThatBearTheirNamesA
     Picture(QStringLiteral("stick/Money0.bmp"), 100);
     Browse(
         QString(),
-        [this](QWidget& window) {
+        [](QWidget& window) {
             EXPECT_EQ(FilesIn(window), (QStringList{QStringLiteral("corner3.bmp"), QStringLiteral("dog.bmp"),
                                                     QStringLiteral("Space12.bmp")}));
             ChoosePlace(window, QStringLiteral("STICK"));

@@ -138,7 +138,7 @@ TEST_F(BrowseTest, AFolderIsNoPictureEvenOnAScreenOfOtherDots) {
 TEST_F(BrowseTest, APhotographThatWasRenamedToBeABitmapIsShownAndStays) {
     const QByteArray bytes = PictureFiles::Encoded(PictureFiles::Quarters(40, 40), "png");
     const QString path = WriteFile(QStringLiteral("photo.bmp"), bytes);
-    Browse(QString(), [this](QWidget& window) {
+    Browse(QString(), [](QWidget& window) {
         ClickFile(window, QStringLiteral("photo.bmp"));
         EXPECT_TRUE(QTest::qWaitFor([&] { return ColorAt(window, 20, 20) == Color::Rgb(255, 0, 0); }, kArrivalMs));
         EXPECT_TRUE(FilesIn(window).contains(QStringLiteral("photo.bmp")));
@@ -293,7 +293,7 @@ TEST_F(BrowseTest, ACopyThatFailsIsToldAndTheDialogStays) {
     });
     const QString path = Browse(
         QString(),
-        [this](QWidget& window) {
+        [](QWidget& window) {
             ClickFile(window, QStringLiteral("cat.jpg"), true);
             EXPECT_TRUE(window.isVisible());
             Folders::PretendFreeBytes(10);

@@ -89,7 +89,7 @@ TEST_F(SendGameTest, TheFileIsWrittenWhereTheUserSays) {
     AddPhotos(1);
     contents.missing = {QStringLiteral("/far/gone.jpg")};
     AnswerDialog(packed);
-    steps.OnceIn("frmSendGame", [this](QWidget& window) {
+    steps.OnceIn("frmSendGame", [](QWidget& window) {
         EXPECT_TRUE(TextOf(window, "lblGoesIn").contains(QStringLiteral("one picture")));
         EXPECT_EQ(window.findChild<QLabel*>(QStringLiteral("lblStaysBehind"))->toolTip(),
                   QStringLiteral("/far/gone.jpg"));
