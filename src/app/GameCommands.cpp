@@ -5,6 +5,7 @@
 #include "app/OpeningNote.h"
 #include "app/PackedGames.h"
 #include "app/RecentGames.h"
+#include "app/StartArguments.h"
 #include "document/basTAVL.h"
 #include "game/Autosave.h"
 #include "game/GameNames.h"
@@ -214,6 +215,14 @@ void GameCommands::Open() {
         return;
     }
     LoadInstead(dlgCommon.sFileName);
+}
+
+void GameCommands::Carry(const QString& sRequest) {
+    if (sRequest == QLatin1String(StartArguments::kNew)) return New();
+    if (sRequest != QLatin1String(StartArguments::kRecent)) return OpenGame(sRequest);
+    for (const QString& path : RecentGames::List()) {
+        if (path != m_session.GameName()) return OpenRecent(path);
+    }
 }
 
 void GameCommands::OpenGame(const QString& sPath) {

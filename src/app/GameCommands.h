@@ -27,6 +27,9 @@ public:
     /// Offers to save unsaved changes; bOk is false when the user wants to go on with the game.
     void OkToEndProgram(bool& bOk);
 
+    /// What another start, or the desktop, asks for: a game's path, or one of the requests of StartArguments.
+    void Carry(const QString& sRequest);
+
     // The commands of the file menu. What would replace the game asks about unsaved changes first.
     void New();
     void Open();

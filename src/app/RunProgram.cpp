@@ -5,6 +5,7 @@
 #include "app/frmTAVL.h"
 #include "app/GamesFolder.h"
 #include "app/MainLayout.h"
+#include "app/StartArguments.h"
 #include "board/basPositTables.h"
 #include "kit/ConsoleSheets.h"
 #include "pictures/PicturePlaces.h"
@@ -24,6 +25,8 @@
 #include "windowing/SystemPrinter.h"
 #include "windowing/WidgetLook.h"
 #include "windows/help/WindowHelp.h"
+
+#include <iostream>
 
 namespace {
 
@@ -53,11 +56,30 @@ void PrefetchOwnPictures() {
 }
 
 constexpr int kNotStarted = 1;
+constexpr int kWrongUsage = 2;
+
+// What can be told without a window is told where there may be no display. Words of the toolkit's own may stand among
+// the others.
+bool IsTold(int argc, char** argv) {
+    for (int i = 1; i < argc; ++i) {
+        QString error;
+        const auto word = StartArguments::Parse({QString::fromLocal8Bit(argv[i])}, error);
+        if (word && word->bHelp) std::cout << qPrintable(StartArguments::Usage());
+        if (word && word->bVersion) std::cout << qPrintable(StartArguments::Version());
+        if (word && (word->bHelp || word->bVersion)) return true;
+    }
+    return false;
+}
 
 int Start(DesktopWidgets& desktop) {
+    QString error;
+    const std::optional<StartArguments> arguments = StartArguments::Parse(Application::arguments().mid(1), error);
+    if (!arguments) {
+        std::cerr << "tavlora: " << qPrintable(error) << " (tavlora --help tells how)" << std::endl;
+        return kWrongUsage;
+    }
+    const QString& game = arguments->sRequest;
     if (!GamesFolder::IsThere()) return kNotStarted;
-    const QStringList arguments = Application::arguments();
-    const QString game = arguments.size() > 1 ? Folders::CompletePath(arguments.at(1)) : QString();
     ProgramLock lock(basCommon::GetMyGamesDirectory());
     const GamesFolder::Taking taking = GamesFolder::Take(lock, game);
     if (taking != GamesFolder::Taking::GoesOn) return taking == GamesFolder::Taking::HandedOver ? 0 : kNotStarted;
@@ -86,6 +108,7 @@ int Start(DesktopWidgets& desktop) {
 } // namespace
 
 int RunProgram(int argc, char** argv, DesktopWidgets& desktop) {
+    if (IsTold(argc, argv)) return 0;
     Settings().sProgramName = ProgramNameFromArgv0(QString::fromLocal8Bit(argv[0]));
     Application application(argc, argv);
     application.SetLastNet(&ReportUncaught);

@@ -57,7 +57,7 @@ frmTAVL::frmTAVL(EditorRoutes& doors)
       m_side(*m_client, std::bind_front(&frmTAVL::Form_Resize, this)), m_commands(*this, m_view),
       m_sharing(*this, m_view, m_commands.InHand()), m_pictures(*this, m_view, m_commands.InHand()),
       m_check(*this, m_commands.InHand(), DoorsOfCheck(), std::bind_front(&frmTAVL::IsInPrint, this)),
-      m_requests(std::bind_front(&GameCommands::OpenGame, &m_commands), std::bind_front(&frmTAVL::IsInPrint, this)),
+      m_requests(std::bind_front(&GameCommands::Carry, &m_commands), std::bind_front(&frmTAVL::IsInPrint, this)),
       m_menu(*menuBar(), m_commands.InHand(), std::bind_front(&frmTAVL::Choose, this)),
       m_drop(m_view, m_commands.InHand()), m_about(std::make_unique<frmAbout>(this)) {
     setObjectName(QStringLiteral("frmTAVL"));

@@ -112,6 +112,7 @@ private:
     void ShowSplash();
     void HideSplash();
     void Init();
+    void TakeUp(const QString& sRequest);
     void InitColors();
 
     void OpenPlace(const BoardPlace& place);

@@ -4,6 +4,8 @@
 #include "app/frmAbout.h"
 #include "app/frmPrintManual.h"
 #include "app/OpeningNote.h"
+#include "app/RecentGames.h"
+#include "app/StartArguments.h"
 #include "board/basPosit.h"
 #include "document/basTAVL.h"
 #include "document/Locale.h"
@@ -129,10 +131,17 @@ void frmTAVL::Init() try {
     basBMP::BMP_SetHDC(&m_view.Board().hDC());
     basBMP::BMP_SetBackColor(basTAVL::g_lMagicColor());
     basBMP::BMP_SetMagicColor(basTAVL::g_lMagicColor());
-    const QString asked = m_requests.Take();
-    if (!m_commands.TakeUpGame(asked)) m_requests.PutBack(asked);
+    TakeUp(m_requests.Take());
 } catch (...) {
     ErrTail("frmTAVL!", "Init");
+}
+
+// A new game comes when the window stands with the last one, whose changes it asks about.
+void frmTAVL::TakeUp(const QString& sRequest) {
+    const bool isNew = sRequest == QLatin1String(StartArguments::kNew);
+    const bool recent = sRequest == QLatin1String(StartArguments::kRecent);
+    const QString game = recent ? RecentGames::List().value(0) : sRequest;
+    if (!m_commands.TakeUpGame(isNew ? QString() : game) || isNew) m_requests.PutBack(sRequest);
 }
 
 void frmTAVL::InitColors() {
