@@ -2,6 +2,7 @@
 // The texts of the games that come with the program, as they come out on paper and stand on the board.
 #include "board/basPositPaint.h"
 #include "game/Session.h"
+#include "support/PdfReader.h"
 #include "support/SheetMarks.h"
 
 #include <functional>
@@ -118,6 +119,27 @@ TEST_F(SampleTextsTest, NamesAndTitlesAreWholeAndReadableOnTheirLabels) {
         PrintReadable("east");
         ExpectSpaces(14, 27);
         ExpectLines({TheGame().titles.Text(1).sText, TheGame().titles.Text(2).sText});
+    }
+}
+
+// A leaning letter reaches beyond the box of its text, so the ink itself is looked at.
+TEST_F(SampleTextsTest, InkOfTheSubtitlesStaysWithinTheirLabelsOnPaper) {
+    if (!PdfReader::IsInstalled()) GTEST_SKIP() << "poppler-utils isn't installed";
+    constexpr double kBesideInches = 0.1;
+    const auto dark = [](QRgb pixel) { return qRed(pixel) < 80 && qGreen(pixel) < 80 && qBlue(pixel) < 80; };
+    for (const QString& game : Games()) {
+        Load(game);
+        ASSERT_TRUE(PrintSheetNamed("box"));
+        const PdfReader reader(pdf);
+        for (const PageMark& text : TextsThatRead(TheGame().titles.Text(2).sText)) {
+            const std::optional<QRectF> piece = PieceUnder(text);
+            ASSERT_TRUE(piece) << game.toStdString();
+            const QRectF label(piece->topLeft() / kDotsPerInch, piece->size() / kDotsPerInch);
+            const QRectF ink = reader.BoxOfPixels(1, label.adjusted(-kBesideInches, 0, kBesideInches, 0), dark);
+            EXPECT_FALSE(ink.isEmpty()) << game.toStdString();
+            EXPECT_GT(ink.left(), label.left()) << game.toStdString();
+            EXPECT_LT(ink.right(), label.right()) << game.toStdString();
+        }
     }
 }
 
