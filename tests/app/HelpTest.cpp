@@ -20,6 +20,7 @@
 #include "windows/help/HelpPages.h"
 #include "windows/help/WhatIsThis.h"
 #include "windows/help/WindowHelp.h"
+#include "windows/missing/frmMissingPictures.h"
 #include "windows/nokit/PrintWithoutKit.h"
 #include "windows/pictures/frmBrowse.h"
 #include "windows/pictures/frmFileName.h"
@@ -74,6 +75,7 @@ protected:
         add(new frmShowNews(session));
         add(new frmShowTokens(session));
         add(new frmBrowse);
+        add(new frmMissingPictures(session));
         add(new frmFileName);
         add(new frmImagePosition);
         add(new frmColor);

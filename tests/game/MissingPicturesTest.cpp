@@ -4,9 +4,9 @@
 #include "game/PieceImages.h"
 #include "pictures/SeenPictures.h"
 #include "pictures/ThumbnailStore.h"
-#include "pieces/frmBMP.h"
 #include "services/ProgramSettings.h"
 #include "support/PictureFiles.h"
+#include "support/StartUp.h"
 #include "support/TestFixture.h"
 
 #include <QDateTime>
@@ -23,7 +23,7 @@ protected:
     MissingPicturesTest() {
         QDir(folder.path()).mkpath(QStringLiteral("games"));
         Settings().sMyGamesDirectory = PathOf(QStringLiteral("games"));
-        frmBMP::InstallAsThumbnailMaker();
+        StartUp::MakeThumbnails();
         game = Game();
     }
     QString Photo(const QString& name, Qt::GlobalColor color = Qt::red, QSize size = QSize(60, 40)) const {

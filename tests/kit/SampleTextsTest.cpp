@@ -130,12 +130,12 @@ TEST_F(SampleTextsTest, InkOfTheSubtitlesStaysWithinTheirLabelsOnPaper) {
     for (const QString& game : Games()) {
         Load(game);
         ASSERT_TRUE(PrintSheetNamed("box"));
-        const PdfReader reader(pdf);
+        const PdfReader sheet(pdf);
         for (const PageMark& text : TextsThatRead(TheGame().titles.Text(2).sText)) {
             const std::optional<QRectF> piece = PieceUnder(text);
             ASSERT_TRUE(piece) << game.toStdString();
             const QRectF label(piece->topLeft() / kDotsPerInch, piece->size() / kDotsPerInch);
-            const QRectF ink = reader.BoxOfPixels(1, label.adjusted(-kBesideInches, 0, kBesideInches, 0), dark);
+            const QRectF ink = sheet.BoxOfPixels(1, label.adjusted(-kBesideInches, 0, kBesideInches, 0), dark);
             EXPECT_FALSE(ink.isEmpty()) << game.toStdString();
             EXPECT_GT(ink.left(), label.left()) << game.toStdString();
             EXPECT_LT(ink.right(), label.right()) << game.toStdString();

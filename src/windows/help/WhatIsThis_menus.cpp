@@ -17,6 +17,7 @@ constexpr WhatIsThis::Row kRows[] = {
     {"frmTAVL", "mnuFile_21", "Prints the whole kit in one go, and tells what paper that takes."},
     {"frmTAVL", "mnuFile_30", "Puts the game with all its pictures into one file that you can give away."},
     {"frmTAVL", "mnuFile_31", "Saves the board as a picture or as a PDF page."},
+    {"frmTAVL", "mnuFile_51", "Lists the pictures that are not where the game looks for them, and finds them again."},
     {"frmTAVL", "mnuNewFrom", "Begins a new game from one of the samples."},
     {"frmTAVL", "mnuRecent", "Opens one of the games that you worked on last."},
     {"frmTAVL", "mnuEdit_0", "Takes back the last change."},

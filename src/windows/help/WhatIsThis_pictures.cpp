@@ -14,6 +14,11 @@ constexpr WhatIsThis::Row kRows[] = {
     {"frmBrowse", "cmdOK", "Takes the picture that is shown."},
     {"frmBrowse", "cmdCancel", "Closes this window and leaves the picture as it was."},
 
+    {"frmMissingPictures", "", "The pictures of this game that are not where it looks for them."},
+    {"frmMissingPictures", "lstMissing", "Each missing picture: where it belongs, and where it was."},
+    {"frmMissingPictures", "cmdFind", "Asks where the chosen picture is now. The others are looked for there, too."},
+    {"frmMissingPictures", "cmdStop", "Stops looking. What was found stays found."},
+
     {"frmFileName", "", "There is a picture of this name already. Choose what is to become of it."},
     {"frmFileName", "txtNewName",
      "Another name for the picture. Letters, numbers, blanks and hyphens are always right."},
