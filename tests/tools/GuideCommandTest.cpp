@@ -97,7 +97,8 @@ TEST_F(GuideCommandTest, GuideFillsThePaperAskedFor) {
         ASSERT_EQ(Run({QStringLiteral("--guide"), QStringLiteral("--paper"), paper, QStringLiteral("-o"), pdf}), 0);
         const PdfReader reader(pdf);
         EXPECT_NEAR(reader.PaperInches(1).height(), a4 ? 11.69 : 11.0, 0.01);
-        EXPECT_EQ(reader.Pages(), 9) << "five of the steps, four of the windows";
+        EXPECT_TRUE(reader.Text(6).startsWith(QStringLiteral("The board"))) << "the steps take five pages";
+        EXPECT_LE(reader.Pages(), 10);
     }
 }
 
