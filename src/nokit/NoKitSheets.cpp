@@ -88,7 +88,7 @@ QString NameOf(NoKitStock stock) {
         case NoKitStock::Card:
             return QStringLiteral("card");
         default:
-            return QStringLiteral("coloured card");
+            return QStringLiteral("colored card");
     }
 }
 

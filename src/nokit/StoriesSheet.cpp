@@ -36,7 +36,7 @@ bool Paint(PageCanvas& page, bool bSavesInk) {
     page.Text({left, 0.25, 6, 0.2}, QStringLiteral("Building stories"),
               {.dblHeight = 0.2, .bBold = true, .align = TextLook::Align::Left});
     page.Text({left, 0.5, 6.5, 0.15},
-              QStringLiteral("Cut out and fold: a tent on a space is one story. Five for each colour of the board."),
+              QStringLiteral("Cut out and fold: a tent on a space is one story. Five for each color of the board."),
               {.dblHeight = 0.13, .align = TextLook::Align::Left});
     for (int group = 0; group < groups; ++group) {
         for (int i = 0; i < kOfAGroup; ++i) {

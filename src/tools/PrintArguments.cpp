@@ -201,8 +201,8 @@ Options:
   --board-way pages|quarters|page
                         on pages that are glued (default), in quarters that fold, or on one page for a copy shop
   --players N           2 to 6, by whom the money is counted (default 4)
-  --colours screen|ink-saving
-                        the screen's colours (default), or white grounds with coloured edges
+  --colors screen|ink-saving
+                        the screen's colors (default), or white grounds with colored edges
   --dice-picture        the dice bear the board of the game in place of the one
   --cut-lines DIR       beside --no-kit: where each page is cut and folded, as SVG for a cutting machine
   --small-pictures      --pack puts pictures in only as large as paper shows them

@@ -153,7 +153,7 @@ TEST_F(NoKitCommandTest, WrongUsageIsTold) {
         {"g.gam -o f.pdf --no-kit --board-size 41", "from 8in to 40in"},
         {"g.gam -o f.pdf --no-kit --board-size 16ft", "from 8in to 40in"},
         {"g.gam -o f.pdf --no-kit --board-way round", "takes one of pages, quarters, page"},
-        {"g.gam -o f.pdf --no-kit --colours grey", "takes one of screen, ink-saving"},
+        {"g.gam -o f.pdf --no-kit --colors gray", "takes one of screen, ink-saving"},
     };
     for (const auto& row : rows) {
         EXPECT_EQ(Run(QString::fromLatin1(row.words).split(u' ')), 2) << row.words;

@@ -52,7 +52,7 @@ constexpr WhatIsThis::Row kRows[] = {
     {"PrintWithoutKit", "spnInches", "Another size of the board, from 8 to 40 inches."},
     {"PrintWithoutKit", "cboWay", "Whether the board is glued from pages, folds in four, or is one large page."},
     {"PrintWithoutKit", "cboPlayers", "How many people will play: fewer players need less money."},
-    {"PrintWithoutKit", "cboColours", "The colours of the screen, or white grounds with coloured edges."},
+    {"PrintWithoutKit", "cboColours", "The colors of the screen, or white grounds with colored edges."},
     {"PrintWithoutKit", "chkDice", "Puts a small picture of your board on each die in place of the one dot."},
     {"PrintWithoutKit", "cmdOpen", "Shows the PDF file."},
     {"PrintWithoutKit", "cmdShowFolder", "Shows the folder that the PDF file lies in."},

@@ -93,7 +93,7 @@ QLayout* PrintWithoutKit::BuildChoices() {
     m_players->setCurrentText(QString::number(NoKitChoices().nPlayers));
     m_colours =
         MakeChoice(this, "cboColours",
-                   {QStringLiteral("As on the screen"), QStringLiteral("Saving ink: white with coloured edges")});
+                   {QStringLiteral("As on the screen"), QStringLiteral("Saving ink: white with colored edges")});
     m_dice = Named(new QCheckBox(QStringLiteral("Your board on the &dice, in place of the one"), this), "chkDice");
 
     auto* size = new QHBoxLayout;
@@ -107,7 +107,7 @@ QLayout* PrintWithoutKit::BuildChoices() {
     form->addRow(board, size);
     form->addRow(QStringLiteral("&How:"), m_way);
     form->addRow(QStringLiteral("&Number of players:"), m_players);
-    form->addRow(QStringLiteral("Co&lours:"), m_colours);
+    form->addRow(QStringLiteral("Co&lors:"), m_colours);
     form->addRow(QString(), m_dice);
     connect(m_size, &QComboBox::currentIndexChanged, this, &PrintWithoutKit::ShowWhatFits);
     return form;
