@@ -83,11 +83,28 @@ void BoardView::LayOut(const MainLayout& layout) {
     m_bNoRedraw = bNoRedraw;
 }
 
+// What was in the middle stays there.
 void BoardView::SetZoom(int iZoom) {
+    const auto middleOf = [this](const QScrollBar& bar) {
+        const double hidden = 1.0 - 1.0 / double(std::max(m_fZoom, 1.0F));
+        return double(bar.value()) / kScrollMax * hidden + (1.0 - hidden) / 2;
+    };
+    const QPointF middle(middleOf(*hscrl), middleOf(*vscrl));
+    const bool anew = float(iZoom) != m_fZoom;
     ClearHitState();
     m_tips.HideBox();
     m_fZoom = float(iZoom);
     basPosit::PosSetScale(m_fZoom);
+    const bool bNoRedraw = std::exchange(m_bNoRedraw, true);
+    if (anew && iZoom > kSmallestZoom) {
+        const double hidden = 1.0 - 1.0 / double(iZoom);
+        const auto placeOf = [hidden](double at) {
+            return int(std::lround((at - (1.0 - hidden) / 2) / hidden * kScrollMax));
+        };
+        hscrl->setValue(placeOf(middle.x()));
+        vscrl->setValue(placeOf(middle.y()));
+    }
+    m_bNoRedraw = bNoRedraw;
     m_window.layOut();
 }
 
@@ -116,22 +133,30 @@ void BoardView::ScrollBy(int iSteps, Qt::Orientation orientation, bool bPages) {
     bar.setValue(bar.value() + iSteps * (bPages ? bar.pageStep() : bar.singleStep()));
 }
 
-void BoardView::ShowPlace(const BoardPlace& place) {
-    const QRectF box = place.Box();
-    m_frame->hide();
-    if (box.isEmpty()) return;
+void BoardView::ScrollTo(const BoardPlace& place) {
+    if (!(m_fZoom > 1)) return;
+    const QPointF middle = place.Box().center();
     const double side = picBoard->width() * double(m_fZoom);
-    if (m_fZoom > 1) {
-        const double hidden = side - picBoard->width();
-        const auto middleTo = [&](QScrollBar& bar, double middle) {
-            bar.setValue(int(std::lround((middle * side - picBoard->width() / 2.0) / hidden * kScrollMax)));
-        };
-        middleTo(*hscrl, box.center().x());
-        middleTo(*vscrl, box.center().y());
-    }
-    const QRectF seen(box.topLeft() * side, box.size() * side);
+    const double hidden = side - picBoard->width();
+    const auto middleTo = [&](QScrollBar& bar, double at) {
+        bar.setValue(int(std::lround((at * side - picBoard->width() / 2.0) / hidden * kScrollMax)));
+    };
+    middleTo(*hscrl, middle.x());
+    middleTo(*vscrl, middle.y());
+}
+
+QRect BoardView::SeenBox(const BoardPlace& place) const {
+    const QRectF box = place.Box();
+    const double side = picBoard->width() * double(m_fZoom);
     const QPointF offset(basPosit::GetOffsetX(), basPosit::GetOffsetY());
-    m_frame->setGeometry(seen.translated(offset).toAlignedRect());
+    return QRectF(box.topLeft() * side, box.size() * side).translated(offset).toAlignedRect();
+}
+
+void BoardView::ShowPlace(const BoardPlace& place) {
+    m_frame->hide();
+    if (place.Box().isEmpty()) return;
+    ScrollTo(place);
+    m_frame->setGeometry(SeenBox(place));
     m_frame->show();
     TimerFrame.start(kFrameMs);
 }
@@ -210,6 +235,7 @@ void BoardView::Redraw() try {
         throw;
     }
     basMsgQueue::MsgQueue_Display();
+    Q_EMIT Painted();
 } catch (...) {
     ErrTail("frmTAVL!", "Redraw");
 }
@@ -281,15 +307,19 @@ void BoardView::ClearHitState() {
     m_bOverSomething = false;
 }
 
-void BoardView::picBoard_MouseDown(int Button, int Shift, float X, float Y) try {
-    WhatIsMouseOver(X, Y);
-    const QString refusal = WhyNotEditable(m_over);
+void BoardView::Open(const BoardPlace& place) {
+    const QString refusal = WhyNotEditable(place);
     if (!refusal.isEmpty()) {
         MsgBox(refusal, vbInformation);
     } else {
-        // A copy, as the mouse goes on moving while the editor stands.
-        m_window.open(BoardPlace(m_over));
+        m_window.open(place);
     }
+}
+
+void BoardView::picBoard_MouseDown(int Button, int Shift, float X, float Y) try {
+    WhatIsMouseOver(X, Y);
+    // A copy, as the mouse goes on moving while the editor stands.
+    Open(BoardPlace(m_over));
 } catch (...) {
     ErrTop("frmTAVL!", "picBoard_MouseDown", Button, Shift, X, Y);
 }

@@ -55,6 +55,12 @@ public:
     bool IsOverChanged() const { return m_bOverChanged; }
     bool IsOverSomething() const { return m_bOverSomething; }
 
+    /// As a click on the place.
+    void Open(const BoardPlace& place);
+    /// Where the place is seen, in pixels of the board; what a zoomed board hides lies outside it.
+    QRect SeenBox(const BoardPlace& place) const;
+    /// Scrolls a zoomed board so that the place comes to the middle.
+    void ScrollTo(const BoardPlace& place);
     /// Scrolls a zoomed board to the place, and frames it for a moment.
     void ShowPlace(const BoardPlace& place);
 
@@ -71,6 +77,10 @@ public Q_SLOTS:
     void vscrl_Change();
     /// Pastes pictures that have been decoded since the board was painted.
     void TimerPictures_Timer();
+
+Q_SIGNALS:
+    /// The board stands there anew, with other places perhaps.
+    void Painted();
 
 private:
     QScrollBar* MakeBar(QWidget& parent, const char* sName, Qt::Orientation orientation);

@@ -149,6 +149,8 @@ void ToolBar::imgToolBar_MouseUp(int Button, int Shift, float X, float Y) try {
     const bool pressed = m_iButtonState != 0;
     // Raised again before the command runs: it may show a window.
     WhichButton(0, Shift, X, Y);
+    // The next press at this very place counts too, though the mouse hasn't moved.
+    m_last = QPointF(-1, -1);
     if (!pressed || iButton < 0) return;
     const ToolBarTable::Row& row = ToolBarTable::kRows.at(size_t(iButton));
     m_run(row.menu, row.iItem);

@@ -32,6 +32,8 @@ constexpr QSize kSizeOnSmallScreen(512, 600);
 // Milliseconds between two looks for pictures that are away.
 constexpr int kAwayInterval = 2000;
 
+constexpr int kZooms = 4;
+
 int Twips(int pixels) { return pixels * kTwipsPerPixel; }
 QSize Twips(QSize pixels) { return pixels * kTwipsPerPixel; }
 
@@ -58,6 +60,7 @@ frmTAVL::frmTAVL(EditorRoutes& doors)
       m_sharing(*this, m_view, m_commands.InHand()), m_pictures(*this, m_view, m_commands.InHand()),
       m_check(*this, m_commands.InHand(), DoorsOfCheck(), std::bind_front(&frmTAVL::IsInPrint, this)),
       m_requests(std::bind_front(&GameCommands::Carry, &m_commands), std::bind_front(&frmTAVL::IsInPrint, this)),
+      m_walk(*m_client, m_view, m_commands.InHand()),
       m_menu(*menuBar(), m_commands.InHand(), std::bind_front(&frmTAVL::Choose, this)),
       m_drop(m_view, m_commands.InHand()), m_about(std::make_unique<frmAbout>(this)) {
     setObjectName(QStringLiteral("frmTAVL"));
@@ -122,6 +125,8 @@ void frmTAVL::Form_Resize() try {
     m_view.LayOut(layout);
     m_side.LayOut(layout);
     m_menu.SetChecked("mnuView_21", m_side.IsWished());
+    for (int i = 0; i < kZooms; ++i)
+        m_menu.SetChecked(qPrintable(QStringLiteral("mnuZoom_%1").arg(i)), m_view.Zoom() == float(i + 1));
     for (int i = 0; i < MainLayout::kButtons; ++i)
         cmd[size_t(i)]->setGeometry(InPixels(layout.cmd[size_t(i)]));
     m_view.Redraw();

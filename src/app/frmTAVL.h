@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/BoardView.h"
+#include "app/BoardWalk.h"
 #include "app/GameCheck.h"
 #include "app/GameCommands.h"
 #include "app/GameSharing.h"
@@ -140,6 +141,7 @@ private:
     PictureCommands m_pictures;
     GameCheck m_check;
     StartRequests m_requests;
+    BoardWalk m_walk;
     MainMenu m_menu;
     PictureDrop m_drop;
     QStringList m_dropped;

@@ -161,7 +161,10 @@ TEST_F(MainWindowTest, KeysScrollAZoomedBoard) {
     PictureBox& board = window->View().Board();
     QTest::keyClick(&board, Qt::Key_Right);
     EXPECT_EQ(across.value(), 0) << "nothing to scroll";
+    QTest::keyClick(&board, Qt::Key_Escape);
     ChooseMenu("mnuZoom_1");
+    Find<QScrollBar>("hscrl").setValue(0);
+    Find<QScrollBar>("vscrl").setValue(0);
     QTest::keyClick(&board, Qt::Key_Right);
     QTest::keyClick(&board, Qt::Key_Down);
     EXPECT_EQ(across.value(), across.singleStep());
