@@ -6,18 +6,22 @@
 #include "app/PackedGames.h"
 #include "app/RecentGames.h"
 #include "app/StartArguments.h"
+#include "board/BoardPicture.h"
 #include "document/basTAVL.h"
 #include "game/Autosave.h"
+#include "game/EarlierVersions.h"
 #include "game/GameNames.h"
 #include "game/PieceImages.h"
 #include "game/Rescue.h"
 #include "game/SampleGames.h"
 #include "pictures/SeenPictures.h"
 #include "platform/files/Files.h"
+#include "platform/pictures/SavePicture.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
 #include "windowing/PictureBox.h"
 #include "windowing/WidgetLook.h"
+#include "windows/games/frmEarlierVersions.h"
 
 namespace {
 
@@ -127,9 +131,26 @@ void GameCommands::LoadUnderItsName() {
 
 bool GameCommands::SaveUnderItsName() {
     if (!m_session.Save()) return false;
-    RecentGames::Note(m_session.GameName());
+    const QString game = m_session.GameName();
+    RecentGames::Note(game);
     SeenPictures::Note(PieceImages::Files(m_session.InHand()));
+    // No save waits for a picture.
+    QMetaObject::invokeMethod(
+        &m_window, [this, game] { KeepBoardOf(game); }, Qt::QueuedConnection);
     return true;
+}
+
+void GameCommands::KeepBoardOf(const QString& sGame) try {
+    constexpr int kSideOfSmallBoard = 192;
+    if (m_session.GameName() != sGame || m_session.IsUnsaved()) return;
+    // Magnified, the window shows a part of it only.
+    const bool whole = m_view.Zoom() == 1;
+    const Picture board = whole ? m_view.Board().Reduced(kSideOfSmallBoard) : basPosit::BoardPicture(kSideOfSmallBoard);
+    if (!whole) m_view.Redraw();
+    QString error;
+    if (const std::optional<QByteArray> png = EncodePicture(board, error)) EarlierVersions::KeepBoard(sGame, *png);
+} catch (...) {
+    ErrTop("frmTAVL!", "KeepBoardOf");
 }
 
 void GameCommands::BeginNewGame(int& iResult) try {
@@ -260,6 +281,19 @@ void GameCommands::Duplicate() {
     m_session.SetGameName(name);
     m_session.SetSomethingChanged(true);
     ShowState();
+}
+
+void GameCommands::OpenEarlier() {
+    const QString version = frmEarlierVersions(&m_window).ShowForm(m_session.GameName());
+    if (version.isEmpty()) return;
+    QString error;
+    const std::optional<QByteArray> bytes = Files::ReadAll(version, error);
+    if (!MayGo()) return;
+    // The save of what was in hand may just have thinned it out.
+    if (bytes && !basCommon::DoesFileExist(version)) Files::WriteWhole(version, *bytes, error);
+    BeginGameFrom(version);
+    // It lies under a name that the user never gave, and will be thinned out one day.
+    m_session.SetSomethingChanged(true);
 }
 
 void GameCommands::OpenRecent(const QString& sPath) {

@@ -41,6 +41,8 @@ public:
     /// The game as it stands as a new one without a name, still to be saved; the file of the old one stays as it was
     /// saved last.
     void Duplicate();
+    /// Shows what the saves of this game have replaced, and opens what is chosen of it as a new game.
+    void OpenEarlier();
     /// One of the games that were opened or saved before; offers to look for one that isn't there any more.
     void OpenRecent(const QString& sPath);
 
@@ -67,6 +69,7 @@ private:
     void NoteInUse();
     void ShowStep();
     void AutosaveWhatStays();
+    void KeepBoardOf(const QString& sGame);
     void ShowState();
     void ShowDialogError();
 

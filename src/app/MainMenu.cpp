@@ -36,6 +36,7 @@ constexpr Item kFileItems[] = {
     {3, "&Save", "Ctrl+S", Always},
     {4, "Save &As...", "Ctrl+Shift+S", Always},
     {20, "&Duplicate", "", Always},
+    {22, "Earlier &Versions...", "", Always},
     {30, "Send to a &Friend...", "", Always},
     {31, "Save a Picture of the &Board...", "", Always},
     {50, "-", "", Never},

@@ -43,6 +43,8 @@ void frmTAVL::mnuFile_Click(int Index) try {
             return ExitWithQuestion();
         case 20:
             return m_commands.Duplicate();
+        case 22:
+            return m_commands.OpenEarlier();
         case 21:
             return PrintEverything();
         case 30:

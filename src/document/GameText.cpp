@@ -279,6 +279,13 @@ GameHeader ReadGameHeader(const QByteArray& bytes) {
     return HeaderOf(FirstOf(TextFile::SplitLines(TextFile::Decode(bytes))));
 }
 
+QByteArray UnderName(const QByteArray& bytes, const QString& sGameName) {
+    QStringList lines = TextFile::SplitLines(TextFile::Decode(bytes));
+    if (lines.isEmpty()) return bytes;
+    lines.first() = StartOfHeader() + NameField(sGameName);
+    return TextFile::Encode(TextFile::JoinLines(lines));
+}
+
 GameReading ReadGame(const QByteArray& bytes, const Game& before, const ReadingTools& tools) {
     return GameReader(bytes, before, tools).Read();
 }

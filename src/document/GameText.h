@@ -26,6 +26,9 @@ constexpr int kTokens = kMoney + basTAVL::kMoney;
 constexpr int kAll = kTokens + basTAVL::kTokens;
 } // namespace GameLines
 
+/// In bytes. A game is some ten thousand; what is larger than this isn't read into memory at all.
+constexpr qint64 kMaxGameSize = qint64(64) << 20;
+
 /// All lines of a game; the header carries the name that it is edited by.
 QStringList ComposeLines(const Game& game, const QString& sGameName);
 
@@ -37,6 +40,8 @@ struct GameHeader {
     QString sGameName;
 };
 GameHeader ReadGameHeader(const QByteArray& bytes);
+/// The same game under another name in its header.
+QByteArray UnderName(const QByteArray& bytes, const QString& sGameName);
 
 /// What reading a game needs to know of the program around it.
 struct ReadingTools {

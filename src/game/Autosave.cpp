@@ -5,7 +5,6 @@
 #include "game/GameNames.h"
 #include "game/Rescue.h"
 #include "platform/files/Files.h"
-#include "platform/files/Folders.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
 #include "services/Desktop.h"
@@ -101,10 +100,7 @@ QString DataPath() { return InMyGames(QStringLiteral("~AutoSave.dat")); }
 QString BackupPath() { return InMyGames(QStringLiteral("~AutoSave.bak")); }
 
 bool IsOneOf(const QString& sPath) {
-    const QString path = Folders::CompletePath(sPath);
-    // Some disks know a file by any spelling.
-    return path.compare(Folders::CompletePath(DataPath()), Qt::CaseInsensitive) == 0 ||
-           path.compare(Folders::CompletePath(BackupPath()), Qt::CaseInsensitive) == 0;
+    return Files::IsSameFile(sPath, DataPath()) || Files::IsSameFile(sPath, BackupPath());
 }
 
 Rotated Rotate() {

@@ -4,6 +4,7 @@
 #include "document/GameHost.h"
 #include "document/GameText.h"
 #include "game/Autosave.h"
+#include "game/EarlierVersions.h"
 #include "game/Rescue.h"
 #include "platform/files/Files.h"
 #include "platform/files/TextFile.h"
@@ -52,6 +53,7 @@ void GameSave(const QString& sFileName, bool& bResult) try {
     GameHost& host = GameHost::Current();
     const bool underItsName = sFileName == host.GameName();
     const QByteArray content = Content();
+    const EarlierVersions::Replaced replaced(underItsName ? sFileName : QString());
     const std::optional<Refusal> refusal = Write(sFileName, content);
     if (underItsName) Autosave::NoteSave(sFileName, content, refusal);
     if (refusal && !refusal->sDuring.isEmpty()) {
@@ -64,6 +66,8 @@ void GameSave(const QString& sFileName, bool& bResult) try {
     if (!underItsName) return;
     basCommon::WriteIniString(QStringLiteral("GameName"), sFileName);
     host.SetSomethingChanged(false);
+    // Last, so that nothing of it stands in the way of the save.
+    if (!refusal) replaced.Keep(content);
 } catch (...) {
     ErrTail("frmTAVL!", "GameSave", sFileName);
 }

@@ -11,9 +11,6 @@
 /// GameHost that is installed, and tells it when the game is loaded or saved.
 namespace GameFile {
 
-/// In bytes. A game is some ten thousand; what is larger than this isn't read into memory at all.
-constexpr qint64 kMaxGameSize = qint64(64) << 20;
-
 /// iResult is 0, or -1 after a message; the records read so far then stay as they are. Loading an autosave
 /// leaves the unsaved state alone and replaces the name by that of the game that was being edited.
 void GameLoad(QString& sFileName, int& iResult);

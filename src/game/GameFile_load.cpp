@@ -3,6 +3,7 @@
 #include "document/GameHost.h"
 #include "document/GameText.h"
 #include "document/Locale.h"
+#include "game/EarlierVersions.h"
 #include "game/GameFile.h"
 #include "game/PrintCaptions.h"
 #include "game/Rescue.h"
@@ -34,6 +35,8 @@ struct Parts {
 };
 
 bool IsAutosave(const QString& sFileName) { return Parts(sFileName).sBase.toUpper() == kAutosaveBase; }
+
+bool LiesElsewhere(const QString& sFileName) { return IsAutosave(sFileName) || EarlierVersions::IsOneOf(sFileName); }
 
 // Where relative pictures are looked for next, and the fonts that came along. An autosave lies elsewhere than its game.
 void NoteGameDirectory(const QString& sGame) {
@@ -139,7 +142,7 @@ std::optional<Fault> Load(const QString& sFileName, GameHeader& header) {
     const std::optional<QByteArray> bytes = Files::ReadAll(sFileName, error);
     if (!bytes) return Fault{error, QStringLiteral("opening the file")};
     header = ReadGameHeader(*bytes);
-    if (header.bIsGame) NoteGameDirectory(IsAutosave(sFileName) ? header.sGameName : sFileName);
+    if (header.bIsGame) NoteGameDirectory(LiesElsewhere(sFileName) ? header.sGameName : sFileName);
     const GameReading reading = ReadGame(*bytes, TheGame(), ToolsOfProgram());
     Arrival(reading).Run();
     return reading.fault;

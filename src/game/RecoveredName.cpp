@@ -3,7 +3,6 @@
 
 #include "document/GameText.h"
 #include "game/Autosave.h"
-#include "game/GameFile.h"
 #include "game/GameNames.h"
 #include "platform/files/Files.h"
 #include "platform/files/Folders.h"
@@ -15,7 +14,7 @@ namespace {
 
 bool IsGame(const QString& sPath) {
     QString error;
-    if (Files::Size(sPath) > GameFile::kMaxGameSize) return false;
+    if (Files::Size(sPath) > kMaxGameSize) return false;
     const std::optional<QByteArray> bytes = Files::ReadAll(sPath, error);
     return bytes && ReadGameHeader(*bytes).bIsGame;
 }

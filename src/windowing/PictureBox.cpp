@@ -63,6 +63,12 @@ DeviceContext& PictureBox::hDC() {
     return *m_context;
 }
 
+Picture PictureBox::Reduced(int side) {
+    QImage reduced = Image().scaled(side, side, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    reduced.setDevicePixelRatio(1);
+    return Picture(reduced);
+}
+
 const QImage& PictureBox::Image() {
     KeepBackingFitting();
     m_context->Flush();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/paint/Picture.h"
 #include "platform/paint/Surface.h"
 
 #include <QElapsedTimer>
@@ -23,6 +24,8 @@ public:
     QSize SizeInPixels() const override { return size(); }
     /// What is drawn on it so far, in the dots of the screen.
     const QImage& Image();
+    /// The same, side pixels square.
+    Picture Reduced(int side);
     /// Asks the toolkit to show what was drawn.
     void Refresh() { update(); }
 

@@ -17,6 +17,7 @@
 #include "windows/editors/frmEditToken.h"
 #include "windows/editors/frmShowNews.h"
 #include "windows/editors/frmShowTokens.h"
+#include "windows/games/frmEarlierVersions.h"
 #include "windows/help/HelpPages.h"
 #include "windows/help/WhatIsThis.h"
 #include "windows/help/WindowHelp.h"
@@ -85,6 +86,7 @@ protected:
         add(new PrintEverything);
         add(new PrintWithoutKit);
         add(new frmSendGame({}, QString()));
+        add(new frmEarlierVersions);
         return all;
     }
 

@@ -180,6 +180,7 @@ TEST_F(ToolBarAndMenusTest, MenusCarryTheirCaptionsAndShortcuts) {
         {"mnuFile_9", "E&xit", "Ctrl+Q", true},
         {"mnuFile_20", "&Duplicate", "", true},
         {"mnuFile_21", "Print &Everything...", "Ctrl+Shift+P", true},
+        {"mnuFile_22", "Earlier &Versions...", "", true},
         {"mnuNewFrom", "New &From", "", true},
         {"mnuRecent", "Recen&t Games", "", true},
         {"mnuEdit", "&Edit", "", true},

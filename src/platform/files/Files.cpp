@@ -132,6 +132,14 @@ QString InDiskSpelling(const QString& sPath) {
     return sPath.left(sPath.size() - wanted.size()) + found;
 }
 
+bool IsSameFile(const QString& sPathA, const QString& sPathB) {
+    const auto clean = [](const QString& sPath) { return QDir::cleanPath(QFileInfo(sPath).absoluteFilePath()); };
+    // Some disks know a file by any spelling.
+    if (clean(sPathA).compare(clean(sPathB), Qt::CaseInsensitive) == 0) return true;
+    const QString target = QFileInfo(sPathA).canonicalFilePath();
+    return !target.isEmpty() && target == QFileInfo(sPathB).canonicalFilePath();
+}
+
 qint64 Size(const QString& sPath) { return Memory() ? qint64(Memory()->value(sPath).size()) : QFileInfo(sPath).size(); }
 
 Stamp StampOf(const QString& sPath) {

@@ -56,6 +56,8 @@ bool CanBeReplaced(const QString& sPath, QString& sError);
 /// The path in the spelling that the disk has: the exact name goes first; if just one name in the folder
 /// differs only in case, that one is meant. Unchanged when there is no such file.
 QString InDiskSpelling(const QString& sPath);
+/// Whether two paths lead to one file, or would if there were one, in whatever spelling.
+bool IsSameFile(const QString& sPathA, const QString& sPathB);
 /// In bytes.
 qint64 Size(const QString& sPath);
 /// When a file was changed last and how large it is: enough to tell that it was changed. -1, -1 when it isn't

@@ -39,6 +39,7 @@ constexpr Row kRows[] = {
     {"PrintEverything", "print.html"},
     {"PrintWithoutKit", "print.html"},
     {"frmMissingPictures", "pictures.html"},
+    {"frmEarlierVersions", "board.html"},
     // clang-format on
 };
 

@@ -51,6 +51,10 @@ constexpr WhatIsThis::Row kRows[] = {
     {"frmBeforePrint", "cmdShowMe", "Prints nothing, and shows the line that is chosen in the list and on the board."},
     {"frmBeforePrint", "cmdCancel", "Goes back. Nothing is printed."},
 
+    {"frmEarlierVersions", "", "What the game was like before its last saves."},
+    {"frmEarlierVersions", "lstVersions", "A click opens a version as a new game. The game itself stays as it is."},
+    {"frmEarlierVersions", "cmdCancel", "Closes this window. Nothing is opened."},
+
     {"frmSendGame", "", "Puts the game with all its pictures into one file that you can give away."},
     {"frmSendGame", "optAsTheyAre", "Every photo goes along with all its dots. The file may become large."},
     {"frmSendGame", "optSmaller", "Photos go along as small as paper allows: a file for the mail that prints as well."},

@@ -15,6 +15,7 @@ constexpr WhatIsThis::Row kRows[] = {
     {"frmTAVL", "mnuFile_9", "Ends the program. If the game is not saved yet, you are asked first."},
     {"frmTAVL", "mnuFile_20", "Makes a copy of the game to play about with, and opens it."},
     {"frmTAVL", "mnuFile_21", "Prints the whole kit in one go, and tells what paper that takes."},
+    {"frmTAVL", "mnuFile_22", "Shows what the game was like before its last saves, and opens one of these states."},
     {"frmTAVL", "mnuFile_30", "Puts the game with all its pictures into one file that you can give away."},
     {"frmTAVL", "mnuFile_31", "Saves the board as a picture or as a PDF page."},
     {"frmTAVL", "mnuFile_51", "Lists the pictures that are not where the game looks for them, and finds them again."},
