@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "document/GameText.h"
 
+#include "document/GameBounds.h"
 #include "drawing/basDraw.h"
 #include "platform/files/TextFile.h"
 #include "services/basCommon.h"
@@ -81,7 +82,8 @@ struct Words {
 class GameReader {
 public:
     GameReader(const QByteArray& bytes, const Game& before, const ReadingTools& tools)
-        : m_lines(TextFile::SplitLines(TextFile::Decode(bytes))), m_tools(tools), m_reading{before, 0, std::nullopt} {
+        : m_tools(tools), m_reading{before, 0, std::nullopt} {
+        m_lines = TextFile::SplitLines(TextFile::Decode(GameBounds::Within(bytes, GameLines::kAll, m_reading.bCut)));
         // Empty lines are the end: other programs leave one there, and the tokens may be missing ahead of it.
         while (!m_lines.isEmpty() && m_lines.last().trimmed().isEmpty())
             m_lines.removeLast();
@@ -276,7 +278,8 @@ QStringList ComposeLines(const Game& game, const QString& sGameName) {
 }
 
 GameHeader ReadGameHeader(const QByteArray& bytes) {
-    return HeaderOf(FirstOf(TextFile::SplitLines(TextFile::Decode(bytes))));
+    bool cut = false;
+    return HeaderOf(FirstOf(TextFile::SplitLines(TextFile::Decode(GameBounds::Within(bytes, 1, cut)))));
 }
 
 QByteArray UnderName(const QByteArray& bytes, const QString& sGameName) {

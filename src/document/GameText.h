@@ -26,9 +26,6 @@ constexpr int kTokens = kMoney + basTAVL::kMoney;
 constexpr int kAll = kTokens + basTAVL::kTokens;
 } // namespace GameLines
 
-/// In bytes. A game is some ten thousand; what is larger than this isn't read into memory at all.
-constexpr qint64 kMaxGameSize = qint64(64) << 20;
-
 /// All lines of a game; the header carries the name that it is edited by.
 QStringList ComposeLines(const Game& game, const QString& sGameName);
 
@@ -68,6 +65,8 @@ struct GameReading {
     int iLines = 0;
     /// Reading stops at the first.
     std::optional<Fault> fault;
+    /// Whether a field was longer than GameBounds allows, and is cut.
+    bool bCut = false;
 };
 
 /// Reads a game into a copy of another. Touches neither files nor settings nor the game in hand, and tells nobody.

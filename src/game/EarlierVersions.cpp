@@ -21,6 +21,9 @@ const QString kTimeFormat = QStringLiteral("yyyy-MM-dd hh.mm.ss");
 const QString kGame = QStringLiteral(".gam");
 const QString kPicture = QStringLiteral(".png");
 
+// Twenty of a hundred times what a game takes are no burden to any disk.
+constexpr qint64 kMostBytes = qint64(1) << 20;
+
 QString Folder() { return basCommon::JoinPath(basCommon::GetMyGamesDirectory(), QStringLiteral("Earlier Versions")); }
 
 // Games of one name in several folders are several games.
@@ -84,7 +87,7 @@ void Thin(const QString& sGame) {
 
 Replaced::Replaced(const QString& sGame) : m_sGame(sGame) {
     QString error;
-    if (!Files::Exists(sGame) || Files::Size(sGame) > kMaxGameSize) return;
+    if (!Files::Exists(sGame) || Files::Size(sGame) > kMostBytes) return;
     m_when = QDateTime::fromMSecsSinceEpoch(Files::StampOf(sGame).modifiedMs);
     m_bytes = Files::ReadAll(sGame, error).value_or(QByteArray());
     const bool game = ReadGameHeader(m_bytes).bIsGame;

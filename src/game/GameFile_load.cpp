@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "board/basPosit.h"
+#include "document/GameBounds.h"
 #include "document/GameHost.h"
 #include "document/GameText.h"
 #include "document/Locale.h"
@@ -14,6 +15,7 @@
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
 #include "services/basMsgQueue.h"
+#include "services/Desktop.h"
 #include "services/ProgramSettings.h"
 
 #include <chrono>
@@ -134,30 +136,45 @@ ReadingTools ToolsOfProgram() {
             basPosit::FitSpecialText};
 }
 
+void TellCut() {
+    basMsgQueue::MsgQueue_Post(QStringLiteral("A text in this game is longer than 10,000 letters, and the rest of it "
+                                              "was left out. When you save the game, the file as it is now is kept "
+                                              "beside your games."),
+                               vbInformation);
+}
+
+/// What a file told beside the game.
+struct Told {
+    GameHeader header;
+    bool bCut = false;
+};
+
 // What is wrong with the file, if anything. What could be read of it is in hand then.
-std::optional<Fault> Load(const QString& sFileName, GameHeader& header) {
-    if (Files::Size(sFileName) > kMaxGameSize)
+std::optional<Fault> Load(const QString& sFileName, Told& told) {
+    if (Files::Size(sFileName) > GameBounds::kMaxGameSize)
         return Fault{QStringLiteral("Loading File Is Not Compatible"), QStringLiteral("checking file type")};
     QString error;
     const std::optional<QByteArray> bytes = Files::ReadAll(sFileName, error);
     if (!bytes) return Fault{error, QStringLiteral("opening the file")};
-    header = ReadGameHeader(*bytes);
-    if (header.bIsGame) NoteGameDirectory(LiesElsewhere(sFileName) ? header.sGameName : sFileName);
+    told.header = ReadGameHeader(*bytes);
+    if (told.header.bIsGame) NoteGameDirectory(LiesElsewhere(sFileName) ? told.header.sGameName : sFileName);
     const GameReading reading = ReadGame(*bytes, TheGame(), ToolsOfProgram());
+    told.bCut = reading.bCut && told.header.bIsGame;
+    if (told.bCut) TellCut();
     Arrival(reading).Run();
     return reading.fault;
 }
 
 // Messages about pictures wait until the game is read, so that a game full of missing pictures brings one
 // box.
-std::optional<Fault> LoadWithQueuedMessages(const QString& sFileName, GameHeader& header) {
+std::optional<Fault> LoadWithQueuedMessages(const QString& sFileName, Told& told) {
     const bool ownQueue = !basMsgQueue::MsgQueue_IsOpen();
     if (ownQueue) basMsgQueue::MsgQueue_Init();
     const auto display = [ownQueue] {
         if (ownQueue) basMsgQueue::MsgQueue_Display();
     };
     try {
-        const std::optional<Fault> fault = Load(sFileName, header);
+        const std::optional<Fault> fault = Load(sFileName, told);
         display();
         return fault;
     } catch (...) {
@@ -174,16 +191,19 @@ void GameLoad(QString& sFileName, int& iResult) try {
     basErrLog::ErrLogToFile(QStringLiteral("Load Game Named: ") + sFileName, true);
     GameHost& host = GameHost::Current();
     basPosit::PosSethDC(&host.MeasuringDevice());
-    GameHeader header;
-    if (const std::optional<Fault> fault = LoadWithQueuedMessages(sFileName, header)) {
+    Told told;
+    if (const std::optional<Fault> fault = LoadWithQueuedMessages(sFileName, told)) {
         Rescue::NoteUnread(sFileName);
         ReportIOError(fault->sError, QStringLiteral("load"), sFileName, fault->sDuring, iResult);
         return;
     }
-    Rescue::NoteRead(sFileName);
+    if (told.bCut)
+        Rescue::NoteUnread(sFileName);
+    else
+        Rescue::NoteRead(sFileName);
     SetSpecialTextStringsForPrinting();
     if (IsAutosave(sFileName)) {
-        sFileName = header.sGameName;
+        sFileName = told.header.sGameName;
     } else {
         host.SetSomethingChanged(false);
     }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "game/RecoveredName.h"
 
+#include "document/GameBounds.h"
 #include "document/GameText.h"
 #include "game/Autosave.h"
 #include "game/GameNames.h"
@@ -14,7 +15,7 @@ namespace {
 
 bool IsGame(const QString& sPath) {
     QString error;
-    if (Files::Size(sPath) > kMaxGameSize) return false;
+    if (Files::Size(sPath) > GameBounds::kMaxGameSize) return false;
     const std::optional<QByteArray> bytes = Files::ReadAll(sPath, error);
     return bytes && ReadGameHeader(*bytes).bIsGame;
 }

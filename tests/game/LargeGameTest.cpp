@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+// A game file that somebody made large: it costs neither time nor memory nor the file itself.
+#include "support/FileFixture.h"
+
+#include "document/GameBounds.h"
+#include "document/GameText.h"
+
+#include <chrono>
+
+namespace {
+
+using GameBounds::kMostLetters;
+
+class LargeGameTest : public GameFileTest {
+protected:
+    static double SecondsToLoad(const QString& path, int expected) {
+        const auto start = std::chrono::steady_clock::now();
+        EXPECT_EQ(Load(QString(path)), expected);
+        return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    }
+};
+
+TEST_F(LargeGameTest, ATitleOfTenMillionLettersIsCutAndTold) {
+    QStringList lines = PlainLines();
+    lines[1] = u'"' + QString(10'000'000, u'x') + QStringLiteral("\", \"Sub\", \"Day\"");
+    const QString game = WriteGame(lines);
+    EXPECT_LT(SecondsToLoad(game, 0), 2.0);
+    EXPECT_EQ(TheGame().titles.Text(1).sText.size(), kMostLetters);
+    EXPECT_EQ(TheGame().titles.Text(2).sText, QStringLiteral("Sub"));
+    ASSERT_EQ(desktop.boxes.size(), 1);
+    EXPECT_EQ(desktop.boxes[0].sText,
+              QStringLiteral("A text in this game is longer than 10,000 letters, and the rest of it was left out. When "
+                             "you save the game, the file as it is now is kept beside your games."));
+}
+
+TEST_F(LargeGameTest, TheWholeFileIsKeptByTheFirstSave) {
+    QStringList lines = PlainLines();
+    lines[1] = u'"' + QString(20'000, u'x') + QStringLiteral("\", \"Sub\", \"Day\"");
+    QString game = WriteGame(lines);
+    const QByteArray before = ReadFile(game);
+    session.SetGameName(game);
+    ASSERT_EQ(session.Load(game), 0);
+    ASSERT_TRUE(session.Save());
+    EXPECT_NE(ReadFile(game), before);
+    EXPECT_EQ(ReadFile(InGames(QStringLiteral("Rescued Plain.gam"))), before);
+}
+
+TEST_F(LargeGameTest, AGameFullOfLongTextsLoadsInTime) {
+    QStringList lines = PlainLines();
+    const QString longText = QString(qsizetype(2) * kMostLetters, u'W');
+    for (QString& line : lines)
+        line.replace(QRegularExpression(QStringLiteral("\"[^\"]*\\w[^\"]*\"")), u'"' + longText + u'"');
+    lines[0] = PlainLines()[0];
+    EXPECT_LT(SecondsToLoad(WriteGame(lines), 0), 2.0);
+    EXPECT_EQ(desktop.boxes.size(), 1);
+}
+
+TEST_F(LargeGameTest, SixtyMegabytesOfAnythingAreDoneWithInTime) {
+    const auto ofSize = [](const QByteArray& piece) { return piece.repeated((60 << 20) / piece.size()); };
+    const QByteArray header = "\"TavloraGameBoard\", 8.0.0, ";
+    for (const QByteArray& bytes : {header + ofSize("x"), header + ofSize("a, "), header + "\r\n" + ofSize("\""),
+                                    header + "\r\n" + ofSize("\r\n"), header + "\r\n" + ofSize("\"\\n\","),
+                                    header + "\r\n" + ofSize("\xE5\xAD\x97"), ofSize(" ")}) {
+        const QString path = WriteFile(QStringLiteral("games/Large.gam"), bytes);
+        EXPECT_LT(SecondsToLoad(path, -1), 2.0) << bytes.left(40).toStdString();
+    }
+}
+
+} // namespace
