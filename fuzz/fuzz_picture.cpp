@@ -62,7 +62,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         if (error.isEmpty()) std::abort();
         return 0;
     }
-    if (!IsSizeAllowed(QSize(picture.Width(), picture.Height()))) std::abort();
+    if (!IsSizeAllowed(picture.Image().size())) std::abort();
+    if (!IsJpegSizeAllowed(QSize(picture.Width(), picture.Height()))) std::abort();
     const QRectF part = picture.PartOfImage(QRectF(-3.5, 1, picture.Width(), picture.Height()));
     if (Resample(picture.Image(), part, QSize(7, 5)).size() != QSize(7, 5)) std::abort();
     return 0;

@@ -5,7 +5,9 @@
 #include "drawing/basDraw.h"
 #include "drawing/clsBMP.h"
 #include "drawing/DrawDottedBox.h"
+#include "pictures/AwaitedPictures.h"
 #include "pictures/PaintPicture.h"
+#include "pictures/ThumbnailStore.h"
 #include "platform/files/Folders.h"
 #include "platform/paint/Surface.h"
 #include "platform/pictures/LoadPicture.h"
@@ -112,6 +114,9 @@ Picture C_Money::LoadOrTell(const QString& sPath, TellOnce::Fault fault) const {
 bool C_Money::PaintFace(Surface& form, QSize size) const {
     const PictureRef& face = FaceImage.Ref();
     if (face.IsMetafile()) return DrawMetafile(face, FaceImage.Told(), form.hDC(), QRect(QPoint(), size));
+    const int thumbnailSide = LongerSideWanted(face, ThumbnailStore::LongerSideOf(PictureOwner::Kind::Money));
+    if (ThumbnailStore::Instance().IsStale(FaceImage.Owned()) && AwaitedPictures::LeavesOut(face.sPath, thumbnailSide))
+        return false;
     if (FaceImage.GetThumbnail(false).isEmpty()) return false;
     PictureHolder original;
     return PaintZoomed(face, FaceImage.Told(), form, original, ScaleModeKind::Pixels, QRectF(QPointF(), size),

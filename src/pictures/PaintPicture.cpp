@@ -3,6 +3,7 @@
 
 #include "drawing/basBMP.h"
 #include "drawing/basBMP_metafile.h"
+#include "pictures/AwaitedPictures.h"
 #include "pictures/PictureMiddle.h"
 #include "pictures/TellOnce.h"
 #include "platform/files/Folders.h"
@@ -143,6 +144,7 @@ bool PaintZoomed(const PictureRef& ref, TellOnce& told, Surface& objDest, Pictur
                  ScaleModeKind ScaleMode, const QRectF& box, Color lBackColor) {
     picOriginal.Picture = Picture();
     const int wanted = LongerSideWanted(ref, LongerSide(objDest, box));
+    if (AwaitedPictures::LeavesOut(ref.sPath, wanted)) return false;
     if (LoadOrTell(ref, told, wanted).IsNull() || !ReloadOrTell(ref.sPath, picOriginal, wanted)) return false;
 
     const double perPixel = ScaleMode == ScaleModeKind::Twips ? kTwipsPerPixel : 1;

@@ -382,8 +382,8 @@ void DecodeForThumbnails(const QString& sPath) {
 }
 
 TEST_F(LoadTest, ALoadDoesNotWaitForAPhotographThatTakesLongToDecode) {
-    // Unfolds to 400 MB, on another processor.
-    QImage large(10000, 10000, QImage::Format_Grayscale8);
+    // Unfolds to 200 MB, on another processor.
+    QImage large(7000, 7000, QImage::Format_Grayscale8);
     large.fill(200);
     const QString path = InGames(QStringLiteral("large.png"));
     ASSERT_TRUE(large.save(path));

@@ -85,17 +85,36 @@ private:
 
 } // namespace
 
+namespace {
+
+// Progressive frames of all kinds.
+bool IsProgressiveFrame(quint32 marker) { return (marker & 0xF3) == 0xC2; }
+
+// Others, but for three markers among them that are no frames.
+bool IsPlainFrame(quint32 marker) {
+    return (marker & 0xF0) == 0xC0 && !IsProgressiveFrame(marker) && marker != 0xC4 && marker != 0xC8 && marker != 0xCC;
+}
+
+} // namespace
+
 JpegMarkers ReadJpegMarkers(QByteArrayView bytes) {
     constexpr quint32 kFirstApplication = 0xE0;
     constexpr quint32 kStartOfScan = 0xDA;
     JpegMarkers markers;
     ProfileParts profile;
     const ByteReader reader(bytes);
+    // Of the frame, to be compared with those of its first pass.
+    constexpr qsizetype kComponentsAt = 5;
+    quint32 components = 0;
     qint64 at = 2;
     while (true) {
         const std::optional<quint32> lead = reader.Number(at, 1);
         const std::optional<quint32> marker = reader.Number(at + 1, 1);
-        if (!lead || !marker || *lead != 0xFF || *marker == kStartOfScan) break;
+        if (!lead || !marker || *lead != 0xFF) break;
+        if (*marker == kStartOfScan) {
+            markers.inPasses = markers.inPasses || reader.Number(at + 4, 1).value_or(0) < components;
+            break;
+        }
         if (*marker == 0xFF) { // fill byte
             ++at;
             continue;
@@ -103,7 +122,11 @@ JpegMarkers ReadJpegMarkers(QByteArrayView bytes) {
         const std::optional<quint32> length = reader.Number(at + 2, 2);
         if (!length || *length < 2 || at + 2 + *length > bytes.size()) break;
         const QByteArrayView segment = bytes.sliced(at + 4, *length - 2);
-        if (*marker == kFirstApplication + 1 && segment.startsWith(kExif)) {
+        if (IsProgressiveFrame(*marker)) {
+            markers.inPasses = true;
+        } else if (IsPlainFrame(*marker)) {
+            components = segment.size() > kComponentsAt ? quint8(segment[kComponentsAt]) : 0;
+        } else if (*marker == kFirstApplication + 1 && segment.startsWith(kExif)) {
             markers.orientation = OrientationOf(segment.sliced(kExif.size()));
         } else if (*marker == kFirstApplication + 2 && segment.startsWith(kProfile)) {
             profile.Add(segment.sliced(kProfile.size()));

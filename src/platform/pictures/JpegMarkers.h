@@ -12,6 +12,8 @@ struct JpegMarkers {
     int orientation = 1;
     /// An Adobe program wrote it: four inks are then stored inverted.
     bool isAdobe = false;
+    /// The pixels come in several passes, so that a decoder has to hold all of them.
+    bool inPasses = false;
     /// The colour profile; empty when there is none or a part of it is missing.
     QByteArray colorProfile;
 };

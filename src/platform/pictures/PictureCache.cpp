@@ -13,6 +13,8 @@ qint64 BytesOf(const PictureCache::Entry& entry) {
     return entry.picture.Image().sizeInBytes() + kOverhead;
 }
 
+bool IsLarge(const PictureCache::Entry& entry) { return BytesOf(entry) > PictureCache::kMaxBytes / 2; }
+
 } // namespace
 
 // Two versions of a file of one size within a tick of the clock can't be told apart by their stamps.
@@ -32,6 +34,7 @@ PictureCache::Slots::iterator PictureCache::Find(const Key& key) {
 PictureCache::Entry PictureCache::Get(const Key& key, Decoder decode) {
     {
         std::unique_lock lock(m_mutex);
+        DropLarge(true, key);
         auto slot = Find(key);
         while (slot != m_slots.end() && !slot->ready) {
             m_arrived.wait(lock);
@@ -39,9 +42,10 @@ PictureCache::Entry PictureCache::Get(const Key& key, Decoder decode) {
         }
         if (slot != m_slots.end()) {
             m_slots.splice(m_slots.begin(), m_slots, slot);
+            slot->spent = IsLarge(slot->entry);
             return slot->entry;
         }
-        m_slots.push_front({key, {}, false});
+        m_slots.push_front({.key = key});
     }
     try {
         Entry entry = decode(key);
@@ -62,7 +66,7 @@ bool PictureCache::Holds(const Key& key) {
 bool PictureCache::Reserve(const Key& key) {
     const std::scoped_lock lock(m_mutex);
     if (Find(key) != m_slots.end()) return false;
-    m_slots.push_front({key, {}, false});
+    m_slots.push_front({.key = key, .announced = true});
     return true;
 }
 
@@ -71,12 +75,14 @@ void PictureCache::Fulfil(const Key& key, Entry entry) {
         const std::scoped_lock lock(m_mutex);
         const auto slot = Find(key);
         if (slot != m_slots.end()) {
-            const qint64 bytes = BytesOf(entry);
-            // Not for one picture's sake shall all others be forgotten.
-            if (bytes > kMaxBytes / 2) {
+            // Not for one picture's sake shall all others be forgotten. But who had it announced comes for it, and
+            // would have it decoded over and over.
+            const bool large = IsLarge(entry);
+            if (large && !slot->announced) {
                 m_slots.erase(slot);
             } else {
-                m_bytes += bytes;
+                if (large) DropLarge(false, key);
+                if (!large) m_bytes += BytesOf(entry);
                 slot->entry = std::move(entry);
                 slot->ready = true;
                 DropOldest();
@@ -98,17 +104,23 @@ void PictureCache::Abandon(const Key& key) {
 void PictureCache::DropOldest() {
     for (auto slot = m_slots.end(); m_bytes > kMaxBytes && slot != m_slots.begin();) {
         --slot;
-        if (!slot->ready) continue;
+        if (!slot->ready || IsLarge(slot->entry)) continue;
         m_bytes -= BytesOf(slot->entry);
         slot = m_slots.erase(slot);
     }
+}
+
+void PictureCache::DropLarge(bool bSpentOnly, const Key& butFor) {
+    m_slots.remove_if([&](const Slot& slot) {
+        return slot.ready && IsLarge(slot.entry) && (slot.spent || !bSpentOnly) && slot.key != butFor;
+    });
 }
 
 void PictureCache::Drop(const QString& sPath) {
     const std::scoped_lock lock(m_mutex);
     m_slots.remove_if([this, &sPath](const Slot& slot) {
         const bool drops = slot.ready && slot.key.sPath == sPath;
-        if (drops) m_bytes -= BytesOf(slot.entry);
+        if (drops && !IsLarge(slot.entry)) m_bytes -= BytesOf(slot.entry);
         return drops;
     });
 }

@@ -26,7 +26,8 @@ public:
     using Decoder = Entry (*)(const Key& key);
 
     /// Room for the reduced pictures of a whole board beside a photograph of 12 megapixels whole. A picture
-    /// that would take more than half of it isn't kept.
+    /// that would take more than half of it isn't kept, but for the last that was announced: until it was taken, and
+    /// another is wanted.
     static constexpr qint64 kMaxBytes = qint64(112) << 20;
 
     static PictureCache& Instance();
@@ -47,8 +48,11 @@ private:
     PictureCache();
     struct Slot {
         Key key;
-        Entry entry;
+        Entry entry = {};
         bool ready = false;
+        bool announced = false;
+        /// Too large to be kept, and taken.
+        bool spent = false;
     };
     using Slots = std::list<Slot>;
 
@@ -56,6 +60,8 @@ private:
     /// Takes an announcement back, so that nobody waits for what never comes.
     void Abandon(const Key& key);
     void DropOldest();
+    /// Drops those too large to be kept, all or only the spent, but for one.
+    void DropLarge(bool bSpentOnly, const Key& butFor);
 
     mutable std::mutex m_mutex;
     std::condition_variable m_arrived;

@@ -69,13 +69,16 @@ Picture DecodeJpeg(const QByteArray& bytes, int longerSideWanted, QString& sErro
         return {};
     }
     const QSize full(head.width, head.height);
-    if (!IsSizeAllowed(full)) {
+    const JpegMarkers markers = ReadJpegMarkers(bytes);
+    // One in passes is held whole ahead of any reduction.
+    if (!(markers.inPasses ? IsSizeAllowed(full) : IsJpegSizeAllowed(full))) {
         sError = QStringLiteral("The picture claims to be %1 by %2 pixels, which is more than can be opened")
                      .arg(head.width)
                      .arg(head.height);
         return {};
     }
-    const tjscalingfactor factor{1, ReductionFor(std::max(head.width, head.height), longerSideWanted)};
+    const int reduction = ReductionFor(std::max(head.width, head.height), longerSideWanted);
+    const tjscalingfactor factor{1, IsSizeAllowed(full) ? reduction : std::max(reduction, 2)};
     const QSize size(TJSCALED(head.width, factor), TJSCALED(head.height, factor));
     const DecodingRoom room(size);
     QImage image(size, QImage::Format_RGB32);
@@ -89,7 +92,6 @@ Picture DecodeJpeg(const QByteArray& bytes, int longerSideWanted, QString& sErro
                                               : QString::fromLatin1(tjGetErrorStr2(handle.get()));
         return {};
     }
-    const JpegMarkers markers = ReadJpegMarkers(bytes);
     if (head.colorSpace == TJCS_CMYK || head.colorSpace == TJCS_YCCK) {
         for (int y = 0; y < image.height(); ++y) {
             uchar* row = image.scanLine(y);

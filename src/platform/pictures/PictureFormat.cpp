@@ -55,6 +55,10 @@ bool IsSizeAllowed(QSize size) {
     return !size.isEmpty() && qint64(size.width()) * size.height() <= kMaxPictureBytes / kBytesPerPixel;
 }
 
+bool IsJpegSizeAllowed(QSize size) {
+    return !size.isEmpty() && IsSizeAllowed(QSize((size.width() + 1) / 2, (size.height() + 1) / 2));
+}
+
 bool IsBmpWhole(QByteArrayView bytes) {
     if (bytes.size() < kFileHeadSize + kCoreHeadSize) return false;
     const quint32 bits = At<quint32>(bytes, 10);

@@ -9,12 +9,14 @@ enum class PictureFormat { Unknown, Bmp, Jpeg, Gif, Png, WebP, Tiff, Heif, Metaf
 
 PictureFormat PictureFormatOf(QByteArrayView bytes);
 
-/// No picture may need more memory than this when every pixel is decoded to 32 bits: what claims more is a
-/// trap, not a photograph (the largest phone cameras need 200 MB).
-constexpr qint64 kMaxPictureBytes = qint64(512) << 20;
+/// No picture may need more memory than this when every pixel that is decoded takes 32 bits: what claims more is a
+/// trap, not a photograph (those of 50 megapixels need 200 MB).
+constexpr qint64 kMaxPictureBytes = qint64(208) << 20;
 
 /// False for sizes that are empty or beyond the limit.
 bool IsSizeAllowed(QSize size);
+/// A plain JPEG may claim four times as many: it is decoded to half its size then.
+bool IsJpegSizeAllowed(QSize size);
 
 /// False when the file is shorter than its bitmap head says it must be, or when the head's size is not
 /// allowed. The declared size of the file plays no part: it is often wrong, and thumbnails of this program

@@ -87,7 +87,8 @@ public:
         }
         if (format == PictureFormat::Metafile) return Drawing();
         const std::optional<QSize> size = SizeAs(format, file);
-        if (size && IsSizeAllowed(*size)) return PictureHead{*size};
+        const bool jpeg = format == PictureFormat::Jpeg;
+        if (size && (jpeg ? IsJpegSizeAllowed(*size) : IsSizeAllowed(*size))) return PictureHead{*size};
         if (m_error.isEmpty()) m_error = kDamaged;
         return std::nullopt;
     }

@@ -63,7 +63,7 @@ bool EditWindow::EditPiece(int iIndex) {
 
 void EditWindow::Redraw() try {
     if (m_bLoading) return;
-    Redrawing redrawing;
+    Redrawing redrawing(*this, &EditWindow::picDest_BackingChanged);
     m_likeness.Redraw(*picDest, picScratch, m_selection);
     picDest->Refresh();
     txtBitmapPath->SetWholeText(m_likeness.Image().FullPath());

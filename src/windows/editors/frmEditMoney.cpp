@@ -93,7 +93,7 @@ void frmEditMoney::ShowImagePath() {
 }
 
 void frmEditMoney::RedrawMoney() try {
-    Redrawing redrawing;
+    Redrawing redrawing(*this, &frmEditMoney::picNote_BackingChanged);
     double dblDPI = 0;
     double dblRatio = 0;
     picNote->ScaleMode = ScaleModeKind::Pixels;

@@ -80,7 +80,7 @@ void frmEditToken::LoadFromGame() {
 
 void frmEditToken::Redraw() try {
     if (m_bLoading) return;
-    Redrawing redrawing;
+    Redrawing redrawing(*this, &frmEditToken::picDest_BackingChanged);
     const C_Token::TextSelection selection{m_selection.m_iCol, m_selection.m_iRow, m_selection.m_iColEnd,
                                            m_selection.m_iRowEnd};
     // A record of its own: one whose picture is away, as on a stick, gives it up.

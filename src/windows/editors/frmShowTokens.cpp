@@ -130,7 +130,7 @@ void frmShowTokens::Form_Resize() try {
 }
 
 void frmShowTokens::Zoom() try {
-    Redrawing redrawing;
+    Redrawing redrawing(*this, &frmShowTokens::picToken_BackingChanged);
     for (int i = 0; i < basTAVL::kTokens; ++i)
         DrawToken(i);
     redrawing.ShowMessages();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "windows/pictures/frmImagePosition.h"
 
+#include "pictures/AwaitedPictures.h"
 #include "pictures/PaintPicture.h"
 #include "platform/paint/Units.h"
 #include "platform/pictures/LoadPicture.h"
@@ -10,12 +11,14 @@
 #include "services/basErrLog.h"
 #include "services/Desktop.h"
 #include "windowing/basCommon_forms.h"
+#include "windowing/HourGlass.h"
 #include "windowing/PictureBox.h"
 #include "windowing/WidgetLook.h"
 #include "windows/pictures/frmBrowse.h"
 #include "windows/pictures/UnsavedChanges.h"
 
 #include <QCoreApplication>
+#include <QEventLoop>
 #include <QFrame>
 #include <QKeyEvent>
 #include <QSignalBlocker>
@@ -78,6 +81,17 @@ void frmImagePosition::ShowNothing() {
     picZoomed->Cls();
 }
 
+// The window behind stays alive meanwhile, but takes nothing.
+void frmImagePosition::AwaitPicture(const QString& sFilePath) {
+    constexpr int kUntilNextLook = 20;
+    const HourGlass hourGlass;
+    while (AwaitedPictures::TakesLong(sFilePath, kAllPixels)) {
+        QEventLoop loop;
+        QTimer::singleShot(kUntilNextLook, &loop, &QEventLoop::quit);
+        loop.exec(QEventLoop::ExcludeUserInputEvents);
+    }
+}
+
 bool frmImagePosition::LoadMyPicture(const QString& sFilePath) try {
     if (!basCommon::DoesFileExist(sFilePath)) {
         ShowNothing();
@@ -87,6 +101,7 @@ bool frmImagePosition::LoadMyPicture(const QString& sFilePath) try {
         }
         return false;
     }
+    AwaitPicture(sFilePath);
     QString error;
     const Picture picture = LoadPicture(sFilePath, error);
     if (picture.IsNull()) {
@@ -110,8 +125,14 @@ void frmImagePosition::Zoom() try {
     timSharpen->stop();
     picZoomed->Cls();
     picZoomed->ScaleMode = ScaleModeKind::Pixels;
+    const Picture whole = picOriginal.Picture;
+    const AwaitedPictures awaited;
     PaintZoomed(m_oImage.Ref(), m_oImage.Told(), *picZoomed, picOriginal, ScaleModeKind::Twips,
                 QRectF(picZoomed->rect()), Color::None());
+    if (awaited.Any()) {
+        picOriginal.Picture = whole;
+        timSharpen->start();
+    }
     MaskRound();
     picZoomed->Refresh();
 } catch (...) {

@@ -30,6 +30,7 @@ public:
     /// True when picOriginal holds the picture. A missing or unreadable one is told; after an unreadable
     /// one the user is offered another at once.
     bool LoadMyPicture(const QString& sFilePath);
+    static void AwaitPicture(const QString& sFilePath);
 
     /// Paints the preview from the working copy, every pixel of the picture taken into account.
     void Zoom();
