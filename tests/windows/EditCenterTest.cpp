@@ -316,6 +316,25 @@ TEST_F(EditCenterTest, TheClipboardIsTypedACharacterAtATime) {
     });
 }
 
+TEST_F(EditCenterTest, BlanksInThePlaceOfATitleAreNoTitle) {
+    EXPECT_FALSE(Edit([this](QDialog& form) {
+        ClickBehind(form, kOccasion);
+        for (int i = 0; i < 6; ++i)
+            Press(form, Qt::Key_Backspace);
+        Type(form, QStringLiteral(" "));
+        QTest::mouseClick(&Find<QPushButton>(form, "cmdOK"), Qt::LeftButton);
+        EXPECT_TRUE(form.isVisible());
+        ASSERT_EQ(desktop.boxes.size(), 1);
+        EXPECT_EQ(desktop.boxes[0].sText, QStringLiteral("Please specify the Second Subtitle for your game."));
+        QTest::mouseClick(&Find<QPushButton>(form, "cmdCancel"), Qt::LeftButton);
+    }));
+    basPosit::SetSpecialText(kOccasionRecord, QStringLiteral(" "));
+    EXPECT_FALSE(Edit([](QDialog& form) {
+        QTest::mouseClick(&Find<QPushButton>(form, "cmdOK"), Qt::LeftButton);
+        EXPECT_FALSE(form.isVisible()) << "it stood there before, and may be meant";
+    }));
+}
+
 TEST_F(EditCenterTest, AccentsFromAnInputMethodAreTyped) {
     Edit([](QDialog& form) {
         ClickBehind(form, kOccasion);

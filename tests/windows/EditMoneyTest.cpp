@@ -233,6 +233,41 @@ TEST_F(EditMoneyTest, CheckingTheImageOpensTheBrowserAndCancellingUnchecksIt) {
     EXPECT_EQ(browsersSeen, 1);
 }
 
+TEST_F(EditMoneyTest, APictureTakenOffANoteComesBackWithItsPartUntilTheWindowIsClosed) {
+    const QString cat = MakePicture(QStringLiteral("cat.bmp"));
+    for (const int note : {0, 2}) {
+        HavePicture(note, cat);
+        Note(note).FaceImage.Let_Zoom(qint16(5 + note));
+        Note(note).FaceImage.Let_XCenter(9);
+        Note(note).FaceImage.Let_YCenter(8);
+    }
+    EXPECT_FALSE(Edit([&] {
+        for (const int note : {0, 2}) {
+            Choose(note);
+            Click("chkIncludeImage");
+        }
+        for (const int note : {0, 2}) {
+            Choose(note);
+            InBrowser([](frmBrowse& browser) { Cancel(browser); });
+            Click("chkIncludeImage");
+            EXPECT_TRUE(IncludesImage());
+            EXPECT_EQ(PathShown(), cat);
+        }
+        Click("cmdOK");
+    }));
+    EXPECT_EQ(Note(2).FaceImage.Zoom(), 7);
+}
+
+TEST_F(EditMoneyTest, APageThatIsTooLongForATextGoesWithAWord) {
+    EXPECT_FALSE(Edit([&] {
+        Box(1).insertPlainText(QString(5001, u'x'));
+        EXPECT_EQ(Box(1).toPlainText(), QStringLiteral("right 0"));
+        Click("cmdOK");
+    }));
+    ASSERT_EQ(desktop.boxes.size(), 1);
+    EXPECT_EQ(desktop.boxes[0].sText, QStringLiteral("A text holds 5,000 letters at most."));
+}
+
 TEST_F(EditMoneyTest, APictureFoundShowsItsPathInTheOvalAndMayBeCropped) {
     const QString path = MakePicture(QStringLiteral("cat.bmp"), 190, 190);
     EXPECT_TRUE(Edit([&] {

@@ -53,6 +53,35 @@ TEST_F(TypedTextTest, AltGrGivesCharacters) {
     EXPECT_EQ(key.sText, QStringLiteral("@"));
 }
 
+TEST_F(TypedTextTest, TheFirstCharacterTakesThePlaceOfANameOfBlanks) {
+    for (const char* entered : {"O", "Oak", "\U0001F3E0", "\u05d0"}) {
+        lines = {QStringLiteral("  ")};
+        CaretAt(1, 0);
+        EXPECT_EQ(Feed(QString::fromUtf8(entered)), KeyResult::TextChanged);
+        EXPECT_EQ(Text(), QString::fromUtf8(entered));
+        EXPECT_EQ(selection.m_iCol, Text().size());
+    }
+}
+
+TEST_F(TypedTextTest, BlanksEnterAndBackspaceLeaveANameOfBlanksAsItIs) {
+    for (const auto& [entered, after] : {std::pair(" ", "   "), std::pair("\r", "  |"), std::pair("\b", " ")}) {
+        lines = {QStringLiteral("  ")};
+        CaretAt(2, 0);
+        Feed(QString::fromLatin1(entered));
+        EXPECT_EQ(Text(), QString::fromLatin1(after));
+    }
+    lines = {QString(), QString()};
+    CaretAt(0, 1);
+    Feed(QStringLiteral("x"));
+    EXPECT_EQ(Text(), QStringLiteral("|x")) << "an empty line ahead is meant";
+}
+
+TEST_F(TypedTextTest, BlanksThatGaveWayAreNoLoss) {
+    const QString full(40, u'x');
+    EXPECT_EQ(TypedText::Loss(full, {QStringLiteral(" ")}, {full}, 40), QString());
+    EXPECT_NE(TypedText::Loss(full + u'y', {QStringLiteral(" ")}, {full}, 40), QString());
+}
+
 TEST_F(TypedTextTest, ClipboardKeysAreKnown) {
     EXPECT_EQ(KeyOf(Qt::Key_C, {}, Qt::ControlModifier).kind, Key::Kind::Copy);
     EXPECT_EQ(KeyOf(Qt::Key_X, {}, Qt::ControlModifier).kind, Key::Kind::Cut);

@@ -44,6 +44,8 @@ std::optional<Edit> EditWindow::Ask(int iIndex) {
     m_selection.Clear();
     m_bSelecting = false;
     BeginTyping();
+    m_bNameless = IsNameless();
+    fraBitmap->ForgetTakenOff();
     chkIncludeImage->setChecked(!m_likeness.Image().FullPath().isEmpty());
     chkIncludeImage_Click();
     m_bLoading = false;
@@ -127,6 +129,7 @@ void EditWindow::cmdBitmap_Click() try {
     const QString path = fraBitmap->AskForPicture(m_likeness.Image());
     if (path != before) {
         SetImagePath(path);
+        fraBitmap->RestorePart(m_likeness.Image());
         m_likeness.Image().TakeBadPath(fraBitmap->BadPath());
         Redraw();
     } else if (path.isEmpty()) {
@@ -143,8 +146,12 @@ void EditWindow::chkIncludeImage_Click() try {
     cmdBitmap->setEnabled(include);
     cmdCropImage->setEnabled(include);
     if (include) {
+        const QString takenOff = fraBitmap->TakenOff(m_likeness.Image());
+        if (!takenOff.isEmpty()) SetImagePath(takenOff);
+        fraBitmap->RestorePart(m_likeness.Image());
         cmdBitmap_Click();
     } else {
+        fraBitmap->NoteTakenOff(m_likeness.Image());
         SetImagePath(QString());
     }
     Redraw();
@@ -161,8 +168,17 @@ void EditWindow::cmdCropImage_Click() try {
     ErrTop(m_wording.sModule, "cmdCropImage_Click");
 }
 
+bool EditWindow::IsNameless() const { return m_likeness.TextAll().trimmed().isEmpty(); }
+
+// Blanks that somebody left in the place of a name are a slip; where there was none, or a picture speaks for the
+// piece, they may be meant.
+bool EditWindow::LacksName() const {
+    if (m_likeness.TextAll().isEmpty()) return true;
+    return IsNameless() && !m_bNameless && m_likeness.Image().FullPath().isEmpty();
+}
+
 void EditWindow::cmdOK_Click() try {
-    if (m_likeness.TextAll().isEmpty()) {
+    if (LacksName()) {
         MsgBox(QStringLiteral("Please specify a name for the space."));
         return;
     }

@@ -101,6 +101,8 @@ private:
     void FitText(const QString& sText);
     void SetImagePath(const QString& sFullPath);
     void DropSelection();
+    bool IsNameless() const;
+    bool LacksName() const;
 
     Session& m_session;
     const std::unique_ptr<Likeness> m_ownLikeness;
@@ -108,6 +110,8 @@ private:
     const Wording m_wording;
     bool m_bLoading = false;
     bool m_bChangeAllFonts = false;
+    /// Whether the piece had no name but blanks from the start.
+    bool m_bNameless = false;
 
     CommonDialog cdlgFont;
     PictureHolder picScratch;

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "pictures/C_Image.h"
+#include "pictures/PictureRef.h"
+
 #include <QGroupBox>
+#include <QHash>
 #include <QString>
 
-class C_Image;
 class ElidedLabel;
 class QCheckBox;
 class QLabel;
@@ -31,6 +34,15 @@ public:
     /// Lets the user move and zoom the picture behind a box of the given shape; of a metafile only tells that
     /// this can't be.
     void AskForPosition(C_Image& image, double dblHeightToWidth);
+    /// A picture about to be taken off its piece comes back when the piece gets one again, its part too.
+    void NoteTakenOff(const C_Image& image);
+    /// The path of what was taken off the image's piece; empty for nothing.
+    QString TakenOff(const C_Image& image) const { return m_takenOff.value(image.Index()).sPath; }
+    /// Gives the image the part that was chosen of it before it was taken off, if it is the same picture.
+    void RestorePart(C_Image& image) const { RestorePart(image, m_takenOff.value(image.Index())); }
+    static void RestorePart(C_Image& image, const PictureRef& takenOff);
+    /// Another piece is shown, or the window anew.
+    void ForgetTakenOff() { m_takenOff.clear(); }
     /// The answer to a click on the path, which is there to be read.
     static void TellHowToChangePath();
 
@@ -44,4 +56,6 @@ private:
     /// The folder last browsed; empty at first.
     QString m_sLastFolder;
     QString m_sBadPath;
+    /// By the number of the piece.
+    QHash<int, PictureRef> m_takenOff;
 };

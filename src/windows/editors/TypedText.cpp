@@ -99,6 +99,16 @@ bool HasRoom(const QStringList& sTextLines, const TextSelection& selection, char
     return TextColumns::LeftCharacters(line, iMostInLine).size() == line.size();
 }
 
+// As pieces without a name have in games: nobody sees the blanks.
+bool IsNameOfBlanks(const QStringList& sTextLines) {
+    return sTextLines.size() == 1 && !sTextLines[0].isEmpty() && sTextLines[0].trimmed().isEmpty();
+}
+
+bool TakesThePlaceOfBlanks(const QString& sEntered) {
+    if (sEntered.isEmpty() || sEntered[0].isSpace()) return false;
+    return sEntered[0].isSurrogate() || !IsControl(sEntered[0].unicode());
+}
+
 qsizetype Characters(const QStringList& sTextLines) {
     qsizetype count = 0;
     for (const QString& line : sTextLines)
@@ -135,6 +145,10 @@ KeyResult Apply(QStringList& sTextLines, TextSelection& selection, int iKeyCode)
 KeyResult Feed(QStringList& sTextLines, TextSelection& selection, const QString& sText, int iMostInLine) {
     QString text = sText;
     text.replace(QStringLiteral("\r\n"), QStringLiteral("\r"));
+    if (IsNameOfBlanks(sTextLines) && TakesThePlaceOfBlanks(text)) {
+        sTextLines = {QString()};
+        selection.SetCaret(0, 0);
+    }
     KeyResult result = KeyResult::Nothing;
     const auto characters = text.toUcs4();
     for (const char32_t character : characters) {
@@ -172,7 +186,8 @@ void KeepWithin(TextSelection& selection, const QStringList& sTextLines) {
 QString Loss(const QString& sEntered, const QStringList& sBefore, const QStringList& sStored, int iMostInLine) {
     QString letters = sEntered;
     letters.removeIf([](QChar c) { return IsLineBreak(c.unicode()) || (IsControl(c.unicode()) && c != kTab); });
-    if (Characters(sStored) >= Characters(sBefore) + letters.size()) return {};
+    const bool replaced = IsNameOfBlanks(sBefore) && TakesThePlaceOfBlanks(sEntered);
+    if (Characters(sStored) >= (replaced ? 0 : Characters(sBefore)) + letters.size()) return {};
     const auto isFull = [iMostInLine](const QString& line) { return line.size() >= iMostInLine; };
     if (std::any_of(sStored.begin(), sStored.end(), isFull))
         return QStringLiteral("Only %1 letters fit on a line.").arg(iMostInLine);

@@ -208,7 +208,9 @@ void frmEditCenter::Form_MouseUp(int Button, int, float, float) {
 
 bool frmEditCenter::RangeCheck() {
     for (int i = 1; i <= kAreas; ++i) {
-        if (!m_titles.Text(i).sText.isEmpty()) continue;
+        const QString& text = m_titles.Text(i).sText;
+        // Blanks that stood there before may be meant.
+        if (!text.isEmpty() && (!text.trimmed().isEmpty() || m_sSaved[size_t(i)].trimmed().isEmpty())) continue;
         MsgBox(QString::fromLatin1(RowOf(i).sMissing));
         return false;
     }

@@ -40,6 +40,7 @@ bool frmEditMoney::ShowForm() try {
 
 std::optional<Edit> frmEditMoney::Ask() {
     LoadFromGame();
+    fraBitmap->ForgetTakenOff();
     ChooseNote(0);
     optMoney[0]->setFocus();
     exec();
@@ -125,7 +126,7 @@ void frmEditMoney::optMoney_Click(int Index) try {
 }
 
 void frmEditMoney::txtSpace_Change() try {
-    if (m_bFillingIn) return;
+    if (m_bFillingIn || !MayKeep(*txtSpace[0]) || !MayKeep(*txtSpace[1])) return;
     for (int i = 0; i < C_Money::kTexts; ++i)
         Note().Let_Text(i, BoxText(*txtSpace[size_t(i)]));
     RedrawTextOnly();
@@ -138,8 +139,13 @@ void frmEditMoney::chkIncludeImage_Click() try {
     cmdBitmap->setEnabled(include);
     cmdCropImage->setEnabled(include);
     if (include) {
+        const QString takenOff = fraBitmap->TakenOff(FaceImage());
+        if (!takenOff.isEmpty()) FaceImage().Let_FullPath(takenOff);
+        fraBitmap->RestorePart(FaceImage());
+        txtBitmapPath->SetWholeText(FaceImage().FullPath());
         if (!m_bFillingIn) cmdBitmap_Click();
     } else {
+        fraBitmap->NoteTakenOff(FaceImage());
         txtBitmapPath->SetWholeText(QString());
         FaceImage().Let_FullPath(QString());
     }
@@ -153,6 +159,7 @@ void frmEditMoney::cmdBitmap_Click() try {
     const QString path = fraBitmap->AskForPicture(FaceImage());
     if (path != before) {
         FaceImage().Let_FullPath(path);
+        fraBitmap->RestorePart(FaceImage());
         FaceImage().TakeBadPath(fraBitmap->BadPath());
         ShowImagePath();
         RedrawMoney();

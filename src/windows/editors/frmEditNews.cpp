@@ -69,6 +69,7 @@ QLayout* frmEditNews::MakeBoxes() {
     txtSpace->setLineWrapMode(QPlainTextEdit::NoWrap);
     txtSpace->setTabChangesFocus(true);
     txtSpace->setMinimumWidth(kBoxesWidth);
+    LimitText(*txtTitle);
     lblTitle->setBuddy(txtTitle);
     auto* const lblText = new QLabel(QStringLiteral("Te&xt of this card (Enter starts a new line):"), this);
     lblText->setBuddy(txtSpace);
@@ -185,7 +186,7 @@ void frmEditNews::Redraw() try {
 }
 
 void frmEditNews::txtSpace_Change() try {
-    if (m_bLoading) return;
+    if (m_bLoading || !MayKeep(*txtSpace)) return;
     m_oNews.Let_Text(BoxText(*txtSpace));
     Redraw();
 } catch (...) {

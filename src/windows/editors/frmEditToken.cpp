@@ -11,6 +11,7 @@
 #include "windowing/basCommon_forms.h"
 #include "windowing/PictureBox.h"
 #include "windowing/WidgetLook.h"
+#include "windows/editors/ImageGroup.h"
 #include "windows/editors/Redrawing.h"
 #include "windows/pictures/frmBrowse.h"
 #include "windows/pictures/frmImagePosition.h"
@@ -53,6 +54,7 @@ std::optional<Edit> frmEditToken::Ask(int iToken) {
     m_selection.Clear();
     BeginTyping();
     LoadFromGame();
+    m_takenOff = PictureRef();
     m_bLoading = false;
     // On a picture the first letter would ask whether it is to go.
     if (!HasImage()) PlaceCaretBehind();
@@ -115,7 +117,9 @@ void frmEditToken::SetText(const QString& sText) {
 
 void frmEditToken::SetImagePath(const QString& sFullPath) {
     UsePicDest();
+    if (HasImage() && sFullPath.isEmpty()) m_takenOff = m_oToken.Image.Ref();
     m_oToken.SetImagePath(sFullPath);
+    ImageGroup::RestorePart(m_oToken.Image, m_takenOff);
 }
 
 void frmEditToken::optInclude_Click(int Index) try {
@@ -126,6 +130,8 @@ void frmEditToken::optInclude_Click(int Index) try {
         m_selection.Clear();
         const QString sText = m_oToken.TextAll();
         SetText(QString());
+        // A text has a say in what stays when nothing is chosen.
+        if (sText.isEmpty()) SetImagePath(m_takenOff.sPath);
         cmdBitmap_Click();
         // Nothing was chosen, so nothing has taken the text's place.
         if (!HasImage()) SetText(sText);

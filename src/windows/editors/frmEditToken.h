@@ -98,6 +98,8 @@ private:
     bool m_bSetAllFonts = false;
     /// The folder last browsed; empty at first.
     QString m_sLastFolder;
+    /// The picture that gave way to a text last; it comes back when the token gets one again.
+    PictureRef m_takenOff;
 
     CommonDialog cdlgFont;
     PictureHolder picScratch;
