@@ -23,7 +23,12 @@ QString PictureBase() {
 std::optional<QString> PartBelow(const QString& sFolder, const QString& sPath) {
     const QString prefix = basCommon::JoinPath(sFolder, QString());
     if (sFolder.isEmpty() || !sPath.startsWith(prefix, Qt::CaseInsensitive)) return std::nullopt;
-    return sPath.mid(prefix.size());
+    QString part = sPath.mid(prefix.size());
+    // Where case counts, a folder in another spelling is another folder: from here its pictures would never be found.
+    const bool otherSpelling = !sPath.startsWith(prefix);
+    if (otherSpelling && Files::Exists(sPath) && Files::StampOf(sPath) != Files::StampOf(prefix + part))
+        return std::nullopt;
+    return part;
 }
 
 // A drive without a folder names a file in the drive's root, as there is no current folder on a drive; a

@@ -61,6 +61,20 @@ TEST_F(C_ImageTest, Edge_CornerThreeOfKitEightHoldsFateWhateverTheRecordSays) {
     EXPECT_EQ(image.FullPath(), QString());
 }
 
+// Both folders stand side by side where case counts; as a relative name the picture would be looked for in the wrong
+// one.
+TEST_F(C_ImageTest, APictureInAFolderOfAnotherSpellingKeepsItsWholePath) {
+    for (const char* name : {"games", "Games"})
+        QDir(folder.path()).mkdir(QString::fromLatin1(name));
+    Settings().sMyGamesDirectory = PathOf(QStringLiteral("games"));
+    const QString other = WriteFile(QStringLiteral("Games/cat.bmp"), "picture");
+    if (QFileInfo::exists(PathOf(QStringLiteral("games/cat.bmp")))) GTEST_SKIP() << "this disk knows no case";
+    image.Let_FullPath(other);
+    EXPECT_EQ(image.RelativePath(), other);
+    image.Let_FullPath(WriteFile(QStringLiteral("games/cat.bmp"), "picture"));
+    EXPECT_EQ(image.RelativePath(), QStringLiteral("cat.bmp"));
+}
+
 TEST_F(C_ImageTest, RecordSurvivesWritingAndReading) {
     const QString path = Make(QStringLiteral("Straße \"1\".bmp"));
     image.Let_SpaceOrCorner(QStringLiteral("Space"));
