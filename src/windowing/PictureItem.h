@@ -8,5 +8,5 @@ class QListWidgetItem;
 class QString;
 
 /// Adds an entry to a list: a text with a small picture ahead of it, side pixels square. Without a picture its place
-/// stays empty, so that the texts stand in line.
+/// shows an empty frame.
 QListWidgetItem* AddPictureItem(QListWidget& list, const Picture& picture, int side, const QString& sText);

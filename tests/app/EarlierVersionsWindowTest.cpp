@@ -44,8 +44,9 @@ protected:
 TEST_F(EarlierVersionsWindowTest, ListsTheStatesByDateTheLatestFirstWithTheirBoards) {
     Show([](QDialog&, QListWidget& list) {
         ASSERT_EQ(list.count(), 2);
-        EXPECT_EQ(list.item(0)->text(),
-                  QLocale::system().toString(QDateTime(QDate(2026, 3, 9), QTime(20, 1)), QLocale::LongFormat));
+        EXPECT_EQ(list.item(0)->text(), QLocale::system().toString(QDate(2026, 3, 9), QLocale::LongFormat) +
+                                            QStringLiteral(", ") +
+                                            QLocale::system().toString(QTime(20, 1), QLocale::ShortFormat));
         const QImage drawn = list.item(0)->icon().pixmap(96).toImage();
         const QImage undrawn = list.item(1)->icon().pixmap(96).toImage();
         EXPECT_EQ(drawn.pixelColor(48, 40).alpha(), 255) << "the board of a save that this program made";

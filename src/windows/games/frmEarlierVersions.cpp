@@ -17,7 +17,14 @@
 namespace {
 
 constexpr int kBoardSide = 96;
-constexpr QSize kListSize(420, 480);
+constexpr QSize kListSize(480, 520);
+constexpr int kAroundItem = 4;
+
+QString TextOf(const QDateTime& when) {
+    const QLocale locale = QLocale::system();
+    return locale.toString(when.date(), QLocale::LongFormat) + QStringLiteral(", ") +
+           locale.toString(when.time(), QLocale::ShortFormat);
+}
 
 } // namespace
 
@@ -36,6 +43,7 @@ void frmEarlierVersions::BuildControls() {
     lstVersions->setObjectName(QStringLiteral("lstVersions"));
     lstVersions->setIconSize(QSize(kBoardSide, kBoardSide));
     lstVersions->setUniformItemSizes(true);
+    lstVersions->setSpacing(kAroundItem);
     connect(lstVersions, &QListWidget::itemClicked, this, &frmEarlierVersions::lstVersions_Click);
     connect(lstVersions, &QListWidget::itemActivated, this, &frmEarlierVersions::lstVersions_Click);
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
@@ -54,11 +62,10 @@ void frmEarlierVersions::Fill(const QString& sGame) {
     const QList<EarlierVersions::Version> versions = EarlierVersions::Of(sGame);
     lstVersions->clear();
     for (const EarlierVersions::Version& version : versions) {
-        const QString when = QLocale::system().toString(version.when, QLocale::LongFormat);
         // One that nobody has drawn, or that can't be read, is passed over.
         QString error;
         QListWidgetItem* const item =
-            AddPictureItem(*lstVersions, LoadPicture(version.sBoard, error), kBoardSide, when);
+            AddPictureItem(*lstVersions, LoadPicture(version.sBoard, error), kBoardSide, TextOf(version.when));
         item->setData(Qt::UserRole, version.sPath);
         item->setToolTip(version.sPath);
     }
