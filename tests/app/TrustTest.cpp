@@ -148,6 +148,7 @@ protected:
             EXPECT_EQ(StatusOfAnEndAt(end, step), kStatusOfTheEnd);
             ExpectRecovered(step, "ended at operation " + std::to_string(end));
         }
+        std::cout << "[ MATRIX   ] " << count << " ends\n";
     }
 #else
     void EndTheProgramAtEachOperationOf(Step) { GTEST_SKIP() << "needs a process of its own"; }

@@ -158,6 +158,7 @@ protected:
     void ExpectTheirsUntouched(const char* when) {
         for (auto file = m_theirs.cbegin(); file != m_theirs.cend(); ++file)
             EXPECT_EQ(ReadFile(InGames(file.key())), file.value()) << file.key().toStdString() << ' ' << when;
+        std::cout << "[ COMPARED ] " << m_theirs.size() << " files " << when << '\n';
         EXPECT_FALSE(QFileInfo::exists(PathOf(QStringLiteral("data/Trash")))) << when;
         EXPECT_FALSE(HasFile(QStringLiteral("Removed"))) << when;
     }
