@@ -38,5 +38,5 @@ bool HeifLibrary::Load() {
            Resolve(library, "heif_image_release", image_release) &&
            Resolve(library, "heif_image_get_primary_width", image_get_primary_width) &&
            Resolve(library, "heif_image_get_primary_height", image_get_primary_height) &&
-           Resolve(library, "heif_image_get_plane_readonly", image_get_plane_readonly);
+           Resolve(library, "heif_image_get_plane", image_get_plane);
 }

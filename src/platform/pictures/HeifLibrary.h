@@ -23,7 +23,7 @@ struct HeifLibrary {
     decltype(&heif_image_release) image_release = nullptr;
     decltype(&heif_image_get_primary_width) image_get_primary_width = nullptr;
     decltype(&heif_image_get_primary_height) image_get_primary_height = nullptr;
-    decltype(&heif_image_get_plane_readonly) image_get_plane_readonly = nullptr;
+    decltype(&heif_image_get_plane) image_get_plane = nullptr;
 
 private:
     bool Load();

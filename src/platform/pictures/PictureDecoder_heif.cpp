@@ -4,6 +4,7 @@
 #include "platform/pictures/PictureDecoder.h"
 #include "platform/pictures/PictureFormat.h"
 
+#include <cstring>
 #include <memory>
 
 namespace PictureDecoder {
@@ -11,7 +12,7 @@ namespace {
 
 using Context = std::unique_ptr<heif_context, decltype(&heif_context_free)>;
 using ImageHandle = std::unique_ptr<const heif_image_handle, decltype(&heif_image_handle_release)>;
-using Image = std::unique_ptr<const heif_image, decltype(&heif_image_release)>;
+using Image = std::unique_ptr<heif_image, decltype(&heif_image_release)>;
 
 bool Failed(const heif_error& error, QString& sError) {
     if (error.code == heif_error_Ok) return false;
@@ -25,6 +26,21 @@ QByteArray ColorProfileOf(const HeifLibrary& heif, const heif_image_handle* hand
         return {};
     return profile;
 }
+
+// In place: a second copy of a large photograph is a lot of memory.
+void ToScreenOrder(uint8_t* plane, QSize size, int stride, bool transparent) {
+    for (int y = 0; y < size.height(); ++y) {
+        uint8_t* at = plane + qsizetype(y) * stride;
+        for (int x = 0; x < size.width(); ++x, at += sizeof(QRgb)) {
+            const QRgb pixel = qRgba(at[0], at[1], at[2], transparent ? at[3] : 255);
+            const QRgb onScreen = transparent ? qPremultiply(pixel) : pixel;
+            std::memcpy(at, &onScreen, sizeof(QRgb));
+        }
+    }
+}
+
+// The pixels stay where the library has put them as long as anybody holds the picture.
+void Release(void* image) { HeifLibrary::Get()->image_release(static_cast<const heif_image*>(image)); }
 
 } // namespace
 
@@ -56,17 +72,18 @@ Picture DecodeHeif(QByteArrayView bytes, QString& sError) {
     if (Failed(heif.decode_image(rawHandle, &rawImage, heif_colorspace_RGB, heif_chroma_interleaved_RGBA, nullptr),
                sError))
         return {};
-    const Image decoded(rawImage, heif.image_release);
+    Image decoded(rawImage, heif.image_release);
     const QSize size(heif.image_get_primary_width(rawImage), heif.image_get_primary_height(rawImage));
     int stride = 0;
-    const uint8_t* plane = heif.image_get_plane_readonly(rawImage, heif_channel_interleaved, &stride);
+    uint8_t* const plane = heif.image_get_plane(rawImage, heif_channel_interleaved, &stride);
     if (!plane || !IsSizeAllowed(size) || stride < size.width() * 4) {
         sError = QStringLiteral("The picture could not be decoded");
         return {};
     }
-    QImage image(plane, size.width(), size.height(), stride, QImage::Format_RGBA8888);
     const bool transparent = heif.image_handle_has_alpha_channel(rawHandle);
-    image = image.convertToFormat(transparent ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
+    ToScreenOrder(plane, size, stride, transparent);
+    const QImage::Format format = transparent ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32;
+    QImage image(plane, size.width(), size.height(), stride, format, Release, decoded.release());
     return Picture(InScreenColors(std::move(image), ColorProfileOf(heif, rawHandle)));
 }
 
