@@ -74,7 +74,8 @@ bool IsReady(const C_Image& image, Clock::time_point until) {
 
 // A picture that can't be made small is told by its image, or lies in the log; the game loads all the same.
 void FetchThumbnail(const C_Image& image, Clock::time_point until) {
-    if (!IsReady(image, until)) return;
+    // A drawing is played here and now, which may take its time as well.
+    if (!IsReady(image, until) || (image.IsWMF() && Clock::now() > until)) return;
     try {
         image.GetThumbnail(false);
     } catch (const TavloraError& error) {
