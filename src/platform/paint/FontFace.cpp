@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/paint/FontFace.h"
 
+#include "platform/paint/PaintText.h"
+
 #include <QFontInfo>
 #include <QFontMetricsF>
 #include <QGlyphRun>
@@ -183,7 +185,8 @@ bool FontFace::Prints(const QString& sCharacter) const {
     bool prints = true;
     for (const QGlyphRun& run : layout.glyphRuns()) {
         for (const quint32 glyph : run.glyphIndexes())
-            prints = prints && glyph != 0 && !run.rawFont().pathForGlyph(glyph).isEmpty();
+            prints =
+                prints && glyph != 0 && (HoldsPictures(run.rawFont()) || !run.rawFont().pathForGlyph(glyph).isEmpty());
     }
     return *m_prints.insert(sCharacter, prints);
 }
@@ -212,6 +215,5 @@ void FontFace::Draw(QPainter& painter, const QString& sText, bool bUnderline) co
         painter.fillPath(outline, painter.pen().color());
         return;
     }
-    painter.setFont(font);
-    painter.drawText(QPointF(0, 0), sText);
+    PaintText(painter, QPointF(0, 0), font, sText);
 }

@@ -2,6 +2,7 @@
 #include "platform/paint/Recording.h"
 
 #include "platform/paint/PaintImage.h"
+#include "platform/paint/PaintText.h"
 #include "platform/text/Numbers.h"
 
 #include <QFont>
@@ -94,10 +95,7 @@ public:
         // The painter that is recorded draws these by itself.
         font.setUnderline(false);
         const QString text = item.text();
-        Keep([point, font, text](QPainter& painter) {
-            painter.setFont(font);
-            painter.drawText(point, text);
-        });
+        Keep([point, font, text](QPainter& painter) { PaintText(painter, point, font, text); });
     }
 
     const std::vector<Step>& Steps() const { return m_steps; }
