@@ -21,7 +21,7 @@ const BenchPhotos& Photos() {
 }
 
 bool Print(PdfPrinter& printer, const Sheet& sheet) {
-    printer.SetOrientation(sheet.OrientationOf(Kit::Eight));
+    sheet.LayOn(printer, Kit::Eight);
     SheetJob job{printer};
     if (!sheet.Prepare(job) || !sheet.Print(job)) return false;
     printer.EndDoc();

@@ -62,18 +62,19 @@ constexpr CornerPiece kCornerPieces[] = {
     {5.075, 5.85, 7.5F, 7.5F, "'Free Space' Board Corner", 900},
 };
 
-// Other processors decode the photographs of the sheet while this one draws. A sticker's picture is half as high
-// as the sticker.
-void PreparePictures(SheetJob& job, clsRenderDestination& sheet, int iSide, bool bCorners) {
-    const auto prepare = [&](const C_Image& image, basTAVL::LabelSize labelSize) {
-        PrefetchForPaper(image.Ref(), job.printer, basTAVL::g_dblLabelSizes(labelSize) / 2 * sheet.DPI());
-    };
+// What the sheet shows alone is decoded ahead as well.
+std::vector<SheetPhoto> PhotosOf(int iSide, bool bCorners) {
+    std::vector<SheetPhoto> photos;
+    // A sticker's picture is half as high as the sticker.
     for (int iPlace = 0; iPlace < kRows * kColumns; ++iPlace) {
         const int iSpace = GetSpaceFromArrayCoordinates(iSide, iPlace / kColumns, iPlace % kColumns);
-        prepare(basTAVL::g_oSpaces(iSpace).Image, basTAVL::kStickerHeight);
+        SheetPhoto::Add(photos, basTAVL::g_oSpaces(iSpace).Image.Ref(),
+                        basTAVL::g_dblLabelSizes(basTAVL::kStickerHeight) / 2);
     }
     for (size_t iCorner = 0; bCorners && iCorner < std::size(kCornerPieces); ++iCorner)
-        prepare(basTAVL::g_oCorners(int(iCorner)).Image, basTAVL::kCornerSide);
+        SheetPhoto::Add(photos, basTAVL::g_oCorners(int(iCorner)).Image.Ref(),
+                        basTAVL::g_dblLabelSizes(basTAVL::kCornerSide) / 2);
+    return photos;
 }
 
 bool PlaceSpace(clsRenderDestination& sheet, int iSide, int iRow, int iCol) {
@@ -93,8 +94,9 @@ bool PlaceSpaces(SheetJob& job, clsRenderDestination& sheet, int iSide) {
     for (int iRow = 0; iRow < kRows; ++iRow) {
         for (int iCol = 0; iCol < kColumns; ++iCol) {
             job.Piece("Space", iRow * kColumns + iCol + 1, kRows * kColumns);
-            if (!PlaceSpace(sheet, iSide, iRow, iCol))
-                made = job.LacksPicture(PieceNames::Space(GetSpaceFromArrayCoordinates(iSide, iRow, iCol)));
+            const int iSpace = GetSpaceFromArrayCoordinates(iSide, iRow, iCol);
+            if (!PlaceSpace(sheet, iSide, iRow, iCol)) made = job.LacksPicture(PieceNames::Space(iSpace));
+            job.Drawn(basTAVL::g_oSpaces(iSpace).Image.FullPath());
             job.Progress(progress += kProgressPerSpace);
         }
     }
@@ -126,6 +128,7 @@ bool PlaceCorners(SheetJob& job, clsRenderDestination& sheet) {
         job.Progress(piece.iProgressBefore);
         if (!CornerStickerUsingBMP(sheet, iCorner, piece.dblX, piece.dblY))
             made = job.LacksPicture(PieceNames::Corner(iCorner));
+        job.Drawn(basTAVL::g_oCorners(iCorner).Image.FullPath());
         ++iCorner;
         sheet.Legend(piece.sngLegendX, piece.sngLegendY, QStringLiteral("left"), QString::fromLatin1(piece.sLegend),
                      basTAVL::g_lPrintBlack());
@@ -138,7 +141,6 @@ bool PlaceCorners(SheetJob& job, clsRenderDestination& sheet) {
 bool StickerSpaceSheet(SheetJob& job, int iSide, bool bCorners, bool bTitle) try {
     clsRenderDestination sheet;
     sheet.Init(job.printer, 1.0);
-    PreparePictures(job, sheet, iSide, bCorners);
     bool made = PlaceSpaces(job, sheet, iSide);
     if (bTitle && !PlaceTitles(job, sheet)) return false;
     if (bCorners) made = PlaceCorners(job, sheet) && made;
@@ -165,4 +167,9 @@ template <>
 bool PaintSheet<class BoardSheet>(SheetJob& job, int iWhich) {
     const bool east = iWhich > 0;
     return StickerSpaceSheet(job, iWhich, !east, east);
+}
+
+template <>
+std::vector<SheetPhoto> PhotosOfSheet<class BoardSheet>(int iWhich) {
+    return PhotosOf(iWhich, iWhich == 0);
 }

@@ -32,6 +32,14 @@ constexpr std::array<const char*, 2> kBoxLabels[] = {
     {"BoxSide2ndSub", "1.74x0.53"}, {"BoxTopSubTitleRed", "5.91x0.36"},  {"BoxTop2ndSubTitleRed", "1.83x0.59"},
 };
 
+const QString kPaperKey = QStringLiteral("Paper");
+struct PaperWord {
+    PaperChoice choice;
+    const char* sWord;
+};
+constexpr PaperWord kPapers[] = {
+    {PaperChoice::Usual, "Usual"}, {PaperChoice::Letter, "Letter"}, {PaperChoice::A4, "A4"}};
+
 QString Inches(double value) { return QString::number(value, 'f', 2); }
 QString Inches(QSizeF size) { return Inches(size.width()) + QStringLiteral(" by ") + Inches(size.height()); }
 
@@ -90,6 +98,12 @@ QString SmallPageMessage(const Printer& printer, const Sheet& sheet, Kit kit) {
         .arg(printer.DeviceName(), Inches(printer.PrintableInches()), lost);
 }
 
+QString TroubleMessage(const Printer& printer, const QString& sTrouble) {
+    return QStringLiteral("The printer '%1' doesn't print. %2\r\n\r\nWhat was sent to it waits there, and comes out "
+                          "once that is mended.")
+        .arg(printer.DeviceName(), sTrouble);
+}
+
 QString PdfMessage(const QString& sPath) {
     return QStringLiteral("This sheet is now in the file\r\n\r\n%1\r\n\r\nPrint it at actual size (100 %), never "
                           "\"fit to page\": only then the pieces have their right size.")
@@ -101,6 +115,20 @@ QString LackingMessage(const QStringList& lacking) {
     QStringList lines = lacking.mid(0, kMost);
     if (lacking.size() > kMost) lines.append(QStringLiteral("and %1 more.").arg(lacking.size() - kMost));
     return lines.join(QStringLiteral("\r\n"));
+}
+
+PaperChoice PaperInUse() {
+    const QString kept = basCommon::GetIniString(kPaperKey);
+    for (const PaperWord& paper : kPapers) {
+        if (kept.compare(QString::fromLatin1(paper.sWord), Qt::CaseInsensitive) == 0) return paper.choice;
+    }
+    return PaperChoice::Usual;
+}
+
+void KeepPaper(PaperChoice choice) {
+    for (const PaperWord& paper : kPapers) {
+        if (paper.choice == choice) basCommon::WriteIniString(kPaperKey, QString::fromLatin1(paper.sWord));
+    }
 }
 
 QString PrintedFolder() { return basCommon::JoinPath(basCommon::GetMyGamesDirectory(), QStringLiteral("Printed")); }

@@ -51,9 +51,14 @@ QString NoPrinterMessage(const Printer& printer);
 /// when it does.
 QString SmallPageMessage(const Printer& printer, const Sheet& sheet, Kit kit);
 /// Tells where a PDF file is, and how it has to be printed.
+/// Of a printer that has taken pages and doesn't print them, and why.
+QString TroubleMessage(const Printer& printer, const QString& sTrouble);
 QString PdfMessage(const QString& sPath);
 /// What a sheet lacks: its first pieces, a line each, and how many more there are.
 QString LackingMessage(const QStringList& lacking);
+/// The paper that the user chose, kept in the settings; anything else there is the usual one.
+PaperChoice PaperInUse();
+void KeepPaper(PaperChoice choice);
 /// Where PDF files of sheets go.
 QString PrintedFolder();
 /// "Family - Box Top & Token Stickers" for the game's full path.

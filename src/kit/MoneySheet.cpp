@@ -30,6 +30,16 @@ constexpr double kFirstY = 0.125;
 CardGrid MoneyGrid() { return {{kFirstX, kFirstY}, {kNoteWidth, kNoteHeight}, kColumns, kNotesOnSheet / kColumns}; }
 
 template <>
+std::vector<SheetPhoto> PhotosOfSheet<class MoneySheet>(int iWhich) {
+    const C_Money& note = basTAVL::g_oMoney(iWhich);
+    std::vector<SheetPhoto> photos;
+    if (!note.BackImage.FullPath().isEmpty()) photos.push_back({note.BackImage.FullPath(), kAllPixels});
+    const QSizeF oval = C_Money::OvalInches();
+    SheetPhoto::Add(photos, note.FaceImage.Ref(), std::max(oval.width(), oval.height()));
+    return photos;
+}
+
+template <>
 bool PrepareSheet<class MoneySheet>(SheetJob& job, int iWhich) {
     // Told here, once, if the user's picture can't be had; the note is then printed without it.
     basTAVL::g_oMoney(iWhich).FaceImage.GetThumbnail(false);
@@ -41,6 +51,8 @@ bool PrepareSheet<class MoneySheet>(SheetJob& job, int iWhich) {
     QString error;
     job.prepared = LoadPicture(path, error);
     if (job.prepared.IsNull()) ErrRaiseNoPicture(path, error);
+    for (const SheetPhoto& photo : PhotosOfSheet<class MoneySheet>(iWhich))
+        job.Drawn(photo.sPath);
     return true;
 }
 

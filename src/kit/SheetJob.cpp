@@ -3,6 +3,10 @@
 
 #include "pieces/frmBMP.h"
 
+void SheetJob::Drawn(const QString& sPath) const {
+    if (ahead) ahead->Drawn(sPath);
+}
+
 bool SheetJob::Lacks(const QString& sPiece, const QString& sWhy) {
     lacking.append(sPiece + QStringLiteral(" could not be made: ") + sWhy);
     return false;

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "kit/PhotosAhead.h"
 #include "platform/paint/Picture.h"
 
 #include <QString>
 #include <QStringList>
 
 #include <functional>
+#include <vector>
 
 class Printer;
 
@@ -26,9 +28,13 @@ struct SheetJob {
     int nCopies = 1;
     /// What PrepareSheet has made, for all copies.
     Picture prepared = {};
+    /// The photographs of a print of several sheets; nothing where this one is printed alone.
+    PhotosAhead* ahead = nullptr;
     /// What the page lacks and why, a sentence for each piece.
     QStringList lacking = {};
 
+    /// A piece has been drawn with a picture file.
+    void Drawn(const QString& sPath) const;
     /// Keeps that a piece is lacking, and why; always false. In the words of a sentence's beginning: "The title".
     bool Lacks(const QString& sPiece, const QString& sWhy);
     /// The same for a piece whose picture could not be made.
@@ -40,6 +46,10 @@ struct SheetJob {
 /// it for the class that the row names: no header has to know of a new sheet, and a row without its file doesn't link.
 template <class Kind>
 bool PaintSheet(SheetJob& job, int iWhich);
+
+/// The photographs on it, in the order in which they are drawn; only of sheets whose row names it.
+template <class Kind>
+std::vector<SheetPhoto> PhotosOfSheet(int iWhich);
 
 /// Makes what all copies are painted from, once before the first; only of sheets whose row names it. False, after it
 /// has said so, when nothing may be printed.

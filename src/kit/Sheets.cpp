@@ -71,6 +71,7 @@ constexpr Sheet kSheets[] = {
      .orientation = kLengthwiseInKit8,
      .ends = {{9.98, "right-hand column of stickers"}, {7.975, "row of corner stickers"}},
      .otherKits = OtherKits::LeftOut,
+     .photos = PhotosOfSheet<class BoardSheet>,
      .paint = PaintSheet<class BoardSheet>},
     {.iButton = 3,
      .sName = "east",
@@ -81,6 +82,7 @@ constexpr Sheet kSheets[] = {
      .ends = {{9.98, "right-hand column of stickers"}, {7.72, "caption of the subtitle"}},
      .otherKits = OtherKits::LeftOutOrNameless,
      .iWhich = 1,
+     .photos = PhotosOfSheet<class BoardSheet>,
      .paint = PaintSheet<class BoardSheet>},
     {.iButton = 12,
      .sName = "deeds1",
@@ -134,6 +136,7 @@ constexpr Sheet kSheets[] = {
      .bMoney = true,
      .iSheetsForSix = 5,
      .prepare = PrepareSheet<class MoneySheet>,
+     .photos = PhotosOfSheet<class MoneySheet>,
      .paint = PaintSheet<class MoneySheet>},
     {.iButton = 8,
      .sName = "money500",
@@ -147,6 +150,7 @@ constexpr Sheet kSheets[] = {
      .iSheetsForSix = 3,
      .iWhich = 1,
      .prepare = PrepareSheet<class MoneySheet>,
+     .photos = PhotosOfSheet<class MoneySheet>,
      .paint = PaintSheet<class MoneySheet>},
     {.iButton = 9,
      .sName = "money1000",
@@ -160,6 +164,7 @@ constexpr Sheet kSheets[] = {
      .iSheetsForSix = 4,
      .iWhich = 2,
      .prepare = PrepareSheet<class MoneySheet>,
+     .photos = PhotosOfSheet<class MoneySheet>,
      .paint = PaintSheet<class MoneySheet>},
     {.iButton = 10,
      .sName = "money5000",
@@ -173,6 +178,7 @@ constexpr Sheet kSheets[] = {
      .iSheetsForSix = 1,
      .iWhich = 3,
      .prepare = PrepareSheet<class MoneySheet>,
+     .photos = PhotosOfSheet<class MoneySheet>,
      .paint = PaintSheet<class MoneySheet>},
     {.iButton = 11,
      .sName = "rules",
@@ -224,6 +230,23 @@ const Paper& PaperOf(const Sheet::ByStock& papers, Kit kit) {
     return OnColouredStock(kit) ? papers.coloured : papers.white;
 }
 
+// A sheet that is printed alone looks ahead by itself.
+class PhotosOfOne {
+public:
+    PhotosOfOne(SheetJob& job, const Sheet& sheet) : m_job(job) {
+        if (!job.ahead) job.ahead = &m_own.emplace(std::vector<std::vector<SheetPhoto>>{sheet.Photos()});
+    }
+    ~PhotosOfOne() {
+        if (m_own) m_job.ahead = nullptr;
+    }
+    PhotosOfOne(const PhotosOfOne&) = delete;
+    PhotosOfOne& operator=(const PhotosOfOne&) = delete;
+
+private:
+    SheetJob& m_job;
+    std::optional<PhotosAhead> m_own;
+};
+
 } // namespace
 
 std::span<const Sheet> Sheets() { return kSheets; }
@@ -272,6 +295,12 @@ QSizeF Sheet::NeededInches(Kit kit) const {
     return OrientationOf(kit) == orientation.kit8 ? needed : needed.transposed();
 }
 
+void Sheet::LayOn(Printer& printer, Kit kit) const {
+    printer.SetOrientation(OrientationOf(kit));
+    printer.CentreSheet(NeededInches(kit));
+    printer.SetPageName(Title(kit));
+}
+
 QString Sheet::WhatIsLostOn(QSizeF printable, Kit kit) const {
     constexpr double kMillimetresPerInch = 25.4;
     if (OrientationOf(kit) != orientation.kit8) printable.transpose();
@@ -294,11 +323,17 @@ QString Sheet::WhyLeftOut(Kit kit) const {
                           "its labels are printed on white label paper.");
 }
 
-bool Sheet::Prepare(SheetJob& job) const { return !prepare || prepare(job, iWhich); }
+std::vector<SheetPhoto> Sheet::Photos() const { return photos ? photos(iWhich) : std::vector<SheetPhoto>(); }
+
+bool Sheet::Prepare(SheetJob& job) const {
+    const PhotosOfOne ahead(job, *this);
+    return !prepare || prepare(job, iWhich);
+}
 
 bool Sheet::Print(SheetJob& job) const {
     // A font, colour or pen that another sheet has left must never show on this one.
     job.printer.ForgetSettings();
     job.lacking.clear();
+    const PhotosOfOne ahead(job, *this);
     return paint(job, iWhich);
 }

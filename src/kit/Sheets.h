@@ -77,6 +77,8 @@ struct Sheet {
     int iWhich = 0;
     /// Nothing where copies share nothing.
     bool (*prepare)(SheetJob& job, int iWhich) = nullptr;
+    /// Nothing where it shows no photographs that are worth being decoded ahead.
+    std::vector<SheetPhoto> (*photos)(int iWhich) = nullptr;
     /// Nothing where it isn't part of this build in any kit.
     bool (*paint)(SheetJob& job, int iWhich);
 
@@ -90,12 +92,16 @@ struct Sheet {
     std::optional<QString> Prompt(Kit kit) const;
     PageOrientation OrientationOf(Kit kit) const;
     QSizeF NeededInches(Kit kit) const;
+    /// From the next page on the printer's paper lies as the sheet wants it.
+    void LayOn(Printer& printer, Kit kit) const;
     /// "The lowest row of deeds would lose 2 mm.": what a page of so many inches, in its orientation for the kit, cuts
     /// off. Empty when the page holds it.
     QString WhatIsLostOn(QSizeF printable, Kit kit) const;
     /// Why this build doesn't print it for a kit; empty when it does.
     QString WhyLeftOut(Kit kit) const;
 
+    /// The photographs on it, in the order in which they are drawn.
+    std::vector<SheetPhoto> Photos() const;
     /// Makes what all copies share. False, after it has said so, when nothing may be printed.
     bool Prepare(SheetJob& job) const;
     /// Paints one page, whatever sheet or copy was painted before it. False when it isn't whole: the job knows what

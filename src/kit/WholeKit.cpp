@@ -9,13 +9,14 @@ namespace {
 // A page of the kit, and a caller who may have had enough of it.
 class PagePainter {
 public:
-    PagePainter(Printer& printer, Kit kit, const std::function<bool(const Progress&)>& tell)
-        : m_printer(printer), m_kit(kit), m_tell(tell) {}
+    PagePainter(Printer& printer, Kit kit, PhotosAhead& ahead, const std::function<bool(const Progress&)>& tell)
+        : m_printer(printer), m_kit(kit), m_ahead(ahead), m_tell(tell) {}
 
     void Paint(const Run& run) {
         const Sheet& sheet = *run.sheet;
-        m_printer.SetOrientation(sheet.OrientationOf(m_kit));
+        sheet.LayOn(m_printer, m_kit);
         SheetJob job{m_printer};
+        job.ahead = &m_ahead;
         job.nCopies = run.nCopies;
         job.Progress = [&](int) { Tell(sheet); };
         if (!Tell(sheet)) return;
@@ -29,6 +30,7 @@ public:
             }
             ++m_outcome.nPages;
         }
+        m_ahead.SheetDone();
     }
     const Outcome& Result() const { return m_outcome; }
 
@@ -44,6 +46,7 @@ private:
 
     Printer& m_printer;
     Kit m_kit;
+    PhotosAhead& m_ahead;
     const std::function<bool(const Progress&)>& m_tell;
     Outcome m_outcome;
 };
@@ -95,7 +98,11 @@ std::vector<Pile> Piles(const std::vector<Run>& runs, Kit kit) {
 
 Outcome Print(Printer& printer, const std::vector<Run>& runs, Kit kit,
               const std::function<bool(const Progress&)>& tell) {
-    PagePainter painter(printer, kit, tell);
+    std::vector<std::vector<SheetPhoto>> photos;
+    for (const Run& run : runs)
+        photos.push_back(run.sheet->Photos());
+    PhotosAhead ahead(photos);
+    PagePainter painter(printer, kit, ahead, tell);
     for (const Run& run : runs) {
         painter.Paint(run);
         if (!painter.Result().IsWhole()) break;

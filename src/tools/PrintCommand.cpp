@@ -46,7 +46,10 @@ QStringList AllSheets() {
 
 std::vector<Finding> FindingsInHand(const PrintArguments& arguments) {
     PictureFacts facts;
-    const PdfPrinter page({}, {}, arguments.Paper());
+    PdfPrinter page({}, {}, arguments.Paper());
+    // As wide as that of any sheet: a page that one stands on has the least margins.
+    Sheets().front().LayOn(page, Kit::Eight);
+    page.SetOrientation(PageOrientation::Portrait);
     return CheckGame(TheGame(), facts, {page.PrintableInches()});
 }
 

@@ -5,6 +5,7 @@
 
 #include <iosfwd>
 
+class PhotosAhead;
 class Printer;
 struct PrintArguments;
 struct Sheet;
@@ -36,7 +37,7 @@ private:
     /// Warns of what would come out badly on these sheets, or was to be checked, and isn't told in another way.
     void WarnOfInHand(const PrintArguments& arguments, const QStringList& sheets);
     /// A page of the printer's; sTold is shown with its progress. False when it isn't whole, which has then been told.
-    bool PrintOneSheet(Printer& printer, const Sheet& sheet, const QString& sTold);
+    bool PrintOneSheet(Printer& printer, const Sheet& sheet, const QString& sTold, PhotosAhead& ahead);
     /// Each sheet as a picture into a folder, which is made if need be. False when one isn't there.
     bool PaintPages(const PrintArguments& arguments, const QStringList& asked);
     int PrintGuide(const PrintArguments& arguments);

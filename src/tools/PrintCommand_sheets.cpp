@@ -23,11 +23,19 @@ int DotsFor(int lSize) {
     return std::max(PicturePrinter::kDefaultDpi, lSize / kShorterSideInches);
 }
 
+std::vector<std::vector<SheetPhoto>> PhotosOf(const QStringList& names) {
+    std::vector<std::vector<SheetPhoto>> photos;
+    for (const QString& name : names)
+        photos.push_back(FindSheet(name)->Photos());
+    return photos;
+}
+
 } // namespace
 
-bool PrintCommand::PrintOneSheet(Printer& printer, const Sheet& sheet, const QString& sTold) {
-    printer.SetOrientation(sheet.OrientationOf(KitInUse()));
+bool PrintCommand::PrintOneSheet(Printer& printer, const Sheet& sheet, const QString& sTold, PhotosAhead& ahead) {
+    sheet.LayOn(printer, KitInUse());
     SheetJob job{printer, [this, sTold](int iThousandths) { Progress(sTold, iThousandths); }};
+    job.ahead = &ahead;
     if (!sheet.Prepare(job)) return false;
     if (!sheet.Print(job)) {
         for (const QString& lack : job.lacking)
@@ -35,6 +43,7 @@ bool PrintCommand::PrintOneSheet(Printer& printer, const Sheet& sheet, const QSt
         return false;
     }
     printer.EndDoc();
+    ahead.SheetDone();
     return true;
 }
 
@@ -67,12 +76,13 @@ int PrintCommand::PrintSheetsOf(const PrintArguments& arguments, const QStringLi
     const QStringList sheets = WithoutLeftOut(asked);
     if (sheets.isEmpty()) return kFailed;
     PdfPrinter printer(arguments.sOutput, TitleOf(arguments.sGame), arguments.Paper(), arguments.iDpi);
+    PhotosAhead ahead(PhotosOf(sheets));
     int number = 0;
     for (const QString& name : sheets) {
         const Sheet& sheet = *FindSheet(name);
         const QString told = QStringLiteral("%1/%2 %3").arg(++number).arg(sheets.size()).arg(sheet.Title(Kit::Eight));
         Progress(told, 0);
-        if (!PrintOneSheet(printer, sheet, told)) {
+        if (!PrintOneSheet(printer, sheet, told, ahead)) {
             EndProgress();
             return kFailed;
         }
@@ -92,9 +102,10 @@ bool PrintCommand::PaintPages(const PrintArguments& arguments, const QStringList
         return false;
     }
     const QStringList sheets = WithoutLeftOut(asked);
+    PhotosAhead ahead(PhotosOf(sheets));
     for (const QString& name : sheets) {
         PicturePrinter printer(DotsFor(arguments.iBoardSize));
-        if (!PrintOneSheet(printer, *FindSheet(name), name)) return false;
+        if (!PrintOneSheet(printer, *FindSheet(name), name, ahead)) return false;
         const QString file = basCommon::JoinPath(folder, name + QStringLiteral(".png"));
         if (SavePicture(printer.SmallPage(arguments.iBoardSize), file, error)) continue;
         Complain(QStringLiteral("'%1' could not be written: %2").arg(file, error));

@@ -3,10 +3,13 @@
 
 #include "platform/files/Files.h"
 #include "platform/paint/Recording.h"
+#include "windowing/PrinterTrouble.h"
 
 #include <QPageLayout>
 #include <QPrinter>
 #include <QPrinterInfo>
+
+#include <utility>
 
 namespace {
 
@@ -30,15 +33,24 @@ SystemPrinter::~SystemPrinter() { KillDoc(); }
 QPrinter& SystemPrinter::Device() const {
     if (m_device) return *m_device;
     m_device = std::make_unique<QPrinter>(QPrinter::HighResolution);
-    // What the toolkit starts with follows the desktop's country; the kit's stock is US Letter unless the
-    // printer holds another paper.
-    const QPageSize paper = QPrinterInfo::defaultPrinter().defaultPageSize();
-    m_device->setPageSize(paper.isValid() && !PrintsToPdf() ? paper : QPageSize(QPageSize::Letter));
+    SetPaper();
     m_device->setFullPage(false);
     // A queue that knows nothing of its printer would print in greys.
     m_device->setColorMode(QPrinter::Color);
     m_device->setCreator(QStringLiteral("Tavlora"));
     return *m_device;
+}
+
+void SystemPrinter::SetPaper() const {
+    // What the toolkit starts with is the desktop's country's; a printer knows better what it holds.
+    const QPageSize held = QPrinterInfo::printerInfo(m_device->printerName()).defaultPageSize();
+    const bool asHeld = m_paper == PaperChoice::Usual && held.isValid() && !PrintsToPdf();
+    m_device->setPageSize(asHeld ? held : QPageSize(PaperSizes::Of(m_paper)));
+}
+
+void SystemPrinter::ChoosePaper(PaperChoice choice) {
+    // What was chosen in the desktop's own dialog holds until another is chosen here.
+    if (std::exchange(m_paper, choice) != choice && m_device) SetPaper();
 }
 
 bool SystemPrinter::PrintsToPdf() const {
@@ -50,6 +62,10 @@ QString SystemPrinter::DeviceName() const { return PrintsToPdf() ? QString() : D
 
 bool SystemPrinter::IsThere() const {
     return PrintsToPdf() || !QPrinterInfo::printerInfo(Device().printerName()).isNull();
+}
+
+QString SystemPrinter::Trouble() const {
+    return PrintsToPdf() ? QString() : PrinterTrouble::Of(Device().printerName());
 }
 
 double SystemPrinter::DotsPerInch() const {
@@ -73,8 +89,10 @@ void SystemPrinter::OpenDocument() {
     QString error;
     // A folder that can't be made shows when the file is put in place.
     Files::MakeDirectory(m_pdfFolder, error);
-    m_pdf = std::make_unique<PdfPrinter>(PdfPath(), m_documentName);
+    m_pdf = std::make_unique<PdfPrinter>(PdfPath(), m_documentName, PaperOfFiles());
     m_pdf->SetOrientation(m_orientation);
+    m_pdf->CentreSheet(m_sheet);
+    m_pdf->SetPageName(m_pageName);
 }
 
 DeviceContext& SystemPrinter::hDC() {
@@ -82,13 +100,14 @@ DeviceContext& SystemPrinter::hDC() {
     return m_pdf ? m_pdf->hDC() : *m_context;
 }
 
-QSizeF SystemPrinter::PrintableInches() const {
+PaperOfPage SystemPrinter::PagePaper() const {
     const bool landscape = m_orientation == PageOrientation::Landscape;
     QPageLayout layout = Device().pageLayout();
     layout.setOrientation(landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
-    if (!PrintsToPdf()) return layout.paintRect(QPageLayout::Inch).size();
-    return layout.fullRect(QPageLayout::Inch).size() -
-           QSizeF(2 * PdfPrinter::kMarginInches, 2 * PdfPrinter::kMarginInches);
+    const double margin = PdfPrinter::MarginInches(layout.pageSize().id());
+    const QMarginsF margins =
+        PrintsToPdf() ? QMarginsF(margin, margin, margin, margin) : layout.margins(QPageLayout::Inch);
+    return PaperOfPage::Of(layout.fullRect(QPageLayout::Inch).size(), margins, m_sheet);
 }
 
 QSize SystemPrinter::SizeInPixels() const { return (PrintableInches() * DotsPerInch()).toSize(); }
@@ -123,7 +142,9 @@ void SystemPrinter::SendJob() {
         return;
     }
     painter.setRenderHints(kHints);
-    m_page->Play(painter, QRectF(QPointF(0, 0), m_page->Size()));
+    const PaperOfPage paper = PagePaper();
+    const QPointF inwards = (paper.origin - paper.printable.topLeft()) * DotsPerInch();
+    m_page->Play(painter, QRectF(inwards, m_page->Size()));
     if (!painter.end()) m_lastError = QStringLiteral("The printer reported a failure");
 }
 

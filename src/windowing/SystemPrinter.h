@@ -18,8 +18,10 @@ public:
     bool PrintsToPdf() const;
     /// Characters of the document's name that no file name takes become "-" in that of the PDF file.
     void SetDocumentName(const QString& sName) override { m_documentName = sName; }
+    void SetPageName(const QString& sName) override { m_pageName = sName; }
     QString DeviceName() const override;
     bool IsThere() const override;
+    QString Trouble() const override;
     QString LastPdf() const override { return m_lastPdf; }
     QString LastError() const override { return m_lastError; }
     /// For the dialog that chooses another printer and its settings.
@@ -32,18 +34,26 @@ public:
     PageOrientation Orientation() const override { return m_orientation; }
     void EndDoc() override;
     void KillDoc() override;
-    QSizeF PrintableInches() const override;
+    QSizeF PrintableInches() const override { return PagePaper().printable.size(); }
+    PaperOfPage PagePaper() const override;
+    void CentreSheet(QSizeF inches) override { m_sheet = inches; }
+    void ChoosePaper(PaperChoice choice) override;
+    QPageSize::PageSizeId PaperOfFiles() const override { return PaperSizes::Of(m_paper); }
 
 private:
+    void SetPaper() const;
     void OpenDocument();
     void SendJob();
     QString PdfPath() const;
 
     QString m_pdfFolder;
     QString m_documentName = QStringLiteral("Tavlora");
+    QString m_pageName;
     QString m_lastPdf;
     QString m_lastError;
     PageOrientation m_orientation = PageOrientation::Portrait;
+    QSizeF m_sheet;
+    PaperChoice m_paper = PaperChoice::Usual;
     /// Made when it is first asked for: looking for the printers of a network takes its time.
     mutable std::unique_ptr<QPrinter> m_device;
     std::unique_ptr<PdfPrinter> m_pdf;

@@ -31,6 +31,7 @@
 #include "windows/print/frmPrntPrep.h"
 #include "windows/print/frmTavlPrint.h"
 #include "windows/print/PrintEverything.h"
+#include "windows/print/PrintPreview.h"
 #include "windows/sending/frmSendGame.h"
 
 #include <QAbstractButton>
@@ -85,6 +86,7 @@ protected:
         add(new frmTavlPrint);
         add(new PrintEverything);
         add(new PrintWithoutKit);
+        add(new PrintPreview);
         add(new frmSendGame({}, QString()));
         add(new frmEarlierVersions);
         return all;

@@ -39,12 +39,14 @@ public:
     void SetDocumentName(const QString& sName) override { name = sName; }
     QString DeviceName() const override { return device; }
     bool IsThere() const override { return there; }
+    QString Trouble() const override { return trouble; }
     QString LastPdf() const override { return pdf; }
     QString LastError() const override { return error; }
 
     /// What it tells.
     QString device = QStringLiteral("Laser");
     bool there = true;
+    QString trouble;
     QString pdf;
     QString error;
     QSizeF printable;

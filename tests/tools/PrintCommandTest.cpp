@@ -199,7 +199,15 @@ TEST_F(PrintCommandTest, KitFitsA4Too) {
     ASSERT_EQ(reader.Pages(), int(Sheets().size()));
     EXPECT_NEAR(reader.PaperInches(PageOf("box")).width(), 297 / 25.4, 0.02);
     EXPECT_NEAR(reader.PaperInches(PageOf("rules")).height(), 297 / 25.4, 0.02);
-    EXPECT_NEAR(reader.BoxOf(PageOf("box"), QStringLiteral("Game Token Stickers")).left(), 8.15, 0.04);
+    constexpr double kMargin = PdfPrinter::kMarginInches;
+    for (const char* name : {"box", "west", "east"}) {
+        const QSizeF paper = reader.PaperInches(PageOf(name));
+        const QRectF ink =
+            reader.InkBox(PageOf(name), QRectF(QPointF(-kMargin, -kMargin), paper)).translated(kMargin, kMargin);
+        EXPECT_NEAR(ink.left(), paper.width() - ink.right(), 0.08) << name;
+        for (const double margin : {ink.left(), ink.top(), paper.width() - ink.right(), paper.height() - ink.bottom()})
+            EXPECT_GT(margin, PdfPrinter::kMarginInchesOfA4) << name;
+    }
 }
 
 TEST_F(PrintCommandTest, ProgressIsShownOnATerminal) {

@@ -161,6 +161,31 @@ TEST_F(PrintEverythingTest, APageThatIsTooSmallIsAskedAboutOnceForAllSheets) {
     EXPECT_FALSE(desktop.boxes[0].sText.contains(QStringLiteral("News")));
 }
 
+TEST_F(PrintEverythingTest, NoMorePagesGoToAPrinterThatDoesNotPrintThoseThatItHas) {
+    int asked = 0;
+    desktop.onBox = [&] {
+        if (!desktop.boxes.last().sText.contains(QStringLiteral("doesn't print"))) return;
+        EXPECT_EQ(printer.ended.size(), 3) << "the page that was under way is finished";
+        // Somebody has put paper in when it is asked about for the second time.
+        if (++asked == 2) printer.trouble.clear();
+    };
+    desktop.onPump = [&] {
+        if (printer.ended.size() == 2 && asked == 0) printer.trouble = QStringLiteral("It is out of paper.");
+    };
+    Show([this] { Print(); });
+    EXPECT_EQ(asked, 2);
+    EXPECT_EQ(printer.ended.size(), kPagesOfSix);
+    printer.trouble = QStringLiteral("It is out of paper.");
+    desktop.onPump = nullptr;
+    desktop.onBox = nullptr;
+    desktop.answers = {vbOK, vbCancel};
+    Show([this] {
+        Print();
+        EXPECT_EQ(Label("lblPage"), QStringLiteral("Stopped."));
+    });
+    EXPECT_EQ(printer.ended.size(), kPagesOfSix);
+}
+
 TEST_F(PrintEverythingTest, AFailureFreesTheWindow) {
     desktop.onPump = [this] {
         if (printer.ended.size() == 1) ErrRaise(ErrNumber::kOutOfMemory, QStringLiteral("Out of memory"));

@@ -127,18 +127,24 @@ public:
         for (const Prepared& prepared : m_prepared) {
             if (prepared.key == key) return prepared;
         }
-        constexpr size_t kMost = 6;
-        if (m_prepared.size() >= kMost) m_prepared.pop_front();
         QImage pixels =
             key.part == QRectF(image.rect()) && key.size == image.size() ? image : Resample(image, key.part, key.size);
         if (pixels.depth() != 32) pixels = pixels.convertToFormat(QImage::Format_ARGB32_Premultiplied);
         if (key.withoutWhite) pixels = WithoutWhite(pixels);
+        m_bytes += pixels.sizeInBytes();
         m_prepared.push_back({key, pixels, IsDrawing(pixels)});
+        // A photograph that stands on two sheets is still known on the second.
+        constexpr qint64 kMostBytes = qint64(8) << 20;
+        while (m_bytes > kMostBytes && m_prepared.size() > 1) {
+            m_bytes -= m_prepared.front().image.sizeInBytes();
+            m_prepared.pop_front();
+        }
         return m_prepared.back();
     }
 
 private:
     std::deque<Prepared> m_prepared;
+    qint64 m_bytes = 0;
 };
 
 // As many as there are at most. A pixel too many is no reason to blur a picture that was brought to its size

@@ -139,6 +139,13 @@ bool PrefetchPicture(const QString& sPath, int longerSideWanted) {
     return false;
 }
 
+void DropPicture(const QString& sPath) { PictureCache::Instance().Drop(sPath); }
+
+void ForgetPicturesBut(const QSet<QString>& paths) {
+    PictureCache::Instance().DropAllBut(paths);
+    KeptRecordings::Instance().Clear();
+}
+
 void ForgetPictures() {
     Decoders().waitForDone();
     PictureCache::Instance().Clear();

@@ -3,6 +3,7 @@
 
 #include "platform/paint/Picture.h"
 
+#include <QSet>
 #include <QString>
 
 /// Loads a picture whatever its extension says: the content decides. A null picture and a sentence in
@@ -19,6 +20,11 @@ bool PrefetchPicture(const QString& sPath, int longerSideWanted = kAllPixels);
 /// The file, just written, shows what was drawn here: as long as it isn't changed, LoadPicture hands the
 /// recording on with its pixels. The recordings kept last are bounded in number.
 void KeepRecording(const QString& sPath, std::shared_ptr<const Recording> recording);
+
+/// Drops what is kept of a file; of all files but these, and all recordings: for who knows that nothing to come shows
+/// them.
+void DropPicture(const QString& sPath);
+void ForgetPicturesBut(const QSet<QString>& paths);
 
 /// Waits for all prefetching and drops all kept pictures.
 void ForgetPictures();

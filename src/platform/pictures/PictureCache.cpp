@@ -125,6 +125,15 @@ void PictureCache::Drop(const QString& sPath) {
     });
 }
 
+void PictureCache::DropAllBut(const QSet<QString>& paths) {
+    const std::scoped_lock lock(m_mutex);
+    m_slots.remove_if([&](const Slot& slot) {
+        const bool drops = slot.ready && !paths.contains(slot.key.sPath);
+        if (drops) m_bytes -= BytesOf(slot.entry);
+        return drops;
+    });
+}
+
 void PictureCache::Clear() {
     const std::scoped_lock lock(m_mutex);
     m_slots.remove_if([](const Slot& slot) { return slot.ready; });

@@ -4,6 +4,8 @@
 #include "platform/files/Files.h"
 #include "platform/paint/Picture.h"
 
+#include <QSet>
+
 #include <condition_variable>
 #include <list>
 #include <mutex>
@@ -41,6 +43,8 @@ public:
     void Fulfil(const Key& key, Entry entry);
     /// Drops what is kept of a file.
     void Drop(const QString& sPath);
+    /// Drops what is kept of all files but these.
+    void DropAllBut(const QSet<QString>& paths);
     void Clear();
     qint64 Bytes() const;
 

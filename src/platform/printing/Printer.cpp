@@ -3,6 +3,7 @@
 
 #include "platform/files/Files.h"
 #include "platform/files/SaveFile.h"
+#include "platform/printing/NamedPdf.h"
 
 #include <QPageLayout>
 #include <QPdfWriter>
@@ -24,6 +25,16 @@ void Printer::ForgetSettings() {
     ScaleMode = ScaleModeKind::Twips;
 }
 
+PaperOfPage Printer::PagePaper() const {
+    constexpr double margin = PdfPrinter::kMarginInches;
+    const QSizeF size = PrintableInches() + QSizeF(2 * margin, 2 * margin);
+    return PaperOfPage::Of(size, QMarginsF(margin, margin, margin, margin), {});
+}
+
+double PdfPrinter::MarginInches(QPageSize::PageSizeId paper) {
+    return paper == QPageSize::A4 ? kMarginInchesOfA4 : kMarginInches;
+}
+
 PdfPrinter::PdfPrinter(const QString& sPath, const QString& sTitle, QPageSize::PageSizeId paper, int dpi)
     : m_title(sTitle), m_dpi(dpi), m_paper(paper), m_file(std::make_unique<SaveFile>(sPath)) {}
 
@@ -35,7 +46,8 @@ bool PdfPrinter::OpenFile() {
         m_openError = m_file->errorString();
         return false;
     }
-    m_writer = std::make_unique<QPdfWriter>(m_file.get());
+    m_named = std::make_unique<NamedPdf>(*m_file);
+    m_writer = std::make_unique<QPdfWriter>(m_named.get());
     m_writer->setResolution(m_dpi);
     m_writer->setTitle(m_title);
     m_writer->setCreator(QStringLiteral("Tavlora"));
@@ -47,6 +59,7 @@ void PdfPrinter::OpenPage() {
     const bool opened = !first || OpenFile();
     m_pageOpen = true;
     ++m_pages;
+    m_pageNames.append(m_pageName);
     if (!opened || !m_writer) {
         // What the page before was painted with still holds the picture.
         m_context.reset();
@@ -54,10 +67,12 @@ void PdfPrinter::OpenPage() {
         m_context = std::make_unique<DeviceContext>(m_nowhere);
         return;
     }
-    const double margin = kMarginInches * 72;
+    constexpr double kPoints = 72;
+    const PaperOfPage paper = PagePaper();
+    const QPointF behind = QRectF(QPointF(0, 0), paper.size).bottomRight() - paper.printable.bottomRight();
     m_writer->setPageLayout(QPageLayout(
         m_paper, m_orientation == PageOrientation::Landscape ? QPageLayout::Landscape : QPageLayout::Portrait,
-        QMarginsF(margin, margin, margin, margin), QPageLayout::Point));
+        QMarginsF(paper.origin.x(), paper.origin.y(), behind.x(), behind.y()) * kPoints, QPageLayout::Point));
     if (first) {
         m_painter = std::make_unique<QPainter>(m_writer.get());
         m_painter->setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
@@ -77,11 +92,15 @@ DeviceContext& PdfPrinter::hDC() {
     return *m_context;
 }
 
-QSizeF PdfPrinter::PrintableInches() const {
+PaperOfPage PdfPrinter::PagePaper() const {
     QSizeF inches = m_paper.size(QPageSize::Inch);
     if (m_orientation == PageOrientation::Landscape) inches.transpose();
-    return inches - QSizeF(2 * kMarginInches, 2 * kMarginInches);
+    // Who doesn't say what is to be centred has laid the page out for the usual margin.
+    const double margin = m_sheet.isEmpty() ? kMarginInches : MarginInches(m_paper.id());
+    return PaperOfPage::Of(inches, QMarginsF(margin, margin, margin, margin), m_sheet);
 }
+
+QSizeF PdfPrinter::PrintableInches() const { return PagePaper().printable.size(); }
 
 QSize PdfPrinter::SizeInPixels() const { return (PrintableInches() * m_dpi).toSize(); }
 
@@ -95,6 +114,7 @@ void PdfPrinter::EndPainting() {
 
 void PdfPrinter::KillDoc() {
     EndPainting();
+    m_named.reset();
     m_file->Discard();
 }
 
@@ -105,5 +125,6 @@ bool PdfPrinter::Close(QString& sError) {
         sError = m_openError;
         return false;
     }
+    m_named->NamePages(m_pageNames);
     return m_file->Commit(sError);
 }

@@ -2,11 +2,11 @@
 #pragma once
 
 #include "platform/paint/Surface.h"
-
-#include <QPageSize>
+#include "platform/printing/PaperOfPage.h"
 
 #include <memory>
 
+class NamedPdf;
 class QPdfWriter;
 class SaveFile;
 
@@ -29,13 +29,25 @@ public:
     virtual void KillDoc() = 0;
     /// Printable width and height in inches, in the orientation that holds.
     virtual QSizeF PrintableInches() const = 0;
+    /// The paper that the next page goes on.
+    virtual PaperOfPage PagePaper() const;
+    /// Holds from the next page on: on paper other than the kit's own a sheet of so many inches stands in the middle.
+    virtual void CentreSheet(QSizeF) {}
+    /// Which paper is used from the next document on, as far as the printer lets itself be told.
+    virtual void ChoosePaper(PaperChoice) {}
+    /// Of files for want of a printer.
+    virtual QPageSize::PageSizeId PaperOfFiles() const { return QPageSize::Letter; }
 
     /// Name of the next document; a printer that writes files names them after it.
     virtual void SetDocumentName(const QString&) {}
+    /// Name of the next page, for printers that keep one.
+    virtual void SetPageName(const QString&) {}
     /// What the desktop calls the device; empty where there is none, as with pages that go into a file.
     virtual QString DeviceName() const { return {}; }
     /// Asks the desktop for the device anew. False when it has gone, or whoever serves it.
     virtual bool IsThere() const { return true; }
+    /// What keeps the device from printing what it was sent, as a sentence; empty when nothing does or nobody knows.
+    virtual QString Trouble() const { return {}; }
     /// Path of the PDF file that the last EndDoc wrote; empty when it went to a device or failed.
     virtual QString LastPdf() const { return {}; }
     /// Why the document being printed, or the last one, fails; empty when it doesn't.
@@ -47,11 +59,14 @@ public:
     static Printer* Current();
 };
 
-/// Prints into one PDF file, a page to each EndDoc, 0.25 inch of margin on every side.
+/// Prints into one PDF file, a page to each EndDoc, 0.25 inch of margin on every side. A4 has half of it: the kit's
+/// sheets were made for paper that is wider, and printers reach that far.
 class PdfPrinter : public Printer {
 public:
     static constexpr int kDefaultDpi = 600;
     static constexpr double kMarginInches = 0.25;
+    static constexpr double kMarginInchesOfA4 = 0.125;
+    static double MarginInches(QPageSize::PageSizeId paper);
 
     PdfPrinter(const QString& sPath, const QString& sTitle, QPageSize::PageSizeId paper = QPageSize::Letter,
                int dpi = kDefaultDpi);
@@ -60,11 +75,14 @@ public:
     double DotsPerInch() const override { return m_dpi; }
     DeviceContext& hDC() override;
     QSize SizeInPixels() const override;
+    void SetPageName(const QString& sName) override { m_pageName = sName; }
     void SetOrientation(PageOrientation orientation) override { m_orientation = orientation; }
     PageOrientation Orientation() const override { return m_orientation; }
     void EndDoc() override { m_pageOpen = false; }
     void KillDoc() override;
     QSizeF PrintableInches() const override;
+    PaperOfPage PagePaper() const override;
+    void CentreSheet(QSizeF inches) override { m_sheet = inches; }
     /// Of any size; holds from the next page on.
     void SetPaper(const QPageSize& paper) { m_paper = paper; }
 
@@ -83,10 +101,14 @@ private:
     int m_dpi;
     QPageSize m_paper;
     PageOrientation m_orientation = PageOrientation::Portrait;
+    QSizeF m_sheet;
     bool m_pageOpen = false;
     int m_pages = 0;
+    QString m_pageName;
+    QStringList m_pageNames;
     std::unique_ptr<SaveFile> m_file;
     QString m_openError;
+    std::unique_ptr<NamedPdf> m_named;
     std::unique_ptr<QPdfWriter> m_writer;
     std::unique_ptr<QPainter> m_painter;
     std::unique_ptr<DeviceContext> m_context;

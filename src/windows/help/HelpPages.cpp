@@ -37,6 +37,7 @@ constexpr Row kRows[] = {
     {"frmSendGame", "sending.html"},
     {"frmBeforePrint", "check.html"},
     {"PrintEverything", "print.html"},
+    {"PrintPreview", "print.html"},
     {"PrintWithoutKit", "print.html"},
     {"frmMissingPictures", "pictures.html"},
     {"frmEarlierVersions", "board.html"},

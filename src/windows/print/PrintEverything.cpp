@@ -14,6 +14,7 @@
 #include "windowing/HourGlass.h"
 #include "windowing/OpenPath.h"
 #include "windows/print/PageUnderWay.h"
+#include "windows/print/PrintPreview.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -53,6 +54,7 @@ QStringList WordsOf(const std::vector<WholeKit::Run>& runs) {
 bool PrintEverything::ShowForm(bool bPrintStarted) try {
     m_bPrintStarted = bPrintStarted;
     basErrLog::ErrAssert(Printer::Current() != nullptr, QStringLiteral("There is no printer"));
+    Printer::Current()->ChoosePaper(ConsoleSheets::PaperInUse());
     FillSheets();
     ShowDestination();
     adjustSize();
@@ -117,6 +119,7 @@ void PrintEverything::ShowWhatIsNeeded() {
     m_needed->setText(lines.isEmpty() ? QStringLiteral("Tick the sheets that you would like to print.")
                                       : QStringLiteral("This takes:\n") + lines.join(u'\n'));
     m_print->setEnabled(!runs.empty() && !m_bBusy);
+    m_preview->setEnabled(m_print->isEnabled());
 }
 
 void PrintEverything::cmdPrint_Click() try {
@@ -150,7 +153,8 @@ void PrintEverything::PrintIntoFile(const std::vector<WholeKit::Run>& runs) {
     // A folder that can't be made shows when the file is put in place.
     Files::MakeDirectory(ConsoleSheets::PrintedFolder(), error);
     error.clear();
-    PdfPrinter printer(path, ConsoleSheets::DocumentName(GameHost::Current().GameName(), kTitleOfPdf));
+    PdfPrinter printer(path, ConsoleSheets::DocumentName(GameHost::Current().GameName(), kTitleOfPdf),
+                       Printer::Current()->PaperOfFiles());
     bool written = false;
     const WholeKit::Outcome outcome = Paint(printer, runs, [&] { written = printer.Close(error); });
     if (outcome.sheet) return TellWhatIsLacking(outcome);
@@ -180,10 +184,26 @@ void PrintEverything::PrintOnPaper(Printer& printer, const std::vector<WholeKit:
                                   vbOKCancel | vbInformation);
         if (answer != vbOK) return m_page->SetWholeText(QStringLiteral("Stopped."));
         for (const WholeKit::Run& run : runs) {
-            if (run.sheet->Stock(m_kit) == pile.sStock && !PrintSheet(printer, run)) return;
+            if (run.sheet->Stock(m_kit) != pile.sStock) continue;
+            if (!IsReady(printer) || !PrintSheet(printer, run)) return;
         }
     }
     m_page->SetWholeText(QStringLiteral("All %1 pages went to the printer.").arg(m_nPagesDone));
+}
+
+// No more pages go to a printer that doesn't print those that it has.
+bool PrintEverything::IsReady(const Printer& printer) {
+    for (QString trouble = printer.Trouble(); !trouble.isEmpty(); trouble = printer.Trouble()) {
+        const int answer =
+            MsgBox(ConsoleSheets::TroubleMessage(printer, trouble) +
+                       QStringLiteral("\r\n\r\nClick 'OK' when it prints again, or 'Cancel' to stop here. "
+                                      "A sheet that is lost is printed again when you tick it."),
+                   vbOKCancel | vbExclamation);
+        if (answer == vbOK) continue;
+        m_page->SetWholeText(QStringLiteral("Stopped."));
+        return false;
+    }
+    return true;
 }
 
 bool PrintEverything::PrintSheet(Printer& printer, const WholeKit::Run& run) {
@@ -215,7 +235,7 @@ bool PrintEverything::AcceptsPages(Printer& printer, const std::vector<WholeKit:
     if (!printer.IsThere()) return MsgBox(ConsoleSheets::NoPrinterMessage(printer), vbOKCancel | vbExclamation) == vbOK;
     QStringList lost;
     for (const WholeKit::Run& run : runs) {
-        printer.SetOrientation(run.sheet->OrientationOf(m_kit));
+        run.sheet->LayOn(printer, m_kit);
         const QString lines = run.sheet->WhatIsLostOn(printer.PrintableInches(), m_kit);
         if (!lines.isEmpty()) lost.append(run.sheet->Title(m_kit) + QStringLiteral(": ") + lines);
     }
@@ -254,6 +274,18 @@ void PrintEverything::SetBusy(bool bBusy) {
     m_stop->setEnabled(bBusy);
     m_close->setEnabled(!bBusy);
     ShowWhatIsNeeded();
+}
+
+void PrintEverything::cmdPreview_Click() try {
+    if (m_bBusy || TickedRuns().empty()) return;
+    if (!m_frmPreview) {
+        m_frmPreview = new PrintPreview(this);
+        m_frmPreview->TellInPrint = [this](bool bNow) { TellInPrint(bNow); };
+    }
+    const auto wish = m_frmPreview->ShowForm(*Printer::Current(), TickedRuns(), PrintPreview::From::Everything);
+    if (wish == PrintPreview::Wish::PrintAll) cmdPrint_Click();
+} catch (...) {
+    ErrTop("PrintEverything!", "cmdPreview_Click");
 }
 
 void PrintEverything::cmdStop_Click() { m_bStop = true; }

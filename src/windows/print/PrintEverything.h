@@ -11,6 +11,7 @@
 
 class ElidedLabel;
 class Printer;
+class PrintPreview;
 class QComboBox;
 class QLabel;
 class QListWidget;
@@ -39,6 +40,7 @@ public:
 public Q_SLOTS:
     void cmdPrint_Click();
     void cmdStop_Click();
+    void cmdPreview_Click();
     void cmdOpen_Click();
     void cmdShowFolder_Click();
     void ShowWhatIsNeeded();
@@ -55,6 +57,7 @@ private:
     bool AcceptsPages(Printer& printer, const std::vector<WholeKit::Run>& runs);
     void PrintIntoFile(const std::vector<WholeKit::Run>& runs);
     void PrintOnPaper(Printer& printer, const std::vector<WholeKit::Run>& runs);
+    bool IsReady(const Printer& printer);
     bool PrintSheet(Printer& printer, const WholeKit::Run& run);
     WholeKit::Outcome Paint(Printer& printer, const std::vector<WholeKit::Run>& runs,
                             const std::function<void()>& whenWhole);
@@ -71,10 +74,12 @@ private:
     ElidedLabel* m_page = nullptr;
     QPushButton* m_print = nullptr;
     QPushButton* m_stop = nullptr;
+    QPushButton* m_preview = nullptr;
     QPushButton* m_close = nullptr;
     QPushButton* m_open = nullptr;
     QPushButton* m_showFolder = nullptr;
 
+    PrintPreview* m_frmPreview = nullptr;
     Kit m_kit = Kit::Unknown;
     bool m_bPrintStarted = false;
     bool m_bBusy = false;

@@ -87,12 +87,14 @@ QLayout* PrintEverything::BuildPlayers() {
 QLayout* PrintEverything::BuildButtons() {
     m_open = MakeButton(this, "cmdOpen", "&Open PDF");
     m_showFolder = MakeButton(this, "cmdShowFolder", "Show &Folder");
+    m_preview = MakeButton(this, "cmdPreview", "Pre&view...");
     m_stop = MakeButton(this, "cmdStop", "&Stop");
     m_close = MakeButton(this, "cmdClose", "&Close");
     m_print = MakeButton(this, "cmdPrint", "&Print");
     m_stop->setEnabled(false);
     connect(m_open, &QPushButton::clicked, this, &PrintEverything::cmdOpen_Click);
     connect(m_showFolder, &QPushButton::clicked, this, &PrintEverything::cmdShowFolder_Click);
+    connect(m_preview, &QPushButton::clicked, this, &PrintEverything::cmdPreview_Click);
     connect(m_stop, &QPushButton::clicked, this, &PrintEverything::cmdStop_Click);
     connect(m_close, &QPushButton::clicked, this, &PrintEverything::reject);
     connect(m_print, &QPushButton::clicked, this, &PrintEverything::cmdPrint_Click);
@@ -100,7 +102,7 @@ QLayout* PrintEverything::BuildButtons() {
     row->addWidget(m_open);
     row->addWidget(m_showFolder);
     row->addStretch();
-    for (QPushButton* button : {m_stop, m_close, m_print})
+    for (QPushButton* button : {m_stop, m_close, m_preview, m_print})
         row->addWidget(button);
     return row;
 }

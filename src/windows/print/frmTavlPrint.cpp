@@ -14,11 +14,14 @@
 #include "windowing/ElidedLabel.h"
 #include "windowing/PictureBox.h"
 #include "windowing/Screen.h"
+#include "windowing/WidgetLook.h"
 #include "windows/nokit/PrintWithoutKit.h"
 #include "windows/print/ChangePrinter.h"
 #include "windows/print/frmPrntPrep.h"
 #include "windows/print/PageUnderWay.h"
+#include "windows/print/PrinterWatch.h"
 #include "windows/print/PrintEverything.h"
+#include "windows/print/PrintPreview.h"
 
 #include <QAbstractButton>
 #include <QButtonGroup>
@@ -40,6 +43,9 @@ const QString kCancelled = QStringLiteral("Cancel");
 
 frmTavlPrint::frmTavlPrint(QWidget* parent) : QDialog(parent) {
     BuildControls();
+    m_watch = new PrinterWatch(this);
+    m_watch->MayTell = [this] { return !bInPrint; };
+    m_watch->Tell = std::bind_front(&frmTavlPrint::TellTrouble, this);
     Form_Load();
 }
 
@@ -48,6 +54,7 @@ frmTavlPrint::~frmTavlPrint() = default;
 bool frmTavlPrint::ShowForm(bool bPrintStarted) try {
     m_bPrintStarted = bPrintStarted;
     cmdNav_Click(0);
+    if (Printer::Current()) Printer::Current()->ChoosePaper(ConsoleSheets::PaperInUse());
     ShowDestination();
     exec();
     return m_bPrintStarted;
@@ -60,12 +67,18 @@ void frmTavlPrint::ShowDestination() {
     const QString device = printer ? printer->DeviceName() : QString();
     lblPrinter->setText(device.isEmpty() ? QStringLiteral("No printer is set up: each sheet becomes a PDF file.")
                                          : QStringLiteral("Printer: ") + device);
+    const PaperChoice choice = ConsoleSheets::PaperInUse();
+    cboPaper->setCurrentIndex(int(choice));
+    const QString paper =
+        printer ? QStringLiteral("\nSheets are laid out for ") + printer->PagePaper().Name() + u'.' : QString();
+    WidgetLook::SetToolTip(*cboPaper, QStringLiteral("The size of the paper in the printer.") + paper);
 }
 
 void frmTavlPrint::cmdNav_Click(int Index) try {
     for (QGroupBox* frame : fraPrint)
         frame->hide();
     fraPrint.at(Index)->show();
+    m_frame = Frame(Index);
     for (QAbstractButton* button : fraPrint[Index]->findChildren<QAbstractButton*>()) {
         if (button->isHidden()) continue;
         button->setFocus();
@@ -113,6 +126,38 @@ void frmTavlPrint::cmdNoKit_Click() try {
     form.ShowForm();
 } catch (...) {
     ErrTop("frmTavlPrint!", "cmdNoKit_Click");
+}
+
+void frmTavlPrint::cboPaper_Activated(int Index) try {
+    if (bInPrint || !Printer::Current()) return ShowDestination();
+    ConsoleSheets::KeepPaper(PaperChoice(Index));
+    Printer::Current()->ChoosePaper(PaperChoice(Index));
+    m_acceptedPages.clear();
+    ShowDestination();
+} catch (...) {
+    ErrTop("frmTavlPrint!", "cboPaper_Activated", Index);
+}
+
+void frmTavlPrint::cmdPreview_Click() try {
+    if (bInPrint) return;
+    std::vector<WholeKit::Run> runs = WholeKit::Runs(KitInUse(), WholeKit::kMostPlayers);
+    std::erase_if(runs,
+                  [this](const WholeKit::Run& run) { return m_frame != Frame::Menu && run.sheet->frame != m_frame; });
+    if (runs.empty()) {
+        MsgBox(ConsoleSheets::WhyNotPrinted(ConsoleSheets::SheetOf(0), KitInUse()));
+        return;
+    }
+    for (WholeKit::Run& run : runs)
+        run.nCopies = 1;
+    if (!m_preview) {
+        m_preview = new PrintPreview(this);
+        m_preview->TellInPrint = [this](bool bNow) { TellInPrint(bNow); };
+    }
+    const PrintPreview::Wish wish = m_preview->ShowForm(JobPrinter(), runs, PrintPreview::From::Console);
+    if (wish == PrintPreview::Wish::PrintSheet) cmdPrint_Click(m_preview->InFront()->iButton);
+    if (wish == PrintPreview::Wish::PrintAll) cmdEverything_Click();
+} catch (...) {
+    ErrTop("frmTavlPrint!", "cmdPreview_Click");
 }
 
 void frmTavlPrint::cmdPrint_Click(int Index) try {
@@ -179,7 +224,7 @@ bool frmTavlPrint::RunJob(const Sheet& sheet, const QString& sDone) {
     m_sFailure.clear();
     lblSheet->SetWholeText(sheet.Title(kit));
     lblPiece->SetWholeText(QString());
-    printer.SetOrientation(sheet.OrientationOf(kit));
+    sheet.LayOn(printer, kit);
     if (!AcceptsPrinter(printer) || !AcceptsPage(printer, sheet)) return true;
     Screen::SetMousePointer(Screen::MousePointer::HourGlass);
     const double dblFree = basAPI::FreeSpaceOnDisk(QStringLiteral("C:\\"));
@@ -227,6 +272,10 @@ bool frmTavlPrint::PrintCopies(SheetJob& job, const Sheet& sheet, double dblFree
         }
         MarkDone(sheet, sDone);
         CloseDocument(job.printer);
+        if (m_sFailure.isEmpty()) {
+            m_iLastSent = sheet.iButton;
+            m_watch->PageSent(job.printer);
+        }
     }
     return true;
 }
@@ -260,6 +309,16 @@ void frmTavlPrint::CleanUp() {
     Screen::SetMousePointer(Screen::MousePointer::Default);
     bInPrint = false;
     Let_Progress(kHidden);
+}
+
+void frmTavlPrint::TellTrouble(const QString& sTrouble) {
+    const QString question =
+        QStringLiteral("\r\n\r\nIf it is lost, the sheet '%1' can be sent once more. Send it now?");
+    const Sheet& sheet = ConsoleSheets::SheetOf(m_iLastSent);
+    const int answer =
+        MsgBox(ConsoleSheets::TroubleMessage(JobPrinter(), sTrouble) + question.arg(sheet.Title(KitInUse())),
+               vbYesNo | vbExclamation | vbDefaultButton2);
+    if (answer == vbYes) cmdPrint_Click(m_iLastSent);
 }
 
 void frmTavlPrint::TellWhereItWent() {

@@ -18,6 +18,8 @@ class ElidedLabel;
 class frmPrntPrep;
 class PictureBox;
 class PrintEverything;
+class PrintPreview;
+class PrinterWatch;
 class QButtonGroup;
 class QComboBox;
 class QFrame;
@@ -67,6 +69,8 @@ public Q_SLOTS:
     void cmdTryAgain_Click();
     void cmdEverything_Click();
     void cmdNoKit_Click();
+    void cmdPreview_Click();
+    void cboPaper_Activated(int Index);
     void Command1_Click();
     void picTest_Click();
 
@@ -78,9 +82,11 @@ private:
     void AddButtons(Frame frame, QVBoxLayout* column);
     void BuildNumberOfSheets(QVBoxLayout* column);
     void BuildProgress();
+    void BuildDestination();
     void BuildClosing();
     void BuildDebugAids();
     void PlaceControls();
+    void PlaceDestination(const QRect& room);
     void Form_Load();
     void ShowDestination();
 
@@ -94,6 +100,7 @@ private:
     void MarkDone(const Sheet& sheet, const QString& sDone);
     void CloseDocument(Printer& printer);
     void CleanUp();
+    void TellTrouble(const QString& sTrouble);
     void TellWhereItWent();
     void ShowPiece(const char* sPiece, int iPiece, int nPieces);
     /// Nothing more is printed until somebody has pressed Try Again, which begins with this button's sheet.
@@ -114,11 +121,18 @@ private:
     ElidedLabel* lblPiece = nullptr;
     QPushButton* cmdTryAgain = nullptr;
     QLabel* lblPrinter = nullptr;
+    QComboBox* cboPaper = nullptr;
+    QPushButton* cmdPreview = nullptr;
     PictureBox* picTest = nullptr;
     QPushButton* Command1 = nullptr;
     CommonDialog dlgCommon;
     frmPrntPrep* m_frmPrntPrep = nullptr;
     PrintEverything* m_everything = nullptr;
+    PrintPreview* m_preview = nullptr;
+    PrinterWatch* m_watch = nullptr;
+    /// Number of the button whose sheet has gone to a printer last.
+    int m_iLastSent = 0;
+    Frame m_frame = Frame::Menu;
     PicturePrinter m_screen;
 
     bool m_bPrintStarted = false;

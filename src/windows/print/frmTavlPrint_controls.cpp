@@ -67,6 +67,7 @@ void frmTavlPrint::BuildControls() {
     for (int i = 0; i < int(ConsoleSheets::Frames().size()); ++i)
         fraPrint.append(BuildFrame(Frame(i)));
     BuildClosing();
+    BuildDestination();
     BuildProgress();
     BuildDebugAids();
     m_frmPrntPrep = new frmPrntPrep(this);
@@ -135,9 +136,19 @@ void frmTavlPrint::BuildNumberOfSheets(QVBoxLayout* column) {
     cboNumberOfSheets->hide();
 }
 
-void frmTavlPrint::BuildProgress() {
+void frmTavlPrint::BuildDestination() {
     lblPrinter = MakeLabel(this, QStringLiteral("lblPrinter"), QString());
-    lblPrinter->setAlignment(Qt::AlignCenter);
+    lblPrinter->setAlignment(Qt::AlignVCenter | Qt::AlignLeft);
+    cboPaper = Named(new QComboBox(this), QStringLiteral("cboPaper"));
+    cboPaper->addItems({QStringLiteral("Usual Paper"), QStringLiteral("US Letter"), QStringLiteral("A4")});
+    cboPaper->setAccessibleName(QStringLiteral("The paper in the printer"));
+    cmdPreview = MakeButton(this, QStringLiteral("cmdPreview"), QStringLiteral("Pre&view..."),
+                            QStringLiteral("Look at the sheets as they will be printed"));
+    connect(cboPaper, &QComboBox::activated, this, &frmTavlPrint::cboPaper_Activated);
+    connect(cmdPreview, &QPushButton::clicked, this, &frmTavlPrint::cmdPreview_Click);
+}
+
+void frmTavlPrint::BuildProgress() {
     fraProgress = Named(new QFrame(this), QStringLiteral("fraProgress"));
     WidgetLook::SetFill(*fraProgress, kProgressFill);
     shpProgressBack = Named(new QFrame(fraProgress), QStringLiteral("shpProgressBack"));
@@ -209,10 +220,22 @@ void frmTavlPrint::PlaceControls() {
         each->setGeometry(QRect(leftTop, QSize(inner, height - leftTop.y() - below)));
     const QRect status(leftTop.x(), height - below + kGap, inner, progress);
     fraProgress->setGeometry(status);
-    lblPrinter->setGeometry(status);
+    PlaceDestination(status);
     const int width = (inner - int(row.size() - 1) * kGap) / int(row.size());
     for (size_t i = 0; i < row.size(); ++i)
         row[i]->setGeometry(leftTop.x() + int(i) * (width + kGap), status.bottom() + 1 + kGap, width, button.height());
+}
+
+// In the room of the progress, which covers it while a sheet is printed.
+void frmTavlPrint::PlaceDestination(const QRect& room) {
+    int right = room.right() + 1;
+    for (QWidget* control : {static_cast<QWidget*>(cmdPreview), static_cast<QWidget*>(cboPaper)}) {
+        const QSize size = control->sizeHint();
+        right -= size.width();
+        control->setGeometry(right, room.top() + (room.height() - size.height()) / 2, size.width(), size.height());
+        right -= kGap;
+    }
+    lblPrinter->setGeometry(room.left(), room.top(), right - room.left(), room.height());
 }
 
 void frmTavlPrint::Form_Load() try {
