@@ -97,7 +97,8 @@ Picture BoardPicture(int lSize, double dDevicePixelRatio) {
 }
 
 bool SaveBoard(const QString& sPath, int lSize, const QString& sTitle, QString& sError) {
-    if (EndsIn(sPath, ".pdf")) return SaveAsPdf(*Drawing(), kInches, sTitle, sPath, sError);
+    if (EndsIn(sPath, ".pdf") || EndsIn(sPath, ".svg"))
+        return SaveDrawing(*Drawing(), QSizeF(kInches, kInches), 0, sTitle, sPath, sError);
     return SavePicture(BoardPicture(lSize), sPath, sError);
 }
 

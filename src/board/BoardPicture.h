@@ -17,9 +17,9 @@ namespace basPosit {
 /// the view set to this picture, without offset.
 Picture BoardPicture(int lSize, double dDevicePixelRatio = 1.0);
 
-/// Saves the board, as the ending of the name says: ".pdf" is a page of ten inches square that stays sharp at every
-/// size; anything else is a PNG file, lSize pixels square. Leaves the view set to it.
-/// False, and a sentence in sError, when it can't be written.
+/// Saves the board, as the ending of the name says: ".pdf" is a page and ".svg" a drawing of ten inches square, which
+/// stay sharp at every size; anything else is a PNG file, lSize pixels square. Leaves the view set to it. False, and a
+/// sentence in sError, when it can't be written.
 bool SaveBoard(const QString& sPath, int lSize, const QString& sTitle, QString& sError);
 
 /// The board for paper: so many inches square when it is printed at 600 of its units an inch, with photographs of

@@ -42,6 +42,7 @@ private:
         if (sOption == QStringLiteral("--pack")) return Text(m_arguments.sPack);
         if (sOption == QStringLiteral("--small-pictures")) return Flag(m_arguments.bSmallPictures);
         if (sOption == QStringLiteral("--pieces")) return Text(m_arguments.sPieces);
+        if (sOption == QStringLiteral("--piece")) return Piece();
         if (sOption == QStringLiteral("--data")) return Text(m_arguments.sData);
         if (sOption == QStringLiteral("--size")) return Number(m_arguments.iBoardSize, kMinBoardSize, kMaxBoardSize);
         if (sOption == QStringLiteral("--dpi")) return Number(m_arguments.iDpi, kMinDpi, kMaxDpi);
@@ -106,6 +107,16 @@ private:
     bool Variant() {
         return OneOf(m_arguments.sVariant,
                      {QStringLiteral("8"), QStringLiteral("5"), QStringLiteral("2A"), QStringLiteral("2")});
+    }
+
+    // A word and, behind it, a file.
+    bool Piece() {
+        if (!Text(m_arguments.sPiece)) return false;
+        const std::optional<QString> file = NextWord();
+        if (!file || file->isEmpty()) return Fail(QStringLiteral("option '--piece' needs a piece and a file"));
+        m_arguments.sPieceFile = *file;
+        SkipWord();
+        return true;
     }
 
     // All words behind the option that are names of sheets; at least one.
@@ -181,6 +192,8 @@ QString PrintArguments::Usage() {
   tavlora-print GAME.gam --board B.png [--size N]   the board as a picture, N pixels square (default 960)
   tavlora-print GAME.gam --pages DIR [--size N]     each sheet as a picture, N pixels on its longer side
   tavlora-print GAME.gam --pieces DIR               every made picture (stickers, notes, tokens, titles) as PNG
+  tavlora-print GAME.gam --piece WORD FILE          one piece: space-4, corner-0, card-1-11, deed-4, note-0, token-5
+                                                    (numbers from 0; cards of Good News 0, of Bad News 1)
   tavlora-print GAME.gam --check [--json]           what would come out badly on paper
   tavlora-print GAME.gam --pack GAME.tavlora        the game with its pictures, to be sent to somebody
   tavlora-print GAME.gam --no-kit -o ALL.pdf        everything of a game on plain paper and card
@@ -195,7 +208,8 @@ Options:
   --dpi N               dots an inch of the PDF (default 600)
   --variant 8|5|2A|2    the boxed kit to print for, whatever the settings say; 5, 2A and 2 come
                         without their label sheets
-  --board B.pdf         the board as a page of ten inches, which stays sharp at every size
+  --board B.pdf         the board as a page of ten inches, which stays sharp at every size; B.svg as a drawing.
+                        The ending of the file of a piece says the same: .png, .svg or .pdf
   --no-kit              prints without the boxed kit; --sheet takes the names that --list --no-kit shows
   --board-size SIZE     side of that board: kit, or from 8in to 40in, such as 16in or 40cm (default 16in)
   --board-way pages|quarters|page
@@ -207,7 +221,8 @@ Options:
   --cut-lines DIR       beside --no-kit: where each page is cut and folded, as SVG for a cutting machine
   --small-pictures      --pack puts pictures in only as large as paper shows them
   --data DIR            take the program's own data files (rents, rules, pictures) from DIR
-  --check               beside what is made: warns of what would come out badly on paper
+  --check               beside what is made: warns of all that would come out badly on paper; without it
+                        printing warns of what its sheets show
   --help, --version
 
 Exit status: 0 when all was made, 1 when something could not be read, loaded or written, 2 for wrong usage.

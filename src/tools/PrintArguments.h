@@ -32,6 +32,9 @@ struct PrintArguments {
     bool bSmallPictures = false;
     /// Folder for the made pictures; empty for none.
     QString sPieces;
+    /// Word of a single piece and the file for its picture; empty for none.
+    QString sPiece;
+    QString sPieceFile;
     /// Folder for pictures of the sheets; empty for none.
     QString sPages;
     /// The kit's guide goes to the output, in place of a game.
@@ -58,13 +61,15 @@ struct PrintArguments {
     static std::optional<PrintArguments> Parse(const QStringList& words, QString& sError);
     /// Whether any file is to be made.
     bool Makes() const {
-        return !sOutput.isEmpty() || !sBoard.isEmpty() || !sPieces.isEmpty() || !sPages.isEmpty() || !sPack.isEmpty() ||
-               MakesWithoutKit();
+        return !sOutput.isEmpty() || !sBoard.isEmpty() || !sPieces.isEmpty() || !sPiece.isEmpty() ||
+               !sPages.isEmpty() || !sPack.isEmpty() || MakesWithoutKit();
     }
     /// Whether any is for plain paper, a cutting machine or a printing service.
     bool MakesWithoutKit() const {
         return (bNoKit && !sOutput.isEmpty()) || !sCutLines.isEmpty() || !sService.isEmpty();
     }
     QPageSize::PageSizeId Paper() const { return bA4 ? QPageSize::A4 : QPageSize::Letter; }
+    /// Whether sheets of the boxed kit are to be printed.
+    bool PrintsKit() const { return !sOutput.isEmpty() && !bNoKit; }
     static QString Usage();
 };

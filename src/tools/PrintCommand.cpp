@@ -8,6 +8,7 @@
 #include "game/GameFile.h"
 #include "game/Session.h"
 #include "kit/GameKit.h"
+#include "kit/PieceDrawing.h"
 #include "kit/Sheets.h"
 #include "nokit/NoKitSheets.h"
 #include "pack/Packing.h"
@@ -19,6 +20,7 @@
 #include "platform/files/Folders.h"
 #include "platform/files/TextFile.h"
 #include "platform/pictures/SavePicture.h"
+#include "platform/printing/SaveDrawing.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
 #include "services/ProgramSettings.h"
@@ -143,7 +145,7 @@ int PrintCommand::Run(const QStringList& words) {
 }
 
 int PrintCommand::Carry(const PrintArguments& arguments) {
-    for (const QString& output : {arguments.sOutput, arguments.sBoard, arguments.sPack}) {
+    for (const QString& output : {arguments.sOutput, arguments.sBoard, arguments.sPieceFile, arguments.sPack}) {
         if (output.isEmpty() || !Console::IsSameFile(output, arguments.sGame)) continue;
         Complain(QStringLiteral("'%1' is the game itself and would be overwritten").arg(output));
         return kWrongUsage;
@@ -193,14 +195,15 @@ int PrintCommand::PrintGame(const PrintArguments& arguments) {
     basPosit::PosInit();
     if (!LoadGame(arguments.sGame)) return kFailed;
     if (arguments.bCheck && !arguments.Makes()) return CheckInHand(arguments);
-    WarnOfInHand(arguments, sheets);
+    WarnOfInHand(arguments, arguments.PrintsKit() ? sheets : QStringList());
     if (!arguments.sBoard.isEmpty() && !PaintBoard(arguments.sBoard, arguments.iBoardSize)) return kFailed;
     basPosit::PosSethDC(&session.MeasuringDevice());
     if (!arguments.sPieces.isEmpty() && !WritePieces(Console::CompletePath(arguments.sPieces))) return kFailed;
+    if (!arguments.sPiece.isEmpty() && !WritePieceAlone(arguments)) return kFailed;
     if (!arguments.sPack.isEmpty() && !PackGame(arguments)) return kFailed;
     if (!arguments.sPages.isEmpty() && !PaintPages(arguments, sheets)) return kFailed;
     if (arguments.MakesWithoutKit() && !PrintWithoutKit(arguments)) return kFailed;
-    return arguments.sOutput.isEmpty() || arguments.bNoKit ? kDone : PrintSheetsOf(arguments, sheets);
+    return arguments.PrintsKit() ? PrintSheetsOf(arguments, sheets) : kDone;
 }
 
 void PrintCommand::TellOfFonts(const Packing::Contents& contents) {
@@ -260,6 +263,22 @@ bool PrintCommand::PaintBoard(const QString& sPath, int lSize) {
     QString error;
     if (basPosit::SaveBoard(sPath, lSize, TitleOf(GameHost::Current().GameName()), error)) return true;
     Complain(QStringLiteral("'%1' could not be written: %2").arg(sPath, error));
+    return false;
+}
+
+bool PrintCommand::WritePieceAlone(const PrintArguments& arguments) {
+    constexpr int kDotsPerInch = 300;
+    const std::optional<PrintedText> drawing = PieceDrawing::Draw(arguments.sPiece);
+    if (!drawing) {
+        Complain(QStringLiteral("there is no piece '%1', or it could not be made").arg(arguments.sPiece));
+        return false;
+    }
+    QString error;
+    const QString title = TitleOf(arguments.sGame) + QStringLiteral(": ") + arguments.sPiece;
+    if (SaveDrawing(*drawing->recording, drawing->inches, kDotsPerInch, title,
+                    Console::CompletePath(arguments.sPieceFile), error))
+        return true;
+    Complain(QStringLiteral("'%1' could not be written: %2").arg(arguments.sPieceFile, error));
     return false;
 }
 

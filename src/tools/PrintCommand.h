@@ -50,6 +50,8 @@ private:
     bool PaintBoard(const QString& sPath, int lSize);
     /// Every made picture into a folder, which is made if need be.
     bool WritePieces(const QString& sFolder);
+    /// A single piece as its file's ending says.
+    bool WritePieceAlone(const PrintArguments& arguments);
     /// The game with its pictures as one file.
     bool PackGame(const PrintArguments& arguments);
     /// A line for each font that doesn't go along.

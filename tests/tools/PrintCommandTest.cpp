@@ -498,3 +498,22 @@ TEST_F(PrintCommandTest, ProgramItselfRunsWithoutADisplayAndLeavesNothingBehind)
 }
 
 } // namespace
+
+TEST_F(PrintCommandTest, APieceIsSavedAsItsFileSays) {
+    const auto saved = [&](const char* word, const char* name) {
+        const QString path = PathOf(QStringLiteral("out/") + QString::fromLatin1(name));
+        EXPECT_EQ(
+            Run({game, QStringLiteral("--piece"), QString::fromLatin1(word), path, QStringLiteral("--data"), kData}), 0)
+            << errors.join(u'\n').toStdString();
+        return ReadFile(path);
+    };
+    EXPECT_TRUE(saved("space-4", "a.png").startsWith("\x89PNG"));
+    EXPECT_TRUE(saved("note-3", "b.svg").contains("<svg"));
+    EXPECT_TRUE(saved("card-1-11", "c.pdf").startsWith("%PDF-"));
+    EXPECT_EQ(OutFolder().size(), 3);
+    EXPECT_EQ(Run({game, QStringLiteral("--piece"), QStringLiteral("space-28"), PathOf(QStringLiteral("out/d.png"))}),
+              1);
+    EXPECT_TRUE(errors.last().contains(QStringLiteral("there is no piece 'space-28'")));
+    EXPECT_EQ(Run({game, QStringLiteral("--piece"), QStringLiteral("space-4")}), 2);
+    EXPECT_EQ(Run({game, QStringLiteral("--piece"), QStringLiteral("space-4"), game}), 2) << "never over the game";
+}
