@@ -11,6 +11,7 @@
 #include "platform/pictures/SavePicture.h"
 #include "services/Desktop.h"
 #include "windowing/Clipboard.h"
+#include "windows/sending/frmPieces.h"
 #include "windows/sending/frmSendGame.h"
 
 namespace {
@@ -44,7 +45,7 @@ void GameSharing::SaveBoardPicture() {
     dlgCommon.sDialogTitle = QStringLiteral("Save a Picture of the Board");
     dlgCommon.sInitDir = Folders::Pictures();
     dlgCommon.sFileName = GameTitle() + QStringLiteral(" board.png");
-    dlgCommon.sFilter = QStringLiteral("PNG picture|*.png|PDF page|*.pdf");
+    dlgCommon.sFilter = QStringLiteral("PNG picture|*.png|SVG drawing|*.svg|PDF page|*.pdf");
     if (!dlgCommon.ShowSave()) {
         if (!dlgCommon.sError.isEmpty()) MsgBox(dlgCommon.sError, vbExclamation);
         return;
@@ -56,6 +57,8 @@ void GameSharing::SaveBoardPicture() {
         MsgBox(QStringLiteral("'%1' could not be written: %2.").arg(GameNames::FileNameOf(dlgCommon.sFileName), error),
                vbExclamation);
 }
+
+void GameSharing::SavePiecePicture() { frmPieces(GameTitle(), &m_window).ShowForm(); }
 
 void GameSharing::CopyBoardPicture() {
     Clipboard::SetPicture(basPosit::BoardPicture(kCopiedPixels));

@@ -18,6 +18,8 @@ public:
     /// The board as a picture for a message, a web page or the copy shop.
     void SaveBoardPicture();
     void CopyBoardPicture();
+    /// Of a piece, which is chosen in a window.
+    void SavePiecePicture();
 
 private:
     QString GameTitle() const;

@@ -39,6 +39,7 @@ constexpr Item kFileItems[] = {
     {22, "Earlier &Versions...", "", Always},
     {30, "Send to a &Friend...", "", Always},
     {31, "Save a Picture of the &Board...", "", Always},
+    {32, "Save a Picture of a Pie&ce...", "", Always},
     {50, "-", "", Never},
     {51, "Find &Missing Pictures...", "", Always},
     {5, "-", "", Never},

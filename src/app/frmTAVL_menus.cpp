@@ -51,6 +51,8 @@ void frmTAVL::mnuFile_Click(int Index) try {
             return m_sharing.Send();
         case 31:
             return m_sharing.SaveBoardPicture();
+        case 32:
+            return m_sharing.SavePiecePicture();
         case 51:
             return m_pictures.FindMissing();
         case 1:

@@ -5,10 +5,13 @@
 #include "windowing/CountLight.h"
 #include "windows/check/frmCheck.h"
 
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QMenuBar>
 #include <QRubberBand>
 #include <QTreeWidget>
+
+#include <iostream>
 
 namespace {
 
@@ -156,6 +159,8 @@ TEST_F(CheckWindowTest, TheLightLeavesTheMenuBarAsHighAsItIs) {
 TEST_F(CheckWindowTest, TheLightFollowsWhileEditsGoOnComing) {
     auto& light = Find<CountLight>("CountLight");
     EXPECT_TRUE(QTest::qWaitFor([&] { return light.Count() == 0; }, 2000));
+    QElapsedTimer since;
+    since.start();
     EditSpace(5, QString());
     bool seen = false;
     for (int edit = 0; edit < 200 && !seen; ++edit) {
@@ -164,6 +169,7 @@ TEST_F(CheckWindowTest, TheLightFollowsWhileEditsGoOnComing) {
         seen = light.Count() == 1;
     }
     EXPECT_TRUE(seen);
+    std::cout << "the light followed an edit after " << since.elapsed() << " ms\n";
 }
 
 TEST_F(CheckWindowTest, FixMendsWithOneStepThatCanBeUndone) {

@@ -5,6 +5,7 @@
 #include "pack/PackReader.h"
 
 #include <QClipboard>
+#include <QListWidget>
 #include <QMenu>
 
 namespace {
@@ -53,7 +54,7 @@ TEST_F(GameSharingTest, TheBoardIsSavedAsThePictureThatItsNameSays) {
     const struct {
         const char* name;
         const char* start;
-    } rows[] = {{"b.png", "\x89PNG"}, {"b.PDF", "%PDF-"}};
+    } rows[] = {{"b.png", "\x89PNG"}, {"b.svg", "<?xml"}, {"b.PDF", "%PDF-"}};
     for (const auto& row : rows) {
         const QString path = PathOf(QString::fromLatin1(row.name));
         AnswerDialog(path);
@@ -67,6 +68,25 @@ TEST_F(GameSharingTest, TheBoardIsSavedAsThePictureThatItsNameSays) {
     ChooseMenu("mnuFile_31");
     ASSERT_EQ(desktop.boxes.size(), 1);
     EXPECT_TRUE(desktop.Texts()[0].startsWith(QStringLiteral("'b.pdf' could not be written: ")));
+}
+
+TEST_F(GameSharingTest, APictureOfAPieceIsSavedFromItsWindow) {
+    StartWithGame();
+    const QImage before = window->View().Board().Image();
+    const QString path = PathOf(QStringLiteral("piece.svg"));
+    AnswerDialog(path);
+    ModalSteps person;
+    person.In("frmPieces", [](QWidget& shown) {
+        auto& list = ::Find<QListWidget>(shown, "lstPieces");
+        list.setCurrentRow(4);
+        Click(shown, "cmdSaveAs");
+        Click(shown, "cmdClose");
+    });
+    ChooseMenu("mnuFile_32");
+    EXPECT_TRUE(ReadFile(path).contains("<svg"));
+    EXPECT_EQ(asked.sFileName, QStringLiteral("Mine space-4.png"));
+    EXPECT_EQ(window->View().Board().Image(), before);
+    EXPECT_TRUE(desktop.boxes.isEmpty());
 }
 
 TEST_F(GameSharingTest, TheBoardIsCopiedAsAPicture) {

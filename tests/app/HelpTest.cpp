@@ -32,6 +32,7 @@
 #include "windows/print/frmTavlPrint.h"
 #include "windows/print/PrintEverything.h"
 #include "windows/print/PrintPreview.h"
+#include "windows/sending/frmPieces.h"
 #include "windows/sending/frmSendGame.h"
 
 #include <QAbstractButton>
@@ -87,6 +88,7 @@ protected:
         add(new PrintEverything);
         add(new PrintWithoutKit);
         add(new PrintPreview);
+        add(new frmPieces(QString()));
         add(new frmSendGame({}, QString()));
         add(new frmEarlierVersions);
         return all;

@@ -28,6 +28,8 @@ FindingTree::FindingTree(QWidget* parent) : QTreeWidget(parent) {
     setWordWrap(true);
     setExpandsOnDoubleClick(false);
     header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    // How many lines a sentence takes depends on the width, which isn't known when the rows are filled in.
+    connect(header(), &QHeaderView::sectionResized, this, &FindingTree::scheduleDelayedItemsLayout);
 }
 
 void FindingTree::Fill(const Game& game, const std::vector<Finding>& findings) {

@@ -36,6 +36,7 @@ constexpr Row kRows[] = {
     {"frmColor", "print.html"},
     {"frmSendGame", "sending.html"},
     {"frmBeforePrint", "check.html"},
+    {"frmPieces", "sending.html"},
     {"PrintEverything", "print.html"},
     {"PrintPreview", "print.html"},
     {"PrintWithoutKit", "print.html"},

@@ -55,6 +55,10 @@ constexpr WhatIsThis::Row kRows[] = {
     {"frmEarlierVersions", "lstVersions", "A click opens a version as a new game. The game itself stays as it is."},
     {"frmEarlierVersions", "cmdCancel", "Closes this window. Nothing is opened."},
 
+    {"frmPieces", "", "Saves a picture of a single piece, for a message or for the copy shop."},
+    {"frmPieces", "lstPieces", "All pieces of the game. Choose the one that you would like."},
+    {"frmPieces", "cmdSaveAs", "Asks where to put the picture, and makes it: PNG, SVG or PDF, by its name's ending."},
+
     {"frmSendGame", "", "Puts the game with all its pictures into one file that you can give away."},
     {"frmSendGame", "optAsTheyAre", "Every photo goes along with all its dots. The file may become large."},
     {"frmSendGame", "optSmaller", "Photos go along as small as paper allows: a file for the mail that prints as well."},
