@@ -87,13 +87,13 @@ protected:
         ASSERT_EQ(Run("hers", {game, QStringLiteral("-o"), hers, QStringLiteral("--pack"), packed}), 0)
             << errors.toStdString();
         ExpectNothingButAdvice();
-        const QString advice = errors;
         const QByteArray bytes = ReadFile(packed);
         ASSERT_EQ(Run("hers", {game, QStringLiteral("--pack"), packed}), 0);
         EXPECT_TRUE(bytes == ReadFile(packed)) << "packing twice gives equal bytes";
         ASSERT_TRUE(QDir(PathOf(QStringLiteral("hers"))).removeRecursively());
         ASSERT_EQ(Run("his", {packed, QStringLiteral("-o"), his}), 0) << errors.toStdString();
-        EXPECT_EQ(errors.toStdString(), advice.toStdString());
+        // The same advice, but of pictures by the names that they have inside.
+        ExpectNothingButAdvice();
         EXPECT_EQ(Left("his").join(u'\n').toStdString(), "") << "nothing is left behind";
         EXPECT_EQ(QDir(PathOf(QStringLiteral("his/tmp"))).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(), 0);
         const PdfReader one(hers);
