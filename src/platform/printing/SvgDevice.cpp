@@ -193,7 +193,7 @@ QByteArray SvgDevice::Bytes() const {
     return QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
                           "<svg xmlns=\"http://www.w3.org/2000/svg\" xmlns:xlink=\"http://www.w3.org/1999/xlink\" "
                           "version=\"1.1\" width=\"%1in\" height=\"%2in\" viewBox=\"0 0 %3 "
-                          "%4\">\n<title>%5</title>\n<rect width=\"100%\" height=\"100%\" fill=\"#ffffff\"/>\n")
+                          "%4\">\n<title>%5</title>\n<rect width=\"%3\" height=\"%4\" fill=\"#ffffff\"/>\n")
                .arg(Number(m_inches.width()), Number(m_inches.height()))
                .arg(m_size.width())
                .arg(m_size.height())
