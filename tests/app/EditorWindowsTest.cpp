@@ -32,7 +32,6 @@ protected:
 
     static std::function<void(QWidget&)> TypeNameThenClick(const char* button) {
         return [button](QWidget& form) {
-            QTest::keyClick(form.focusWidget(), Qt::Key_Tab);
             QTest::keyClicks(form.focusWidget(), QStringLiteral("ville"));
             ClickIn(form, button);
         };
