@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/pictures/JpegMarkers.h"
 
+#include "platform/pictures/ByteReader.h"
+#include "platform/pictures/CameraTags.h"
+
 #include <QImage>
 #include <QTransform>
 
@@ -9,57 +12,9 @@
 
 namespace {
 
-/// Reads numbers of either byte order and never past the end.
-class ByteReader {
-public:
-    explicit ByteReader(QByteArrayView bytes) : m_bytes(bytes) {}
-    void SetLittleEndian(bool little) { m_little = little; }
-
-    std::optional<quint32> Number(qint64 offset, int length) const {
-        if (offset < 0 || offset > m_bytes.size() - length) return std::nullopt;
-        quint32 value = 0;
-        for (int i = 0; i < length; ++i) {
-            const qint64 at = offset + (m_little ? length - 1 - i : i);
-            value = value << 8 | quint8(m_bytes[at]);
-        }
-        return value;
-    }
-
-private:
-    QByteArrayView m_bytes;
-    bool m_little = false;
-};
-
 constexpr QByteArrayView kExif("Exif\0\0", 6);
 constexpr QByteArrayView kProfile("ICC_PROFILE\0", 12);
 constexpr QByteArrayView kAdobe("Adobe", 5);
-constexpr quint32 kOrientationTag = 0x0112;
-constexpr int kEntrySize = 12;
-
-// The TIFF structure behind the word Exif: byte order, a pointer to a directory, its entries.
-int OrientationOf(QByteArrayView tiff) {
-    ByteReader reader(tiff);
-    const std::optional<quint32> order = reader.Number(0, 2);
-    constexpr quint32 kLittleEndian = 0x4949;
-    constexpr quint32 kBigEndian = 0x4D4D;
-    const quint32 mark = order.value_or(0);
-    if (mark != kLittleEndian && mark != kBigEndian) return 1;
-    reader.SetLittleEndian(mark == kLittleEndian);
-    const std::optional<quint32> directory = reader.Number(4, 4);
-    if (!directory) return 1;
-    const std::optional<quint32> count = reader.Number(*directory, 2);
-    if (!count) return 1;
-    for (quint32 i = 0; i < *count; ++i) {
-        const qint64 entry = qint64(*directory) + 2 + qint64(i) * kEntrySize;
-        const std::optional<quint32> tag = reader.Number(entry, 2);
-        if (!tag) return 1;
-        if (*tag != kOrientationTag) continue;
-        const quint32 value = reader.Number(entry + 8, 2).value_or(1);
-        return value >= 1 && value <= 8 ? int(value) : 1;
-    }
-    return 1;
-}
-
 // A long profile comes in numbered parts, in any order.
 class ProfileParts {
 public:
@@ -127,7 +82,7 @@ JpegMarkers ReadJpegMarkers(QByteArrayView bytes) {
         } else if (IsPlainFrame(*marker)) {
             components = segment.size() > kComponentsAt ? quint8(segment[kComponentsAt]) : 0;
         } else if (*marker == kFirstApplication + 1 && segment.startsWith(kExif)) {
-            markers.orientation = OrientationOf(segment.sliced(kExif.size()));
+            markers.orientation = ReadCameraTags(segment.sliced(kExif.size())).orientation;
         } else if (*marker == kFirstApplication + 2 && segment.startsWith(kProfile)) {
             profile.Add(segment.sliced(kProfile.size()));
         } else if (*marker == kFirstApplication + 14 && segment.startsWith(kAdobe)) {

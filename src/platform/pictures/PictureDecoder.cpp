@@ -2,7 +2,9 @@
 #include "platform/pictures/PictureDecoder.h"
 
 #include "platform/paint/Resample.h"
+#include "platform/pictures/CameraTags.h"
 #include "platform/pictures/DecodingRoom.h"
+#include "platform/pictures/JpegMarkers.h"
 #include "platform/pictures/Metafile.h"
 #include "platform/pictures/PictureFormat.h"
 
@@ -62,7 +64,9 @@ QImage Read(const QByteArray& bytes, PictureFormat format, std::optional<Decodin
     room.emplace(size.isValid() ? size : QSize(1, 1));
     QImage image = reader.read();
     if (image.isNull()) sError = reader.errorString();
-    return image;
+    // Not all of the toolkit's readers look at what the camera says of this.
+    const bool upright = reader.transformation() != QImageIOHandler::TransformationNone;
+    return upright ? image : Upright(image, ReadCameraTagsOfChunks(bytes).orientation);
 }
 
 // In place where the pixels are of 32 bits already: a second copy of a large photograph is a lot of memory.

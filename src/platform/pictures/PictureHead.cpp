@@ -3,6 +3,7 @@
 
 #include "platform/files/BinaryFile.h"
 #include "platform/files/Files.h"
+#include "platform/pictures/CameraTags.h"
 #include "platform/pictures/HeifLibrary.h"
 #include "platform/pictures/JpegMarkers.h"
 #include "platform/pictures/Metafile.h"
@@ -66,7 +67,12 @@ std::optional<QSize> SizeByReader(QByteArray bytes, const char* sFormat) {
     const QSize told = reader.size();
     if (told.width() <= 0) return std::nullopt;
     const QSize size(told.width(), std::abs(told.height()));
-    return reader.transformation() & QImageIOHandler::TransformationRotate90 ? size.transposed() : size;
+    // 5 and above stand on their side.
+    constexpr int kFirstOnSide = 5;
+    const bool onSide = reader.transformation() & QImageIOHandler::TransformationRotate90 ||
+                        (reader.transformation() == QImageIOHandler::TransformationNone &&
+                         ReadCameraTagsOfChunks(bytes).orientation >= kFirstOnSide);
+    return onSide ? size.transposed() : size;
 }
 
 /// One file, of which no more is read than its kind needs.
@@ -119,7 +125,8 @@ private:
             case PictureFormat::Png:
                 return EndsWell(file) ? SizeByReader(m_bytes, "png") : std::nullopt;
             case PictureFormat::WebP:
-                return SizeByReader(m_bytes, "webp");
+                // The camera's notes stand behind the pixels.
+                return ReadWhole() ? SizeByReader(m_bytes, "webp") : std::nullopt;
             case PictureFormat::Jpeg:
                 if (const std::optional<QSize> size = SizeOfJpeg(m_bytes)) return size;
                 return !m_whole && ReadWhole() ? SizeOfJpeg(m_bytes) : std::nullopt;
