@@ -2,6 +2,7 @@
 #include "game/DroppedPictures.h"
 
 #include "game/PieceImages.h"
+#include "pictures/PicturePart.h"
 #include "services/BoardFacts.h"
 
 #include <vector>
@@ -60,20 +61,27 @@ bool Takes(const PictureOwner& piece) {
 void GivePicture(Game& game, const PictureOwner& piece, const QString& sFile) {
     constexpr int kBlock = 0;
     const size_t slot = size_t(piece.iNumber);
+    C_Image& image = PieceImages::Of(game, piece);
+    const PictureRef before = image.Ref();
     switch (piece.kind) {
         case Kind::Space:
             game.spaces[slot].SetImagePath(sFile);
             break;
         case Kind::Corner:
-            game.corners[slot].Image.Let_FullPath(sFile);
+            image.Let_FullPath(sFile);
             // The words make room for it.
             game.corners[slot].SetText(kBlock, TextLines::kUseExisting);
             break;
         case Kind::Money:
-            game.money[slot].FaceImage.Let_FullPath(sFile);
+            image.Let_FullPath(sFile);
             break;
         default:
             game.tokens[slot].SetImagePath(sFile);
+    }
+    if (before.sPath == sFile || IsSameElsewhere(before.sPath, sFile)) {
+        ShowPart(image, before);
+    } else {
+        image.Let_Zoom(ZoomThatFills(sFile));
     }
 }
 

@@ -8,6 +8,7 @@
 #include "game/GameFile.h"
 #include "game/PrintCaptions.h"
 #include "game/Rescue.h"
+#include "pictures/MovedGame.h"
 #include "pictures/ThumbnailStore.h"
 #include "platform/files/Files.h"
 #include "platform/files/Folders.h"
@@ -47,6 +48,12 @@ void NoteGameDirectory(const QString& sGame) {
     // Ahead of fitting the game's texts. A name without a folder would lead to wherever the program was started.
     if (!Settings().sGameDirectory.isEmpty())
         FontFiles::UseFolder(basCommon::JoinPath(Settings().sGameDirectory, QStringLiteral("Fonts")));
+}
+
+void NotePlace(const QString& sFileName, const QString& sNameWhenWritten) {
+    const Parts written(sNameWhenWritten);
+    NoteGameDirectory(LiesElsewhere(sFileName) ? sNameWhenWritten : sFileName);
+    MovedGame::Note(written.sDrive + written.sDir, Settings().sGameDirectory);
 }
 
 void SetBlankNotes(Game& game) {
@@ -158,7 +165,7 @@ std::optional<Fault> Load(const QString& sFileName, Told& told) {
     const std::optional<QByteArray> bytes = Files::ReadAll(sFileName, error);
     if (!bytes) return Fault{error, QStringLiteral("opening the file")};
     told.header = ReadGameHeader(*bytes);
-    if (told.header.bIsGame) NoteGameDirectory(LiesElsewhere(sFileName) ? told.header.sGameName : sFileName);
+    if (told.header.bIsGame) NotePlace(sFileName, told.header.sGameName);
     const GameReading reading = ReadGame(*bytes, TheGame(), ToolsOfProgram());
     told.bCut = reading.bCut && told.header.bIsGame;
     if (told.bCut) TellCut();

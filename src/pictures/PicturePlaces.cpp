@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "pictures/PicturePlaces.h"
 
+#include "pictures/MovedGame.h"
 #include "platform/files/Files.h"
 #include "platform/files/Folders.h"
 #include "services/basCommon.h"
@@ -50,7 +51,10 @@ QString FolderAbove(const QString& sFolder) {
 
 // The places at which a picture of a game file is looked for ahead of the program's own folder.
 QStringList PlacesOf(const QString& sName) {
-    if (IsComplete(sName)) return {basCommon::GetFullPath(PictureBase(), sName, QString())};
+    if (IsComplete(sName)) {
+        const QString place = basCommon::GetFullPath(PictureBase(), sName, QString());
+        return {place, MovedGame::PlaceOf(place)};
+    }
     QStringList places{basCommon::JoinPath(PictureBase(), sName)};
     const QString& beside = Settings().sGameDirectory;
     if (beside.isEmpty()) return places;
