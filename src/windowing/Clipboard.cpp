@@ -10,6 +10,8 @@ QString Text() { return QGuiApplication::clipboard()->text(); }
 
 void SetText(const QString& sText) { QGuiApplication::clipboard()->setText(sText); }
 
+const QMimeData* Data() { return QGuiApplication::clipboard()->mimeData(); }
+
 void SetPicture(const Picture& picture) { QGuiApplication::clipboard()->setImage(picture.Image()); }
 
 } // namespace Clipboard
