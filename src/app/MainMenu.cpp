@@ -41,6 +41,7 @@ constexpr Item kFileItems[] = {
     {31, "Save a Picture of the &Board...", "", Always},
     {32, "Save a Picture of a Pie&ce...", "", Always},
     {50, "-", "", Never},
+    {52, "Deal P&hotos...", "", Always},
     {51, "Find &Missing Pictures...", "", Always},
     {5, "-", "", Never},
     {6, "P&rinter Setup", "", Always},

@@ -5,20 +5,11 @@
 #include "board/basPosit.h"
 #include "game/DroppedPictures.h"
 #include "game/Session.h"
-#include "pictures/PictureCheck.h"
-#include "platform/files/Files.h"
 #include "platform/paint/Units.h"
-#include "platform/pictures/SavePicture.h"
-#include "services/basErrLog.h"
-#include "services/basPath.h"
-#include "services/Desktop.h"
 #include "windowing/PictureBox.h"
-#include "windowing/PictureData.h"
-#include "windows/pictures/BrowsePlaces.h"
+#include "windows/pictures/DroppedFiles.h"
 
-#include <QMimeData>
 #include <QRubberBand>
-#include <QUrl>
 
 #include <algorithm>
 
@@ -49,26 +40,11 @@ basPosit::BoardRect RectOf(const BoardPlace& place) {
     return basPosit::m_CenterRect(place.m_bOverMoney ? basPosit::kMoneyBox : basPosit::kTokensBox);
 }
 
-QString FreePathIn(const QString& sFolder, const QString& sBase, const QString& sExt) {
-    const int iCopy = BrowsePlaces::FirstFreeCopy(sFolder, sBase, sExt);
-    return basCommon::JoinPath(sFolder, BrowsePlaces::CopyName(sBase, sExt, iCopy));
-}
-
 } // namespace
 
 PictureDrop::PictureDrop(BoardView& view, Session& session)
     : m_view(view), m_session(session), m_light(new QRubberBand(QRubberBand::Rectangle, &view.Board())) {
     m_light->setObjectName(QStringLiteral("shpDrop"));
-}
-
-bool PictureDrop::Holds(const QMimeData& dragged) {
-    constexpr int kManyColors = 24;
-    const QString names = BrowsePlaces::AllPicturesFilter(true, kManyColors);
-    const QList<QUrl> urls = dragged.urls();
-    return dragged.hasImage() || std::any_of(urls.begin(), urls.end(), [&names](const QUrl& url) {
-               const QString file = url.toLocalFile();
-               return !file.isEmpty() && (BrowsePlaces::IsListed(names, file) || WhyNoPicture(file).isEmpty());
-           });
 }
 
 PictureOwner PictureDrop::PieceUnder(QPoint at) {
@@ -106,48 +82,8 @@ void PictureDrop::LightUp(const BoardPlace& place) {
 
 void PictureDrop::Leave() { m_light->hide(); }
 
-QStringList PictureDrop::FilesOf(const QMimeData& dropped) const {
-    QStringList files;
-    for (const QUrl& url : dropped.urls()) {
-        if (url.isLocalFile()) files.append(url.toLocalFile());
-    }
-    const Picture picture = files.isEmpty() ? PictureIn(dropped) : Picture();
-    if (picture.IsNull()) return files;
-    QString drive, dir, base, ext, error;
-    basCommon::FileNameFactor(m_session.GameName(), drive, dir, base, ext);
-    const QString folder = basCommon::JoinPath(basCommon::GetMyGamesDirectory(), QStringLiteral("Pictures of ") + base);
-    if (Files::MakeDirectory(folder, error)) {
-        const QString path = FreePathIn(folder, QStringLiteral("Picture"), QStringLiteral("png"));
-        if (SavePicture(picture, path, error)) return {path};
-    }
-    MsgBox(QStringLiteral("The picture couldn't be kept: ") + error, vbExclamation);
-    return {};
-}
-
-// A picture on a disk that may go away is kept among the games, as the chooser does.
-QString PictureDrop::Keep(const QString& sFile) const {
-    const QString games = basCommon::GetMyGamesDirectory();
-    if (BrowsePlaces::IsOnGamesDrive(sFile, games)) return sFile;
-    QString drive, dir, base, ext, error;
-    basCommon::FileNameFactor(sFile, drive, dir, base, ext);
-    const QString copy = FreePathIn(games, base, ext);
-    if (Files::Copy(sFile, copy, error)) return copy;
-    basErrLog::ErrLogToFile(error, true);
-    return sFile;
-}
-
 void PictureDrop::Drop(const QStringList& files, QPoint at) {
     Leave();
     const PictureOwner piece = PieceUnder(at);
-    if (files.isEmpty() || !piece.IsPiece()) return;
-    QStringList kept;
-    for (const QString& file : files)
-        kept.append(WhyNoPicture(file).isEmpty() ? Keep(file) : file);
-    basPosit::PosSethDC(&m_session.MeasuringDevice());
-    const DroppedPictures::Outcome outcome = DroppedPictures::Onto(m_session.InHand(), kept, piece, WhyNoPicture);
-    if (outcome.edit) {
-        m_session.Do(*outcome.edit);
-        m_view.Redraw();
-    }
-    if (!outcome.sTold.isEmpty()) MsgBox(outcome.sTold, vbInformation);
+    if (piece.IsPiece() && DroppedFiles::LayOnto(m_session, files, piece)) m_view.Redraw();
 }

@@ -12,6 +12,8 @@
 #include "services/basPath.h"
 #include "windowing/PictureBox.h"
 #include "windowing/WidgetLook.h"
+#include "windows/photos/PhotoTab.h"
+#include "windows/pictures/DroppedFiles.h"
 #include "windows/side/GuideTab.h"
 
 #include <QApplication>
@@ -109,6 +111,7 @@ void frmTAVL::MakeTabs() {
                                                  .sendAway = [this] { ShowGuide(false); }});
     m_side.Panel().AddTab(GuideTab::kName, QStringLiteral("Guide"), m_guide);
     m_side.Panel().AddTab(CheckList::kName, QStringLiteral("Check"), m_check.MakeTab());
+    m_side.Panel().AddTab(PhotoTab::kName, QStringLiteral("Photos"), new PhotoTab(m_commands.InHand()));
 }
 
 void frmTAVL::ButtonClicked() try {
@@ -149,7 +152,7 @@ void frmTAVL::wheelEvent(QWheelEvent* event) try {
 
 void frmTAVL::dragEnterEvent(QDragEnterEvent* event) try {
     const QMimeData& dragged = *event->mimeData();
-    if (!GameDropped(dragged).isEmpty() || PictureDrop::Holds(dragged)) event->acceptProposedAction();
+    if (!GameDropped(dragged).isEmpty() || DroppedFiles::Holds(dragged)) event->acceptProposedAction();
 } catch (...) {
     ErrTop("frmTAVL!", "dragEnterEvent");
 }
@@ -174,7 +177,7 @@ void frmTAVL::dropEvent(QDropEvent* event) try {
     m_droppedAt = m_view.Board().mapFrom(this, event->position().toPoint());
     event->setAccepted(m_drop.Move(m_droppedAt));
     if (!event->isAccepted()) return;
-    m_dropped = m_drop.FilesOf(*event->mimeData());
+    m_dropped = DroppedFiles::FilesOf(*event->mimeData(), m_commands.InHand().GameName());
     QMetaObject::invokeMethod(this, &frmTAVL::TakeDropped, Qt::QueuedConnection);
 } catch (...) {
     ErrTop("frmTAVL!", "dropEvent");

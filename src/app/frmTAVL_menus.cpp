@@ -53,6 +53,8 @@ void frmTAVL::mnuFile_Click(int Index) try {
             return m_sharing.SaveBoardPicture();
         case 32:
             return m_sharing.SavePiecePicture();
+        case 52:
+            return m_pictures.Deal();
         case 51:
             return m_pictures.FindMissing();
         case 1:

@@ -23,6 +23,7 @@
 #include "windowing/basCommon_forms.h"
 #include "windowing/PictureBox.h"
 #include "windowing/Screen.h"
+#include "windows/pictures/frmBrowse.h"
 #include "windows/side/GuideTab.h"
 
 namespace {
@@ -65,6 +66,7 @@ void frmTAVL::PrepareStart() try {
 void frmTAVL::ReadSideSettings() try {
     m_side.Panel().SetTabShown(GuideTab::kName, GuideTab::IsWanted());
     m_side.ReadSettings();
+    frmBrowse::ReadSettings();
 } catch (...) {
     ErrTop("frmTAVL!", "Form_Load");
 }

@@ -337,22 +337,18 @@ TEST_F(EditSpaceTest, ADamagedPictureIsToldByTheBrowserAndByNobodyElse) {
         desktop.boxes.clear();
         GivePicture(QString());
         Edit([&] {
-            InBrowser([&](frmBrowse& browser) { Choose(browser, QFileInfo(path).fileName()); });
+            InBrowser([&](frmBrowse& browser) {
+                Choose(browser, QFileInfo(path).fileName());
+                EXPECT_TRUE(browser.isVisible()) << "a refused file can't be taken";
+                Cancel(browser);
+            });
             Click("chkIncludeImage");
-            // It is selected in the browser when that comes up again.
-            InBrowser([&](frmBrowse& browser) { Cancel(browser); });
-            Click("cmdBitmap");
             Click("cmdOK");
         });
-        EXPECT_EQ(Space().Image.FullPath(), path);
-        EXPECT_EQ(Space().Image.BadPath(), path) << "so that the board doesn't tell it";
-        Edit([&] {
-            InBrowser([&](frmBrowse& browser) { Cancel(browser); });
-            Click("cmdBitmap");
-        });
+        EXPECT_EQ(Space().Image.FullPath(), QString());
         EXPECT_EQ(desktop.boxes.size(), 1);
     }
-    EXPECT_EQ(browsersSeen, 6);
+    EXPECT_EQ(browsersSeen, 2);
 }
 
 TEST_F(EditSpaceTest, AMissingPictureIsToldOnceAndTheEditorGoesOn) {

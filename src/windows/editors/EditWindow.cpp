@@ -4,6 +4,7 @@
 #include "document/basTAVL.h"
 #include "game/Session.h"
 #include "pictures/C_Image.h"
+#include "pictures/PicturePart.h"
 #include "platform/text/NewLine.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
@@ -13,6 +14,7 @@
 #include "windows/editors/HoldFocusBox.h"
 #include "windows/editors/ImageGroup.h"
 #include "windows/editors/Redrawing.h"
+#include "windows/pictures/DroppedFiles.h"
 #include "windows/pictures/UnsavedChanges.h"
 
 #include <QCheckBox>
@@ -40,6 +42,7 @@ EditWindow::~EditWindow() = default;
 std::optional<Edit> EditWindow::Ask(int iIndex) {
     m_bLoading = true;
     m_bChangeAllFonts = false;
+    m_bChangedOthers = false;
     m_likeness.LoadFromGame(m_session.InHand(), iIndex);
     m_selection.Clear();
     m_bSelecting = false;
@@ -60,7 +63,7 @@ std::optional<Edit> EditWindow::Ask(int iIndex) {
 bool EditWindow::EditPiece(int iIndex) {
     const std::optional<Edit> edit = Ask(iIndex);
     if (edit) m_session.Do(*edit);
-    return edit.has_value() || m_bChangeAllFonts;
+    return edit.has_value() || m_bChangeAllFonts || m_bChangedOthers;
 }
 
 void EditWindow::Redraw() try {
@@ -125,11 +128,13 @@ void EditWindow::cmdSetAllFonts_Click() try {
 
 void EditWindow::cmdBitmap_Click() try {
     if (m_bLoading) return;
-    const QString before = m_likeness.Image().FullPath();
+    const PictureRef shown = m_likeness.Image().Ref();
+    const QString& before = shown.sPath;
     const QString path = fraBitmap->AskForPicture(m_likeness.Image());
     if (path != before) {
         SetImagePath(path);
         fraBitmap->RestorePart(m_likeness.Image());
+        if (IsSameElsewhere(before, path)) ShowPart(m_likeness.Image(), shown);
         m_likeness.Image().TakeBadPath(fraBitmap->BadPath());
         Redraw();
     } else if (path.isEmpty()) {
@@ -158,6 +163,22 @@ void EditWindow::chkIncludeImage_Click() try {
     if (txtHoldFocus->isEnabled()) txtHoldFocus->setFocus(Qt::OtherFocusReason);
 } catch (...) {
     ErrTop(m_wording.sModule, "chkIncludeImage_Click");
+}
+
+void EditWindow::TakeDropped(const QStringList& files) try {
+    bool others = false;
+    const QString file = DroppedFiles::TakeFirst(m_session, files, m_likeness.Image().Owner(), others);
+    m_bChangedOthers = m_bChangedOthers || others;
+    if (file.isEmpty()) return;
+    SetImagePath(file);
+    m_likeness.Image().Let_Zoom(ZoomThatFills(file));
+    chkIncludeImage->setChecked(true);
+    cmdBitmap->setEnabled(true);
+    cmdCropImage->setEnabled(true);
+    Redraw();
+    TakeFocus();
+} catch (...) {
+    ErrTop(m_wording.sModule, "TakeDropped");
 }
 
 void EditWindow::cmdCropImage_Click() try {

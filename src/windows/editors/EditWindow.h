@@ -95,6 +95,7 @@ private:
     void cmdCropImage_Click();
     void chkIncludeImage_Click();
     void txtBitmapPath_Click();
+    void TakeDropped(const QStringList& files);
 
     void txtSpace_Change();
 
@@ -112,6 +113,8 @@ private:
     bool m_bChangeAllFonts = false;
     /// Whether the piece had no name but blanks from the start.
     bool m_bNameless = false;
+    /// Pictures were dropped that went onto other pieces.
+    bool m_bChangedOthers = false;
 
     CommonDialog cdlgFont;
     PictureHolder picScratch;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "windows/editors/EditWindow.h"
+#include "windows/editors/LikenessPicture.h"
 
 #include "pictures/C_Image.h"
 #include "windowing/ButtonKeys.h"
@@ -118,6 +119,11 @@ void EditWindow::BuildHidden() {
 }
 
 void EditWindow::Connect() {
+    new LikenessPicture(*picDest, m_session,
+                        {.image = [this]() -> C_Image& { return m_likeness.Image(); },
+                         .place = [this] { return m_likeness.ImageBox(); },
+                         .changed = [this] { Redraw(); },
+                         .take = std::bind_front(&EditWindow::TakeDropped, this)});
     connect(picDest, &PictureBox::MouseDown, this, &EditWindow::picDest_MouseDown);
     connect(picDest, &PictureBox::MouseMove, this, &EditWindow::picDest_MouseMove);
     connect(picDest, &PictureBox::MouseUp, this, &EditWindow::picDest_MouseUp);

@@ -65,6 +65,8 @@ public:
 
     /// Lines of the text, never fewer than one.
     QStringList GetTextArray() const;
+    /// Where the picture stands, or would stand.
+    QRect ImageBox() { return ImagePlace(); }
     /// The middle of the lower edge of the text's place.
     QPoint BelowText();
     Spot WhereIsMouse(Surface& picDest, double X, double Y);

@@ -5,12 +5,14 @@
 #include "drawing/basDraw.h"
 #include "game/Session.h"
 #include "pictures/MissingMark.h"
+#include "pictures/PicturePart.h"
 #include "services/basErrLog.h"
 #include "windowing/ElidedLabel.h"
 #include "windowing/PictureBox.h"
 #include "windows/editors/BoxText.h"
 #include "windows/editors/ImageGroup.h"
 #include "windows/editors/Redrawing.h"
+#include "windows/pictures/DroppedFiles.h"
 #include "windows/pictures/UnsavedChanges.h"
 
 #include <QCheckBox>
@@ -154,12 +156,35 @@ void frmEditMoney::chkIncludeImage_Click() try {
     ErrTop("frmEditMoney!", "chkIncludeImage_Click");
 }
 
+void frmEditMoney::ShowPicture(const PictureRef& shown) {
+    FaceImage().Let_FullPath(shown.sPath);
+    ShowPart(FaceImage(), shown);
+    ShowImagePath();
+}
+
+void frmEditMoney::TakeDropped(const QStringList& files) try {
+    bool others = false;
+    const QString file = DroppedFiles::TakeFirst(m_session, files, FaceImage().Owner(), others);
+    if (file.isEmpty()) return;
+    // The others of the window's notes have taken what the game got behind this one.
+    for (size_t i = 0; others && i < m_oMoney.size(); ++i) {
+        if (int(i) != Index() && m_oMoney[i].FaceImage.FullPath().isEmpty())
+            m_oMoney[i].LoadFromObject(m_session.InHand().money[i]);
+    }
+    ShowPicture(PictureRef{file, ZoomThatFills(file)});
+    RedrawMoney();
+} catch (...) {
+    ErrTop("frmEditMoney!", "TakeDropped");
+}
+
 void frmEditMoney::cmdBitmap_Click() try {
-    const QString before = FaceImage().FullPath();
+    const PictureRef shown = FaceImage().Ref();
+    const QString& before = shown.sPath;
     const QString path = fraBitmap->AskForPicture(FaceImage());
     if (path != before) {
         FaceImage().Let_FullPath(path);
         fraBitmap->RestorePart(FaceImage());
+        if (IsSameElsewhere(before, path)) ShowPart(FaceImage(), shown);
         FaceImage().TakeBadPath(fraBitmap->BadPath());
         ShowImagePath();
         RedrawMoney();

@@ -58,6 +58,8 @@ private:
     void RedrawMoney();
     void RedrawTextOnly();
     static QRectF InMiddleOfNote(double dblDPI);
+    void ShowPicture(const PictureRef& shown);
+    void TakeDropped(const QStringList& files);
     void LoadFromGame();
     bool IsAnyDifferent() const;
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "windows/editors/frmEditMoney.h"
+#include "windows/editors/LikenessPicture.h"
 
 #include "services/basCommon.h"
 #include "windowing/basCommon_forms.h"
@@ -44,6 +45,11 @@ void frmEditMoney::BuildControls() {
     cmdIndex = MakeButton("cmdIndex", QString(), nullptr);
     cmdIndex->hide();
     picNote = new PictureBox(this);
+    new LikenessPicture(*picNote, m_session,
+                        {.image = [this]() -> C_Image& { return FaceImage(); },
+                         .place = [this] { return InMiddleOfNote(picNote->DotsPerInch()).toAlignedRect(); },
+                         .changed = [this] { RedrawMoney(); },
+                         .take = std::bind_front(&frmEditMoney::TakeDropped, this)});
     picNote->setObjectName(QStringLiteral("picNote"));
     picNote->setFixedSize(kNote);
     connect(picNote, &PictureBox::BackingChanged, this, &frmEditMoney::picNote_BackingChanged);

@@ -5,6 +5,7 @@
 #include "document/Subscript.h"
 #include "game/Session.h"
 #include "pictures/MissingMark.h"
+#include "pictures/PicturePart.h"
 #include "platform/text/NewLine.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
@@ -13,6 +14,7 @@
 #include "windowing/WidgetLook.h"
 #include "windows/editors/ImageGroup.h"
 #include "windows/editors/Redrawing.h"
+#include "windows/pictures/DroppedFiles.h"
 #include "windows/pictures/frmBrowse.h"
 #include "windows/pictures/frmImagePosition.h"
 #include "windows/pictures/UnsavedChanges.h"
@@ -105,7 +107,8 @@ void frmEditToken::ShowInclude(Include include) {
     cmdCropImage->setEnabled(image);
     cmdChangeFont->setEnabled(!image);
     cmdSetAllFonts->setEnabled(!image);
-    lblHint->setText(image ? QStringLiteral("The image fills the token.") : QStringLiteral("Click the token to type."));
+    lblHint->setText(image ? QStringLiteral("Drag with the right button to move\nthe image, turn the wheel to zoom.")
+                           : QStringLiteral("Click the token to type."));
 }
 
 void frmEditToken::SetText(const QString& sText) {
@@ -162,6 +165,24 @@ void frmEditToken::cmdBitmap_Click() try {
     ErrTop("frmEditToken!", "cmdBitmap_Click");
 }
 
+void frmEditToken::ShowImage(const PictureRef& shown) {
+    m_selection.Clear();
+    SetText(QString());
+    SetImagePath(shown.sPath);
+    ShowPart(m_oToken.Image, shown);
+}
+
+void frmEditToken::TakeDropped(const QStringList& files) try {
+    bool others = false;
+    const QString file = DroppedFiles::TakeFirst(m_session, files, m_oToken.Image.Owner(), others);
+    if (file.isEmpty()) return;
+    ShowImage(PictureRef{file, ZoomThatFills(file)});
+    Redraw();
+    TakeFocus();
+} catch (...) {
+    ErrTop("frmEditToken!", "TakeDropped");
+}
+
 void frmEditToken::ChooseImage() {
     if (m_sLastFolder.isEmpty()) m_sLastFolder = basCommon::GetMyGamesDirectory();
     const QString before = m_oToken.Image.FullPath();
@@ -169,7 +190,9 @@ void frmEditToken::ChooseImage() {
     const QString path = browser.ShowForm(before, true, m_sLastFolder);
     if (path == before) return;
     m_sLastFolder = frmBrowse::LastFolder();
+    const PictureRef shown = m_oToken.Image.Ref();
     SetImagePath(path);
+    if (IsSameElsewhere(before, path)) ShowPart(m_oToken.Image, shown);
     m_oToken.Image.TakeBadPath(browser.BadPath());
 }
 

@@ -87,6 +87,8 @@ private:
     void LoadFromGame();
     void ShowInclude(Include include);
     void ChooseImage();
+    void ShowImage(const PictureRef& shown);
+    void TakeDropped(const QStringList& files);
     void SetText(const QString& sText);
     void SetImagePath(const QString& sFullPath);
 

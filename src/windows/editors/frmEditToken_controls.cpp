@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "windows/editors/frmEditToken.h"
+#include "windows/editors/LikenessPicture.h"
 
 #include "windowing/ButtonKeys.h"
 #include "windowing/PictureBox.h"
@@ -130,6 +131,11 @@ void frmEditToken::BuildHidden() {
 }
 
 void frmEditToken::Connect() {
+    new LikenessPicture(*picDest, m_session,
+                        {.image = [this]() -> C_Image& { return m_oToken.Image; },
+                         .place = [this] { return picDest->rect(); },
+                         .changed = [this] { Redraw(); },
+                         .take = std::bind_front(&frmEditToken::TakeDropped, this)});
     connect(picDest, &PictureBox::MouseDown, this, &frmEditToken::picDest_MouseDown);
     connect(picDest, &PictureBox::MouseMove, this, &frmEditToken::picDest_MouseMove);
     connect(picDest, &PictureBox::MouseUp, this, &frmEditToken::picDest_MouseUp);

@@ -4,6 +4,7 @@
 #include "drawing/basBMP.h"
 #include "drawing/basBMP_metafile.h"
 #include "pictures/PaintPicture.h"
+#include "pictures/PictureCheck.h"
 #include "pictures/TellOnce.h"
 #include "pictures/ThumbnailFile.h"
 #include "platform/files/Files.h"
@@ -17,8 +18,10 @@
 #include "windowing/basAPI_screen.h"
 #include "windowing/basCommon_forms.h"
 #include "windowing/ElidedLabel.h"
+#include "windowing/PhotoGrid.h"
 #include "windowing/PictureBox.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QListWidget>
@@ -37,15 +40,24 @@ constexpr int kMetafileFree = 5;
 
 enum FilterNumber { kUsualPictures = 0, kAllPictures = 1 };
 
-/// What the chooser remembers from one opening to the next.
+const QString kFolderKey = QStringLiteral("PictureFolder");
+const QString kKindsKey = QStringLiteral("PictureKinds");
+
+/// What the chooser remembers from one opening to the next, and from one start to the next.
 struct Memory {
     QString sLastFolder;
     int iFilter = kAllPictures;
+    /// The settings have it, too.
+    bool bKept = false;
 };
 
 Memory& Remembered() {
     static Memory memory;
     return memory;
+}
+
+void Keep(const QString& sKey, const QString& sValue) {
+    if (Remembered().bKept) basCommon::WriteIniString(sKey, sValue);
 }
 
 QStyle::StandardPixmap IconOf(const BrowsePlaces::Place& place) {
@@ -77,6 +89,13 @@ frmBrowse::~frmBrowse() = default;
 
 QString frmBrowse::LastFolder() { return Remembered().sLastFolder; }
 void frmBrowse::ResetForTest() { Remembered() = Memory{}; }
+
+void frmBrowse::ReadSettings() {
+    Memory& memory = Remembered();
+    memory.bKept = true;
+    memory.sLastFolder = basCommon::GetIniString(kFolderKey);
+    if (basCommon::GetIniString(kKindsKey) == QString::number(kUsualPictures)) memory.iFilter = kUsualPictures;
+}
 
 QString frmBrowse::ShowForm(const QString& sFilePath, bool bAllowWMF, const QString& sStartFolder) try {
     m_sOriginalPath = sFilePath;
@@ -116,15 +135,22 @@ void frmBrowse::FillFilters(const QString& sInUse, bool bAllowWMF) {
     cboFilter->clear();
     cboFilter->addItem(QStringLiteral("Pictures (") + BrowsePlaces::PatternsOf(usual).join(u' ') + u')', usual);
     cboFilter->addItem(QStringLiteral("All pictures"), BrowsePlaces::AllPicturesFilter(bAllowWMF, bits));
+    // On a small screen the column gives way to none of the others.
+    cboFilter->setMinimumWidth(cboFilter->sizeHint().width());
     const bool hidden = !sInUse.isEmpty() && !BrowsePlaces::IsListed(usual, sInUse);
     cboFilter->setCurrentIndex(hidden ? kAllPictures : Remembered().iFilter);
 }
 
-// Nothing is chosen yet. Callers that remember no folder hand over My Games; the one used last is nearer then.
+// Nothing is chosen yet. Callers that remember no folder hand over My Games; the one used last is nearer then, and
+// ahead of the first use the one where people keep photos.
 void frmBrowse::StartIn(const QString& sStartFolder) {
     const bool remembered = !sStartFolder.isEmpty() && sStartFolder != basCommon::GetMyGamesDirectory();
-    const QStringList wanted = remembered ? QStringList{sStartFolder, Remembered().sLastFolder}
-                                          : QStringList{Remembered().sLastFolder, sStartFolder};
+    QStringList wanted{Remembered().sLastFolder};
+    if (remembered) {
+        wanted.prepend(sStartFolder);
+    } else if (!sStartFolder.isEmpty()) {
+        wanted << Folders::Pictures() << sStartFolder;
+    }
     QString error;
     bool found = false;
     for (const QString& folder : wanted + QStringList{basCommon::GetMyGamesDirectory(), Folders::ProgramDirectory()}) {
@@ -188,11 +214,15 @@ void frmBrowse::FillFiles() {
     QString error;
     const QStringList patterns = BrowsePlaces::PatternsOf(cboFilter->currentData().toString());
     const std::optional<QStringList> names = FolderListing::Files(m_sFolder, patterns, error);
-    if (!names) return;
-    for (const QString& name : *names) {
+    QStringList files;
+    for (const QString& name : names.value_or(QStringList())) {
         // Made by the program, and made anew at any time.
-        if (!ThumbnailFile::IsThumbnail(BrowsePlaces::FileIn(m_sFolder, name))) filList->addItem(name);
+        const QString file = BrowsePlaces::FileIn(m_sFolder, name);
+        if (ThumbnailFile::IsThumbnail(file)) continue;
+        filList->addItem(name);
+        files.append(file);
     }
+    lstGrid->ShowFiles(files);
 }
 
 void frmBrowse::SelectFile(const QString& sFilePath) {
@@ -238,11 +268,29 @@ void frmBrowse::dirList_Change() try {
     lblCurrentDirectory->SetWholeText(m_sFolder);
     ShowFilePath(m_sFolder);
     picBitMapArea->Cls();
+    ShowWhetherItCanBeTaken();
 } catch (...) {
     ErrTop("frmBrowse!", "dirList_Change");
 }
 
 void frmBrowse::dirList_Activated(QTreeWidgetItem* item) { OpenFolder(item->data(0, Qt::UserRole).toString()); }
+
+// The second click of a double click would open whatever has come to lie under the pointer.
+void frmBrowse::dirList_Click(QTreeWidgetItem* item) {
+    const bool second = m_sinceClick.isValid() && m_sinceClick.elapsed() < QApplication::doubleClickInterval();
+    if (second) return;
+    m_sinceClick.start();
+    dirList_Activated(item);
+}
+
+void frmBrowse::lstGrid_Click(const QModelIndex& index) try {
+    const QString file = lstGrid->FileAt(index);
+    if (file.isEmpty() || file == m_sFilePath) return;
+    SelectFile(file);
+    filList_Click();
+} catch (...) {
+    ErrTop("frmBrowse!", "lstGrid_Click");
+}
 
 void frmBrowse::OpenFolder(const QString& sFolder) try {
     QString error;
@@ -264,6 +312,8 @@ void frmBrowse::filList_Click() try {
         return;
     }
     ShowFilePath(BrowsePlaces::FileIn(m_sFolder, filList->item(index)->text()));
+    lstGrid->Choose(m_sFilePath);
+    ShowWhetherItCanBeTaken();
     AskForPreview();
 } catch (...) {
     ErrTop("frmBrowse!", "filList_Click");
@@ -273,6 +323,7 @@ void frmBrowse::filList_DblClick() { cmdOK_Click(); }
 
 void frmBrowse::cboFilter_Click() try {
     Remembered().iFilter = cboFilter->currentIndex();
+    Keep(kKindsKey, QString::number(Remembered().iFilter));
     const QString chosen = m_sFilePath;
     FillFiles();
     SelectFile(chosen);
@@ -286,10 +337,28 @@ void frmBrowse::AskForPreview() {
     const bool later = basCommon::DoesFileExist(m_sFilePath) && !basBMP::IsWMF(m_sFilePath) &&
                        !m_loader->Ask(m_sFilePath, std::max(size.width(), size.height()), kPreviewPatience);
     if (later) {
-        picBitMapArea->Cls();
+        ShowLoading();
     } else {
         Redraw();
     }
+}
+
+void frmBrowse::ShowLoading() {
+    const QString text = QStringLiteral("Loading...");
+    picBitMapArea->Cls();
+    picBitMapArea->ScaleMode = ScaleModeKind::Pixels;
+    picBitMapArea->ForeColor = Color::Rgb(0x60, 0x60, 0x60);
+    picBitMapArea->CurrentX = (picBitMapArea->width() - picBitMapArea->TextWidth(text)) / 2;
+    picBitMapArea->CurrentY = (picBitMapArea->height() - picBitMapArea->TextHeight(text)) / 2;
+    picBitMapArea->Print(text);
+    picBitMapArea->ScaleMode = ScaleModeKind::Twips;
+    picBitMapArea->Refresh();
+}
+
+// A file that was refused can't be taken; the picture in use stays what it is.
+void frmBrowse::ShowWhetherItCanBeTaken() {
+    const bool refused = !m_sFilePath.isEmpty() && m_sFilePath == m_sBadPath && m_sFilePath != m_sOriginalPath;
+    cmdOK->setEnabled(!refused);
 }
 
 void frmBrowse::Preview_Arrived(const QString& sPath) {
@@ -304,6 +373,7 @@ void frmBrowse::Redraw() try {
     if (!m_sFilePath.isEmpty() && m_sFilePath != m_sFolder) PaintPreview(lW, lH);
     picBitMapArea->ScaleMode = ScaleModeKind::Twips;
     picBitMapArea->Refresh();
+    ShowWhetherItCanBeTaken();
 } catch (...) {
     ErrTop("frmBrowse!", "Redraw");
 }
@@ -333,13 +403,22 @@ void frmBrowse::Preview_Vanished() try {
     ErrTop("frmBrowse!", "Preview_Vanished");
 }
 
+// Also where its preview hasn't come up yet.
+bool frmBrowse::IsRefused() const {
+    if (!cmdOK->isEnabled()) return true;
+    const QString why = m_sFilePath == m_sOriginalPath ? QString() : WhyNoPicture(m_sFilePath);
+    if (!why.isEmpty()) MsgBox(why, vbInformation);
+    return !why.isEmpty();
+}
+
 void frmBrowse::cmdOK_Click() try {
     if (ListIndex() < 0) {
         MsgBox(QStringLiteral("Please select a file before clicking OK"));
         return;
     }
-    if (!CopyFileToRoot()) return;
+    if (IsRefused() || !CopyFileToRoot()) return;
     Remembered().sLastFolder = m_sFolder;
+    Keep(kFolderKey, m_sFolder);
     m_bOK = true;
     hide();
 } catch (...) {

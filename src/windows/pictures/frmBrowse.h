@@ -5,16 +5,19 @@
 #include "windows/pictures/BrowsePlaces.h"
 
 #include <QDialog>
+#include <QElapsedTimer>
 #include <QString>
 
 #include <memory>
 
 class ElidedLabel;
+class PhotoGrid;
 class PictureBox;
 class PreviewLoader;
 class QComboBox;
 class QFrame;
 class QListWidget;
+class QModelIndex;
 class QPushButton;
 class QTreeWidget;
 class QTreeWidgetItem;
@@ -39,7 +42,9 @@ public:
     const QString& BadPath() const { return m_sBadPath; }
     void SetBadPath(const QString& sFilePath) { m_sBadPath = sFilePath; }
 
-    /// Folder that the last picture of this run was taken from; empty before the first.
+    /// What was chosen last is remembered from here on over starts, once the settings can be read.
+    static void ReadSettings();
+    /// Folder that the last picture was taken from; empty before the first.
     static QString LastFolder();
     /// For tests: as at the start of a run.
     static void ResetForTest();
@@ -74,6 +79,9 @@ private:
     void PaintPreview(int lW, int lH);
     /// Draws the preview now, or when its picture has been read.
     void AskForPreview();
+    void ShowLoading();
+    void ShowWhetherItCanBeTaken();
+    bool IsRefused() const;
     void Redraw();
     /// False, after telling why, when the picture ought to be in the My Games directory and can't be.
     bool CopyFileToRoot();
@@ -83,6 +91,8 @@ private:
     void drvList_Change();
     void dirList_Change();
     void dirList_Activated(QTreeWidgetItem* item);
+    void dirList_Click(QTreeWidgetItem* item);
+    void lstGrid_Click(const QModelIndex& index);
     bool dirList_KeyDown(int key);
     bool filList_KeyDown(int key);
     void filList_Click();
@@ -96,6 +106,7 @@ private:
     QComboBox* drvList = nullptr;
     QTreeWidget* dirList = nullptr;
     QListWidget* filList = nullptr;
+    PhotoGrid* lstGrid = nullptr;
     QComboBox* cboFilter = nullptr;
     ElidedLabel* lblCurrentDirectory = nullptr;
     ElidedLabel* lblFullFilePath = nullptr;
@@ -112,6 +123,8 @@ private:
     QString m_sFilePath;
     QString m_sBadPath;
     bool m_bOK = false;
+    /// Since a folder was clicked.
+    QElapsedTimer m_sinceClick;
     /// Made anew for each picture: what was told of one is no matter of the next.
     PictureRef m_oPreview;
 };

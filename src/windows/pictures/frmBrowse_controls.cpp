@@ -2,6 +2,7 @@
 // The window's controls: what they are, where they stand, and what they set off.
 #include "platform/pictures/PreviewLoader.h"
 #include "windowing/ElidedLabel.h"
+#include "windowing/PhotoGrid.h"
 #include "windowing/PictureBox.h"
 #include "windows/pictures/frmBrowse.h"
 
@@ -24,6 +25,8 @@ constexpr int kPreviewSide = 260;
 constexpr int kFoldersWidth = 200;
 constexpr int kFilesWidth = 210;
 constexpr int kListsHeight = 260;
+// A small picture and the bar; there is room for more where the screen has it.
+constexpr int kGridWidth = PhotoGrid::kSide + 50;
 
 template <typename Control>
 Control* Named(Control* control, const char* name, const QString& sToolTip) {
@@ -43,7 +46,7 @@ QLabel* LabelFor(QWidget* control, const QString& sText, QWidget* parent) {
 
 void frmBrowse::BuildLists() {
     drvList = Named(new QComboBox(this), "drvList", QStringLiteral("Where to look for pictures"));
-    dirList = Named(new QTreeWidget(this), "dirList", QStringLiteral("Double-click a folder to open it"));
+    dirList = Named(new QTreeWidget(this), "dirList", QStringLiteral("Click a folder to open it"));
     dirList->setHeaderHidden(true);
     dirList->setRootIsDecorated(false);
     dirList->setItemsExpandable(false);
@@ -56,6 +59,10 @@ void frmBrowse::BuildLists() {
     filList->setUniformItemSizes(true);
     filList->installEventFilter(this);
     filList->setMinimumSize(kFilesWidth, kListsHeight);
+    lstGrid = Named(new PhotoGrid(this), "lstGrid", QString());
+    lstGrid->setMinimumSize(kGridWidth, kListsHeight);
+    lstGrid->setSelectionMode(QAbstractItemView::SingleSelection);
+    lstGrid->setAccessibleName(QStringLiteral("Pictures, small"));
     cboFilter = Named(new QComboBox(this), "cboFilter", QStringLiteral("Which kinds of picture are listed"));
     lblCurrentDirectory = Named(new ElidedLabel(this), "lblCurrentDirectory", QString());
     lblFullFilePath = Named(new ElidedLabel(this), "lblFullFilePath", QString());
@@ -92,26 +99,31 @@ void frmBrowse::BuildControls() {
     grid->addWidget(cboFilter, 1, 1);
     grid->addWidget(LabelFor(filList, QStringLiteral("Pic&tures:"), this), 2, 1);
     grid->addWidget(filList, 3, 1);
-    grid->addWidget(lblCurrentDirectory, 1, 2);
-    grid->addWidget(shpBitMapArea, 3, 2, Qt::AlignTop | Qt::AlignHCenter);
+    grid->addWidget(lblCurrentDirectory, 1, 2, 1, 2);
+    grid->addWidget(lstGrid, 3, 2);
+    grid->addWidget(shpBitMapArea, 3, 3, Qt::AlignTop | Qt::AlignHCenter);
     auto* file = new QHBoxLayout;
     file->addWidget(new QLabel(QStringLiteral("File:"), this));
     file->addWidget(lblFullFilePath, 1);
-    grid->addLayout(file, 4, 0, 1, 3);
-    grid->addWidget(buttons, 5, 0, 1, 3);
+    grid->addLayout(file, 4, 0, 1, 4);
+    grid->addWidget(buttons, 5, 0, 1, 4);
     grid->setRowStretch(3, 1);
     grid->setColumnStretch(0, 1);
     grid->setColumnStretch(1, 1);
+    grid->setColumnStretch(2, 2);
     setTabOrder(drvList, dirList);
     setTabOrder(dirList, cboFilter);
     setTabOrder(cboFilter, filList);
-    setTabOrder(filList, cmdOK);
+    setTabOrder(filList, lstGrid);
+    setTabOrder(lstGrid, cmdOK);
     setTabOrder(cmdOK, cmdCancel);
 }
 
 void frmBrowse::Connect() {
     connect(drvList, &QComboBox::activated, this, &frmBrowse::drvList_Change);
-    connect(dirList, &QTreeWidget::itemActivated, this, &frmBrowse::dirList_Activated);
+    connect(dirList, &QTreeWidget::itemClicked, this, &frmBrowse::dirList_Click);
+    connect(lstGrid, &QListView::clicked, this, &frmBrowse::lstGrid_Click);
+    connect(lstGrid, &QListView::doubleClicked, this, &frmBrowse::filList_DblClick);
     connect(filList, &QListWidget::itemSelectionChanged, this, &frmBrowse::filList_Click);
     connect(filList, &QListWidget::itemDoubleClicked, this, &frmBrowse::filList_DblClick);
     connect(cboFilter, &QComboBox::activated, this, &frmBrowse::cboFilter_Click);

@@ -62,7 +62,10 @@ void frmImagePosition::ShowForm(C_Image& objImage, double dblHeightToWidth, bool
     m_oMaster = &objImage;
     m_oImage.LoadFromObject(objImage, false);
     SetSlider(ImagePlacing::SliderOfZoom(m_oImage.Zoom()));
+    m_bGivenUp = false;
     if (LoadMyPicture(m_oImage.FullPath())) Zoom();
+    // Who doesn't want another one in place of a picture that can't be read, doesn't want to crop it either.
+    if (!m_bLoaded && m_bGivenUp) return;
     if (!m_bLoaded) timSelectAnImage->start();
     picZoomed->setFocus();
     exec();
@@ -110,6 +113,7 @@ bool frmImagePosition::LoadMyPicture(const QString& sFilePath) try {
         m_sBadPath = sFilePath;
         ShowNothing();
         cmdSelectImage_Click();
+        m_bGivenUp = !m_bLoaded;
         return false;
     }
     picOriginal.Picture = picture;

@@ -90,6 +90,8 @@ private:
     QString m_sBadPath;
     bool m_bRound = false;
     bool m_bLoaded = false;
+    /// The picture can't be read, and no other one was chosen for it.
+    bool m_bGivenUp = false;
     bool m_bBusy = false;
     qint16 m_iStartX = 0;
     qint16 m_iStartY = 0;

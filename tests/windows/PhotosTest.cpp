@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: MIT
+#include "windows/photos/frmDealPhotos.h"
+#include "windows/photos/PhotoTab.h"
+
+#include "document/basTAVL.h"
+#include "game/DealtPhotos.h"
+#include "game/PieceImages.h"
+#include "services/basCommon.h"
+#include "support/EditorFixture.h"
+#include "support/PictureFiles.h"
+#include "windowing/PhotoGrid.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QLabel>
+#include <QMimeData>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QUrl>
+
+namespace {
+
+class PhotosTest : public EditorTest {
+protected:
+    PhotosTest() {
+        basCommon::InitIniPath();
+        for (C_Space& space : TheGame().spaces)
+            space.SetImagePath(QString());
+        QDir(folder.path()).mkdir(QStringLiteral("photos"));
+    }
+    ~PhotosTest() override { basCommon::ResetForTest(); }
+    /// "photo 0.png" and so on.
+    void MakePhotos(int count) const {
+        QImage image(60, 40, QImage::Format_RGB32);
+        image.fill(Qt::blue);
+        const QByteArray bytes = PictureFiles::Encoded(image, "png");
+        for (int i = 0; i < count; ++i)
+            WriteFile(QStringLiteral("photos/place %1.png").arg(i), bytes);
+    }
+    QString Photos() const { return PathOf(QStringLiteral("photos")); }
+    template <typename Control>
+    static Control& In(QWidget& window, const char* name) {
+        return *window.findChild<Control*>(QString::fromLatin1(name));
+    }
+    static void WaitFor(QWidget& window) {
+        EXPECT_TRUE(QTest::qWaitFor(
+            [&window] { return !In<QLabel>(window, "lblState").text().startsWith(QStringLiteral("Looking")); }));
+    }
+    static QString Caption(PhotoGrid& grid, int row) {
+        return grid.model()->index(row, 0).data(Qt::DisplayRole).toString();
+    }
+    /// Acts in the window while it stands.
+    bool InWindow(const std::function<void(frmDealPhotos&)>& act) {
+        frmDealPhotos window(session);
+        QTimer::singleShot(0, &window, [&] {
+            window.ShowFolder(Photos());
+            WaitFor(window);
+            act(window);
+            if (window.isVisible()) window.reject();
+        });
+        return window.ShowForm();
+    }
+};
+
+TEST_F(PhotosTest, AFolderIsDealtInOneStepAndAClickLeavesOneOut) {
+    MakePhotos(60);
+    WriteFile(QStringLiteral("photos/letter.jpg"), "Dear Grandma");
+    const int free = int(DealtPhotos::FreePlaces(TheGame(), false).size());
+    EXPECT_TRUE(InWindow([&](frmDealPhotos& window) {
+        In<QComboBox>(window, "cboOrder").setCurrentIndex(1);
+        Q_EMIT In<QComboBox>(window, "cboOrder").activated(1);
+        auto& grid = In<PhotoGrid>(window, "lstPhotos");
+        EXPECT_EQ(grid.model()->rowCount(), 60) << "the letter is no photo";
+        EXPECT_EQ(Caption(grid, free), QStringLiteral("no free place"));
+        Q_EMIT grid.clicked(grid.model()->index(1, 0));
+        EXPECT_EQ(Caption(grid, 1), QStringLiteral("left out"));
+        EXPECT_NE(Caption(grid, free), QStringLiteral("no free place")) << "the others move up";
+        EXPECT_EQ(In<QPushButton>(window, "cmdOK").text(), QStringLiteral("&Deal %1 Photos").arg(free));
+        Click(window, "cmdOK");
+    }));
+    const auto places = DealtPhotos::FreePlaces(Game(), false);
+    EXPECT_TRUE(PieceImages::Of(TheGame(), places[0]).FullPath().endsWith(QStringLiteral("place 0.png")));
+    EXPECT_TRUE(PieceImages::Of(TheGame(), places[1]).FullPath().endsWith(QStringLiteral("place 2.png")));
+    EXPECT_EQ(session.UndoName(), QStringLiteral("%1 Dealt Photos").arg(free));
+    session.Undo();
+    EXPECT_FALSE(session.CanUndo());
+    EXPECT_EQ(PieceImages::Of(TheGame(), places[0]).FullPath(), QString());
+}
+
+TEST_F(PhotosTest, NamesOfFilesAreShownBeforeTheyAreGiven) {
+    MakePhotos(1);
+    EXPECT_TRUE(InWindow([&](frmDealPhotos& window) {
+        auto& grid = In<PhotoGrid>(window, "lstPhotos");
+        EXPECT_FALSE(Caption(grid, 0).contains(QStringLiteral("Place 0")));
+        Click(window, "chkNames");
+        EXPECT_TRUE(Caption(grid, 0).startsWith(QStringLiteral("Place 0\nwas "))) << Caption(grid, 0).toStdString();
+        Click(window, "cmdOK");
+    }));
+    const auto places = DealtPhotos::FreePlaces(Game(), false);
+    EXPECT_EQ(TheGame().spaces[size_t(places[0].iNumber)].TextAll(), QStringLiteral("Place 0"));
+}
+
+TEST_F(PhotosTest, CancelAndAnEmptyFolderChangeNothing) {
+    EXPECT_FALSE(InWindow([&](frmDealPhotos& window) {
+        EXPECT_EQ(In<QLabel>(window, "lblState").text(),
+                  QStringLiteral("There are no pictures in this folder. Please choose another one."));
+        EXPECT_FALSE(In<QPushButton>(window, "cmdOK").isEnabled());
+    }));
+    EXPECT_FALSE(session.CanUndo());
+}
+
+TEST_F(PhotosTest, AFolderOfThousandsIsBrowsedWithoutAGap) {
+    constexpr int kMany = 3000;
+    MakePhotos(1);
+    for (int i = 1; i < kMany; ++i)
+        QFile::link(Photos() + QStringLiteral("/place 0.png"), Photos() + QStringLiteral("/place %1.png").arg(i));
+    PhotoGrid grid;
+    grid.resize(600, 500);
+    grid.show();
+    QStringList files;
+    for (int i = 0; i < kMany; ++i)
+        files.append(Photos() + QStringLiteral("/place %1.png").arg(i));
+    QElapsedTimer whole;
+    whole.start();
+    grid.ShowFiles(files);
+    QCoreApplication::processEvents();
+    qint64 longest = whole.elapsed();
+    QScrollBar& bar = *grid.verticalScrollBar();
+    for (int step = 0; step <= 40; ++step) {
+        QElapsedTimer turn;
+        turn.start();
+        bar.setValue(bar.maximum() * step / 40);
+        QCoreApplication::processEvents();
+        longest = std::max(longest, turn.elapsed());
+    }
+    RecordProperty("longest_gap_ms", int(longest));
+    EXPECT_LT(longest, 100);
+    EXPECT_TRUE(QTest::qWaitFor([&grid] { return grid.Made() > 10; }));
+}
+
+TEST_F(PhotosTest, TheTrayTicksWhatTheGameShowsAndHandsFilesOver) {
+    MakePhotos(3);
+    PhotoTab tab(session);
+    tab.ShowFolder(Photos());
+    auto& grid = In<PhotoGrid>(tab, "lstTray");
+    const auto image = [&grid](int row) {
+        return grid.model()->index(row, 0).data(Qt::DecorationRole).value<QPixmap>().toImage();
+    };
+    EXPECT_EQ(Caption(grid, 1), QStringLiteral("place 1.png"));
+    const QImage before = image(1);
+    C_Space space = TheGame().spaces[4];
+    space.SetImagePath(Photos() + QStringLiteral("/place 1.png"));
+    session.Do(Edits::OfSpace(TheGame(), 4, space));
+    EXPECT_NE(image(1), before) << "a tick stands on it";
+    EXPECT_EQ(image(2), image(0));
+    const std::unique_ptr<QMimeData> data(grid.model()->mimeData({grid.model()->index(2, 0)}));
+    EXPECT_EQ(data->urls(), QList<QUrl>{QUrl::fromLocalFile(Photos() + QStringLiteral("/place 2.png"))});
+    EXPECT_EQ(basCommon::GetIniString(QStringLiteral("PhotoFolder")), Photos()) << "kept for the next start";
+}
+
+} // namespace
