@@ -13,19 +13,26 @@
 namespace basPosit {
 namespace {
 
-// The drawing layer and the board hold on to a surface only as long as it lives, even if painting fails.
+// The drawing layer and the board hold on to a surface only as long as it lives, even if painting fails. A window that
+// shows the board goes on where it was scrolled to.
 class OnSurface {
 public:
-    explicit OnSurface(Surface& picBoard) {
+    explicit OnSurface(Surface& picBoard) : m_iOffsetX(GetOffsetX()), m_iOffsetY(GetOffsetY()) {
         PosSethDC(&picBoard.hDC());
         PosSetPicture(&picBoard);
     }
     ~OnSurface() {
         PosSetPicture(nullptr);
         PosSethDC(nullptr);
+        PosSetOffsetX(m_iOffsetX);
+        PosSetOffsetY(m_iOffsetY);
     }
     OnSurface(const OnSurface&) = delete;
     OnSurface& operator=(const OnSurface&) = delete;
+
+private:
+    const int m_iOffsetX;
+    const int m_iOffsetY;
 };
 
 void PaintOn(Surface& picBoard, int lSize) {
