@@ -23,6 +23,7 @@
 #include "windows/help/WindowHelp.h"
 #include "windows/missing/frmMissingPictures.h"
 #include "windows/nokit/PrintWithoutKit.h"
+#include "windows/photos/frmDealPhotos.h"
 #include "windows/pictures/frmBrowse.h"
 #include "windows/pictures/frmFileName.h"
 #include "windows/pictures/frmImagePosition.h"
@@ -79,6 +80,7 @@ protected:
         add(new frmShowTokens(session));
         add(new frmBrowse);
         add(new frmMissingPictures(session));
+        add(new frmDealPhotos(session));
         add(new frmFileName);
         add(new frmImagePosition);
         add(new frmColor);

@@ -2,6 +2,7 @@
 // The panel beside the board: its coming and going, its tabs, and the guide in it.
 #include "MainWindowFixture.h"
 
+#include "windows/photos/PhotoTab.h"
 #include "windows/side/GuideTab.h"
 
 #include <QCommandLinkButton>
@@ -67,13 +68,13 @@ TEST_F(SidePanelTest, StaysAsItWasAtTheNextStart) {
 
 TEST_F(SidePanelTest, AnotherTabIsOneCallAndComesToTheFrontAgain) {
     Panel().AddTab("Other", QStringLiteral("Other"), new QLabel(QStringLiteral("Here")));
-    QTest::mouseClick(Panel().tabBar(), Qt::LeftButton, {}, Panel().tabBar()->tabRect(2).center());
-    EXPECT_EQ(Panel().currentIndex(), 2);
+    QTest::mouseClick(Panel().tabBar(), Qt::LeftButton, {}, Panel().tabBar()->tabRect(3).center());
+    EXPECT_EQ(Panel().currentIndex(), 3);
     EXPECT_TRUE(Find<QLabel>("Other").isVisible());
     EXPECT_EQ(Ini("SideTab"), QStringLiteral("Other"));
     EXPECT_TRUE(Panel().ShowTab(GuideTab::kName));
     Panel().ReadSettings();
-    EXPECT_EQ(Panel().currentIndex(), 2);
+    EXPECT_EQ(Panel().currentIndex(), 3);
     EXPECT_FALSE(Panel().ShowTab("Nowhere"));
 }
 
@@ -102,6 +103,7 @@ TEST_F(SidePanelTest, AStepIsTickedWhileItIsDone) {
 
 TEST_F(SidePanelTest, GuideGoesForEverAndTheMenuBringsItBack) {
     Panel().SetTabShown(CheckList::kName, false);
+    Panel().SetTabShown(PhotoTab::kName, false);
     Click(Find<QPushButton>("cmdGuideAway"));
     EXPECT_FALSE(Panel().isVisible()) << "nothing else stands in it";
     EXPECT_FALSE(Handle().isVisible());

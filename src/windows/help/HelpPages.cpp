@@ -41,6 +41,7 @@ constexpr Row kRows[] = {
     {"PrintPreview", "print.html"},
     {"PrintWithoutKit", "print.html"},
     {"frmMissingPictures", "pictures.html"},
+    {"frmDealPhotos", "pictures.html"},
     {"frmEarlierVersions", "board.html"},
     // clang-format on
 };

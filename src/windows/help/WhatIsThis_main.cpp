@@ -25,6 +25,9 @@ constexpr WhatIsThis::Row kRows[] = {
     {"frmTAVL", "SidePanel", "What helps with the game in hand. F9 hides it and brings it back."},
     {"frmTAVL", "cmdSideHandle", "Hides the panel beside the board, or brings it back."},
     {"frmTAVL", "GuideScroll", "The steps of a first evening with the program."},
+    {"frmTAVL", "lstTray",
+     "The photos of a folder. Drag one onto a place of the board; a tick stands on those in use."},
+    {"frmTAVL", "cmdFolder", "Shows the photos of another folder."},
     {"frmTAVL", "cmdStep_", "A step of the first evening. It opens its place, and is ticked when it is done."},
     {"frmTAVL", "cmdGuideAway", "Takes the steps away. \"First Evening\" in the menu Help brings them back."},
 

@@ -21,6 +21,7 @@ constexpr WhatIsThis::Row kRows[] = {
     {"frmTAVL", "mnuFile_32",
      "Saves a space, a card, a note or another piece as a picture, an SVG drawing or a PDF page."},
     {"frmTAVL", "mnuFile_51", "Lists the pictures that are not where the game looks for them, and finds them again."},
+    {"frmTAVL", "mnuFile_52", "Lays the photos of a folder onto the free places of the board, in one step."},
     {"frmTAVL", "mnuNewFrom", "Begins a new game from one of the samples."},
     {"frmTAVL", "mnuRecent", "Opens one of the games that you worked on last."},
     {"frmTAVL", "mnuEdit_0", "Takes back the last change."},

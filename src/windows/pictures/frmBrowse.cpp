@@ -135,8 +135,6 @@ void frmBrowse::FillFilters(const QString& sInUse, bool bAllowWMF) {
     cboFilter->clear();
     cboFilter->addItem(QStringLiteral("Pictures (") + BrowsePlaces::PatternsOf(usual).join(u' ') + u')', usual);
     cboFilter->addItem(QStringLiteral("All pictures"), BrowsePlaces::AllPicturesFilter(bAllowWMF, bits));
-    // On a small screen the column gives way to none of the others.
-    cboFilter->setMinimumWidth(cboFilter->sizeHint().width());
     const bool hidden = !sInUse.isEmpty() && !BrowsePlaces::IsListed(usual, sInUse);
     cboFilter->setCurrentIndex(hidden ? kAllPictures : Remembered().iFilter);
 }

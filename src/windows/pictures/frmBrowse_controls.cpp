@@ -64,6 +64,9 @@ void frmBrowse::BuildLists() {
     lstGrid->setSelectionMode(QAbstractItemView::SingleSelection);
     lstGrid->setAccessibleName(QStringLiteral("Pictures, small"));
     cboFilter = Named(new QComboBox(this), "cboFilter", QStringLiteral("Which kinds of picture are listed"));
+    // On a small screen its column gives way to none of the others.
+    cboFilter->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    cboFilter->setSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::Fixed);
     lblCurrentDirectory = Named(new ElidedLabel(this), "lblCurrentDirectory", QString());
     lblFullFilePath = Named(new ElidedLabel(this), "lblFullFilePath", QString());
 }
