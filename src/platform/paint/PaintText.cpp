@@ -3,6 +3,7 @@
 
 #include "platform/paint/PaintImage.h"
 
+#include <QByteArray>
 #include <QCache>
 #include <QFontMetricsF>
 #include <QGlyphRun>
@@ -98,13 +99,16 @@ bool MayHavePictures(const QFont& font, const QString& sText) {
 } // namespace
 
 bool HoldsPictures(const QRawFont& font) {
-    static QHash<QString, bool> known;
-    const QString name = font.familyName() + u'/' + font.styleName();
-    const auto found = known.constFind(name);
+    static QHash<QByteArray, bool> known;
+    // By what no two fonts have alike: its date and checksum. The boxes that stand for letters which no font has come
+    // from a font without a head, and without a family: asking for that ends the program.
+    const QByteArray head = font.fontTable("head");
+    if (head.isEmpty()) return false;
+    const auto found = known.constFind(head);
     if (found != known.constEnd()) return *found;
     const auto has = [&font](const char* table) { return !font.fontTable(table).isEmpty(); };
     const bool outlines = has("loca") || has("CFF ") || has("CFF2");
-    return *known.insert(name, has("head") && (!outlines || has("COLR") || has("sbix")));
+    return *known.insert(head, !outlines || has("COLR") || has("sbix"));
 }
 
 void PaintText(QPainter& painter, QPointF at, const QFont& font, const QString& sText) {
