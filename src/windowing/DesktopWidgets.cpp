@@ -220,6 +220,8 @@ void DesktopWidgets::MsgList(const QStringList& messages, int iStyle, const QStr
     const ListOffer& offer = Offered();
     const bool helps = offer.applies && offer.applies();
     const QAbstractButton* const way = helps ? box.addButton(offer.sCaption, QMessageBox::ActionRole) : nullptr;
+    // With two buttons the toolkit no longer knows which one closing and Escape stand for, and takes neither.
+    box.setEscapeButton(QMessageBox::Ok);
     Show(box);
     if (way && box.clickedButton() == way) offer.take();
 }
