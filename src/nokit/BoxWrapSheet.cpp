@@ -14,10 +14,6 @@ constexpr double kAround = 0.12;
 constexpr double kEdge = 0.07;
 constexpr Color kGround = Color::FromValue(0xFFB000); // the board's own middle
 
-QString NameOfGame() {
-    const QString title = basPosit::m_CenterText(1).sText + basPosit::m_CenterText(0).sText;
-    return basTAVL::CRLF2Space(title);
-}
 QString Subtitle() { return basTAVL::CRLF2Space(basPosit::m_CenterText(2).sText); }
 
 /// A part of the box while it is painted.

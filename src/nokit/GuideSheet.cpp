@@ -2,8 +2,6 @@
 // The first page: what is printed on what, what is cut and folded, and how, with drawings.
 #include "nokit/GuideSketches.h"
 
-#include "board/basPositTables.h"
-#include "document/basTAVL.h"
 #include "nokit/NoKitPrint.h"
 #include "nokit/NoKitSheets.h"
 
@@ -93,8 +91,7 @@ private:
     }
 
     void Head() {
-        const QString name = basTAVL::CRLF2Space(basPosit::m_CenterText(1).sText + basPosit::m_CenterText(0).sText);
-        Line(name, 0.3, true);
+        Line(NameOfGame(), 0.3, true);
         Line(QStringLiteral("Everything of the game from paper and card, for %1 players").arg(m_choices.nPlayers), 0.2,
              false);
         m_top += 0.08;

@@ -2,6 +2,8 @@
 // The table of the sheets that need no boxed kit.
 #include "nokit/NoKitSheets.h"
 
+#include "board/basPositTables.h"
+#include "document/basTAVL.h"
 #include "nokit/PageCanvas.h"
 #include "platform/printing/Printer.h"
 
@@ -74,6 +76,11 @@ constexpr double kMark = 0.16;
 } // namespace
 
 std::span<const NoKitSheet> NoKitSheets() { return kNoKitSheets; }
+
+QString NameOfGame() {
+    const QString title = basPosit::m_CenterText(1).sText + u' ' + basPosit::m_CenterText(0).sText;
+    return basTAVL::CRLF2Space(title).simplified();
+}
 
 const NoKitSheet* FindNoKitSheet(const QString& sName) {
     const auto found = std::find_if(std::begin(kNoKitSheets), std::end(kNoKitSheets),

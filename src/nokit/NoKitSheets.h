@@ -46,6 +46,8 @@ std::vector<NoKitPage> PagesOf(const NoKitChoices& choices);
 
 /// In the order of printing: by the stock, and the first page that tells how.
 std::span<const NoKitSheet> NoKitSheets();
+/// The title as one line, its two parts apart as they stand on the board.
+QString NameOfGame();
 /// Nothing for a name that none has.
 const NoKitSheet* FindNoKitSheet(const QString& sName);
 /// "paper", "card".
