@@ -104,6 +104,7 @@ std::vector<PictureOwner> FreePlaces(const Game& game, bool bCorners) {
 
 std::vector<int> Dealt(const std::vector<Photo>& photos, int iPlaces) {
     std::vector<int> dealt;
+    dealt.reserve(photos.size());
     int next = 0;
     for (const Photo& photo : photos)
         dealt.push_back(photo.bLeftOut || next == iPlaces ? -1 : next++);
