@@ -13,6 +13,7 @@
 #include <QListWidget>
 #include <QMap>
 #include <QSlider>
+#include <QTimer>
 
 namespace {
 
@@ -144,6 +145,13 @@ protected:
     }
     void PrintEverySheet() {
         int sheets = 0;
+        // Some of these pictures are too coarse for some of the sheets, which the program asks about.
+        QTimer anyway;
+        anyway.callOnTimeout([] {
+            QWidget* const question = QApplication::activeModalWidget();
+            if (question && question->objectName() == u"frmBeforePrint") ClickIn(*question, "cmdPrintAnyway");
+        });
+        anyway.start(10);
         for (const Sheet& sheet : Sheets()) {
             WithModal("frmTavlPrint", [this, &sheet](QWidget& console) {
                 WithModal("frmPrntPrep", [](QWidget& paper) { ClickIn(paper, "cmd_2"); });
