@@ -99,6 +99,7 @@ std::vector<Pile> Piles(const std::vector<Run>& runs, Kit kit) {
 Outcome Print(Printer& printer, const std::vector<Run>& runs, Kit kit,
               const std::function<bool(const Progress&)>& tell) {
     std::vector<std::vector<SheetPhoto>> photos;
+    photos.reserve(runs.size());
     for (const Run& run : runs)
         photos.push_back(run.sheet->Photos());
     PhotosAhead ahead(photos);

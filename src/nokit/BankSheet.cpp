@@ -100,7 +100,8 @@ private:
         const QRectF all(m_left, top, Width(), kMarkRows * kMarkHeight);
         const QSizeF size(all.width() / kMarkColumns, kMarkHeight);
         for (int mark = 0; mark < kMarkColumns * kMarkRows; ++mark) {
-            const QPointF at(mark % kMarkColumns * size.width(), mark / kMarkColumns * size.height());
+            const int row = mark / kMarkColumns;
+            const QPointF at(mark % kMarkColumns * size.width(), row * size.height());
             const QRectF box(all.topLeft() + at, size);
             m_page.Text(box.adjusted(0.06, 0, -0.06, 0), QStringLiteral("MORTGAGED"),
                         {.dblHeight = 0.15, .bBold = true, .color = Color::Rgb(170, 0, 0)});

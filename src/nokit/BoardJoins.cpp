@@ -15,8 +15,8 @@ namespace BoardJoins {
 namespace {
 
 constexpr double kReach = Inches(15);
-constexpr double kStep = Inches(0.5);
-constexpr int kSteps = int(kReach / kStep + 0.5);
+constexpr int kSteps = 30;
+constexpr double kStep = kReach / kSteps; // half a millimetre
 // What sums of lengths may differ by.
 constexpr double kHair = 1e-6;
 constexpr double kFullTurn = 360;

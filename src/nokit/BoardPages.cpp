@@ -11,7 +11,6 @@
 #include "nokit/PageCanvas.h"
 #include "platform/paint/Recording.h"
 
-using BoardJoins::Axis;
 using BoardJoins::Span;
 using BoardJoins::Strip;
 

@@ -27,7 +27,8 @@ void PaintDots(PageCanvas& page, const QRectF& face, int iDots) {
     const double side = face.width();
     for (int place = 0; place < 9; ++place) {
         if (!(kDots[size_t(iDots - 1)] >> place & 1U)) continue;
-        const QPointF off(place % 3 - 1, place / 3 - 1);
+        const int row = place / 3;
+        const QPointF off(place % 3 - 1, row - 1);
         const QPointF middle = face.center() + off * kOff * side;
         const double dot = kDot * side;
         page.Circle({middle.x() - dot / 2, middle.y() - dot / 2, dot, dot}, Color::Black());

@@ -22,8 +22,7 @@ QByteArray Text(const QString& sText) {
 QByteArray Reference(int object) { return QByteArray::number(object) + " 0 R"; }
 
 QString Group(const QByteArray& from, const char* pattern) {
-    const QRegularExpression expression(QString::fromLatin1(pattern),
-                                        QRegularExpression::DotMatchesEverythingOption);
+    const QRegularExpression expression(QString::fromLatin1(pattern), QRegularExpression::DotMatchesEverythingOption);
     return expression.match(QString::fromLatin1(from)).captured(1);
 }
 
@@ -70,8 +69,8 @@ public:
         const qint64 table = m_start + m_bytes.size();
         m_bytes += "xref\n";
         for (const auto& [object, place] : m_places)
-            m_bytes += QByteArray::number(object) + " 1\n" + QByteArray::number(place).rightJustified(10, '0') +
-                       " 00000 n \n";
+            m_bytes +=
+                QByteArray::number(object) + " 1\n" + QByteArray::number(place).rightJustified(10, '0') + " 00000 n \n";
         m_bytes += "trailer\n<<\n/Size " + QByteArray::number(size) + "\n" + outer.info + "\n/Root " +
                    Reference(outer.catalog) + "\n/Prev " + QByteArray::number(outer.table) + "\n>>\nstartxref\n" +
                    QByteArray::number(table) + "\n%%EOF\n";

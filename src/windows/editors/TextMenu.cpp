@@ -47,7 +47,7 @@ bool IsOffered(Kind kind, const TextMenu::Can& can) {
 
 } // namespace
 
-void TextMenu::Show(QWidget& parent, QPoint at, const Can& can, std::function<void(Kind)> choose) {
+void TextMenu::Show(QWidget& parent, QPoint at, const Can& can, const std::function<void(Kind)>& choose) {
     auto* const menu = new QMenu(&parent);
     menu->setObjectName(QStringLiteral("mnuText"));
     menu->setAttribute(Qt::WA_DeleteOnClose);

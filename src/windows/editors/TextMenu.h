@@ -18,6 +18,6 @@ struct Can {
 };
 
 /// Shows it at a place of the screen, and tells what is chosen.
-void Show(QWidget& parent, QPoint at, const Can& can, std::function<void(TypedText::Key::Kind)> choose);
+void Show(QWidget& parent, QPoint at, const Can& can, const std::function<void(TypedText::Key::Kind)>& choose);
 
 } // namespace TextMenu
