@@ -7,7 +7,6 @@
 
 #include <QFrame>
 
-
 namespace {
 
 BoardPlace Space(int space) { return BoardPlace::Of(GamePiece::Space(space)); }

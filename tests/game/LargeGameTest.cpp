@@ -9,6 +9,8 @@
 #include <chrono>
 #include <thread>
 
+#include <QRegularExpression>
+
 namespace {
 
 using GameBounds::kMostLetters;

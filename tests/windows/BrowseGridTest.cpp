@@ -5,6 +5,7 @@
 #include "windowing/PhotoGrid.h"
 
 #include <QElapsedTimer>
+#include <QPushButton>
 
 namespace {
 
@@ -38,7 +39,7 @@ TEST_F(BrowseGridTest, ARefusedFileCantBeTakenAndAGoodOneCan) {
     WriteFile(QStringLiteral("bad.jpg"), QByteArray("no picture at all"));
     const QString good = Picture(QStringLiteral("good.bmp"));
     EXPECT_EQ(Browse(QString(),
-                     [this](QWidget& window) {
+                     [](QWidget& window) {
                          ClickFile(window, QStringLiteral("bad.jpg"));
                          EXPECT_TRUE(QTest::qWaitFor(
                              [&window] { return !Find<QPushButton>(window, "cmdOK").isEnabled(); }, kArrivalMs));
@@ -57,7 +58,7 @@ TEST_F(BrowseGridTest, FolderAndKindsAreKeptOverStarts) {
     Picture(QStringLiteral("cats/cat.bmp"));
     Browse(
         QString(),
-        [](QWidget& window) {
+        [this](QWidget& window) {
             auto& filter = Find<QComboBox>(window, "cboFilter");
             filter.setFocus();
             QTest::keyClick(&filter, Qt::Key_Up);

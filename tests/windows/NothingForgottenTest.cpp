@@ -3,6 +3,9 @@
 #include "windows/editors/frmEditSpace.h"
 #include "windows/EditTokenFixture.h"
 
+#include <QCheckBox>
+#include <QLabel>
+
 namespace {
 
 class NothingForgottenTest : public EditWindowTest {

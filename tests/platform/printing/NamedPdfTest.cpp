@@ -8,6 +8,7 @@
 
 #include <QBuffer>
 #include <QProcess>
+#include <QRegularExpression>
 
 namespace {
 
