@@ -3,7 +3,6 @@
 #include "platform/files/Files.h"
 #include "platform/pictures/LoadPicture.h"
 #include "windowing/PictureBox.h"
-#include "windows/editors/frmEditMoney.h"
 #include "windows/editors/frmEditSpace.h"
 #include "windows/editors/frmShowTokens.h"
 #include "windows/EditTokenFixture.h"
@@ -70,17 +69,6 @@ TEST_F(LargePhotosTest, TheEditorOfASpaceToo) {
     basTAVL::g_oSpaces(kSpace).SetImagePath(photo);
     EXPECT_FALSE(
         EditWindowTest::Edit(space, kSpace, [&] { ExpectLater(*Find<PictureBox>("picDest"), QPoint(100, 120)); }));
-}
-
-TEST_F(LargePhotosTest, TheEditorOfMoneyToo) {
-    basTAVL::g_oMoney(0).FaceImage.Init(photo, QStringLiteral("Money"), 0);
-    frmEditMoney money(session);
-    window = &money;
-    InWindow([&] {
-        auto* const note = Find<PictureBox>("picNote");
-        ExpectLater(*note, note->rect().center());
-    });
-    EXPECT_FALSE(money.ShowForm());
 }
 
 } // namespace
