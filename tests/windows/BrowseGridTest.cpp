@@ -58,7 +58,7 @@ TEST_F(BrowseGridTest, FolderAndKindsAreKeptOverStarts) {
     Picture(QStringLiteral("cats/cat.bmp"));
     Browse(
         QString(),
-        [this](QWidget& window) {
+        [](QWidget& window) {
             auto& filter = Find<QComboBox>(window, "cboFilter");
             filter.setFocus();
             QTest::keyClick(&filter, Qt::Key_Up);

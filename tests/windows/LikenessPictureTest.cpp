@@ -9,6 +9,7 @@
 #include <QDropEvent>
 #include <QMimeData>
 #include <QRubberBand>
+#include <QTreeWidget>
 #include <QUrl>
 #include <QWheelEvent>
 
