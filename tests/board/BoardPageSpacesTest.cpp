@@ -13,7 +13,6 @@ constexpr int kScales[] = {4800, 4777, 2999};
 constexpr double kInner0 = 0.8295;
 constexpr double kInner1 = 0.1705;
 constexpr double kOuter0 = 0.9751;
-constexpr double kOuter1 = 0.0249;
 constexpr double kBand = 0.0208;
 constexpr int kSideAngle[] = {0, 2700, 1800, 900};
 const QColor kMagic(224, 255, 224);
