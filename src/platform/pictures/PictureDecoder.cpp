@@ -36,12 +36,6 @@ const char* ReaderName(PictureFormat format) {
     }
 }
 
-QString TooLarge(QSize size) {
-    return QStringLiteral("The picture claims to be %1 by %2 pixels, which is more than can be opened")
-        .arg(size.width())
-        .arg(size.height());
-}
-
 // One of the toolkit's readers. The room that the picture takes is left to the caller.
 QImage Read(const QByteArray& bytes, PictureFormat format, std::optional<DecodingRoom>& room, QString& sError) {
     static std::once_flag limit;
@@ -58,7 +52,7 @@ QImage Read(const QByteArray& bytes, PictureFormat format, std::optional<Decodin
     reader.setAutoTransform(true);
     const QSize size = reader.size();
     if (size.isValid() && !IsSizeAllowed(size)) {
-        sError = TooLarge(size);
+        sError = TooLargeToOpen(size);
         return {};
     }
     room.emplace(size.isValid() ? size : QSize(1, 1));
@@ -144,7 +138,7 @@ Picture Decode(const QByteArray& bytes, int longerSideWanted, QString& sError) {
     QImage image = Read(bytes, format, room, sError);
     if (image.isNull()) return {};
     if (!IsSizeAllowed(image.size())) {
-        sError = TooLarge(image.size());
+        sError = TooLargeToOpen(image.size());
         return {};
     }
     return Reduced(InScreenColors(AsPixels(std::move(image)), {}), longerSideWanted);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/pictures/DecodingRoom.h"
+#include "platform/pictures/InkProfile.h"
 #include "platform/pictures/JpegMarkers.h"
 #include "platform/pictures/PictureDecoder.h"
 #include "platform/pictures/PictureFormat.h"
@@ -31,6 +32,15 @@ const unsigned char* BytesOf(const QByteArray& bytes) {
 QRgb FromInks(const uchar* inks, bool inverted) {
     const auto light = [inks, inverted](int i) { return inverted ? inks[i] : 255 - inks[i]; };
     return qRgb(light(0) * light(3) / 255, light(1) * light(3) / 255, light(2) * light(3) / 255);
+}
+
+void InksToScreen(QImage& image, const JpegMarkers& markers) {
+    if (ToScreenByInkProfile(image, markers.isAdobe, markers.colorProfile)) return;
+    for (int y = 0; y < image.height(); ++y) {
+        uchar* row = image.scanLine(y);
+        for (int x = 0; x < image.width(); ++x, row += 4)
+            *reinterpret_cast<QRgb*>(row) = FromInks(row, markers.isAdobe);
+    }
 }
 
 enum class Outcome { Whole, Damaged, CutShort, Unreadable };
@@ -72,9 +82,7 @@ Picture DecodeJpeg(const QByteArray& bytes, int longerSideWanted, QString& sErro
     const JpegMarkers markers = ReadJpegMarkers(bytes);
     // One in passes is held whole ahead of any reduction.
     if (!(markers.inPasses ? IsSizeAllowed(full) : IsJpegSizeAllowed(full))) {
-        sError = QStringLiteral("The picture claims to be %1 by %2 pixels, which is more than can be opened")
-                     .arg(head.width)
-                     .arg(head.height);
+        sError = TooLargeToOpen(full);
         return {};
     }
     const int reduction = ReductionFor(std::max(head.width, head.height), longerSideWanted);
@@ -93,11 +101,7 @@ Picture DecodeJpeg(const QByteArray& bytes, int longerSideWanted, QString& sErro
         return {};
     }
     if (head.colorSpace == TJCS_CMYK || head.colorSpace == TJCS_YCCK) {
-        for (int y = 0; y < image.height(); ++y) {
-            uchar* row = image.scanLine(y);
-            for (int x = 0; x < image.width(); ++x, row += 4)
-                *reinterpret_cast<QRgb*>(row) = FromInks(row, markers.isAdobe);
-        }
+        InksToScreen(image, markers);
     } else {
         image = InScreenColors(std::move(image), markers.colorProfile);
     }

@@ -59,6 +59,12 @@ bool IsJpegSizeAllowed(QSize size) {
     return !size.isEmpty() && IsSizeAllowed(QSize((size.width() + 1) / 2, (size.height() + 1) / 2));
 }
 
+QString TooLargeToOpen(QSize size) {
+    return QStringLiteral("The picture claims to be %1 by %2 pixels, which is more than can be opened")
+        .arg(size.width())
+        .arg(size.height());
+}
+
 bool IsBmpWhole(QByteArrayView bytes) {
     if (bytes.size() < kFileHeadSize + kCoreHeadSize) return false;
     const quint32 bits = At<quint32>(bytes, 10);

@@ -3,6 +3,7 @@
 
 #include <QByteArrayView>
 #include <QSize>
+#include <QString>
 
 /// Kinds of picture files that are known, told apart by their first bytes and never by their names.
 enum class PictureFormat { Unknown, Bmp, Jpeg, Gif, Png, WebP, Tiff, Heif, Metafile };
@@ -17,6 +18,9 @@ constexpr qint64 kMaxPictureBytes = qint64(208) << 20;
 bool IsSizeAllowed(QSize size);
 /// A plain JPEG may claim four times as many: it is decoded to half its size then.
 bool IsJpegSizeAllowed(QSize size);
+
+/// Says so of a picture that is larger, in a sentence without its full stop.
+QString TooLargeToOpen(QSize size);
 
 /// False when the file is shorter than its bitmap head says it must be, or when the head's size is not
 /// allowed. The declared size of the file plays no part: it is often wrong, and thumbnails of this program

@@ -95,7 +95,7 @@ public:
         const std::optional<QSize> size = SizeAs(format, file);
         const bool jpeg = format == PictureFormat::Jpeg;
         if (size && (jpeg ? IsJpegSizeAllowed(*size) : IsSizeAllowed(*size))) return PictureHead{*size};
-        if (m_error.isEmpty()) m_error = kDamaged;
+        if (m_error.isEmpty()) m_error = size && !size->isEmpty() ? TooLargeToOpen(*size) : kDamaged;
         return std::nullopt;
     }
 
