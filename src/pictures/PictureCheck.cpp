@@ -3,7 +3,9 @@
 
 #include "pictures/ThumbnailFile.h"
 #include "platform/files/BinaryFile.h"
+#include "platform/pictures/LoadPicture.h"
 #include "platform/pictures/PictureFormat.h"
+#include "platform/pictures/PictureHead.h"
 #include "services/basPath.h"
 
 #include <QStringList>
@@ -31,12 +33,27 @@ QString NoPhoto(const QByteArray& start, const QString& sExt) {
     return {};
 }
 
+QString NameOf(const QString& sFile) {
+    QString drive, dir, base, ext;
+    basCommon::FileNameFactor(sFile, drive, dir, base, ext);
+    return u'\'' + base + u'\'';
+}
+
+QString EndingOf(const QString& sFile) {
+    QString drive, dir, base, ext;
+    basCommon::FileNameFactor(sFile, drive, dir, base, ext);
+    return ext.toLower();
+}
+
+// The library's sentence stands behind ours.
+QString CannotBeShown(const QString& sName, const QString& sError) {
+    return sName + QStringLiteral(" can't be shown: ") + sError.left(1).toLower() + sError.mid(1) + u'.';
+}
+
 } // namespace
 
 QString WhyNoPicture(const QString& sFile) {
-    QString drive, dir, base, ext;
-    basCommon::FileNameFactor(sFile, drive, dir, base, ext);
-    const QString name = u'\'' + base + u'\'';
+    const QString name = NameOf(sFile);
     BinaryFile file;
     QString error;
     constexpr int kEnoughToTell = 64;
@@ -47,7 +64,16 @@ QString WhyNoPicture(const QString& sFile) {
         return name + QStringLiteral(" is a small picture that Tavlora makes for itself. Please take the photo that it "
                                      "was made of.");
     }
-    if (const QString other = NoPhoto(start, ext.toLower()); !other.isEmpty()) return name + other;
-    if (PictureFormatOf(start) != PictureFormat::Unknown) return {};
-    return name + QStringLiteral(" holds no picture that Tavlora can show. Photos as .jpg or .png are fine.");
+    if (const QString other = NoPhoto(start, EndingOf(sFile)); !other.isEmpty()) return name + other;
+    if (PictureFormatOf(start) == PictureFormat::Unknown)
+        return name + QStringLiteral(" holds no picture that Tavlora can show. Photos as .jpg or .png are fine.");
+    return ReadPictureHead(sFile, error) ? QString() : CannotBeShown(name, error);
+}
+
+QString WhyNotShown(const QString& sFile) {
+    QString why = WhyNoPicture(sFile);
+    if (!why.isEmpty()) return why;
+    constexpr int kSmall = 100;
+    QString error;
+    return LoadPicture(sFile, error, kSmall).IsNull() ? CannotBeShown(NameOf(sFile), error) : QString();
 }

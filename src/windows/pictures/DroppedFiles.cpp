@@ -9,8 +9,8 @@
 #include "platform/pictures/SavePicture.h"
 #include "services/basPath.h"
 #include "services/Desktop.h"
+#include "windowing/HourGlass.h"
 #include "windowing/PictureData.h"
-#include "windows/pictures/BrowsePlaces.h"
 #include "windows/pictures/KeptPicture.h"
 
 #include <QMimeData>
@@ -29,23 +29,22 @@ bool Take(Session& session, const DroppedPictures::Outcome& outcome) {
 
 } // namespace
 
-bool Holds(const QMimeData& data) {
-    constexpr int kManyColors = 24;
-    const QString names = BrowsePlaces::AllPicturesFilter(true, kManyColors);
-    const QList<QUrl> urls = data.urls();
-    return data.hasImage() || std::any_of(urls.begin(), urls.end(), [&names](const QUrl& url) {
-               const QString file = url.toLocalFile();
-               return !file.isEmpty() && (BrowsePlaces::IsListed(names, file) || WhyNoPicture(file).isEmpty());
-           });
-}
+// A file that is no picture, too: who drops a letter is told why it can't be taken.
+bool Holds(const QMimeData& data) { return data.hasImage() || data.hasUrls(); }
 
 QStringList FilesOf(const QMimeData& data, const QString& sGameName) {
     QStringList files;
     for (const QUrl& url : data.urls()) {
         if (url.isLocalFile()) files.append(url.toLocalFile());
     }
-    const Picture picture = files.isEmpty() ? PictureIn(data) : Picture();
-    if (picture.IsNull()) return files;
+    if (!files.isEmpty()) return files;
+    const Picture picture = PictureIn(data);
+    if (picture.IsNull()) {
+        MsgBox(QStringLiteral("This is the address of a page and no picture. Please save the picture as a file first, "
+                              "and take that."),
+               vbInformation);
+        return {};
+    }
     QString drive, dir, base, ext, error;
     basCommon::FileNameFactor(sGameName, drive, dir, base, ext);
     const QString folder = basCommon::JoinPath(basCommon::GetMyGamesDirectory(), QStringLiteral("Pictures of ") + base);
@@ -58,27 +57,28 @@ QStringList FilesOf(const QMimeData& data, const QString& sGameName) {
 }
 
 QStringList Kept(const QStringList& files) {
+    const HourGlass working;
     QStringList kept;
     for (const QString& file : files)
-        kept.append(WhyNoPicture(file).isEmpty() ? KeepPicture(file) : file);
+        kept.append(WhyNotShown(file).isEmpty() ? KeepPicture(file) : file);
     return kept;
 }
 
 bool LayOnto(Session& session, const QStringList& files, const PictureOwner& piece) {
     if (files.isEmpty()) return false;
     basPosit::PosSethDC(&session.MeasuringDevice());
-    return Take(session, DroppedPictures::Onto(session.InHand(), Kept(files), piece, WhyNoPicture));
+    return Take(session, DroppedPictures::Onto(session.InHand(), Kept(files), piece, WhyNotShown));
 }
 
 QString TakeFirst(Session& session, QStringList files, const PictureOwner& piece, bool& bOthers) {
     bOthers = false;
     const auto first =
-        std::find_if(files.begin(), files.end(), [](const QString& file) { return WhyNoPicture(file).isEmpty(); });
+        std::find_if(files.begin(), files.end(), [](const QString& file) { return WhyNotShown(file).isEmpty(); });
     const QString taken = first == files.end() ? QString() : KeepPicture(*first);
     if (first != files.end()) files.erase(first);
     if (files.isEmpty()) return taken;
     basPosit::PosSethDC(&session.MeasuringDevice());
-    bOthers = Take(session, DroppedPictures::Behind(session.InHand(), Kept(files), piece, WhyNoPicture));
+    bOthers = Take(session, DroppedPictures::Behind(session.InHand(), Kept(files), piece, WhyNotShown));
     return taken;
 }
 

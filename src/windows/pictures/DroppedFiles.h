@@ -11,11 +11,11 @@ class Session;
 /// Pictures that another program hands over by a drag or by the clipboard.
 namespace DroppedFiles {
 
-/// True for files that may be pictures, and for a picture without a file, as from a page of the web.
+/// True for files, whatever they are, and for a picture without a file, as from a page of the web.
 bool Holds(const QMimeData& data);
 
 /// Paths of the files. A picture without one is kept in the games folder first, in "Pictures of" the game; empty after
-/// a message where that fails.
+/// a message where that fails, or where there is only the address of a page.
 QStringList FilesOf(const QMimeData& data, const QString& sGameName);
 
 /// Those on disks that may go away are kept among the games.
