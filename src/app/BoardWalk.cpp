@@ -37,6 +37,11 @@ bool IsArrow(int iKey) {
     return iKey == Qt::Key_Left || iKey == Qt::Key_Right || iKey == Qt::Key_Up || iKey == Qt::Key_Down;
 }
 
+// An editor that opens over the board, and a menu, give the focus back to it, and the frame stays for that.
+bool ComesBack(Qt::FocusReason reason) {
+    return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason;
+}
+
 } // namespace
 
 BoardWalk::BoardWalk(QWidget& client, BoardView& view, const Session& session)
@@ -57,11 +62,7 @@ void BoardWalk::LayOut() {
 
 bool BoardWalk::eventFilter(QObject* watched, QEvent* event) try {
     if (event->type() == QEvent::KeyPress && TakesKey(static_cast<QKeyEvent&>(*event))) return true;
-    // An editor that opens over the board gives the focus back to it, and the frame stays for that.
-    if (event->type() == QEvent::FocusOut &&
-        static_cast<QFocusEvent&>(*event).reason() != Qt::ActiveWindowFocusReason &&
-        static_cast<QFocusEvent&>(*event).reason() != Qt::PopupFocusReason)
-        Leave();
+    if (event->type() == QEvent::FocusOut && !ComesBack(static_cast<QFocusEvent&>(*event).reason())) Leave();
     if (event->type() == QEvent::MouseButtonPress) Leave();
     if (event->type() == QEvent::FocusIn) {
         const Qt::FocusReason reason = static_cast<QFocusEvent&>(*event).reason();

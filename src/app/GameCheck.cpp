@@ -9,11 +9,11 @@
 
 GameCheck::GameCheck(QWidget& window, Session& session, CheckList::Doors doors, std::function<bool()> isBusy)
     : m_window(window), m_doors(std::move(doors)), m_checker(session), m_light(new CountLight(&window)) {
-    m_doors.findPicture = [this](const QString& sAway) {
+    m_doors.findPicture = [this](const QString& sBad) {
         frmBrowse browse(&m_window);
-        browse.SetBadPath(sAway);
+        browse.SetBadPath(sBad);
         const QString found = browse.ShowForm(QString(), false);
-        return found == sAway ? QString() : found;
+        return found == sBad ? QString() : found;
     };
     m_checker.SetBusy(std::move(isBusy));
     connect(&m_checker, &GameChecker::Looked, this, &GameCheck::ShowLight);

@@ -2,9 +2,12 @@
 #include "app/PictureCommands.h"
 
 #include "app/BoardView.h"
+#include "app/PictureDrop.h"
+#include "check/GamePiece.h"
 #include "game/MissingPictures.h"
 #include "game/Session.h"
 #include "services/basErrLog.h"
+#include "services/Desktop.h"
 #include "windowing/Clipboard.h"
 #include "windowing/DesktopWidgets.h"
 #include "windows/missing/frmMissingPictures.h"
@@ -24,17 +27,17 @@ PictureCommands::PictureCommands(QWidget& window, BoardView& view, Session& sess
          .take =
              [alive, this] {
                  QMetaObject::invokeMethod(
-                     alive, [this] { FindMissing(); }, Qt::QueuedConnection);
+                     alive, [this] { FindMissing(GamePiece::Whole()); }, Qt::QueuedConnection);
              }});
 }
 
-void PictureCommands::FindMissing() try {
+void PictureCommands::FindMissing(const GamePiece& first) try {
     frmMissingPictures window(m_session, &m_window);
     // They come back while the window still stands.
     QObject::connect(&m_session, &Session::Edited, &window, [this] { m_view.Redraw(); });
-    window.ShowForm();
+    window.ShowForm(first);
 } catch (...) {
-    ErrTop("PictureCommands!", "FindMissing");
+    ErrTop("PictureCommands!", "FindMissing", first.Word());
 }
 
 void PictureCommands::Deal() try {
@@ -43,14 +46,23 @@ void PictureCommands::Deal() try {
     ErrTop("PictureCommands!", "Deal");
 }
 
-bool PictureCommands::CanPaste() {
+void PictureCommands::Paste(const BoardPlace& place) {
     const QMimeData* const data = Clipboard::Data();
-    return data && DroppedFiles::Holds(*data);
-}
-
-bool PictureCommands::Paste(const PictureOwner& piece) {
-    if (!CanPaste()) return false;
-    const QStringList files = DroppedFiles::FilesOf(*Clipboard::Data(), m_session.GameName());
+    if (!data || !DroppedFiles::Holds(*data)) {
+        MsgBox(QStringLiteral("There is nothing to paste. Please copy a picture first."), vbInformation);
+        return;
+    }
+    if (!place.IsSomething()) {
+        MsgBox(QStringLiteral("Please choose a place for it first: the arrow keys move a frame over the board."),
+               vbInformation);
+        return;
+    }
+    const PictureOwner piece = PieceForPicture(place, m_session.InHand());
+    if (!piece.IsPiece()) {
+        MsgBox(QStringLiteral("No picture can stand there. Spaces, corners, notes and tokens take one."),
+               vbInformation);
+        return;
+    }
+    const QStringList files = DroppedFiles::FilesOf(*data, m_session.GameName());
     if (DroppedFiles::LayOnto(m_session, files, piece)) m_view.Redraw();
-    return true;
 }

@@ -17,7 +17,6 @@ namespace {
 
 using Kind = PictureOwner::Kind;
 
-// The board's one place for all notes or tokens stands for the first of them that is free.
 template <typename Records, typename Image>
 PictureOwner FirstFree(Kind kind, const Records& records, Image image) {
     const auto free = std::find_if(records.begin(), records.end(),
@@ -42,15 +41,7 @@ basPosit::BoardRect RectOf(const BoardPlace& place) {
 
 } // namespace
 
-PictureDrop::PictureDrop(BoardView& view, Session& session)
-    : m_view(view), m_session(session), m_light(new QRubberBand(QRubberBand::Rectangle, &view.Board())) {
-    m_light->setObjectName(QStringLiteral("shpDrop"));
-}
-
-PictureOwner PictureDrop::PieceUnder(QPoint at) {
-    m_view.WhatIsMouseOver(float(at.x() * kTwipsPerPixel), float(at.y() * kTwipsPerPixel));
-    const BoardPlace& place = m_view.Over();
-    const Game& game = m_session.InHand();
+PictureOwner PieceForPicture(const BoardPlace& place, const Game& game) {
     PictureOwner piece;
     if (place.m_iOverSpace >= 0) piece = {Kind::Space, qint16(place.m_iOverSpace)};
     if (place.m_iOverCorner >= 0) piece = {Kind::Corner, qint16(place.m_iOverCorner)};
@@ -60,6 +51,16 @@ PictureOwner PictureDrop::PieceUnder(QPoint at) {
     if (place.m_bOverTokens)
         piece = FirstFree(Kind::Token, game.tokens, [](const C_Token& token) -> const C_Image& { return token.Image; });
     return DroppedPictures::Takes(piece) ? piece : PictureOwner();
+}
+
+PictureDrop::PictureDrop(BoardView& view, Session& session)
+    : m_view(view), m_session(session), m_light(new QRubberBand(QRubberBand::Rectangle, &view.Board())) {
+    m_light->setObjectName(QStringLiteral("shpDrop"));
+}
+
+PictureOwner PictureDrop::PieceUnder(QPoint at) {
+    m_view.WhatIsMouseOver(float(at.x() * kTwipsPerPixel), float(at.y() * kTwipsPerPixel));
+    return PieceForPicture(m_view.Over(), m_session.InHand());
 }
 
 bool PictureDrop::Move(QPoint at) {

@@ -98,11 +98,11 @@ void frmTAVL::MakeLists() {
             names.append(sample.sName);
         return names;
     };
-    m_menu.AddList(m_menu.FileMenu(), {"mnuNewFrom", "New &From", "mnuFile_5", samples, [this](int i) {
+    m_menu.AddList(m_menu.FileMenu(), {"mnuNewFrom", "New &From", "mnuFile_2", samples, [this](int i) {
                                            m_commands.NewFrom(basTAVL::SampleGames().at(size_t(i)).sPath);
                                        }});
     const auto recent = [] { return RecentGames::Captions(RecentGames::List()); };
-    m_menu.AddList(m_menu.FileMenu(), {"mnuRecent", "Recen&t Games", "mnuFile_5", recent,
+    m_menu.AddList(m_menu.FileMenu(), {"mnuRecent", "Recen&t Games", "mnuFile_3", recent,
                                        [this](int i) { m_commands.OpenRecent(RecentGames::List().value(i)); }});
 }
 

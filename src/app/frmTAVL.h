@@ -123,6 +123,7 @@ private:
     void Choose(Menu menu, int Index);
     CheckList::Doors DoorsOfCheck();
     void PrinterSetup();
+    void Paste();
     void Print();
     void PrintEverything();
     void PrintBy(bool (EditorRoutes::*door)(frmTAVL&));

@@ -56,10 +56,11 @@ void frmTAVL::mnuFile_Click(int Index) try {
         case 52:
             return m_pictures.Deal();
         case 51:
-            return m_pictures.FindMissing();
+            return m_pictures.FindMissing(GamePiece::Whole());
         case 1:
         case 5:
         case 8:
+        case 33:
         case 50:
             return;
         default:
@@ -76,10 +77,15 @@ void frmTAVL::mnuEdit_Click(int Index) {
         m_commands.Redo();
     } else if (Index == 3) {
         m_check.ShowList();
+    } else if (Index == 42) {
+        Paste();
     } else {
         m_sharing.CopyBoardPicture();
     }
 }
+
+// Onto what has the frame. Whoever finds something of its own on the clipboard takes it, and pictures come last.
+void frmTAVL::Paste() { m_pictures.Paste(m_walk.At()); }
 
 void frmTAVL::mnuZoom_Click(int Index) try { m_view.SetZoom(Index + 1); } catch (...) {
     ErrTail("frmTAVL!", "mnuZoom_Click", Index);
@@ -188,6 +194,7 @@ CheckList::Doors frmTAVL::DoorsOfCheck() {
         .open = [this](const GamePiece& piece) { OpenPlace(BoardPlace::Of(piece)); },
         .mended = [this] { m_view.Redraw(); },
         .showTab = [this] { return m_side.Panel().isVisible() && m_side.Panel().ShowTab(CheckList::kName); },
+        .findMissing = [this](const GamePiece& piece) { m_pictures.FindMissing(piece); },
     };
 }
 

@@ -47,7 +47,8 @@ std::optional<Edit> MendFinding(const Game& game, const Finding& finding, const 
 enum class Mending {
     ByHand, ///< In the piece's editor.
     ByClick,
-    ByPicture ///< By a click, once somebody has found a picture.
+    ByPicture, ///< By a click, once somebody has found a picture.
+    BySearch   ///< In the window that finds all missing pictures.
 };
 
 /// A kind of finding.

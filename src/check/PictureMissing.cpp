@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "check/Checks.h"
 #include "check/FileName.h"
-#include "check/FoundPicture.h"
 
 template <>
 void RunCheck<class PictureMissing>(const CheckedGame& game, Findings& findings) {
@@ -14,10 +13,4 @@ void RunCheck<class PictureMissing>(const CheckedGame& game, Findings& findings)
                  QStringLiteral("Put it back, or choose Find Missing Pictures in the File menu."))
             .sheets = picture.sheets;
     }
-}
-
-template <>
-std::optional<Edit> MendFinding<class PictureMissing>(const Game& game, const Finding& finding,
-                                                      const QString& sPicture) {
-    return WithFoundPicture(game, finding.piece, sPicture);
 }

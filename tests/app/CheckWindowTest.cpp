@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Check My Game from the main window: what it lists, and where it leads.
 #include "AppFixture.h"
+#include "support/ModalSteps.h"
 
 #include "windowing/CountLight.h"
 #include "windows/check/frmCheck.h"
@@ -185,6 +186,24 @@ TEST_F(CheckWindowTest, FixMendsWithOneStepThatCanBeUndone) {
     EXPECT_EQ(InHand().UndoName(), QStringLiteral("Name of ") + name);
     InHand().Undo();
     EXPECT_EQ(InHand().InHand().spaces[5].TextAll(), name);
+}
+
+TEST_F(CheckWindowTest, FixOfAPictureThatIsAwayLeadsToAllThatAreAway) {
+    Game after = InHand().InHand();
+    after.spaces[4].SetImagePath(InGames(QStringLiteral("gone/first.png")));
+    after.spaces[5].SetImagePath(InGames(QStringLiteral("gone/second.png")));
+    InHand().Do({QStringLiteral("Two Pictures"), after});
+    OpenList();
+    List().setCurrentItem(List().topLevelItem(1)->child(0));
+    QString chosen;
+    ModalSteps steps;
+    steps.OnceIn("frmMissingPictures", [&chosen](QWidget& missing) {
+        const auto& list = ::Find<QTreeWidget>(missing, "lstMissing");
+        EXPECT_EQ(list.topLevelItemCount(), 2);
+        chosen = list.currentItem()->text(1);
+    });
+    OfWindow<QPushButton>("cmdFix").click();
+    EXPECT_TRUE(chosen.endsWith(QStringLiteral("second.png"))) << chosen.toStdString();
 }
 
 TEST_F(CheckWindowTest, FixIsGreyWhereAPersonIsNeeded) {

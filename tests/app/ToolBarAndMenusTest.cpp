@@ -186,6 +186,7 @@ TEST_F(ToolBarAndMenusTest, MenusCarryTheirCaptionsAndShortcuts) {
         {"mnuEdit", "&Edit", "", true},
         {"mnuEdit_0", "&Undo", "Ctrl+Z", false},
         {"mnuEdit_1", "&Redo", "Ctrl+Shift+Z", false},
+        {"mnuEdit_42", "&Paste", "Ctrl+V", true},
         {"mnuEdit_3", "&Check My Game", "F7", true},
         {"mnuTop_1", "&View", "", true},
         {"mnuView_0", "&Zoom...", "", true},
@@ -211,6 +212,23 @@ TEST_F(ToolBarAndMenusTest, MenusCarryTheirCaptionsAndShortcuts) {
     }
     for (const char* separator : {"mnuFile_5", "mnuFile_8", "mnuView_5", "mnuView_7"})
         EXPECT_TRUE(Find<QAction>(separator).isSeparator()) << separator;
+}
+
+TEST_F(ToolBarAndMenusTest, TheFileMenuHasAGroupForEachPurpose) {
+    Strings groups{QString()};
+    for (const QAction* action : Find<QAction>("mnuTop_0").menu<QMenu*>()->actions()) {
+        if (action->isSeparator()) {
+            groups.append(QString());
+        } else {
+            groups.last() += action->text().remove(u'&').remove(QStringLiteral("...")) + u'|';
+        }
+    }
+    EXPECT_EQ(groups,
+              (Strings{QStringLiteral("New|New Geme Wizard|New From|Open|Recent Games|Save|Save As|Duplicate|"
+                                      "Earlier Versions|"),
+                       QStringLiteral("Deal Photos|Find Missing Pictures|"),
+                       QStringLiteral("Send to a Friend|Save a Picture of the Board|Save a Picture of a Piece|"),
+                       QStringLiteral("Printer Setup|Print|Print Everything|"), QStringLiteral("Exit|")}));
 }
 
 TEST_F(ToolBarAndMenusTest, WhatCanBeChosenIsAskedAnewWheneverAMenuOpens) {

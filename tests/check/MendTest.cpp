@@ -2,6 +2,8 @@
 // What one click mends: the finding is gone afterwards, and nothing else is worse.
 #include "CheckFixture.h"
 
+#include <QDir>
+
 namespace {
 
 class MendTest : public CheckTest {
@@ -101,18 +103,24 @@ TEST_F(MendTest, AFontThatIsAwayIsReplacedByWhatStandsInEverywhere) {
     EXPECT_EQ(game.spaces[0].Font.Family, QStringLiteral("Arial"));
 }
 
-TEST_F(MendTest, APictureThatWasFoundKeepsItsPartWhereItIsTheSame) {
-    const QString photo = Photo({2000, 2000});
-    ShowOnSpace(4, PathOf(QStringLiteral("moved/photo.png")));
+TEST_F(MendTest, AGoodPictureInPlaceOfABadOneKeepsItsPartWhereItIsTheSame) {
+    ShowOnSpace(4, WriteFile(QStringLiteral("letter.png"), "Dear Grandma, thank you for the dog."));
     Crop(4, 10, 700, 800);
-    std::optional<Edit> edit = MendOf("picture-missing", photo);
+    QDir(folder.path()).mkdir(QStringLiteral("backup"));
+    const QString copy = Photo({2000, 2000}, QStringLiteral("backup/letter.png"));
+    std::optional<Edit> edit = MendOf("picture-unreadable", copy);
     ASSERT_TRUE(edit);
-    EXPECT_EQ(edit->after.spaces[4].Image.Ref(), (PictureRef{photo, 10, 700, 800}));
+    EXPECT_EQ(edit->after.spaces[4].Image.Ref(), (PictureRef{copy, 10, 700, 800}));
     const QString other = Photo({2000, 2000}, QStringLiteral("other.png"));
-    edit = MendOf("picture-missing", other);
+    edit = MendOf("picture-unreadable", other);
     ASSERT_TRUE(edit);
     EXPECT_EQ(edit->after.spaces[4].Image.Ref(), (PictureRef{other})) << "another picture shows its middle";
-    EXPECT_FALSE(MendOf("picture-missing")) << "nobody has found one";
+    EXPECT_FALSE(MendOf("picture-unreadable")) << "nobody has found one";
+}
+
+TEST_F(MendTest, WhatIsAwayIsFoundInTheWindowForAll) {
+    ShowOnSpace(4, PathOf(QStringLiteral("moved/photo.png")));
+    EXPECT_EQ(MendingOf(Of("picture-missing")[0]), Mending::BySearch);
 }
 
 TEST_F(MendTest, WhatWantsAPersonIsMendedByHand) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "windows/missing/frmMissingPictures.h"
 
+#include "check/GamePiece.h"
 #include "game/Session.h"
 #include "support/EditorFixture.h"
 #include "support/ModalSteps.h"
@@ -59,7 +60,7 @@ TEST_F(MissingPicturesWindowTest, FindingOneFindsTheOthersInOneStep) {
         EXPECT_EQ(list.topLevelItemCount(), 1);
         window.reject();
     });
-    EXPECT_TRUE(window.ShowForm());
+    EXPECT_TRUE(window.ShowForm(GamePiece::Whole()));
     EXPECT_EQ(listed, 3);
     EXPECT_EQ(where, PathOf(QStringLiteral("old/a.png")));
     EXPECT_EQ(state, QStringLiteral("not found"));
@@ -83,7 +84,7 @@ TEST_F(MissingPicturesWindowTest, WhatIsNoPictureIsRefusedAndNothingChanges) {
         QTest::mouseClick(&In<QPushButton>("cmdFind"), Qt::LeftButton);
         window.reject();
     });
-    EXPECT_FALSE(window.ShowForm());
+    EXPECT_FALSE(window.ShowForm(GamePiece::Whole()));
     EXPECT_EQ(desktop.boxes.size(), 1);
     EXPECT_FALSE(session.CanUndo());
 }
@@ -94,7 +95,7 @@ TEST_F(MissingPicturesWindowTest, WhereNoneIsMissingItSaysSo) {
         EXPECT_FALSE(In<QPushButton>("cmdFind").isEnabled());
         window.reject();
     });
-    EXPECT_FALSE(window.ShowForm());
+    EXPECT_FALSE(window.ShowForm(GamePiece::Whole()));
 }
 
 } // namespace

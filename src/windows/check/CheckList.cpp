@@ -85,8 +85,10 @@ void CheckList::cmdFix_Click() try {
     const Finding* const chosen = tvwFindings->Chosen();
     if (!chosen) return;
     const Finding finding = *chosen;
+    const Mending mending = MendingOf(finding);
+    if (mending == Mending::BySearch) return m_doors.findMissing(finding.piece);
     QString picture;
-    if (MendingOf(finding) == Mending::ByPicture) {
+    if (mending == Mending::ByPicture) {
         picture = m_doors.findPicture(PieceParts::PictureOf(m_checker.InHand().InHand(), finding.piece).sPath);
         if (picture.isEmpty()) return;
     }

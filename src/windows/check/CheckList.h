@@ -31,8 +31,10 @@ public:
         std::function<void()> mended = [] {};
         /// Brings the list beside the board to the front; false where there is no room for it.
         std::function<bool()> showTab = [] { return false; };
-        /// Asks for the picture that stands for one that is away or bad; empty for none.
-        std::function<QString(const QString& sAway)> findPicture = [](const QString&) { return QString(); };
+        /// Asks for the picture that stands for a bad one; empty for none.
+        std::function<QString(const QString& sBad)> findPicture = [](const QString&) { return QString(); };
+        /// Looks for the picture of a piece that is away, and for all others with it.
+        std::function<void(const GamePiece&)> findMissing = [](const GamePiece&) {};
     };
 
     CheckList(GameChecker& checker, const Doors& doors, QWidget* parent = nullptr);

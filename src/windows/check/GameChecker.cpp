@@ -72,6 +72,7 @@ std::optional<Edit> GameChecker::MendOf(const Finding& finding, const QString& s
 bool GameChecker::CanMend(const Finding& finding) {
     switch (MendingOf(finding)) {
         case Mending::ByPicture:
+        case Mending::BySearch:
             return true;
         case Mending::ByClick:
             return MendOf(finding, QString()).has_value();

@@ -26,6 +26,7 @@ constexpr WhatIsThis::Row kRows[] = {
     {"frmTAVL", "mnuRecent", "Opens one of the games that you worked on last."},
     {"frmTAVL", "mnuEdit_0", "Takes back the last change."},
     {"frmTAVL", "mnuEdit_1", "Makes the change again that was taken back last."},
+    {"frmTAVL", "mnuEdit_42", "Puts the picture that you have copied onto the place with the frame."},
     {"frmTAVL", "mnuEdit_3", "Lists what would come out badly on paper."},
     {"frmTAVL", "mnuEdit_31", "Copies a picture of the board, to be pasted into a message."},
     {"frmTAVL", "mnuView_0", "Shows the board larger or smaller."},

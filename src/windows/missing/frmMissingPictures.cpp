@@ -106,16 +106,17 @@ void frmMissingPictures::BuildControls() {
     connect(cmdClose, &QPushButton::clicked, this, &frmMissingPictures::reject);
 }
 
-bool frmMissingPictures::ShowForm() try {
+bool frmMissingPictures::ShowForm(const GamePiece& first) try {
     m_bChanged = false;
     m_sOutcome.clear();
     Fill();
+    Choose(first);
     basCommon::ShowEntireForm(*this);
     lstMissing->setFocus();
     exec();
     return m_bChanged;
 } catch (...) {
-    ErrTail("frmMissingPictures!", "ShowForm");
+    ErrTail("frmMissingPictures!", "ShowForm", first.Word());
 }
 
 void frmMissingPictures::Fill() {
@@ -129,6 +130,14 @@ void frmMissingPictures::Fill() {
     }
     if (!lstMissing->currentItem()) lstMissing->setCurrentItem(lstMissing->topLevelItem(0));
     ShowState();
+}
+
+void frmMissingPictures::Choose(const GamePiece& piece) {
+    int row = 0;
+    for (const MissingPictures::Missing& missing : MissingPictures::Of(m_session.InHand())) {
+        if (PieceOf(missing.piece) == piece) lstMissing->setCurrentItem(lstMissing->topLevelItem(row));
+        ++row;
+    }
 }
 
 void frmMissingPictures::ShowState() {

@@ -12,6 +12,7 @@ class QLabel;
 class QPushButton;
 class QTreeWidget;
 class Session;
+struct GamePiece;
 
 /// The pictures of the game in hand that aren't where they were. One that the user finds again leads to the others.
 class frmMissingPictures : public QDialog {
@@ -21,8 +22,9 @@ public:
     explicit frmMissingPictures(Session& session, QWidget* parent = nullptr);
     ~frmMissingPictures() override;
 
-    /// Modal. True when the game has changed.
-    bool ShowForm();
+    /// Modal. The picture of a piece is chosen at first, that of none for the whole game. True when the game has
+    /// changed.
+    bool ShowForm(const GamePiece& first);
     /// Closing the window while it looks for pictures ends the looking first, and keeps what was found.
     void reject() override;
 
@@ -35,6 +37,7 @@ private Q_SLOTS:
 private:
     void BuildControls();
     void Fill();
+    void Choose(const GamePiece& piece);
     void ShowState();
     /// Path of the picture that is chosen in the list; empty for none.
     QString Chosen() const;
