@@ -16,6 +16,9 @@ constexpr int kHeadWords = 9;
 // A picture that the file is played into is never larger; it is stretched where the destination is.
 constexpr double kMostPicturePixels = 4'000'000;
 constexpr double kDotsPerInch = 96;
+// A flood finds its way as in a picture of about so many pixels a side: in a small one it would escape from a shape
+// that is hardly a pixel wide, or not get in.
+constexpr int kSideForFloods = 1400;
 
 // The scale of the painter's device: how many of its pixels a unit covers along x and y.
 QSizeF PixelsPerUnit(const QTransform& transform) {
@@ -67,12 +70,23 @@ struct Playing {
     QByteArrayView orders;
     bool smooth;
     double dotsPerInch;
+    /// How many times as wide and high a picture is made as it is asked for.
+    int finer = 1;
     qint64 budget = MetafileBudget::kWhole;
 
+    /// Plays into a copy that is so many times as large, which is then made small again.
     void Into(QImage& picture, const QRectF& viewport) const {
+        if (finer == 1) return IntoAsLarge(picture, viewport);
+        QImage large = picture.scaled(picture.size() * finer);
+        IntoAsLarge(large, QRectF(viewport.topLeft() * finer, viewport.size() * finer));
+        picture = large.scaled(picture.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                      .convertToFormat(picture.format());
+    }
+    void IntoAsLarge(QImage& picture, const QRectF& viewport) const {
         MetafileBudget units(budget);
-        MetafileCanvas canvas(picture, dotsPerInch, units);
+        MetafileCanvas canvas(picture, dotsPerInch * finer, units);
         canvas.SetSmooth(smooth);
+        canvas.SetThinnest(finer);
         MetafilePlayer(canvas, viewport).Play(orders);
     }
     void Onto(QPainter& painter, const QRectF& target) const {
@@ -99,10 +113,21 @@ void PlayThroughPicture(const Playing& playing, QPainter& painter, const QRectF&
     const QSize size = (target.size() * scale).toSize().expandedTo(QSize(1, 1));
     QImage onWhite = Ground(size, Qt::white);
     QImage onBlack = Ground(size, Qt::black);
-    const Playing scaled{playing.orders, playing.smooth, playing.dotsPerInch * scale, playing.budget / 2};
+    const Playing scaled{playing.orders, playing.smooth, playing.dotsPerInch * scale, playing.finer,
+                         playing.budget / 2};
     scaled.Into(onWhite, onWhite.rect());
     scaled.Into(onBlack, onBlack.rect());
     painter.drawImage(target, Unground(onWhite, onBlack));
+}
+
+// How many times as large a file with floods is played as it will be seen, which leaves half of the budget. An even
+// number, so that the middle of a pixel lies between two of the larger picture.
+int FinerForFloods(const MetafileSurvey& survey, QSizeF size) {
+    const double side = qMax(size.width(), size.height());
+    if (survey.floodFills == 0 || survey.countsPixels || side <= 0) return 1;
+    const double eachFlood = size.width() * size.height() * MetafileBudget::kFloodedPixel;
+    const double most = std::sqrt(MetafileBudget::kWhole / 2 / (eachFlood * survey.floodFills));
+    return qMax(1, int(qMin(kSideForFloods / side, most)) / 2 * 2);
 }
 
 } // namespace
@@ -151,7 +176,8 @@ bool Metafile::Play(QPainter& painter, const QRectF& target) const {
         pixels = QRectF(target.x() * scale.width(), target.y() * scale.height(), target.width() * scale.width(),
                         target.height() * scale.height());
     }
-    const Playing playing{m_orders, !survey.floodFills, DotsPerInch(painter)};
+    const Playing playing{m_orders, survey.floodFills == 0, DotsPerInch(painter),
+                          FinerForFloods(survey, pixels.size())};
     if (survey.readsBack) {
         PlayThroughPicture(playing, painter, pixels);
     } else {

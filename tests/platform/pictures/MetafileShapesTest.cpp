@@ -216,6 +216,22 @@ TEST_F(MetafileShapesTest, AFloodStopsAtItsBorderOrColour) {
     EXPECT_EQ(At(around, 10, 10), kRed);
 }
 
+TEST_F(MetafileShapesTest, AFloodWithinAShapeOfLessThanTwoPixelsNeverEscapes) {
+    // Thirty units are a pixel. The flood begins within the shape, near its right side, and in a pixel of its own
+    // that the shape, drawn in pixels, doesn't reach.
+    MetafileBuilder builder(1800, 1800);
+    builder.Pen(0, 1, Red()).HollowBrush().Rectangle(897, 300, 936, 1500).Brush(Blue());
+    builder.Add(MetafileOrder::FloodFill, MetafileBuilder::ColorWords(Red()) + MetafileBuilder::Words{900, 933});
+    const QImage narrow = Played(builder.Plain(), 60, 60);
+    EXPECT_EQ(At(narrow, 5, 5), kWhite);
+    EXPECT_EQ(At(narrow, 55, 30), kWhite);
+    const QRect ink = Ink(narrow);
+    EXPECT_GE(ink.left(), 29);
+    EXPECT_LE(ink.right(), 31);
+    EXPECT_NEAR(ink.top(), 10, 1);
+    EXPECT_NEAR(ink.bottom(), 50, 1);
+}
+
 TEST_F(MetafileShapesTest, BinaryOperationsCombineWithWhatWasPainted) {
     const auto painted = [&](int rop2) {
         MetafileBuilder builder(40, 40);

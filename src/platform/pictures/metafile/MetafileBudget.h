@@ -8,6 +8,8 @@
 class MetafileBudget {
 public:
     static constexpr qint64 kWhole = 250'000'000;
+    /// What a flood takes for each pixel of the picture that it runs through.
+    static constexpr qint64 kFloodedPixel = 60;
 
     explicit MetafileBudget(qint64 units = kWhole) : m_left(units) {}
     /// False, and nothing taken, for more than is left.

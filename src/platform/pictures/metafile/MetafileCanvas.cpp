@@ -9,7 +9,6 @@ namespace {
 
 constexpr qint64 kUnitsPerCombinedPixel = 12;
 constexpr qint64 kUnitsPerLayerPixel = 3;
-constexpr qint64 kUnitsPerFloodedPixel = 60;
 constexpr qint64 kUnitsPerDraw = 2'000;
 
 // One row of the truth table for each bit of the code: pattern, source, target as bits 2, 1, 0.
@@ -149,7 +148,7 @@ QImage MetafileCanvas::FloodMask(QPoint start, QRgb colour, bool onlyOnColour) c
 void MetafileCanvas::FloodFill(QPoint start, QRgb colour, bool onlyOnColour, const DrawFunction& draw) {
     if (!m_picture || !MayPaint(start)) return;
     const qint64 pixels = qint64(m_bounds.width()) * m_bounds.height();
-    if (!m_budget.Spend(pixels * kUnitsPerFloodedPixel)) return;
+    if (!m_budget.Spend(pixels * MetafileBudget::kFloodedPixel)) return;
     const QImage mask = FloodMask(start, colour, onlyOnColour);
     QImage layer(m_bounds.size(), QImage::Format_ARGB32_Premultiplied);
     layer.fill(Qt::transparent);

@@ -36,6 +36,11 @@ public:
 
     void SetClip(const std::optional<QRegion>& clip);
 
+    /// The width of the thinnest line and of a single pixel, in device pixels; more than 1 where the picture will be
+    /// made smaller by so much.
+    void SetThinnest(int pixels) { m_thinnest = pixels; }
+    int Thinnest() const { return m_thinnest; }
+
     /// Edges without half tones, for pictures that are to be flood-filled.
     void SetSmooth(bool smooth);
 
@@ -68,6 +73,7 @@ private:
     MetafileBudget& m_budget;
     std::optional<QRegion> m_clip;
     bool m_smooth = true;
+    int m_thinnest = 1;
 };
 
 /// Binary operations by number, ternary ones by code, and what they ask for.

@@ -57,7 +57,7 @@ private:
     bool HasPen() const { return m_state.pen->style != MetafilePen::kNull; }
     int PenWidth() const;
     /// Where the middle of the pen runs, from the top left corner of a pixel.
-    double PenOffset() const { return HasPen() && PenWidth() % 2 != 0 ? 0.5 : 0.0; }
+    double PenOffset() const;
     bool IsDashed() const;
     QPen MakePen(bool slanted) const;
     QBrush MakeBrush(const MetafileBrush& brush) const;

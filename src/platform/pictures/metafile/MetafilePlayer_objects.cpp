@@ -178,21 +178,22 @@ int MetafilePlayer::PenWidth() const {
     const double width = m_state.mapping.Length(m_state.pen->width);
     // Wider than the picture is as good as covering it.
     const int most = 4 * qMax(m_canvas.Bounds().width(), m_canvas.Bounds().height()) + 8;
-    return width < most ? qMax(1, qRound(width)) : most;
+    return width < most ? qMax(m_canvas.Thinnest(), qRound(width)) : most;
 }
 
 bool MetafilePlayer::IsDashed() const {
     const int style = m_state.pen->style;
-    return style >= 1 && style <= int(kDashes.size()) && PenWidth() == 1;
+    return style >= 1 && style <= int(kDashes.size()) && PenWidth() == m_canvas.Thinnest();
 }
 
 QPen MetafilePlayer::MakePen(bool slanted) const {
     if (!HasPen()) return QPen(Qt::NoPen);
     const int width = PenWidth();
+    const int pixel = m_canvas.Thinnest();
     // Of a pen two pixels wide only slanted corners are seen to be round.
-    const bool round = width > 2 || (width == 2 && slanted);
-    const Qt::PenCapStyle cap = round ? Qt::RoundCap : width == 2 ? Qt::SquareCap : Qt::FlatCap;
-    const double drawn = slanted && width > 1 ? width + kSlantExtraWidth : width;
+    const bool round = width > 2 * pixel || (width == 2 * pixel && slanted);
+    const Qt::PenCapStyle cap = round ? Qt::RoundCap : width > pixel ? Qt::SquareCap : Qt::FlatCap;
+    const double drawn = slanted && width > pixel ? width + kSlantExtraWidth : width;
     QPen pen(QColor(m_state.Colour(m_state.pen->colour)), drawn, Qt::SolidLine, cap,
              round ? Qt::RoundJoin : Qt::MiterJoin);
     if (!IsDashed()) return pen;

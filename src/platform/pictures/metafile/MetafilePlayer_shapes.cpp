@@ -95,6 +95,12 @@ QRectF MetafilePlayer::ReachableArea() const {
     return QRectF(m_canvas.Bounds()).adjusted(-room, -room, room, room);
 }
 
+// From where a shape is told to be to the middle of its line: pens of an odd width stand in the middle of a pixel.
+double MetafilePlayer::PenOffset() const {
+    const int pixel = m_canvas.Thinnest();
+    return HasPen() && qRound(double(PenWidth()) / pixel) % 2 != 0 ? pixel / 2.0 : 0.0;
+}
+
 QPointF MetafilePlayer::SlantOffset() const {
     if (!HasPen() || PenWidth() % 2 == 0) return kSlantOffset;
     return PenWidth() == 1 ? QPointF() : kSlantOffsetOfOddPens;
@@ -225,14 +231,15 @@ QRectF MetafilePlayer::OutlineRect(const DeviceBox& box) const {
         const double half = std::min({width / 2.0, box.Width() / 2.0, box.Height() / 2.0});
         return QRectF(box.Rect()).adjusted(half, half, -half, -half);
     }
-    return QRectF(box.left + PenOffset(), box.top + PenOffset(), box.Width() - 1, box.Height() - 1);
+    return QRectF(box.left + PenOffset(), box.top + PenOffset(), box.Width() - m_canvas.Thinnest(),
+                  box.Height() - m_canvas.Thinnest());
 }
 
 void MetafilePlayer::DrawRectangle(const DeviceBox& box) {
     if (box.IsEmpty()) return;
     QRectF outline = OutlineRect(box);
     // Without a pen the last column and row stay free, a habit of the old platform.
-    if (!HasPen()) outline.adjust(0, 0, -1, -1);
+    if (!HasPen()) outline.adjust(0, 0, -m_canvas.Thinnest(), -m_canvas.Thinnest());
     QPainterPath path;
     path.addPolygon(QPolygonF({outline.topLeft(), outline.topRight(), outline.bottomRight(), outline.bottomLeft()}));
     path.closeSubpath();
@@ -279,7 +286,7 @@ void MetafilePlayer::DrawArc(const MetafileArc& arc, ArcForm form) {
 }
 
 void MetafilePlayer::DrawPixel(QPoint at, quint32 colour) {
-    const QRect pixel(m_state.mapping.ToDevice(at), QSize(1, 1));
+    const QRect pixel(m_state.mapping.ToDevice(at), QSize(1, 1) * m_canvas.Thinnest());
     m_canvas.Draw(pixel, MetafileRop::kCopyPen,
                   [&](QPainter& painter) { painter.fillRect(pixel, QColor(m_state.Colour(colour))); });
 }

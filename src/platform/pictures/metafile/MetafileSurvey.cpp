@@ -45,6 +45,18 @@ bool DrawsWithPen(MetafileOrder order) {
     }
 }
 
+bool SetsViewport(MetafileOrder order) {
+    switch (order) {
+        case MetafileOrder::SetViewportOrg:
+        case MetafileOrder::SetViewportExt:
+        case MetafileOrder::OffsetViewportOrg:
+        case MetafileOrder::ScaleViewportExt:
+            return true;
+        default:
+            return false;
+    }
+}
+
 } // namespace
 
 MetafileSurvey MetafileSurvey::Of(QByteArrayView orders) {
@@ -63,7 +75,10 @@ MetafileSurvey MetafileSurvey::Of(QByteArrayView orders) {
         } else if (record->order == MetafileOrder::RestoreDC) {
             combines = everCombined;
         } else if (record->order == MetafileOrder::FloodFill || record->order == MetafileOrder::ExtFloodFill) {
-            survey.readsBack = survey.floodFills = true;
+            survey.readsBack = true;
+            ++survey.floodFills;
+        } else if (SetsViewport(record->order)) {
+            survey.countsPixels = true;
         } else if (record->order == MetafileOrder::InvertRegion) {
             survey.readsBack = true;
         } else if (DrawsWithPen(record->order)) {

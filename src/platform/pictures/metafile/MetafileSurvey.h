@@ -7,8 +7,10 @@
 struct MetafileSurvey {
     /// Some order combines with what was painted before.
     bool readsBack = false;
-    /// Some order fills up to an outline, which must have no half tones then.
-    bool floodFills = false;
+    /// Orders that fill up to an outline, which must have no half tones then.
+    int floodFills = 0;
+    /// Some order counts in pixels of the destination.
+    bool countsPixels = false;
     int orders = 0;
 
     static MetafileSurvey Of(QByteArrayView orders);
