@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "windowing/DesktopWidgets.h"
 
+#include "platform/text/LongWords.h"
 #include "windowing/SystemPrinter.h"
 
 #include <QApplication>
@@ -109,7 +110,9 @@ void SetText(QMessageBox& box, const QString& sText) {
 void Fill(QMessageBox& box, const QString& sText, int iStyle, const QString& sTitle) {
     box.setTextFormat(Qt::PlainText);
     box.setWindowTitle(sTitle);
-    SetText(box, QString(sText).remove(u'\r'));
+    // A word without an end would make the box wider than any screen.
+    constexpr qsizetype kLettersOfAWord = 40;
+    SetText(box, LongWords::MayBreak(QString(sText).remove(u'\r'), kLettersOfAWord));
     box.setIcon(IconOf(iStyle));
     box.setStandardButtons(ButtonsOf(iStyle));
     box.setDefaultButton(DefaultButtonOf(iStyle));

@@ -141,6 +141,21 @@ TEST(DesktopWidgetsTest, BoxesAnswerWithTheButtonThatClosedThem) {
     EXPECT_EQ(AnswerOf(vbYesNo, QMessageBox::No), vbNo);
 }
 
+TEST(DesktopWidgetsTest, BoxWithALongNameIsNoWiderThanAScreen) {
+    DesktopWidgets desktop;
+    int width = 0;
+    QTimer::singleShot(0, [&] {
+        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        ASSERT_NE(box, nullptr);
+        width = box->width();
+        box->button(QMessageBox::Ok)->click();
+    });
+    const QString name(225, u'W');
+    desktop.MsgBox(QStringLiteral("Could not save \"%1.gam\".").arg(name), vbOKOnly, QStringLiteral("Title"));
+    EXPECT_GT(width, 100);
+    EXPECT_LT(width, 700) << "the screen is 800 wide";
+}
+
 TEST(DesktopWidgetsTest, BoxOfManyMessagesShowsTheFirstAndHasTheRestBehindAButton) {
     QStringList messages;
     for (int i = 1; i <= 40; ++i)
