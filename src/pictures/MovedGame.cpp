@@ -24,6 +24,15 @@ QString Above(const QString& sFolder) {
     return folder.left(std::max(folder.lastIndexOf(u'/'), folder.lastIndexOf(u'\\')) + 1);
 }
 
+// One that comes from another system has its separators the other way.
+QString IfThere(QString sPlace) {
+    if (sPlace.contains(u'/')) sPlace.replace(u'\\', u'/');
+    return basCommon::DoesFileExist(sPlace) ? sPlace : QString();
+}
+
+// Further up the game and its pictures would hardly have been moved together.
+constexpr int kMostUp = 2;
+
 QString WithSeparator(const QString& sFolder) {
     return sFolder.isEmpty() ? QString() : basCommon::JoinPath(sFolder, QString());
 }
@@ -36,19 +45,24 @@ void Note(const QString& sFolderBefore, const QString& sFolderNow) {
 }
 
 QString PlaceOf(const QString& sPath) {
-    // Further up the game and its pictures would hardly have been moved together.
-    constexpr int kMostUp = 2;
     QString before = OfGame().sBefore;
     QString now = OfGame().sNow;
     for (int up = 0; up <= kMostUp && !before.isEmpty() && !now.isEmpty(); ++up) {
-        if (sPath.startsWith(before)) {
-            QString place = now + sPath.mid(before.size());
-            // One that comes from another system has its separators the other way.
-            if (now.contains(u'/')) place.replace(u'\\', u'/');
-            return basCommon::DoesFileExist(place) ? place : QString();
-        }
+        if (sPath.startsWith(before)) return IfThere(now + sPath.mid(before.size()));
         before = Above(before);
         now = Above(now);
+    }
+    return {};
+}
+
+// The name begins with the last folders of the game's old path: "Family/cat.jpg" of a game in "/a/My Games/Family/".
+QString PlaceOfRelative(const QString& sName) {
+    const QString& before = OfGame().sBefore;
+    QString above = Above(before);
+    for (int up = 0; up <= kMostUp && !above.isEmpty(); ++up) {
+        const QString folders = before.mid(above.size());
+        if (sName.startsWith(folders)) return IfThere(OfGame().sNow + sName.mid(folders.size()));
+        above = Above(above);
     }
     return {};
 }

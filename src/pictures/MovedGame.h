@@ -16,4 +16,8 @@ void Note(const QString& sFolderBefore, const QString& sFolderNow);
 /// empty where it isn't.
 QString PlaceOf(const QString& sPath);
 
+/// The same for a picture of a game in the games folder, by its path from that folder: a game in a folder of its own
+/// there may have been moved, or its folder renamed. Empty where it isn't.
+QString PlaceOfRelative(const QString& sName);
+
 } // namespace MovedGame

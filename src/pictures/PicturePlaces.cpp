@@ -63,6 +63,8 @@ QStringList PlacesOf(const QString& sName) {
     // lie in a folder of that name.
     const QString above = FolderAbove(beside);
     if (!above.isEmpty()) places.append(basCommon::JoinPath(above, sName));
+    // Under another name by now.
+    places.append(MovedGame::PlaceOfRelative(sName));
     return places;
 }
 

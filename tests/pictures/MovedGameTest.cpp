@@ -45,6 +45,17 @@ TEST_F(MovedGameTest, NothingIsFoundForOtherFoldersNorForAGameThatWasntMoved) {
     EXPECT_EQ(MovedGame::PlaceOf(QStringLiteral("/old/Family/cat.png")), QString());
 }
 
+TEST_F(MovedGameTest, ANameFromTheGamesFolderIsFoundInTheRenamedFolderOfTheGame) {
+    MovedGame::Note(QStringLiteral("/old/My Games/Families/Ours/"), PathOf(QStringLiteral("stick/Theirs")));
+    const QString below = Make("stick/Theirs/Photos/cat.png");
+    EXPECT_EQ(MovedGame::PlaceOfRelative(QStringLiteral("Families/Ours/Photos/cat.png")), below);
+    EXPECT_EQ(MovedGame::PlaceOfRelative(QStringLiteral("Ours/Photos/cat.png")), below);
+    EXPECT_EQ(MovedGame::PlaceOfRelative(QStringLiteral("Photos/cat.png")), QString());
+    EXPECT_EQ(MovedGame::PlaceOfRelative(QStringLiteral("Ours2/Photos/cat.png")), QString());
+    MovedGame::Note(QString(), QString());
+    EXPECT_EQ(MovedGame::PlaceOfRelative(QStringLiteral("Ours/Photos/cat.png")), QString());
+}
+
 TEST_F(MovedGameTest, TheFirstZoomLeavesNoBar) {
     const auto file = [this](int w, int h) {
         QImage image(w, h, QImage::Format_RGB32);
