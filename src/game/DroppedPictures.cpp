@@ -78,11 +78,7 @@ void GivePicture(Game& game, const PictureOwner& piece, const QString& sFile) {
         default:
             game.tokens[slot].SetImagePath(sFile);
     }
-    if (before.sPath == sFile || IsSameElsewhere(before.sPath, sFile)) {
-        ShowPart(image, before);
-    } else {
-        image.Let_Zoom(ZoomThatFills(sFile));
-    }
+    ShowPart(image, PartAtFirst(before, sFile));
 }
 
 std::vector<PictureOwner> FreeBehind(const Game& game, const PictureOwner& piece) {

@@ -32,6 +32,13 @@ bool IsSameElsewhere(const QString& sOld, const QString& sNew) {
            NameOf(sOld).compare(NameOf(sNew), Qt::CaseInsensitive) == 0;
 }
 
+PictureRef PartAtFirst(const PictureRef& before, const QString& sFile) {
+    if (before.sPath != sFile && !IsSameElsewhere(before.sPath, sFile)) return {sFile, ZoomThatFills(sFile)};
+    PictureRef same = before;
+    same.sPath = sFile;
+    return same;
+}
+
 void ShowPart(C_Image& image, const PictureRef& part) {
     image.Let_Zoom(part.iZoom);
     if (!part.IsCentered()) return;

@@ -170,8 +170,9 @@ void EditWindow::TakeDropped(const QStringList& files) try {
     const QString file = DroppedFiles::TakeFirst(m_session, files, m_likeness.Image().Owner(), others);
     m_bChangedOthers = m_bChangedOthers || others;
     if (file.isEmpty()) return;
+    const PictureRef part = PartAtFirst(m_likeness.Image().Ref(), file);
     SetImagePath(file);
-    m_likeness.Image().Let_Zoom(ZoomThatFills(file));
+    ShowPart(m_likeness.Image(), part);
     chkIncludeImage->setChecked(true);
     cmdBitmap->setEnabled(true);
     cmdCropImage->setEnabled(true);

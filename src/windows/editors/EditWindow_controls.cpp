@@ -56,7 +56,8 @@ QWidget* EditWindow::BuildLikeness() {
 
 void EditWindow::ShowLegend() {
     const bool hasImage = !m_likeness.Image().FullPath().isEmpty();
-    txtlegend->setText(hasImage ? QStringLiteral("Click the name to type.\nClick the picture to change it.")
+    txtlegend->setText(hasImage ? QStringLiteral("Click the name to type.\nClick the picture to change it.\n"
+                                               "Right button: move. Wheel: zoom.")
                                 : QStringLiteral("Click the name to type.\n\u201cInclude Image\u201d adds a picture."));
 }
 

@@ -93,6 +93,9 @@ void frmEditMoney::ShowImagePath() {
     txtBitmapPath->SetWholeText(path);
     chkIncludeImage->setChecked(!path.isEmpty());
     cmdCropImage->setEnabled(!path.isEmpty());
+    picNote->setToolTip(path.isEmpty() ? QString()
+                                       : QStringLiteral("Drag the picture with the right button to move it,\n"
+                                                        "turn the wheel to zoom it."));
 }
 
 void frmEditMoney::RedrawMoney() try {
@@ -171,7 +174,7 @@ void frmEditMoney::TakeDropped(const QStringList& files) try {
         if (int(i) != Index() && m_oMoney[i].FaceImage.FullPath().isEmpty())
             m_oMoney[i].LoadFromObject(m_session.InHand().money[i]);
     }
-    ShowPicture(PictureRef{file, ZoomThatFills(file)});
+    ShowPicture(PartAtFirst(FaceImage().Ref(), file));
     RedrawMoney();
 } catch (...) {
     ErrTop("frmEditMoney!", "TakeDropped");

@@ -176,7 +176,7 @@ void frmEditToken::TakeDropped(const QStringList& files) try {
     bool others = false;
     const QString file = DroppedFiles::TakeFirst(m_session, files, m_oToken.Image.Owner(), others);
     if (file.isEmpty()) return;
-    ShowImage(PictureRef{file, ZoomThatFills(file)});
+    ShowImage(PartAtFirst(m_oToken.Image.Ref(), file));
     Redraw();
     TakeFocus();
 } catch (...) {
