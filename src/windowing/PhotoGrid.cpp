@@ -71,8 +71,8 @@ QPixmap WithLook(const QPixmap& picture, const PhotoGrid::Look& look) {
 /// The files as a list; asks for a small picture when one is about to be painted.
 class PhotoModel : public QAbstractListModel {
 public:
-    explicit PhotoModel(QObject* parent)
-        : QAbstractListModel(parent), m_loader(PhotoGrid::kSide), m_blank(Blank()), m_crossed(Crossed()) {
+    explicit PhotoModel(PhotoGrid& grid)
+        : QAbstractListModel(&grid), m_grid(grid), m_loader(PhotoGrid::kSide), m_blank(Blank()), m_crossed(Crossed()) {
         connect(&m_loader, &PhotoLoader::Arrived, this, &PhotoModel::Take);
     }
 
@@ -146,8 +146,10 @@ private:
         if (m_order.size() > kMostKept) m_made.remove(m_order.takeFirst());
         const int row = int(m_files.indexOf(sPath));
         if (row >= 0) Q_EMIT dataChanged(index(row), index(row), {Qt::DecorationRole});
+        if (row >= 0 && picture.isNull()) Q_EMIT m_grid.Broken(sPath);
     }
 
+    PhotoGrid& m_grid;
     QStringList m_files;
     PhotoGrid::Looks m_looks;
     mutable PhotoLoader m_loader;
@@ -159,7 +161,7 @@ private:
     QSize m_cell;
 };
 
-PhotoGrid::PhotoGrid(QWidget* parent) : QListView(parent), m_model(new PhotoModel(this)) {
+PhotoGrid::PhotoGrid(QWidget* parent) : QListView(parent), m_model(new PhotoModel(*this)) {
     setModel(m_model);
     setViewMode(QListView::IconMode);
     setMovement(QListView::Static);

@@ -47,6 +47,10 @@ public:
     /// Pixels of a picture's longer side.
     static constexpr int kSide = 100;
 
+Q_SIGNALS:
+    /// A photo came into sight, and its file can't be shown.
+    void Broken(const QString& sFile);
+
 private:
     PhotoModel* m_model;
 };

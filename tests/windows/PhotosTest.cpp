@@ -93,11 +93,54 @@ TEST_F(PhotosTest, NamesOfFilesAreShownBeforeTheyAreGiven) {
         auto& grid = In<PhotoGrid>(window, "lstPhotos");
         EXPECT_FALSE(Caption(grid, 0).contains(QStringLiteral("Place 0")));
         Click(window, "chkNames");
-        EXPECT_TRUE(Caption(grid, 0).startsWith(QStringLiteral("Place 0\nwas "))) << Caption(grid, 0).toStdString();
+        EXPECT_TRUE(Caption(grid, 0).startsWith(QStringLiteral("Place 0\n"))) << Caption(grid, 0).toStdString();
         Click(window, "cmdOK");
     }));
     const auto places = DealtPhotos::FreePlaces(Game(), false);
     EXPECT_EQ(TheGame().spaces[size_t(places[0].iNumber)].TextAll(), QStringLiteral("Place 0"));
+}
+
+TEST_F(PhotosTest, OneThatBreaksOffIsLeftOutAndTheOthersMoveUp) {
+    MakePhotos(2);
+    const QByteArray whole = PictureFiles::Encoded(PictureFiles::Quarters(400, 400), "jpg");
+    WriteFile(QStringLiteral("photos/broken.jpg"), whole.left(whole.size() / 2));
+    EXPECT_TRUE(InWindow([&](frmDealPhotos& window) {
+        auto& grid = In<PhotoGrid>(window, "lstPhotos");
+        EXPECT_EQ(grid.model()->rowCount(), 3);
+        EXPECT_TRUE(QTest::qWaitFor([&] {
+            return In<QLabel>(window, "lblState")
+                .text()
+                .endsWith(QStringLiteral("One can't be shown, and is left out."));
+        }));
+        QStringList captions;
+        for (int row = 0; row < 3; ++row)
+            captions.append(Caption(grid, row));
+        EXPECT_EQ(captions.count(QStringLiteral("can't be shown")), 1) << captions.join(u'|').toStdString();
+        const int broken = int(captions.indexOf(QStringLiteral("can't be shown")));
+        Q_EMIT grid.clicked(grid.model()->index(broken, 0));
+        EXPECT_EQ(Caption(grid, broken), QStringLiteral("can't be shown")) << "a click doesn't bring it back";
+        EXPECT_EQ(In<QPushButton>(window, "cmdOK").text(), QStringLiteral("&Deal 2 Photos"));
+        Click(window, "cmdOK");
+    }));
+    EXPECT_EQ(PieceImages::Files(TheGame()).filter(QStringLiteral("broken")), QStringList());
+    EXPECT_EQ(PieceImages::Files(TheGame()).filter(QStringLiteral("place")).size(), 2);
+}
+
+TEST_F(PhotosTest, OneThatBreaksOffOutOfSightIsFoundOutBeforeItIsDealt) {
+    MakePhotos(1);
+    const QByteArray whole = PictureFiles::Encoded(PictureFiles::Quarters(400, 400), "jpg");
+    WriteFile(QStringLiteral("photos/broken.jpg"), whole.left(whole.size() / 2));
+    EXPECT_TRUE(InWindow([&](frmDealPhotos& window) {
+        // What is out of sight is never made small.
+        In<PhotoGrid>(window, "lstPhotos").hide();
+        window.ShowFolder(Photos());
+        WaitFor(window);
+        Click(window, "cmdOK");
+        EXPECT_TRUE(window.isVisible()) << "to show what is dealt now";
+        EXPECT_EQ(In<QPushButton>(window, "cmdOK").text(), QStringLiteral("&Deal One Photo"));
+        Click(window, "cmdOK");
+    }));
+    EXPECT_EQ(PieceImages::Files(TheGame()).filter(QStringLiteral("broken")), QStringList());
 }
 
 TEST_F(PhotosTest, CancelAndAnEmptyFolderChangeNothing) {

@@ -12,6 +12,7 @@
 #include "windowing/basCommon_forms.h"
 #include "windowing/DesktopWidgets.h"
 #include "windowing/ElidedLabel.h"
+#include "windowing/HourGlass.h"
 #include "windowing/PhotoGrid.h"
 #include "windows/photos/PhotoFolder.h"
 #include "windows/pictures/KeptPicture.h"
@@ -37,11 +38,15 @@ QString Count(qsizetype n, const char* sOne, const char* sMany) {
     return n == 1 ? QString::fromLatin1(sOne) : QString::fromLatin1(sMany).arg(n);
 }
 
-// As the family calls it, or by its number.
-QString PlaceName(const Game& game, const PictureOwner& place) {
+// As the family calls it; empty where it has no name yet.
+QString NameOf(const Game& game, const PictureOwner& place) {
     const bool corner = place.kind == PictureOwner::Kind::Corner;
     const QString name = corner ? GameWords::OfCorner(game, place.iNumber) : GameWords::OfSpace(game, place.iNumber);
-    if (!GameWords::IsBlank(name)) return name;
+    return GameWords::IsBlank(name) ? QString() : name;
+}
+
+QString NumberOf(const PictureOwner& place) {
+    const bool corner = place.kind == PictureOwner::Kind::Corner;
     return QString(corner ? QStringLiteral("Corner %1") : QStringLiteral("Space %1")).arg(place.iNumber + 1);
 }
 
@@ -115,6 +120,7 @@ void frmDealPhotos::BuildControls() {
     buttons->addWidget(cmdOK);
     column->addLayout(buttons);
     connect(cmdFolder, &QPushButton::clicked, this, &frmDealPhotos::cmdFolder_Click);
+    connect(lstPhotos, &PhotoGrid::Broken, this, &frmDealPhotos::lstPhotos_Broken);
     connect(lstPhotos, &QListView::clicked, this, &frmDealPhotos::lstPhotos_Click);
     connect(cmdCancel, &QPushButton::clicked, this, &frmDealPhotos::reject);
     connect(cmdOK, &QPushButton::clicked, this, &frmDealPhotos::cmdOK_Click);
@@ -140,6 +146,7 @@ void frmDealPhotos::ShowFolder(const QString& sFolder) {
     m_sFolder = sFolder;
     static_cast<ElidedLabel*>(lblFolder)->SetWholeText(sFolder);
     m_photos.clear();
+    m_broken.clear();
     m_unread = PhotoFolder::Pictures(sFolder);
     m_iInFolder = int(m_unread.size());
     timLook.start(0);
@@ -193,6 +200,9 @@ void frmDealPhotos::ShowState() {
                    .arg(dealt)
                    .arg(Count(qsizetype(m_photos.size()), "one photo", "%1 photos"),
                         Count(qsizetype(m_places.size()), "one free place", "%1 free places"));
+        if (!m_broken.isEmpty())
+            text += u' ' + Count(m_broken.size(), "One can't be shown, and is left out.",
+                                 "%1 can't be shown, and are left out.");
     }
     lblState->setText(text);
     cmdOK->setEnabled(!looking && dealt > 0);
@@ -205,13 +215,15 @@ QString frmDealPhotos::CaptionOf(int iRow) const {
     if (iRow >= int(m_dealt.size())) return {};
     const DealtPhotos::Photo& photo = m_photos[size_t(iRow)];
     const int place = m_dealt[size_t(iRow)];
+    if (m_broken.contains(photo.sFile)) return QStringLiteral("can't be shown");
     if (photo.bLeftOut) return QStringLiteral("left out");
     if (place < 0) return QStringLiteral("no free place");
     const PictureOwner& piece = m_places[size_t(place)];
     const bool named = chkNames->isChecked() && piece.kind == PictureOwner::Kind::Space;
     const QString name = named ? DealtPhotos::NameOf(photo.sFile) : QString();
-    const QString before = PlaceName(m_session.InHand(), piece);
-    return name.isEmpty() ? before : name + QStringLiteral("\nwas ") + before;
+    const QString before = NameOf(m_session.InHand(), piece);
+    if (name.isEmpty()) return before.isEmpty() ? NumberOf(piece) : before;
+    return name + u'\n' + (before.isEmpty() ? NumberOf(piece) : QStringLiteral("was ") + before);
 }
 
 void frmDealPhotos::cmdFolder_Click() try {
@@ -239,10 +251,33 @@ void frmDealPhotos::Choices_Click() { DealAgain(); }
 void frmDealPhotos::lstPhotos_Click(const QModelIndex& index) {
     if (!index.isValid() || index.row() >= int(m_photos.size())) return;
     DealtPhotos::Photo& photo = m_photos[size_t(index.row())];
+    if (m_broken.contains(photo.sFile)) return;
     photo.bLeftOut = !photo.bLeftOut;
+    ChangeWhatIsDealt();
+}
+
+void frmDealPhotos::ChangeWhatIsDealt() {
     m_dealt = DealtPhotos::Dealt(m_photos, int(m_places.size()));
     lstPhotos->Refresh();
     ShowState();
+}
+
+void frmDealPhotos::lstPhotos_Broken(const QString& sFile) {
+    m_broken.insert(sFile);
+    for (DealtPhotos::Photo& photo : m_photos)
+        photo.bLeftOut = photo.bLeftOut || photo.sFile == sFile;
+    ChangeWhatIsDealt();
+}
+
+bool frmDealPhotos::TakeOutBroken() {
+    const HourGlass working;
+    const qsizetype before = m_broken.size();
+    for (size_t i = 0; i < m_photos.size(); ++i) {
+        if (m_dealt[i] >= 0 && !WhyNotShown(m_photos[i].sFile).isEmpty()) m_broken.insert(m_photos[i].sFile);
+    }
+    for (DealtPhotos::Photo& photo : m_photos)
+        photo.bLeftOut = photo.bLeftOut || m_broken.contains(photo.sFile);
+    return m_broken.size() > before;
 }
 
 bool frmDealPhotos::eventFilter(QObject* watched, QEvent* event) {
@@ -255,6 +290,8 @@ bool frmDealPhotos::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void frmDealPhotos::cmdOK_Click() try {
+    // The others move up, which whoever deals wants to see first.
+    if (TakeOutBroken()) return ChangeWhatIsDealt();
     for (size_t i = 0; i < m_photos.size(); ++i) {
         if (m_dealt[i] >= 0) m_photos[i].sFile = KeepPicture(m_photos[i].sFile);
     }

@@ -4,6 +4,7 @@
 #include "game/DealtPhotos.h"
 
 #include <QDialog>
+#include <QSet>
 #include <QTimer>
 
 class PhotoGrid;
@@ -38,6 +39,7 @@ private Q_SLOTS:
     void lstPhotos_Click(const QModelIndex& index);
     void timLook_Timer();
     void cmdOK_Click();
+    void lstPhotos_Broken(const QString& sFile);
 
 private:
     void BuildControls();
@@ -46,6 +48,9 @@ private:
     void DealAgain();
     void ShowState();
     QString CaptionOf(int iRow) const;
+    void ChangeWhatIsDealt();
+    /// Looks at each photo that is dealt, also at those that never came into sight. True where one can't be shown.
+    bool TakeOutBroken();
 
     Session& m_session;
     QString m_sFolder;
@@ -56,6 +61,8 @@ private:
     std::vector<DealtPhotos::Photo> m_photos;
     std::vector<PictureOwner> m_places;
     std::vector<int> m_dealt;
+    /// Files that turned out to break off further on.
+    QSet<QString> m_broken;
     quint32 m_iSeed = 1;
     bool m_bChanged = false;
 
