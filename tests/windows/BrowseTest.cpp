@@ -105,6 +105,20 @@ TEST_F(BrowseTest, ADamagedPictureIsToldOnceAndTheDialogStays) {
     EXPECT_EQ(desktop.boxes.size(), 1);
 }
 
+TEST_F(BrowseTest, WhatIsAnotherKindOfFileIsToldWithWhatToDo) {
+    WriteFile(QStringLiteral("page.jpg"), QByteArray("%PDF-1.4 and so on"));
+    Browse(QString(), [this](QWidget& window) {
+        ClickFile(window, QStringLiteral("page.jpg"));
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !desktop.boxes.isEmpty(); }, kArrivalMs));
+        EXPECT_FALSE(Find<QPushButton>(window, "cmdOK").isEnabled());
+        Click(window, "cmdCancel");
+    });
+    ASSERT_EQ(desktop.boxes.size(), 1);
+    EXPECT_TRUE(desktop.Texts().first().contains(
+        QStringLiteral("The file is a PDF document. Please save its page as a .jpg or .png picture and take that")))
+        << desktop.Texts().first().toStdString();
+}
+
 TEST_F(BrowseTest, AGoodPictureBehindADamagedOneIsShownWithoutABox) {
     WriteFile(QStringLiteral("bad.jpg"), QByteArray("no picture at all"));
     Picture(QStringLiteral("good.bmp"));

@@ -6,6 +6,7 @@
 #include "platform/pictures/DecodingRoom.h"
 #include "platform/pictures/JpegMarkers.h"
 #include "platform/pictures/Metafile.h"
+#include "platform/pictures/OtherKinds.h"
 #include "platform/pictures/PictureFormat.h"
 
 #include <QBuffer>
@@ -18,6 +19,12 @@
 
 namespace PictureDecoder {
 namespace {
+
+QString WhyUnknown(const QByteArray& bytes) {
+    const QString other = OtherKindOf(bytes, QString());
+    return other.isEmpty() ? QStringLiteral("The file does not hold a picture of a known kind")
+                           : QStringLiteral("The file is ") + other;
+}
 
 const char* ReaderName(PictureFormat format) {
     switch (format) {
@@ -129,7 +136,7 @@ Picture Decode(const QByteArray& bytes, int longerSideWanted, QString& sError) {
         case PictureFormat::Metafile:
             return DecodeMetafile(bytes, longerSideWanted, sError);
         case PictureFormat::Unknown:
-            sError = QStringLiteral("The file does not hold a picture of a known kind");
+            sError = WhyUnknown(bytes);
             return {};
         default:
             break;

@@ -280,9 +280,11 @@ TEST_F(PictureTest, BringsTheColoursOfACameraProfileToTheScreen) {
     QImage wide(32, 32, QImage::Format_RGB32);
     wide.fill(qRgb(200, 60, 60));
     wide.setColorSpace(QColorSpace(QColorSpace::DisplayP3));
-    const Picture picture = Load(QStringLiteral("p3.jpg"), Encoded(wide, "jpg", 100));
-    EXPECT_GT(qRed(picture.Image().pixel(16, 16)), 210);
-    EXPECT_LT(qGreen(picture.Image().pixel(16, 16)), 50);
+    for (const char* format : {"jpg", "png"}) {
+        const Picture picture = Load(QStringLiteral("p3.") + QString::fromLatin1(format), Encoded(wide, format, 100));
+        EXPECT_GT(qRed(picture.Image().pixel(16, 16)), 210) << format;
+        EXPECT_LT(qGreen(picture.Image().pixel(16, 16)), 50) << format;
+    }
 }
 
 TEST_F(PictureTest, KeepsWhatItDecodedUntilTheFileChanges) {
