@@ -129,6 +129,25 @@ TEST_F(PictureDropTest, APictureOfADiskThatMayGoAwayIsCopied) {
     EXPECT_EQ(ReadFile(Space(5).Image.FullPath()), ReadFile(photo));
 }
 
+TEST_F(PictureDropTest, WhatAMailProgramLaysAmongTemporaryFilesIsCopied) {
+    QDir(folder.path()).mkdir(QStringLiteral("gone tomorrow"));
+    const QString photo = Photo(QStringLiteral("gone tomorrow/dog.png"));
+    Drop(*Dragged({photo}), MiddleOf(5));
+    EXPECT_EQ(Space(5).Image.FullPath(), InGames(QStringLiteral("dog.png")));
+    EXPECT_EQ(ReadFile(Space(5).Image.FullPath()), ReadFile(photo));
+}
+
+TEST_F(PictureDropTest, TheAddressOfAPageIsToldAndNothingChanges) {
+    QMimeData data;
+    data.setUrls({QUrl(QStringLiteral("https://example.org/dog.png"))});
+    const Game before = TheGame();
+    Drop(data, MiddleOf(5));
+    EXPECT_EQ(desktop.Texts(),
+              QStringList{QStringLiteral("This is the address of a page and no picture. Please save the picture as a "
+                                         "file first, and take that.")});
+    EXPECT_EQ(TheGame(), before);
+}
+
 TEST_F(PictureDropTest, TokensAndNotesFillFromTheFirstFreeOne) {
     for (C_Token& token : TheGame().tokens)
         token.SetImagePath(QString());

@@ -6,6 +6,7 @@
 #include "pictures/ThumbnailStore.h"
 #include "platform/files/Files.h"
 #include "platform/files/Folders.h"
+#include "platform/files/TemporaryPlaces.h"
 #include "services/ProgramSettings.h"
 
 #include <QFile>
@@ -15,6 +16,7 @@ TavloraTest::TavloraTest() {
     Settings() = ProgramSettings{};
     Settings().sMyGamesDirectory = folder.path();
     Folders::SetProgramDirectory(QStringLiteral(TAVLORA_DATA_DIR));
+    TemporaryPlaces::Pretend(PathOf(QStringLiteral("gone tomorrow")));
 }
 
 TavloraTest::~TavloraTest() {
@@ -23,6 +25,7 @@ TavloraTest::~TavloraTest() {
     ThumbnailStore::Instance().ForgetAll();
     Files::SetFaultHook({});
     Folders::SetProgramDirectory({});
+    TemporaryPlaces::Pretend({});
     Settings() = ProgramSettings{};
 }
 

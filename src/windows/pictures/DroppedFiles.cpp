@@ -13,6 +13,7 @@
 #include "windowing/PictureData.h"
 #include "windows/pictures/KeptPicture.h"
 
+#include <QCoreApplication>
 #include <QMimeData>
 #include <QUrl>
 
@@ -25,6 +26,12 @@ bool Take(Session& session, const DroppedPictures::Outcome& outcome) {
     if (outcome.edit) session.Do(*outcome.edit);
     if (!outcome.sTold.isEmpty()) MsgBox(outcome.sTold, vbInformation);
     return outcome.edit.has_value();
+}
+
+// Amid a drop, the program that it comes from waits for its end.
+void TellLater(const QString& sText, int iStyle) {
+    QMetaObject::invokeMethod(
+        qApp, [sText, iStyle] { MsgBox(sText, iStyle); }, Qt::QueuedConnection);
 }
 
 } // namespace
@@ -40,9 +47,9 @@ QStringList FilesOf(const QMimeData& data, const QString& sGameName) {
     if (!files.isEmpty()) return files;
     const Picture picture = PictureIn(data);
     if (picture.IsNull()) {
-        MsgBox(QStringLiteral("This is the address of a page and no picture. Please save the picture as a file first, "
-                              "and take that."),
-               vbInformation);
+        TellLater(QStringLiteral("This is the address of a page and no picture. Please save the picture as a file "
+                                 "first, and take that."),
+                  vbInformation);
         return {};
     }
     QString drive, dir, base, ext, error;
@@ -52,7 +59,7 @@ QStringList FilesOf(const QMimeData& data, const QString& sGameName) {
         const QString path = FreePathIn(folder, QStringLiteral("Picture"), QStringLiteral("png"));
         if (SavePicture(picture, path, error)) return {path};
     }
-    MsgBox(QStringLiteral("The picture couldn't be kept: ") + error, vbExclamation);
+    TellLater(QStringLiteral("The picture couldn't be kept: ") + error, vbExclamation);
     return {};
 }
 

@@ -2,6 +2,7 @@
 #include "windows/pictures/KeptPicture.h"
 
 #include "platform/files/Files.h"
+#include "platform/files/TemporaryPlaces.h"
 #include "services/basErrLog.h"
 #include "services/basPath.h"
 #include "windows/pictures/BrowsePlaces.h"
@@ -13,7 +14,7 @@ QString FreePathIn(const QString& sFolder, const QString& sBase, const QString& 
 
 QString KeepPicture(const QString& sFile) {
     const QString games = basCommon::GetMyGamesDirectory();
-    if (BrowsePlaces::IsOnGamesDrive(sFile, games)) return sFile;
+    if (BrowsePlaces::IsOnGamesDrive(sFile, games) && !TemporaryPlaces::Hold(sFile)) return sFile;
     QString drive, dir, base, ext, error;
     basCommon::FileNameFactor(sFile, drive, dir, base, ext);
     const QString copy = FreePathIn(games, base, ext);

@@ -3,7 +3,7 @@
 
 #include <QString>
 
-/// A picture on a disk that may go away is copied into the games folder, as the chooser does. The path to use: of the
+/// A picture on a disk that may go away, or among temporary files, is copied into the games folder, as the chooser does. The path to use: of the
 /// copy, or of the picture itself where that stays or can't be copied.
 QString KeepPicture(const QString& sFile);
 
