@@ -100,6 +100,18 @@ TEST_F(PhotosTest, NamesOfFilesAreShownBeforeTheyAreGiven) {
     EXPECT_EQ(TheGame().spaces[size_t(places[0].iNumber)].TextAll(), QStringLiteral("Place 0"));
 }
 
+TEST_F(PhotosTest, WhatThePiecesShowAlreadyIsLeftOutUntilItIsClicked) {
+    MakePhotos(2);
+    TheGame().spaces[4].SetImagePath(Photos() + QStringLiteral("/place 0.png"));
+    EXPECT_FALSE(InWindow([&](frmDealPhotos& window) {
+        auto& grid = In<PhotoGrid>(window, "lstPhotos");
+        EXPECT_EQ(Caption(grid, 0), QStringLiteral("in use already"));
+        EXPECT_EQ(In<QPushButton>(window, "cmdOK").text(), QStringLiteral("&Deal One Photo"));
+        Q_EMIT grid.clicked(grid.model()->index(0, 0));
+        EXPECT_EQ(In<QPushButton>(window, "cmdOK").text(), QStringLiteral("&Deal 2 Photos"));
+    }));
+}
+
 TEST_F(PhotosTest, OneThatBreaksOffIsLeftOutAndTheOthersMoveUp) {
     MakePhotos(2);
     const QByteArray whole = PictureFiles::Encoded(PictureFiles::Quarters(400, 400), "jpg");

@@ -3,6 +3,7 @@
 
 #include "board/basPosit.h"
 #include "check/GameWords.h"
+#include "game/PieceImages.h"
 #include "game/Session.h"
 #include "pictures/PictureCheck.h"
 #include "platform/pictures/CameraTags.h"
@@ -147,6 +148,8 @@ void frmDealPhotos::ShowFolder(const QString& sFolder) {
     static_cast<ElidedLabel*>(lblFolder)->SetWholeText(sFolder);
     m_photos.clear();
     m_broken.clear();
+    const QStringList inUse = PieceImages::Files(m_session.InHand());
+    m_inUse = QSet<QString>(inUse.begin(), inUse.end());
     m_unread = PhotoFolder::Pictures(sFolder);
     m_iInFolder = int(m_unread.size());
     timLook.start(0);
@@ -158,7 +161,8 @@ void frmDealPhotos::timLook_Timer() try {
     turn.start();
     while (!m_unread.isEmpty() && turn.elapsed() < kTurn) {
         const QString file = m_unread.takeFirst();
-        if (WhyNoPicture(file).isEmpty()) m_photos.push_back({file, DateTaken(file)});
+        // Who deals a folder once more means the photos that came since.
+        if (WhyNoPicture(file).isEmpty()) m_photos.push_back({file, DateTaken(file), m_inUse.contains(file)});
     }
     if (!m_unread.isEmpty()) return ShowState();
     timLook.stop();
@@ -216,7 +220,8 @@ QString frmDealPhotos::CaptionOf(int iRow) const {
     const DealtPhotos::Photo& photo = m_photos[size_t(iRow)];
     const int place = m_dealt[size_t(iRow)];
     if (m_broken.contains(photo.sFile)) return QStringLiteral("can't be shown");
-    if (photo.bLeftOut) return QStringLiteral("left out");
+    if (photo.bLeftOut)
+        return m_inUse.contains(photo.sFile) ? QStringLiteral("in use already") : QStringLiteral("left out");
     if (place < 0) return QStringLiteral("no free place");
     const PictureOwner& piece = m_places[size_t(place)];
     const bool named = chkNames->isChecked() && piece.kind == PictureOwner::Kind::Space;

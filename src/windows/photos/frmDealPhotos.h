@@ -61,6 +61,8 @@ private:
     std::vector<DealtPhotos::Photo> m_photos;
     std::vector<PictureOwner> m_places;
     std::vector<int> m_dealt;
+    /// Files that pieces of the game show.
+    QSet<QString> m_inUse;
     /// Files that turned out to break off further on.
     QSet<QString> m_broken;
     quint32 m_iSeed = 1;
