@@ -74,6 +74,60 @@ TEST_F(BrowseGridTest, FolderAndKindsAreKeptOverStarts) {
     });
 }
 
+TEST_F(BrowseGridTest, TheFirstTimeItOpensInPictures) {
+    const QByteArray home = qgetenv("HOME");
+    qputenv("HOME", folder.path().toUtf8());
+    const QString pictures = Folders::Pictures();
+    QDir().mkpath(pictures);
+    Browse(
+        QString(),
+        [&](QWidget& window) {
+            EXPECT_EQ(Text(window, "lblCurrentDirectory"), pictures);
+            Click(window, "cmdCancel");
+        },
+        true, basCommon::GetMyGamesDirectory());
+    qputenv("HOME", home);
+}
+
+TEST_F(BrowseGridTest, ThePictureInUseIsListedWhateverKindsWereChosenLast) {
+    const auto chooseUsualKinds = [](QWidget& window) {
+        auto& filter = Find<QComboBox>(window, "cboFilter");
+        filter.setFocus();
+        QTest::keyClick(&filter, Qt::Key_Up);
+        Click(window, "cmdCancel");
+    };
+    const QString inUse =
+        WriteFile(QStringLiteral("dog.png"), PictureFiles::Encoded(PictureFiles::Quarters(40, 40), "png"));
+    Browse(QString(), chooseUsualKinds, true, folder.path());
+    EXPECT_EQ(Browse(inUse,
+                     [](QWidget& window) {
+                         EXPECT_EQ(FilesIn(window), QStringList{QStringLiteral("dog.png")});
+                         EXPECT_EQ(Find<QListWidget>(window, "filList").currentRow(), 0);
+                         Click(window, "cmdOK");
+                     }),
+              inUse);
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+}
+
+TEST_F(BrowseGridTest, ASlowPreviewSaysThatItIsLoading) {
+    QImage large(6000, 6000, QImage::Format_RGB32);
+    large.fill(Qt::red);
+    WriteFile(QStringLiteral("large.png"), PictureFiles::Encoded(large, "png"));
+    Browse(QString(), [](QWidget& window) {
+        ClickFile(window, QStringLiteral("large.png"));
+        const QImage shown = Find<PictureBox>(window, "picBitMapArea").Image();
+        int grey = 0;
+        for (int x = 0; x < shown.width(); ++x)
+            for (int y = shown.height() / 3; y < shown.height() * 2 / 3; ++y)
+                grey += qGray(shown.pixel(x, y)) < 128 ? 1 : 0;
+        EXPECT_GT(grey, 20) << "words in the middle";
+        const int side = shown.width();
+        EXPECT_LT(grey, side * side / 20) << "and no picture yet";
+        EXPECT_TRUE(QTest::qWaitFor([&] { return ColorAt(window, 20, 20) == Color::Rgb(255, 0, 0); }, kArrivalMs));
+        Click(window, "cmdCancel");
+    });
+}
+
 TEST_F(BrowseGridTest, OneClickOpensAFolder) {
     Picture(QStringLiteral("stick/sub/cat.bmp"));
     Browse(
