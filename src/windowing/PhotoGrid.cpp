@@ -100,7 +100,8 @@ public:
         if (!index.isValid()) return {};
         const QString file = m_files.value(index.row());
         if (role == Qt::DecorationRole) return WithLook(PictureOf(file), LookOf(index));
-        if (role == Qt::DisplayRole || role == Qt::AccessibleTextRole) return LookOf(index).sCaption;
+        if (role == Qt::DisplayRole) return Fitted(LookOf(index).sCaption);
+        if (role == Qt::AccessibleTextRole) return LookOf(index).sCaption;
         if (role == Qt::ToolTipRole) return file;
         // The same for all, as long as their captions may become.
         if (role == Qt::SizeHintRole) return m_cell;
@@ -122,6 +123,16 @@ public:
     }
 
 private:
+    // Whole lines: the toolkit would break one that is too long, and leave out of both halves.
+    QString Fitted(const QString& sCaption) const {
+        constexpr int kBeside = 6;
+        QStringList lines = sCaption.split(u'\n');
+        if (lines.size() == 1) return sCaption;
+        for (QString& line : lines)
+            line = m_grid.fontMetrics().elidedText(line, Qt::ElideRight, m_cell.width() - kBeside);
+        return lines.join(u'\n');
+    }
+
     PhotoGrid::Look LookOf(const QModelIndex& index) const {
         const QString file = m_files.value(index.row());
         return m_looks ? m_looks(file, index.row()) : PhotoGrid::Look{QFileInfo(file).fileName()};
