@@ -114,6 +114,8 @@ int RunProgram(int argc, char** argv, DesktopWidgets& desktop) {
     application.SetLastNet(&ReportUncaught);
     WindowHelp help;
     application.installEventFilter(&help);
+    SecondPressFilter secondPress;
+    application.installEventFilter(&secondPress);
     Desktop::Install(&desktop);
     try {
         return Start(desktop);

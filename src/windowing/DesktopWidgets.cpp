@@ -5,6 +5,7 @@
 #include "windowing/SystemPrinter.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QEventLoop>
@@ -12,6 +13,7 @@
 #include <QFileInfo>
 #include <QFontDialog>
 #include <QFontInfo>
+#include <QGroupBox>
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -197,6 +199,14 @@ bool ShowFileDialog(CommonDialog& dialog, QFileDialog::AcceptMode mode) {
     return false;
 }
 
+// Strikeout and underline are no part of what a piece keeps of its font: ticking them would do nothing.
+void HideEffects(QFontDialog& window) {
+    for (QCheckBox* const effect : window.findChildren<QCheckBox*>()) {
+        auto* const group = qobject_cast<QGroupBox*>(effect->parentWidget());
+        if (group) group->hide();
+    }
+}
+
 } // namespace
 
 QStringList DesktopWidgets::NameFilters(const QString& sFilter) {
@@ -245,6 +255,8 @@ bool DesktopWidgets::ShowFont(CommonDialog& dialog) {
     font.setBold(dialog.bFontBold);
     font.setItalic(dialog.bFontItalic);
     QFontDialog window(font, Owner());
+    window.setOption(QFontDialog::DontUseNativeDialog);
+    HideEffects(window);
     if (!dialog.sDialogTitle.isEmpty()) window.setWindowTitle(dialog.sDialogTitle);
     if (window.exec() != QDialog::Accepted) return false;
     const QFont chosen = window.selectedFont();
