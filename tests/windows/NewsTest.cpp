@@ -90,7 +90,7 @@ TEST_F(NewsTest, AnotherButtonOnACardChoosesNoneAndOpensNothing) {
     Show(kGood, [&](QDialog& form) {
         for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
             QTest::keyClick(&form, Qt::Key_Right);
-            EXPECT_EQ(viewer.Card(), 0);
+            EXPECT_EQ(viewer.Card(), 1);
             ClickCards(form, QPoint(100, 100), button);
             EXPECT_EQ(viewer.Card(), -1);
         }
@@ -369,6 +369,29 @@ TEST_F(NewsTest, TheArrowKeysFrameACardAndEnterOpensIt) {
             Click(inner, "cmdCancel");
         });
         QTest::keyClick(&Find<QWidget>(form, "picCards"), Qt::Key_Return);
+    });
+    EXPECT_EQ(opened, 1);
+}
+
+TEST_F(NewsTest, TheFirstCardIsFramedFromTheStartAndEnterOpensIt) {
+    int opened = 0;
+    Show(kGood, [&](QDialog& form) {
+        auto& cards = Find<PictureBox>(form, "picCards");
+        form.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+        const Color framed = cards.hDC().GetPixel(60, 3);
+        Find<QPushButton>(form, "cmdDone").setFocus();
+        EXPECT_NE(cards.hDC().GetPixel(60, 3), framed) << "only while the keys go to the cards";
+        cards.setFocus();
+        EXPECT_EQ(cards.hDC().GetPixel(60, 3), framed);
+        EXPECT_TRUE(cards.accessibleName().contains(QStringLiteral("card 1 of 12: Card 0")))
+            << cards.accessibleName().toStdString();
+        WhenModal([&](QDialog& inner) {
+            ++opened;
+            Click(inner, "cmdCancel");
+        });
+        QTest::keyClick(&cards, Qt::Key_Return);
+        EXPECT_EQ(viewer.Card(), 0);
     });
     EXPECT_EQ(opened, 1);
 }

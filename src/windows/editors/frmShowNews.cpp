@@ -2,6 +2,7 @@
 #include "windows/editors/frmShowNews.h"
 
 #include "board/basTAVL_news.h"
+#include "check/GameWords.h"
 #include "document/basTAVL.h"
 #include "drawing/basDraw.h"
 #include "game/Session.h"
@@ -141,6 +142,7 @@ void frmShowNews::Redraw() try {
     DrawCards();
     hDC.RestoreDC(depth);
     picCards->Refresh();
+    SayFramed();
 } catch (...) {
     ErrTop("frmShowNews!", "Redraw");
 }
@@ -157,8 +159,9 @@ void frmShowNews::DrawCards() {
         basTAVL::NewsDrawTitleToScreen(&hDC, at.x(), at.y(), m_iGoodOrBad, title, card.FontHead);
         basTAVL::NewsDrawTextToScreen(&hDC, at.x(), at.y(), m_iGoodOrBad, card);
     }
-    if (m_iCard == kNoCard) return;
-    const QRect frame = QRect(CornerOf(m_iCard), QSize(basTAVL::kNewsCardWidth, basTAVL::kNewsCardHeight))
+    const int framed = Framed();
+    if (framed == kNoCard) return;
+    const QRect frame = QRect(CornerOf(framed), QSize(basTAVL::kNewsCardWidth, basTAVL::kNewsCardHeight))
                             .adjusted(kFramePen, kFramePen, -kFramePen, -kFramePen);
     basDraw::Draw_SetHdc(&hDC);
     basDraw::Draw_SetPen(PenStyle::Solid, kFramePen, kFrameColor);
@@ -188,6 +191,21 @@ void frmShowNews::EditCard() {
     m_frmEditNews->ShowForm(m_iGoodOrBad, m_iCard, changed);
 }
 
+// Whoever comes by keyboard sees from the start what the keys will move from.
+int frmShowNews::Framed() const {
+    if (m_iCard != kNoCard) return m_iCard;
+    return focusWidget() == picCards ? 0 : kNoCard;
+}
+
+void frmShowNews::SayFramed() {
+    const int card = std::max(Framed(), 0);
+    picCards->setAccessibleName(QStringLiteral("%1, card %2 of %3: %4")
+                                    .arg(basTAVL::NewsDeckName(m_iGoodOrBad))
+                                    .arg(card + 1)
+                                    .arg(basTAVL::kCards)
+                                    .arg(GameWords::OfCard(m_session.InHand(), m_iGoodOrBad, card)));
+}
+
 void frmShowNews::Game_Edited() {
     if (!isVisible()) return;
     m_bChanged = true;
@@ -211,7 +229,7 @@ void frmShowNews::ScrollToCard() {
 }
 
 void frmShowNews::keyPressEvent(QKeyEvent* event) try {
-    int card = m_iCard;
+    int card = Framed();
     switch (event->key()) {
         case Qt::Key_Left:
             card -= 1;
@@ -228,7 +246,8 @@ void frmShowNews::keyPressEvent(QKeyEvent* event) try {
         case Qt::Key_Return:
         case Qt::Key_Enter:
         case Qt::Key_Space:
-            if (focusWidget() == picCards && m_iCard != kNoCard) {
+            if (focusWidget() == picCards) {
+                MoveToCard(Framed());
                 EditCard();
                 return;
             }
@@ -238,7 +257,6 @@ void frmShowNews::keyPressEvent(QKeyEvent* event) try {
             return;
     }
     picCards->setFocus();
-    if (m_iCard == kNoCard) card = 0;
     if (card < 0 || card >= basTAVL::kCards) return;
     MoveToCard(card);
     ScrollToCard();
@@ -252,6 +270,7 @@ void frmShowNews::wheelEvent(QWheelEvent* event) {
 
 // The toolkit takes the second press of a double click for another press.
 bool frmShowNews::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) Redraw();
     if (watched != picCards || event->type() != QEvent::MouseButtonDblClick) return false;
     Form_DblClick();
     return true;

@@ -47,6 +47,9 @@ private:
     void DrawCards();
     QPoint CornerOf(int iCard) const;
     void EditCard();
+    /// The card that keys go to; none while others have the focus.
+    int Framed() const;
+    void SayFramed();
     void MoveToCard(int iCard);
     void ScrollToCard();
 
