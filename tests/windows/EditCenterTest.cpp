@@ -154,7 +154,7 @@ TEST_F(EditCenterTest, Edge_TheFixedWordShowsInItsPartAndCannotBeEdited) {
     Edit([](QDialog& form) {
         ClickAt(form, kOutside);
         // Its part is 150 pixels about the middle of the right half; the strips above and below are left out.
-        const QRect part(kName.left() + 240, kName.top() + 22, 165, 52);
+        const QRect part(kName.left() + 245, kName.top() + 22, 160, 52);
         const QRect ink = DarkBox(Shown(form), part, 100);
         EXPECT_NEAR(ink.width(), 150, 16);
         EXPECT_NEAR(ink.center().x(), 16 + 429 * 0.7619, 4);

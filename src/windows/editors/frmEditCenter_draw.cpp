@@ -35,6 +35,8 @@ constexpr NamePlace kWordPlace{0.35, 0.7619};
 constexpr NamePlace kGamePlace{0.4952, 0.3167};
 constexpr double kNameHeight = 0.5;
 constexpr double kNameTop = 0.25;
+// As thick as in the other editors.
+constexpr int kCaretPen = 3;
 
 // A one-line text at a width of its own.
 int FittedWidth(const QString& sText, int lHeight, const QRect& area, const NamePlace& place) {
@@ -157,6 +159,7 @@ void frmEditCenter::DrawTextOf(int iArea) {
     const TextPlace place = PlaceOf(iArea);
     place.SelectFont();
     const TextSelection shown = m_iTextArea == iArea ? m_selection : TextSelection{};
+    Draw_SetPen(PenStyle::Solid, kCaretPen, Color::Black());
     Draw_SetSelection(shown.m_iCol, shown.m_iRow, shown.m_iColEnd, shown.m_iRowEnd);
     Draw_TextArrayShowingSelection(place.sTextLines, QStringLiteral("C"), place.anchor.x(), place.anchor.y(),
                                    Color::Black());
