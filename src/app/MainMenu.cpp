@@ -41,7 +41,7 @@ constexpr Item kFileItems[] = {
     {52, "Deal P&hotos...", "", Always},
     {51, "Find &Missing Pictures...", "", Always},
     {33, "-", "", Never},
-    {30, "Send to a &Friend...", "", Always},
+    {30, "Send to a Fr&iend...", "", Always},
     {31, "Save a Picture of the &Board...", "", Always},
     {32, "Save a Picture of a Pie&ce...", "", Always},
     {5, "-", "", Never},

@@ -27,6 +27,8 @@ void SideField::ReadSettings() {
     m_panel->ReadSettings();
 }
 
+void SideField::TabBehind(QWidget& before) { QWidget::setTabOrder(&before, cmdHandle); }
+
 void SideField::SetWished(bool bWished) {
     m_bWished = bWished;
     basCommon::WriteIniString(kWishKey, bWished ? QStringLiteral("True") : QStringLiteral("False"));

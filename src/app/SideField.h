@@ -22,6 +22,8 @@ public:
     SidePanel& Panel() { return *m_panel; }
     /// Takes up what was left at the last run, once the settings can be read.
     void ReadSettings();
+    /// The Tab key comes to the handle, and so to the panel behind it, from this control.
+    void TabBehind(QWidget& before);
 
     bool IsWished() const { return m_bWished; }
     void SetWished(bool bWished);

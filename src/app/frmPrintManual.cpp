@@ -6,6 +6,7 @@
 #include "services/basErrLog.h"
 #include "services/Guide.h"
 #include "windowing/basCommon_forms.h"
+#include "windowing/TabWay.h"
 #include "windowing/WebPage.h"
 #include "windowing/WidgetLook.h"
 #include "windows/help/OpenGuide.h"
@@ -78,6 +79,7 @@ frmPrintManual::frmPrintManual(QWidget* parent)
     all->addSpacing(2 * style()->pixelMetric(QStyle::PM_LayoutVerticalSpacing));
     all->addLayout(buttons);
     all->setSizeConstraint(QLayout::SetFixedSize);
+    TabAlongTheLayout(*this);
 }
 
 void frmPrintManual::ShowForm(bool bStarting) try {

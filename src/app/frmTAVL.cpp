@@ -77,6 +77,7 @@ frmTAVL::frmTAVL(EditorRoutes& doors)
     m_client->setMinimumSize(InPixels(QRect(QPoint(0, 0), client)).size());
     resize(kSizeOnSmallScreen);
     m_view.Board().setFocus();
+    OrderTabs();
     connect(&TimerAway, &QTimer::timeout, this, &frmTAVL::TimerAway_Timer);
 }
 
@@ -89,6 +90,16 @@ void frmTAVL::MakeButtons() {
         button->setObjectName(QStringLiteral("cmd_%1").arg(i));
         connect(button, &QPushButton::clicked, this, &frmTAVL::ButtonClicked);
     }
+}
+
+// From the board over what stands below it to the side.
+void frmTAVL::OrderTabs() {
+    QWidget* before = &m_view.Board();
+    for (QPushButton* button : cmd) {
+        setTabOrder(before, button);
+        before = button;
+    }
+    m_side.TabBehind(*before);
 }
 
 void frmTAVL::MakeLists() {

@@ -100,6 +100,7 @@ private Q_SLOTS:
 
 private:
     void MakeButtons();
+    void OrderTabs();
     void MakeLists();
     /// What stands beside the board: a tab is one call.
     void MakeTabs();

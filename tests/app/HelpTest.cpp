@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Every window has its page of the guide, and every control of it a text that says what it is for.
-#include "AppFixture.h"
+#include "EveryWindow.h"
 
 #include "app/frmAbout.h"
 #include "app/frmPrintManual.h"
@@ -42,7 +42,6 @@
 #include <QAbstractSpinBox>
 #include <QComboBox>
 #include <QDesktopServices>
-#include <QDirIterator>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTextBrowser>
@@ -120,25 +119,6 @@ protected:
         }
         return untold;
     }
-    // The windows that the sources define.
-    static QStringList WindowsOfTheSources() {
-        static const QRegularExpression aClass(
-            QStringLiteral("\\nclass (\\w+)(?: final)? : public (?:QDialog|QMainWindow|TypingWindow|EditWindow)\\b"));
-        QStringList windows;
-        for (QDirIterator it(QStringLiteral(TAVLORA_SOURCE_DIR "/src"), {QStringLiteral("*.h")}, QDir::Files,
-                             QDirIterator::Subdirectories);
-             it.hasNext();) {
-            const QString text = QString::fromUtf8(ReadFile(it.next()));
-            for (auto match = aClass.globalMatch(text); match.hasNext();)
-                windows.append(match.next().captured(1));
-        }
-        // What the editors have in common is no window by itself.
-        windows.removeAll(QStringLiteral("TypingWindow"));
-        windows.removeAll(QStringLiteral("EditWindow"));
-        windows.sort();
-        return windows;
-    }
-
     // The page that something opens in the browser.
     static QString PageOpenedBy(const std::function<void()>& act) {
         QTextBrowser browser;

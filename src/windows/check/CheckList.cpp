@@ -32,9 +32,10 @@ void CheckList::BuildControls() {
     tvwFindings = new FindingTree(this);
     column->addWidget(tvwFindings);
     auto* const buttons = new QGridLayout;
-    cmdFix = MakeButton("cmdFix", "&Fix", &CheckList::cmdFix_Click);
+    cmdFix = MakeButton("cmdFix", "F&ix", &CheckList::cmdFix_Click);
     cmdNoProblem = MakeButton("cmdNoProblem", "&Not a Problem", &CheckList::cmdNoProblem_Click);
     cmdTellAll = MakeButton("cmdTellAll", "Tell &All Again", &CheckList::cmdTellAll_Click);
+    // Letters that the menus of the window around it don't use.
     buttons->addWidget(cmdFix, 0, 0);
     buttons->addWidget(cmdNoProblem, 0, 1);
     buttons->addWidget(cmdTellAll, 1, 1);

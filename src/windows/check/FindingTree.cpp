@@ -23,6 +23,7 @@ QString SignOf(Severity severity) {
 
 FindingTree::FindingTree(QWidget* parent) : QTreeWidget(parent) {
     setObjectName(QStringLiteral("tvwFindings"));
+    setAccessibleName(QStringLiteral("What was found"));
     setHeaderHidden(true);
     setColumnCount(2);
     setWordWrap(true);

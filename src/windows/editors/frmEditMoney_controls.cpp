@@ -89,6 +89,7 @@ QLayout* frmEditMoney::BuildTexts() {
     for (int i = 0; i < C_Money::kTexts; ++i) {
         auto* const box = new QPlainTextEdit(this);
         box->setObjectName(QStringLiteral("txtSpace_%1").arg(i));
+        box->setAccessibleName(i == 0 ? QStringLiteral("Text on the left") : QStringLiteral("Text on the right"));
         // Lines end where Enter was pressed, as they do on the note.
         box->setLineWrapMode(QPlainTextEdit::NoWrap);
         box->setTabChangesFocus(true);

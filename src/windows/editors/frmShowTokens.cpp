@@ -182,7 +182,7 @@ void frmShowTokens::picToken_MouseUp(int iButton, int, float X, float Y) {
     if (QRectF((*found)->rect()).contains(at)) picToken_Click(int(found - picToken.begin()));
 }
 
-void frmShowTokens::picToken_KeyDown(int Index, QKeyEvent& event) {
+bool frmShowTokens::picToken_KeyDown(int Index, const QKeyEvent& event) {
     int token = Index;
     switch (event.key()) {
         case Qt::Key_Left:
@@ -201,21 +201,20 @@ void frmShowTokens::picToken_KeyDown(int Index, QKeyEvent& event) {
         case Qt::Key_Enter:
         case Qt::Key_Space:
             picToken_Click(Index);
-            return;
+            return true;
         default:
-            event.ignore();
-            return;
+            return false;
     }
     if (token >= 0 && token < basTAVL::kTokens) picToken[size_t(token)]->setFocus(Qt::OtherFocusReason);
+    return true;
 }
 
 bool frmShowTokens::eventFilter(QObject* watched, QEvent* event) try {
     const auto found = std::find(picToken.begin(), picToken.end(), watched);
     if (found == picToken.end()) return QDialog::eventFilter(watched, event);
-    if (event->type() == QEvent::KeyPress) {
-        picToken_KeyDown(int(found - picToken.begin()), static_cast<QKeyEvent&>(*event));
-        return event->isAccepted();
-    }
+    // What isn't taken mustn't be marked as ignored: Tab would move the focus here and in the window once more.
+    if (event->type() == QEvent::KeyPress)
+        return picToken_KeyDown(int(found - picToken.begin()), static_cast<const QKeyEvent&>(*event));
     // The frame comes and goes with the focus, which the picture has or has lost already.
     if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) Zoom();
     return false;

@@ -41,7 +41,8 @@ private:
     void DrawToken(int iToken);
     void DrawFocus(PictureBox& picToken);
     void picToken_Click(int Index);
-    void picToken_KeyDown(int Index, QKeyEvent& event);
+    /// Whether the key is used up.
+    bool picToken_KeyDown(int Index, const QKeyEvent& event);
     void picToken_MouseUp(int iButton, int iShift, float X, float Y);
     void picToken_BackingChanged();
     void cmdOK_Click();

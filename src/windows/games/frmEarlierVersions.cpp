@@ -41,6 +41,7 @@ void frmEarlierVersions::BuildControls() {
     lblMain->setWordWrap(true);
     lstVersions = new QListWidget(this);
     lstVersions->setObjectName(QStringLiteral("lstVersions"));
+    lstVersions->setAccessibleName(QStringLiteral("Earlier versions of this game"));
     lstVersions->setIconSize(QSize(kBoardSide, kBoardSide));
     lstVersions->setUniformItemSizes(true);
     lstVersions->setSpacing(kAroundItem);

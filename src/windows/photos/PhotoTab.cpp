@@ -17,16 +17,16 @@
 #include <QVBoxLayout>
 
 PhotoTab::PhotoTab(const Session& session)
-    : m_session(session), lblFolder(new ElidedLabel(this)), lblHint(new QLabel(this)), lstPhotos(new PhotoGrid(this)) {
+    : m_session(session), lblFolder(new ElidedLabel(this)), lblHint(new QLabel(this)),
+      cmdFolder(new QPushButton(QStringLiteral("F&older..."), this)), lstPhotos(new PhotoGrid(this)) {
     setObjectName(QStringLiteral("tabPhotos"));
     lblFolder->setObjectName(QStringLiteral("lblFolder"));
     lblHint->setObjectName(QStringLiteral("lblHint"));
     lblHint->setWordWrap(true);
     lstPhotos->setObjectName(QStringLiteral("lstTray"));
-    lstPhotos->setAccessibleName(QStringLiteral("Photos"));
+    lstPhotos->setAccessibleName(QStringLiteral("Photos of this folder"));
     lstPhotos->setSelectionMode(QAbstractItemView::ExtendedSelection);
     lstPhotos->LetDrag();
-    auto* const cmdFolder = new QPushButton(QStringLiteral("&Folder..."), this);
     cmdFolder->setObjectName(QStringLiteral("cmdFolder"));
     cmdFolder->setToolTip(QStringLiteral("Show the photos of another folder"));
     auto* const top = new QHBoxLayout;

@@ -7,6 +7,7 @@
 class ElidedLabel;
 class PhotoGrid;
 class QLabel;
+class QPushButton;
 class Session;
 
 /// The photos of a folder beside the board: those in use are ticked, and each can be dragged onto a place.
@@ -40,5 +41,6 @@ private:
     QSet<QString> m_inUse;
     ElidedLabel* lblFolder;
     QLabel* lblHint;
+    QPushButton* cmdFolder;
     PhotoGrid* lstPhotos;
 };

@@ -2,6 +2,7 @@
 // The window's controls: what they are, and where they stand.
 #include "windowing/ButtonKeys.h"
 #include "windowing/ElidedLabel.h"
+#include "windowing/TabWay.h"
 #include "windows/print/PrintEverything.h"
 
 #include <QComboBox>
@@ -65,6 +66,7 @@ void PrintEverything::BuildControls() {
     all->addLayout(BuildButtons());
     m_progress->hide();
     connect(m_sheets, &QListWidget::itemChanged, this, &PrintEverything::ShowWhatIsNeeded);
+    TabAlongTheLayout(*this);
 }
 
 QLayout* PrintEverything::BuildPlayers() {

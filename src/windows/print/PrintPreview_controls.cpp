@@ -2,6 +2,7 @@
 // The window's controls: what they are, and where they stand.
 #include "windowing/ButtonKeys.h"
 #include "windowing/PageView.h"
+#include "windowing/TabWay.h"
 #include "windows/print/PrintPreview.h"
 
 #include <QComboBox>
@@ -42,6 +43,7 @@ PrintPreview::PrintPreview(QWidget* parent) : QDialog(parent) {
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     BuildControls();
     resize(kFirstSize);
+    m_list->setFocus();
 }
 
 void PrintPreview::BuildControls() {
@@ -69,6 +71,7 @@ void PrintPreview::BuildControls() {
     all->addLayout(BuildButtons());
     connect(m_list, &QListWidget::currentRowChanged, this, &PrintPreview::ShowPage);
     connect(m_view, &PageView::ZoomChanged, this, &PrintPreview::ShowZoom);
+    TabAlongTheLayout(*this);
 }
 
 QLayout* PrintPreview::BuildZoom() {

@@ -66,8 +66,9 @@ void frmTavlPrint::BuildControls() {
     cmdPrint = new QButtonGroup(this);
     for (int i = 0; i < int(ConsoleSheets::Frames().size()); ++i)
         fraPrint.append(BuildFrame(Frame(i)));
-    BuildClosing();
+    // In the order of the eye, which is that of the Tab key.
     BuildDestination();
+    BuildClosing();
     BuildProgress();
     BuildDebugAids();
     m_frmPrntPrep = new frmPrntPrep(this);

@@ -28,6 +28,7 @@ frmPieces::frmPieces(const QString& sGameTitle, QWidget* parent) : QDialog(paren
     column->addWidget(new QLabel(QStringLiteral("Which piece would you like as a picture?"), this));
     lstPieces = new QListWidget(this);
     lstPieces->setObjectName(QStringLiteral("lstPieces"));
+    lstPieces->setAccessibleName(QStringLiteral("Pieces of the game"));
     column->addWidget(lstPieces);
     auto* const row = new QHBoxLayout;
     auto* const close = new QPushButton(QStringLiteral("Close"), this);

@@ -5,6 +5,7 @@
 #include "pack/SmallPictures.h"
 #include "services/basErrLog.h"
 #include "windowing/basCommon_forms.h"
+#include "windowing/TabWay.h"
 #include "windowing/WidgetLook.h"
 #include "windows/sending/SendTexts.h"
 
@@ -89,6 +90,7 @@ void frmSendGame::BuildControls() {
     WidgetLook::SetToolTip(*stays, SendTexts::MissingPaths(m_asTheyAre));
     AddChoice(*column);
     AddButtons(*column);
+    TabAlongTheLayout(*this);
 }
 
 void frmSendGame::ShowSizes() {
