@@ -1,6 +1,6 @@
 # Sourced by the tests that print from the console: its sheets, and words for how a person prints one.
 
-# Of each sheet: the key of its menu, the key of its button, its name, the width and height of its page in points.
+# Of each sheet: the key of its menu, the keys of its button, its name, the width and height of its page in points.
 sheets=(
     "alt+b|alt+b|Box Top & Token Stickers|792 x 612"
     "alt+b|alt+w|West, South & Corner Board Stickers|792 x 612"
@@ -12,7 +12,7 @@ sheets=(
     "alt+y|alt+1|\$ 100|612 x 792"
     "alt+y|alt+5|\$ 500|612 x 792"
     "alt+y|alt+0|\$ 1,000|612 x 792"
-    "alt+y|alt+comma|\$ 5,000|612 x 792"
+    "alt+y|Tab Tab Tab Return|\$ 5,000|612 x 792"
     "alt+i|alt+p|Game Play Instruction Sheet|612 x 792"
 )
 
@@ -24,7 +24,9 @@ open_console() {
 
 # A button shows for a moment that it is pressed, and acts after that.
 press_button() {
-    press "$1"
+    local keys
+    read -ra keys <<<"$1"
+    press "${keys[@]}"
     sleep 0.3
 }
 

@@ -48,7 +48,7 @@ until_true() {
 # The display finds a free number by itself.
 start_display() {
     # Without -noreset the display starts anew, and drops who is just coming, whenever its last client goes.
-    Xvfb -noreset -displayfd 3 -screen 0 1280x1024x24 3>"$home/display" 2>>"$home/errors" &
+    Xvfb -noreset -displayfd 3 -screen 0 "${E2E_SCREEN:-1280x1024}x24" 3>"$home/display" 2>>"$home/errors" &
     local display_pid=$!
     pids+=("$display_pid")
     until_true 20 display_is_known_or_gone "$display_pid"
