@@ -49,7 +49,7 @@ bool PrepareSheet<class MoneySheet>(SheetJob& job, int iWhich) {
         return false;
     }
     QString error;
-    job.prepared = LoadPicture(path, error);
+    job.prepared = LoadForPaper(path, error);
     if (job.prepared.IsNull()) ErrRaiseNoPicture(path, error);
     for (const SheetPhoto& photo : PhotosOfSheet<class MoneySheet>(iWhich))
         job.Drawn(photo.sPath);

@@ -16,7 +16,7 @@ QString PathOf(const QString& sName) { return WorkFiles::PathOf(sName); }
 
 void Paint(Surface& surface, const QString& sFile, const QRect& box) {
     QString error;
-    const Picture picture = LoadPicture(sFile, error);
+    const Picture picture = surface.IsPrinter() ? LoadForPaper(sFile, error) : LoadPicture(sFile, error);
     if (picture.IsNull()) ErrRaiseNoPicture(sFile, error);
     surface.PaintPicture(picture, box.x(), box.y(), box.width(), box.height());
 }

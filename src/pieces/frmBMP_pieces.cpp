@@ -5,6 +5,7 @@
 #include "document/basTAVL.h"
 #include "drawing/basDraw.h"
 #include "drawing/clsBMP.h"
+#include "platform/paint/PaintImage.h"
 #include "platform/paint/RecordingForm.h"
 #include "platform/paint/Surface.h"
 #include "platform/pictures/LoadPicture.h"
@@ -50,11 +51,24 @@ double MoneyFactor() {
 
 int PixelsOf(double dblInches, double factor) { return CLng(dblInches * kScreenDotsPerInch * factor); }
 
+/// The pixels of a piece that goes on paper as well: a photograph in it is decoded as large as paper wants it, and so
+/// only once.
+class PieceForm : public ScratchForm {
+public:
+    PieceForm(QSize size, double dblDPI) : ScratchForm(size), m_dpi(dblDPI) {}
+    int PicturePixels(double length) override {
+        return CLng(std::abs(ToPixels(length)) * std::max(kPaperDotsPerInch / m_dpi, 1.0));
+    }
+
+private:
+    double m_dpi;
+};
+
 } // namespace
 
 // Draws a piece twice: into the pixels of the file, and into a recording for the printer.
 bool frmBMP::WritePiece(const QString& sFullPathDest, QSize size, double dblDPI, const DrawPiece& draw) {
-    ScratchForm form(size);
+    PieceForm form(size, dblDPI);
     draw(form);
     clsBMP file;
     const bool written = file.CreateFileHoldingImage(sFullPathDest, form.hDC(), size.width(), size.height(),

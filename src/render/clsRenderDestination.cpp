@@ -107,7 +107,7 @@ void clsRenderDestination::OutputFromBMP(const QString& sPath, double dblX, doub
                                          double dblHeight) try {
     if (sPath.isEmpty() || !basCommon::DoesFileExist(sPath)) return;
     QString error;
-    const Picture picture = LoadPicture(sPath, error);
+    const Picture picture = m_oDest->IsPrinter() ? LoadForPaper(sPath, error) : LoadPicture(sPath, error);
     if (picture.IsNull()) ErrRaiseNoPicture(sPath, error);
     m_oDest->PaintPicture(picture, Pixels(dblX), Pixels(dblY), Pixels(dblWidth), Pixels(dblHeight));
 } catch (...) {

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The files of made pictures as other programs read them, and the photographs in them on paper.
 #include "drawing/clsBMP.h"
+#include "pictures/PaintPicture.h"
 #include "pieces/frmBMP.h"
+#include "platform/paint/PaintImage.h"
 #include "platform/pictures/LoadPicture.h"
+#include "platform/pictures/PictureCache.h"
 #include "platform/printing/Printer.h"
 #include "render/clsRenderDestination.h"
 #include "services/basCommon.h"
@@ -206,4 +209,36 @@ TEST_F(MadePicturesTest, ARecordingKeepsNoMoreOfAPhotoThanItsPieceShowsOnPaper) 
     Print(3 * basTAVL::g_dblLabelSizes(basTAVL::kStickerWidth), 3 * basTAVL::g_dblLabelSizes(basTAVL::kStickerHeight));
     ASSERT_EQ(PicturesInPdf().size(), 1);
     EXPECT_NEAR(PicturesInPdf()[0].iWidth, basTAVL::g_dblLabelSizes(basTAVL::kStickerHeight) / 2 * 300, 2);
+}
+
+// Its pixels and its drawing want it in two sizes that differ a little, and some zoom puts a step between any two.
+TEST_F(MadePicturesTest, APhotoIsDecodedOnceForAPieceAtWhateverZoom) {
+    HavePicture(Photo(QStringLiteral("large.jpg"), 2000, 1500));
+    C_Image& image = basTAVL::g_oSpaces(kSpace).Image;
+    const PictureCache& cache = PictureCache::Instance();
+    for (qint16 zoom = 0; zoom < 12; ++zoom) {
+        image.Let_Zoom(zoom);
+        ForgetPictures();
+        ASSERT_TRUE(frmBMP::Instance().GenerateSpaceStickerImage(file, kSpace));
+        const qint64 kept = cache.Bytes();
+        ForgetPictures();
+        QString error;
+        const double side = basTAVL::g_dblLabelSizes(basTAVL::kStickerHeight) / 2 * kPaperDotsPerInch;
+        EXPECT_FALSE(LoadPicture(image.FullPath(), error, LongerSideWanted(image.Ref(), side)).IsNull());
+        EXPECT_EQ(kept, cache.Bytes()) << zoom;
+    }
+}
+
+TEST_F(MadePicturesTest, PaperTakesTheDrawingOfAFileWithoutItsPixelsUntilTheFileIsAnother) {
+    HavePicture(Photo(QStringLiteral("small.jpg"), 120, 90));
+    ASSERT_TRUE(frmBMP::Instance().GenerateSpaceStickerImage(file, kSpace));
+    QString error;
+    const Picture drawn = LoadForPaper(file, error);
+    EXPECT_FALSE(drawn.IsNull());
+    EXPECT_TRUE(drawn.Image().isNull());
+    EXPECT_EQ(drawn.Recording(), LoadPicture(file, error).Recording());
+    WriteFile(QStringLiteral("piece.bmp"), PictureFiles::Encoded(PictureFiles::Quarters(30, 20), "bmp"));
+    const Picture other = LoadForPaper(file, error);
+    EXPECT_FALSE(other.Recording());
+    EXPECT_EQ(other.Image().size(), QSize(30, 20));
 }

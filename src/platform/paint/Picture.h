@@ -18,8 +18,11 @@ public:
     Picture() = default;
     explicit Picture(QImage image) : m_image(std::move(image)), m_size(m_image.size()) {}
     Picture(QImage image, QSize fullSize) : m_image(std::move(image)), m_size(fullSize) {}
+    /// Nothing but how it was drawn: shows on paper only.
+    Picture(std::shared_ptr<const ::Recording> recording, QSize size)
+        : m_size(size), m_recording(std::move(recording)) {}
 
-    bool IsNull() const { return m_image.isNull(); }
+    bool IsNull() const { return m_image.isNull() && !m_recording; }
     int Width() const { return m_size.width(); }
     int Height() const { return m_size.height(); }
     const QImage& Image() const { return m_image; }

@@ -2,8 +2,10 @@
 #include "platform/pictures/LoadPicture.h"
 
 #include "platform/files/Files.h"
+#include "platform/paint/Recording.h"
 #include "platform/pictures/PictureCache.h"
 #include "platform/pictures/PictureDecoder.h"
+#include "platform/pictures/PictureFormat.h"
 
 #include <QCoreApplication>
 #include <QThreadPool>
@@ -15,14 +17,44 @@
 
 namespace {
 
-// Sizes wanted are kept in few steps, so that dragging a zoom slider doesn't decode at every step.
+constexpr int kSmallestStep = 128;
+
+int PowerOfTwoAbove(int longerSideWanted) {
+    int power = kSmallestStep;
+    while (power < longerSideWanted && power < INT_MAX / 2)
+        power *= 2;
+    return power;
+}
+
+// Sizes wanted are kept in few steps, so that dragging a zoom slider doesn't decode at every step: powers of two, and
+// one between each two of them.
 int StepAbove(int longerSideWanted) {
-    constexpr int kSmallestStep = 128;
     if (longerSideWanted <= 0) return kAllPixels;
-    int step = kSmallestStep;
-    while (step < longerSideWanted && step < INT_MAX / 2)
-        step *= 2;
-    return step;
+    const int power = PowerOfTwoAbove(longerSideWanted);
+    const int between = power / 2 + power / 5;
+    return power > kSmallestStep && between >= longerSideWanted ? between : power;
+}
+
+// A JPEG comes reduced at once, and another size that is wanted of it may come out the same.
+PictureCache::Entry DecodeJpeg(const QByteArray& bytes, int longerSideWanted) {
+    PictureCache::Entry entry;
+    entry.picture = PictureDecoder::Decode(bytes, longerSideWanted, entry.sError);
+    if (entry.picture.IsNull()) return entry;
+    const int longer = std::max(entry.picture.Width(), entry.picture.Height());
+    const int reduction = PictureDecoder::ReductionFor(longer, longerSideWanted);
+    const PictureDecoder::SizesAlike alike = PictureDecoder::SizesOfReduction(longer, reduction);
+    entry.iFrom = alike.iFrom;
+    entry.iTo = alike.iTo;
+    return entry;
+}
+
+// Drawings are among the others, whose pixels are averaged here, and once more when they are painted. They keep some
+// more of them, or they would blur.
+PictureCache::Entry DecodeOther(const QByteArray& bytes, int longerSideWanted) {
+    const int wanted = longerSideWanted == kAllPixels ? kAllPixels : PowerOfTwoAbove(longerSideWanted);
+    PictureCache::Entry entry;
+    entry.picture = PictureDecoder::Decode(bytes, wanted, entry.sError);
+    return entry;
 }
 
 PictureCache::Entry Decode(const PictureCache::Key& key) {
@@ -30,7 +62,8 @@ PictureCache::Entry Decode(const PictureCache::Key& key) {
     try {
         const std::optional<QByteArray> bytes = Files::ReadAll(key.sPath, entry.sError);
         if (!bytes) return entry;
-        entry.picture = PictureDecoder::Decode(*bytes, key.longerSideWanted, entry.sError);
+        entry = PictureFormatOf(*bytes) == PictureFormat::Jpeg ? DecodeJpeg(*bytes, key.longerSideWanted)
+                                                               : DecodeOther(*bytes, key.longerSideWanted);
     } catch (const std::bad_alloc&) {
         entry.sError = QStringLiteral("There is not enough memory for the picture");
     }
@@ -127,6 +160,14 @@ Picture LoadPicture(const QString& sPath, QString& sError, int longerSideWanted)
 
 void KeepRecording(const QString& sPath, std::shared_ptr<const Recording> recording) {
     KeptRecordings::Instance().Keep({sPath, Files::StampOf(sPath), std::move(recording)});
+}
+
+Picture LoadForPaper(const QString& sPath, QString& sError) {
+    if (auto recording = KeptRecordings::Instance().Find(sPath)) {
+        const QSize size = recording->Whole().size().toSize();
+        return {std::move(recording), size};
+    }
+    return LoadPicture(sPath, sError);
 }
 
 bool PrefetchPicture(const QString& sPath, int longerSideWanted) {

@@ -21,6 +21,9 @@ bool PrefetchPicture(const QString& sPath, int longerSideWanted = kAllPixels);
 /// recording on with its pixels. The recordings kept last are bounded in number.
 void KeepRecording(const QString& sPath, std::shared_ptr<const Recording> recording);
 
+/// The same for whoever paints on paper only: where a recording is kept, no pixel of the file is read.
+Picture LoadForPaper(const QString& sPath, QString& sError);
+
 /// Drops what is kept of a file; of all files but these, and all recordings: for who knows that nothing to come shows
 /// them.
 void DropPicture(const QString& sPath);

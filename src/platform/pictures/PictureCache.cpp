@@ -31,14 +31,23 @@ PictureCache::Slots::iterator PictureCache::Find(const Key& key) {
     return std::find_if(m_slots.begin(), m_slots.end(), [&key](const Slot& slot) { return slot.key == key; });
 }
 
+PictureCache::Slots::iterator PictureCache::FindAlike(const Key& key) {
+    const Slots::iterator exact = Find(key);
+    if (exact != m_slots.end()) return exact;
+    return std::find_if(m_slots.begin(), m_slots.end(), [&key](const Slot& slot) {
+        return slot.ready && slot.key.sPath == key.sPath && slot.key.stamp == key.stamp && !IsLarge(slot.entry) &&
+               slot.entry.iFrom <= key.longerSideWanted && key.longerSideWanted <= slot.entry.iTo;
+    });
+}
+
 PictureCache::Entry PictureCache::Get(const Key& key, Decoder decode) {
     {
         std::unique_lock lock(m_mutex);
         DropLarge(true, key);
-        auto slot = Find(key);
+        auto slot = FindAlike(key);
         while (slot != m_slots.end() && !slot->ready) {
             m_arrived.wait(lock);
-            slot = Find(key);
+            slot = FindAlike(key);
         }
         if (slot != m_slots.end()) {
             m_slots.splice(m_slots.begin(), m_slots, slot);
@@ -59,13 +68,13 @@ PictureCache::Entry PictureCache::Get(const Key& key, Decoder decode) {
 
 bool PictureCache::Holds(const Key& key) {
     const std::scoped_lock lock(m_mutex);
-    const Slots::iterator slot = Find(key);
+    const Slots::iterator slot = FindAlike(key);
     return slot != m_slots.end() && slot->ready;
 }
 
 bool PictureCache::Reserve(const Key& key) {
     const std::scoped_lock lock(m_mutex);
-    if (Find(key) != m_slots.end()) return false;
+    if (FindAlike(key) != m_slots.end()) return false;
     m_slots.push_front({.key = key, .announced = true});
     return true;
 }

@@ -24,6 +24,10 @@ public:
     struct Entry {
         Picture picture;
         QString sError;
+        /// The very same pixels would come out for all sizes wanted from the one to the other; for those of the key
+        /// alone where it is empty.
+        int iFrom = 1;
+        int iTo = 0;
     };
     using Decoder = Entry (*)(const Key& key);
 
@@ -61,6 +65,8 @@ private:
     using Slots = std::list<Slot>;
 
     Slots::iterator Find(const Key& key);
+    /// The slot of that key, or one that came out the same and is kept.
+    Slots::iterator FindAlike(const Key& key);
     /// Takes an announcement back, so that nobody waits for what never comes.
     void Abandon(const Key& key);
     void DropOldest();

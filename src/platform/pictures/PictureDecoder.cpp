@@ -14,11 +14,15 @@
 #include <QImageReader>
 #include <QPainter>
 
+#include <algorithm>
+#include <climits>
 #include <mutex>
 #include <optional>
 
 namespace PictureDecoder {
 namespace {
+
+constexpr int kMostReduction = 8;
 
 QString WhyUnknown(const QByteArray& bytes) {
     const QString other = OtherKindOf(bytes, QString());
@@ -108,12 +112,16 @@ Picture DecodeMetafile(const QByteArray& bytes, int longerSideWanted, QString& s
 } // namespace
 
 int ReductionFor(int longerSide, int longerSideWanted) {
-    constexpr int kMostReduction = 8;
     if (longerSideWanted == kAllPixels) return 1;
     int reduction = 1;
     while (reduction < kMostReduction && longerSide / (reduction * 2) >= longerSideWanted)
         reduction *= 2;
     return reduction;
+}
+
+SizesAlike SizesOfReduction(int longerSide, int iReduction) {
+    return {iReduction == kMostReduction ? 1 : longerSide / (2 * iReduction) + 1,
+            iReduction == 1 ? INT_MAX : longerSide / iReduction};
 }
 
 QImage InScreenColors(QImage image, const QByteArray& colorProfile) {

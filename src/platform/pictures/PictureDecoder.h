@@ -19,6 +19,13 @@ Picture DecodeHeif(QByteArrayView bytes, QString& sError);
 /// By which power of two (1, 2, 4 or 8) a side may be divided while it keeps the pixels wanted.
 int ReductionFor(int longerSide, int longerSideWanted);
 
+/// The least and the most that may be wanted of a side so long for the same power of two to come out.
+struct SizesAlike {
+    int iFrom;
+    int iTo;
+};
+SizesAlike SizesOfReduction(int longerSide, int iReduction);
+
 /// The colours as this program means them, whatever profile the camera used.
 QImage InScreenColors(QImage image, const QByteArray& colorProfile);
 

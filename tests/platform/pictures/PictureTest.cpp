@@ -215,6 +215,30 @@ TEST_F(PictureTest, NeverGivesFewerPixelsThanWanted) {
     EXPECT_EQ(PictureDecoder::ReductionFor(4000, kAllPixels), 1);
 }
 
+TEST_F(PictureTest, TellsForWhichSizesTheSameReductionComesOut) {
+    for (const int longer : {4000, 3001, 999, 7}) {
+        for (int wanted = 1; wanted <= longer + 1; ++wanted) {
+            const int reduction = PictureDecoder::ReductionFor(longer, wanted);
+            const PictureDecoder::SizesAlike alike = PictureDecoder::SizesOfReduction(longer, reduction);
+            ASSERT_TRUE(alike.iFrom <= wanted && wanted <= alike.iTo) << longer << ' ' << wanted;
+            EXPECT_TRUE(alike.iFrom == 1 || PictureDecoder::ReductionFor(longer, alike.iFrom - 1) != reduction);
+            EXPECT_TRUE(reduction == 1 || PictureDecoder::ReductionFor(longer, alike.iTo + 1) != reduction);
+        }
+    }
+}
+
+TEST_F(PictureTest, AJpegIsDecodedOnceForAllSizesThatComeOutTheSame) {
+    const QString path = WriteFile(QStringLiteral("a.jpg"), Encoded(Quarters(1600, 1200), "jpg"));
+    const Picture small = LoadPicture(path, error, 100);
+    EXPECT_EQ(small.Image().width(), 200);
+    EXPECT_EQ(LoadPicture(path, error, 170).Image().constBits(), small.Image().constBits());
+    EXPECT_TRUE(PrefetchPicture(path, 170)) << "nothing to wait for";
+    EXPECT_EQ(LoadPicture(path, error, 300).Image().width(), 400);
+    EXPECT_EQ(LoadPicture(path, error).Image().width(), 1600);
+    WriteFile(QStringLiteral("a.jpg"), Encoded(Quarters(800, 600), "jpg"));
+    EXPECT_EQ(LoadPicture(path, error, 170).Width(), 800);
+}
+
 TEST_F(PictureTest, ReadsAPhotographOf48Megapixels) {
     QImage image(8000, 6000, QImage::Format_Grayscale8);
     image.fill(77);
