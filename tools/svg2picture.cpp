@@ -17,8 +17,11 @@ namespace {
 
 constexpr int kPaletteSize = 256;
 // Two colours nearer than this in every channel share a place in the palette, so that it isn't spent on the many
-// shades of one soft edge.
+// shades of one soft edge. A soft passage would show steps: of a picture with some, half the palette goes to what is
+// frequent and only just another colour.
 constexpr int kLikeEnough = 9;
+constexpr int kHardlyDifferent = 1;
+constexpr int kSoftColors = kPaletteSize / 2;
 
 struct Order {
     QString sDrawing;
@@ -26,7 +29,7 @@ struct Order {
     int lWidth = 0;
     int lHeight = 0;
     // "PNG" keeps transparency, "BMP" gets a white ground, "PALETTE" is a PNG of at most 256 colours: a third of
-    // the size for drawings in flat colours.
+    // the size for drawings in flat colours. "FINE" is the same for one that has some soft passages.
     QByteArray format;
     int iTurn = 0; // clockwise, in degrees
 };
@@ -43,7 +46,7 @@ bool ReadOrder(int argc, char** argv, Order& order) {
     order.format = argv[5];
     order.iTurn = QString::fromLatin1(argv[6]).toInt(&bTurn);
     return bWidth && bHeight && bTurn && order.lWidth > 0 && order.lHeight > 0 &&
-           (order.format == "PNG" || order.format == "BMP" || order.format == "PALETTE");
+           (order.format == "PNG" || order.format == "BMP" || order.format == "PALETTE" || order.format == "FINE");
 }
 
 QImage Paint(QSvgRenderer& drawing, const Order& order) {
@@ -88,12 +91,13 @@ QList<std::pair<int, QRgb>> ColorsByFrequency(const QImage& picture) {
 }
 
 // The drawing's flat colours come first, as they are the frequent ones, and stay exact; edges take what is nearest.
-QImage WithPalette(const QImage& picture) {
+QImage WithPalette(const QImage& picture, bool fine) {
     const QList<std::pair<int, QRgb>> colors = ColorsByFrequency(picture);
     QList<QRgb> palette;
     for (const auto& [count, color] : colors) {
         if (palette.size() == kPaletteSize) break;
-        if (palette.isEmpty() || Distance(palette[NearestIn(palette, color)], color) > kLikeEnough)
+        const int likeEnough = fine && palette.size() < kSoftColors ? kHardlyDifferent : kLikeEnough;
+        if (palette.isEmpty() || Distance(palette[NearestIn(palette, color)], color) > likeEnough)
             palette.append(color);
     }
     QHash<QRgb, int> places;
@@ -111,8 +115,8 @@ QImage WithPalette(const QImage& picture) {
 }
 
 bool Write(const QImage& picture, const Order& order) {
-    if (order.format != "PALETTE") return picture.save(order.sPicture, order.format.constData());
-    return WithPalette(picture).save(order.sPicture, "PNG");
+    if (order.format == "PNG" || order.format == "BMP") return picture.save(order.sPicture, order.format.constData());
+    return WithPalette(picture, order.format == "FINE").save(order.sPicture, "PNG");
 }
 
 } // namespace
@@ -121,7 +125,7 @@ int main(int argc, char** argv) {
     QTextStream errors(stderr);
     Order order;
     if (!ReadOrder(argc, argv, order)) {
-        errors << "usage: svg2picture DRAWING.svg PICTURE WIDTH HEIGHT PNG|PALETTE|BMP TURN\n";
+        errors << "usage: svg2picture DRAWING.svg PICTURE WIDTH HEIGHT PNG|PALETTE|FINE|BMP TURN\n";
         return 2;
     }
     QSvgRenderer drawing;

@@ -62,13 +62,13 @@ TEST_F(ShippedData, EveryPictureLoadsAtItsSize) {
         const char* name;
         QSize size;
     } pictures[] = {
-        {"BLNK100.dat", {2100, 1050}},  {"BLNK500.dat", {2100, 1050}},  {"BLNK1000.dat", {2100, 1050}},
-        {"BLNK5000.dat", {2100, 1050}}, {"$$$ellipse.dat", {656, 760}}, {"MoneyBg_US.bmp", {656, 760}},
-        {"fate.dat", {800, 800}},       {"uparrow.bmp", {128, 128}},    {"downarrow.bmp", {128, 128}},
-        {"leftarrow.bmp", {128, 128}},  {"rightarrow.bmp", {128, 128}}, {"deco_ul.dat", {300, 300}},
-        {"deco_ur.dat", {300, 300}},    {"deco_ll.dat", {300, 300}},    {"deco_lr.dat", {300, 300}},
-        {"deco2_ul.bmp", {300, 300}},   {"deco2_ur.bmp", {300, 300}},   {"deco2_ll.bmp", {300, 300}},
-        {"deco2_lr.bmp", {300, 300}},   {"toolbar.dat", {1320, 104}},   {"tavlora.png", {256, 256}},
+        {"BLNK100.dat", {1050, 525}},  {"BLNK500.dat", {1050, 525}},   {"BLNK1000.dat", {1050, 525}},
+        {"BLNK5000.dat", {1050, 525}}, {"$$$ellipse.dat", {492, 570}}, {"MoneyBg_US.bmp", {656, 760}},
+        {"fate.dat", {800, 800}},      {"uparrow.bmp", {128, 128}},    {"downarrow.bmp", {128, 128}},
+        {"leftarrow.bmp", {128, 128}}, {"rightarrow.bmp", {128, 128}}, {"deco_ul.dat", {300, 300}},
+        {"deco_ur.dat", {300, 300}},   {"deco_ll.dat", {300, 300}},    {"deco_lr.dat", {300, 300}},
+        {"deco2_ul.bmp", {300, 300}},  {"deco2_ur.bmp", {300, 300}},   {"deco2_ll.bmp", {300, 300}},
+        {"deco2_lr.bmp", {300, 300}},  {"toolbar.dat", {1320, 104}},   {"tavlora.png", {256, 256}},
     };
     for (const auto& picture : pictures) {
         EXPECT_EQ(Load(QString::fromLatin1(picture.name)).size(), picture.size) << picture.name;
@@ -79,11 +79,11 @@ TEST_F(ShippedData, BlankNotesAreClearWhereTextAndPictureGo) {
     for (const int amount : {100, 500, 1000, 5000}) {
         const QImage note = Load(QStringLiteral("BLNK%1.dat").arg(amount));
         ASSERT_FALSE(note.isNull()) << amount;
-        // The note is drawn at 600 dots an inch from 0.125, 0.123 inch; text boxes are 0.875 by 0.5 inch.
-        EXPECT_LE(Unevenness(note, QRect(173, 376, 524, 300)), 8) << amount;
-        EXPECT_LE(Unevenness(note, QRect(1365, 376, 524, 300)), 8) << amount;
+        // The note is drawn at 300 dots an inch from 0.125, 0.123 inch; text boxes are 0.875 by 0.5 inch.
+        EXPECT_LE(Unevenness(note, QRect(87, 188, 262, 150)), 8) << amount;
+        EXPECT_LE(Unevenness(note, QRect(683, 188, 262, 150)), 8) << amount;
         // The square inside the oval of 0.82 by 0.95 inch round 1.84, 0.995.
-        EXPECT_LE(Unevenness(note, QRect(1029 - 173, 523 - 200, 346, 400)), 8) << amount;
+        EXPECT_LE(Unevenness(note, QRect(515 - 86, 262 - 100, 172, 200)), 8) << amount;
     }
 }
 
@@ -103,10 +103,10 @@ TEST_F(ShippedData, BlankNotesWearTheColourOfTheirDenomination) {
 
 TEST_F(ShippedData, TheEllipseLeavesTheNoteItsCorners) {
     const QImage ellipse = Load(QStringLiteral("$$$ellipse.dat"));
-    for (const QPoint& corner : {QPoint(0, 0), QPoint(655, 0), QPoint(0, 759), QPoint(655, 759)}) {
+    for (const QPoint& corner : {QPoint(0, 0), QPoint(491, 0), QPoint(0, 569), QPoint(491, 569)}) {
         EXPECT_EQ(ellipse.pixelColor(corner).alpha(), 0);
     }
-    EXPECT_EQ(ellipse.pixelColor(328, 200).alpha(), 255);
+    EXPECT_EQ(ellipse.pixelColor(246, 150).alpha(), 255);
 }
 
 TEST_F(ShippedData, ArrowsPointTheWayTheyAreNamed) {
