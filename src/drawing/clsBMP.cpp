@@ -110,6 +110,10 @@ bool clsBMP::CreateFileHoldingImage(const QString& sFile, DeviceContext& hDCSrce
     if (!OpenFileAndSaveHeaders(lWidth, lHeight, lBitsPerPixel, Color::White(), Color::Black())) return false;
     const bool mono = lBitsPerPixel == kMonochrome;
     QByteArray row(mono ? basBMP::RowBytes1(lWidth) : basBMP::RowBytes24(lWidth), '\0');
+    // A call of the system for each row would take longer than the rows.
+    constexpr qsizetype kAtOnce = 256 * 1024;
+    QByteArray rows;
+    rows.reserve(kAtOnce + row.size());
     std::vector<QRgb> pixels(size_t(std::max(lWidth, 0)));
     const int band = mono ? lWidth : std::max(lwRow, 1);
     for (int y = lHeight - 1; y >= 0; --y) {
@@ -123,7 +127,10 @@ bool clsBMP::CreateFileHoldingImage(const QString& sFile, DeviceContext& hDCSrce
         } else {
             basBMP::PackRow24(pixels, row);
         }
-        m_file.PutBytes(row);
+        rows += row;
+        if (rows.size() < kAtOnce && y > 0) continue;
+        m_file.PutBytes(rows);
+        rows.resize(0);
     }
     CloseFile();
     return true;

@@ -11,6 +11,7 @@
 #include <climits>
 #include <deque>
 #include <mutex>
+#include <span>
 
 namespace {
 
@@ -91,11 +92,12 @@ QImage WithoutWhite(const QImage& image) {
 bool IsDrawing(const QImage& image) {
     constexpr int kMostColors = 256;
     constexpr double kMostlyFlat = 0.6;
+    const double pixels = double(image.width()) * image.height();
     QSet<QRgb> colors;
     qint64 flat = 0;
     for (int y = 0; y < image.height(); ++y) {
-        const QRgb* row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-        for (int x = 0; x < image.width(); ++x) {
+        const std::span row(reinterpret_cast<const QRgb*>(image.constScanLine(y)), size_t(image.width()));
+        for (size_t x = 0; x < row.size(); ++x) {
             if (x > 0 && row[x] == row[x - 1]) {
                 ++flat;
             } else if (colors.size() <= kMostColors) {
@@ -103,7 +105,7 @@ bool IsDrawing(const QImage& image) {
             }
         }
     }
-    return colors.size() <= kMostColors || double(flat) > kMostlyFlat * image.width() * image.height();
+    return colors.size() <= kMostColors || double(flat) > kMostlyFlat * pixels;
 }
 
 /// Pictures prepared for paper last. A page that shows one picture several times stores it once only when it
