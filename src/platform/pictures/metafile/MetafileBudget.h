@@ -7,7 +7,7 @@
 /// so no file, however made, keeps the program busy.
 class MetafileBudget {
 public:
-    static constexpr qint64 kWhole = 250'000'000;
+    static constexpr qint64 kWhole = 150'000'000;
     /// What a flood takes for each pixel of the picture that it runs through.
     static constexpr qint64 kFloodedPixel = 60;
 
