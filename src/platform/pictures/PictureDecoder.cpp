@@ -47,8 +47,20 @@ const char* ReaderName(PictureFormat format) {
     }
 }
 
+QSize ReducedSize(QSize size, int reduction) {
+    return {(size.width() + reduction - 1) / reduction, (size.height() + reduction - 1) / reduction};
+}
+
+// A large PNG that is wanted small is averaged by its reader, row by row, and never stands in memory as a whole.
+QSize SizeOfReader(PictureFormat format, QSize size, int longerSideWanted) {
+    constexpr qint64 kMostPixelsOfAll = 16'000'000;
+    if (format != PictureFormat::Png || qint64(size.width()) * size.height() <= kMostPixelsOfAll) return size;
+    return ReducedSize(size, ReductionFor(std::max(size.width(), size.height()), longerSideWanted));
+}
+
 // One of the toolkit's readers. The room that the picture takes is left to the caller.
-QImage Read(const QByteArray& bytes, PictureFormat format, std::optional<DecodingRoom>& room, QString& sError) {
+Picture Read(const QByteArray& bytes, PictureFormat format, int longerSideWanted, std::optional<DecodingRoom>& room,
+             QString& sError) {
     static std::once_flag limit;
     std::call_once(limit, [] { QImageReader::setAllocationLimit(int(kMaxPictureBytes >> 20)); });
     if ((format == PictureFormat::Bmp && !IsBmpWhole(bytes)) || (format == PictureFormat::Gif && !IsGifWhole(bytes))) {
@@ -66,12 +78,19 @@ QImage Read(const QByteArray& bytes, PictureFormat format, std::optional<Decodin
         sError = TooLargeToOpen(size);
         return {};
     }
-    room.emplace(size.isValid() ? size : QSize(1, 1));
+    const QSize given = SizeOfReader(format, size, longerSideWanted);
+    room.emplace(size.isValid() ? given : QSize(1, 1));
+    if (given != size) reader.setScaledSize(given);
     QImage image = reader.read();
-    if (image.isNull()) sError = reader.errorString();
+    if (image.isNull()) {
+        sError = reader.errorString();
+        return {};
+    }
     // Not all of the toolkit's readers look at what the camera says of this.
     const bool upright = reader.transformation() != QImageIOHandler::TransformationNone;
-    return upright ? image : Upright(image, ReadCameraTagsOfChunks(bytes).orientation);
+    if (!upright) image = Upright(image, ReadCameraTagsOfChunks(bytes).orientation);
+    if (given == size) return Picture(image);
+    return Picture(image, image.size() == given ? size : size.transposed());
 }
 
 // In place where the pixels are of 32 bits already: a second copy of a large photograph is a lot of memory.
@@ -84,8 +103,7 @@ QImage AsPixels(QImage image) {
 Picture Reduced(const QImage& image, int longerSideWanted) {
     const int reduction = ReductionFor(std::max(image.width(), image.height()), longerSideWanted);
     if (reduction == 1) return Picture(image);
-    const QSize size((image.width() + reduction - 1) / reduction, (image.height() + reduction - 1) / reduction);
-    return Picture(Resample(image, QRectF(image.rect()), size), image.size());
+    return Picture(Resample(image, QRectF(image.rect()), ReducedSize(image.size(), reduction)), image.size());
 }
 
 // A drawing has no pixels of its own: it gets as many as are wanted, on nothing.
@@ -150,13 +168,18 @@ Picture Decode(const QByteArray& bytes, int longerSideWanted, QString& sError) {
             break;
     }
     std::optional<DecodingRoom> room;
-    QImage image = Read(bytes, format, room, sError);
-    if (image.isNull()) return {};
-    if (!IsSizeAllowed(image.size())) {
-        sError = TooLargeToOpen(image.size());
+    Picture picture = Read(bytes, format, longerSideWanted, room, sError);
+    if (picture.IsNull()) return {};
+    const QSize full(picture.Width(), picture.Height());
+    if (!IsSizeAllowed(full)) {
+        sError = TooLargeToOpen(full);
         return {};
     }
-    return Reduced(InScreenColors(AsPixels(std::move(image)), {}), longerSideWanted);
+    QImage image = picture.Image();
+    // In place, where nobody else has it.
+    picture = Picture();
+    image = InScreenColors(AsPixels(std::move(image)), {});
+    return image.size() == full ? Reduced(image, longerSideWanted) : Picture(image, full);
 }
 
 } // namespace PictureDecoder

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Pictures that unfold to more than a small machine has to spare.
+#include "platform/paint/Resample.h"
 #include "platform/pictures/JpegMarkers.h"
 #include "platform/pictures/LoadPicture.h"
 #include "platform/pictures/PictureCache.h"
@@ -10,6 +11,8 @@
 
 #include <QBuffer>
 #include <QImageWriter>
+
+#include <algorithm>
 
 namespace {
 
@@ -68,6 +71,30 @@ TEST_F(LargePicturesTest, AJpegOfEightyMegapixelsIsDecodedToHalfItsSizeAndKeepsI
     EXPECT_EQ(picture.Image().width(), kSide / 2);
     EXPECT_LE(picture.Image().sizeInBytes(), kMaxPictureBytes);
     EXPECT_TRUE(ReadPictureHead(path, error));
+}
+
+// Its reader averages it row by row, which has to come out as averaging the whole does.
+TEST_F(LargePicturesTest, ALargePngIsWantedSmallAndShowsTheSameWithAllItsMeasures) {
+    constexpr QSize kLarge(5000, 4000);
+    QImage image = PictureFiles::Quarters(kLarge.width(), kLarge.height()).convertToFormat(QImage::Format_RGB32);
+    for (int x = 0; x < kLarge.width(); ++x)
+        image.setPixel(x, x % kLarge.height(), qRgb(x & 0xFF, 0, 0));
+    const QString path = WriteFile(QStringLiteral("large.png"), PictureFiles::Encoded(image, "png"));
+    const Picture small = LoadPicture(path, error, 300);
+    EXPECT_EQ(QSize(small.Width(), small.Height()), kLarge);
+    EXPECT_EQ(small.Image().size(), kLarge / 8);
+    const QImage averaged = Resample(image, QRectF(image.rect()), kLarge / 8);
+    int worst = 0;
+    for (int y = 0; y < averaged.height(); ++y) {
+        for (int x = 0; x < averaged.width(); ++x) {
+            const QRgb one = averaged.pixel(x, y);
+            const QRgb other = small.Image().pixel(x, y);
+            worst = std::max({worst, std::abs(qRed(one) - qRed(other)), std::abs(qGreen(one) - qGreen(other)),
+                              std::abs(qBlue(one) - qBlue(other))});
+        }
+    }
+    EXPECT_LE(worst, 1);
+    EXPECT_EQ(LoadPicture(path, error).Image().size(), kLarge);
 }
 
 // Their decoder holds all of it, however small the picture is wanted.
