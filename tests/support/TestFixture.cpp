@@ -23,6 +23,7 @@ TavloraTest::~TavloraTest() {
     TellOnce::ForgetAll();
     PictureMiddle::ForgetAll();
     ThumbnailStore::Instance().ForgetAll();
+    ThumbnailMaker::Install(nullptr);
     Files::SetFaultHook({});
     Folders::SetProgramDirectory({});
     TemporaryPlaces::Pretend({});
