@@ -86,6 +86,15 @@ TEST_F(NewsTest, Edge_AClickBesideTheThirdColumnOrBelowTheFourthRowOpensNothing)
     EXPECT_EQ(opened, 2);
 }
 
+TEST_F(NewsTest, ADoubleClickBesideTheCardsOpensNothing) {
+    Show(kGood, [&](QDialog& form) {
+        Enlarge(form);
+        QTest::mouseDClick(form.findChild<QWidget*>(QStringLiteral("picCards")), Qt::LeftButton, {}, QPoint(720, 100));
+        EXPECT_EQ(viewer.Card(), -1);
+    });
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+}
+
 TEST_F(NewsTest, AnotherButtonOnACardChoosesNoneAndOpensNothing) {
     Show(kGood, [&](QDialog& form) {
         for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
