@@ -115,6 +115,24 @@ TEST_F(DeedTextsTest, LinesOfAUtilityHaveTheirPlacesHeightsAndFonts) {
     Expect("DEED", bold, kMiddle, kCard + 1350, 'C', 75);
 }
 
+// The box of a property's name lies 0.875 to 1.3125 inch down the card, that of a utility's to 1.275.
+TEST_F(DeedTextsTest, NamesStandInTheMiddleOfTheirBoxes) {
+    const struct {
+        int deed;
+        double bottom;
+    } rows[] = {{5, 787.5}, {26, 765}};
+    for (const auto& row : rows) {
+        UseRents(row.deed, "3600,610,2620,0,0,0,6660");
+        basTAVL::g_oSpaces(row.deed).SetText(QStringLiteral("Moon"));
+        PrintDeed(row.deed);
+        const QList<PageMark> names = TextsThatRead(QStringLiteral("Moon"));
+        ASSERT_EQ(names.size(), 1) << row.deed;
+        const QRectF box = names[0].Box();
+        EXPECT_NEAR(box.center().x(), kMiddle, 3) << row.deed;
+        EXPECT_NEAR(box.center().y(), kCard + (525 + row.bottom) / 2, 12) << row.deed;
+    }
+}
+
 TEST_F(DeedTextsTest, RowsOfOlderKitsHaveTheirOwnWords) {
     UseRents(5, "1500,510,2520,3530,4540,5550,6560");
     basTAVL::Let_g_sGameVersion(QStringLiteral("5"));

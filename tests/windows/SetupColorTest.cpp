@@ -131,6 +131,20 @@ TEST_F(SetupColorTest, WhatWasStoredComesBackInTheBoxesItWasTypedIn) {
     EXPECT_EQ(Stored(), QStringLiteral("&H010203"));
 }
 
+TEST_F(SetupColorTest, KeysGoToTheMarkOrToRedAtFirst) {
+    const auto focused = [] {
+        QString name;
+        ModalSteps steps;
+        frmColor setup;
+        steps.OnceIn("frmColor", [&](QWidget& window) { name = window.focusWidget()->objectName(); });
+        setup.ShowForm();
+        return name;
+    };
+    EXPECT_EQ(focused(), QStringLiteral("chkUseDefaults"));
+    basCommon::WriteIniString(kKey, QStringLiteral("&H01021E"));
+    EXPECT_EQ(focused(), QStringLiteral("txtColor_0"));
+}
+
 TEST_F(SetupColorTest, NoBoxThatHoldsNoColourIsDroppedByOk) {
     for (const int wrong : {0, 1, 2}) {
         Open();

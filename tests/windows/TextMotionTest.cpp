@@ -65,6 +65,19 @@ TEST_F(TextMotionTest, CtrlGoesByWords) {
     EXPECT_EQ(Press(Qt::Key_Left, Qt::ControlModifier | Qt::ShiftModifier), QStringLiteral("Tree"));
 }
 
+TEST_F(TextMotionTest, LeftGoesToTheLineBeforeOnlyFromTheStartOfALine) {
+    lines.append(QStringLiteral("X"));
+    selection.SetCaret(1, 2);
+    const char* const places[] = {"2:0", "1:13", "1:12"};
+    for (const char* place : places) {
+        Press(Qt::Key_Left);
+        EXPECT_EQ(Caret(), QLatin1String(place));
+    }
+    selection.SetCaret(0, 0);
+    Press(Qt::Key_Left);
+    EXPECT_EQ(Caret(), QStringLiteral("0:0"));
+}
+
 TEST_F(TextMotionTest, AllIsMarkedAndReplaced) {
     EXPECT_EQ(Press(Qt::Key_A, Qt::ControlModifier, QStringLiteral("\x01")), QStringLiteral("Elm Tree\nOld Mill Road"));
     Press(Qt::Key_Delete);
