@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "support/TestDesktop.h"
 
+#include "support/Spelling.h"
+
 TestDesktop::TestDesktop() : m_before(Desktop::Install(this)) {}
 TestDesktop::~TestDesktop() { Desktop::Install(m_before); }
 
 int TestDesktop::MsgBox(const QString& sText, int iStyle, const QString& sTitle) {
+    Spelling::ExpectKnown(sText, Spelling::Names::Within);
     boxes.append({sText, iStyle, sTitle});
     if (onBox) onBox();
     if (!answers.isEmpty()) return answers.takeFirst();
