@@ -4,8 +4,11 @@
 #include <QCollator>
 #include <QDir>
 #include <QFileInfo>
+#include <QLocale>
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 namespace FolderListing {
 namespace {
@@ -23,13 +26,25 @@ bool CanBeListed(const QString& sFolder, QString& sError) {
     return true;
 }
 
+// Where no language is set, that of no language knows no numbers: "cat 10" would come before "cat 2".
+QLocale Language() { return QLocale().language() == QLocale::C ? QLocale(QLocale::English) : QLocale(); }
+
 // The toolkit's own sorting goes by character codes: Z would come before a.
-QStringList Sorted(QStringList names) {
-    QCollator order;
+QStringList Sorted(const QStringList& names) {
+    QCollator order(Language());
     order.setCaseSensitivity(Qt::CaseInsensitive);
     order.setNumericMode(true);
-    std::stable_sort(names.begin(), names.end(), order);
-    return names;
+    // A key each: comparing two names takes as long as making one, and folders hold thousands.
+    std::vector<std::pair<QCollatorSortKey, qsizetype>> keys;
+    keys.reserve(size_t(names.size()));
+    for (qsizetype i = 0; i < names.size(); ++i)
+        keys.emplace_back(order.sortKey(names[i]), i);
+    std::stable_sort(keys.begin(), keys.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
+    QStringList sorted;
+    sorted.reserve(names.size());
+    for (const auto& [key, i] : keys)
+        sorted.append(names[i]);
+    return sorted;
 }
 
 } // namespace
