@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "BrowseFixture.h"
 
+#include <QPushButton>
+
 namespace {
 
 constexpr int kArrivalMs = 5000;
