@@ -20,16 +20,19 @@ struct Break {
 // Where a text that is too wide breaks: at the last blank before the characters reach the width, or hard at
 // that place. A break never parts a character from its accents, and a line takes one character at least.
 Break FindBreak(Surface& surface, const QString& sText, int lWidth) {
-    QTextBoundaryFinder characters(QTextBoundaryFinder::Grapheme, sText);
+    // By words: measured letter by letter, the rules take longer than all else on their sheet.
     qsizetype blank = -1;
+    for (qsizetype next = sText.indexOf(u' '); next >= 0 && surface.TextWidth(sText.left(next)) < lWidth;
+         next = sText.indexOf(u' ', next + 1))
+        blank = next;
+    if (blank >= 0) return {blank, blank + 1};
+    QTextBoundaryFinder characters(QTextBoundaryFinder::Grapheme, sText);
     qsizetype at = 0;
     while (at < sText.size() && surface.TextWidth(sText.left(at)) < lWidth) {
-        if (sText[at] == u' ') blank = at;
         characters.setPosition(at);
         const qsizetype next = characters.toNextBoundary();
         at = next > at ? next : at + 1;
     }
-    if (blank >= 0) return {blank, blank + 1};
     if (at == 0) {
         const qsizetype first = characters.toNextBoundary();
         at = first > 0 ? first : 1;
