@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
 // A photograph that takes long to be decoded keeps no editor waiting: the window stands, and the picture comes.
+#include "pieces/frmBMP.h"
 #include "platform/files/Files.h"
 #include "platform/pictures/LoadPicture.h"
+#include "support/ModalSteps.h"
 #include "windowing/PictureBox.h"
+#include "windows/editors/frmEditMoney.h"
 #include "windows/editors/frmEditSpace.h"
 #include "windows/editors/frmShowTokens.h"
 #include "windows/EditTokenFixture.h"
+#include "windows/pictures/frmImagePosition.h"
 
 #include <QThread>
 
@@ -16,6 +20,7 @@ namespace {
 class LargePhotosTest : public EditTokenTest {
 protected:
     LargePhotosTest() {
+        frmBMP::InstallAsThumbnailMaker();
         QImage image(2600, 2000, QImage::Format_Indexed8);
         image.setColorTable({qRgb(255, 0, 0)});
         image.fill(0);
@@ -69,6 +74,47 @@ TEST_F(LargePhotosTest, TheEditorOfASpaceToo) {
     basTAVL::g_oSpaces(kSpace).SetImagePath(photo);
     EXPECT_FALSE(
         EditWindowTest::Edit(space, kSpace, [&] { ExpectLater(*Find<PictureBox>("picDest"), QPoint(100, 120)); }));
+}
+
+TEST_F(LargePhotosTest, TheEditorOfMoneyToo) {
+    basTAVL::g_oMoney(0).FaceImage.Init(photo, QStringLiteral("Money"), 0);
+    frmEditMoney money(session);
+    window = &money;
+    InWindow([&] {
+        auto* const note = Find<PictureBox>("picNote");
+        ExpectLater(*note, note->rect().center());
+    });
+    EXPECT_FALSE(money.ShowForm());
+}
+
+// It shows every pixel at once, so it opens when they are there.
+TEST_F(LargePhotosTest, TheCroppingWindowOpensWhenThePictureIsThereAndTheProgramGoesOnMeanwhile) {
+    constexpr int kEnough = 5;
+    int ticks = 0;
+    bool shownEarly = false;
+    bool busy = false;
+    QTimer clock;
+    QObject::connect(&clock, &QTimer::timeout, [&] {
+        if (released) return;
+        shownEarly = shownEarly || QApplication::activeModalWidget();
+        busy = QApplication::overrideCursor();
+        released = ++ticks >= kEnough;
+    });
+    clock.start(10);
+    C_Image image;
+    image.Init(photo, QString(), 0);
+    ModalSteps steps;
+    steps.OnceIn("frmImagePosition", [&](QWidget& cropping) {
+        auto& preview = ::Find<PictureBox>(cropping, "picZoomed");
+        EXPECT_TRUE(QTest::qWaitFor(
+            [&] { return preview.Image().pixelColor(preview.rect().center()) == QColor(Qt::red); }, 20000));
+    });
+    frmImagePosition crop;
+    crop.ShowForm(image, 1.0, false);
+    EXPECT_EQ(ticks, kEnough) << "the program stood still";
+    EXPECT_FALSE(shownEarly);
+    EXPECT_TRUE(busy);
+    EXPECT_FALSE(QApplication::overrideCursor());
 }
 
 } // namespace
