@@ -4,6 +4,7 @@
 
 #include "pack/Packing.h"
 #include "pack/Unpacking.h"
+#include "platform/files/Files.h"
 
 #include <benchmark/benchmark.h>
 
@@ -19,6 +20,7 @@ public:
         Packing::Picture picture;
         for (int i = 0; i < kPhotos; ++i) {
             picture.sPath = m_photos.Path(i);
+            picture.size = Files::Size(picture.sPath);
             picture.sEntry = QStringLiteral("Pictures/%1.jpg").arg(i);
             m_contents.pictures.append(picture);
         }
