@@ -5,6 +5,7 @@
 #include "check/Checks.h"
 #include "support/PictureFiles.h"
 #include "support/SheetFixture.h"
+#include "support/Spelling.h"
 
 /// A game without anything to tell of, and what is told of it once something was changed.
 class CheckTest : public SheetTest {
@@ -43,7 +44,15 @@ protected:
     }
     void ShowOnSpace(int iSpace, const QString& sPath) { game.spaces[size_t(iSpace)].SetImagePath(sPath); }
 
-    std::vector<Finding> Findings() { return CheckGame(game, facts, options); }
+    /// All of them; what they say is read for slips of a letter.
+    std::vector<Finding> Findings() {
+        std::vector<Finding> found = CheckGame(game, facts, options);
+        for (const Finding& finding : found) {
+            Spelling::ExpectKnown(finding.sText, Spelling::Names::Within);
+            Spelling::ExpectKnown(finding.sAdvice, Spelling::Names::None);
+        }
+        return found;
+    }
     /// Findings of one kind.
     std::vector<Finding> Of(const char* sCheck) {
         std::vector<Finding> found;

@@ -4,6 +4,7 @@
 
 #include "document/GameText.h"
 #include "game/SampleGames.h"
+#include "platform/files/Files.h"
 #include "platform/files/Folders.h"
 #include "platform/files/TextFile.h"
 #include "platform/pictures/LoadPicture.h"
@@ -168,6 +169,20 @@ TEST_F(ShippedDataTest, ANewGameCanStartFromMoreSamplesThanAreCopied) {
     basTAVL::CopySampleGames();
     EXPECT_EQ(QDir(PathOf(QStringLiteral("games"))).entryList({QStringLiteral("*.gam")}),
               QStringList({"Blank.gam", "Family.gam", "Generic.gam", "Person.gam", "Town.gam"}));
+}
+
+TEST_F(ShippedDataTest, OnlyASampleThatCouldNotBeCopiedIsInTheLog) {
+    const QString told = QStringLiteral("A sample could not be copied to ");
+    const auto log = [] { return QString::fromUtf8(ReadFile(basErrLog::ErrLogPath())); };
+    basTAVL::CopySampleGames();
+    EXPECT_FALSE(log().contains(told));
+    const QString town = InGames(QStringLiteral("Town.gam"));
+    ASSERT_TRUE(QFile::remove(town));
+    Files::SetFaultHook([&town](Files::Operation, const QString& path) {
+        return path.startsWith(town) ? std::optional(QStringLiteral("disk says no")) : std::nullopt;
+    });
+    basTAVL::CopySampleGames();
+    EXPECT_TRUE(log().contains(told + town + QStringLiteral(" disk says no")));
 }
 
 TEST_F(ShippedDataTest, ASampleWithoutItsFileIsNotOffered) {

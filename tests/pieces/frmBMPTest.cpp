@@ -67,6 +67,22 @@ TEST_F(frmBMPTest, Edge_SideTwoTurnsUpsideDown) {
     EXPECT_EQ(thumb.pixel(0, 0), kWhite);
 }
 
+TEST_F(frmBMPTest, APictureOnTwoSidesIsTurnedForEachWhicheverWasMadeLast) {
+    const QString path = WriteFile(QStringLiteral("q.png"), Encoded(Quarters(200, 200), "png"));
+    const auto rendering = [&path](qint16 iSpace) {
+        C_Image image;
+        image.Init(path, QStringLiteral("Space"), iSpace);
+        return frmBMP::Instance().RenderRotated(image.Owned(), 60).Image();
+    };
+    const QImage upright = rendering(0);
+    ASSERT_EQ(upright.size(), QSize(60, 60));
+    EXPECT_EQ(upright.pixel(0, 0), kRed);
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_EQ(rendering(14), upright.mirrored(true, true)) << "upside down on the far side";
+        EXPECT_EQ(rendering(0), upright);
+    }
+}
+
 TEST_F(frmBMPTest, Edge_FirstPixelOfCornerZeroLandsAtTheLeftTip) {
     const auto cells = Turning::CellsOnCorner(100, 0, 0, 0);
     EXPECT_EQ(cells[0], QPoint(0, 49));
