@@ -135,7 +135,8 @@ QImage PageView::PaintPart(const QRect& part) const {
     painter.save();
     m_page.Paint(painter, perInch);
     painter.restore();
-    PaintMargins(painter, m_page.paper, perInch);
+    const bool reachesAll = m_page.paper.printable == QRectF(QPointF(0, 0), m_page.paper.size);
+    if (!reachesAll) PaintMargins(painter, m_page.paper, perInch);
     return image;
 }
 

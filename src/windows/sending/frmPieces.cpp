@@ -7,6 +7,7 @@
 #include "platform/printing/SaveDrawing.h"
 #include "services/basErrLog.h"
 #include "services/Desktop.h"
+#include "windowing/PageView.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -14,10 +15,15 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
-constexpr QSize kFirstSize(360, 420);
+constexpr QSize kFirstSize(680, 460);
+constexpr int kListWidth = 240;
+constexpr int kBesideNames = 30;
 constexpr int kDotsPerInch = 300;
+constexpr int kRestMs = 120;
 
 } // namespace
 
@@ -29,7 +35,17 @@ frmPieces::frmPieces(const QString& sGameTitle, QWidget* parent) : QDialog(paren
     lstPieces = new QListWidget(this);
     lstPieces->setObjectName(QStringLiteral("lstPieces"));
     lstPieces->setAccessibleName(QStringLiteral("Pieces of the game"));
-    column->addWidget(lstPieces);
+    m_view = new PageView(this);
+    m_view->setObjectName(QStringLiteral("view"));
+    m_view->setAccessibleName(QStringLiteral("The piece as it will be saved"));
+    auto* const both = new QHBoxLayout;
+    both->addWidget(lstPieces);
+    both->addWidget(m_view, 1);
+    column->addLayout(both, 1);
+    m_rest.setSingleShot(true);
+    m_rest.setInterval(kRestMs);
+    connect(&m_rest, &QTimer::timeout, this, &frmPieces::ShowPiece);
+    connect(lstPieces, &QListWidget::currentRowChanged, &m_rest, qOverload<>(&QTimer::start));
     auto* const row = new QHBoxLayout;
     auto* const close = new QPushButton(QStringLiteral("Close"), this);
     close->setObjectName(QStringLiteral("cmdClose"));
@@ -49,6 +65,22 @@ frmPieces::frmPieces(const QString& sGameTitle, QWidget* parent) : QDialog(paren
 void frmPieces::ShowForm() {
     FillPieces();
     exec();
+    m_rest.stop();
+}
+
+QString frmPieces::WordInFront() const {
+    const QListWidgetItem* const row = lstPieces->currentItem();
+    return row ? row->data(Qt::UserRole).toString() : QString();
+}
+
+// What can't be made has been told, and leaves the view empty.
+void frmPieces::ShowPiece() try {
+    const std::optional<PrintedText> drawing = PieceDrawing::Draw(WordInFront());
+    PreviewPage page;
+    if (drawing) page = {drawing->recording, {drawing->inches, QRectF(QPointF(0, 0), drawing->inches), QPointF(0, 0)}};
+    m_view->ShowPage(page);
+} catch (...) {
+    ErrTop("frmPieces!", "ShowPiece");
 }
 
 void frmPieces::FillPieces() {
@@ -57,13 +89,15 @@ void frmPieces::FillPieces() {
         auto* const row = new QListWidgetItem(piece.sName, lstPieces);
         row->setData(Qt::UserRole, piece.sWord);
     }
+    // As far as they are read without scrolling; the longest of names would take the picture's room.
+    lstPieces->setMinimumWidth(std::clamp(lstPieces->sizeHintForColumn(0) + kBesideNames, kListWidth, 2 * kListWidth));
     lstPieces->setCurrentRow(0);
 }
 
 void frmPieces::cmdSaveAs_Click() try {
     const QListWidgetItem* const row = lstPieces->currentItem();
     if (!row) return;
-    const QString word = row->data(Qt::UserRole).toString();
+    const QString word = WordInFront();
     CommonDialog dlgCommon;
     dlgCommon.sDialogTitle = QStringLiteral("Save a Picture of a Piece");
     dlgCommon.sInitDir = Folders::Pictures();

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <QDialog>
+#include <QTimer>
 
+class PageView;
 class QListWidget;
 class QPushButton;
 
@@ -22,8 +24,13 @@ private Q_SLOTS:
 
 private:
     void FillPieces();
+    QString WordInFront() const;
+    void ShowPiece();
 
     QString m_title;
     QListWidget* lstPieces;
+    PageView* m_view;
+    /// So that walking through the list draws no more than where it stops.
+    QTimer m_rest;
     QPushButton* cmdSaveAs;
 };
