@@ -3,7 +3,10 @@
 
 #include <QHeaderView>
 #include <QSignalBlocker>
+#include <QStyledItemDelegate>
 #include <QTreeWidgetItemIterator>
+
+#include <algorithm>
 
 namespace {
 
@@ -19,6 +22,30 @@ QString SignOf(Severity severity) {
     }
 }
 
+constexpr int kSentence = 1;
+constexpr int kNarrowest = 60;
+
+// The toolkit's own knows no width to break a sentence at when it is asked for the height of a row.
+class SentenceDelegate : public QStyledItemDelegate {
+public:
+    explicit SentenceDelegate(QTreeWidget& tree) : QStyledItemDelegate(&tree), m_tree(tree) {}
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        const QSize line = QStyledItemDelegate::sizeHint(option, index);
+        if (index.column() != kSentence) return line;
+        const int margin = m_tree.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &m_tree) + 1;
+        const int width = std::max(m_tree.columnWidth(kSentence) - 2 * margin, kNarrowest);
+        const auto metrics = option.fontMetrics;
+        constexpr int kTall = 10000;
+        const int height =
+            metrics.boundingRect(QRect(0, 0, width, kTall), Qt::TextWordWrap, index.data().toString()).height();
+        return {line.width(), line.height() - metrics.height() + std::max(height, metrics.height())};
+    }
+
+private:
+    const QTreeWidget& m_tree;
+};
+
 } // namespace
 
 FindingTree::FindingTree(QWidget* parent) : QTreeWidget(parent) {
@@ -28,6 +55,7 @@ FindingTree::FindingTree(QWidget* parent) : QTreeWidget(parent) {
     setColumnCount(2);
     setWordWrap(true);
     setExpandsOnDoubleClick(false);
+    setItemDelegate(new SentenceDelegate(*this));
     header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     // How many lines a sentence takes depends on the width, which isn't known when the rows are filled in.
     connect(header(), &QHeaderView::sectionResized, this, &FindingTree::scheduleDelayedItemsLayout);
