@@ -126,6 +126,8 @@ void EditWindowTest::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
 
 QString EditWindowTest::Tip() {
     const auto* tip = Find<QLabel>("txtToolTip");
+    // One that belongs to a button comes when the mouse has rested there for a while.
+    (void)QTest::qWaitFor([&] { return tip->isVisible() || tip->text().isEmpty(); }, 3000);
     return tip->isVisible() ? tip->text() : QString();
 }
 

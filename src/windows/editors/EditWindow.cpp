@@ -18,6 +18,7 @@
 #include "windows/pictures/UnsavedChanges.h"
 
 #include <QCheckBox>
+#include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
 
@@ -44,6 +45,8 @@ std::optional<Edit> EditWindow::Ask(int iIndex) {
     m_bChangeAllFonts = false;
     m_bChangedOthers = false;
     m_likeness.LoadFromGame(m_session.InHand(), iIndex);
+    lblPlace->setText(QString::fromLatin1(m_wording.sPlace).arg(iIndex + 1).arg(m_wording.iPieces));
+    txtHoldFocus->SetWhat(lblPlace->text());
     m_selection.Clear();
     m_bSelecting = false;
     BeginTyping();

@@ -49,6 +49,8 @@ protected:
         const char* sImageFrame;
         const char* sImageTip;  ///< Second line of the tip over the picture.
         const char* sThisPiece; ///< As it stands in the question about all fonts.
+        const char* sPlace;     ///< Which one of how many it is, with a place for its number.
+        int iPieces;
     };
 
     EditWindow(Session& session, std::unique_ptr<Likeness> likeness, const Wording& wording, QWidget* parent);
@@ -119,6 +121,7 @@ private:
     CommonDialog cdlgFont;
     PictureHolder picScratch;
     QLabel* txtlegend = nullptr;
+    QLabel* lblPlace = nullptr;
     ImageGroup* fraBitmap = nullptr;
     ElidedLabel* txtBitmapPath = nullptr;
     QPlainTextEdit* txtSpace = nullptr;

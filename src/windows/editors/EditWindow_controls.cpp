@@ -27,6 +27,11 @@ void EditWindow::BuildControls() {
     auto* right = new QVBoxLayout;
     right->addWidget(BuildTextGroup());
     right->addWidget(BuildImageGroup());
+    lblPlace = new QLabel(this);
+    lblPlace->setObjectName(QStringLiteral("lblPlace"));
+    lblPlace->setAlignment(Qt::AlignCenter);
+    right->addStretch();
+    right->addWidget(lblPlace);
     right->addStretch();
     right->addLayout(BuildClosing());
 

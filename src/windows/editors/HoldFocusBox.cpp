@@ -16,7 +16,7 @@ bool IsByKey(const QFocusEvent& event) { return IsByTab(event) || event.reason()
 
 HoldFocusBox::HoldFocusBox(QWidget* parent) : QWidget(parent) {
     setObjectName(QStringLiteral("txtHoldFocus"));
-    setAccessibleName(QStringLiteral("Dummy text area needed to hold the focus"));
+    setAccessibleName(QStringLiteral("Text"));
     setAttribute(Qt::WA_InputMethodEnabled);
     setFocusPolicy(Qt::TabFocus);
     // A hidden widget can't take the focus, and Enter would press a button.
@@ -28,6 +28,13 @@ void HoldFocusBox::SetTyping(bool bTyping, const QRect& place) {
     m_place = place.translated(-pos());
     if (hasFocus()) updateMicroFocus();
 }
+
+void HoldFocusBox::SetWhat(const QString& sWhat) {
+    m_sWhat = sWhat;
+    if (m_sWhat.endsWith(u':')) m_sWhat.chop(1);
+}
+
+void HoldFocusBox::SetText(const QString& sText) { setAccessibleName(m_sWhat + QStringLiteral(": ") + sText); }
 
 QVariant HoldFocusBox::inputMethodQuery(Qt::InputMethodQuery query) const {
     if (query == Qt::ImEnabled) return m_bTyping;

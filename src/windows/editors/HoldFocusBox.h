@@ -15,6 +15,10 @@ public:
     /// beside it. In the pixels of the parent.
     void SetTyping(bool bTyping, const QRect& place);
 
+    /// For screen readers, which text is typed here: "Space 1 of 28"; and what it says by now.
+    void SetWhat(const QString& sWhat);
+    void SetText(const QString& sText);
+
     QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
 
 Q_SIGNALS:
@@ -33,6 +37,7 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
+    QString m_sWhat;
     bool m_bTyping = false;
     QRect m_place;
 };

@@ -149,6 +149,7 @@ void TypingWindow::TakeFocus() {
 }
 
 void TypingWindow::ShowTyping() {
+    txtHoldFocus->SetText(GetTextArray().join(u' '));
     txtHoldFocus->SetTyping(m_selection.IsOn(), {picDest->mapTo(this, QPoint(0, 0)), picDest->size()});
 }
 

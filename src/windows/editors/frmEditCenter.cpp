@@ -18,6 +18,9 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include <algorithm>
+#include <array>
+
 namespace {
 
 struct TwipsRect {
@@ -26,8 +29,8 @@ struct TwipsRect {
     int iWidth;
     int iHeight;
 
-    QRect Pixels() const {
-        const auto pixels = [](int twips) { return CLng(double(twips) / kTwipsPerPixel); };
+    QRect Pixels(double dblScale) const {
+        const auto pixels = [dblScale](int twips) { return CLng(twips * dblScale / kTwipsPerPixel); };
         return {pixels(iLeft), pixels(iTop), pixels(iWidth), pixels(iHeight)};
     }
 };
@@ -62,9 +65,11 @@ constexpr TwipsRect kForm{0, 0, 10350, 4515};
 constexpr TwipsRect kLogo{7000, 855, 3100, 690};
 constexpr TwipsRect kOk{7000, 3900, 1425, 390};
 constexpr TwipsRect kCancel{8675, 3900, 1425, 390};
-// Labels end where their area begins.
+// Labels end where their area begins; in pixels.
 constexpr int kLabelHeight = 20;
 constexpr int kGapUnderLabel = 2;
+// Twips from the left end of a label to what stands to its right, which is the next label or the window's edge.
+constexpr std::array<int, 3> kLabelRoom = {kForm.iWidth - 240, 7000 - 1908, kForm.iWidth - 7000};
 
 } // namespace
 
@@ -76,7 +81,6 @@ frmEditCenter::frmEditCenter(Session& session, QWidget* parent)
     setObjectName(QStringLiteral("frmEditCenter"));
     setWindowTitle(QStringLiteral("Edit Game Titles"));
     picForm->setObjectName(QStringLiteral("picForm"));
-    picForm->setGeometry(kForm.Pixels());
     Form_Load();
     connect(picForm, &PictureBox::MouseDown, this, &frmEditCenter::Form_MouseDown);
     connect(picForm, &PictureBox::MouseMove, this, &frmEditCenter::Form_MouseMove);
@@ -90,20 +94,38 @@ frmEditCenter::frmEditCenter(Session& session, QWidget* parent)
     connect(cmdCancel, &QPushButton::clicked, this, &frmEditCenter::cmdCancel_Click);
 }
 
+// With large letters the labels need more room than there is: then all grows, as far as the screen allows.
+double frmEditCenter::ScaleForLetters() const {
+    double scale = 1.0;
+    for (int i = 0; i < kAreas; ++i) {
+        QLabel label(QString::fromLatin1(kArea[i].sLabel));
+        label.setFont(font());
+        const QSize needed = label.sizeHint();
+        scale = std::max({scale, double(needed.height()) / kLabelHeight,
+                          double(needed.width()) * kTwipsPerPixel / kLabelRoom.at(size_t(i))});
+    }
+    scale = std::max(scale, cmdOK->sizeHint().height() * double(kTwipsPerPixel) / kOk.iHeight);
+    const QSize form = kForm.Pixels(1.0).size();
+    const QSize free = Screen::FreeArea().size();
+    return std::max(std::min({scale, double(free.width()) / form.width(), double(free.height()) / form.height()}), 1.0);
+}
+
 void frmEditCenter::Form_Load() {
-    setFixedSize(kForm.Pixels().size());
+    const double scale = ScaleForLetters();
+    picForm->setGeometry(kForm.Pixels(scale));
+    setFixedSize(kForm.Pixels(scale).size());
     Screen::PlaceAtFraction(*this, 1.0 / 3, 1.0 / 4);
     for (int i = 1; i <= kAreas; ++i) {
-        m_area[size_t(i)] = RowOf(i).place.Pixels();
+        m_area[size_t(i)] = RowOf(i).place.Pixels(scale);
         MakeLabel(QString::fromLatin1(RowOf(i).sLabel), m_area[size_t(i)]);
     }
     // Never seen: it only marks the place that the logo is painted on.
     cmdLogo->setObjectName(QStringLiteral("cmdLogo"));
     cmdLogo->setText(QStringLiteral("Display Area for Logo"));
-    cmdLogo->setGeometry(kLogo.Pixels());
+    cmdLogo->setGeometry(kLogo.Pixels(scale));
     cmdLogo->hide();
-    cmdOK->setGeometry(kOk.Pixels());
-    cmdCancel->setGeometry(kCancel.Pixels());
+    cmdOK->setGeometry(kOk.Pixels(scale));
+    cmdCancel->setGeometry(kCancel.Pixels(scale));
     txtHoldFocus->installEventFilter(this);
     setTabOrder(txtHoldFocus, cmdOK);
     setTabOrder(cmdOK, cmdCancel);
@@ -114,8 +136,9 @@ QLabel* frmEditCenter::MakeLabel(const QString& sText, const QRect& place) {
     label->setTextFormat(Qt::PlainText);
     label->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
     label->setAttribute(Qt::WA_TransparentForMouseEvents);
-    label->setGeometry(place.left(), place.top() - kLabelHeight - kGapUnderLabel,
-                       std::max(place.width(), label->sizeHint().width()), kLabelHeight);
+    const int height = std::max(kLabelHeight, label->sizeHint().height());
+    label->setGeometry(place.left(), place.top() - height - kGapUnderLabel,
+                       std::max(place.width(), label->sizeHint().width()), height);
     return label;
 }
 
@@ -161,6 +184,8 @@ void frmEditCenter::EditArea(int iArea, int iCol, int iRow) {
     m_selection.Clear();
     if (iArea != kNoArea) m_selection.SetCaret(iCol, iRow);
     txtHoldFocus->SetTyping(iArea != kNoArea, m_area[size_t(iArea)]);
+    txtHoldFocus->SetWhat(iArea == kNoArea ? QStringLiteral("Titles") : QString::fromLatin1(RowOf(iArea).sLabel));
+    txtHoldFocus->SetText(iArea == kNoArea ? QString() : LinesUnderEdit().join(u' '));
     txtToolTip->hide();
 }
 

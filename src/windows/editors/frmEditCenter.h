@@ -81,6 +81,7 @@ private:
         void SelectFont() const;
     };
 
+    double ScaleForLetters() const;
     void Form_Load();
     QLabel* MakeLabel(const QString& sText, const QRect& place);
     QPushButton* MakeButton(const char* sName, const QString& sCaption, const QString& sTip);

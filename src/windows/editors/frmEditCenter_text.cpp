@@ -137,6 +137,7 @@ void frmEditCenter::StoreTyped(KeyResult result, const QStringList& sTextLines, 
     const QStringList linesBefore = LinesUnderEdit();
     if (result == KeyResult::TextChanged) KeepLines(sTextLines);
     TypedText::KeepWithin(m_selection, LinesUnderEdit());
+    txtHoldFocus->SetText(LinesUnderEdit().join(u' '));
     if (LinesUnderEdit() != linesBefore)
         m_history.Note({m_iTextArea, linesBefore, before}, State(m_iTextArea), sEntered);
     Redraw(m_iTextArea);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "windows/editors/frmEditCorner.h"
 
+#include "document/basTAVL.h"
 #include "services/basErrLog.h"
 #include "windows/editors/CornerLikeness.h"
 
@@ -17,7 +18,9 @@ frmEditCorner::frmEditCorner(Session& session, QWidget* parent)
                   .sCaption = "Edit Corner",
                   .sImageFrame = "Bitmap",
                   .sImageTip = "to Edit",
-                  .sThisPiece = "corner"},
+                  .sThisPiece = "corner",
+                  .sPlace = "Corner %1 of %2",
+                  .iPieces = basTAVL::kCorners},
                  parent) {}
 
 void frmEditCorner::ShowForm(int iCorner, bool& bChanged) try { bChanged = EditPiece(iCorner); } catch (...) {

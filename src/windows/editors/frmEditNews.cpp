@@ -43,12 +43,17 @@ QPoint CardCorner() {
 } // namespace
 
 frmEditNews::frmEditNews(Session& session, QWidget* parent)
-    : QDialog(parent), m_session(session), cmdPlaceHolder(new PictureBox(this)), lblTitle(new QLabel(this)),
-      txtTitle(new QLineEdit(this)), txtSpace(new QPlainTextEdit(this)), cmdOK(nullptr) {
+    : QDialog(parent), m_session(session), cmdPlaceHolder(new PictureBox(this)), lblPlace(new QLabel(this)),
+      lblTitle(new QLabel(this)), txtTitle(new QLineEdit(this)), txtSpace(new QPlainTextEdit(this)), cmdOK(nullptr) {
     setObjectName(QStringLiteral("frmEditNews"));
     setWindowTitle(QStringLiteral("Edit News"));
+    auto* const card = new QVBoxLayout;
+    card->addWidget(cmdPlaceHolder);
+    card->addWidget(lblPlace, 0, Qt::AlignHCenter);
+    card->addStretch();
+    lblPlace->setObjectName(QStringLiteral("lblPlace"));
     auto* const top = new QHBoxLayout;
-    top->addWidget(cmdPlaceHolder, 0, Qt::AlignTop);
+    top->addLayout(card);
     top->addLayout(MakeBoxes(), 1);
     auto* const all = new QVBoxLayout(this);
     all->setContentsMargins(0, 0, 0, 0);
@@ -142,6 +147,7 @@ std::optional<Edit> frmEditNews::Ask(int iGoodOrBad, int iCard) {
 }
 
 void frmEditNews::Fill() {
+    lblPlace->setText(QStringLiteral("Card %1 of %2").arg(m_iCard + 1).arg(basTAVL::kCards));
     lblTitle->setText(QStringLiteral("Title of all ") + basTAVL::NewsDeckName(m_iGoodOrBad) +
                       QStringLiteral(" car&ds:"));
     ShowCardText();

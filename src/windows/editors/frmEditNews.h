@@ -71,6 +71,7 @@ private:
 
     /// Where the card is painted.
     PictureBox* cmdPlaceHolder;
+    QLabel* lblPlace;
     QLabel* lblTitle;
     QLineEdit* txtTitle;
     QPlainTextEdit* txtSpace;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "windows/editors/frmEditSpace.h"
 
+#include "document/basTAVL.h"
 #include "services/basErrLog.h"
 #include "windows/editors/SpaceLikeness.h"
 
@@ -17,7 +18,9 @@ frmEditSpace::frmEditSpace(Session& session, QWidget* parent)
                   .sCaption = "Edit Space",
                   .sImageFrame = "Image",
                   .sImageTip = "to Change",
-                  .sThisPiece = "space"},
+                  .sThisPiece = "space",
+                  .sPlace = "Space %1 of %2",
+                  .iPieces = basTAVL::kSpaces},
                  parent) {}
 
 void frmEditSpace::ShowForm(int iSpace, bool& bChanged) try { bChanged = EditPiece(iSpace); } catch (...) {

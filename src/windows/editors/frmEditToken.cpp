@@ -12,6 +12,7 @@
 #include "windowing/basCommon_forms.h"
 #include "windowing/PictureBox.h"
 #include "windowing/WidgetLook.h"
+#include "windows/editors/HoldFocusBox.h"
 #include "windows/editors/ImageGroup.h"
 #include "windows/editors/Redrawing.h"
 #include "windows/pictures/DroppedFiles.h"
@@ -56,6 +57,8 @@ std::optional<Edit> frmEditToken::Ask(int iToken) {
     m_selection.Clear();
     BeginTyping();
     LoadFromGame();
+    lblPlace->setText(QStringLiteral("Token %1 of %2").arg(iToken + 1).arg(basTAVL::kTokens));
+    txtHoldFocus->SetWhat(lblPlace->text());
     m_takenOff = PictureRef();
     m_bLoading = false;
     // On a picture the first letter would ask whether it is to go.
@@ -205,6 +208,7 @@ void frmEditToken::cmdCropImage_Click() try {
         return;
     }
     frmImagePosition position(this);
+    position.SetGround(m_oToken.BackColor);
     position.ShowForm(image, kSquare, kRound);
     Redraw();
     TakeFocus();

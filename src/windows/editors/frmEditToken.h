@@ -106,6 +106,7 @@ private:
     CommonDialog cdlgFont;
     PictureHolder picScratch;
     QLabel* lblHint = nullptr;
+    QLabel* lblPlace = nullptr;
     QPlainTextEdit* txtToken = nullptr;
     std::array<QRadioButton*, kIncludes> optInclude{};
     QPushButton* cmdBitmap = nullptr;

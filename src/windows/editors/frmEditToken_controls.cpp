@@ -46,6 +46,10 @@ QBoxLayout* frmEditToken::BuildPicture() {
     auto* layout = new QVBoxLayout;
     layout->addWidget(picDest);
     layout->addWidget(lblHint);
+    lblPlace = new QLabel(this);
+    lblPlace->setObjectName(QStringLiteral("lblPlace"));
+    lblPlace->setAlignment(Qt::AlignHCenter);
+    layout->addWidget(lblPlace);
     layout->addStretch();
     return layout;
 }

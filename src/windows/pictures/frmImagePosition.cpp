@@ -50,6 +50,8 @@ frmImagePosition::frmImagePosition(QWidget* parent) : QDialog(parent) {
 
 frmImagePosition::~frmImagePosition() = default;
 
+void frmImagePosition::SetGround(Color lGround) { picZoomed->SetBackColor(lGround); }
+
 void frmImagePosition::ResetForTest() { StartFolder().clear(); }
 
 void frmImagePosition::ShowForm(C_Image& objImage, double dblHeightToWidth, bool bRound) try {
@@ -143,7 +145,7 @@ void frmImagePosition::Zoom() try {
     ErrTop("frmImagePosition!", "Zoom");
 }
 
-// A drawing of one bit needs no other way here: on the white of the box its white shows either way.
+// A drawing of one bit shows its own white as long as it moves, whatever the ground is.
 void frmImagePosition::ZoomInMotion() try {
     if (!m_bLoaded) return;
     if (!m_oImage.IsCentered()) {

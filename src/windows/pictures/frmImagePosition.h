@@ -26,6 +26,8 @@ public:
     /// image will fill; bRound masks what a round cut takes away. An image that was never painted is
     /// centred, as any painting of it would.
     void ShowForm(C_Image& objImage, double dblHeightToWidth, bool bRound);
+    /// What shows beside a picture that doesn't fill the place; white unless it is set ahead of ShowForm.
+    void SetGround(Color lGround);
 
     /// True when picOriginal holds the picture. A missing or unreadable one is told; after an unreadable
     /// one the user is offered another at once.
