@@ -272,14 +272,23 @@ void BoardView::TimerPictures_Timer() try {
     basMsgQueue::MsgQueue_Init();
     DeviceContext& hDC = picBoard->hDC();
     const int depth = hDC.SaveDC();
-    basPosit::PosSethDC(&hDC);
     const ScaleModeKind mode = std::exchange(picBoard->ScaleMode, ScaleModeKind::Pixels);
-    const int iAwaited = basPosit::PosDrawAwaited();
-    picBoard->ScaleMode = mode;
-    hDC.RestoreDC(depth);
-    picBoard->Refresh();
-    AwaitPictures(iAwaited > 0);
-    basMsgQueue::MsgQueue_Display();
+    const auto putBack = [&] {
+        picBoard->ScaleMode = mode;
+        hDC.RestoreDC(depth);
+        basMsgQueue::MsgQueue_Display();
+    };
+    try {
+        basPosit::PosSethDC(&hDC);
+        const int iAwaited = basPosit::PosDrawAwaited();
+        picBoard->Refresh();
+        AwaitPictures(iAwaited > 0);
+    } catch (...) {
+        // Later messages would wait in the queue for ever, and later drawings begin amid this one.
+        putBack();
+        throw;
+    }
+    putBack();
 } catch (...) {
     TimerPictures.stop();
     ErrTop("frmTAVL!", "TimerPictures_Timer");
