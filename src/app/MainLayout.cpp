@@ -50,7 +50,7 @@ MainLayout ComputeMainLayout(const MainWindowSize& sizes, float fZoom, MainLayou
     layout.picBoard = QRect(at, QSize(lBoard, lBoard));
     layout.hscrl = QRect(at.x(), at.y() + lBoard, lBoard, MainLayout::kScrollBar);
     layout.vscrl = QRect(at.x() + lBoard, at.y(), MainLayout::kScrollBar, lBoard);
-    const int lWidth = CLng((lSize - 480) / 5.0);
+    const int lWidth = CLng((lSize - MainLayout::kBesideButtons) / double(MainLayout::kButtons));
     for (int i = 0; i < MainLayout::kButtons; ++i) {
         layout.cmd[size_t(i)] = QRect((lWidth + MainLayout::kGap) * i + at.x(), at.y() + lSize + MainLayout::kGap,
                                       lWidth, sizes.lButtonHeight);
@@ -66,6 +66,12 @@ QRect InPixels(const QRect& twips) {
 QSize SmallestClient(int lToolBarHeight, int lButtonHeight) {
     return QSize(MainLayout::kSmallestBoard + MainLayout::kGap * 2,
                  lToolBarHeight + MainLayout::kSmallestBoard + MainLayout::kGap * 2 + lButtonHeight);
+}
+
+QSize UsefulClient(QSize smallest, int lWidest, QSize free) {
+    const int board = lWidest * MainLayout::kButtons + MainLayout::kBesideButtons;
+    const int more = std::max(board - MainLayout::kSmallestBoard, 0);
+    return (smallest + QSize(more, more)).boundedTo(free).expandedTo(smallest);
 }
 
 int ScrollOffset(int lValue, int lMax, float fZoom, int lPicture, int lTwipsPerPixel) {

@@ -12,6 +12,8 @@ struct MainLayout {
     static constexpr int kGap = 120;
     static constexpr int kScrollBar = 240;
     static constexpr int kSmallestBoard = 1800;
+    /// What of the board's width the row of buttons leaves free, which are its gaps.
+    static constexpr int kBesideButtons = 480;
     /// What has to be free beside the board for the side panel, with its handle.
     static constexpr int kLeastSide = 3600;
     static constexpr int kSideHandle = 210;
@@ -48,6 +50,10 @@ QRect InPixels(const QRect& twips);
 
 /// The smallest client area in which the smallest board and its buttons show.
 QSize SmallestClient(int lToolBarHeight, int lButtonHeight);
+
+/// The smallest client area that is of use to anybody: no caption of a button, of which the widest is told, is cut. As
+/// far as the free area allows.
+QSize UsefulClient(QSize smallest, int lWidest, QSize free);
 
 /// Device units by which a zoomed view is shifted: lValue of lMax scrolled, in a picture of lPicture twips.
 int ScrollOffset(int lValue, int lMax, float fZoom, int lPicture, int lTwipsPerPixel);

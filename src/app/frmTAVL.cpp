@@ -11,6 +11,7 @@
 #include "services/basErrLog.h"
 #include "services/basPath.h"
 #include "windowing/PictureBox.h"
+#include "windowing/Screen.h"
 #include "windowing/WidgetLook.h"
 #include "windows/photos/PhotoTab.h"
 #include "windows/pictures/DroppedFiles.h"
@@ -31,6 +32,8 @@ constexpr std::array<const char*, MainLayout::kButtons> kButtonCaptions = {"&Mon
                                                                            "E&xit"};
 // Of the window on a small screen, in pixels: all the height there is, and no wider than its board needs.
 constexpr QSize kSizeOnSmallScreen(512, 600);
+// What the desktop and the menus take of the screen round the window's client area, about.
+constexpr QSize kRoundClient(20, 100);
 // Milliseconds between two looks for pictures that are away.
 constexpr int kAwayInterval = 2000;
 
@@ -73,8 +76,7 @@ frmTAVL::frmTAVL(EditorRoutes& doors)
     MakeTabs();
     menuBar()->setCornerWidget(&m_check.Light());
     connect(&m_commands.InHand(), &Session::Changed, &m_menu, &MainMenu::Update);
-    const QSize client = SmallestClient(Twips(ToolBarTable::kPictureHeight), Twips(cmd[0]->sizeHint().height()));
-    m_client->setMinimumSize(InPixels(QRect(QPoint(0, 0), client)).size());
+    m_client->setMinimumSize(InPixels(QRect(QPoint(0, 0), LeastClient())).size());
     resize(kSizeOnSmallScreen);
     m_view.Board().setFocus();
     OrderTabs();
@@ -82,6 +84,14 @@ frmTAVL::frmTAVL(EditorRoutes& doors)
 }
 
 frmTAVL::~frmTAVL() = default;
+
+QSize frmTAVL::LeastClient() const {
+    int widest = 0;
+    for (const QPushButton* button : cmd)
+        widest = std::max(widest, button->sizeHint().width());
+    const QSize smallest = SmallestClient(Twips(ToolBarTable::kPictureHeight), Twips(cmd[0]->sizeHint().height()));
+    return UsefulClient(smallest, Twips(widest), Twips(Screen::FreeArea().size() - kRoundClient));
+}
 
 void frmTAVL::MakeButtons() {
     for (int i = 0; i < MainLayout::kButtons; ++i) {
@@ -133,6 +143,8 @@ void frmTAVL::ButtonClicked() try {
 }
 
 void frmTAVL::Form_Resize() try {
+    for (QPushButton* button : cmd)
+        WidgetLook::UnfitCaption(*button);
     const MainWindowSize sizes{Twips(frameGeometry().size()), Twips(m_client->size()),
                                Twips(ToolBarTable::kPictureHeight), Twips(cmd[0]->sizeHint().height())};
     const MainLayout layout = ComputeMainLayout(sizes, m_view.Zoom(), m_side.Wish());
@@ -141,8 +153,10 @@ void frmTAVL::Form_Resize() try {
     m_menu.SetChecked("mnuView_21", m_side.IsWished());
     for (int i = 0; i < kZooms; ++i)
         m_menu.SetChecked(qPrintable(QStringLiteral("mnuZoom_%1").arg(i)), m_view.Zoom() == float(i + 1));
-    for (int i = 0; i < MainLayout::kButtons; ++i)
+    for (int i = 0; i < MainLayout::kButtons; ++i) {
         cmd[size_t(i)]->setGeometry(InPixels(layout.cmd[size_t(i)]));
+        WidgetLook::FitCaption(*cmd[size_t(i)]);
+    }
     m_view.Redraw();
 } catch (...) {
     ErrTail("frmTAVL!", "Form_Resize");

@@ -100,6 +100,7 @@ private Q_SLOTS:
 
 private:
     void MakeButtons();
+    QSize LeastClient() const;
     void OrderTabs();
     void MakeLists();
     /// What stands beside the board: a tab is one call.

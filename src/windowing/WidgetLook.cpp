@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QPalette>
 #include <QPixmap>
+#include <QPushButton>
 #include <QTextDocument>
 #include <QToolTip>
 #include <QWidget>
@@ -28,6 +29,22 @@ void ScaleFont(QWidget& widget, double factor) {
     QFont font = widget.font();
     font.setPointSizeF(font.pointSizeF() * factor);
     widget.setFont(font);
+}
+
+void FitCaption(QPushButton& button) {
+    // Below this nobody reads it; it is cut instead.
+    constexpr double kSmallest = 0.5;
+    constexpr double kStep = 0.95;
+    constexpr int kRoundLetters = 12;
+    const auto isCut = [&button] {
+        return button.fontMetrics().size(Qt::TextShowMnemonic, button.text()).width() + kRoundLetters > button.width();
+    };
+    for (double factor = 1; factor > kSmallest && isCut(); factor *= kStep)
+        ScaleFont(button, kStep);
+}
+
+void UnfitCaption(QPushButton& button) {
+    if (button.testAttribute(Qt::WA_SetFont)) button.setFont(QFont());
 }
 
 void SetPicture(QLabel& label, const QString& sPath, int side) {

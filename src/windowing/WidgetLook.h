@@ -6,6 +6,7 @@
 #include <QString>
 
 class QLabel;
+class QPushButton;
 class QWidget;
 
 /// Looks of widgets that have a trap in them, one helper each.
@@ -19,6 +20,10 @@ Color FillOf(const QWidget& widget);
 
 /// The widget's own typeface, so many times as large.
 void ScaleFont(QWidget& widget, double factor);
+
+/// Writes the caption as small as it takes to stand in the button whole; and as it was.
+void FitCaption(QPushButton& button);
+void UnfitCaption(QPushButton& button);
 
 /// Shows a picture in a square of this side, sharp on every screen; nothing when it can't be read.
 void SetPicture(QLabel& label, const QString& sPath, int side);

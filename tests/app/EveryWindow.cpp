@@ -59,7 +59,9 @@ void ShowModally(QDialog& window) { window.exec(); }
 
 } // namespace
 
-EveryWindowTest::EveryWindowTest() {
+EveryWindowTest::EveryWindowTest() { StartWithSample(); }
+
+void EveryWindowTest::StartWithSample() {
     Start(QStringLiteral("tavlora"), QStringLiteral("false"), QStringLiteral(TAVLORA_DATA_DIR "/Town_US.gam"));
 }
 

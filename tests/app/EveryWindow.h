@@ -18,6 +18,7 @@ protected:
 
     EveryWindowTest();
 
+    void StartWithSample();
     /// Opens each window in turn, lets it be looked at while it stands, and closes it.
     void InEach(const Look& look);
     /// The object names of those that InEach opens.

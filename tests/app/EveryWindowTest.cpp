@@ -93,6 +93,29 @@ void ExpectUnique(const QString& sWhere, const Letters& letters) {
     }
 }
 
+// What the words of a control need to show whole; nothing where it breaks or elides them by itself.
+QSize NeededBy(const QWidget& control) {
+    if (const auto* label = qobject_cast<const QLabel*>(&control)) {
+        if (label->text().isEmpty() || label->inherits("ElidedLabel") || label->inherits("TipLabel")) return {};
+        if (!label->wordWrap()) return label->sizeHint();
+        return {0, label->heightForWidth(label->width())};
+    }
+    const auto* const button = qobject_cast<const QAbstractButton*>(&control);
+    if (!button || button->text().isEmpty()) return {};
+    return button->fontMetrics().size(Qt::TextShowMnemonic, button->text());
+}
+
+void ExpectNothingCut(const QWidget& shown) {
+    for (const QWidget* control : shown.findChildren<QWidget*>()) {
+        if (control->window() != &shown || !control->isVisible()) continue;
+        const QSize needed = NeededBy(*control);
+        const bool whole = control->width() >= needed.width() && control->height() >= needed.height();
+        EXPECT_TRUE(whole) << shown.objectName().toStdString() << ' ' << control->objectName().toStdString() << " is "
+                           << control->width() << " x " << control->height() << " and needs " << needed.width() << " x "
+                           << needed.height();
+    }
+}
+
 QString SpokenName(QWidget& control) {
     QAccessibleInterface* const spoken = QAccessible::queryAccessibleInterface(&control);
     return spoken ? spoken->text(QAccessible::Name) : QString();
@@ -168,4 +191,17 @@ TEST_F(EveryWindowTest, EveryControlHasANameThatIsSpoken) {
             EXPECT_TRUE(fresh) << control << " and " << NameOf(*other->second) << ": " << name.toStdString();
         }
     });
+}
+
+TEST_F(EveryWindowTest, NoWordsAreCutHoweverLargeTheDesktopsLettersAre) {
+    const QFont before = QApplication::font();
+    for (const int points : {9, 12, 15, 18}) {
+        SCOPED_TRACE(points);
+        QFont font = before;
+        font.setPointSize(points);
+        QApplication::setFont(font);
+        StartWithSample();
+        InEach(ExpectNothingCut);
+    }
+    QApplication::setFont(before);
 }

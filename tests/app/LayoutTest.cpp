@@ -77,6 +77,16 @@ TEST(MainLayoutTest, EveryRealScreenAsksForTheLargeWindow) {
     EXPECT_EQ(MainWindowSizeWanted(1000, 1), 800) << "the bare number, where a twip is a pixel";
 }
 
+TEST(MainLayoutTest, NoWindowIsSmallerThanIsOfUseUnlessTheScreenIs) {
+    const QSize smallest(2040, 2805);
+    const QSize useful = UsefulClient(smallest, 1200, QSize(20000, 20000));
+    EXPECT_EQ(useful, QSize(2040 + 4680, 2805 + 4680));
+    const MainLayout layout = ComputeMainLayout({useful + QSize(0, 600), useful, 390, 375}, 1.0F);
+    EXPECT_GE(layout.cmd[0].width(), 1200);
+    EXPECT_EQ(UsefulClient(smallest, 1200, QSize(5000, 4000)), QSize(5000, 4000));
+    EXPECT_EQ(UsefulClient(smallest, 1200, QSize(100, 100)), smallest);
+}
+
 TEST(ToolBarTableTest, ButtonsAreHitBetweenTheirEdgesOnly) {
     EXPECT_EQ(ToolBarTable::ButtonAt(2, 2), 0);
     EXPECT_EQ(ToolBarTable::ButtonAt(24, 23), 0);

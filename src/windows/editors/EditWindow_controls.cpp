@@ -62,7 +62,7 @@ QWidget* EditWindow::BuildLikeness() {
 void EditWindow::ShowLegend() {
     const bool hasImage = !m_likeness.Image().FullPath().isEmpty();
     txtlegend->setText(hasImage ? QStringLiteral("Click the name to type.\nClick the picture to change it.\n"
-                                               "Right drag moves, wheel zooms.")
+                                                 "Right drag moves, wheel zooms.")
                                 : QStringLiteral("Click the name to type.\n\u201cInclude Image\u201d adds a picture."));
 }
 

@@ -81,6 +81,8 @@ void frmColor::BuildControls() {
     lblExplain->setTextFormat(Qt::PlainText);
     lblExplain->setWordWrap(true);
     lblExplain->setFixedWidth(kTextWidth);
+    // The toolkit would make room for fewer lines than large letters take.
+    lblExplain->setMinimumHeight(lblExplain->heightForWidth(kTextWidth));
     auto* middle = new QHBoxLayout;
     middle->addLayout(BuildBoxes());
     middle->addStretch();

@@ -105,6 +105,9 @@ void frmSendGame::ShowSizes() {
 
 bool frmSendGame::ShowForm() try {
     m_timer.start(0);
+    // Sentences that break make the window higher than the toolkit takes into account by itself.
+    const int width = sizeHint().width();
+    resize(width, layout()->totalHeightForWidth(width));
     basCommon::ShowEntireForm(*this);
     exec();
     m_timer.stop();
