@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/paint/Recording.h"
 
+#include "platform/paint/DeviceMetric.h"
 #include "platform/paint/PaintImage.h"
 #include "platform/paint/PaintText.h"
-#include "platform/text/Numbers.h"
 
 #include <QFont>
 #include <QPaintEngine>
@@ -177,29 +177,4 @@ void Recording::Play(QPainter& painter, const LaidDrawing& laid) const {
     painter.restore();
 }
 
-int Recording::metric(PaintDeviceMetric metric) const {
-    constexpr double kMillimetresPerInch = 25.4;
-    switch (metric) {
-        case PdmWidth:
-            return m_size.width();
-        case PdmHeight:
-            return m_size.height();
-        case PdmWidthMM:
-            return int(m_size.width() * kMillimetresPerInch / m_unitsPerInch);
-        case PdmHeightMM:
-            return int(m_size.height() * kMillimetresPerInch / m_unitsPerInch);
-        case PdmDepth:
-            return 32;
-        case PdmDpiX:
-        case PdmDpiY:
-        case PdmPhysicalDpiX:
-        case PdmPhysicalDpiY:
-            return CLng(m_unitsPerInch);
-        case PdmDevicePixelRatio:
-            return 1;
-        case PdmDevicePixelRatioScaled:
-            return int(devicePixelRatioFScale());
-        default:
-            return 0;
-    }
-}
+int Recording::metric(PaintDeviceMetric metric) const { return DeviceMetric(metric, m_size, m_unitsPerInch); }

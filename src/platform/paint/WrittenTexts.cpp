@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/paint/WrittenTexts.h"
 
+#include "platform/paint/DeviceMetric.h"
 #include "platform/paint/Recording.h"
 
 #include <QFont>
@@ -57,32 +58,7 @@ public:
     QList<WrittenText> Texts() const { return m_engine.texts; }
 
 protected:
-    int metric(PaintDeviceMetric metric) const override {
-        constexpr double kMillimetresPerInch = 25.4;
-        switch (metric) {
-            case PdmWidth:
-                return m_size.width();
-            case PdmHeight:
-                return m_size.height();
-            case PdmWidthMM:
-                return int(m_size.width() / kPointsPerInch * kMillimetresPerInch);
-            case PdmHeightMM:
-                return int(m_size.height() / kPointsPerInch * kMillimetresPerInch);
-            case PdmDepth:
-                return 32;
-            case PdmDpiX:
-            case PdmDpiY:
-            case PdmPhysicalDpiX:
-            case PdmPhysicalDpiY:
-                return int(kPointsPerInch);
-            case PdmDevicePixelRatio:
-                return 1;
-            case PdmDevicePixelRatioScaled:
-                return int(devicePixelRatioFScale());
-            default:
-                return 0;
-        }
-    }
+    int metric(PaintDeviceMetric metric) const override { return DeviceMetric(metric, m_size, kPointsPerInch); }
 
 private:
     QSize m_size;

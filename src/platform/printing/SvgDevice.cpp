@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/printing/SvgDevice.h"
 
+#include "platform/paint/DeviceMetric.h"
+
 #include <QBuffer>
 #include <QHash>
 #include <QImage>
@@ -204,26 +206,4 @@ QByteArray SvgDevice::Bytes() const {
 
 QPaintEngine* SvgDevice::paintEngine() const { return m_engine.get(); }
 
-int SvgDevice::metric(PaintDeviceMetric metric) const {
-    constexpr double kMmPerInch = 25.4;
-    switch (metric) {
-        case PdmWidth:
-            return m_size.width();
-        case PdmHeight:
-            return m_size.height();
-        case PdmWidthMM:
-            return int(m_size.width() * kMmPerInch / kDotsPerInch);
-        case PdmHeightMM:
-            return int(m_size.height() * kMmPerInch / kDotsPerInch);
-        case PdmNumColors:
-            return 1 << 24;
-        case PdmDepth:
-            return 32;
-        case PdmDevicePixelRatio:
-            return 1;
-        case PdmDevicePixelRatioScaled:
-            return int(devicePixelRatioFScale());
-        default:
-            return kDotsPerInch;
-    }
-}
+int SvgDevice::metric(PaintDeviceMetric metric) const { return DeviceMetric(metric, m_size, kDotsPerInch); }
