@@ -61,7 +61,7 @@ int CopiesOf(const Sheet& sheet, int nPlayers) {
 } // namespace
 
 std::vector<Run> Runs(Kit kit, int nPlayers) {
-    const int players = std::clamp(nPlayers, kFewestPlayers, kMostPlayers);
+    const int players = std::clamp(nPlayers, Players::kFewest, Players::kMost);
     std::vector<Run> runs;
     for (const Sheet& sheet : Sheets()) {
         if (sheet.WhyLeftOut(kit).isEmpty()) runs.push_back({&sheet, CopiesOf(sheet, players)});

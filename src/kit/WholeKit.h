@@ -2,6 +2,7 @@
 #pragma once
 
 #include "kit/Sheets.h"
+#include "services/Players.h"
 
 #include <QString>
 #include <QStringList>
@@ -11,9 +12,6 @@
 
 /// Printing all of a kit in one go: what it takes, and painting it.
 namespace WholeKit {
-
-constexpr int kFewestPlayers = 2;
-constexpr int kMostPlayers = 6;
 
 /// A sheet and how often it is printed.
 struct Run {

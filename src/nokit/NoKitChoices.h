@@ -22,8 +22,6 @@ struct NoKitChoices {
     static constexpr double kUsualBoardInches = 16;
     /// Where no length is chosen, the board is as large as the one that the kit's stickers lie on.
     static constexpr double kAsTheKit = 0;
-    static constexpr int kLeastPlayers = 2;
-    static constexpr int kMostPlayers = 6;
 
     PaperSize paper = PaperSize::Letter;
     /// Side of the board that is wanted; or kAsTheKit.

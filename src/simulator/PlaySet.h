@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "services/Players.h"
 #include "simulator/Deeds.h"
 #include "simulator/NewsEffect.h"
 
@@ -10,8 +11,8 @@
 
 namespace Simulator {
 
-constexpr int kMostPlayers = 6;
-constexpr int kFewestPlayers = 2;
+constexpr int kMostPlayers = Players::kMost;
+constexpr int kFewestPlayers = Players::kFewest;
 constexpr std::array<int, 4> kNotes = {100, 500, 1000, 5000};
 constexpr int kSmallestNote = kNotes[0];
 

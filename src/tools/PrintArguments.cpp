@@ -4,6 +4,7 @@
 #include "kit/Sheets.h"
 #include "nokit/NoKitSheets.h"
 #include "services/ArgumentReader.h"
+#include "services/Players.h"
 
 namespace {
 
@@ -59,8 +60,7 @@ private:
     bool ReadNoKitOption(const QString& sOption) {
         NoKitChoices& choices = m_arguments.noKit;
         if (m_noKitOption.isEmpty()) m_noKitOption = sOption;
-        if (sOption == QStringLiteral("--players"))
-            return Number(choices.nPlayers, NoKitChoices::kLeastPlayers, NoKitChoices::kMostPlayers);
+        if (sOption == QStringLiteral("--players")) return Number(choices.nPlayers, Players::kFewest, Players::kMost);
         if (sOption == QStringLiteral("--board-size")) return BoardSize();
         if (sOption == QStringLiteral("--board-way")) return BoardWays();
         if (sOption == QStringLiteral("--colours") || sOption == QStringLiteral("--colors")) return Colours();

@@ -64,7 +64,7 @@ TEST_F(WholeKitTest, FewerPlayersTakeLessMoneyAndEachHasWhatHeStartsWith) {
     EXPECT_EQ(MoneyFor(9), MoneyFor(6));
     constexpr std::array<int, 4> kNotesOfAPlayer{5, 5, 5, 0};
     constexpr int kNotesOfASheet = 10;
-    for (int players = WholeKit::kFewestPlayers; players <= WholeKit::kMostPlayers; ++players) {
+    for (int players = Players::kFewest; players <= Players::kMost; ++players) {
         const QList<int> sheets = MoneyFor(players);
         for (size_t note = 0; note < kNotesOfAPlayer.size(); ++note)
             EXPECT_GE(sheets[qsizetype(note)] * kNotesOfASheet, kNotesOfAPlayer[note] * players) << players;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The window's controls: what they are, and where they stand.
+#include "services/Players.h"
 #include "windowing/ButtonKeys.h"
 #include "windowing/ElidedLabel.h"
 #include "windows/nokit/PrintWithoutKit.h"
@@ -88,7 +89,7 @@ QLayout* PrintWithoutKit::BuildChoices() {
                        {QStringLiteral("On pages that are glued together"),
                         QStringLiteral("In four quarters that fold"), QStringLiteral("On one page, for a copy shop")});
     m_players = Named(new QComboBox(this), "cboPlayers");
-    for (int players = NoKitChoices::kLeastPlayers; players <= NoKitChoices::kMostPlayers; ++players)
+    for (int players = Players::kFewest; players <= Players::kMost; ++players)
         m_players->addItem(QString::number(players));
     m_players->setCurrentText(QString::number(NoKitChoices().nPlayers));
     m_colours =

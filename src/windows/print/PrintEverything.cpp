@@ -72,7 +72,7 @@ void PrintEverything::FillSheets() {
         m_kit = KitInUse();
         const QSignalBlocker silent(m_sheets);
         m_sheets->clear();
-        for (const WholeKit::Run& run : WholeKit::Runs(m_kit, WholeKit::kMostPlayers)) {
+        for (const WholeKit::Run& run : WholeKit::Runs(m_kit, Players::kMost)) {
             auto* item = new QListWidgetItem(run.sheet->Title(m_kit), m_sheets);
             item->setData(kButtonRole, run.sheet->iButton);
             item->setCheckState(Qt::Checked);

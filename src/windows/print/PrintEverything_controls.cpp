@@ -74,7 +74,7 @@ QLayout* PrintEverything::BuildPlayers() {
     caption->setText(QStringLiteral("&Number of players:"));
     caption->setWordWrap(false);
     m_players = Named(new QComboBox(this), "cboPlayers");
-    for (int players = WholeKit::kFewestPlayers; players <= WholeKit::kMostPlayers; ++players)
+    for (int players = Players::kFewest; players <= Players::kMost; ++players)
         m_players->addItem(QString::number(players));
     m_players->setCurrentIndex(m_players->count() - 1);
     caption->setBuddy(m_players);

@@ -140,7 +140,7 @@ void frmTavlPrint::cboPaper_Activated(int Index) try {
 
 void frmTavlPrint::cmdPreview_Click() try {
     if (bInPrint) return;
-    std::vector<WholeKit::Run> runs = WholeKit::Runs(KitInUse(), WholeKit::kMostPlayers);
+    std::vector<WholeKit::Run> runs = WholeKit::Runs(KitInUse(), Players::kMost);
     std::erase_if(runs,
                   [this](const WholeKit::Run& run) { return m_frame != Frame::Menu && run.sheet->frame != m_frame; });
     if (runs.empty()) {
