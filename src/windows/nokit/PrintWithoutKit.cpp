@@ -153,8 +153,3 @@ void PrintWithoutKit::cmdOpen_Click() try { OpenOrTell(m_pdf); } catch (...) {
 void PrintWithoutKit::cmdShowFolder_Click() try { OpenOrTell(ConsoleSheets::PrintedFolder()); } catch (...) {
     ErrTop("PrintWithoutKit!", "cmdShowFolder_Click");
 }
-
-void PrintWithoutKit::OpenOrTell(const QString& sPath) {
-    if (OpenPath(sPath)) return;
-    MsgBox(QStringLiteral("Nothing on this computer opens it. It lies here:\r\n\r\n%1").arg(sPath), vbInformation);
-}

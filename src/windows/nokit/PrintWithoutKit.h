@@ -48,7 +48,6 @@ private:
     void Make();
     bool Tell(const QString& sWhat, int iThousandths);
     void SetBusy(bool bBusy);
-    static void OpenOrTell(const QString& sPath);
 
     QComboBox* m_paper = nullptr;
     QComboBox* m_size = nullptr;

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The window's controls: what they are, and where they stand.
 #include "services/Players.h"
-#include "windowing/ButtonKeys.h"
 #include "windowing/ElidedLabel.h"
+#include "windowing/MakeControls.h"
 #include "windows/nokit/PrintWithoutKit.h"
 
 #include <QCheckBox>
@@ -15,25 +15,6 @@
 #include <QVBoxLayout>
 
 namespace {
-
-template <typename Control>
-Control* Named(Control* control, const char* sName) {
-    control->setObjectName(QString::fromLatin1(sName));
-    return control;
-}
-
-QPushButton* MakeButton(QWidget* parent, const char* sName, const char* sCaption) {
-    auto* button = Named(new QPushButton(QString::fromLatin1(sCaption), parent), sName);
-    LetEnterPressWithFocusOnly(*button);
-    return button;
-}
-
-QLabel* MakeLabel(QWidget* parent, const char* sName) {
-    auto* label = Named(new QLabel(parent), sName);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    return label;
-}
 
 QComboBox* MakeChoice(QWidget* parent, const char* sName, const QStringList& items) {
     auto* choice = Named(new QComboBox(parent), sName);

@@ -305,8 +305,3 @@ void PrintEverything::cmdOpen_Click() try { OpenOrTell(m_pdf); } catch (...) {
 void PrintEverything::cmdShowFolder_Click() try { OpenOrTell(ConsoleSheets::PrintedFolder()); } catch (...) {
     ErrTop("PrintEverything!", "cmdShowFolder_Click");
 }
-
-void PrintEverything::OpenOrTell(const QString& sPath) {
-    if (OpenPath(sPath)) return;
-    MsgBox(QStringLiteral("Nothing on this computer opens it. It lies here:\r\n\r\n%1").arg(sPath), vbInformation);
-}

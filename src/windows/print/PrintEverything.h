@@ -64,7 +64,6 @@ private:
     bool Tell(const WholeKit::Progress& progress);
     void TellWhatIsLacking(const WholeKit::Outcome& outcome);
     void SetBusy(bool bBusy);
-    static void OpenOrTell(const QString& sPath);
 
     QComboBox* m_players = nullptr;
     QLabel* m_needed = nullptr;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The window's controls: what they are, and where they stand.
-#include "windowing/ButtonKeys.h"
 #include "windowing/ElidedLabel.h"
+#include "windowing/MakeControls.h"
 #include "windowing/TabWay.h"
 #include "windows/print/PrintEverything.h"
 
@@ -12,29 +12,6 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QVBoxLayout>
-
-namespace {
-
-template <typename Control>
-Control* Named(Control* control, const char* sName) {
-    control->setObjectName(QString::fromLatin1(sName));
-    return control;
-}
-
-QPushButton* MakeButton(QWidget* parent, const char* sName, const char* sCaption) {
-    auto* button = Named(new QPushButton(QString::fromLatin1(sCaption), parent), sName);
-    LetEnterPressWithFocusOnly(*button);
-    return button;
-}
-
-QLabel* MakeLabel(QWidget* parent, const char* sName) {
-    auto* label = Named(new QLabel(parent), sName);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    return label;
-}
-
-} // namespace
 
 PrintEverything::PrintEverything(QWidget* parent) : QDialog(parent) {
     setObjectName(QStringLiteral("PrintEverything"));

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The window's controls: what they are, and where they stand.
-#include "windowing/ButtonKeys.h"
+#include "windowing/MakeControls.h"
 #include "windowing/PageView.h"
 #include "windowing/TabWay.h"
 #include "windows/print/PrintPreview.h"
@@ -21,18 +21,6 @@ constexpr QSize kThumbnails(110, 110);
 const QStringList kZoomCaptions{QStringLiteral("Whole page"), QStringLiteral("50 %"),  QStringLiteral("75 %"),
                                 QStringLiteral("100 %"),      QStringLiteral("150 %"), QStringLiteral("200 %"),
                                 QStringLiteral("300 %"),      QStringLiteral("400 %")};
-
-template <typename Control>
-Control* Named(Control* control, const char* sName) {
-    control->setObjectName(QString::fromLatin1(sName));
-    return control;
-}
-
-QPushButton* MakeButton(QWidget* parent, const char* sName, const QString& sCaption) {
-    auto* button = Named(new QPushButton(sCaption, parent), sName);
-    LetEnterPressWithFocusOnly(*button);
-    return button;
-}
 
 } // namespace
 
@@ -83,8 +71,8 @@ QLayout* PrintPreview::BuildZoom() {
     m_zoom->addItems(kZoomCaptions);
     m_zoom->setToolTip(QStringLiteral("How large the page shows; 100 % is about as large as on paper"));
     caption->setBuddy(m_zoom);
-    auto* smaller = MakeButton(this, "cmdZoomOut", QString(QChar(0x2212)));
-    auto* larger = MakeButton(this, "cmdZoomIn", QStringLiteral("+"));
+    auto* smaller = MakeButton(this, QStringLiteral("cmdZoomOut"), QString(QChar(0x2212)));
+    auto* larger = MakeButton(this, "cmdZoomIn", "+");
     smaller->setToolTip(QStringLiteral("Smaller"));
     larger->setToolTip(QStringLiteral("Larger"));
     smaller->setAccessibleName(smaller->toolTip());
@@ -106,9 +94,9 @@ QLayout* PrintPreview::BuildZoom() {
 }
 
 QLayout* PrintPreview::BuildButtons() {
-    auto* close = MakeButton(this, "cmdClose", QStringLiteral("&Close"));
-    m_printSheet = MakeButton(this, "cmdPrintSheet", QStringLiteral("&Print This Sheet..."));
-    m_printAll = MakeButton(this, "cmdPrintAll", QStringLiteral("Print &Everything..."));
+    auto* close = MakeButton(this, "cmdClose", "&Close");
+    m_printSheet = MakeButton(this, "cmdPrintSheet", "&Print This Sheet...");
+    m_printAll = MakeButton(this, "cmdPrintAll", "Print &Everything...");
     m_printSheet->setEnabled(false);
     connect(close, &QPushButton::clicked, this, [this] { Close(Wish::Nothing); });
     connect(m_printSheet, &QPushButton::clicked, this, [this] { Close(Wish::PrintSheet); });

@@ -5,8 +5,8 @@
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
 #include "windowing/basCommon_forms.h"
-#include "windowing/ButtonKeys.h"
 #include "windowing/ElidedLabel.h"
+#include "windowing/MakeControls.h"
 #include "windowing/PictureBox.h"
 #include "windowing/WidgetLook.h"
 #include "windows/print/frmPrntPrep.h"
@@ -36,26 +36,6 @@ constexpr int kTestSide = 100;
 const Color kProgressFill = Color::Rgb(0xC0, 0xC0, 0xC0);
 const Color kBarBack = Color::White();
 const Color kBarFore = Color::Rgb(0, 0, 128);
-
-template <typename Control>
-Control* Named(Control* control, const QString& sName) {
-    control->setObjectName(sName);
-    return control;
-}
-
-QPushButton* MakeButton(QWidget* parent, const QString& sName, const QString& sCaption, const QString& sToolTip) {
-    auto* button = Named(new QPushButton(sCaption, parent), sName);
-    LetEnterPressWithFocusOnly(*button);
-    if (!sToolTip.isEmpty()) WidgetLook::SetToolTip(*button, sToolTip);
-    return button;
-}
-
-QLabel* MakeLabel(QWidget* parent, const QString& sName, const QString& sText) {
-    auto* label = Named(new QLabel(sText, parent), sName);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    return label;
-}
 
 } // namespace
 

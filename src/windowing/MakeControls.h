@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+class QLabel;
+class QPushButton;
+class QWidget;
+
+// Controls as most windows make them. Windows, tests and help find them by their names.
+
+template <typename Control>
+Control* Named(Control* control, const QString& sName) {
+    control->setObjectName(sName);
+    return control;
+}
+template <typename Control>
+Control* Named(Control* control, const char* sName) {
+    return Named(control, QString::fromLatin1(sName));
+}
+
+/// Enter presses it only where it has the focus.
+QPushButton* MakeButton(QWidget* parent, const QString& sName, const QString& sCaption, const QString& sToolTip = {});
+QPushButton* MakeButton(QWidget* parent, const char* sName, const char* sCaption);
+
+/// Plain text of as many lines as it needs.
+QLabel* MakeLabel(QWidget* parent, const QString& sName, const QString& sText = {});
+QLabel* MakeLabel(QWidget* parent, const char* sName);
