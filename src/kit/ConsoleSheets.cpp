@@ -104,10 +104,15 @@ QString TroubleMessage(const Printer& printer, const QString& sTrouble) {
         .arg(printer.DeviceName(), sTrouble);
 }
 
-QString PdfMessage(const QString& sPath) {
-    return QStringLiteral("This sheet is now in the file\r\n\r\n%1\r\n\r\nPrint it at actual size (100 %), never "
-                          "\"fit to page\": only then the pieces have their right size.")
-        .arg(sPath);
+QString PdfMessage(const QString& sPath, const Sheet& sheet, Kit kit) {
+    const QString stock = sheet.Stock(kit);
+    const QString message =
+        QStringLiteral("This sheet is now in the file\r\n\r\n%1\r\n\r\nPrint it %2at actual size (100 %), never "
+                       "\"fit to page\": only then the pieces have their right size.")
+            .arg(sPath, stock.isEmpty() ? QString() : QStringLiteral("on %1, ").arg(stock));
+    if (sheet.iSheetsForSix <= 1) return message;
+    return message + QStringLiteral("\r\n\r\nSix players need %1 sheets of it: print the file as often.")
+                         .arg(sheet.iSheetsForSix);
 }
 
 QString LackingMessage(const QStringList& lacking) {

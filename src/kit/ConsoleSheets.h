@@ -50,10 +50,10 @@ QString NoPrinterMessage(const Printer& printer);
 /// The question whether to print on a printer whose page, in the orientation that holds, doesn't hold the sheet; empty
 /// when it does.
 QString SmallPageMessage(const Printer& printer, const Sheet& sheet, Kit kit);
-/// Tells where a PDF file is, and how it has to be printed.
 /// Of a printer that has taken pages and doesn't print them, and why.
 QString TroubleMessage(const Printer& printer, const QString& sTrouble);
-QString PdfMessage(const QString& sPath);
+/// Where the PDF file of a sheet is, on what it has to be printed, how, and how often.
+QString PdfMessage(const QString& sPath, const Sheet& sheet, Kit kit);
 /// What a sheet lacks: its first pieces, a line each, and how many more there are.
 QString LackingMessage(const QStringList& lacking);
 /// The paper that the user chose, kept in the settings; anything else there is the usual one.

@@ -30,6 +30,7 @@
 #include "windows/print/frmPrintTest.h"
 #include "windows/print/frmPrntPrep.h"
 #include "windows/print/frmTavlPrint.h"
+#include "windows/print/PdfReady.h"
 #include "windows/print/PrintEverything.h"
 #include "windows/print/PrintPreview.h"
 #include "windows/sending/frmPieces.h"
@@ -119,6 +120,11 @@ std::vector<EveryWindowTest::Door> EveryWindowTest::PrintDoors() {
         {"frmTavlPrint", [] { frmTavlPrint().ShowForm(false); }},
         {"PrintEverything", [] { PrintEverything().ShowForm(false); }},
         {"PrintWithoutKit", [] { PrintWithoutKit().ShowForm(); }},
+        {"PdfReady",
+         [] {
+             PdfReady ready(QStringLiteral("Rules.pdf"), Sheets().back(), nullptr);
+             ShowModally(ready);
+         }},
         {"PrintPreview",
          [] {
              const std::vector<WholeKit::Run> runs = {WholeKit::Runs(Kit::Eight, 6).front()};

@@ -4,6 +4,7 @@
 
 #include "app/frmAbout.h"
 #include "app/frmPrintManual.h"
+#include "kit/Sheets.h"
 #include "pack/Packing.h"
 #include "services/Guide.h"
 #include "windows/check/frmBeforePrint.h"
@@ -31,6 +32,7 @@
 #include "windows/print/frmPrintTest.h"
 #include "windows/print/frmPrntPrep.h"
 #include "windows/print/frmTavlPrint.h"
+#include "windows/print/PdfReady.h"
 #include "windows/print/PrintEverything.h"
 #include "windows/print/PrintPreview.h"
 #include "windows/sending/frmPieces.h"
@@ -88,6 +90,7 @@ protected:
         add(new frmTavlPrint);
         add(new PrintEverything);
         add(new PrintWithoutKit);
+        add(new PdfReady(PathOf(QStringLiteral("Rules.pdf")), Sheets().back(), nullptr));
         add(new PrintPreview);
         add(new frmPieces(QString()));
         add(new frmSendGame({}, QString()));

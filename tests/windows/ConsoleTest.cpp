@@ -356,18 +356,6 @@ TEST_F(ConsoleTest, WhatThePrinterReportsAtTheEndIsLoggedAndNotShown) {
     EXPECT_FALSE(Hourglass());
 }
 
-TEST_F(ConsoleTest, APdfFileIsNamedAndHasToBePrintedAtActualSize) {
-    printer.device.clear();
-    printer.pdf = QStringLiteral("/home/anna/Printed/Ours - Rules.pdf");
-    Print(kRules);
-    EXPECT_EQ(desktop.Texts(),
-              QStringList{QStringLiteral("This sheet is now in the file\r\n\r\n/home/anna/Printed/Ours - Rules.pdf"
-                                         "\r\n\r\nPrint it at actual size (100 %), never \"fit to page\": only then "
-                                         "the pieces have their right size.")});
-    EXPECT_EQ(desktop.boxes[0].iStyle, vbInformation);
-    EXPECT_FALSE(Hourglass());
-}
-
 TEST_F(ConsoleTest, AFileThatCannotBeWrittenIsTold) {
     printer.device.clear();
     printer.error = QStringLiteral("No space left on device");

@@ -40,6 +40,7 @@ constexpr Row kRows[] = {
     {"PrintEverything", "print.html"},
     {"PrintPreview", "print.html"},
     {"PrintWithoutKit", "print.html"},
+    {"PdfReady", "print.html"},
     {"frmMissingPictures", "pictures.html"},
     {"frmDealPhotos", "pictures.html"},
     {"frmEarlierVersions", "board.html"},

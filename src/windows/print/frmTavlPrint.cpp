@@ -19,6 +19,7 @@
 #include "windows/print/ChangePrinter.h"
 #include "windows/print/frmPrntPrep.h"
 #include "windows/print/PageUnderWay.h"
+#include "windows/print/PdfReady.h"
 #include "windows/print/PrinterWatch.h"
 #include "windows/print/PrintEverything.h"
 #include "windows/print/PrintPreview.h"
@@ -324,7 +325,7 @@ void frmTavlPrint::TellTrouble(const QString& sTrouble) {
 void frmTavlPrint::TellWhereItWent() {
     if (!m_sFailure.isEmpty())
         MsgBox(QStringLiteral("This sheet could not be printed.\r\n\r\n") + m_sFailure, vbExclamation);
-    if (!m_sWrittenPdf.isEmpty()) MsgBox(ConsoleSheets::PdfMessage(m_sWrittenPdf), vbInformation);
+    if (!m_sWrittenPdf.isEmpty()) PdfReady(m_sWrittenPdf, ConsoleSheets::SheetOf(m_iLastSent), this).exec();
     m_sFailure.clear();
     m_sWrittenPdf.clear();
 }
