@@ -51,6 +51,7 @@ bool IntoPdf(const std::vector<const NoKitSheet*>& sheets, const NoKitChoices& c
              const QString& sTitle, int iDpi, Job& job, QString& sError) {
     constexpr int kThousand = 1000;
     PdfPrinter printer(sPath, sTitle, QPageSize::Letter, iDpi);
+    printer.Correct(job.correction);
     const int all = int(sheets.size());
     for (int i = 0; i < all; ++i) {
         if (!PrintSheet(printer, *sheets[size_t(i)], choices, job, i * kThousand / all, (i + 1) * kThousand / all))

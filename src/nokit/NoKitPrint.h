@@ -3,6 +3,7 @@
 
 #include "nokit/NoKitSheets.h"
 #include "nokit/PageCanvas.h"
+#include "platform/printing/PageCorrection.h"
 
 #include <QByteArray>
 
@@ -12,6 +13,8 @@ namespace NoKitPrint {
 struct Job {
     /// Told what is being made, and how far it is, in thousandths; false stops. Events may run inside.
     std::function<bool(const QString& sWhat, int iThousandths)> Progress = [](const QString&, int) { return true; };
+    /// What the printer does that the pages are for.
+    CorrectionOfPaper correction = [](const PaperOfPage&) { return PageCorrection(); };
     /// What pages lack, a sentence for each piece.
     QStringList lacking = {};
     bool bStopped = false;

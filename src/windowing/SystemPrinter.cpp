@@ -93,6 +93,7 @@ void SystemPrinter::OpenDocument() {
     m_pdf->SetOrientation(m_orientation);
     m_pdf->CentreSheet(m_sheet);
     m_pdf->SetPageName(m_pageName);
+    m_pdf->Correct([this](const PaperOfPage& paper) { return m_corrections(DeviceName(), paper); });
 }
 
 DeviceContext& SystemPrinter::hDC() {
@@ -131,7 +132,10 @@ void SystemPrinter::EndDoc() {
 }
 
 void SystemPrinter::SendJob() {
-    const bool landscape = m_orientation == PageOrientation::Landscape;
+    const PaperOfPage paper = PagePaper();
+    const PageCorrection correction = m_corrections(DeviceName(), paper);
+    // A corrected page turns itself, as nobody tells which way the printer would turn it.
+    const bool landscape = m_orientation == PageOrientation::Landscape && correction.IsNothing();
     QPrinter& device = Device();
     device.setPageOrientation(landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
     device.setDocName(m_documentName);
@@ -142,9 +146,9 @@ void SystemPrinter::SendJob() {
         return;
     }
     painter.setRenderHints(kHints);
-    const PaperOfPage paper = PagePaper();
-    const QPointF inwards = (paper.origin - paper.printable.topLeft()) * DotsPerInch();
-    m_page->Play(painter, QRectF(inwards, m_page->Size()));
+    const QPoint firstDot = device.pageLayout().paintRectPixels(device.resolution()).topLeft();
+    painter.setWorldTransform(PageToDots(paper, correction, DotsPerInch(), firstDot));
+    m_page->Play(painter, m_page->Whole());
     if (!painter.end()) m_lastError = QStringLiteral("The printer reported a failure");
 }
 

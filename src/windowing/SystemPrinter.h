@@ -3,6 +3,9 @@
 
 #include "platform/printing/Printer.h"
 
+#include <functional>
+#include <utility>
+
 class QPrinter;
 class Recording;
 
@@ -24,6 +27,10 @@ public:
     QString Trouble() const override;
     QString LastPdf() const override { return m_lastPdf; }
     QString LastError() const override { return m_lastError; }
+    /// Asked ahead of each page what its printer, by the desktop's name, does to it on its way to the paper.
+    void Correct(std::function<PageCorrection(const QString& sPrinter, const PaperOfPage& paper)> corrections) {
+        m_corrections = std::move(corrections);
+    }
     /// For the dialog that chooses another printer and its settings.
     QPrinter& Device() const;
 
@@ -47,6 +54,8 @@ private:
     QString PdfPath() const;
 
     QString m_pdfFolder;
+    std::function<PageCorrection(const QString&, const PaperOfPage&)> m_corrections =
+        [](const QString&, const PaperOfPage&) { return PageCorrection(); };
     QString m_documentName = QStringLiteral("Tavlora");
     QString m_pageName;
     QString m_lastPdf;

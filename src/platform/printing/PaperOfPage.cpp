@@ -25,6 +25,12 @@ double Place(double paper, double before, double behind, double sheet) {
     return std::max(before, std::min((paper - sheet) / 2, paper - behind - sheet));
 }
 
+// The toolkit tells inches of A4 to two places.
+QSizeF Exactly(QSizeF size) {
+    if (!Measures(size, kA4)) return size;
+    return size.width() > size.height() ? kA4.transposed() : kA4;
+}
+
 constexpr std::array kLetterCountries{
     QLocale::AnyTerritory, QLocale::UnitedStates, QLocale::Canada,     QLocale::Mexico,    QLocale::PuertoRico,
     QLocale::Philippines,  QLocale::Chile,        QLocale::Colombia,   QLocale::CostaRica, QLocale::Venezuela,
@@ -32,7 +38,8 @@ constexpr std::array kLetterCountries{
 
 } // namespace
 
-PaperOfPage PaperOfPage::Of(QSizeF size, const QMarginsF& margins, QSizeF sheet) {
+PaperOfPage PaperOfPage::Of(QSizeF about, const QMarginsF& margins, QSizeF sheet) {
+    const QSizeF size = Exactly(about);
     PaperOfPage paper{size, QRectF(QPointF(0, 0), size).marginsRemoved(margins), {}};
     paper.origin = paper.printable.topLeft();
     if (sheet.isEmpty() || paper.IsLetter()) return paper;

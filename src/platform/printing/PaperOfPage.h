@@ -19,7 +19,7 @@ struct PaperOfPage {
 
     /// The stock of the kit is US Letter, and its sheets begin where printing begins. On other paper a sheet of so
     /// many inches stands in the middle, as far as the margins allow; an empty one begins where printing begins.
-    static PaperOfPage Of(QSizeF size, const QMarginsF& margins, QSizeF sheet);
+    static PaperOfPage Of(QSizeF about, const QMarginsF& margins, QSizeF sheet);
     bool IsLetter() const;
     /// "US Letter", "A4", or what it measures.
     QString Name() const;

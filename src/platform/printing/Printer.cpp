@@ -8,6 +8,8 @@
 #include <QPageLayout>
 #include <QPdfWriter>
 
+#include <cmath>
+
 namespace {
 
 Printer*& CurrentPrinter() {
@@ -23,6 +25,20 @@ Printer* Printer::Current() { return CurrentPrinter(); }
 void Printer::ForgetSettings() {
     static_cast<DrawingSettings&>(*this) = DrawingSettings();
     ScaleMode = ScaleModeKind::Twips;
+}
+
+QTransform Printer::PageToDots(const PaperOfPage& paper, const PageCorrection& correction, double dotsPerInch,
+                               QPoint firstDot) {
+    const QPointF origin = paper.origin * dotsPerInch;
+    if (correction.IsNothing()) {
+        // Whole dots stay whole, whatever the sum of fractions.
+        constexpr double kParts = 1024;
+        const auto rounded = [](double dots) { return std::round(dots * kParts) / kParts; };
+        return QTransform::fromTranslate(rounded(origin.x() - firstDot.x()), rounded(origin.y() - firstDot.y()));
+    }
+    return QTransform::fromTranslate(origin.x(), origin.y()) * QTransform::fromScale(1 / dotsPerInch, 1 / dotsPerInch) *
+           correction.ToSheet(paper.size) * QTransform::fromScale(dotsPerInch, dotsPerInch) *
+           QTransform::fromTranslate(-firstDot.x(), -firstDot.y());
 }
 
 PaperOfPage Printer::PagePaper() const {
@@ -67,12 +83,9 @@ void PdfPrinter::OpenPage() {
         m_context = std::make_unique<DeviceContext>(m_nowhere);
         return;
     }
-    constexpr double kPoints = 72;
     const PaperOfPage paper = PagePaper();
-    const QPointF behind = QRectF(QPointF(0, 0), paper.size).bottomRight() - paper.printable.bottomRight();
-    m_writer->setPageLayout(QPageLayout(
-        m_paper, m_orientation == PageOrientation::Landscape ? QPageLayout::Landscape : QPageLayout::Portrait,
-        QMarginsF(paper.origin.x(), paper.origin.y(), behind.x(), behind.y()) * kPoints, QPageLayout::Point));
+    const PageCorrection correction = m_correction(paper);
+    LayOut(paper, correction);
     if (first) {
         m_painter = std::make_unique<QPainter>(m_writer.get());
         m_painter->setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
@@ -84,7 +97,19 @@ void PdfPrinter::OpenPage() {
     }
     // No page finds what was chosen for the one before.
     m_painter->save();
+    const QPoint firstDot = m_writer->pageLayout().paintRectPixels(m_dpi).topLeft();
+    m_painter->setWorldTransform(PageToDots(paper, correction, m_dpi, firstDot));
     m_context = std::make_unique<DeviceContext>(*m_painter);
+}
+
+// A corrected page tells itself where all lies on the sheet.
+void PdfPrinter::LayOut(const PaperOfPage& paper, const PageCorrection& correction) {
+    constexpr double kPoints = 72;
+    const bool turned = m_orientation == PageOrientation::Landscape && correction.IsNothing();
+    const QPointF behind = QRectF(QPointF(0, 0), paper.size).bottomRight() - paper.printable.bottomRight();
+    const QMarginsF margins(paper.origin.x(), paper.origin.y(), behind.x(), behind.y());
+    m_writer->setPageLayout(QPageLayout(m_paper, turned ? QPageLayout::Landscape : QPageLayout::Portrait,
+                                        correction.IsNothing() ? margins * kPoints : QMarginsF(), QPageLayout::Point));
 }
 
 DeviceContext& PdfPrinter::hDC() {

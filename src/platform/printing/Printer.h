@@ -2,9 +2,11 @@
 #pragma once
 
 #include "platform/paint/Surface.h"
+#include "platform/printing/PageCorrection.h"
 #include "platform/printing/PaperOfPage.h"
 
 #include <memory>
+#include <utility>
 
 class NamedPdf;
 class QPdfWriter;
@@ -57,6 +59,12 @@ public:
     /// is nothing before the first call.
     static Printer* Install(Printer* printer);
     static Printer* Current();
+
+protected:
+    /// From the page's pixels to a device's dots, the first of which lies so many dots inside the paper: the toolkit
+    /// knows margins in whole points only. A corrected page is turned upright.
+    static QTransform PageToDots(const PaperOfPage& paper, const PageCorrection& correction, double dotsPerInch,
+                                 QPoint firstDot);
 };
 
 /// Prints into one PDF file, a page to each EndDoc, 0.25 inch of margin on every side. A4 has half of it: the kit's
@@ -85,6 +93,9 @@ public:
     void CentreSheet(QSizeF inches) override { m_sheet = inches; }
     /// Of any size; holds from the next page on.
     void SetPaper(const QPageSize& paper) { m_paper = paper; }
+    /// Pages are for a printer that does this to them. Such a page stands upright in the file whatever its
+    /// orientation, so that nobody has to turn it on its way.
+    void Correct(CorrectionOfPaper correction) { m_correction = std::move(correction); }
 
     /// Completes the file and puts it in place. False and a sentence in sError when that fails; no part of
     /// it is then left, and a file that stood there before stands as it was.
@@ -95,6 +106,7 @@ public:
 private:
     void OpenPage();
     bool OpenFile();
+    void LayOut(const PaperOfPage& paper, const PageCorrection& correction);
     void EndPainting();
 
     QString m_title;
@@ -102,6 +114,7 @@ private:
     QPageSize m_paper;
     PageOrientation m_orientation = PageOrientation::Portrait;
     QSizeF m_sheet;
+    CorrectionOfPaper m_correction = [](const PaperOfPage&) { return PageCorrection(); };
     bool m_pageOpen = false;
     int m_pages = 0;
     QString m_pageName;
