@@ -19,5 +19,6 @@ public:
     /// Tells whether anything was printed, now or earlier in this run.
     virtual bool Print(frmTAVL& main) = 0;
     virtual bool PrintEverything(frmTAVL& main) = 0;
+    virtual void CheckPrinter(frmTAVL& main) = 0;
     virtual void Setup(frmTAVL& main) = 0;
 };

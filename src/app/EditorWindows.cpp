@@ -78,6 +78,8 @@ bool EditorWindows::PrintEverything(frmTAVL& main) {
     return PrintDoor(main).Console().ShowEverything(main.HasPrintedSomething());
 }
 
+void EditorWindows::CheckPrinter(frmTAVL& main) { PrintDoor(main).Console().ShowCheckPrinter(); }
+
 void EditorWindows::Setup(frmTAVL& main) {
     // A new one each time, so that it shows what holds and not what was given up.
     if (frmColor(&main).ShowForm()) GameKit::SetPrintBlack(Settings().sProgramName);

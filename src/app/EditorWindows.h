@@ -26,6 +26,7 @@ public:
     bool ShowTokens(frmTAVL& main) override;
     bool Print(frmTAVL& main) override;
     bool PrintEverything(frmTAVL& main) override;
+    void CheckPrinter(frmTAVL& main) override;
     void Setup(frmTAVL& main) override;
 
 private:

@@ -48,6 +48,7 @@ constexpr Item kFileItems[] = {
     {6, "P&rinter Setup", "", Always},
     {7, "&Print...", "Ctrl+P", Always},
     {21, "Print &Everything...", "Ctrl+Shift+P", Always},
+    {23, "Chec&k the Printer...", "", Always},
     {8, "-", "", Never},
     {9, "E&xit", "Ctrl+Q", Always},
 };

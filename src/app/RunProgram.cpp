@@ -17,6 +17,7 @@
 #include "platform/text/Numbers.h"
 #include "services/basErrLog.h"
 #include "services/basPath.h"
+#include "services/PrinterCorrections.h"
 #include "services/ProgramSettings.h"
 #include "windowing/Application.h"
 #include "windowing/DesktopWidgets.h"
@@ -92,6 +93,7 @@ int Start(DesktopWidgets& desktop) {
 
     WidgetLook::SetWindowIcon(OwnFile("tavlora.png"));
     SystemPrinter printer(ConsoleSheets::PrintedFolder());
+    printer.Correct(PrinterCorrections::Of);
     Printer::Install(&printer);
     frmBMP::InstallAsThumbnailMaker();
     EditorWindows doors;

@@ -47,6 +47,8 @@ void frmTAVL::mnuFile_Click(int Index) try {
             return m_commands.OpenEarlier();
         case 21:
             return PrintEverything();
+        case 23:
+            return m_doors.CheckPrinter(*this);
         case 30:
             return m_sharing.Send();
         case 31:

@@ -40,6 +40,7 @@ public:
     bool ShowTokens(frmTAVL&) override { return Note(QStringLiteral("tokens")); }
     bool Print(frmTAVL&) override { return Note(QStringLiteral("print")); }
     bool PrintEverything(frmTAVL&) override { return Note(QStringLiteral("print everything")); }
+    void CheckPrinter(frmTAVL&) override { Note(QStringLiteral("check printer")); }
     void Setup(frmTAVL&) override { Note(QStringLiteral("setup")); }
 
     /// All doors opened since the last call.

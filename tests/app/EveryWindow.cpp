@@ -11,6 +11,7 @@
 #include "windows/check/frmBeforePrint.h"
 #include "windows/check/frmCheck.h"
 #include "windows/check/GameChecker.h"
+#include "windows/checkpage/CheckPrinter.h"
 #include "windows/editors/frmEditCenter.h"
 #include "windows/editors/frmEditCorner.h"
 #include "windows/editors/frmEditMoney.h"
@@ -120,6 +121,7 @@ std::vector<EveryWindowTest::Door> EveryWindowTest::PrintDoors() {
         {"frmTavlPrint", [] { frmTavlPrint().ShowForm(false); }},
         {"PrintEverything", [] { PrintEverything().ShowForm(false); }},
         {"PrintWithoutKit", [] { PrintWithoutKit().ShowForm(); }},
+        {"CheckPrinter", [] { CheckPrinter().ShowForm(); }},
         {"PdfReady",
          [] {
              PdfReady ready(QStringLiteral("Rules.pdf"), Sheets().back(), nullptr);

@@ -10,6 +10,7 @@
 #include "windows/check/frmBeforePrint.h"
 #include "windows/check/frmCheck.h"
 #include "windows/check/GameChecker.h"
+#include "windows/checkpage/CheckPrinter.h"
 #include "windows/editors/frmEditCenter.h"
 #include "windows/editors/frmEditCorner.h"
 #include "windows/editors/frmEditMoney.h"
@@ -90,6 +91,7 @@ protected:
         add(new frmTavlPrint);
         add(new PrintEverything);
         add(new PrintWithoutKit);
+        add(new CheckPrinter);
         add(new PdfReady(PathOf(QStringLiteral("Rules.pdf")), Sheets().back(), nullptr));
         add(new PrintPreview);
         add(new frmPieces(QString()));

@@ -180,6 +180,7 @@ TEST_F(ToolBarAndMenusTest, MenusCarryTheirCaptionsAndShortcuts) {
         {"mnuFile_9", "E&xit", "Ctrl+Q", true},
         {"mnuFile_20", "&Duplicate", "", true},
         {"mnuFile_21", "Print &Everything...", "Ctrl+Shift+P", true},
+        {"mnuFile_23", "Chec&k the Printer...", "", true},
         {"mnuFile_22", "Earlier &Versions...", "", true},
         {"mnuNewFrom", "New &From", "", true},
         {"mnuRecent", "Recen&t Games", "", true},
@@ -223,12 +224,13 @@ TEST_F(ToolBarAndMenusTest, TheFileMenuHasAGroupForEachPurpose) {
             groups.last() += action->text().remove(u'&').remove(QStringLiteral("...")) + u'|';
         }
     }
-    EXPECT_EQ(groups,
-              (Strings{QStringLiteral("New|New Geme Wizard|New From|Open|Recent Games|Save|Save As|Duplicate|"
-                                      "Earlier Versions|"),
-                       QStringLiteral("Deal Photos|Find Missing Pictures|"),
-                       QStringLiteral("Send to a Friend|Save a Picture of the Board|Save a Picture of a Piece|"),
-                       QStringLiteral("Printer Setup|Print|Print Everything|"), QStringLiteral("Exit|")}));
+    EXPECT_EQ(
+        groups,
+        (Strings{QStringLiteral("New|New Geme Wizard|New From|Open|Recent Games|Save|Save As|Duplicate|"
+                                "Earlier Versions|"),
+                 QStringLiteral("Deal Photos|Find Missing Pictures|"),
+                 QStringLiteral("Send to a Friend|Save a Picture of the Board|Save a Picture of a Piece|"),
+                 QStringLiteral("Printer Setup|Print|Print Everything|Check the Printer|"), QStringLiteral("Exit|")}));
 }
 
 TEST_F(ToolBarAndMenusTest, WhatCanBeChosenIsAskedAnewWheneverAMenuOpens) {
@@ -243,11 +245,11 @@ TEST_F(ToolBarAndMenusTest, WhatCanBeChosenIsAskedAnewWheneverAMenuOpens) {
 
 TEST_F(ToolBarAndMenusTest, MenusRunTheirCommands) {
     for (const char* item :
-         {"mnuView_1", "mnuView_2", "mnuView_3", "mnuView_4", "mnuView_8", "mnuFile_7", "mnuFile_21"})
+         {"mnuView_1", "mnuView_2", "mnuView_3", "mnuView_4", "mnuView_8", "mnuFile_7", "mnuFile_21", "mnuFile_23"})
         ChooseMenu(item);
     EXPECT_EQ(routes.Take(), (Strings{QStringLiteral("money"), QStringLiteral("news 0"), QStringLiteral("news 1"),
                                       QStringLiteral("tokens"), QStringLiteral("setup"), QStringLiteral("print"),
-                                      QStringLiteral("print everything")}));
+                                      QStringLiteral("print everything"), QStringLiteral("check printer")}));
     for (const int nothing : {1, 5, 8})
         window->mnuFile_Click(nothing);
     window->mnuHelp_Click(2);

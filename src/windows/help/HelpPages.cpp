@@ -41,6 +41,7 @@ constexpr Row kRows[] = {
     {"PrintPreview", "print.html"},
     {"PrintWithoutKit", "print.html"},
     {"PdfReady", "print.html"},
+    {"CheckPrinter", "print.html"},
     {"frmMissingPictures", "pictures.html"},
     {"frmDealPhotos", "pictures.html"},
     {"frmEarlierVersions", "board.html"},

@@ -16,6 +16,7 @@ constexpr WhatIsThis::Row kRows[] = {
     {"frmTAVL", "mnuFile_20", "Makes a copy of the game to play about with, and opens it."},
     {"frmTAVL", "mnuFile_21", "Prints the whole kit in one go, and tells what paper that takes."},
     {"frmTAVL", "mnuFile_22", "Shows what the game was like before its last saves, and opens one of these states."},
+    {"frmTAVL", "mnuFile_23", "Shows how far the printer prints beside the place, and puts it right."},
     {"frmTAVL", "mnuFile_30", "Puts the game with all its pictures into one file that you can give away."},
     {"frmTAVL", "mnuFile_31", "Saves the board as a picture, an SVG drawing or a PDF page."},
     {"frmTAVL", "mnuFile_32",

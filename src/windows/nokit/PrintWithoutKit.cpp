@@ -10,6 +10,7 @@
 #include "services/basErrLog.h"
 #include "services/basPath.h"
 #include "services/Desktop.h"
+#include "services/PrinterCorrections.h"
 #include "windowing/basCommon_forms.h"
 #include "windowing/ElidedLabel.h"
 #include "windowing/HourGlass.h"
@@ -88,6 +89,7 @@ void PrintWithoutKit::Make() {
     Files::MakeDirectory(ConsoleSheets::PrintedFolder(), error);
     error.clear();
     NoKitPrint::Job job{[this](const QString& sWhat, int iThousandths) { return Tell(sWhat, iThousandths); }};
+    job.correction = PrinterCorrections::OfPrinter({});
     bool made = false;
     {
         const HourGlass working;

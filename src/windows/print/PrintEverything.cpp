@@ -9,6 +9,7 @@
 #include "services/basErrLog.h"
 #include "services/basPath.h"
 #include "services/Desktop.h"
+#include "services/PrinterCorrections.h"
 #include "windowing/basCommon_forms.h"
 #include "windowing/ElidedLabel.h"
 #include "windowing/HourGlass.h"
@@ -155,6 +156,7 @@ void PrintEverything::PrintIntoFile(const std::vector<WholeKit::Run>& runs) {
     error.clear();
     PdfPrinter printer(path, ConsoleSheets::DocumentName(GameHost::Current().GameName(), kTitleOfPdf),
                        Printer::Current()->PaperOfFiles());
+    printer.Correct(PrinterCorrections::OfPrinter({}));
     bool written = false;
     const WholeKit::Outcome outcome = Paint(printer, runs, [&] { written = printer.Close(error); });
     if (outcome.sheet) return TellWhatIsLacking(outcome);

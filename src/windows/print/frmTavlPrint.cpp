@@ -11,10 +11,12 @@
 #include "services/basAPI.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
+#include "services/PrinterCorrections.h"
 #include "windowing/ElidedLabel.h"
 #include "windowing/PictureBox.h"
 #include "windowing/Screen.h"
 #include "windowing/WidgetLook.h"
+#include "windows/checkpage/CheckPrinter.h"
 #include "windows/nokit/PrintWithoutKit.h"
 #include "windows/print/ChangePrinter.h"
 #include "windows/print/frmPrntPrep.h"
@@ -73,6 +75,16 @@ void frmTavlPrint::ShowDestination() {
     const QString paper =
         printer ? QStringLiteral("\nSheets are laid out for ") + printer->PagePaper().Name() + u'.' : QString();
     WidgetLook::SetToolTip(*cboPaper, QStringLiteral("The size of the paper in the printer.") + paper);
+    ShowCorrection();
+}
+
+void frmTavlPrint::ShowCorrection() {
+    const Printer* const printer = Printer::Current();
+    const PageCorrection correction =
+        printer ? PrinterCorrections::Of(printer->DeviceName(), printer->PagePaper()) : PageCorrection();
+    lblCorrection->SetWholeText(QStringLiteral("Corrected: ") + PrinterCorrections::Words(correction));
+    for (QWidget* control : {static_cast<QWidget*>(lblCorrection), static_cast<QWidget*>(cmdClearCorrection)})
+        control->setVisible(!correction.IsNothing());
 }
 
 void frmTavlPrint::cmdNav_Click(int Index) try {
@@ -127,6 +139,30 @@ void frmTavlPrint::cmdNoKit_Click() try {
     form.ShowForm();
 } catch (...) {
     ErrTop("frmTavlPrint!", "cmdNoKit_Click");
+}
+
+void frmTavlPrint::ShowCheckPrinter() try {
+    CheckPrinter form(this);
+    form.TellInPrint = [this](bool bNow) { TellInPrint(bNow); };
+    form.ShowForm();
+} catch (...) {
+    ErrTail("frmTavlPrint!", "ShowCheckPrinter");
+}
+
+void frmTavlPrint::cmdCheckPrinter_Click() try {
+    if (bInPrint) return;
+    ShowCheckPrinter();
+    ShowDestination();
+} catch (...) {
+    ErrTop("frmTavlPrint!", "cmdCheckPrinter_Click");
+}
+
+void frmTavlPrint::cmdClearCorrection_Click() try {
+    if (bInPrint || !Printer::Current()) return;
+    PrinterCorrections::Keep(Printer::Current()->DeviceName(), Printer::Current()->PagePaper(), {});
+    ShowDestination();
+} catch (...) {
+    ErrTop("frmTavlPrint!", "cmdClearCorrection_Click");
 }
 
 void frmTavlPrint::cboPaper_Activated(int Index) try {

@@ -43,6 +43,9 @@ public:
     /// The whole kit in one go, whether or not the console is open. Takes and gives the same.
     bool ShowEverything(bool bPrintStarted);
 
+    /// The page that shows whether the printer prints in its place, whether or not the console is open.
+    void ShowCheckPrinter();
+
     /// Place of the progress bar, 0 to 1000; hidden below 0. Each change lets events run once.
     int Progress() const { return m_lProgress; }
     void Let_Progress(int lValue);
@@ -69,6 +72,8 @@ public Q_SLOTS:
     void cmdTryAgain_Click();
     void cmdEverything_Click();
     void cmdNoKit_Click();
+    void cmdCheckPrinter_Click();
+    void cmdClearCorrection_Click();
     void cmdPreview_Click();
     void cboPaper_Activated(int Index);
     void Command1_Click();
@@ -88,7 +93,9 @@ private:
     void PlaceControls();
     void PlaceDestination(const QRect& room);
     void Form_Load();
+    void AddCorrection(QVBoxLayout* column);
     void ShowDestination();
+    void ShowCorrection();
 
     // A job.
     Printer& JobPrinter();
@@ -121,6 +128,8 @@ private:
     ElidedLabel* lblPiece = nullptr;
     QPushButton* cmdTryAgain = nullptr;
     QLabel* lblPrinter = nullptr;
+    ElidedLabel* lblCorrection = nullptr;
+    QPushButton* cmdClearCorrection = nullptr;
     QComboBox* cboPaper = nullptr;
     QPushButton* cmdPreview = nullptr;
     PictureBox* picTest = nullptr;

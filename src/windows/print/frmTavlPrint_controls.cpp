@@ -88,7 +88,29 @@ void frmTavlPrint::AddMenuButtons(QVBoxLayout* column) {
     auto* noKit = MakeButton(column->parentWidget(), QStringLiteral("cmdNoKit"), QStringLiteral("I &have no kit..."),
                              QStringLiteral("Print the game on plain paper and card"));
     connect(noKit, &QPushButton::clicked, this, &frmTavlPrint::cmdNoKit_Click);
-    column->addWidget(noKit);
+    auto* check =
+        MakeButton(column->parentWidget(), QStringLiteral("cmdCheckPrinter"), QStringLiteral("Chec&k the Printer..."),
+                   QStringLiteral("See whether the printer prints in its place, and put it right"));
+    connect(check, &QPushButton::clicked, this, &frmTavlPrint::cmdCheckPrinter_Click);
+    // In one row, as the window keeps its size.
+    auto* row = new QHBoxLayout;
+    row->addWidget(noKit, 1);
+    row->addWidget(check, 1);
+    column->addLayout(row);
+    AddCorrection(column);
+}
+
+void frmTavlPrint::AddCorrection(QVBoxLayout* column) {
+    lblCorrection = Named(new ElidedLabel(column->parentWidget()), "lblCorrection");
+    cmdClearCorrection = MakeButton(column->parentWidget(), QStringLiteral("cmdClearCorrection"),
+                                    QStringLiteral("C&lear"), QStringLiteral("Print sheets as they are from now on"));
+    connect(cmdClearCorrection, &QPushButton::clicked, this, &frmTavlPrint::cmdClearCorrection_Click);
+    auto* row = new QHBoxLayout;
+    row->addWidget(lblCorrection, 1);
+    row->addWidget(cmdClearCorrection);
+    column->addLayout(row);
+    lblCorrection->hide();
+    cmdClearCorrection->hide();
 }
 
 void frmTavlPrint::AddButtons(Frame frame, QVBoxLayout* column) {
