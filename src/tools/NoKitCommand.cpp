@@ -3,6 +3,7 @@
 
 #include "nokit/NoKitPrint.h"
 #include "nokit/ServicePictures.h"
+#include "services/PrinterCorrections.h"
 #include "tools/PrintArguments.h"
 
 namespace NoKitCommand {
@@ -16,6 +17,7 @@ public:
         : m_arguments(arguments), m_choices(arguments.noKit), m_sheets(NoKitPrint::SheetsOf(arguments.sheets)),
           m_voice(voice), m_job{voice.Progress} {
         m_choices.sheets = arguments.sheets;
+        if (arguments.forPrinter) m_job.correction = PrinterCorrections::OfPrinter(*arguments.forPrinter);
     }
 
     bool Print(const QString& sTitle) {

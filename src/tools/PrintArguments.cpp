@@ -35,6 +35,8 @@ private:
         if (sOption == QStringLiteral("--version")) return Flag(m_arguments.bVersion);
         if (sOption == QStringLiteral("--list")) return Flag(m_arguments.bList);
         if (sOption == QStringLiteral("--guide")) return Flag(m_arguments.bGuide);
+        if (sOption == QStringLiteral("--check-page")) return Flag(m_arguments.bCheckPage);
+        if (sOption == QStringLiteral("--for-printer")) return ForPrinter();
         if (sOption == QStringLiteral("--check")) return Flag(m_arguments.bCheck);
         if (sOption == QStringLiteral("--json")) return Flag(m_arguments.bJson);
         if (sOption == QStringLiteral("-o") || sOption == QStringLiteral("--output")) return Text(m_arguments.sOutput);
@@ -109,6 +111,13 @@ private:
                      {QStringLiteral("8"), QStringLiteral("5"), QStringLiteral("2A"), QStringLiteral("2")});
     }
 
+    bool ForPrinter() {
+        QString printer;
+        if (!Text(printer)) return false;
+        m_arguments.forPrinter = printer == QStringLiteral("-") ? QString() : printer;
+        return true;
+    }
+
     // A word and, behind it, a file.
     bool Piece() {
         if (!Text(m_arguments.sPiece)) return false;
@@ -151,6 +160,13 @@ private:
                Fail(QStringLiteral("option '%1' goes with --no-kit").arg(m_noKitOption));
     }
 
+    bool IsCheckPageComplete() {
+        if (m_arguments.sOutput.isEmpty())
+            return Fail(QStringLiteral("the check page needs a file to go to: -o FILE.pdf"));
+        if (m_arguments.sGame.isEmpty()) return true;
+        return Fail(QStringLiteral("the check page is the same for every game: --check-page goes without one"));
+    }
+
     bool IsGuideComplete() {
         if (m_arguments.sOutput.isEmpty()) return Fail(QStringLiteral("the guide needs a file to go to: -o FILE.pdf"));
         if (m_arguments.sGame.isEmpty()) return true;
@@ -161,6 +177,9 @@ private:
         const PrintArguments& asked = m_arguments;
         if (asked.bHelp || asked.bVersion || asked.bList) return true;
         if (asked.bGuide) return IsGuideComplete();
+        if (asked.bCheckPage) return IsCheckPageComplete();
+        if (asked.forPrinter && asked.sOutput.isEmpty())
+            return Fail(QStringLiteral("option '--for-printer' needs sheets that go to a file: -o FILE.pdf"));
         if (asked.sGame.isEmpty()) return Fail(QStringLiteral("no game file was given"));
         const bool toGo = !asked.sOutput.isEmpty() || !asked.sPages.isEmpty() || !asked.sCutLines.isEmpty();
         if (!toGo && !asked.sheets.isEmpty()) return Fail(QStringLiteral("sheets need a file to go to: -o FILE.pdf"));
@@ -199,6 +218,7 @@ QString PrintArguments::Usage() {
   tavlora-print GAME.gam --no-kit -o ALL.pdf        everything of a game on plain paper and card
   tavlora-print GAME.gam --service DIR              pictures for a printing service, and a list of their sizes
   tavlora-print --guide -o GUIDE.pdf                how a game is put together, with pictures
+  tavlora-print --check-page -o CHECK.pdf           the page that shows how far a printer prints beside the place
   tavlora-print --list                              the sheets: name, title, stock, orientation
 
 Each of them takes a packed game (GAME.tavlora) in place of GAME.gam.
@@ -221,6 +241,8 @@ Options:
   --cut-lines DIR       beside --no-kit: where each page is cut and folded, as SVG for a cutting machine
   --small-pictures      --pack puts pictures in only as large as paper shows them
   --data DIR            take the program's own data files (rents, rules, pictures) from DIR
+  --for-printer NAME    corrects the pages for this printer, as Check the Printer in Tavlora has found for its
+                        paper; - for PDF files that are printed elsewhere
   --check               beside what is made: warns of all that would come out badly on paper; without it
                         printing warns of what its sheets show
   --help, --version

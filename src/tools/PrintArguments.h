@@ -39,6 +39,10 @@ struct PrintArguments {
     QString sPages;
     /// The kit's guide goes to the output, in place of a game.
     bool bGuide = false;
+    /// The page that shows what a printer does to its pages goes to the output, in place of a game.
+    bool bCheckPage = false;
+    /// The printer whose correction is done to the pages; nothing for none, and empty for that of files.
+    std::optional<QString> forPrinter;
     /// Look the game over, and warn of what is found where something is made, too.
     bool bCheck = false;
     /// Tell what was found in a form for scripts.

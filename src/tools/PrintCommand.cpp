@@ -158,6 +158,8 @@ int PrintCommand::Carry(const PrintArguments& arguments) {
     PrintDesktop desktop([this](const QString& sText) { Complain(sText); });
     try {
         PrepareSettings(arguments, privateFolder.Path());
+        if (arguments.bCheckPage) return PrintCheckPage(arguments);
+        if (!KnowsPrinter(arguments)) return kFailed;
         // Of no name that a made picture could have.
         const TemporaryFolder unpacked(privateFolder.Path());
         PrintArguments carried = arguments;

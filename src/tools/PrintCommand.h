@@ -41,6 +41,9 @@ private:
     /// Each sheet as a picture into a folder, which is made if need be. False when one isn't there.
     bool PaintPages(const PrintArguments& arguments, const QStringList& asked);
     int PrintGuide(const PrintArguments& arguments);
+    int PrintCheckPage(const PrintArguments& arguments);
+    /// False, and tells so, when sheets are wanted for a printer that hasn't been checked with their paper.
+    bool KnowsPrinter(const PrintArguments& arguments);
     /// What is for plain paper and card, a cutting machine or a printing service.
     bool PrintWithoutKit(const PrintArguments& arguments);
     int PrintSheetsOf(const PrintArguments& arguments, const QStringList& asked);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The sheets of the game in memory, and the guide.
+#include "calibration/CheckPage.h"
 #include "kit/Sheets.h"
 #include "platform/files/Console.h"
 #include "platform/files/Files.h"
@@ -9,6 +10,7 @@
 #include "platform/printing/SaveHtml.h"
 #include "services/basPath.h"
 #include "services/Guide.h"
+#include "services/PrinterCorrections.h"
 #include "tools/NoKitCommand.h"
 #include "tools/PrintArguments.h"
 #include "tools/PrintCommand.h"
@@ -76,6 +78,7 @@ int PrintCommand::PrintSheetsOf(const PrintArguments& arguments, const QStringLi
     const QStringList sheets = WithoutLeftOut(asked);
     if (sheets.isEmpty()) return kFailed;
     PdfPrinter printer(arguments.sOutput, TitleOf(arguments.sGame), arguments.Paper(), arguments.iDpi);
+    if (arguments.forPrinter) printer.Correct(PrinterCorrections::OfPrinter(*arguments.forPrinter));
     PhotosAhead ahead(PhotosOf(sheets));
     int number = 0;
     for (const QString& name : sheets) {
@@ -113,6 +116,29 @@ bool PrintCommand::PaintPages(const PrintArguments& arguments, const QStringList
     }
     EndProgress();
     return sheets.size() == asked.size();
+}
+
+int PrintCommand::PrintCheckPage(const PrintArguments& arguments) {
+    PdfPrinter printer(arguments.sOutput, QStringLiteral("Printer Check"), arguments.Paper(), arguments.iDpi);
+    if (arguments.forPrinter) printer.Correct(PrinterCorrections::OfPrinter(*arguments.forPrinter));
+    CheckPage::Paint(printer, QStringLiteral("Print it at actual size (100 %), never \"fit to page\"."));
+    printer.EndDoc();
+    QString error;
+    if (printer.Close(error)) return kDone;
+    Complain(QStringLiteral("'%1' could not be written: %2").arg(arguments.sOutput, error));
+    return kFailed;
+}
+
+bool PrintCommand::KnowsPrinter(const PrintArguments& arguments) {
+    if (!arguments.forPrinter) return true;
+    const PaperOfPage paper = PaperOfPage::Of(arguments.noKit.PaperInches(), {}, {});
+    if (!PrinterCorrections::Of(*arguments.forPrinter, paper).IsNothing()) return true;
+    const QString printer = arguments.forPrinter->isEmpty()
+                                ? QStringLiteral("PDF files")
+                                : QStringLiteral("the printer '%1'").arg(*arguments.forPrinter);
+    Complain(QStringLiteral("there is no correction of %1 for %2 paper; Check the Printer in Tavlora makes one")
+                 .arg(printer, paper.Name()));
+    return false;
 }
 
 int PrintCommand::PrintGuide(const PrintArguments& arguments) {
