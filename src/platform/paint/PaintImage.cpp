@@ -108,8 +108,8 @@ bool IsDrawing(const QImage& image) {
     return colors.size() <= kMostColors || double(flat) > kMostlyFlat * pixels;
 }
 
-/// Pictures prepared for paper last. A page that shows one picture several times stores it once only when it
-/// is handed the same pixels each time.
+/// Pictures prepared for paper last. A file that shows one picture several times stores it once only when it is handed
+/// the same pixels each time, also where the picture was read anew for another sheet.
 class PreparedPictures {
 public:
     struct Key {
@@ -126,27 +126,48 @@ public:
     };
 
     const Prepared& Get(const Key& key, const QImage& image) {
-        for (const Prepared& prepared : m_prepared) {
-            if (prepared.key == key) return prepared;
+        for (const Kept* kept : {&m_small, &m_large}) {
+            for (const Prepared& prepared : kept->pictures) {
+                if (prepared.key == key) return prepared;
+            }
         }
         QImage pixels =
             key.part == QRectF(image.rect()) && key.size == image.size() ? image : Resample(image, key.part, key.size);
         if (pixels.depth() != 32) pixels = pixels.convertToFormat(QImage::Format_ARGB32_Premultiplied);
         if (key.withoutWhite) pixels = WithoutWhite(pixels);
-        m_bytes += pixels.sizeInBytes();
-        m_prepared.push_back({key, pixels, IsDrawing(pixels)});
-        // A photograph that stands on two sheets is still known on the second.
-        constexpr qint64 kMostBytes = qint64(8) << 20;
-        while (m_bytes > kMostBytes && m_prepared.size() > 1) {
-            m_bytes -= m_prepared.front().image.sizeInBytes();
-            m_prepared.pop_front();
+        Kept& kept = pixels.sizeInBytes() <= kMostBytesOfSmall ? m_small : m_large;
+        for (const Prepared& prepared : kept.pictures) {
+            if (prepared.image != pixels) continue;
+            const Prepared again{key, prepared.image, prepared.drawing};
+            return kept.Add(again);
         }
-        return m_prepared.back();
+        return kept.Add({key, pixels, IsDrawing(pixels)});
     }
 
 private:
-    std::deque<Prepared> m_prepared;
-    qint64 m_bytes = 0;
+    /// A photograph that stands on two sheets is still known on the second.
+    struct Kept {
+        explicit Kept(int megabytes) : mostBytes(qint64(megabytes) << 20) {}
+
+        std::deque<Prepared> pictures;
+        qint64 bytes = 0;
+        qint64 mostBytes;
+
+        const Prepared& Add(const Prepared& prepared) {
+            bytes += prepared.image.sizeInBytes();
+            pictures.push_back(prepared);
+            while (bytes > mostBytes && pictures.size() > 1) {
+                bytes -= pictures.front().image.sizeInBytes();
+                pictures.pop_front();
+            }
+            return pictures.back();
+        }
+    };
+
+    // Ornaments and arrows come again on many sheets; photographs in between don't drive them out.
+    static constexpr qint64 kMostBytesOfSmall = qint64(128) << 10;
+    Kept m_small{2};
+    Kept m_large{8};
 };
 
 // As many as there are at most. A pixel too many is no reason to blur a picture that was brought to its size
