@@ -119,8 +119,10 @@ std::vector<PaperText> PaperTextsOf(const Game& game, const GamePiece& piece) {
     const DrawingAside aside;
     std::vector<PaperText> texts;
     TextList list(texts);
+    // The head of a deck comes with its first card.
+    const GamePiece::Kind kind = piece.kind == GamePiece::Kind::Deck ? GamePiece::Kind::Card : piece.kind;
     for (const Parts& parts : kParts) {
-        if (parts.kind == piece.kind) parts.add(list, game, piece.iDeck * basTAVL::kCards + piece.iNumber);
+        if (parts.kind == kind) parts.add(list, game, piece.iDeck * basTAVL::kCards + piece.iNumber);
     }
     std::erase_if(texts, [&](const PaperText& text) { return !(text.piece == piece); });
     return texts;

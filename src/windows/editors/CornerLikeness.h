@@ -12,6 +12,7 @@ public:
     /// Private copy being edited.
     C_Corner oCorner;
 
+    GamePiece Piece() const override { return GamePiece::Corner(m_iCorner); }
     QSize Size() const override;
     C_FontInfo& Font() override { return oCorner.Font; }
     C_Image& Image() override { return oCorner.Image; }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "windows/editors/EditWindow.h"
 
+#include "check/PaperHint.h"
 #include "document/basTAVL.h"
 #include "game/Session.h"
 #include "pictures/C_Image.h"
@@ -13,6 +14,7 @@
 #include "windowing/PictureBox.h"
 #include "windows/editors/HoldFocusBox.h"
 #include "windows/editors/ImageGroup.h"
+#include "windows/editors/PaperLine.h"
 #include "windows/editors/Redrawing.h"
 #include "windows/pictures/DroppedFiles.h"
 #include "windows/pictures/UnsavedChanges.h"
@@ -76,10 +78,16 @@ void EditWindow::Redraw() try {
     picDest->Refresh();
     txtBitmapPath->SetWholeText(m_likeness.Image().FullPath());
     ShowLegend();
+    TellOnPaper();
     ShowTyping();
     redrawing.ShowMessages();
 } catch (...) {
     ErrTail(m_wording.sModule, "Redraw");
+}
+
+void EditWindow::TellOnPaper() {
+    UsePicDest();
+    lblPaper->Tell(PaperHint(m_likeness.ChangeOf(m_session.InHand()).after, m_likeness.Piece()));
 }
 
 void EditWindow::FitText(const QString& sText) {

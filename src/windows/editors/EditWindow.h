@@ -77,6 +77,7 @@ private:
     void Prepare(QWidget& control);
     void BuildHidden();
     void ShowLegend();
+    void TellOnPaper();
     void Connect();
 
     // Mouse and tips, in EditWindow_mouse.cpp.

@@ -9,6 +9,7 @@
 #include "windowing/WidgetLook.h"
 #include "windows/editors/HoldFocusBox.h"
 #include "windows/editors/ImageGroup.h"
+#include "windows/editors/PaperLine.h"
 
 #include <QCheckBox>
 #include <QGroupBox>
@@ -16,6 +17,8 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace {
 
@@ -55,6 +58,8 @@ QWidget* EditWindow::BuildLikeness() {
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(picDest);
     layout->addWidget(txtlegend);
+    lblPaper->KeepRoom(std::max(picDest->width(), txtlegend->sizeHint().width()));
+    layout->addWidget(lblPaper);
     layout->addStretch();
     return area;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "check/GamePiece.h"
 #include "game/Edit.h"
 #include "windows/editors/TextSelection.h"
 
@@ -38,6 +39,8 @@ public:
 
     virtual ~Likeness() = default;
 
+    /// Whose likeness it is.
+    virtual GamePiece Piece() const = 0;
     /// Size that shows the whole of it.
     virtual QSize Size() const = 0;
     virtual C_FontInfo& Font() = 0;

@@ -11,6 +11,7 @@ public:
     /// Private copy being edited.
     C_Space oSpace;
 
+    GamePiece Piece() const override { return GamePiece::Space(m_iSpace); }
     QSize Size() const override;
     C_FontInfo& Font() override { return oSpace.Font; }
     C_Image& Image() override { return oSpace.Image; }

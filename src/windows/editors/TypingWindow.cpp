@@ -5,6 +5,7 @@
 #include "services/basErrLog.h"
 #include "windowing/PictureBox.h"
 #include "windows/editors/HoldFocusBox.h"
+#include "windows/editors/PaperLine.h"
 #include "windows/editors/TextMenu.h"
 #include "windows/editors/TipLabel.h"
 
@@ -15,7 +16,7 @@ using basEditTextArray::KeyResult;
 
 TypingWindow::TypingWindow(const char* sModule, const char* sTip, QWidget* parent)
     : QDialog(parent), picDest(new PictureBox(this)), txtHoldFocus(new HoldFocusBox(this)),
-      m_tip(new TipLabel(sTip, this)), m_sModule(sModule) {
+      m_tip(new TipLabel(sTip, this)), lblPaper(new PaperLine(this)), m_sModule(sModule) {
     picDest->setObjectName(QStringLiteral("picDest"));
     picDest->ScaleMode = ScaleModeKind::Pixels;
     txtHoldFocus->installEventFilter(this);
@@ -55,7 +56,7 @@ void TypingWindow::Form_KeyPress(const QString& sText) try {
 
 void TypingWindow::StoreTyped(KeyResult result, const QStringList& sTextLines, const Typed& before) {
     // What a line had no room for is told though nothing came of it.
-    TellLoss({});
+    lblPaper->TellLoss({});
     const bool changed = result == KeyResult::TextChanged;
     // A key that did nothing to the text may still have collapsed the selection.
     if (changed || !(m_selection == before.selection)) {
@@ -71,18 +72,15 @@ void TypingWindow::StoreTyped(KeyResult result, const QStringList& sTextLines, c
 void TypingWindow::Step(bool bUndo) {
     const std::optional<TypedHistory::State> state = bUndo ? m_history.Undo(State()) : m_history.Redo(State());
     if (!state) return;
-    TellLoss({});
+    lblPaper->TellLoss({});
     KeepTyped(state->sTextLines);
     if (m_selection.IsOn()) m_selection = state->selection;
     TypedText::KeepWithin(m_selection, GetTextArray());
     Redraw();
 }
 
-// Below the picture, where it hides nothing that is being typed.
 void TypingWindow::TellLoss(const Typed& before) {
-    const QString sLoss = TypedText::Loss(before.sText, before.sTextLines, GetTextArray(), MostInLine());
-    const QRect picture(picDest->mapTo(this, QPoint(0, 0)), picDest->size());
-    m_tip->ShowUnder(sLoss, {picture.center().x(), picture.bottom()});
+    lblPaper->TellLoss(TypedText::Loss(before.sText, before.sTextLines, GetTextArray(), MostInLine()));
 }
 
 void TypingWindow::PlaceCaretBehind() {

@@ -12,6 +12,7 @@
 #include <optional>
 
 class HoldFocusBox;
+class PaperLine;
 class PictureBox;
 class TipLabel;
 
@@ -60,6 +61,8 @@ protected:
     PictureBox* const picDest;
     HoldFocusBox* const txtHoldFocus;
     TipLabel* const m_tip;
+    /// Told anew with each redraw; where it stands is for the editor.
+    PaperLine* const lblPaper;
 
 private:
     bool TakesKey(const QKeyEvent& event);

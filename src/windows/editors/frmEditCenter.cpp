@@ -13,6 +13,7 @@
 #include "windowing/Screen.h"
 #include "windowing/WidgetLook.h"
 #include "windows/editors/HoldFocusBox.h"
+#include "windows/editors/PaperLine.h"
 #include "windows/editors/TipLabel.h"
 
 #include <QLabel>
@@ -63,6 +64,8 @@ const AreaRow& RowOf(int iArea) { return kArea[iArea - 1]; }
 constexpr TwipsRect kForm{0, 0, 10350, 4515};
 // As wide as the areas below it, and of the title box's proportions.
 constexpr TwipsRect kLogo{7000, 855, 3100, 690};
+// Below the subtitle, beside the buttons.
+constexpr TwipsRect kPaper{240, 3480, 6435, 960};
 constexpr TwipsRect kOk{7000, 3900, 1425, 390};
 constexpr TwipsRect kCancel{8675, 3900, 1425, 390};
 // Labels end where their area begins; in pixels.
@@ -77,7 +80,8 @@ frmEditCenter::frmEditCenter(Session& session, QWidget* parent)
     : QDialog(parent), m_session(session), picForm(new PictureBox(this)), cmdLogo(new QLabel(this)),
       cmdOK(MakeButton("cmdOK", QStringLiteral("&OK"), QStringLiteral("Click to Save Your Changes"))),
       cmdCancel(MakeButton("cmdCancel", QStringLiteral("&Cancel"), QStringLiteral("Click to Undo Your Changes"))),
-      txtHoldFocus(new HoldFocusBox(this)), txtToolTip(new TipLabel("txtToolTip", this)) {
+      txtHoldFocus(new HoldFocusBox(this)), txtToolTip(new TipLabel("txtToolTip", this)),
+      lblPaper(new PaperLine(this)) {
     setObjectName(QStringLiteral("frmEditCenter"));
     setWindowTitle(QStringLiteral("Edit Game Titles"));
     picForm->setObjectName(QStringLiteral("picForm"));
@@ -124,6 +128,7 @@ void frmEditCenter::Form_Load() {
     cmdLogo->setText(QStringLiteral("Display Area for Logo"));
     cmdLogo->setGeometry(kLogo.Pixels(scale));
     cmdLogo->hide();
+    lblPaper->setGeometry(kPaper.Pixels(scale));
     cmdOK->setGeometry(kOk.Pixels(scale));
     cmdCancel->setGeometry(kCancel.Pixels(scale));
     txtHoldFocus->installEventFilter(this);

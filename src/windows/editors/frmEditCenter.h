@@ -16,6 +16,7 @@
 #include <optional>
 
 class HoldFocusBox;
+class PaperLine;
 class PictureBox;
 class QLabel;
 class QPushButton;
@@ -109,6 +110,7 @@ private:
     void StoreTyped(basEditTextArray::KeyResult result, const QStringList& sTextLines, const TextSelection& before,
                     const QString& sEntered = QString());
     void KeepLines(const QStringList& sTextLines);
+    void TellOnPaper();
     void Step(bool bUndo);
     TypedHistory::State State(int iArea);
     void EditAt(QPoint at);
@@ -140,4 +142,5 @@ private:
     HoldFocusBox* txtHoldFocus;
     /// Shows what an input method is composing.
     TipLabel* txtToolTip;
+    PaperLine* lblPaper;
 };

@@ -117,6 +117,7 @@ void frmEditCenter::Redraw(int iArea) try {
     Draw_ReleaseObjects();
     hDC.RestoreDC(depth);
     picForm->Refresh();
+    TellOnPaper();
 } catch (...) {
     ErrTail("frmEditCenter!", "Redraw", iArea);
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "board/basPosit.h"
+#include "check/PaperHint.h"
 #include "drawing/basDraw.h"
+#include "game/Session.h"
 #include "platform/paint/Units.h"
 #include "platform/text/NewLine.h"
 #include "services/basErrLog.h"
@@ -8,6 +10,7 @@
 #include "windowing/PictureBox.h"
 #include "windows/editors/frmEditCenter.h"
 #include "windows/editors/HoldFocusBox.h"
+#include "windows/editors/PaperLine.h"
 #include "windows/editors/TextMenu.h"
 #include "windows/editors/TipLabel.h"
 
@@ -105,15 +108,14 @@ void frmEditCenter::Form_KeyPress(const QString& sCharacters) try {
     if (!m_selection.IsOn() || m_iTextArea == kNoArea) return;
     const QString text = WhatMayBeTyped(sCharacters);
     if (!sCharacters.isEmpty() && text.isEmpty()) return;
+    lblPaper->TellLoss({});
     const QStringList linesBefore = LinesUnderEdit();
     QStringList lines = linesBefore;
     const TextSelection before = m_selection;
     const KeyResult result = TypedText::Feed(lines, m_selection, text);
     StoreTyped(result, lines, before, text);
     if (before.HasText()) return;
-    const QRect area = m_area[size_t(m_iTextArea)];
-    const QString sLoss = TypedText::Loss(text, linesBefore, LinesUnderEdit(), TypedText::kLongestLine);
-    txtToolTip->ShowUnder(sLoss, {area.center().x(), area.bottom()});
+    lblPaper->TellLoss(TypedText::Loss(text, linesBefore, LinesUnderEdit(), TypedText::kLongestLine));
 } catch (...) {
     ErrTop("frmEditCenter!", "Form_KeyPress", sCharacters);
 }
@@ -146,6 +148,13 @@ void frmEditCenter::StoreTyped(KeyResult result, const QStringList& sTextLines, 
 void frmEditCenter::KeepLines(const QStringList& sTextLines) {
     basDraw::Draw_SetHdc(&picForm->hDC());
     basPosit::SetSpecialText(m_titles.Text(m_iTextArea), m_iTextArea, TypedText::Joined(sTextLines));
+}
+
+void frmEditCenter::TellOnPaper() {
+    basDraw::Draw_SetHdc(&picForm->hDC());
+    Game game = m_session.InHand();
+    game.titles = m_titles;
+    lblPaper->Tell(m_iTextArea == kNoArea ? QString() : PaperHintOfTitle(game, m_iTextArea));
 }
 
 TypedHistory::State frmEditCenter::State(int iArea) {

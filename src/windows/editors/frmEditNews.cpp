@@ -3,6 +3,7 @@
 
 #include "board/basPosit.h"
 #include "board/basTAVL_news.h"
+#include "check/PaperHint.h"
 #include "document/basTAVL.h"
 #include "document/Subscript.h"
 #include "drawing/basDraw.h"
@@ -18,6 +19,7 @@
 #include "windowing/PictureBox.h"
 #include "windowing/WidgetLook.h"
 #include "windows/editors/BoxText.h"
+#include "windows/editors/PaperLine.h"
 
 #include <QBoxLayout>
 #include <QLabel>
@@ -43,28 +45,35 @@ QPoint CardCorner() {
 } // namespace
 
 frmEditNews::frmEditNews(Session& session, QWidget* parent)
-    : QDialog(parent), m_session(session), cmdPlaceHolder(new PictureBox(this)), lblPlace(new QLabel(this)),
-      lblTitle(new QLabel(this)), txtTitle(new QLineEdit(this)), txtSpace(new QPlainTextEdit(this)), cmdOK(nullptr) {
+    : QDialog(parent), m_session(session), cmdPlaceHolder(new PictureBox(this)), lblPaper(new PaperLine(this)),
+      lblPlace(new QLabel(this)), lblTitle(new QLabel(this)), txtTitle(new QLineEdit(this)),
+      txtSpace(new QPlainTextEdit(this)), cmdOK(nullptr) {
     setObjectName(QStringLiteral("frmEditNews"));
     setWindowTitle(QStringLiteral("Edit News"));
-    auto* const card = new QVBoxLayout;
-    card->addWidget(cmdPlaceHolder);
-    card->addWidget(lblPlace, 0, Qt::AlignHCenter);
-    card->addStretch();
-    lblPlace->setObjectName(QStringLiteral("lblPlace"));
     auto* const top = new QHBoxLayout;
-    top->addLayout(card);
+    top->addLayout(MakeCard());
     top->addLayout(MakeBoxes(), 1);
     auto* const all = new QVBoxLayout(this);
     all->setContentsMargins(0, 0, 0, 0);
     all->addLayout(top, 1);
     all->addLayout(MakeButtons());
-    cmdPlaceHolder->setObjectName(QStringLiteral("cmdPlaceHolder"));
-    cmdPlaceHolder->setFixedSize(basTAVL::kNewsCardWidth + 2 * CardCorner().x(),
-                                 basTAVL::kNewsCardHeight + 2 * CardCorner().y());
     ConnectBoxes();
     resize(sizeHint().width(), kHeight);
     basCommon::ShowEntireForm(*this);
+}
+
+QLayout* frmEditNews::MakeCard() {
+    cmdPlaceHolder->setObjectName(QStringLiteral("cmdPlaceHolder"));
+    cmdPlaceHolder->setFixedSize(basTAVL::kNewsCardWidth + 2 * CardCorner().x(),
+                                 basTAVL::kNewsCardHeight + 2 * CardCorner().y());
+    lblPaper->KeepRoom(basTAVL::kNewsCardWidth);
+    auto* const card = new QVBoxLayout;
+    lblPlace->setObjectName(QStringLiteral("lblPlace"));
+    card->addWidget(cmdPlaceHolder);
+    card->addWidget(lblPlace, 0, Qt::AlignHCenter);
+    card->addWidget(lblPaper, 0, Qt::AlignHCenter);
+    card->addStretch();
+    return card;
 }
 
 QLayout* frmEditNews::MakeBoxes() {
@@ -167,9 +176,13 @@ void frmEditNews::ShowCardText() {
 std::optional<Edit> frmEditNews::Change() {
     const bool otherTitle = txtTitle->text() != TitleOfDeck();
     if (!otherTitle && !Card().IsDifferentFrom(m_oNews)) return std::nullopt;
+    return ChangeOfGame();
+}
+
+Edit frmEditNews::ChangeOfGame() const {
     const int record = basTAVL::NewsTitleRecord(m_iGoodOrBad);
     SpecialText head = m_session.InHand().titles.Text(record);
-    if (otherTitle) {
+    if (txtTitle->text() != head.sText) {
         basDraw::Draw_SetHdc(&cmdPlaceHolder->hDC());
         basPosit::SetSpecialText(head, record, txtTitle->text());
     }
@@ -187,8 +200,18 @@ void frmEditNews::Redraw() try {
     basTAVL::NewsDrawTextToScreen(&hDC, at.x(), at.y(), m_iGoodOrBad, m_oNews);
     hDC.RestoreDC(depth);
     cmdPlaceHolder->Refresh();
+    TellOnPaper();
 } catch (...) {
     ErrTop("frmEditNews!", "Redraw");
+}
+
+// Of the box that is typed in.
+void frmEditNews::TellOnPaper() {
+    const GamePiece piece =
+        txtTitle->hasFocus() ? GamePiece::Deck(m_iGoodOrBad) : GamePiece::Card(m_iGoodOrBad, m_iCard);
+    const Game game = ChangeOfGame().after;
+    basDraw::Draw_SetHdc(&cmdPlaceHolder->hDC());
+    lblPaper->Tell(PaperHint(game, piece));
 }
 
 void frmEditNews::txtSpace_Change() try {

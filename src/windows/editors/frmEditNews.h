@@ -8,6 +8,7 @@
 #include <optional>
 
 class C_FontInfo;
+class PaperLine;
 class PictureBox;
 class QLabel;
 class QLayout;
@@ -49,12 +50,15 @@ private Q_SLOTS:
     void cmdCancel_Click();
 
 private:
+    QLayout* MakeCard();
     QLayout* MakeBoxes();
     QLayout* MakeButtons();
     QPushButton* MakeButton(const char* sName, const QString& sCaption, void (frmEditNews::*click)());
     void ConnectBoxes();
     void Fill();
     void ShowCardText();
+    Edit ChangeOfGame() const;
+    void TellOnPaper();
     std::optional<Edit> Change();
     void ChangeFont(C_FontInfo& oFont, const QString& sWhat);
     const C_News& Card() const;
@@ -71,6 +75,7 @@ private:
 
     /// Where the card is painted.
     PictureBox* cmdPlaceHolder;
+    PaperLine* lblPaper;
     QLabel* lblPlace;
     QLabel* lblTitle;
     QLineEdit* txtTitle;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "windows/editors/frmEditToken.h"
 
+#include "check/PaperHint.h"
 #include "document/basTAVL.h"
 #include "document/Subscript.h"
 #include "game/Session.h"
@@ -14,6 +15,7 @@
 #include "windowing/WidgetLook.h"
 #include "windows/editors/HoldFocusBox.h"
 #include "windows/editors/ImageGroup.h"
+#include "windows/editors/PaperLine.h"
 #include "windows/editors/Redrawing.h"
 #include "windows/pictures/DroppedFiles.h"
 #include "windows/pictures/frmBrowse.h"
@@ -67,9 +69,13 @@ std::optional<Edit> frmEditToken::Ask(int iToken) {
     TakeFocus();
     exec();
     if (!m_oToken.IsDifferentFrom(InGame())) return std::nullopt;
+    return ChangeOfGame();
+}
+
+Edit frmEditToken::ChangeOfGame() const {
     C_Token token = InGame();
     token.LoadFromObject(m_oToken);
-    return Edits::OfToken(m_session.InHand(), iToken, token);
+    return Edits::OfToken(m_session.InHand(), Index(), token);
 }
 
 const C_Token& frmEditToken::InGame() const {
@@ -97,6 +103,8 @@ void frmEditToken::Redraw() try {
     if (IsMissing(m_oToken.Image.Ref())) PaintMissingMark(*picDest, MarkPlaceOnToken(picDest->size()));
     picDest->Refresh();
     ShowInclude(HasImage() ? kImage : kText);
+    UsePicDest();
+    lblPaper->Tell(PaperHint(ChangeOfGame().after, GamePiece::Token(Index())));
     ShowTyping();
     redrawing.ShowMessages();
 } catch (...) {

@@ -93,6 +93,7 @@ private:
     void SetImagePath(const QString& sFullPath);
 
     const C_Token& InGame() const;
+    Edit ChangeOfGame() const;
 
     Session& m_session;
     C_Token m_oToken;

@@ -6,6 +6,7 @@
 #include "windowing/PictureBox.h"
 #include "windowing/WidgetLook.h"
 #include "windows/editors/HoldFocusBox.h"
+#include "windows/editors/PaperLine.h"
 
 #include <QButtonGroup>
 #include <QGroupBox>
@@ -50,6 +51,8 @@ QBoxLayout* frmEditToken::BuildPicture() {
     lblPlace->setObjectName(QStringLiteral("lblPlace"));
     lblPlace->setAlignment(Qt::AlignHCenter);
     layout->addWidget(lblPlace);
+    lblPaper->KeepRoom(kSide);
+    layout->addWidget(lblPaper);
     layout->addStretch();
     return layout;
 }
