@@ -222,20 +222,25 @@ void GameCommands::AutosaveWhatStays() {
 }
 
 void GameCommands::Open() {
-    if (!MayGo()) return;
+    const QString name = m_session.GameName();
+    OpenAskedFor(GameNames::FolderOf(name), GameNames::IsUnnamed(name) ? QString() : GameNames::FileNameOf(name));
+}
+
+bool GameCommands::OpenAskedFor(const QString& sFolder, const QString& sFile) {
+    if (!MayGo()) return false;
     dlgCommon.sDialogTitle = QStringLiteral("Open Game");
-    dlgCommon.sInitDir = GameNames::FolderOf(m_session.GameName());
-    dlgCommon.sFileName =
-        GameNames::IsUnnamed(m_session.GameName()) ? QString() : GameNames::FileNameOf(m_session.GameName());
+    dlgCommon.sInitDir = sFolder;
+    dlgCommon.sFileName = sFile;
     dlgCommon.sFilter = kOpenFilter;
     dlgCommon.sDefaultExt = kGameExtension;
     dlgCommon.sError.clear();
     if (!dlgCommon.ShowOpen()) {
         ShowDialogError();
         AutosaveWhatStays();
-        return;
+        return false;
     }
     LoadInstead(dlgCommon.sFileName);
+    return m_iLoadResult == 0;
 }
 
 void GameCommands::Carry(const QString& sRequest) {
@@ -303,7 +308,10 @@ void GameCommands::OpenRecent(const QString& sPath) {
     }
     const QString question = QStringLiteral("The game '%1' isn't in '%2' any more. Do you want to look for it?")
                                  .arg(GameNames::FileNameOf(sPath), GameNames::FolderOf(sPath));
-    if (MsgBox(question, vbYesNo | vbQuestion) == vbYes) Open();
+    if (MsgBox(question, vbYesNo | vbQuestion) != vbYes) return;
+    QString folder = GameNames::FolderOf(sPath);
+    if (!Files::Exists(folder)) folder = basCommon::GetMyGamesDirectory();
+    if (OpenAskedFor(folder, GameNames::FileNameOf(sPath))) RecentGames::Replace(sPath, m_session.GameName());
 }
 
 // The board paints itself from the game; nothing that is painted asks for the tokens.

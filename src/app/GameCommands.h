@@ -65,6 +65,8 @@ private:
     void LoadUnderItsName();
     bool SaveUnderItsName();
     void BeginGameFrom(const QString& sFile);
+    /// True when a game was chosen and read.
+    bool OpenAskedFor(const QString& sFolder, const QString& sFile);
     void LoadInstead(const QString& sPath);
     void NoteInUse();
     void ShowStep();

@@ -5,6 +5,7 @@
 #include "services/basErrLog.h"
 
 #include <QMenuBar>
+#include <QStyleOptionMenuItem>
 
 #include <algorithm>
 #include <utility>
@@ -92,6 +93,23 @@ constexpr Item kHelpItems[] = {
     {31, "What &Is This?\tShift+F1", "", Always},
 };
 
+constexpr const char* kAway = "away";
+
+// Draws what is away as what can't be chosen, and lets it be chosen all the same.
+class ListMenu : public QMenu {
+public:
+    using QMenu::QMenu;
+
+protected:
+    void initStyleOption(QStyleOptionMenuItem* option, const QAction* action) const override {
+        QMenu::initStyleOption(option, action);
+        if (!action->property(kAway).toBool()) return;
+        // Styles look at one or the other.
+        option->state &= ~QStyle::State_Enabled;
+        option->palette.setCurrentColorGroup(QPalette::Disabled);
+    }
+};
+
 void ChooseOf(const std::function<void(int)>& choose, int iEntry) try { choose(iEntry); } catch (...) {
     ErrTop("frmTAVL!", "MenuTriggered");
 }
@@ -131,14 +149,14 @@ void MainMenu::Choose(Menu menu, int Index) try { m_choose(menu, Index); } catch
 }
 
 void MainMenu::Update() {
-    for (const Entry& entry : m_entries) {
+    for (const Shown& entry : m_entries) {
         entry.action->setEnabled(entry.item->canBeChosen(m_session));
         if (entry.item->caption) entry.action->setText(entry.item->caption(m_session));
     }
 }
 
 void MainMenu::SetChecked(const char* sName, bool bChecked) {
-    for (const Entry& entry : m_entries) {
+    for (const Shown& entry : m_entries) {
         if (entry.action->objectName() != QLatin1String(sName)) continue;
         entry.action->setCheckable(true);
         entry.action->setChecked(bChecked);
@@ -146,7 +164,7 @@ void MainMenu::SetChecked(const char* sName, bool bChecked) {
 }
 
 void MainMenu::AddList(QMenu& menu, List list) {
-    auto* const sub = new QMenu(QString::fromLatin1(list.sCaption), &menu);
+    auto* const sub = new ListMenu(QString::fromLatin1(list.sCaption), &menu);
     sub->menuAction()->setObjectName(QString::fromLatin1(list.sName));
     const QList<QAction*> actions = menu.actions();
     const auto before = std::find_if(actions.begin(), actions.end(), [&list](const QAction* action) {
@@ -158,13 +176,15 @@ void MainMenu::AddList(QMenu& menu, List list) {
 
 void MainMenu::FillList(QMenu& menu, const List& list) try {
     menu.clear();
-    const QStringList entries = list.entries();
-    for (int i = 0; i < entries.size(); ++i) {
-        QAction* const action = menu.addAction(entries[i]);
+    const std::vector<Entry> entries = list.entries();
+    for (int i = 0; i < int(entries.size()); ++i) {
+        const Entry& entry = entries[size_t(i)];
+        QAction* const action = menu.addAction(entry.sCaption);
+        action->setProperty(kAway, entry.bAway);
         action->setObjectName(QString::fromLatin1(list.sName) + u'_' + QString::number(i));
         connect(action, &QAction::triggered, this, [choose = list.choose, i] { ChooseOf(choose, i); });
     }
-    if (entries.isEmpty()) menu.addAction(QStringLiteral("None yet"))->setEnabled(false);
+    if (entries.empty()) menu.addAction(QStringLiteral("None yet"))->setEnabled(false);
 } catch (...) {
     ErrTop("frmTAVL!", "FillList");
 }

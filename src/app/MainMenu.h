@@ -2,7 +2,7 @@
 #pragma once
 
 #include <QObject>
-#include <QStringList>
+#include <QString>
 
 #include <functional>
 #include <span>
@@ -32,13 +32,18 @@ public:
         /// What the entry is called just now, where that changes.
         QString (*caption)(const Session&) = nullptr;
     };
+    struct Entry {
+        QString sCaption;
+        /// Greyed, though it can be chosen.
+        bool bAway = false;
+    };
     /// A submenu whose entries are asked for whenever it opens.
     struct List {
         const char* sName;
         const char* sCaption;
         /// Object name of the entry that it stands ahead of.
         const char* sAheadOf;
-        std::function<QStringList()> entries;
+        std::function<std::vector<Entry>()> entries;
         std::function<void(int)> choose;
     };
 
@@ -60,7 +65,7 @@ private:
     void FillList(QMenu& menu, const List& list);
     void Fill(QMenu& menu, Menu which, const char* sName, std::span<const Item> items);
 
-    struct Entry {
+    struct Shown {
         QAction* action;
         const Item* item;
     };
@@ -68,5 +73,5 @@ private:
     QMenu* m_file;
     const Session& m_session;
     std::function<void(Menu, int)> m_choose;
-    std::vector<Entry> m_entries;
+    std::vector<Shown> m_entries;
 };

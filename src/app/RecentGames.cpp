@@ -10,6 +10,14 @@ namespace {
 
 QString KeyOf(int iPlace) { return QStringLiteral("RecentGame%1").arg(iPlace + 1); }
 
+// Those that were read back may be fewer than were kept before.
+void Keep(const QStringList& paths) {
+    for (int i = 0; i < kMost; ++i) {
+        const QString path = paths.value(i);
+        if (path != basCommon::GetIniString(KeyOf(i))) basCommon::WriteIniString(KeyOf(i), path);
+    }
+}
+
 } // namespace
 
 QStringList List() {
@@ -26,16 +34,29 @@ void Note(const QString& sPath) {
     if (!paths.isEmpty() && paths.first() == sPath) return;
     paths.removeAll(sPath);
     paths.prepend(sPath);
-    for (int i = 0; i < int(qMin(paths.size(), qsizetype(kMost))); ++i)
-        basCommon::WriteIniString(KeyOf(i), paths[i]);
+    Keep(paths);
 }
+
+void Replace(const QString& sPath, const QString& sFound) {
+    QStringList paths = List();
+    const qsizetype place = paths.indexOf(sPath);
+    if (place < 0 || sPath == sFound) return;
+    if (paths.contains(sFound)) {
+        paths.removeAt(place);
+    } else {
+        paths[place] = sFound;
+    }
+    Keep(paths);
+}
+
+bool IsAway(const QString& sPath) { return !basCommon::DoesFileExist(sPath); }
 
 QStringList Captions(const QStringList& paths) {
     QStringList captions;
     for (int i = 0; i < paths.size(); ++i) {
         QString caption = QStringLiteral("&%1 ").arg((i + 1) % kMost);
         caption += GameNames::FileNameOf(paths[i]).replace(u'&', QStringLiteral("&&"));
-        if (!basCommon::DoesFileExist(paths[i])) {
+        if (IsAway(paths[i])) {
             caption +=
                 QStringLiteral(" (not in ") + GameNames::FolderOf(paths[i]).replace(u'&', QStringLiteral("&&")) + u')';
         }

@@ -114,15 +114,23 @@ void frmTAVL::OrderTabs() {
 
 void frmTAVL::MakeLists() {
     const auto samples = [] {
-        QStringList names;
+        std::vector<MainMenu::Entry> names;
         for (const basTAVL::SampleGame& sample : basTAVL::SampleGames())
-            names.append(sample.sName);
+            names.push_back({sample.sName});
         return names;
     };
     m_menu.AddList(m_menu.FileMenu(), {"mnuNewFrom", "New &From", "mnuFile_2", samples, [this](int i) {
                                            m_commands.NewFrom(basTAVL::SampleGames().at(size_t(i)).sPath);
                                        }});
-    const auto recent = [] { return RecentGames::Captions(RecentGames::List()); };
+    const auto recent = [] {
+        std::vector<MainMenu::Entry> entries;
+        const QStringList paths = RecentGames::List();
+        const QStringList captions = RecentGames::Captions(paths);
+        entries.reserve(size_t(paths.size()));
+        for (int i = 0; i < paths.size(); ++i)
+            entries.push_back({captions[i], RecentGames::IsAway(paths[i])});
+        return entries;
+    };
     m_menu.AddList(m_menu.FileMenu(), {"mnuRecent", "Recen&t Games", "mnuFile_3", recent,
                                        [this](int i) { m_commands.OpenRecent(RecentGames::List().value(i)); }});
 }

@@ -157,6 +157,58 @@ TEST_F(EditMenuTest, ARecentGameThatIsAwayIsLookedFor) {
     EXPECT_EQ(TextOfSpace4(), QStringLiteral("As saved"));
 }
 
+TEST_F(EditMenuTest, ARecentGameThatIsAwayIsGreyedAndChosenAllTheSame) {
+    StartWith(QStringLiteral("Mine.gam"));
+    RecentGames::Note(InGames(QStringLiteral("Gone.gam")));
+    RecentGames::Note(InGames(QStringLiteral("Mine.gam")));
+    Entries("mnuRecent");
+    QMenu& menu = *Find<QAction>("mnuRecent").menu<QMenu*>();
+    menu.popup(QPoint(0, 0));
+    const QImage shown = menu.grab().toImage();
+    const auto darkest = [&](const char* entry) {
+        const QRect place = menu.actionGeometry(&Find<QAction>(entry));
+        int gray = 255;
+        for (int y = place.top(); y <= place.bottom(); ++y) {
+            for (int x = place.left(); x <= place.right(); ++x)
+                gray = std::min(gray, qGray(shown.pixel(x, y)));
+        }
+        return gray;
+    };
+    EXPECT_GT(darkest("mnuRecent_1"), darkest("mnuRecent_0") + 40) << "greyed";
+    EXPECT_TRUE(CanBeChosen("mnuRecent_1"));
+    menu.close();
+}
+
+TEST_F(EditMenuTest, AGameThatIsFoundAgainStandsInTheListAtItsNewPlace) {
+    StartWith(QStringLiteral("Mine.gam"));
+    const QString found = InGames(QStringLiteral("Found.gam"));
+    WriteGame(QStringLiteral("Found.gam"), QStringLiteral("Found"));
+    RecentGames::Note(QStringLiteral("/away/Gone.gam"));
+    Entries("mnuRecent");
+    QString asked;
+    desktop.onDialog = [&](CommonDialog& dialog) {
+        asked = dialog.sInitDir;
+        EXPECT_EQ(dialog.sFileName, QStringLiteral("Gone.gam"));
+        dialog.sFileName = found;
+        return true;
+    };
+    desktop.answers = {vbYes};
+    ChooseMenu("mnuRecent_0");
+    EXPECT_EQ(TextOfSpace4(), QStringLiteral("Found"));
+    EXPECT_TRUE(QFileInfo::exists(asked)) << "the one that it lay in is gone";
+    EXPECT_EQ(RecentGames::List(), Strings{found});
+}
+
+TEST_F(EditMenuTest, AGameThatIsNotFoundStaysInTheList) {
+    StartWith(QStringLiteral("Mine.gam"));
+    RecentGames::Note(QStringLiteral("/away/Gone.gam"));
+    Entries("mnuRecent");
+    desktop.answers = {vbNo};
+    ChooseMenu("mnuRecent_0");
+    EXPECT_EQ(RecentGames::List(), Strings{QStringLiteral("/away/Gone.gam")});
+    EXPECT_EQ(TextOfSpace4(), QStringLiteral("As saved"));
+}
+
 TEST_F(EditMenuTest, TenRecentGamesAreKept) {
     StartWith(QStringLiteral("Mine.gam"));
     for (int i = 0; i < 12; ++i)
