@@ -123,6 +123,12 @@ void BoardWalk::Leave() {
     Say();
 }
 
+void BoardWalk::Tell(const QString& sText) {
+    if (sText.isEmpty()) return Say();
+    lblPlace->setText(sText);
+    m_view.Board().setAccessibleName(sText);
+}
+
 void BoardWalk::Say() {
     const QString says = BoardWays::Spoken(m_at, m_session.InHand());
     lblPlace->setText(says);

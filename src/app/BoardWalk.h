@@ -39,6 +39,8 @@ public:
 
     /// What the frame stands on; nowhere while it doesn't show.
     const BoardPlace& At() const { return m_at; }
+    /// Says something else until the frame goes on, or the text is empty.
+    void Tell(const QString& sText);
     /// Puts the frame, and what it says, where the window's layout leaves them room.
     void LayOut();
 

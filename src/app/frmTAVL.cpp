@@ -65,7 +65,7 @@ frmTAVL::frmTAVL(EditorRoutes& doors)
       m_sharing(*this, m_view, m_commands.InHand()), m_pictures(*this, m_view, m_commands.InHand()),
       m_check(*this, m_commands.InHand(), DoorsOfCheck(), std::bind_front(&frmTAVL::IsInPrint, this)),
       m_requests(std::bind_front(&GameCommands::Carry, &m_commands), std::bind_front(&frmTAVL::IsInPrint, this)),
-      m_walk(*m_client, m_view, m_commands.InHand()),
+      m_walk(*m_client, m_view, m_commands.InHand()), m_moves(m_view, m_walk, m_commands.InHand()),
       m_menu(*menuBar(), m_commands.InHand(), std::bind_front(&frmTAVL::Choose, this)),
       m_drop(m_view, m_commands.InHand()), m_about(std::make_unique<frmAbout>(this)) {
     setObjectName(QStringLiteral("frmTAVL"));
@@ -327,6 +327,8 @@ void frmTAVL::OpenPlace(const BoardPlace& place) {
 void frmTAVL::OpenStep(FirstSteps::Step step, const std::optional<GamePiece>& piece) {
     if (step == FirstSteps::Step::Print) {
         Print();
+    } else if (step == FirstSteps::Step::Photos) {
+        m_pictures.Deal();
     } else if (piece) {
         OpenPlace(BoardPlace::Of(*piece));
     }

@@ -10,6 +10,7 @@
 #include "app/MainMenu.h"
 #include "app/PictureCommands.h"
 #include "app/PictureDrop.h"
+#include "app/PieceMoves.h"
 #include "app/SideField.h"
 #include "app/StartRequests.h"
 #include "app/ToolBar.h"
@@ -145,6 +146,7 @@ private:
     GameCheck m_check;
     StartRequests m_requests;
     BoardWalk m_walk;
+    PieceMoves m_moves;
     MainMenu m_menu;
     PictureDrop m_drop;
     QStringList m_dropped;

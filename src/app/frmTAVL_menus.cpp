@@ -73,21 +73,28 @@ void frmTAVL::mnuFile_Click(int Index) try {
 }
 
 void frmTAVL::mnuEdit_Click(int Index) {
-    if (Index == 0) {
-        m_commands.Undo();
-    } else if (Index == 1) {
-        m_commands.Redo();
-    } else if (Index == 3) {
-        m_check.ShowList();
-    } else if (Index == 42) {
-        Paste();
-    } else {
-        m_sharing.CopyBoardPicture();
+    switch (Index) {
+        case 0:
+            return m_commands.Undo();
+        case 1:
+            return m_commands.Redo();
+        case 3:
+            return m_check.ShowList();
+        case 41:
+            return m_moves.Copy();
+        case 42:
+            return Paste();
+        case 43:
+            return m_moves.SwapWith();
+        default:
+            return m_sharing.CopyBoardPicture();
     }
 }
 
 // Onto what has the frame. Whoever finds something of its own on the clipboard takes it, and pictures come last.
-void frmTAVL::Paste() { m_pictures.Paste(m_walk.At()); }
+void frmTAVL::Paste() {
+    if (!m_moves.Paste()) m_pictures.Paste(m_moves.PlaceInHand());
+}
 
 void frmTAVL::mnuZoom_Click(int Index) try { m_view.SetZoom(Index + 1); } catch (...) {
     ErrTail("frmTAVL!", "mnuZoom_Click", Index);

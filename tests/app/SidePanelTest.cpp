@@ -37,6 +37,9 @@ TEST_F(SidePanelTest, StandsBesideTheBoardWhereThereIsRoom) {
     EXPECT_FALSE(Panel().isVisible());
     EXPECT_FALSE(Handle().isVisible());
     EXPECT_EQ(BoardAt().left(), 8);
+    window->resize(window->width() + 1, window->height());
+    QApplication::processEvents();
+    EXPECT_TRUE(Panel().isVisible()) << "with 240 pixels to spare";
 }
 
 TEST_F(SidePanelTest, HandleAndMenuHideItAndTheBoardMovesToTheMiddle) {
@@ -79,21 +82,29 @@ TEST_F(SidePanelTest, AnotherTabIsOneCallAndComesToTheFrontAgain) {
 }
 
 TEST_F(SidePanelTest, AStepOpensItsPlace) {
-    const Strings opened = {QStringLiteral("titles"), QStringLiteral("space 0"), QStringLiteral("space 0"),
-                            QStringLiteral("news 0"), QStringLiteral("print")};
+    bool dealing = false;
+    WithModal("frmDealPhotos", [&dealing](QWidget& deal) {
+        dealing = true;
+        deal.close();
+    });
+    const Strings opened = {QStringLiteral("titles"), QString(), QStringLiteral("space 0"), QStringLiteral("news 0"),
+                            QStringLiteral("print")};
     for (int i = 0; i < FirstSteps::kSteps; ++i) {
         Click(StepButton(i));
-        EXPECT_EQ(routes.Take(), Strings{opened[i]});
+        EXPECT_EQ(routes.Take().join(u','), opened[i]);
     }
+    EXPECT_TRUE(dealing) << "the photos are dealt in a window of their own";
 }
 
 TEST_F(SidePanelTest, AStepIsTickedWhileItIsDone) {
     Session& session = window->Commands().InHand();
     EXPECT_FALSE(StepButton(0).description().startsWith(QStringLiteral("Done")));
+    const QImage unticked = StepButton(0).icon().pixmap(16).toImage();
     Titles titles = session.InHand().titles;
     titles.Text(1).sText = QStringLiteral("OURS");
     session.Do(Edits::OfTitles(session.InHand(), titles));
     EXPECT_EQ(StepButton(0).description(), QStringLiteral("Done."));
+    EXPECT_NE(StepButton(0).icon().pixmap(16).toImage(), unticked) << "ticked";
     session.Undo();
     EXPECT_FALSE(StepButton(0).description().startsWith(QStringLiteral("Done")));
     EXPECT_EQ(StepButton(2).description(), QStringLiteral("Click a space and type its name."));
