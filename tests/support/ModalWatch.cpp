@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "support/ModalWatch.h"
 
+#include "support/ModalActing.h"
+
 #include <QApplication>
 #include <QWidget>
 
@@ -21,7 +23,7 @@ ModalWatch::ModalWatch() {
 
 void ModalWatch::timerEvent(QTimerEvent*) {
     QWidget* const modal = QApplication::activeModalWidget();
-    m_ticks = modal && modal == m_seen ? m_ticks + 1 : 0;
+    m_ticks = modal && modal == m_seen && !ModalActing::IsIn(modal) ? m_ticks + 1 : 0;
     m_seen = modal;
     if (m_ticks < kPatienceTicks) return;
     m_ticks = 0;
