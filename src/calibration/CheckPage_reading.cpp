@@ -80,14 +80,14 @@ std::optional<double> Stretch(const QString& sMillimetres, double dblRulerMm, QS
     text.replace(u',', u'.');
     const std::optional<double> mm = ParseNumber(text);
     if (!mm) {
-        sWhy = QStringLiteral("Please type how many millimetres the line measures, such as 199.5.");
+        sWhy = QStringLiteral("Please type how many millimeters the line measures, such as 199.5.");
         return std::nullopt;
     }
     // A centimetre off in 200 mm is no printer, but a page that was made to fit.
     constexpr double kMostOff = 0.05;
     if (std::abs(*mm - dblRulerMm) <= kMostOff * dblRulerMm) return *mm / dblRulerMm;
     sWhy =
-        QStringLiteral("The line should be near %1 mm long, and %2 is far from it. Please measure in millimetres, and "
+        QStringLiteral("The line should be near %1 mm long, and %2 is far from it. Please measure in millimeters, and "
                        "print at actual size (100 %), never \"fit to page\".")
             .arg(dblRulerMm)
             .arg(sMillimetres.trimmed());

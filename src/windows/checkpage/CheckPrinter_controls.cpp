@@ -97,8 +97,8 @@ QLineEdit* CheckPrinter::MakeField(const char* sName, const char* sWhat) {
 QLayout* CheckPrinter::BuildReading() {
     m_sideways = MakeField("txtSideways", "The number and the letter that meet on the scale Sideways");
     m_upAndDown = MakeField("txtUpAndDown", "The number and the letter that meet on the scale Up and down");
-    m_across = MakeField("txtAcross", "Millimetres of the line across");
-    m_down = MakeField("txtDown", "Millimetres of the line down");
+    m_across = MakeField("txtAcross", "Millimeters of the line across");
+    m_down = MakeField("txtDown", "Millimeters of the line down");
     for (QLineEdit* field : {m_sideways, m_upAndDown})
         field->setPlaceholderText(QStringLiteral("such as 12 K"));
     auto* scales = new QFormLayout;
