@@ -99,7 +99,9 @@ TEST_F(PackedGamesTest, AnotherStartAndADropOpenIt) {
     Drop({QUrl::fromLocalFile(InGames(QStringLiteral("Mine.gam")))});
     EXPECT_EQ(TextOfSpace4(), QStringLiteral("Mine"));
     Drop({QUrl::fromLocalFile(PathOf(QStringLiteral("x.txt")))});
-    EXPECT_FALSE(accepted) << "what is no game stays where it is";
+    EXPECT_EQ(TextOfSpace4(), QStringLiteral("Mine")) << "what is no game leaves the one in hand";
+    Drop({});
+    EXPECT_FALSE(accepted) << "what is no file stays where it is";
 }
 
 TEST_F(PackedGamesTest, UnsavedChangesAreAskedAboutFirst) {
