@@ -6,9 +6,9 @@
 
 namespace {
 
-constexpr const char* kPages[] = {Guide::kStepsPage, "board.html",  "spaces.html", "titles.html",
-                                  "money.html",      "tokens.html", "news.html",   "pictures.html",
-                                  "cutting.html",    "check.html",  "print.html",  "sending.html"};
+constexpr const char* kPages[] = {Guide::kStepsPage, "board.html",  "spaces.html",  "titles.html",
+                                  "money.html",      "tokens.html", "news.html",    "pictures.html",
+                                  "cutting.html",    "check.html",  "sending.html", "print.html"};
 
 } // namespace
 
