@@ -26,3 +26,9 @@ QLabel* MakeLabel(QWidget* parent, const QString& sName, const QString& sText) {
 }
 
 QLabel* MakeLabel(QWidget* parent, const char* sName) { return MakeLabel(parent, QString::fromLatin1(sName)); }
+
+void MakeRoomForWords(QLabel& label, int width, int letters) {
+    const int all = qMax(width, letters * label.fontMetrics().averageCharWidth());
+    label.setFixedWidth(all);
+    label.setMinimumHeight(label.heightForWidth(all));
+}

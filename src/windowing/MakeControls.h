@@ -26,3 +26,6 @@ QPushButton* MakeButton(QWidget* parent, const char* sName, const char* sCaption
 /// Plain text of as many lines as it needs.
 QLabel* MakeLabel(QWidget* parent, const QString& sName, const QString& sText = {});
 QLabel* MakeLabel(QWidget* parent, const char* sName);
+/// Makes a label that breaks its lines so wide, in pixels, or as wide as so many letters of a large font, and as high
+/// as its words are then: a window's layout asks no label how high it is.
+void MakeRoomForWords(QLabel& label, int width, int letters);

@@ -76,7 +76,8 @@ QLayout* CheckPrinter::BuildSteps() {
     for (const Told& told : kSteps) {
         auto* words = MakeLabel(this, QStringLiteral("lblStep_%1").arg(column + 1), QString::fromLatin1(told.sWords));
         words->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-        words->setMaximumWidth(int(CheckSketches::kInches.width() * kScreenDotsPerInch));
+        constexpr int kLetters = 16;
+        MakeRoomForWords(*words, int(CheckSketches::kInches.width() * kScreenDotsPerInch), kLetters);
         steps->addWidget(MakeSketch(this, told.step), 0, column, Qt::AlignLeft);
         steps->addWidget(words, 1, column);
         ++column;

@@ -17,6 +17,9 @@ PdfReady::PdfReady(const QString& sPdf, const Sheet& sheet, QWidget* parent) : Q
     setWindowTitle(QStringLiteral("Tavlora"));
     auto* told =
         MakeLabel(this, QStringLiteral("lblTold"), ConsoleSheets::PdfMessage(sPdf, sheet, KitInUse()).remove(u'\r'));
+    constexpr int kWidth = 400;
+    constexpr int kLetters = 50;
+    MakeRoomForWords(*told, kWidth, kLetters);
     auto* open = MakeButton(this, "cmdOpen", "Open &PDF");
     auto* folder = MakeButton(this, "cmdShowFolder", "Show &Folder");
     auto* close = MakeButton(this, "cmdClose", "OK");
