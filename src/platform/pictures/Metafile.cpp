@@ -126,7 +126,7 @@ int FinerForFloods(const MetafileSurvey& survey, QSizeF size) {
     const double side = qMax(size.width(), size.height());
     if (survey.floodFills == 0 || survey.countsPixels || side <= 0) return 1;
     const double eachFlood = size.width() * size.height() * MetafileBudget::kFloodedPixel;
-    const double most = std::sqrt(MetafileBudget::kWhole / 2 / (eachFlood * survey.floodFills));
+    const double most = std::sqrt(double(MetafileBudget::kWhole) / 2 / (eachFlood * survey.floodFills));
     return qMax(1, int(qMin(kSideForFloods / side, most)) / 2 * 2);
 }
 
