@@ -100,8 +100,6 @@ TEST_F(PackedGamesTest, AnotherStartAndADropOpenIt) {
     EXPECT_EQ(TextOfSpace4(), QStringLiteral("Mine"));
     Drop({QUrl::fromLocalFile(PathOf(QStringLiteral("x.txt")))});
     EXPECT_EQ(TextOfSpace4(), QStringLiteral("Mine")) << "what is no game leaves the one in hand";
-    Drop({});
-    EXPECT_FALSE(accepted) << "what is no file stays where it is";
 }
 
 TEST_F(PackedGamesTest, UnsavedChangesAreAskedAboutFirst) {
