@@ -120,7 +120,7 @@ void PaintRulers(const Sheet& sheet, QSizeF rulers) {
     const QString length = QStringLiteral("This line is %1 mm long.");
     constexpr double kHigh = 3;
     constexpr double kLong = 60;
-    sheet.Text({half - kLong, kRulerAcrossDown - kHigh - 1, kLong, kHigh}, length.arg(rulers.width()),
+    sheet.Text({half - kRulerTick - kLong, kRulerAcrossDown - kHigh - 1, kLong, kHigh}, length.arg(rulers.width()),
                {.dblHeight = kHigh, .align = TextLook::Align::Right});
     sheet.Text({kRulerDownRight + 1, -high + kRulerTick, kHigh, kLong}, length.arg(rulers.height()),
                {.dblHeight = kHigh, .align = TextLook::Align::Right, .iQuarterTurns = 3});

@@ -175,6 +175,29 @@ protected:
     QList<PageMark> second;
 };
 
+// Nor do those of the second print: the sheet is turned by half, and both prints stay readable.
+TEST_F(CheckPageTest, NoLineTouchesWords) {
+    constexpr double kClear = 0.5;
+    constexpr qsizetype kNameOfALine = 3; // letters, close to the line that it names
+    for (const auto each : {QPageSize::Letter, QPageSize::A4}) {
+        paper = each;
+        Read({}, {});
+        int words = 0;
+        for (const PageMark& text : first) {
+            if (text.kind != PageMark::Kind::Text) continue;
+            ++words;
+            const double room = text.sText.size() <= kNameOfALine ? 0 : kClear;
+            const QRectF clear = text.Box().adjusted(-room, -room, room, room);
+            for (const PageMark& line : first + second) {
+                if (line.kind == PageMark::Kind::Text) continue;
+                const QRectF drawn = line.Box().adjusted(-0.05, -0.05, 0.05, 0.05);
+                EXPECT_FALSE(clear.intersects(drawn)) << qPrintable(text.sText);
+            }
+        }
+        EXPECT_GT(words, 60);
+    }
+}
+
 TEST_F(CheckPageTest, AGoodPrinterReadsZero) {
     for (const auto each : {QPageSize::Letter, QPageSize::A4}) {
         paper = each;
