@@ -7,37 +7,15 @@
 #include "kit/Sheets.h"
 #include "pack/Packing.h"
 #include "services/Guide.h"
-#include "windows/check/frmBeforePrint.h"
+#include "support/AllWindows.h"
 #include "windows/check/frmCheck.h"
 #include "windows/check/GameChecker.h"
-#include "windows/checkpage/CheckPrinter.h"
-#include "windows/editors/frmEditCenter.h"
-#include "windows/editors/frmEditCorner.h"
-#include "windows/editors/frmEditMoney.h"
 #include "windows/editors/frmEditNews.h"
-#include "windows/editors/frmEditSpace.h"
-#include "windows/editors/frmEditToken.h"
-#include "windows/editors/frmShowNews.h"
-#include "windows/editors/frmShowTokens.h"
-#include "windows/games/frmEarlierVersions.h"
 #include "windows/help/HelpPages.h"
 #include "windows/help/WhatIsThis.h"
 #include "windows/help/WindowHelp.h"
-#include "windows/missing/frmMissingPictures.h"
-#include "windows/nokit/PrintWithoutKit.h"
-#include "windows/photos/frmDealPhotos.h"
-#include "windows/pictures/frmBrowse.h"
-#include "windows/pictures/frmFileName.h"
-#include "windows/pictures/frmImagePosition.h"
 #include "windows/print/frmColor.h"
-#include "windows/print/frmPrintTest.h"
-#include "windows/print/frmPrntPrep.h"
 #include "windows/print/frmTavlPrint.h"
-#include "windows/print/PdfReady.h"
-#include "windows/print/PrintEverything.h"
-#include "windows/print/PrintPreview.h"
-#include "windows/sending/frmPieces.h"
-#include "windows/sending/frmSendGame.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -65,38 +43,12 @@ protected:
     Windows AllWindows() {
         Start();
         Session& session = window->Commands().InHand();
-        Windows all;
+        Windows all = ::AllWindows(session);
         const auto add = [&all](QWidget* made) { all.emplace(made->objectName(), made); };
         all.emplace(window->objectName(), nullptr); // stands already
         add(new frmAbout);
         add(new frmPrintManual);
         add(new frmCheck(*new GameChecker(session, window.get()), {}));
-        add(new frmBeforePrint(session.InHand(), {}, 1, nullptr));
-        add(new frmEditCenter(session));
-        add(new frmEditCorner(session));
-        add(new frmEditMoney(session));
-        add(new frmEditNews(session));
-        add(new frmEditSpace(session));
-        add(new frmEditToken(session));
-        add(new frmShowNews(session));
-        add(new frmShowTokens(session));
-        add(new frmBrowse);
-        add(new frmMissingPictures(session));
-        add(new frmDealPhotos(session));
-        add(new frmFileName);
-        add(new frmImagePosition);
-        add(new frmColor);
-        add(new frmPrintTest);
-        add(new frmPrntPrep);
-        add(new frmTavlPrint);
-        add(new PrintEverything);
-        add(new PrintWithoutKit);
-        add(new CheckPrinter);
-        add(new PdfReady(PathOf(QStringLiteral("Rules.pdf")), Sheets().back(), nullptr));
-        add(new PrintPreview);
-        add(new frmPieces(QString()));
-        add(new frmSendGame({}, QString()));
-        add(new frmEarlierVersions);
         return all;
     }
 

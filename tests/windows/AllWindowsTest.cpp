@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // What holds for every window: which button Enter presses, where Tab goes, what a bar says.
-#include "AllWindows.h"
-
+#include "support/AllWindows.h"
 #include "services/basCommon.h"
+#include "support/EditorFixture.h"
 
 #include <QGridLayout>
 #include <QPlainTextEdit>

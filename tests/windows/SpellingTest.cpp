@@ -2,9 +2,9 @@
 // A slip of one letter in what a window says is seen by nobody but the family that reads it.
 #include "support/Spelling.h"
 
-#include "AllWindows.h"
-
 #include "services/basCommon.h"
+#include "support/AllWindows.h"
+#include "support/EditorFixture.h"
 #include "windows/help/WhatIsThis.h"
 
 #include <QAbstractButton>

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "AllWindows.h"
+#include "support/AllWindows.h"
 
+#include "kit/Sheets.h"
 #include "windows/check/frmBeforePrint.h"
+#include "windows/checkpage/CheckPrinter.h"
 #include "windows/editors/frmEditCenter.h"
 #include "windows/editors/frmEditCorner.h"
 #include "windows/editors/frmEditMoney.h"
@@ -21,6 +23,7 @@
 #include "windows/print/frmPrintTest.h"
 #include "windows/print/frmPrntPrep.h"
 #include "windows/print/frmTavlPrint.h"
+#include "windows/print/PdfReady.h"
 #include "windows/print/PrintEverything.h"
 #include "windows/print/PrintPreview.h"
 #include "windows/sending/frmPieces.h"
@@ -49,6 +52,8 @@ std::map<QString, std::unique_ptr<QWidget>> AllWindows(Session& session) {
     add(new frmTavlPrint);
     add(new PrintEverything);
     add(new PrintWithoutKit);
+    add(new CheckPrinter);
+    add(new PdfReady(QStringLiteral("Rules.pdf"), Sheets().back(), nullptr));
     add(new PrintPreview);
     add(new frmPieces(QString()));
     add(new frmSendGame({}, QString()));
