@@ -134,7 +134,7 @@ QList<Version> Of(const QString& sGame) {
 
 bool IsOneOf(const QString& sPath) {
     const QString folderOfGame = GameNames::FolderOf(sPath);
-    return Files::IsSameFile(GameNames::FolderOf(folderOfGame.chopped(1)), Folder());
+    return !folderOfGame.isEmpty() && Files::IsSameFile(GameNames::FolderOf(folderOfGame.chopped(1)), Folder());
 }
 
 QList<qsizetype> TooMany(const QList<qint64>& ages) {

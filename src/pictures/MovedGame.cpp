@@ -18,8 +18,9 @@ Folders& OfGame() {
     return folders;
 }
 
-// "/a/b/" of "/a/b/c/" and "C:\a\" of "C:\a\b\"; empty above a root.
+// "/a/b/" of "/a/b/c/" and "C:\a\" of "C:\a\b\"; empty above a root, and of nothing.
 QString Above(const QString& sFolder) {
+    if (sFolder.isEmpty()) return {};
     const QString folder = sFolder.chopped(1);
     return folder.left(std::max(folder.lastIndexOf(u'/'), folder.lastIndexOf(u'\\')) + 1);
 }

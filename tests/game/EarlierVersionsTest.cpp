@@ -236,4 +236,12 @@ TEST_F(EarlierVersionsTest, PicturesOfAnEarlierVersionAreLookedForBesideItsGame)
     EXPECT_EQ(QDir::cleanPath(Settings().sGameDirectory), PathOf(QStringLiteral("other")));
 }
 
+TEST_F(EarlierVersionsTest, OnlyWhatLiesInAFolderOfEarlierVersionsIsOne) {
+    SaveAt(0, QStringLiteral("Oak"));
+    EXPECT_TRUE(EarlierVersions::IsOneOf(Of(game).first().sPath));
+    EXPECT_FALSE(EarlierVersions::IsOneOf(game));
+    EXPECT_FALSE(EarlierVersions::IsOneOf(QStringLiteral("Trip.gam")));
+    EXPECT_FALSE(EarlierVersions::IsOneOf(QString()));
+}
+
 } // namespace

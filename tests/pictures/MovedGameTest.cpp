@@ -45,6 +45,13 @@ TEST_F(MovedGameTest, NothingIsFoundForOtherFoldersNorForAGameThatWasntMoved) {
     EXPECT_EQ(MovedGame::PlaceOf(QStringLiteral("/old/Family/cat.png")), QString());
 }
 
+TEST_F(MovedGameTest, NothingIsFoundBeforeAnyGameWasLoaded) {
+    EXPECT_EQ(MovedGame::PlaceOf(QString()), QString());
+    EXPECT_EQ(MovedGame::PlaceOf(QStringLiteral("cat.png")), QString());
+    EXPECT_EQ(MovedGame::PlaceOfRelative(QString()), QString());
+    EXPECT_EQ(MovedGame::PlaceOfRelative(QStringLiteral("cat.png")), QString());
+}
+
 TEST_F(MovedGameTest, ANameFromTheGamesFolderIsFoundInTheRenamedFolderOfTheGame) {
     MovedGame::Note(QStringLiteral("/old/My Games/Families/Ours/"), PathOf(QStringLiteral("stick/Theirs")));
     const QString below = Make("stick/Theirs/Photos/cat.png");
