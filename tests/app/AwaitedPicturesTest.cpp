@@ -3,7 +3,11 @@
 #include "MainWindowFixture.h"
 #include "support/PictureFiles.h"
 
+#include "platform/files/Files.h"
 #include "platform/pictures/LoadPicture.h"
+#include "services/basMsgQueue.h"
+
+#include <QThread>
 
 namespace {
 
@@ -12,6 +16,7 @@ const QColor kPurple(200, 0, 200);
 constexpr int kEnough = 100;
 constexpr int kMilliseconds = 20000;
 constexpr int kLongerThanDecoding = 400;
+const QString kCause = QStringLiteral("The photo is upside down");
 
 } // namespace
 
@@ -85,5 +90,23 @@ TEST_F(AwaitedPicturesTest, PictureThatCannotBeReadIsToldOnceAndTheRestOfTheBoar
     EXPECT_EQ(desktop.Texts(), told);
     EXPECT_EQ(told.removeDuplicates(), 0);
     EXPECT_EQ(PurplePixels(), 0);
+    EXPECT_EQ(SeenAt(0.5, 0.45), Color::FromValue(0xFFB000));
+}
+
+TEST_F(AwaitedPicturesTest, FailureWhileOneIsPastedLeavesNoQueueOpen) {
+    ChoosePhoto();
+    int failed = 0;
+    Files::SetFaultHook([&failed](Files::Operation, const QString&) -> std::optional<QString> {
+        // What the decoder asks for isn't the window's.
+        if (QThread::currentThread() == qApp->thread() && basMsgQueue::MsgQueue_IsOpen() && ++failed == 1)
+            ErrRaise(1234, kCause);
+        return std::nullopt;
+    });
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !desktop.boxes.isEmpty(); }, kMilliseconds));
+    Files::SetFaultHook({});
+    EXPECT_TRUE(desktop.boxes.first().sText.contains(kCause));
+    EXPECT_FALSE(basMsgQueue::MsgQueue_IsOpen());
+    window->View().Redraw();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return PurplePixels() > kEnough; }, kMilliseconds));
     EXPECT_EQ(SeenAt(0.5, 0.45), Color::FromValue(0xFFB000));
 }

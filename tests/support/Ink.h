@@ -16,3 +16,14 @@ inline QRect DarkBox(const QImage& image, const QRect& part, int darkerThan = 12
     }
     return box;
 }
+
+/// Box of the pixels that differ between two pictures of one size; empty when there are none.
+inline QRect ChangedBox(const QImage& before, const QImage& after) {
+    QRect box;
+    for (int y = 0; y < before.height(); ++y) {
+        for (int x = 0; x < before.width(); ++x) {
+            if (before.pixel(x, y) != after.pixel(x, y)) box |= QRect(x, y, 1, 1);
+        }
+    }
+    return box;
+}

@@ -167,6 +167,17 @@ TEST_F(EditCenterTest, Edge_TheFixedWordShowsInItsPartAndCannotBeEdited) {
     });
 }
 
+TEST_F(EditCenterTest, TheCaretIsAsThickAsInTheOtherEditors) {
+    Edit([](QDialog& form) {
+        for (const QRect& area : kArea) {
+            ClickAt(form, kOutside);
+            const QImage plain = Shown(form);
+            ClickBehind(form, area);
+            EXPECT_EQ(ChangedBox(plain, Shown(form)).width(), 3);
+        }
+    });
+}
+
 TEST_F(EditCenterTest, Edge_AClickOutsideAllAreasEndsTheEditing) {
     Edit([](QDialog& form) {
         ClickAt(form, kOutside);

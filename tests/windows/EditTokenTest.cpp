@@ -250,6 +250,22 @@ TEST_F(EditTokenTest, APictureIsCroppedBehindARoundHole) {
     });
 }
 
+TEST_F(EditTokenTest, BarsBesideACroppedPictureAreOfTheTokensColor) {
+    const QColor ground(0, 128, 192);
+    GivePicture(MakePicture(QStringLiteral("wide.bmp"), 90, 60));
+    Token().BackColor = Color::Rgb(ground.red(), ground.green(), ground.blue());
+    Edit([&] {
+        QTimer::singleShot(0, window, [&] {
+            auto* position = qobject_cast<frmImagePosition*>(QApplication::activeModalWidget());
+            ASSERT_NE(position, nullptr);
+            const QImage shown = position->findChild<PictureBox*>(QStringLiteral("picZoomed"))->Image();
+            EXPECT_EQ(shown.pixelColor(shown.width() / 2, 3), ground);
+            position->hide();
+        });
+        Click("cmdCropImage");
+    });
+}
+
 TEST_F(EditTokenTest, LookingAtATokenWhosePictureIsAwayChangesNothing) {
     GivePicture();
     Token().Image.Let_Zoom(7);
