@@ -58,6 +58,15 @@ QString Trimmed(QString name) {
     return name;
 }
 
+// A folder that is called as the autosave is would keep every edit from the disk. Most bitmaps there are thumbnails.
+bool IsOneOfOurs(const QString& sName) {
+    const QString name = Key(sName);
+    const auto begins = [&name](const char* start) { return name.startsWith(QLatin1String(start)); };
+    const auto is = [&name](const char* whole) { return name == QLatin1String(whole); };
+    return begins("~autosave.") || begins("tavlora.") || name.endsWith(QLatin1String(".bmp")) || is("tavlora") ||
+           is("printed") || is("removed") || is("earlier versions");
+}
+
 bool IsSafePart(const QString& sPart) {
     return !sPart.isEmpty() && Trimmed(sPart) == sPart && !IsDevice(sPart) &&
            std::none_of(sPart.begin(), sPart.end(), IsTaken) && sPart.toUtf8().size() <= kMostBytes + 20;
@@ -76,6 +85,11 @@ QString FileName(const QString& sWanted) {
     name = Trimmed(name);
     if (name.isEmpty()) return QStringLiteral("_");
     return IsDevice(name) ? u'_' + name : name;
+}
+
+QString FolderName(const QString& sWanted) {
+    const QString name = FileName(sWanted);
+    return IsOneOfOurs(name) ? u'_' + name : name;
 }
 
 QString Key(const QString& sName) { return sName.normalized(QString::NormalizationForm_C).toCaseFolded(); }

@@ -20,6 +20,9 @@ extern const QString kFonts;
 
 /// A name that every desktop takes for a file, as near to the one asked for as can be.
 QString FileName(const QString& sWanted);
+/// The same for a folder among the user's games, where the program keeps files and folders of its own: none of their
+/// names, whatever its case, and no bitmap's.
+QString FolderName(const QString& sWanted);
 /// An entry in a folder for a file of that path, and of a name that none has yet, whatever its case; it is then taken.
 QString EntryFor(const QString& sFolder, const QString& sPath, QSet<QString>& taken);
 /// Two names are equal, to one desktop or the other, when these are.

@@ -63,7 +63,7 @@ bool WriteGame(const PackReader& reader, const QString& sFolder, const QString& 
 }
 
 std::optional<QString> UnpackInto(const PackReader& reader, const QString& sInto, QString& sError) {
-    const QString folder = FreeFolder(sInto, reader.GameName());
+    const QString folder = FreeFolder(sInto, PackNames::FolderName(reader.GameName()));
     // Only when all of it is there does it get its name; a program that is ended amid it leaves nothing that counts.
     TemporaryFolder work(sInto);
     if (work.Path().isEmpty()) {

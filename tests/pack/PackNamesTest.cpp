@@ -52,6 +52,18 @@ TEST(PackNamesTest, ALongNameIsCutAndKeepsItsEnding) {
     }
 }
 
+// A folder of such a name in My Games would stand in the way of the file, or be taken for the program's own.
+TEST(PackNamesTest, AGameNamedLikeSomethingOfTheProgramsGetsAFolderOfAnotherName) {
+    for (const char* name :
+         {"~AutoSave.dat", "~AUTOSAVE.BAK", "~autosave.dat.new", "tavlora.log", "Tavlora.Ini", "tavlora", "printed",
+          "Printed", "Removed", "Earlier Versions", "EARLIER VERSIONS", "Space3.bmp", "TempImage.bmp"}) {
+        const QString text = QString::fromLatin1(name);
+        EXPECT_EQ(PackNames::FolderName(text), u'_' + text);
+    }
+    for (const char* name : {"Printed 2", "Our Removed Game", "Tavlora at Home", "AutoSave", "Space", "_~AutoSave.dat"})
+        EXPECT_EQ(PackNames::FolderName(QString::fromLatin1(name)), QString::fromLatin1(name));
+}
+
 TEST(PackNamesTest, SixtyPicturesOfOneNameGetSixtyNames) {
     QSet<QString> taken;
     QStringList entries;

@@ -92,6 +92,16 @@ TEST_F(UnpackingTest, NothingIsWrittenOver) {
     EXPECT_TRUE(QDir(out + QStringLiteral("/Plain 2")).isEmpty());
 }
 
+TEST_F(UnpackingTest, AGameThatIsCalledAsTheAutosaveIsDoesNotTakeItsPlace) {
+    ZipBuilder zip = Plain();
+    zip.entries[1].name = "~AutoSave.dat.gam";
+    const QString game = Unpacked(zip.Bytes());
+    EXPECT_EQ(game, out + QStringLiteral("/_~AutoSave.dat/~AutoSave.dat.gam")) << error.toStdString();
+    EXPECT_FALSE(QFileInfo::exists(out + QStringLiteral("/~AutoSave.dat")));
+    EXPECT_EQ(Load(QString(game)), 0);
+    EXPECT_EQ(TheGame().spaces[0].Image.FullPath(), out + QStringLiteral("/_~AutoSave.dat/Pictures/a.png"));
+}
+
 TEST_F(UnpackingTest, WhatTheGameDoesNotNameStaysInside) {
     ZipBuilder zip = Plain();
     zip.Add("Pictures/run.desktop", "[Desktop Entry]");
