@@ -130,6 +130,18 @@ private:
     GameReading m_reading;
 };
 
+/// Whether the letters of a record on the board are of any size; the others need none.
+template <typename Record>
+bool HasLetters(const Record& record) {
+    if constexpr (requires { record.TextSize(); }) {
+        return record.TextSize() > 0;
+    } else if constexpr (requires { record.TextSize(0); }) {
+        return record.TextSize(0) > 0;
+    } else {
+        return true;
+    }
+}
+
 template <typename Taker>
 bool GameReader::NextLine(const QString& sDuring, Taker take) {
     if (AtEnd()) return Fail({QStringLiteral("Input past end of file"), sDuring});
@@ -147,12 +159,10 @@ bool GameReader::ReadRecord(Record& record, int iNumber, const Words& words, Tak
     return NextLine(words.sDuring, [&](const QString& sLine) -> std::optional<Fault> {
         const Record before = record;
         take(sLine);
-        if constexpr (requires { record.TextSize(); }) {
-            // In hand it would end the program at the next change of its text.
-            if (!(record.TextSize() > 0)) {
-                record = before;
-                return Fault{QStringLiteral("The text has letters of no size"), words.sDuring};
-            }
+        // In hand it would end the program at the next change of its text, or of the text that its font is given to.
+        if (!HasLetters(record)) {
+            record = before;
+            return Fault{QStringLiteral("The text has letters of no size"), words.sDuring};
         }
         if (record.Index == iNumber) return std::nullopt;
         return Fault{QString::fromLatin1(words.sWrongNumber), words.sDuringWrongNumber};

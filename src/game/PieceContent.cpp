@@ -3,6 +3,7 @@
 
 #include "document/basTAVL.h"
 #include "document/GameBounds.h"
+#include "document/RecordFields.h"
 #include "game/DroppedPictures.h"
 #include "game/PieceImages.h"
 #include "pictures/PicturePart.h"
@@ -67,7 +68,9 @@ std::optional<C_FontInfo> ReadFont(const QJsonObject& object) {
     font.Bold = object[QStringLiteral("bold")].toBool();
     font.Italic = object[QStringLiteral("italic")].toBool();
     font.Size = float(object[QStringLiteral("size")].toDouble());
-    if (font.Family.isEmpty() || !std::isfinite(font.Size)) return std::nullopt;
+    // Letters of no size would end the program in a space.
+    const bool hasLetters = std::isfinite(font.Size) && CappedTextSize(font, 1) > 0;
+    if (font.Family.isEmpty() || !hasLetters) return std::nullopt;
     return font;
 }
 

@@ -161,6 +161,21 @@ TEST_F(GameTextTest, TextWithoutAnySizeIsAFaultAndLeavesTheRecordAsItWas) {
     EXPECT_TRUE(desktop.boxes.isEmpty());
 }
 
+// A corner itself only shows nothing then, but its font goes to a space by a copy and to all of them by one click.
+TEST_F(GameTextTest, ACornerWithoutAnySizeIsAFaultToo) {
+    yours.corners[2].SetText(0, QStringLiteral("stays"));
+    for (const char* size : {"0", "-12", "1e-50"}) {
+        const GameReading reading =
+            ReadWith(GameLines::kCorners + 2,
+                     QStringLiteral("2, \"t\", \"\", \"\",0,0,0, \"Arial\",R,") + QString::fromLatin1(size));
+        ASSERT_TRUE(reading.fault) << size;
+        EXPECT_EQ(reading.fault->sError, QStringLiteral("The text has letters of no size"));
+        EXPECT_EQ(reading.fault->sDuring, QStringLiteral("loading corner number 2"));
+        EXPECT_EQ(reading.game.corners[2].TextAll(0), QStringLiteral("stays"));
+    }
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+}
+
 TEST_F(GameTextTest, EmptyLinesAtTheEndAreTheEnd) {
     for (const int lines : {int(GameLines::kTokens), GameLines::kTokens + 3, int(GameLines::kAll)}) {
         const GameReading plain = ReadLines(Lines().mid(0, lines));

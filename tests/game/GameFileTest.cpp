@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "game/PieceContent.h"
 #include "support/FileFixture.h"
 
 #include "pictures/ThumbnailStore.h"
@@ -56,6 +57,18 @@ TEST_F(LoadTest, SixtyThreeLinesOfAnOlderProgramLoadWithAnEmptyLineAtTheirEnd) {
 TEST_F(LoadTest, RecordWhoseLettersHaveNoSizeIsToldByTheNameOfItsFile) {
     EXPECT_EQ(MessageFor(3, QStringLiteral("0, \" \", \"\", 0, 0, 0, \"Arial\",B,0")),
               LoadError(QStringLiteral("The text has letters of no size"), "loading line number 0"));
+}
+
+// By a copy to a space, or by "Set All Fonts" in the corner's editor, they would end the program.
+TEST_F(LoadTest, ACornerWhoseLettersHaveNoSizeNeverGetsIntoHand) {
+    QStringList lines = PlainLines();
+    lines[32] = QStringLiteral("1, \"Rest\", \"\", \"\",0,0,0, \"Arial\",R,0");
+    EXPECT_NE(Load(WriteGame(lines)), 0);
+    EXPECT_EQ(desktop.boxes.size(), 1);
+    const PieceContent corner = PieceContents::Of(TheGame(), {PictureOwner::Kind::Corner, 1});
+    EXPECT_GT(corner.font.Size, 0);
+    EXPECT_GT(PieceContents::Copy(TheGame(), corner, {PictureOwner::Kind::Space, 0}).after.spaces[0].TextSize(), 0);
+    EXPECT_GT(Edits::OfBoardFont(TheGame(), corner.font, Edits::kNoSpace, 1).after.spaces[0].TextSize(), 0);
 }
 
 TEST_F(LoadTest, Edge_SixtySixLinesLoadThreeTokensAndDefaultsForTheRest) {

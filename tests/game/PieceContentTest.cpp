@@ -147,6 +147,9 @@ TEST_F(PieceContentTest, WhatIsNoPieceIsNotRead) {
     EXPECT_FALSE(PieceContents::Read(with("\"y\":200", "\"y\":\"no\"")));
     EXPECT_FALSE(PieceContents::Read(with("\"size\":9", "\"size\":1e300")));
     EXPECT_FALSE(PieceContents::Read(with("Courier", "")));
+    // Letters of no size would end the program in a space.
+    for (const char* size : {"\"size\":0", "\"size\":-9", "\"size\":1e-60", "\"size\":\"no\"", "\"taille\":9"})
+        EXPECT_FALSE(PieceContents::Read(with("\"size\":9", size))) << size;
 }
 
 TEST_F(PieceContentTest, WhatIsReadIsNoLongerThanAGameMayHold) {
