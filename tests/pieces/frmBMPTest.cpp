@@ -299,11 +299,15 @@ TEST_F(frmBMPTest, CellsOfATwoRowSheetSkipTheTwoSpacesOfEachHalf) {
         frmBMP::GetSpaceFromArrayCoordinates(block, row, col, iSpace);
         return iSpace;
     };
-    EXPECT_EQ(space(0, 0, 0), 13);
-    EXPECT_EQ(space(0, 0, 3), 9);
-    EXPECT_EQ(space(0, 1, 2), 4);
+    constexpr int kUpper[] = {13, 12, 11, 9, 8, 7};
+    constexpr int kLower[] = {6, 5, 4, 2, 1, 0};
+    for (int col = 0; col < 6; ++col) {
+        EXPECT_EQ(space(0, 0, col), kUpper[col]);
+        EXPECT_EQ(space(0, 1, col), kLower[col]);
+        EXPECT_EQ(space(1, 0, col), kUpper[col] + 14);
+        EXPECT_EQ(space(1, 1, col), kLower[col] + 14);
+    }
     EXPECT_EQ(space(0, 7, 5), 0);
-    EXPECT_EQ(space(1, 0, 5), 21);
     EXPECT_EQ(space(0, 0, 6), 0);
     EXPECT_EQ(space(2, 0, -1), 14);
 }

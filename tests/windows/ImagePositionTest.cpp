@@ -9,6 +9,7 @@
 #include "windows/pictures/frmBrowse.h"
 #include "windows/pictures/frmImagePosition.h"
 
+#include <QComboBox>
 #include <QFile>
 #include <QPushButton>
 #include <QSlider>
@@ -253,6 +254,10 @@ TEST_F(ImagePositionTest, AnotherPictureStartsUnzoomedAndCentered) {
                 Click(window, "cmdOK");
             })
         .In("frmBrowse", [](QWidget& window) {
+            for (const QComboBox* kinds : window.findChildren<QComboBox*>()) {
+                for (int i = 0; i < kinds->count(); ++i)
+                    EXPECT_FALSE(kinds->itemText(i).contains(QStringLiteral("wmf"), Qt::CaseInsensitive));
+            }
             QTest::keyClick(&Find<QWidget>(window, "filList"), Qt::Key_Home);
             QTest::keyClick(&Find<QWidget>(window, "filList"), Qt::Key_Return);
         });

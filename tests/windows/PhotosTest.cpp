@@ -221,6 +221,8 @@ TEST_F(PhotosTest, TheTrayTicksWhatTheGameShowsAndHandsFilesOver) {
         return grid.model()->index(row, 0).data(Qt::DecorationRole).value<QPixmap>().toImage();
     };
     EXPECT_EQ(Caption(grid, 1), QStringLiteral("place 1.png"));
+    const auto isThere = [&image](int row) { return image(row).pixelColor(image(row).rect().center()).alpha() == 255; };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isThere(0) && isThere(1) && isThere(2); })) << "and none is pale";
     const QImage before = image(1);
     C_Space space = TheGame().spaces[4];
     space.SetImagePath(Photos() + QStringLiteral("/place 1.png"));
