@@ -124,6 +124,21 @@ TEST_F(MissingPicturesTest, OfTwoOfANameItIsTheOneOfTheSizeAndDateThatThePicture
               PathOf(QStringLiteral("new/b/IMG_0001.png")));
 }
 
+TEST_F(MissingPicturesTest, OfTwoOfANameItIsTheOneOnWhoseMiddleThePieceIsCentered) {
+    Show(1, PathOf(QStringLiteral("old/first.png")));
+    // As a game tells it that comes from another computer: of a picture of 90 x 70.
+    Show(2, PathOf(QStringLiteral("old/cat.png")));
+    game.spaces[2].Image.Let_XCenter(45);
+    game.spaces[2].Image.Let_YCenter(35);
+    game.spaces[2].Image.Let_Zoom(0);
+    Photo(QStringLiteral("new/a/cat.png"), Qt::red, QSize(90, 40));
+    Photo(QStringLiteral("new/b/cat.png"), Qt::red, QSize(90, 70));
+    Photo(QStringLiteral("new/c/cat.png"), Qt::red, QSize(60, 70));
+    EXPECT_EQ(LookAround(PathOf(QStringLiteral("old/first.png")), Photo(QStringLiteral("new/first.png")))
+                  .value(PathOf(QStringLiteral("old/cat.png"))),
+              PathOf(QStringLiteral("new/b/cat.png")));
+}
+
 TEST_F(MissingPicturesTest, OfTwoOfANameItIsTheOneThatThePieceHasShown) {
     const QString old = Photo(QStringLiteral("old/cat.png"), Qt::blue);
     Show(1, PathOf(QStringLiteral("old/first.png")));

@@ -10,6 +10,7 @@
 #include "render/clsRenderDestination.h"
 #include "services/basCommon.h"
 #include "support/GameFixture.h"
+#include "support/Ink.h"
 #include "support/PdfReader.h"
 #include "support/PictureFiles.h"
 #include "support/StartUp.h"
@@ -241,4 +242,23 @@ TEST_F(MadePicturesTest, PaperTakesTheDrawingOfAFileWithoutItsPixelsUntilTheFile
     const Picture other = LoadForPaper(file, error);
     EXPECT_FALSE(other.Recording());
     EXPECT_EQ(other.Image().size(), QSize(30, 20));
+}
+
+TEST_F(MadePicturesTest, TheGroundOfAStickerReachesItsEdges) {
+    ASSERT_TRUE(frmBMP::Instance().GenerateSpaceStickerImage(file, 5));
+    const QImage sticker(file);
+    const QColor ground(0xB6, 0xDD, 0xC7);
+    const int right = sticker.width() - 1;
+    const int bottom = sticker.height() - 1;
+    for (const QPoint corner : {QPoint(0, 0), QPoint(right, 0), QPoint(0, bottom), QPoint(right, bottom)})
+        EXPECT_EQ(sticker.pixelColor(corner), ground) << corner.x() << ' ' << corner.y();
+}
+
+TEST_F(MadePicturesTest, LinesOfATextAreAsHighAsItsSize) {
+    ASSERT_TRUE(frmBMP::Instance().GenerateTextImage(file, 4.0, 1.0, QStringLiteral("H"), QStringLiteral("Arial"),
+                                                     false, false, 0.2, Color::Black(), Color::White()));
+    const QImage text(file);
+    // A line of 0.2 inch is 1.149 times as high as its letters' square, of which an H takes 0.716.
+    const double inches = double(DarkBox(text, text.rect()).height()) / text.height();
+    EXPECT_NEAR(inches, 0.2 / 1.149 * 0.716, 0.006);
 }

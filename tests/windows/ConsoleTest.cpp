@@ -127,6 +127,10 @@ TEST_F(ConsoleTest, EachMenuButtonOpensItsFrameAlone) {
         Click(*console, qPrintable(QStringLiteral("cmdNav_%1").arg(frame)));
         for (int i = 0; i < 6; ++i)
             EXPECT_EQ(Shows(qPrintable(QStringLiteral("fraPrint_%1").arg(i))), i == frame) << frame << ' ' << i;
+        const QWidget* const keys = console->focusWidget();
+        ASSERT_NE(keys, nullptr);
+        EXPECT_EQ(keys->parentWidget(), &Control(qPrintable(QStringLiteral("fraPrint_%1").arg(frame)))) << frame;
+        EXPECT_TRUE(keys->isVisible()) << "keys go to a button that is seen";
     }
 }
 

@@ -241,6 +241,20 @@ TEST_F(SetupColorTest, CancelAndEscapeStoreNothingAndAskNothing) {
     EXPECT_TRUE(desktop.boxes.isEmpty());
 }
 
+TEST_F(SetupColorTest, OnlyOkIsAYes) {
+    for (const char* sButton : {"cmdOK", "cmdCancel", ""}) {
+        ModalSteps person;
+        person.In("frmColor", [sButton](QWidget& window) {
+            if (*sButton) {
+                Click(window, sButton);
+            } else {
+                window.close();
+            }
+        });
+        EXPECT_EQ(frmColor().ShowForm(), sButton == std::string("cmdOK")) << sButton;
+    }
+}
+
 TEST_F(SetupColorTest, AClickOnTheSampleTakesItsColour) {
     Open();
     Default().click();
