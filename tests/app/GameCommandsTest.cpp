@@ -35,6 +35,12 @@ protected:
         SetIni(QStringLiteral("GameName"), InGames(name));
         Start();
     }
+    /// Of space 4 in a file of the games' folder, as it stands there.
+    QByteArray SavedText(const char* file) const {
+        const QList<QByteArray> lines = ReadFile(InGames(QString::fromLatin1(file))).split('\n');
+        // The head, the titles and the heads of the news stand above the spaces.
+        return lines.size() > 7 ? lines[7].split('"').value(1) : QByteArray();
+    }
     CommonDialog asked;
 };
 
@@ -57,12 +63,15 @@ TEST_F(GameCommandsTest, WhateverBearsTheNameOfASampleIsLeftAlone) {
 
 TEST_F(GameCommandsTest, Edge_NewGameTakesTheFirstFreeNumber) {
     WriteGame(QStringLiteral("Game1.gam"), QStringLiteral("One"));
-    WriteGame(QStringLiteral("Game2.gam"), QStringLiteral("Two"));
+    WriteGame(QStringLiteral("Game3.gam"), QStringLiteral("Three"));
     Start();
     ChooseMenu("mnuFile_0");
-    EXPECT_EQ(window->Commands().InHand().GameName(), InGames(QStringLiteral("Game3.gam")));
+    EXPECT_EQ(window->Commands().InHand().GameName(), InGames(QStringLiteral("Game2.gam"))) << "a hole";
+    WriteGame(QStringLiteral("Game2.gam"), QStringLiteral("Two"));
+    ChooseMenu("mnuFile_0");
+    EXPECT_EQ(window->Commands().InHand().GameName(), InGames(QStringLiteral("Game4.gam")));
     EXPECT_EQ(window->windowTitle(),
-              QStringLiteral("Tavlora: ") + InGames(QStringLiteral("Game3.gam")) + QStringLiteral("[*]"));
+              QStringLiteral("Tavlora: ") + InGames(QStringLiteral("Game4.gam")) + QStringLiteral("[*]"));
 }
 
 TEST_F(GameCommandsTest, Edge_GameboardAsksForANameAtEverySave) {
@@ -81,11 +90,13 @@ TEST_F(GameCommandsTest, Edge_GameboardAsksForANameAtEverySave) {
 TEST_F(GameCommandsTest, Edge_AutosaveComesWithTheFirstChangeItsBackupWithTheSecondAndASaveTakesBoth) {
     StartWith(QStringLiteral("Mine.gam"));
     Edit(QStringLiteral("One"));
-    EXPECT_TRUE(HasAutosave());
+    EXPECT_EQ(SavedText("~AutoSave.dat"), "One");
     EXPECT_FALSE(HasBackup());
     EXPECT_TRUE(window->isWindowModified());
     Edit(QStringLiteral("Two"));
-    EXPECT_TRUE(HasBackup());
+    EXPECT_EQ(SavedText("~AutoSave.dat"), "Two");
+    EXPECT_EQ(SavedText("~AutoSave.bak"), "One");
+    EXPECT_EQ(SavedText("Mine.gam"), "As saved");
     ChooseMenu("mnuFile_3");
     EXPECT_FALSE(HasAutosave());
     EXPECT_FALSE(HasBackup());

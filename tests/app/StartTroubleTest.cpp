@@ -4,6 +4,7 @@
 
 #include "app/frmAbout.h"
 #include "platform/files/Files.h"
+#include "platform/files/Folders.h"
 
 #include <QDialog>
 
@@ -50,6 +51,34 @@ protected:
         return int(Log().count(QStringLiteral("Load Game Named: ") + InGames(name)));
     }
 };
+
+TEST_F(StartTroubleTest, RentsThatEndTooSoonEndTheProgramBeforeItShowsABoard) {
+    QDir(folder.path()).mkdir(QStringLiteral("program"));
+    const QList<QByteArray> rows = ReadFile(QStringLiteral(TAVLORA_DATA_DIR "/Rents_US.dat")).split('\n');
+    const QString rents = WriteFile(QStringLiteral("program/Rents.dat"), rows.mid(0, 27).join('\n'));
+    Folders::SetProgramDirectory(PathOf(QStringLiteral("program")));
+    // The first box comes while the window is being made: its pictures lie where nothing but the rents does.
+    desktop.onBox = [this] { EXPECT_FALSE(window && window->isVisible()); };
+    EXPECT_THROW(Start(), ProgramEnded);
+    EXPECT_FALSE(window->isVisible());
+    ASSERT_FALSE(desktop.boxes.isEmpty());
+    EXPECT_EQ(desktop.boxes.last().sText,
+              QStringLiteral("Row #27 was not found where expected in the file named '") + rents +
+                  QStringLiteral("'. \r\n\r\nSince we cannot get the rent values, the program is being terminated. "
+                                 "\r\n\r\nTo correct this problem, you may have to reinstall the software. "));
+}
+
+TEST_F(StartTroubleTest, ALogIsKeptUpTo60000BytesAndDeletedBeyond) {
+    const QString head = QStringLiteral("Log File Started");
+    WriteFile(QStringLiteral("games/tavlora.log"), QByteArray(60000, 'x'));
+    Start();
+    EXPECT_TRUE(Log().startsWith(QString(60000, u'x')));
+    EXPECT_TRUE(Log().contains(head)) << "it goes on behind";
+    WriteFile(QStringLiteral("games/tavlora.log"), QByteArray(60001, 'x'));
+    Start();
+    EXPECT_FALSE(Log().contains(QStringLiteral("xxx")));
+    EXPECT_TRUE(Log().contains(head));
+}
 
 TEST_F(StartTroubleTest, FoldersInPlaceOfTheAutosaveHoldUpNothing) {
     MakeLastGame();

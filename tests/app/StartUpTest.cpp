@@ -28,9 +28,18 @@ bool Shows(const QWidget& window, const char* name) {
     return button && button->isVisible();
 }
 
+QString CaptionOf(const QWidget& window, const char* name) {
+    const auto* const button = window.findChild<QPushButton*>(QString::fromLatin1(name));
+    return button ? button->text().remove(u'&') : QString();
+}
+
 class StartUpTest : public AppTest {
 protected:
     static QUrl HelpPage() { return QUrl::fromLocalFile(QStringLiteral(TAVLORA_DATA_DIR "/guide/index.html")); }
+    static QString HelpAddress() {
+        const QString named = QStringLiteral(TAVLORA_HELP_URL);
+        return named.isEmpty() ? HelpPage().toString() : named;
+    }
 };
 
 TEST_F(StartUpTest, Edge_NameTavlora2aIsVariant2AAndTheIniChangesTheVariantButNotTheColours) {
@@ -68,6 +77,11 @@ TEST_F(StartUpTest, Edge_UnreadableAutosaveIsFollowedByItsBackup) {
     ASSERT_EQ(desktop.boxes.size(), 3);
     EXPECT_EQ(desktop.boxes[0].sText, kAutosaveFound);
     EXPECT_EQ(desktop.boxes[1].iStyle, vbCritical);
+    EXPECT_EQ(desktop.boxes[1].sText,
+              QStringLiteral("The following error occurred while trying to load the game to the file named '") +
+                  InGames(QStringLiteral("~AutoSave.dat")) +
+                  QStringLiteral("'.\r\n\r\nLoading File Is Not Compatible\r\n\r\nThe problem occurred while checking "
+                                 "file type. The file was NOT successfully processed. "));
     EXPECT_EQ(desktop.boxes[2].sText, kBackupFound);
     EXPECT_EQ(TextOfSpace4(), QStringLiteral("Kept"));
     EXPECT_EQ(window->Commands().InHand().GameName(), InGames(QStringLiteral("Mine.gam")));
@@ -216,6 +230,7 @@ TEST_F(StartUpTest, SplashShowsThatItIsLoadingWithoutAButton) {
                 if (top->objectName() != QStringLiteral("frmAbout")) continue;
                 m_flag = top->isVisible() && !Shows(*top, "cmdOK") &&
                          top->findChild<QLabel*>(QStringLiteral("lblLoading"))->isVisible();
+                EXPECT_EQ(TextOf(*top, "lblLoading"), QStringLiteral("Loading . . ."));
             }
         }
 
@@ -232,14 +247,15 @@ TEST_F(StartUpTest, SplashShowsThatItIsLoadingWithoutAButton) {
 TEST_F(StartUpTest, WelcomeWindowOffersTwoAnswersAndRemembersThatItWasPrinted) {
     WithModal("frmPrintManual", [](QWidget& modal) {
         EXPECT_EQ(TextOf(modal, "Label1"), QStringLiteral("Welcome to Tavlora"));
-        const QString named = QStringLiteral(TAVLORA_HELP_URL);
         EXPECT_EQ(TextOf(modal, "Label2"),
                   QStringLiteral("If you have not already done so, please print the assembly instructions that are "
                                  "available on your cd-rom or at ") +
-                      (named.isEmpty() ? HelpPage().toString() : named));
+                      HelpAddress());
         EXPECT_TRUE(QFileInfo(HelpPage().toLocalFile()).isFile()) << "an address that leads somewhere";
         EXPECT_FALSE(Shows(modal, "cmdOK"));
         EXPECT_TRUE(Shows(modal, "cmdAlreadyPrintedIt"));
+        EXPECT_EQ(CaptionOf(modal, "cmdAlreadyPrintedIt"), QStringLiteral("Already printed it"));
+        EXPECT_EQ(CaptionOf(modal, "cmdDoNotPrint"), QStringLiteral("Not now. Maybe later"));
         ClickIn(modal, "cmdDoNotPrint");
     });
     Start(QStringLiteral("tavlora"), QString());
@@ -277,6 +293,8 @@ TEST_F(StartUpTest, HelpWindowBringsTheWelcomeBack) {
     Start();
     WithModal("frmPrintManual", [](QWidget& modal) {
         EXPECT_EQ(TextOf(modal, "Label1"), QStringLiteral("Assembly Instructions"));
+        EXPECT_EQ(TextOf(modal, "Label2"),
+                  QStringLiteral("Assembly instructions are available on your cd-rom or at ") + HelpAddress());
         EXPECT_FALSE(Shows(modal, "cmdDoNotPrint"));
         QTest::keyClick(&modal, Qt::Key_Escape);
     });

@@ -192,6 +192,8 @@ TEST_F(ToolBarAndMenusTest, MenusCarryTheirCaptionsAndShortcuts) {
         {"mnuTop_1", "&View", "", true},
         {"mnuView_0", "&Zoom...", "", true},
         {"mnuZoom_0", "&1X", "Ctrl+1", true},
+        {"mnuZoom_1", "&2X", "Ctrl+2", true},
+        {"mnuZoom_2", "&3X", "Ctrl+3", true},
         {"mnuZoom_3", "&4X", "Ctrl+4", true},
         {"mnuView_1", "&Money", "", true},
         {"mnuView_2", "&Good News", "", true},

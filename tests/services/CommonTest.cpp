@@ -34,7 +34,7 @@ TEST_F(CommonTest, Edge_GetColorFromStringOfAGRaises) {
         GetColorFromString(text);
         FAIL();
     } catch (const TavloraError& error) {
-        EXPECT_EQ(error.Number(), ErrNumber::kIllegalValue);
+        EXPECT_EQ(error.Number(), 0x80040002U);
         EXPECT_TRUE(error.Description().endsWith(QStringLiteral("Illegal value for Color")));
     }
 }

@@ -7,6 +7,7 @@
 #include <QDateTime>
 #include <QMimeData>
 #include <QRect>
+#include <QRegularExpression>
 
 #ifdef Q_OS_UNIX
 #include <sys/stat.h>
@@ -81,11 +82,15 @@ TEST_F(ErrLogTest, Edge_AFailureThreeRoutinesDeepShowsTheTextAndLogsTheWholeStac
                              "The photo is upside down"));
     ErrReport(1234, description, 48);
     ASSERT_EQ(desktop.boxes.size(), 1);
-    EXPECT_TRUE(
-        desktop.boxes[0].sText.startsWith(QStringLiteral("The following error has occurred in your application: "
-                                                         "\r\n\r\nThe photo is upside down\r\n\r\nYou may be able")))
-        << qPrintable(desktop.boxes[0].sText);
-    EXPECT_FALSE(desktop.boxes[0].sText.contains(QStringLiteral("Middle")));
+    EXPECT_EQ(
+        desktop.boxes[0].sText,
+        QStringLiteral("The following error has occurred in your application: \r\n\r\nThe photo is upside down\r\n\r\n"
+                       "You may be able to continue using the program anyway, even though you are apparently unable to "
+                       "use this particular feature at this time. For additional information, look at the end of the "
+                       "log file named '") +
+            LogPath() +
+            QStringLiteral("'. \r\n\r\nClick 'OK' below if you would like to keep going or 'Cancel' if not. "));
+    EXPECT_TRUE(Log().contains(desktop.boxes[0].sText)) << "and in the log";
     EXPECT_EQ(desktop.boxes[0].iStyle, vbOKCancel | vbExclamation);
     for (const char* line : {"--->basTest!Innermost(2)", "--->basTest!Middle(\"Oma\", True)", "--->basTest!Outer",
                              "***The photo is upside down***", "See the call stack below", "Continuing"}) {
@@ -97,6 +102,20 @@ TEST_F(ErrLogTest, Edge_ARoutineWithoutArgumentsStandsWithoutBrackets) {
     ErrInit(60000);
     EXPECT_EQ(ErrAddToStack(QStringLiteral("basTest!"), QStringLiteral("Plain"), QString(), QStringLiteral("why")),
               QStringLiteral("basTest!Plain\r\n\r\nwhy"));
+}
+
+TEST_F(ErrLogTest, AFailureBeginsInTheLogWithDateTextAndStack) {
+    ErrInit(60000);
+    const QDateTime before = QDateTime::currentDateTime().addSecs(-1);
+    ErrAddToStack(QStringLiteral("basTest!"), QStringLiteral("Plain"), QString(), QStringLiteral("why"));
+    const QRegularExpression entry(QStringLiteral(
+        "\r\nThe following error occurred at (\\d\\d/\\d\\d/\\d\\d \\d\\d:\\d\\d:\\d\\d)\r\n\\*\\*\\*why\\*\\*\\*\r\n"
+        "See the call stack below\r\n--->basTest!Plain\r\n$"));
+    const QRegularExpressionMatch match = entry.match(Log());
+    ASSERT_TRUE(match.hasMatch()) << qPrintable(Log());
+    const QDateTime told = QDateTime::fromString(match.captured(1), QStringLiteral("MM/dd/yy hh:mm:ss")).addYears(100);
+    EXPECT_GE(told, before) << "month, day, year";
+    EXPECT_LE(told, QDateTime::currentDateTime());
 }
 
 TEST_F(ErrLogTest, AnEntryThatCantBeWrittenIsLostWithoutAWord) {
@@ -155,16 +174,29 @@ TEST_F(ErrLogTest, ASwallowedFailureStandsBehindTheNextOne) {
 TEST_F(ErrLogTest, CriticalReportsEndTheProgram) {
     ErrInit(60000);
     EXPECT_THROW(ErrReport(1, QStringLiteral("x"), 16), ProgramEnded);
-    EXPECT_TRUE(
-        desktop.boxes[0].sText.contains(QStringLiteral("This problem is critical and the program cannot continue. ")));
-    EXPECT_TRUE(desktop.boxes[0].sText.contains(u'\'' + LogPath() + u'\''));
+    EXPECT_EQ(
+        desktop.boxes[0].sText,
+        QStringLiteral("The following critical error has occurred in your application: \r\n\r\nx\r\n\r\nFor additional "
+                       "information, look at the end of the log file named '") +
+            LogPath() + QStringLiteral("'. \r\n\r\nThis problem is critical and the program cannot continue. "));
+    EXPECT_EQ(desktop.boxes[0].iStyle, 16);
     EXPECT_THROW(ErrReport(1, QStringLiteral("x"), 7), ProgramEnded);
     EXPECT_EQ(desktop.boxes[1].sText, QStringLiteral("ErrReport was called with an unexpected value for iCritical. The "
                                                      "program is being terminated."));
+    EXPECT_EQ(desktop.boxes[1].iStyle, 16);
+}
+
+TEST_F(ErrLogTest, AReportForInformationSaysThatAllGoesOn) {
+    ErrInit(60000);
     ErrReport(1, QStringLiteral("x"), 64);
-    EXPECT_TRUE(desktop.boxes[2].sText.contains(QStringLiteral("You can continue using the program anyway, ")));
-    EXPECT_FALSE(desktop.boxes[2].sText.contains(QStringLiteral("Click 'OK'")));
-    EXPECT_EQ(desktop.boxes[2].iStyle, vbInformation);
+    ASSERT_EQ(desktop.boxes.size(), 1);
+    EXPECT_EQ(desktop.boxes[0].sText,
+              QStringLiteral("The following error has occurred in your application: \r\n\r\nx\r\n\r\nYou can continue "
+                             "using the program anyway, even though you are apparently unable to use this particular "
+                             "feature at this time. For additional information, look at the end of the log file named "
+                             "'") +
+                  LogPath() + QStringLiteral("'. \r\n\r\n"));
+    EXPECT_EQ(desktop.boxes[0].iStyle, 64);
 }
 
 TEST_F(ErrLogTest, TheLogBeginsWithAHeadOnce) {
@@ -223,13 +255,14 @@ TEST_F(ErrLogTest, AssertAndUnexpectedValueRaiseTheirNumbers) {
         ErrAssert(false, QStringLiteral("no font"));
         FAIL();
     } catch (const TavloraError& error) {
-        EXPECT_EQ(error.Number(), ErrNumber::kAssertion);
+        EXPECT_EQ(error.Number(), 0x80040003U);
         EXPECT_EQ(error.Description(), QStringLiteral("Assertion Failure: no font"));
     }
     try {
         ErrUnexVal(QStringLiteral("sSpace"), QStringLiteral("x"));
+        FAIL();
     } catch (const TavloraError& error) {
-        EXPECT_EQ(error.Number(), ErrNumber::kOutOfRange);
+        EXPECT_EQ(error.Number(), 0x80040004U);
         EXPECT_EQ(
             error.Description(),
             QStringLiteral("Internal variable not within expected range: 'sSpace' held the following value: 'x'"));
