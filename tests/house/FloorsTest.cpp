@@ -34,12 +34,9 @@ QStringList OnNoFloor(const Sources& sources, const Floors& floors) {
     return wrong;
 }
 
-// "class X;" where X is only known on floors that the file may not include from.
-QStringList DeclaredFromAbove(const Sources& sources, const Floors& floors) {
-    static const QRegularExpression definition(QStringLiteral(R"(^(?:class|struct) (\w+)[^;{()]*\{)"),
-                                               QRegularExpression::MultilineOption);
-    static const QRegularExpression declaration(QStringLiteral(R"(^(?:class|struct) (\w+);)"),
-                                                QRegularExpression::MultilineOption);
+// What a file declares by hand, and what of it is only known on floors that the file may not include from.
+QStringList KnownAboveOnly(const Sources& sources, const Floors& floors, const QRegularExpression& definition,
+                           const QRegularExpression& declaration) {
     QMap<QString, QSet<int>> homes;
     for (auto file = sources.begin(); file != sources.end(); ++file) {
         for (auto matches = definition.globalMatch(file.value()); matches.hasNext();)
@@ -57,6 +54,23 @@ QStringList DeclaredFromAbove(const Sources& sources, const Floors& floors) {
         }
     }
     return wrong;
+}
+
+QRegularExpression AtALinesStart(const char* sPattern) {
+    return QRegularExpression(u'^' + QString::fromLatin1(sPattern), QRegularExpression::MultilineOption);
+}
+
+// "class X;" and "void X();", where X stands above.
+QStringList DeclaredFromAbove(const Sources& sources, const Floors& floors) {
+    static const QRegularExpression classes = AtALinesStart(R"((?:class|struct) (\w+)[^;{()]*\{)");
+    static const QRegularExpression classNamed = AtALinesStart(R"((?:class|struct) (\w+);)");
+    // Where it stands it may have the name of its namespace, or of its class, ahead of its own.
+    static const QRegularExpression routines =
+        AtALinesStart(R"([A-Za-z_][\w:<>,&* ]*[&* ](?:\w+::)*(\w+)\([^;{}]*\)[^;{}()]*\{)");
+    static const QRegularExpression routineNamed =
+        AtALinesStart(R"([A-Za-z_][\w:<>,&* ]*[&* ](\w+)\([^;{}]*\)(?: noexcept)?;)");
+    return KnownAboveOnly(sources, floors, classes, classNamed) +
+           KnownAboveOnly(sources, floors, routines, routineNamed);
 }
 
 // A test that names one header ahead of all others is a test of that one.
@@ -131,7 +145,7 @@ TEST(House, NoFileStandsOutsideTheFloors) {
     EXPECT_EQ(OnNoFloor(Read({QStringLiteral("src")}), Floors::OfTheHouse()).join(u'\n').toStdString(), "");
 }
 
-TEST(House, NoFileDeclaresAClassOfAHigherFloor) {
+TEST(House, NoFileDeclaresWhatStandsOnAHigherFloor) {
     EXPECT_EQ(DeclaredFromAbove(Read({QStringLiteral("src")}), Floors::OfTheHouse()).join(u'\n').toStdString(), "");
 }
 
@@ -165,6 +179,17 @@ TEST(HouseCheck, FindsAClassOfAHigherFloor) {
     EXPECT_EQ(DeclaredFromAbove(sources, kThree), QStringList{QStringLiteral("src/low/Bad.h -> Tall")});
     sources[QStringLiteral("src/low/Tall.h")] = QStringLiteral("struct Tall {\n");
     EXPECT_EQ(DeclaredFromAbove(sources, kThree), QStringList()) << "one of that name stands low enough";
+}
+
+TEST(HouseCheck, FindsARoutineOfAHigherFloor) {
+    Sources sources =
+        OneFile("src/low/Bad.cpp", "extern bool Climb(int iSteps,\n                  int iMore);\nvoid Unknown();\n");
+    sources[QStringLiteral("src/high/er/Climb.cpp")] = QStringLiteral("bool Climb(int iSteps, int iMore) try {\n");
+    EXPECT_EQ(DeclaredFromAbove(sources, kThree), QStringList{QStringLiteral("src/low/Bad.cpp -> Climb")});
+    sources[QStringLiteral("src/low/Climb.cpp")] = QStringLiteral("bool Climb(int, int) {\n");
+    EXPECT_EQ(DeclaredFromAbove(sources, kThree), QStringList()) << "one of that name stands low enough";
+    sources[QStringLiteral("src/low/Climb.cpp")] = QStringLiteral("bool Stairs::Climb(int, int) {\n");
+    EXPECT_EQ(DeclaredFromAbove(sources, kThree), QStringList()) << "and so it does in a namespace";
 }
 
 TEST(HouseCheck, FindsATestOutOfPlace) {
