@@ -82,4 +82,7 @@ TEST_F(BrowsePlacesTest, DriveLettersAreComparedWithoutCase) {
 TEST_F(BrowsePlacesTest, Edge_ANetworkPathCountsAsAnotherDriveWhateverItsFirstLetter) {
     EXPECT_FALSE(IsOnGamesDrive(QStringLiteral("\\\\castle\\pics\\a.bmp"), QStringLiteral("C:\\Users\\kid\\My Games")));
     EXPECT_FALSE(IsOnGamesDrive(QStringLiteral("\\\\castle\\pics\\a.bmp"), folder.path()));
+    // The same without the network.
+    EXPECT_TRUE(IsOnGamesDrive(QStringLiteral("C:\\castle\\pics\\a.bmp"), QStringLiteral("C:\\Users\\kid\\My Games")));
+    EXPECT_TRUE(IsOnGamesDrive(folder.filePath(QStringLiteral("a.bmp")), folder.path()));
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "BrowseFixture.h"
 
+#include "services/ProgramSettings.h"
+
 #include <QPushButton>
 
 namespace {
@@ -369,16 +371,24 @@ TEST_F(BrowseTest, Edge_CopiesWithATakenNameAreNumberedAndTheBoxNamesThem) {
 }
 
 TEST_F(BrowseTest, Edge_APictureOnTheGamesDriveStaysWhereItIs) {
-    QDir(folder.path()).mkpath(QStringLiteral("cats"));
-    const QString picture = Picture(QStringLiteral("cats/cat.bmp"));
-    const QString path = Browse(QString(), [](QWidget& window) {
-        OpenFolder(window, QStringLiteral("cats"));
-        ClickFile(window, QStringLiteral("cat.bmp"));
-        Click(window, "cmdOK");
-    });
-    EXPECT_EQ(path, picture);
-    EXPECT_TRUE(desktop.boxes.isEmpty());
-    EXPECT_FALSE(Files::Exists(PathOf(QStringLiteral("cat.bmp"))));
+    // In a folder of the games' one, and in a folder beside it.
+    for (const QString& games : {folder.path(), PathOf(QStringLiteral("games"))}) {
+        SCOPED_TRACE(games.toStdString());
+        QDir(folder.path()).mkpath(QStringLiteral("games"));
+        QDir(folder.path()).mkpath(QStringLiteral("cats"));
+        Settings().sMyGamesDirectory = games;
+        const QString picture = Picture(QStringLiteral("cats/cat.bmp"));
+        const QString path = Browse(
+            QString(),
+            [](QWidget& window) {
+                ClickFile(window, QStringLiteral("cat.bmp"));
+                Click(window, "cmdOK");
+            },
+            true, PathOf(QStringLiteral("cats")));
+        EXPECT_EQ(path, picture);
+        EXPECT_TRUE(desktop.boxes.isEmpty());
+        EXPECT_FALSE(Files::Exists(games + QStringLiteral("/cat.bmp")));
+    }
 }
 
 TEST_F(BrowseTest, Edge_AFileInTheRootGetsNoSecondSeparator) {

@@ -91,6 +91,11 @@ TEST_F(ConsoleTest, Edge_SixMillionBytesAreEnoughForDeedsAndNotForMoney) {
     EXPECT_EQ(desktop.Texts(), QStringList{LittleDisk(5, 40)});
     EXPECT_EQ(desktop.boxes[0].sTitle, QStringLiteral("Tavlora"));
     EXPECT_FALSE(Hourglass());
+    desktop.boxes.clear();
+    Folders::PretendFreeBytes(39'999'999);
+    Print(kMoney100);
+    EXPECT_EQ(printer.ended.size(), 1);
+    EXPECT_EQ(desktop.Texts(), QStringList{LittleDisk(38, 40)});
     Folders::PretendFreeBytes(40'000'000);
     Print(kMoney100);
     EXPECT_EQ(printer.ended.size(), 2) << "the guard is free again";

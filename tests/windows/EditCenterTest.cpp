@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "windows/editors/frmEditCenter.h"
 
+#include "platform/paint/Surface.h"
 #include "support/EditorFixture.h"
 #include "support/Ink.h"
 #include "windowing/PictureBox.h"
@@ -165,6 +166,48 @@ TEST_F(EditCenterTest, Edge_TheFixedWordShowsInItsPartAndCannotBeEdited) {
         EXPECT_EQ(Typed(form, kNameRecord), QStringLiteral("Our Townxx")) << "the area is the game name's";
         EXPECT_EQ(Shown(form).copy(part), word);
     });
+}
+
+TEST_F(EditCenterTest, TheGamesNameIs212PixelsWideInItsPart) {
+    // Two of its letters reach their edges, so that the ink is as wide as the letters but for a pixel or two.
+    basPosit::SetSpecialText(kNameRecord, QStringLiteral("VIV"));
+    Edit([](QDialog& form) {
+        // 0.4952 of 429 pixels about 0.3167 of them; the strips above and below are left out.
+        const QRect ink = DarkBox(Shown(form), QRect(16 + 136 - 112, 32 + 22, 224, 52), 100);
+        EXPECT_NEAR(ink.width(), 211, 2);
+        EXPECT_NEAR(ink.center().x(), 16 + 136, 1);
+    });
+}
+
+TEST_F(EditCenterTest, BothSubtitlesShowInItalicLettersOfTheirOwnWidth) {
+    const struct {
+        const char* text;
+        int record;
+        Color face;
+        int height; ///< Of a line: the area's less 2, in equal parts.
+        int width;  ///< Half the height less 1, halves to even.
+        int middle;
+        int top;
+    } rows[] = {{"Hg", kSubtitleRecord, Color::Rgb(255, 0, 0), 78, 38, 230, 144},
+                {"Hg\r\nTo", kSubtitleRecord, Color::Rgb(255, 0, 0), 39, 18, 230, 144},
+                {"Hg", kOccasionRecord, Color::Rgb(224, 255, 224), 94, 46, 570, 144},
+                {"Hg\r\nTo\r\nUs", kOccasionRecord, Color::Rgb(224, 255, 224), 31, 14, 570, 144}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.text);
+        const QString text = QString::fromLatin1(row.text);
+        basPosit::SetSpecialText(row.record, text);
+        const QRect area = kArea[row.record - 1];
+        ScratchForm told(QSize(700, 260));
+        basDraw::Draw_SetHdc(&told.hDC());
+        basDraw::Draw_SetPen(PenStyle::Solid, 1, Color::Black());
+        basDraw::Draw_SetBrush(row.face);
+        basDraw::Draw_Rect(area.x(), area.y(), area.x() + area.width(), area.y() + area.height());
+        basDraw::Draw_SetFont(QStringLiteral("Times New Roman"), row.height, row.width, 0, 0, false, true, false);
+        basDraw::Draw_TextArray(text.split(QStringLiteral("\r\n")), QStringLiteral("C"), row.middle, row.top,
+                                Color::Black());
+        basDraw::Draw_ReleaseObjects();
+        Edit([&](QDialog& form) { EXPECT_EQ(Shown(form, area), told.Image().copy(area)); });
+    }
 }
 
 TEST_F(EditCenterTest, TheCaretIsAsThickAsInTheOtherEditors) {

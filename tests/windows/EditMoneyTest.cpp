@@ -152,6 +152,11 @@ TEST_F(EditMoneyTest, ControlsBearTheirCaptions) {
                     {"cmdCancel", "&Cancel"}};
         for (const auto& row : rows)
             EXPECT_EQ(Find<QAbstractButton>(row.name)->text(), QString::fromLatin1(row.caption));
+        QStringList labels;
+        for (const QLabel* label : form.findChildren<QLabel*>())
+            labels.append(label->text());
+        EXPECT_TRUE(labels.contains(QStringLiteral("&Edit text here:")));
+        EXPECT_TRUE(labels.contains(QStringLiteral("Image File:")));
         EXPECT_TRUE(Find<QRadioButton>("optMoney_0")->isChecked());
         EXPECT_EQ(Find<QWidget>("fraBitmap")->property("title").toString(), QStringLiteral("Bitmap"));
         Choose(2);

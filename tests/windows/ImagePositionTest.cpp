@@ -11,6 +11,7 @@
 
 #include <QComboBox>
 #include <QFile>
+#include <QLabel>
 #include <QPushButton>
 #include <QSlider>
 #include <QWheelEvent>
@@ -77,6 +78,14 @@ TEST_F(ImagePositionTest, ControlsHaveTheirNamesCaptionsAndRanges) {
         EXPECT_EQ(Find<QPushButton>(window, "cmdSelectImage").text().remove(u'&'),
                   QStringLiteral("Select Different Image"));
         EXPECT_EQ(Find<QPushButton>(window, "cmdCancel").text().remove(u'&'), QStringLiteral("Cancel"));
+        QStringList labels;
+        for (const QLabel* label : window.findChildren<QLabel*>())
+            labels.append(label->text());
+        for (const char* told :
+             {"Left click mouse and drag \nto move the image.\n",
+              "Right click to center the \nimage on the point clicked.\n", "Use slider at left to zoom \nthe image.\n"})
+            EXPECT_TRUE(labels.contains(QString::fromLatin1(told))) << told;
+        EXPECT_EQ(labels.filter(QStringLiteral("Zoom")).value(0).remove(u'&'), QStringLiteral("Zoom"));
         Click(window, "cmdOK");
     });
 }

@@ -64,6 +64,24 @@ protected:
     QString dialogTitle;
 };
 
+TEST_F(NewsTest, ButtonsBearTheirCaptions) {
+    Edit(kGood, 0, [](QDialog& form) {
+        EXPECT_EQ(form.windowTitle(), QStringLiteral("Edit News"));
+        const struct {
+            const char* name;
+            const char* caption;
+        } rows[] = {{"cmdBodyFont", "Change &Font"},
+                    {"cmdSetHeadFont", "&Title Font"},
+                    {"cmdSetAllFonts", "Set &All Fonts"},
+                    {"cmdCancel", "&Cancel"}};
+        for (const auto& row : rows)
+            EXPECT_EQ(Find<QPushButton>(form, row.name).text(), QString::fromLatin1(row.caption));
+    });
+    Show(kGood, [](QDialog& form) {
+        EXPECT_EQ(Find<QPushButton>(form, "cmdDone").text().remove(u'&'), QStringLiteral("Done"));
+    });
+}
+
 TEST_F(NewsTest, Edge_AClickBesideTheThirdColumnOrBelowTheFourthRowOpensNothing) {
     constexpr QPoint kBesideTheColumns(720, 100);
     constexpr QPoint kBelowTheRows(100, 560);

@@ -70,6 +70,11 @@ TEST_F(ShowTokensTest, Edge_AGalleryMadeTooSmallSnapsBack) {
         EXPECT_EQ(Picture(0).width(), (WindowSize().width() - 1305) / 3 / kTwipsPerPixel);
         EXPECT_EQ(Picture(0).width(), Picture(0).height());
         EXPECT_TRUE(gallery.rect().contains(Find<QWidget>("cmdOK")->geometry()));
+        // Each side by itself; 282 and 382 are 4230 and 5730 twips.
+        gallery.resize(100, 600);
+        EXPECT_EQ(gallery.size(), QSize(282, 600));
+        gallery.resize(500, 100);
+        EXPECT_EQ(gallery.size(), QSize(500, 382));
     });
 }
 
