@@ -56,11 +56,24 @@ TEST_F(GeometryTest, Edge_NegativeLimitMayWidenATextAndAPositiveOneNever) {
 }
 
 TEST_F(GeometryTest, Edge_AtTheInitialScaleEveryCoordinateIsZeroOrOne) {
+    EXPECT_EQ(PosX(0.4F), 0);
+    EXPECT_EQ(PosX(0.6F), 1);
+    // What lies left of the middle or above it is at 0, all else at 1.
+    const auto expect = [](float f) {
+        EXPECT_EQ(PosX(f), f < 0.5F ? 0 : 1) << f;
+        EXPECT_EQ(PosY(f), f < 0.5F ? 0 : 1) << f;
+    };
     for (int iSpace = 0; iSpace < 28; ++iSpace) {
-        const BoardRect& rect = m_SpaceRect(iSpace, SpacePart::Whole);
-        for (const float f : {rect.x1, rect.y1, rect.x2, rect.y2}) {
-            EXPECT_TRUE(PosX(f) == 0 || PosX(f) == 1);
-            EXPECT_EQ(PosX(f), PosY(f));
+        for (const SpacePart part : {SpacePart::Whole, SpacePart::Band}) {
+            const BoardRect& rect = m_SpaceRect(iSpace, part);
+            for (const float f : {rect.x1, rect.y1, rect.x2, rect.y2})
+                expect(f);
+        }
+    }
+    for (int iCorner = 0; iCorner < 4; ++iCorner) {
+        for (const auto& point : m_CornerPoly(iCorner)) {
+            expect(point.x);
+            expect(point.y);
         }
     }
 }

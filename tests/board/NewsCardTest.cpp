@@ -11,7 +11,7 @@ namespace {
 
 constexpr QSize kCard(basTAVL::kNewsCardWidth, basTAVL::kNewsCardHeight);
 // Inside of the title's frame, which is two pixels wide.
-const QRect kTitleInside = basTAVL::kNewsTitleFrame.adjusted(2, 2, -2, -2);
+constexpr QRect kTitleInside(QPoint(10, 10), QPoint(229, 33));
 // Ink this pale still counts: letters of two pixels are never black.
 constexpr int kPale = 240;
 
@@ -65,7 +65,15 @@ protected:
 };
 
 TEST_F(NewsCardTest, Edge_AShortTitleIsStretchedAndALongOneIsSqueezedToTheSameWidth) {
-    // As wide as the limit but for the white at both ends and the rounding of each letter to whole pixels.
+    // Letters that are all 12 wide where they aren't stretched, with no white between them: 180 of 1, 5, 9 and 36.
+    C_FontInfo even;
+    even.Family = QStringLiteral("Courier New");
+    for (const int letters : {1, 5, 9, 36}) {
+        const QRect ink = DarkBox(Title(QString(letters, u'_'), even), kTitleInside, kPale);
+        EXPECT_NEAR(ink.width(), 180, 2) << letters;
+        EXPECT_NEAR(ink.center().x(), 120, 1) << letters;
+    }
+    // And a family's own, but for the white at both ends and the rounding of each letter to whole pixels.
     for (const QString& title : {QStringLiteral("HaH"), QStringLiteral("Good News"),
                                  QStringLiteral("Here Is Very Good News Indeed For You")}) {
         const QRect ink = DarkBox(Title(title), kTitleInside);
@@ -73,6 +81,24 @@ TEST_F(NewsCardTest, Edge_AShortTitleIsStretchedAndALongOneIsSqueezedToTheSameWi
         EXPECT_LE(ink.width(), 190) << title.toStdString();
         EXPECT_NEAR(ink.center().x(), 120, 3) << title.toStdString();
     }
+}
+
+TEST_F(NewsCardTest, ATitleIs24PixelsHigh10BelowTheEdgeOfItsCard) {
+    // Nine letters of Courier in 180 pixels.
+    C_FontInfo even;
+    even.Family = QStringLiteral("Courier New");
+    const QString title = QStringLiteral("Good News");
+    ScratchForm told(kCard);
+    basDraw::Draw_SetHdc(&told.hDC());
+    basDraw::Draw_SetBrush(Color::White());
+    basDraw::Draw_SetPen(PenStyle::Solid, 1, Color::Black());
+    basDraw::Draw_Rect(0, 0, 240, 140);
+    basDraw::Draw_SetPen(PenStyle::Solid, 2, Color::Black());
+    basDraw::Draw_Rect(8, 8, 232, 36);
+    basDraw::Draw_SetFont(even.Family, 24, 20, 0, 0, false, false, false);
+    basDraw::Draw_Text(title, QStringLiteral("C"), 120, 10, Color::Black());
+    basDraw::Draw_ReleaseObjects();
+    EXPECT_EQ(Title(title, even), told.Image());
 }
 
 TEST_F(NewsCardTest, Edge_ManyLinesGetSmallLettersAndNeverLeaveTheBoxByHeight) {

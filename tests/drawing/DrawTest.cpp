@@ -125,25 +125,20 @@ TEST_F(DrawTest, Edge_AbovetheTextIsItsStartAndBelowItTheEndOfTheLastLine) {
 }
 
 TEST_F(DrawTest, Edge_AClickGoesToTheNearerEdgeOfACharacterAndFromItsMiddleToTheLeft) {
-    UseFont(40);
+    // Every letter of it is 20 wide.
+    Draw_SetFont(QStringLiteral("Courier New"), 40, 20, 0, 0, false, false, false);
     const QString text = QStringLiteral("HHHH");
-    const int one = Draw_GetWidth(QStringLiteral("H"));
-    const int two = Draw_GetWidth(QStringLiteral("HH"));
     int col = 0;
     int row = 0;
     const auto columnAt = [&](int x) {
         Draw_FindInsertPoint({text}, L, 0, 0, x, 5, col, row);
         return col;
     };
-    EXPECT_EQ(columnAt(one + 2), 1);
-    EXPECT_EQ(columnAt(two - 2), 2);
-    const int width = two - one;
-    if (width % 2 == 0) {
-        EXPECT_EQ(columnAt(one + width / 2), 1) << "a tie goes to the left";
-        EXPECT_EQ(columnAt(one + width / 2 + 1), 2);
-    } else {
-        EXPECT_EQ(columnAt(one + width / 2), 1);
-        EXPECT_EQ(columnAt(one + width / 2 + 1), 2);
+    for (int letter = 0; letter < 4; ++letter) {
+        EXPECT_EQ(columnAt(20 * letter + 1), letter);
+        EXPECT_EQ(columnAt(20 * letter + 10), letter) << "a tie goes to the left";
+        EXPECT_EQ(columnAt(20 * letter + 11), letter + 1);
+        EXPECT_EQ(columnAt(20 * letter + 19), letter + 1);
     }
     Draw_FindInsertPoint({QStringLiteral("I")}, L, 0, 0, 1, 5, col, row);
     EXPECT_EQ(col, 0);
@@ -153,11 +148,19 @@ TEST_F(DrawTest, Edge_ASelectionWhollyAboveOrBelowLeavesTheLinesPlain) {
     UseFont(20);
     const QStringList lines{QStringLiteral("one"), QStringLiteral("two")};
     const Color ink = Color::Rgb(200, 0, 0);
+    Draw_TextArray(lines, L, 10, 10, ink);
+    context.Flush();
+    const QImage plain = image.copy();
+    EXPECT_GT(CountOf(ink), 20);
     for (const int row : {-3, 7}) {
+        context.Flush();
+        image.fill(Qt::white);
         Draw_SetSelection(0, row, 2, row + 1);
         Draw_TextArrayShowingSelection(lines, L, 10, 10, ink);
         EXPECT_EQ(context.CurrentBkMode(), BkMode::Transparent);
         EXPECT_EQ(context.TextColor(), ink);
+        context.Flush();
+        EXPECT_EQ(image, plain) << row;
     }
     EXPECT_EQ(CountOf(ink.Complement()), 0);
     EXPECT_GT(CountOf(Color::White()), image.width() * image.height() - 3000);

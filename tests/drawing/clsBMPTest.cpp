@@ -251,6 +251,32 @@ TEST_F(clsBMPTest, MissingOvalPictureIsToldUnlessItWasTold) {
     EXPECT_TRUE(bmp.GetEllipticalPicture(broken, QString(), false).IsNull());
     EXPECT_EQ(desktop.boxes.size(), 2);
     EXPECT_TRUE(desktop.Texts().last().endsWith(QStringLiteral("Area will be left blank.")));
+    desktop.boxes.clear();
+    Files::SetFaultHook([](Files::Operation operation, const QString&) -> std::optional<QString> {
+        if (operation == Files::Operation::OpenRead) return QStringLiteral("The cable was pulled");
+        return std::nullopt;
+    });
+    const QString away = WriteFile(QStringLiteral("away.png"), Encoded(Quarters(8, 8), "png"));
+    EXPECT_TRUE(bmp.GetEllipticalPicture(away, QString(), false).IsNull());
+    EXPECT_TRUE(bmp.GetEllipticalPicture(away, away, false).IsNull());
+    EXPECT_EQ(desktop.Texts(), QStringList{QStringLiteral("Unable to load picture named '") + away +
+                                           QStringLiteral("'.\r\nThe cable was pulled\r\nArea will be left blank.")});
+}
+
+TEST_F(clsBMPTest, AnImageOfOtherThan1Or24BitsAPixelIsRefused) {
+    const QString path = PathOf(QStringLiteral("image.bmp"));
+    for (const int bits : {4, 8, 16}) {
+        try {
+            bmp.CreateFileHoldingImage(path, form.hDC(), 8, 8, 8, 8, bits);
+            FAIL() << bits;
+        } catch (const TavloraError& error) {
+            EXPECT_EQ(error.Number(), 0x80040003U);
+            EXPECT_TRUE(
+                error.Description().endsWith(QStringLiteral("\r\nAssertion Failure: Bits per pixel must be 1 or 24")))
+                << error.Description().toStdString();
+        }
+        EXPECT_FALSE(Files::Exists(path));
+    }
 }
 
 TEST_F(clsBMPTest, TextFileCarriesItsDrawingUntilTheFileChanges) {

@@ -72,11 +72,17 @@ TEST_F(LoadTest, ACornerWhoseLettersHaveNoSizeNeverGetsIntoHand) {
 }
 
 TEST_F(LoadTest, Edge_SixtySixLinesLoadThreeTokensAndDefaultsForTheRest) {
+    EXPECT_EQ(Load(WriteGame(PlainLines())), 0);
     EXPECT_EQ(Load(WriteGame(PlainLines().mid(0, 66))), 0);
-    EXPECT_EQ(basTAVL::g_oTokens(2).TextAll(), QStringLiteral("Token 2"));
-    EXPECT_EQ(basTAVL::g_oTokens(2).Font.Size, 48.0F);
-    EXPECT_EQ(basTAVL::g_oTokens(3).TextAll(), QString());
-    EXPECT_EQ(basTAVL::g_oTokens(5).Font.Size, 12.0F);
+    for (int i = 0; i < 6; ++i) {
+        SCOPED_TRACE(i);
+        const C_Token& token = basTAVL::g_oTokens(i);
+        EXPECT_EQ(token.Index, i);
+        EXPECT_EQ(token.TextAll(), i < 3 ? QStringLiteral("Token %1").arg(i) : QString());
+        EXPECT_EQ(token.Font.GetQuotedString(),
+                  i < 3 ? QStringLiteral("\"Arial\",I,48") : QStringLiteral("\"Arial\",R,12"));
+        EXPECT_EQ(token.Image.FullPath(), QString());
+    }
 }
 
 TEST_F(LoadTest, Edge_MagicWordIsComparedInUpperCase) {

@@ -13,7 +13,9 @@
 #include "support/StartUp.h"
 #include "support/TestFixture.h"
 
+#include <QDateTime>
 #include <QFile>
+#include <QPainter>
 
 namespace {
 
@@ -33,6 +35,16 @@ protected:
     QString Photo(const QString& sName, int width, int height) {
         QImage image(width, height, QImage::Format_RGB32);
         image.fill(Qt::red);
+        return WriteFile(sName, Encoded(image, "png"));
+    }
+    /// 300 by 200: blue, but for the square from (75, 25) to (225, 175), which is white with a red frame 6 wide.
+    QString FramedHalf(const QString& sName) {
+        QImage image(300, 200, QImage::Format_RGB32);
+        image.fill(Qt::blue);
+        QPainter painter(&image);
+        painter.fillRect(75, 25, 150, 150, Qt::red);
+        painter.fillRect(81, 31, 138, 138, Qt::white);
+        painter.end();
         return WriteFile(sName, Encoded(image, "png"));
     }
     QString LineDrawing(const QString& sName) {
@@ -77,6 +89,31 @@ TEST_F(C_ImagePaintTest, Edge_PaintingTheSameMissingFileTwiceShowsOneBox) {
     EXPECT_EQ(form.Image().pixel(50, 50), kBoard);
 }
 
+// The first look at the file only proves it; the second one brings what is painted.
+TEST_F(C_ImagePaintTest, APictureThatGoesAwayWhileItIsPaintedIsToldInTheOldWordsAndLogged) {
+    basErrLog::ErrInit(60000);
+    C_Image image;
+    const QString path = Photo(QStringLiteral("p.png"), 300, 200);
+    image.Init(path, QStringLiteral("Space"), 4);
+    int reads = 0;
+    Files::SetFaultHook([&](Files::Operation operation, const QString& at) -> std::optional<QString> {
+        if (operation != Files::Operation::OpenRead || at != path) return std::nullopt;
+        if (reads++ > 0) return QStringLiteral("The cable was pulled");
+        // As of another minute, so that it has to be read once more.
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::ReadWrite));
+        EXPECT_TRUE(file.setFileTime(QDateTime::currentDateTime().addSecs(60), QFileDevice::FileModificationTime));
+        return std::nullopt;
+    });
+    EXPECT_FALSE(Zoomed(image));
+    const QString told = QStringLiteral("Unable to LoadPicture for file named '") + path +
+                         QStringLiteral("'\r\nArea will be left blank. & vbcrlf & vbcrlfThe following error was "
+                                        "reported: The cable was pulled");
+    EXPECT_EQ(desktop.Texts(), QStringList{told});
+    EXPECT_TRUE(QString::fromUtf8(ReadFile(PathOf(QStringLiteral("tavlora.log")))).contains(told));
+    EXPECT_EQ(form.Image().pixel(50, 50), kBoard);
+}
+
 TEST_F(C_ImagePaintTest, Edge_FirstZoomedPaintCentresAndDropsTheThumbnail) {
     C_Image image;
     image.Init(Photo(QStringLiteral("p.png"), 300, 200), QStringLiteral("Space"), 4);
@@ -103,6 +140,19 @@ TEST_F(C_ImagePaintTest, Edge_ZoomTenShowsHalfTheSideAndZoomZeroAll) {
     EXPECT_EQ(form.Image().pixel(50, 18), qRgb(255, 0, 0));
     EXPECT_EQ(form.Image().pixel(50, 81), qRgb(255, 0, 0));
     EXPECT_EQ(form.Image().pixel(50, 85), kBoard);
+
+    // At zoom 10 a frame just inside the half shows all around, and nothing of what lies outside.
+    C_Image framed;
+    framed.Init(FramedHalf(QStringLiteral("framed.png")), QStringLiteral("Space"), 5);
+    framed.Let_Zoom(10);
+    framed.Let_XCenter(150);
+    framed.Let_YCenter(100);
+    EXPECT_TRUE(Zoomed(framed));
+    const QImage shown = form.Image();
+    for (const QPoint corner : {QPoint(1, 1), QPoint(98, 1), QPoint(1, 98), QPoint(98, 98)})
+        EXPECT_EQ(shown.pixel(corner), qRgb(255, 0, 0)) << corner.x() << ' ' << corner.y();
+    for (const QPoint inside : {QPoint(6, 6), QPoint(93, 6), QPoint(6, 93), QPoint(93, 93)})
+        EXPECT_EQ(shown.pixel(inside), qRgb(255, 255, 255)) << inside.x() << ' ' << inside.y();
 }
 
 TEST_F(C_ImagePaintTest, Edge_WhiteOfALineDrawingShowsWhatIsBeneath) {

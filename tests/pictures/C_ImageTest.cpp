@@ -44,6 +44,10 @@ TEST_F(C_ImageTest, Edge_CentreIsRoundedWithHalvesToEven) {
     EXPECT_EQ(image.XCenter(), 10.0F);
     image.Let_XCenter(11.5F);
     EXPECT_EQ(image.XCenter(), 12.0F);
+    image.Let_YCenter(10.5F);
+    EXPECT_EQ(image.YCenter(), 10.0F);
+    image.Let_YCenter(11.5F);
+    EXPECT_EQ(image.YCenter(), 12.0F);
 }
 
 TEST_F(C_ImageTest, Edge_CornerThreeOfKitEightHoldsFateWhateverTheRecordSays) {

@@ -47,6 +47,17 @@ protected:
         return frmBMP::Instance().GenerateSingleLineImage(sPath, width, 0.49, sText, QStringLiteral("Arial"), true,
                                                           false, Color::Black(), Color::Rgb(255, 255, 0));
     }
+    /// Of all pixels of a colour, in the whole of a picture or in a part.
+    static QRect BoxOf(const QImage& image, QRgb color, QRect part = {}) {
+        if (part.isNull()) part = image.rect();
+        QRect box;
+        for (int y = part.top(); y <= part.bottom(); ++y) {
+            for (int x = part.left(); x <= part.right(); ++x) {
+                if (image.pixel(x, y) == color) box |= QRect(x, y, 1, 1);
+            }
+        }
+        return box;
+    }
     static int Different(const QImage& a, const QImage& b, int by) {
         int count = 0;
         for (int y = 0; y < a.height(); ++y) {
@@ -200,25 +211,27 @@ TEST_F(PiecesTest, Edge_ANoteIs1125By600PixelsAt300DotsAnInch) {
     basTAVL::g_oMoney(0).BackColor = Color::Rgb(200, 220, 240);
     basTAVL::g_oMoney(0).DrawMoney(form, 300, 0, 0, true, false, false);
     EXPECT_EQ(form.hDC().GetPixel(1125, 600), Color::Rgb(200, 220, 240));
-    EXPECT_EQ(form.hDC().GetPixel(1127, 602), Color::Rgb(1, 2, 3));
+    EXPECT_EQ(form.hDC().GetPixel(1124, 300), Color::Rgb(200, 220, 240));
+    EXPECT_EQ(form.hDC().GetPixel(560, 599), Color::Rgb(200, 220, 240));
+    EXPECT_EQ(form.hDC().GetPixel(1127, 300), Color::Rgb(1, 2, 3)) << "beside the note";
+    EXPECT_EQ(form.hDC().GetPixel(560, 602), Color::Rgb(1, 2, 3)) << "below it";
 }
 
 TEST_F(PiecesTest, Edge_WithoutAPictureKitEightShowsTheCurrencyOvalAndItsAbsenceLeavesTheOvalEmpty) {
-    const auto ovalColors = [&] {
+    basTAVL::g_oMoney(0).BackColor = Color::White();
+    const auto ovalBox = [] {
         ScratchForm form(QSize(375, 200));
-        basTAVL::g_oMoney(0).BackColor = Color::White();
         basTAVL::g_oMoney(0).DrawMoney(form, 100, 0, 0, true, false, false);
-        int inked = 0;
-        for (int y = 60; y < 140; ++y) {
-            for (int x = 150; x < 220; ++x) {
-                if (!(form.hDC().GetPixel(x, y) == Color::White())) ++inked;
-            }
-        }
-        return inked;
+        return BoxOf(form.Image(), qRgb(255, 0, 0));
     };
-    EXPECT_GT(ovalColors(), 500);
+    QImage oval(164, 190, QImage::Format_RGB32);
+    oval.fill(Qt::red);
     Folders::SetProgramDirectory(folder.path());
-    EXPECT_EQ(ovalColors(), 0);
+    EXPECT_TRUE(ovalBox().isEmpty()) << "there is none";
+    EXPECT_TRUE(oval.save(PathOf(QStringLiteral("$$$ellipse.dat")), "bmp"));
+    EXPECT_EQ(ovalBox(), QRect(143, 52, 82, 95)) << "1.43 inches from the left, 0.52 from the top, 0.82 by 0.95";
+    basTAVL::Let_g_sGameVersion(QStringLiteral("2"));
+    EXPECT_TRUE(ovalBox().isEmpty()) << "kits before these have none";
     EXPECT_TRUE(desktop.boxes.isEmpty());
 }
 
@@ -278,8 +291,22 @@ TEST_F(PiecesTest, DotsAreDashedInTheNotesOwnColourAndFillNothing) {
     form.SetBackColor(Color::Black());
     basTAVL::g_oMoney(0).BackColor = Color::Rgb(255, 0, 0);
     basTAVL::g_oMoney(0).DrawMoney(form, 100, 10, 10, false, false, true);
-    EXPECT_EQ(form.hDC().GetPixel(11, 9), Color::Rgb(255, 0, 0));
-    EXPECT_EQ(form.hDC().GetPixel(200, 100), Color::Black());
+    const QRgb red = qRgb(255, 0, 0);
+    const QImage image = form.Image();
+    EXPECT_EQ(image.pixel(200, 100), qRgb(0, 0, 0));
+    // The note is 375 by 200 dots, and its outline lies a dot outside; the second one lies 5 dots further in. Dashes
+    // are 5 dots long, and there are 15 between them.
+    EXPECT_EQ(BoxOf(image, red), QRect(QPoint(9, 9), QPoint(386, 211)));
+    EXPECT_EQ(BoxOf(image, red, QRect(QPoint(12, 12), QPoint(383, 208))), QRect(QPoint(14, 14), QPoint(381, 206)));
+    EXPECT_TRUE(BoxOf(image, red, QRect(QPoint(16, 16), QPoint(379, 204))).isEmpty());
+    for (const int first : {9, 14}) {
+        EXPECT_EQ(image.pixel(first + 2, first), red);
+        EXPECT_EQ(image.pixel(first, first + 2), red);
+        EXPECT_EQ(image.pixel(first + 20 + 2, first), red) << "the second dash";
+        EXPECT_EQ(image.pixel(first, first + 20 + 2), red);
+        EXPECT_EQ(image.pixel(first + 12, first), qRgb(0, 0, 0)) << "between two dashes";
+        EXPECT_EQ(image.pixel(first, first + 12), qRgb(0, 0, 0));
+    }
 }
 
 TEST_F(PiecesTest, ATokenIsRoundOnWhite) {

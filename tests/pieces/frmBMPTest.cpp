@@ -11,6 +11,7 @@
 #include "support/PictureFiles.h"
 #include "support/TestFixture.h"
 
+#include <QPainter>
 #include <QtEndian>
 
 namespace {
@@ -87,6 +88,19 @@ TEST_F(frmBMPTest, Edge_FirstPixelOfCornerZeroLandsAtTheLeftTip) {
     const auto cells = Turning::CellsOnCorner(100, 0, 0, 0);
     EXPECT_EQ(cells[0], QPoint(0, 49));
     EXPECT_EQ(cells[1], QPoint(0, 50));
+    // A red corner of a white picture: it comes to the left tip, and to no other.
+    QImage picture(200, 200, QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
+    painter.fillRect(0, 0, 20, 20, Qt::red);
+    painter.end();
+    const QImage thumb = Thumb(Encoded(picture, "png"), QStringLiteral("c.png"), QStringLiteral("Corner"), 0);
+    for (const QPoint tip : {QPoint(0, 49), QPoint(0, 50)})
+        EXPECT_EQ(thumb.pixel(tip), qRgb(240, 128, 112)) << "half of it red, half the board";
+    EXPECT_EQ(thumb.pixel(3, 49), kRed);
+    EXPECT_EQ(thumb.pixel(3, 50), kRed);
+    for (const QPoint other : {QPoint(96, 49), QPoint(49, 3), QPoint(49, 96)})
+        EXPECT_EQ(thumb.pixel(other), kWhite);
 }
 
 TEST_F(frmBMPTest, Edge_TipsOfTheDiamondAreHalfPictureAndHalfBoard) {

@@ -14,6 +14,8 @@
 
 #include <QProcess>
 
+#include <functional>
+
 namespace {
 
 QRect InkBox(const QImage& image) {
@@ -42,12 +44,18 @@ protected:
     QRect Ink() { return InkBox(form.Image()); }
     /// The texts of a single line that is printed at 600 dots an inch.
     QList<PageMark> PrintedLine(int iItem, double x, double y, double width, double height, double margin) {
-        const QString path = PathOf(QStringLiteral("single.pdf"));
-        PdfPrinter printer(path, QStringLiteral("single"), QPageSize::Letter, 600);
+        return Printed([&](clsRenderDestination& onPrinter) {
+            onPrinter.SingleLine(iItem, sArial, false, false, x, y, width, height, 0.5, margin, Color::Black(),
+                                 Color::Rgb(255, 255, 0));
+        });
+    }
+    /// All texts that something prints at 600 dots an inch.
+    QList<PageMark> Printed(const std::function<void(clsRenderDestination&)>& print) {
+        const QString path = PathOf(QStringLiteral("printed.pdf"));
+        PdfPrinter printer(path, QStringLiteral("printed"), QPageSize::Letter, 600);
         clsRenderDestination onPrinter;
         onPrinter.Init(printer, 1.0);
-        onPrinter.SingleLine(iItem, sArial, false, false, x, y, width, height, 0.5, margin, Color::Black(),
-                             Color::Rgb(255, 255, 0));
+        print(onPrinter);
         printer.EndDoc();
         QString error;
         EXPECT_TRUE(printer.Close(error)) << qPrintable(error);
@@ -90,6 +98,21 @@ TEST_F(RenderDestinationTest, Edge_AWordWiderThanTheBlockIsSplitBetweenLetters) 
     EXPECT_TRUE(text.isEmpty());
     EXPECT_GE(y, 10 + 3 * 24);
     EXPECT_LE(Ink().right(), 10 + 60 + 20) << "a line ends with the character that reaches the width";
+    // A letter of Courier is 53.7 dots wide where a line is 100 high: five of them don't reach 300 dots, six do.
+    const QList<PageMark> texts = Printed([](clsRenderDestination& onPrinter) {
+        QString word = QStringLiteral("Donaudampfschifffahrt");
+        int top = 20;
+        onPrinter.TextBlock(word, 10, top, 300, QStringLiteral("Courier New"), 100, false, false, QStringLiteral("L"));
+        EXPECT_EQ(top, 20 + 4 * 100);
+    });
+    const QStringList told{QStringLiteral("Donaud"), QStringLiteral("ampfsc"), QStringLiteral("hifffa"),
+                           QStringLiteral("hrt")};
+    ASSERT_EQ(texts.size(), told.size());
+    for (qsizetype i = 0; i < told.size(); ++i) {
+        EXPECT_EQ(texts[i].sText, told[i]);
+        EXPECT_NEAR(texts[i].Box().left(), 10, 1);
+        EXPECT_NEAR(texts[i].Box().top(), 20 + 100 * double(i), 1);
+    }
 }
 
 TEST_F(RenderDestinationTest, Edge_ABoxWithoutLinesDrawsNoBackgroundEither) {
@@ -163,6 +186,20 @@ TEST_F(RenderDestinationTest, Edge_ALegendWithoutAnArrowIsIndentedAllTheSame) {
     form.Cls();
     destination.Legend(1.0F, 1.0F, QStringLiteral("up"), QStringLiteral("HHH"), Color::Black());
     EXPECT_EQ(Ink().right(), without.right());
+    // On paper a line is 60 dots and the arrow 90; only an arrow to the right moves its text to the left.
+    const struct {
+        const char* direction;
+        double left;
+        double top;
+    } rows[] = {{"none", 690, 600}, {"up", 690, 600}, {"left", 690, 600}, {"down", 690, 510}, {"right", 510, 600}};
+    for (const auto& row : rows) {
+        const QList<PageMark> texts = Printed([&](clsRenderDestination& onPrinter) {
+            onPrinter.Legend(1.0F, 1.0F, QString::fromLatin1(row.direction), QStringLiteral("HHH"), Color::Black());
+        });
+        ASSERT_EQ(texts.size(), 1) << row.direction;
+        EXPECT_NEAR(texts[0].Box().left(), row.left, 1) << row.direction;
+        EXPECT_NEAR(texts[0].Box().top(), row.top, 1) << row.direction;
+    }
 }
 
 TEST_F(RenderDestinationTest, LinesAreCentredAndFitTheirBox) {
@@ -179,6 +216,23 @@ TEST_F(RenderDestinationTest, AWideLineShrinksTheWholeBlock) {
     const QRect ink = Ink();
     EXPECT_GE(ink.left(), 50);
     EXPECT_LE(ink.right(), 550);
+    // In half of 95 of 100 of 570 dots a line is 271 high and its nominal size 169; 70 letters of Courier are 10168
+    // dots wide then, and 26 is the size at which they are no wider than 95 of 100 of 1650. They are 1564 wide and,
+    // as Courier is a 70th part higher than the typeface that the sizes go by, 42.2 high. Lines are 42 apart, and the
+    // two stand in the middle of 542.
+    const QString wide(70, u'm');
+    const QList<PageMark> texts = Printed([&](clsRenderDestination& onPrinter) {
+        onPrinter.MultiLineTextAutofit({wide, QStringLiteral("x")}, 2, QStringLiteral("Courier New"), false, false, 100,
+                                       200, 1650, 570, Color::Black());
+    });
+    ASSERT_EQ(texts.size(), 2);
+    EXPECT_EQ(texts[0].sText, wide);
+    EXPECT_NEAR(texts[0].width, 1564, 3);
+    EXPECT_NEAR(texts[0].height, 42.2, 0.2);
+    EXPECT_NEAR(texts[0].Box().center().x(), 100 + 825, 1);
+    EXPECT_NEAR(texts[0].Box().top(), 200 + 229, 1);
+    EXPECT_NEAR(texts[1].Box().center().x(), 100 + 825, 1);
+    EXPECT_NEAR(texts[1].Box().top(), 200 + 229 + 42, 1);
 }
 
 TEST_F(RenderDestinationTest, ASizeLimitKeepsSeveralBoxesAlike) {
