@@ -114,6 +114,14 @@ TEST_F(GameTextTest, HeaderTellsTheNameAndWhetherItIsAGame) {
     }
 }
 
+TEST_F(GameTextTest, ANameStandsInQuotesOnceMoreOnlyWhereABareOneIsReadOtherwise) {
+    const auto header = [this](const char* name) {
+        return ComposeLines(mine, QString::fromUtf8(name)).first().section(QStringLiteral(", "), 2).toStdString();
+    };
+    EXPECT_EQ(header("/home/mum/Ours.gam"), "/home/mum/Ours.gam");
+    EXPECT_EQ(header("Mum, Dad and me.gam"), "Mum, Dad and me.gam, \"Mum, Dad and me.gam\"");
+}
+
 TEST_F(GameTextTest, ReadingStopsAtTheFirstFaultAndKeepsWhatStoodBehindIt) {
     yours.spaces[6].SetText(QStringLiteral("stays"));
     yours.spaces[5].SetText(QStringLiteral("goes"));

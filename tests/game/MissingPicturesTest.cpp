@@ -173,4 +173,13 @@ TEST_F(MissingPicturesTest, ALinkIntoItsOwnFolderEnds) {
     EXPECT_EQ(LookAround(PathOf(QStringLiteral("old/first.png")), found).size(), 1);
 }
 
+TEST_F(MissingPicturesTest, TheStepCountsThePiecesThatShowAgain) {
+    const QString gone = PathOf(QStringLiteral("gone.png"));
+    Show(1, gone);
+    const Places places{{gone, Photo(QStringLiteral("there.png"))}};
+    EXPECT_EQ(MissingPictures::Moved(game, places).sName, QStringLiteral("Picture Found Again"));
+    Show(2, gone);
+    EXPECT_EQ(MissingPictures::Moved(game, places).sName, QStringLiteral("2 Pictures Found Again"));
+}
+
 } // namespace

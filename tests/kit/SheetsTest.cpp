@@ -41,6 +41,12 @@ bool HasKey(const Sheet& sheet, Kit kit) {
     return std::ranges::all_of(caption, [&](QChar c) { return !c.isLetterOrNumber() || taken.contains(c); });
 }
 
+// The list and the question speak of the same stock; a paper that isn't used has neither.
+bool IsAskedFor(const Paper& paper) {
+    if (!*paper.sStock) return true;
+    return QString::fromLatin1(paper.sPrompt).simplified().contains(QString::fromLatin1(paper.sStock));
+}
+
 // What a row lacks, in words.
 QStringList LackingIn(const Sheet& sheet) {
     static const QRegularExpression word(QStringLiteral("^[a-z0-9]+$"));
@@ -59,6 +65,8 @@ QStringList LackingIn(const Sheet& sheet) {
         want(!needed.isEmpty() && needed.boundedTo(most) == needed, "inches that a page has");
     }
     want(sheet.paper && *sheet.paper->white.sStock, "a stock for the list");
+    want(sheet.paper && IsAskedFor(sheet.paper->white) && IsAskedFor(sheet.paper->coloured),
+         "a question for its stock");
     want(sheet.paint, "a routine that paints it");
     lacking.removeDuplicates();
     return lacking;
