@@ -106,7 +106,8 @@ void GameChecker::NotePicturesAway() {
 }
 
 void GameChecker::TimerLook_Timer() try {
-    if (m_isBusy()) return TimerLook.start();
+    // A look under way is ended first: where it takes longer than the pause, edits that go on coming would put it off.
+    if (m_isBusy() || m_run) return TimerLook.start();
     m_run = std::make_unique<CheckRun>(m_session.InHand(), m_facts);
     TimerSlice.start(0);
 } catch (...) {
