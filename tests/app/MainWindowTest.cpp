@@ -172,6 +172,12 @@ TEST_F(MainWindowTest, KeysScrollAZoomedBoard) {
     QTest::keyClick(&board, Qt::Key_Down);
     EXPECT_EQ(across.value(), across.singleStep());
     EXPECT_EQ(down.value(), down.singleStep());
+    QTest::keyClick(&board, Qt::Key_Right);
+    QTest::keyClick(&board, Qt::Key_Down);
+    QTest::keyClick(&board, Qt::Key_Left);
+    QTest::keyClick(&board, Qt::Key_Up);
+    EXPECT_EQ(across.value(), across.singleStep()) << "as far back as forth";
+    EXPECT_EQ(down.value(), down.singleStep());
     QTest::keyClick(&board, Qt::Key_PageDown);
     EXPECT_EQ(down.value(), down.maximum());
     QTest::keyClick(&board, Qt::Key_PageUp);

@@ -7,6 +7,7 @@
 #include "platform/files/Files.h"
 #include "platform/files/Folders.h"
 #include "platform/files/TextFile.h"
+#include "services/basErrLog.h"
 
 namespace {
 
@@ -100,6 +101,9 @@ TEST_F(EarlierVersionsTest, WhatTheDiskRefusesIsNoHindranceToTheSave) {
         EXPECT_TRUE(desktop.boxes.isEmpty());
         EXPECT_TRUE(ReadFile(game).contains(QStringLiteral("Oak %1").arg(int(refused)).toUtf8()));
     }
+    const QByteArray log = ReadFile(basErrLog::ErrLogPath());
+    EXPECT_TRUE(log.contains("Of an earlier version, ")) << log.toStdString();
+    EXPECT_TRUE(log.contains(" could not be kept: disk says no")) << log.toStdString();
 }
 
 TEST_F(EarlierVersionsTest, OnADiskThatIsNearlyFullTheRoomBelongsToTheGame) {

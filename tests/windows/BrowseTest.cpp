@@ -69,6 +69,22 @@ TEST_F(BrowseTest, ThePictureInUseIsSelectedWhateverItsCase) {
     });
 }
 
+TEST_F(BrowseTest, AnArrowGoesToTheFirstPictureWhereNoneIsChosen) {
+    Picture(QStringLiteral("ant.bmp"));
+    Picture(QStringLiteral("bee.bmp"));
+    Browse(
+        QString(),
+        [](QWidget& window) {
+            auto& list = Find<QListWidget>(window, "filList");
+            ASSERT_EQ(list.selectedItems().size(), 0);
+            QTest::keyClick(&list, Qt::Key_Down);
+            ASSERT_EQ(list.selectedItems().size(), 1);
+            EXPECT_EQ(list.selectedItems().front()->text(), QStringLiteral("ant.bmp"));
+            Click(window, "cmdCancel");
+        },
+        true, folder.path());
+}
+
 TEST_F(BrowseTest, APathThatCantBeUsedIsToldAndTheProgramsFolderOpens) {
     const QString gone = QStringLiteral("A:\\cats\\cat.bmp");
     const QString result = Browse(gone, [](QWidget& window) {

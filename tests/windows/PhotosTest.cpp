@@ -102,6 +102,15 @@ TEST_F(PhotosTest, NamesOfFilesAreShownBeforeTheyAreGiven) {
     EXPECT_EQ(TheGame().spaces[size_t(places[0].iNumber)].TextAll(), QStringLiteral("Place 0"));
 }
 
+TEST_F(PhotosTest, APlaceWithoutANameIsToldByItsNumber) {
+    MakePhotos(1);
+    const int place = DealtPhotos::FreePlaces(TheGame(), false)[0].iNumber;
+    TheGame().spaces[size_t(place)].SetText(QString());
+    InWindow([&](frmDealPhotos& window) {
+        EXPECT_EQ(Caption(In<PhotoGrid>(window, "lstPhotos"), 0), QStringLiteral("Space %1").arg(place + 1));
+    });
+}
+
 TEST_F(PhotosTest, WhatThePiecesShowAlreadyIsLeftOutUntilItIsClicked) {
     MakePhotos(2);
     TheGame().spaces[4].SetImagePath(Photos() + QStringLiteral("/place 0.png"));
