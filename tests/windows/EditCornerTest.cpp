@@ -69,6 +69,7 @@ TEST_F(EditCornerTest, TheLastLineOfACornerIsCutWhereItIsStored) {
         EXPECT_TRUE(Edit([&] {
             ClickBehindText();
             Type(QStringLiteral("wxyz"));
+            EXPECT_EQ(Find<QLabel>("lblPaper")->text(), QStringLiteral("Only 40 letters fit on the last line."));
             Click("cmdOK");
         }));
         EXPECT_EQ(Corner().TextAll(0), above + almost + u'w');

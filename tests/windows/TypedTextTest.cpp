@@ -17,10 +17,15 @@ protected:
     }
     KeyResult Feed(const QString& text) { return TypedText::Feed(lines, selection, text); }
     QString Text() const { return lines.join(u'|'); }
+    static QString LossOf(const QString& text, const QStringList& before, const QStringList& stored,
+                          const TextSelection& marked = {}) {
+        return TypedText::Loss({before, marked, text}, stored, stored);
+    }
     void CaretAt(int column, int row) { selection.SetCaret(column, row); }
 
     QStringList lines{QStringLiteral("Elm"), QStringLiteral("Street")};
     TextSelection selection;
+    static constexpr TypedText::LineRoom kAnyRoom{TypedText::kAnyLength, TypedText::kAnyLength};
 };
 
 TEST_F(TypedTextTest, KeysAreTextOrNot) {
@@ -78,8 +83,8 @@ TEST_F(TypedTextTest, BlanksEnterAndBackspaceLeaveANameOfBlanksAsItIs) {
 
 TEST_F(TypedTextTest, BlanksThatGaveWayAreNoLoss) {
     const QString full(40, u'x');
-    EXPECT_EQ(TypedText::Loss(full, {QStringLiteral(" ")}, {full}, 40), QString());
-    EXPECT_NE(TypedText::Loss(full + u'y', {QStringLiteral(" ")}, {full}, 40), QString());
+    EXPECT_EQ(LossOf(full, {QStringLiteral(" ")}, {full}), QString());
+    EXPECT_NE(LossOf(full + u'y', {QStringLiteral(" ")}, {full}), QString());
 }
 
 TEST_F(TypedTextTest, ClipboardKeysAreKnown) {
@@ -145,7 +150,7 @@ TEST_F(TypedTextTest, AHugePasteKeepsWhatStands) {
     Feed(QString(40000, u'x'));
     EXPECT_EQ(lines, QStringList{QStringLiteral("Elm Street") + QString(30, u'x')});
     EXPECT_EQ(selection.m_iCol, 40);
-    EXPECT_EQ(TypedText::Feed(lines, selection, QString(40000, u'y'), TypedText::kAnyLength), KeyResult::TextChanged);
+    EXPECT_EQ(TypedText::Feed(lines, selection, QString(40000, u'y'), kAnyRoom), KeyResult::TextChanged);
     EXPECT_EQ(lines[0].size(), TypedText::kAnyLength);
 }
 
@@ -173,15 +178,14 @@ TEST_F(TypedTextTest, TheCaretComesBackToTheEndOfAStoredLine) {
 TEST_F(TypedTextTest, ALossIsToldByItsCause) {
     const QStringList full{QString(40, u'a')};
     const QStringList ten(10, QStringLiteral("a"));
-    const auto loss = [](const QString& text, const QStringList& before, const QStringList& stored) {
-        return TypedText::Loss(text, before, stored, TypedText::kLongestLine);
-    };
-    EXPECT_EQ(loss(QStringLiteral("b"), full, full), QStringLiteral("Only 40 letters fit on a line."));
-    EXPECT_EQ(loss(QStringLiteral("b\nc"), ten, ten), QStringLiteral("Only 10 lines fit here."));
-    EXPECT_EQ(loss(QStringLiteral("b"), {QStringLiteral("a")}, {QStringLiteral("ab")}), QString());
-    EXPECT_EQ(loss(QStringLiteral("\n"), {QStringLiteral("ab")}, {QStringLiteral("a"), QStringLiteral("b")}),
+    EXPECT_EQ(LossOf(QStringLiteral("b"), full, full), QStringLiteral("Only 40 letters fit on a line."));
+    EXPECT_EQ(LossOf(QStringLiteral("b\nc"), ten, ten), QStringLiteral("Only 10 lines fit here."));
+    EXPECT_EQ(LossOf(QStringLiteral("b"), {QStringLiteral("a")}, {QStringLiteral("ab")}), QString());
+    EXPECT_EQ(LossOf(QStringLiteral("\n"), {QStringLiteral("ab")}, {QStringLiteral("a"), QStringLiteral("b")}),
               QString());
-    EXPECT_EQ(loss(QStringLiteral("\b"), {QStringLiteral("ab")}, {QStringLiteral("a")}), QString()) << "on purpose";
+    EXPECT_EQ(LossOf(QStringLiteral("\b"), {QStringLiteral("ab")}, {QStringLiteral("a")}), QString()) << "on purpose";
+    EXPECT_EQ(LossOf(QString(40, u'b'), full, {QString(40, u'b')}, {0, 0, 40, 0}), QString()) << "in its place";
+    EXPECT_NE(LossOf(QString(41, u'b'), full, {QString(40, u'b')}, {0, 0, 40, 0}), QString());
 }
 
 } // namespace

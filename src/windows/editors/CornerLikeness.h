@@ -19,9 +19,9 @@ public:
     QString TextAll() const override { return oCorner.TextAll(kBlock); }
     void SetText(const QString& sText) override { oCorner.SetText(kBlock, sText); }
     void SetImagePath(const QString& sFullPath) override { oCorner.Image.Let_FullPath(sFullPath); }
-    /// Lines of any length.
+    /// Lines of any length; of the last one a record keeps no more than of others.
     QString Joined(const QStringList& sTextLines) const override;
-    int MostInLine() const override { return TypedText::kAnyLength; }
+    TypedText::LineRoom Room() const override { return {.iLine = TypedText::kAnyLength}; }
 
     void LoadFromGame(const Game& game, int iIndex) override;
     void TakeBack(const Game& game) override;

@@ -63,7 +63,7 @@ protected:
 
     std::optional<QPoint> TextPlaceAt(QPoint at) override;
     void KeepTyped(const QStringList& sTextLines) override;
-    int MostInLine() const override { return m_likeness.MostInLine(); }
+    TypedText::LineRoom Room() const override { return m_likeness.Room(); }
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

@@ -4,6 +4,7 @@
 #include "check/GamePiece.h"
 #include "game/Edit.h"
 #include "windows/editors/TextSelection.h"
+#include "windows/editors/TypedText.h"
 
 #include <QPoint>
 #include <QRect>
@@ -52,8 +53,8 @@ public:
     virtual void SetImagePath(const QString& sFullPath) = 0;
     /// The lines as they are stored after typing.
     virtual QString Joined(const QStringList& sTextLines) const = 0;
-    /// Units of a line that are kept by it.
-    virtual int MostInLine() const = 0;
+    /// Units of its lines that are kept by it.
+    virtual TypedText::LineRoom Room() const = 0;
 
     /// Takes a copy of a game's record.
     virtual void LoadFromGame(const Game& game, int iIndex) = 0;

@@ -20,7 +20,7 @@ public:
     void SetImagePath(const QString& sFullPath) override { oSpace.SetImagePath(sFullPath); }
     /// Each line cut to its first 40 characters.
     QString Joined(const QStringList& sTextLines) const override;
-    int MostInLine() const override { return TypedText::kLongestLine; }
+    TypedText::LineRoom Room() const override { return {}; }
 
     void LoadFromGame(const Game& game, int iIndex) override;
     void TakeBack(const Game& game) override;

@@ -92,11 +92,17 @@ int KeyAsciiOf(char32_t character) {
     return IsControl(character) ? 0 : int(character);
 }
 
+// Of the line with the caret. It won't be the last one when there is a break still to come, and a line for it.
+int MostAtCaret(const QStringList& sTextLines, int iRow, bool bBreakToCome, LineRoom room) {
+    const bool another = bBreakToCome && sTextLines.size() < basEditTextArray::kMaxLines;
+    return iRow < sTextLines.size() - 1 || another ? room.iLine : room.iLastLine;
+}
+
 // At the caret; a marked text makes room first.
-bool HasRoom(const QStringList& sTextLines, const TextSelection& selection, char32_t character, int iMostInLine) {
+bool HasRoom(const QStringList& sTextLines, const TextSelection& selection, char32_t character, int iMost) {
     if (selection.HasText() || selection.m_iRow >= sTextLines.size()) return true;
     const QString line = sTextLines[selection.m_iRow] + QString::fromUcs4(&character, 1);
-    return TextColumns::LeftCharacters(line, iMostInLine).size() == line.size();
+    return TextColumns::LeftCharacters(line, iMost).size() == line.size();
 }
 
 // As pieces without a name have in games: nobody sees the blanks.
@@ -114,6 +120,30 @@ qsizetype Characters(const QStringList& sTextLines) {
     for (const QString& line : sTextLines)
         count += line.size();
     return count;
+}
+
+// Any kind of break is one character.
+QString WithSingleBreaks(QString sText) { return sText.replace(QStringLiteral("\r\n"), QStringLiteral("\r")); }
+
+qsizetype Breaks(const QString& sText) {
+    const QString text = WithSingleBreaks(sText);
+    return std::count_if(text.begin(), text.end(), [](QChar c) { return IsLineBreak(c.unicode()); });
+}
+
+// What of a text makes room for an entered one, taken away.
+QStringList Remaining(const Entry& entry) {
+    if (IsNameOfBlanks(entry.sTextLines) && TakesThePlaceOfBlanks(entry.sText)) return {QString()};
+    QStringList lines = entry.sTextLines;
+    TextSelection selection = entry.selection;
+    Remove(lines, selection);
+    return lines;
+}
+
+bool HasFullLine(const QStringList& sTextLines, LineRoom room) {
+    const auto isFull = [](const QString& line, int iMost) { return line.size() >= iMost; };
+    return std::any_of(sTextLines.begin(), sTextLines.end(),
+                       [&](const QString& line) { return isFull(line, room.iLine); }) ||
+           (!sTextLines.isEmpty() && isFull(sTextLines.last(), room.iLastLine));
 }
 
 } // namespace
@@ -142,23 +172,24 @@ KeyResult Apply(QStringList& sTextLines, TextSelection& selection, int iKeyCode)
                                          selection.m_iRowEnd);
 }
 
-KeyResult Feed(QStringList& sTextLines, TextSelection& selection, const QString& sText, int iMostInLine) {
-    QString text = sText;
-    text.replace(QStringLiteral("\r\n"), QStringLiteral("\r"));
+KeyResult Feed(QStringList& sTextLines, TextSelection& selection, const QString& sText, LineRoom room) {
+    const QString text = WithSingleBreaks(sText);
     if (IsNameOfBlanks(sTextLines) && TakesThePlaceOfBlanks(text)) {
         sTextLines = {QString()};
         selection.SetCaret(0, 0);
     }
     KeyResult result = KeyResult::Nothing;
     const auto characters = text.toUcs4();
+    qsizetype breaksToCome = Breaks(text);
     for (const char32_t character : characters) {
         int iKeyAscii = KeyAsciiOf(character);
         if (iKeyAscii == 0) continue;
         const bool enter = iKeyAscii == basEditTextArray::vbKeyReturn;
         const bool backspace = iKeyAscii == basEditTextArray::vbKeyBack;
+        if (enter) --breaksToCome;
         const bool several = characters.size() > 1;
-        if (several && !enter && !backspace && !HasRoom(sTextLines, selection, char32_t(iKeyAscii), iMostInLine))
-            continue;
+        const int most = MostAtCaret(sTextLines, selection.m_iRow, breaksToCome > 0, room);
+        if (several && !enter && !backspace && !HasRoom(sTextLines, selection, char32_t(iKeyAscii), most)) continue;
         const KeyResult one = basEditTextArray::ETA_KeyPress(sTextLines, iKeyAscii, selection.m_iCol, selection.m_iRow,
                                                              selection.m_iColEnd, selection.m_iRowEnd);
         result = std::max(result, one);
@@ -183,27 +214,32 @@ void KeepWithin(TextSelection& selection, const QStringList& sTextLines) {
     keep(selection.m_iColEnd, selection.m_iRowEnd);
 }
 
-QString Loss(const QString& sEntered, const QStringList& sBefore, const QStringList& sStored, int iMostInLine) {
+QString Letters(const QString& sEntered) {
     QString letters = sEntered;
-    letters.removeIf([](QChar c) { return IsLineBreak(c.unicode()) || (IsControl(c.unicode()) && c != kTab); });
-    const bool replaced = IsNameOfBlanks(sBefore) && TakesThePlaceOfBlanks(sEntered);
-    if (Characters(sStored) >= (replaced ? 0 : Characters(sBefore)) + letters.size()) return {};
-    const auto isFull = [iMostInLine](const QString& line) { return line.size() >= iMostInLine; };
-    if (std::any_of(sStored.begin(), sStored.end(), isFull))
-        return QStringLiteral("Only %1 letters fit on a line.").arg(iMostInLine);
-    if (sStored.size() >= basEditTextArray::kMaxLines)
-        return QStringLiteral("Only %1 lines fit here.").arg(basEditTextArray::kMaxLines);
-    return {};
+    return letters.removeIf([](QChar c) { return IsLineBreak(c.unicode()) || (IsControl(c.unicode()) && c != kTab); });
 }
 
-KeyResult Take(const Key& key, QStringList& sTextLines, TextSelection& selection, int iMostInLine) {
+QString Loss(const Entry& entry, const QStringList& sAfterKey, const QStringList& sStored, LineRoom room) {
+    const qsizetype letters = Letters(entry.sText).size();
+    const QStringList remaining = Remaining(entry);
+    const qsizetype wanted = letters == 0 ? Characters(sAfterKey) : Characters(remaining) + letters;
+    if (Characters(sStored) >= wanted) return {};
+    // A line isn't always filled by what was cut off it: half of a sign can't stand.
+    const bool tooManyLines = remaining.size() + Breaks(entry.sText) > basEditTextArray::kMaxLines;
+    if (tooManyLines && !HasFullLine(sStored, room))
+        return QStringLiteral("Only %1 lines fit here.").arg(basEditTextArray::kMaxLines);
+    if (room.iLine > room.iLastLine) return QStringLiteral("Only %1 letters fit on the last line.").arg(room.iLastLine);
+    return QStringLiteral("Only %1 letters fit on a line.").arg(room.iLine);
+}
+
+KeyResult Take(const Key& key, QStringList& sTextLines, TextSelection& selection, LineRoom room) {
     switch (key.kind) {
         case Key::Kind::Down:
             return Apply(sTextLines, selection, key.iKeyCode);
         case Key::Kind::Press:
-            return Feed(sTextLines, selection, key.sText, iMostInLine);
+            return Feed(sTextLines, selection, key.sText, room);
         case Key::Kind::Paste:
-            return Feed(sTextLines, selection, Clipboard::Text(), iMostInLine);
+            return Feed(sTextLines, selection, Clipboard::Text(), room);
         case Key::Kind::Copy:
         case Key::Kind::Cut:
             if (selection.HasText()) Clipboard::SetText(Selected(sTextLines, selection));

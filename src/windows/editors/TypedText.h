@@ -39,16 +39,21 @@ constexpr int kLongestLine = 40;
 /// For lines that keep all; no more than a column can count to.
 constexpr int kAnyLength = 10000;
 
+/// Units that a text keeps of its lines, and of the last one.
+struct LineRoom {
+    int iLine = kLongestLine;
+    int iLastLine = kLongestLine;
+};
+
 /// Feeds characters one at a time. Any kind of line break is Enter; a tab becomes a blank; other control
 /// characters but Backspace are passed over. Stops at an Enter for which there is no room. Of several characters
-/// those are left out that a line of iMostInLine units has no room for; one alone pushes another off the line's end.
+/// those are left out that their line has no room for; one alone pushes another off the line's end.
 basEditTextArray::KeyResult Feed(QStringList& sTextLines, TextSelection& selection, const QString& sText,
-                                 int iMostInLine = kLongestLine);
+                                 LineRoom room = {});
 
 /// Does what a key asks for, Copy, Cut and Paste with the desktop's clipboard included. Undo and Redo are for whoever
 /// keeps the history.
-basEditTextArray::KeyResult Take(const Key& key, QStringList& sTextLines, TextSelection& selection,
-                                 int iMostInLine = kLongestLine);
+basEditTextArray::KeyResult Take(const Key& key, QStringList& sTextLines, TextSelection& selection, LineRoom room = {});
 
 /// What a key or a paste would enter; empty for the others.
 QString Entered(const Key& key);
@@ -56,8 +61,19 @@ QString Entered(const Key& key);
 /// Brings both ends back to where the lines end that were stored.
 void KeepWithin(TextSelection& selection, const QStringList& sTextLines);
 
-/// What to say when not all of a text came to stand in the lines; empty when it did.
-QString Loss(const QString& sEntered, const QStringList& sBefore, const QStringList& sStored, int iMostInLine);
+/// What of an entered text is to stand in lines: neither breaks nor control characters, but tabs.
+QString Letters(const QString& sEntered);
+
+/// A text as it was, and what is entered into it.
+struct Entry {
+    QStringList sTextLines;
+    TextSelection selection;
+    QString sText;
+};
+
+/// What to say when the lines that were stored hold less than what was entered would have made of the text; where
+/// nothing was, less than what the key has made of it. Empty when they hold all.
+QString Loss(const Entry& entry, const QStringList& sAfterKey, const QStringList& sStored, LineRoom room = {});
 
 /// The lines as records keep them: each cut to its first 40 characters, joined with CR LF.
 QString Joined(const QStringList& sTextLines);

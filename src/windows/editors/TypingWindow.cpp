@@ -37,8 +37,8 @@ void TypingWindow::Form_KeyDown(const TypedText::Key& key) try {
     if (key.kind == TypedText::Key::Kind::Undo || key.kind == TypedText::Key::Kind::Redo)
         return Step(key.kind == TypedText::Key::Kind::Undo);
     QStringList sTextLines = GetTextArray();
-    const Typed before{sTextLines, m_selection, TypedText::Entered(key)};
-    const KeyResult result = TypedText::Take(key, sTextLines, m_selection, MostInLine());
+    const TypedText::Entry before{sTextLines, m_selection, TypedText::Entered(key)};
+    const KeyResult result = TypedText::Take(key, sTextLines, m_selection, Room());
     StoreTyped(result, sTextLines, before);
 } catch (...) {
     ErrTop(m_sModule, "Form_KeyDown", key.iKeyCode, key.sText);
@@ -47,14 +47,14 @@ void TypingWindow::Form_KeyDown(const TypedText::Key& key) try {
 void TypingWindow::Form_KeyPress(const QString& sText) try {
     if (!m_selection.IsOn()) return;
     QStringList sTextLines = GetTextArray();
-    const Typed before{sTextLines, m_selection, sText};
-    const KeyResult result = TypedText::Feed(sTextLines, m_selection, sText, MostInLine());
+    const TypedText::Entry before{sTextLines, m_selection, sText};
+    const KeyResult result = TypedText::Feed(sTextLines, m_selection, sText, Room());
     StoreTyped(result, sTextLines, before);
 } catch (...) {
     ErrTop(m_sModule, "Form_KeyPress", sText);
 }
 
-void TypingWindow::StoreTyped(KeyResult result, const QStringList& sTextLines, const Typed& before) {
+void TypingWindow::StoreTyped(KeyResult result, const QStringList& sTextLines, const TypedText::Entry& before) {
     // What a line had no room for is told though nothing came of it.
     lblPaper->TellLoss({});
     const bool changed = result == KeyResult::TextChanged;
@@ -66,7 +66,7 @@ void TypingWindow::StoreTyped(KeyResult result, const QStringList& sTextLines, c
             m_history.Note({0, before.sTextLines, before.selection}, State(), before.sText);
         Redraw();
     }
-    if (m_selection.IsOn() && !before.selection.HasText()) TellLoss(before);
+    if (m_selection.IsOn()) lblPaper->TellLoss(TypedText::Loss(before, sTextLines, GetTextArray(), Room()));
 }
 
 void TypingWindow::Step(bool bUndo) {
@@ -79,8 +79,9 @@ void TypingWindow::Step(bool bUndo) {
     Redraw();
 }
 
-void TypingWindow::TellLoss(const Typed& before) {
-    lblPaper->TellLoss(TypedText::Loss(before.sText, before.sTextLines, GetTextArray(), MostInLine()));
+void TypingWindow::BeginTyping() {
+    m_history.Clear();
+    lblPaper->TellLoss({});
 }
 
 void TypingWindow::PlaceCaretBehind() {

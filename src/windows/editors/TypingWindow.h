@@ -32,8 +32,8 @@ protected:
 
     /// Stores the lines after typing and fits them; the window is redrawn next.
     virtual void KeepTyped(const QStringList& sTextLines) = 0;
-    /// Units of a line that are kept.
-    virtual int MostInLine() const { return TypedText::kLongestLine; }
+    /// Units of the lines that are kept.
+    virtual TypedText::LineRoom Room() const { return {}; }
 
     bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -43,8 +43,8 @@ protected:
     void UsePicDest();
     /// Places the caret behind the text, as whoever comes without a click expects it.
     void PlaceCaretBehind();
-    /// What was typed before isn't taken back any more: another text is edited.
-    void BeginTyping() { m_history.Clear(); }
+    /// What was typed before isn't taken back any more, nor told: another text is edited.
+    void BeginTyping();
     /// A second click in a row marks the word, a third the line, and with Shift the text up to the click. False for a
     /// plain click.
     bool MarkByClick(int iShift, int iCol, int iRow);
@@ -68,14 +68,7 @@ private:
     bool TakesKey(const QKeyEvent& event);
     void Form_KeyDown(const TypedText::Key& key);
     void Form_KeyPress(const QString& sText);
-    /// Of a text as it was, what was entered into it.
-    struct Typed {
-        QStringList sTextLines;
-        TextSelection selection;
-        QString sText;
-    };
-    void StoreTyped(basEditTextArray::KeyResult result, const QStringList& sTextLines, const Typed& before);
-    void TellLoss(const Typed& before);
+    void StoreTyped(basEditTextArray::KeyResult result, const QStringList& sTextLines, const TypedText::Entry& before);
     void Step(bool bUndo);
     TypedHistory::State State() const { return {0, GetTextArray(), m_selection}; }
     void HoldFocus_Tabbed();

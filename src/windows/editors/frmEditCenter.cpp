@@ -187,6 +187,7 @@ std::optional<Edit> frmEditCenter::Ask() {
 void frmEditCenter::EditArea(int iArea, int iCol, int iRow) {
     m_iTextArea = iArea;
     m_selection.Clear();
+    lblPaper->TellLoss({});
     if (iArea != kNoArea) m_selection.SetCaret(iCol, iRow);
     txtHoldFocus->SetTyping(iArea != kNoArea, m_area[size_t(iArea)]);
     txtHoldFocus->SetWhat(iArea == kNoArea ? QStringLiteral("Titles") : QString::fromLatin1(RowOf(iArea).sLabel));

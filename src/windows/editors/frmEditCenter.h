@@ -107,8 +107,7 @@ private:
     void Form_Key(const TypedText::Key& key);
     void Form_KeyDown(const TypedText::Key& key);
     QString WhatMayBeTyped(const QString& sCharacters) const;
-    void StoreTyped(basEditTextArray::KeyResult result, const QStringList& sTextLines, const TextSelection& before,
-                    const QString& sEntered = QString());
+    void StoreTyped(basEditTextArray::KeyResult result, const QStringList& sTextLines, const TypedText::Entry& before);
     void KeepLines(const QStringList& sTextLines);
     void TellOnPaper();
     void Step(bool bUndo);

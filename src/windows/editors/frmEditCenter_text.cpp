@@ -98,8 +98,8 @@ QStringList frmEditCenter::LinesUnderEdit() const {
 }
 
 void frmEditCenter::Form_KeyDown(const TypedText::Key& key) {
-    const TextSelection before = m_selection;
-    QStringList lines = LinesUnderEdit();
+    const TypedText::Entry before{LinesUnderEdit(), m_selection, {}};
+    QStringList lines = before.sTextLines;
     const KeyResult result = TypedText::Take(key, lines, m_selection);
     StoreTyped(result, lines, before);
 }
@@ -107,15 +107,15 @@ void frmEditCenter::Form_KeyDown(const TypedText::Key& key) {
 void frmEditCenter::Form_KeyPress(const QString& sCharacters) try {
     if (!m_selection.IsOn() || m_iTextArea == kNoArea) return;
     const QString text = WhatMayBeTyped(sCharacters);
-    if (!sCharacters.isEmpty() && text.isEmpty()) return;
-    lblPaper->TellLoss({});
-    const QStringList linesBefore = LinesUnderEdit();
-    QStringList lines = linesBefore;
-    const TextSelection before = m_selection;
-    const KeyResult result = TypedText::Feed(lines, m_selection, text);
-    StoreTyped(result, lines, before, text);
-    if (before.HasText()) return;
-    lblPaper->TellLoss(TypedText::Loss(text, linesBefore, LinesUnderEdit(), TypedText::kLongestLine));
+    if (sCharacters.isEmpty() || !text.isEmpty()) {
+        const TypedText::Entry before{LinesUnderEdit(), m_selection, text};
+        QStringList lines = before.sTextLines;
+        const KeyResult result = TypedText::Feed(lines, m_selection, text);
+        StoreTyped(result, lines, before);
+    }
+    if (TypedText::Letters(text).size() < TypedText::Letters(sCharacters).size())
+        lblPaper->TellLoss(
+            QStringLiteral("A title of %1 lines takes no more letters.").arg(basEditTextArray::kMaxLines));
 } catch (...) {
     ErrTop("frmEditCenter!", "Form_KeyPress", sCharacters);
 }
@@ -125,6 +125,7 @@ void frmEditCenter::Form_KeyPress(const QString& sCharacters) try {
 QString frmEditCenter::WhatMayBeTyped(const QString& sCharacters) const {
     QString text = sCharacters;
     text.replace(kNewLine, QStringLiteral("\r")).replace(u'\n', u'\r');
+    text.replace(QChar::LineSeparator, u'\r').replace(QChar::ParagraphSeparator, u'\r');
     if (text == QChar(basEditTextArray::vbKeyBack)) return text;
     if (m_iTextArea == kGameName) return text.remove(u'\r');
     const int room = basEditTextArray::kMaxLines - std::max(int(m_titles.Text(m_iTextArea).iNLines), 1);
@@ -132,17 +133,18 @@ QString frmEditCenter::WhatMayBeTyped(const QString& sCharacters) const {
     return text.section(u'\r', 0, room - 1) + (text.count(u'\r') >= room ? QStringLiteral("\r") : QString());
 }
 
-void frmEditCenter::StoreTyped(KeyResult result, const QStringList& sTextLines, const TextSelection& before,
-                               const QString& sEntered) {
+void frmEditCenter::StoreTyped(KeyResult result, const QStringList& sTextLines, const TypedText::Entry& before) {
+    lblPaper->TellLoss({});
     // A key that did nothing to the text may still have collapsed the selection.
-    if (result == KeyResult::Nothing && m_selection == before) return;
-    const QStringList linesBefore = LinesUnderEdit();
-    if (result == KeyResult::TextChanged) KeepLines(sTextLines);
-    TypedText::KeepWithin(m_selection, LinesUnderEdit());
-    txtHoldFocus->SetText(LinesUnderEdit().join(u' '));
-    if (LinesUnderEdit() != linesBefore)
-        m_history.Note({m_iTextArea, linesBefore, before}, State(m_iTextArea), sEntered);
-    Redraw(m_iTextArea);
+    if (result != KeyResult::Nothing || !(m_selection == before.selection)) {
+        if (result == KeyResult::TextChanged) KeepLines(sTextLines);
+        TypedText::KeepWithin(m_selection, LinesUnderEdit());
+        txtHoldFocus->SetText(LinesUnderEdit().join(u' '));
+        if (LinesUnderEdit() != before.sTextLines)
+            m_history.Note({m_iTextArea, before.sTextLines, before.selection}, State(m_iTextArea), before.sText);
+        Redraw(m_iTextArea);
+    }
+    lblPaper->TellLoss(TypedText::Loss(before, sTextLines, LinesUnderEdit()));
 }
 
 void frmEditCenter::KeepLines(const QStringList& sTextLines) {
