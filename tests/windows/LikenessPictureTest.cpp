@@ -103,6 +103,28 @@ TEST_F(LikenessPictureTest, TheWheelZoomsAndTheRightButtonMoves) {
     EXPECT_EQ(Space().Image.YCenter(), 200);
 }
 
+TEST_F(LikenessPictureTest, APictureThatIsAwayOrUnreadableIsNeitherZoomedNorMovedUnseen) {
+    for (const bool away : {true, false}) {
+        GivePicture(away ? PathOf(QStringLiteral("away.png")) : WriteFile(QStringLiteral("bad.png"), "no picture"));
+        Space().Image.Let_Zoom(12);
+        Space().Image.Let_XCenter(111);
+        Space().Image.Let_YCenter(99);
+        const PictureRef before = Space().Image.Ref();
+        EXPECT_FALSE(Edit([&] {
+            QWheelEvent turn(QPointF{kMiddle}, QPointF{kMiddle}, QPoint(), QPoint(0, 5 * 120), Qt::NoButton, {},
+                             Qt::NoScrollPhase, false);
+            QApplication::sendEvent(&Likeness(), &turn);
+            QTest::mousePress(&Likeness(), Qt::RightButton, {}, kMiddle);
+            QMouseEvent move(QEvent::MouseMove, QPointF(kMiddle + QPoint(21, 0)), QPointF(kMiddle), Qt::NoButton,
+                             Qt::RightButton, {});
+            QApplication::sendEvent(&Likeness(), &move);
+            QTest::mouseRelease(&Likeness(), Qt::RightButton, {}, kMiddle + QPoint(21, 0));
+            Click("cmdOK");
+        })) << away;
+        EXPECT_EQ(Space().Image.Ref(), before);
+    }
+}
+
 TEST_F(LikenessPictureTest, ClearedAndTickedAgainThePictureIsBackWithItsPart) {
     const QString photo = Photo(QStringLiteral("cat.png"));
     GivePicture(photo);

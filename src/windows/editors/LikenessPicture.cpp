@@ -34,18 +34,20 @@ LikenessPicture::LikenessPicture(PictureBox& picDest, const Session& session, Do
     picDest.installEventFilter(this);
 }
 
-bool LikenessPicture::HasPictureAt(QPointF at) const {
+std::optional<QSize> LikenessPicture::PictureAt(QPointF at) const {
     const C_Image& image = m_doors.image();
-    return !image.FullPath().isEmpty() && !image.IsWMF() && m_doors.place().contains(at.toPoint());
+    if (image.FullPath().isEmpty() || image.IsWMF() || !m_doors.place().contains(at.toPoint())) return std::nullopt;
+    QString error;
+    const std::optional<PictureHead> head = ReadPictureHead(image.FullPath(), error);
+    return head ? std::optional(head->size) : std::nullopt;
 }
 
 bool LikenessPicture::Press(const QMouseEvent& event) {
-    if (event.button() != Qt::RightButton || !HasPictureAt(event.position())) return false;
+    if (event.button() != Qt::RightButton) return false;
+    const std::optional<QSize> size = PictureAt(event.position());
+    if (!size) return false;
+    m_picture = *size;
     const C_Image& image = m_doors.image();
-    QString error;
-    const std::optional<PictureHead> head = ReadPictureHead(image.FullPath(), error);
-    if (!head) return false;
-    m_picture = head->size;
     m_start = image.IsCentered() ? QPointF(double(image.XCenter()), double(image.YCenter()))
                                  : QPointF(m_picture.width() / 2.0, m_picture.height() / 2.0);
     m_down = event.position();
@@ -70,7 +72,7 @@ bool LikenessPicture::Move(const QMouseEvent& event) {
 }
 
 bool LikenessPicture::Turn(const QWheelEvent& event) {
-    if (!HasPictureAt(event.position())) return false;
+    if (!PictureAt(event.position())) return false;
     C_Image& image = m_doors.image();
     const int zoom = image.Zoom() + event.angleDelta().y() * kStepsOfNotch / kNotch;
     image.Let_Zoom(qint16(std::clamp(zoom, kLeastZoom, kMostZoom)));

@@ -8,6 +8,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <optional>
 
 class C_Image;
 class PictureBox;
@@ -46,7 +47,8 @@ private:
     bool Turn(const QWheelEvent& event);
     bool Enter(QDropEvent& event);
     bool Drop(QDropEvent& event);
-    bool HasPictureAt(QPointF at) const;
+    /// Size of the picture at a point of the likeness; nothing where there is none or it can't be read.
+    std::optional<QSize> PictureAt(QPointF at) const;
 
     PictureBox& m_picDest;
     const Session& m_session;
