@@ -116,9 +116,20 @@ TEST_F(LikenessDropTest, OnACorner) {
 
 TEST_F(LikenessDropTest, OnAToken) {
     frmEditToken form(session);
+    C_Token& token = basTAVL::g_oTokens(kToken.iNumber);
+    token.SetText(QStringLiteral("Dad"));
     ExpectRefused(form, "picDest", kToken, [&] { form.ShowForm(kToken.iNumber); });
     desktop.boxes.clear();
     ExpectTaken(form, "picDest", kToken, [&] { form.ShowForm(kToken.iNumber); });
+    EXPECT_EQ(token.TextAll(), QStringLiteral("Dad")) << "nobody was asked whether the name may go";
+    window = &form;
+    InWindow([&] {
+        Click("optInclude_1");
+        Click("cmdOK");
+    });
+    form.ShowForm(kToken.iNumber);
+    EXPECT_EQ(token.TextAll(), QStringLiteral("Dad"));
+    EXPECT_TRUE(token.Image.FullPath().isEmpty());
 }
 
 TEST_F(LikenessDropTest, OnANote) {

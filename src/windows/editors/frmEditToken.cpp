@@ -178,7 +178,6 @@ void frmEditToken::cmdBitmap_Click() try {
 
 void frmEditToken::ShowImage(const PictureRef& shown) {
     m_selection.Clear();
-    SetText(QString());
     SetImagePath(shown.sPath);
     ShowPart(m_oToken.Image, shown);
 }
