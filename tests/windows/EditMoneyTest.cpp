@@ -238,6 +238,25 @@ TEST_F(EditMoneyTest, CheckingTheImageOpensTheBrowserAndCancellingUnchecksIt) {
     EXPECT_EQ(browsersSeen, 1);
 }
 
+TEST_F(EditMoneyTest, APictureChosenAgainForANoteShowsItsPartAgain) {
+    HavePicture(2, MakePicture(QStringLiteral("cat.bmp")));
+    MakePicture(QStringLiteral("dog.bmp"), 40, 60);
+    Note(2).FaceImage.Let_Zoom(5);
+    Note(2).FaceImage.Let_XCenter(9);
+    Note(2).FaceImage.Let_YCenter(8);
+    EXPECT_FALSE(Edit([&] {
+        Choose(2);
+        for (const char* name : {"dog.bmp", "cat.bmp"}) {
+            InBrowser([&](frmBrowse& browser) { EditWindowTest::Choose(browser, QString::fromLatin1(name)); });
+            Click("cmdBitmap");
+        }
+        Click("cmdOK");
+    }));
+    EXPECT_EQ(browsersSeen, 2);
+    EXPECT_EQ(Note(2).FaceImage.Zoom(), 5);
+    EXPECT_EQ(Note(2).FaceImage.XCenter(), 9);
+}
+
 TEST_F(EditMoneyTest, APictureTakenOffANoteComesBackWithItsPartUntilTheWindowIsClosed) {
     const QString cat = MakePicture(QStringLiteral("cat.bmp"));
     for (const int note : {0, 2}) {

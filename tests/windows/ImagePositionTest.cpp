@@ -10,10 +10,12 @@
 #include "windows/pictures/frmImagePosition.h"
 
 #include <QComboBox>
+#include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QPushButton>
 #include <QSlider>
+#include <QTreeWidget>
 #include <QWheelEvent>
 
 namespace {
@@ -275,6 +277,66 @@ TEST_F(ImagePositionTest, AnotherPictureStartsUnzoomedAndCentered) {
     EXPECT_EQ(image.FullPath(), other);
     EXPECT_EQ(image.Zoom(), 0);
     EXPECT_EQ(image.XCenter(), 30);
+}
+
+TEST_F(ImagePositionTest, APictureChosenAgainShowsItsPartAgain) {
+    C_Image image = CenteredImage();
+    image.Let_Zoom(20);
+    image.Let_XCenter(50);
+    const PictureRef before = image.Ref();
+    const QString other =
+        WriteFile(QStringLiteral("other.bmp"), PictureFiles::Encoded(PictureFiles::Quarters(60, 40), "bmp"));
+    const auto choose = [](Qt::Key key) {
+        return [key](QWidget& window) {
+            QTest::keyClick(&Find<QWidget>(window, "filList"), key);
+            QTest::keyClick(&Find<QWidget>(window, "filList"), Qt::Key_Return);
+        };
+    };
+    ModalSteps steps;
+    steps
+        .In("frmImagePosition",
+            [](QWidget& window) {
+                Click(window, "cmdSelectImage");
+                EXPECT_EQ(Find<QSlider>(window, "sldZoom").value(), 90);
+                Click(window, "cmdSelectImage");
+                EXPECT_EQ(Find<QSlider>(window, "sldZoom").value(), 70);
+                Click(window, "cmdOK");
+            })
+        .In("frmBrowse", choose(Qt::Key_Home))
+        .In("frmBrowse", choose(Qt::Key_End));
+    frmImagePosition form;
+    form.ShowForm(image, 1.0, false);
+    EXPECT_EQ(image.Ref(), before);
+}
+
+TEST_F(ImagePositionTest, AMissingPhotoFoundWhereItLiesNowKeepsItsPart) {
+    C_Image image = CenteredImage();
+    image.Let_Zoom(20);
+    image.Let_XCenter(50);
+    PictureRef expected = image.Ref();
+    QDir(folder.path()).mkdir(QStringLiteral("moved"));
+    expected.sPath = PathOf(QStringLiteral("moved/picture.png"));
+    ASSERT_TRUE(QFile::rename(image.FullPath(), expected.sPath));
+    ModalSteps steps;
+    // The window opens the browser by itself.
+    steps.In("frmImagePosition", [](QWidget&) {})
+        .In("frmBrowse",
+            [](QWidget& window) {
+                auto& tree = Find<QTreeWidget>(window, "dirList");
+                QTreeWidgetItem* const moved =
+                    tree.findItems(QStringLiteral("moved"), Qt::MatchExactly | Qt::MatchRecursive).value(0);
+                ASSERT_TRUE(moved);
+                QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, tree.visualItemRect(moved).center());
+                QTest::keyClick(&Find<QWidget>(window, "filList"), Qt::Key_Home);
+                QTest::keyClick(&Find<QWidget>(window, "filList"), Qt::Key_Return);
+            })
+        .In("frmImagePosition", [](QWidget& window) {
+            EXPECT_EQ(Find<QSlider>(window, "sldZoom").value(), 70);
+            Click(window, "cmdOK");
+        });
+    frmImagePosition form;
+    form.ShowForm(image, 1.0, false);
+    EXPECT_EQ(image.Ref(), expected);
 }
 
 TEST_F(ImagePositionTest, AnUnreadablePictureIsToldAndAnotherIsOfferedAtOnce) {

@@ -126,6 +126,38 @@ TEST_F(NothingForgottenTest, TheFirstLetterTypedTakesThePlaceOfBlanks) {
     EXPECT_EQ(Space().TextAll(), QStringLiteral("Oak Hill")) << "without a blank at its end";
 }
 
+TEST_F(NothingForgottenTest, APictureChosenAgainShowsItsPartAgain) {
+    MakePicture(QStringLiteral("other.bmp"), 40, 60);
+    MakePicture(QStringLiteral("third.bmp"), 50, 60);
+    EXPECT_FALSE(EditSpace([&] {
+        for (const char* name : {"other.bmp", "third.bmp", "quarters.bmp"}) {
+            InBrowser([&](frmBrowse& browser) { Choose(browser, QString::fromLatin1(name)); });
+            Click("cmdBitmap");
+        }
+        Click("cmdOK");
+    })) << "nothing has changed in the end";
+    EXPECT_EQ(browsersSeen, 3);
+    EXPECT_EQ(Space().Image.Ref(), picture);
+}
+
+TEST_F(EditTokenForgottenTest, APictureChosenAgainShowsItsPartAgain) {
+    GivePicture();
+    Token().Image.Let_Zoom(7);
+    Token().Image.Let_XCenter(11);
+    Token().Image.Let_YCenter(12);
+    const PictureRef picture = Token().Image.Ref();
+    MakePicture(QStringLiteral("other.bmp"), 40, 60);
+    Edit([&] {
+        for (const char* name : {"other.bmp", "quarters.bmp"}) {
+            InBrowser([&](frmBrowse& browser) { Choose(browser, QString::fromLatin1(name)); });
+            Click("cmdBitmap");
+        }
+        Click("cmdOK");
+    });
+    EXPECT_EQ(browsersSeen, 2);
+    EXPECT_EQ(Token().Image.Ref(), picture);
+}
+
 TEST_F(EditTokenForgottenTest, ThePictureThatGaveWayToTheTextComesBackWithItsPart) {
     GivePicture();
     Token().Image.Let_Zoom(7);

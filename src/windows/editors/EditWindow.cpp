@@ -53,7 +53,7 @@ std::optional<Edit> EditWindow::Ask(int iIndex) {
     m_bSelecting = false;
     BeginTyping();
     m_bNameless = IsNameless();
-    fraBitmap->ForgetTakenOff();
+    fraBitmap->ForgetShown();
     chkIncludeImage->setChecked(!m_likeness.Image().FullPath().isEmpty());
     chkIncludeImage_Click();
     m_bLoading = false;
@@ -143,6 +143,7 @@ void EditWindow::cmdBitmap_Click() try {
     const QString& before = shown.sPath;
     const QString path = fraBitmap->AskForPicture(m_likeness.Image());
     if (path != before) {
+        fraBitmap->NoteShown(m_likeness.Image());
         SetImagePath(path);
         fraBitmap->RestorePart(m_likeness.Image());
         if (IsSameElsewhere(before, path)) ShowPart(m_likeness.Image(), shown);
@@ -167,7 +168,7 @@ void EditWindow::chkIncludeImage_Click() try {
         fraBitmap->RestorePart(m_likeness.Image());
         cmdBitmap_Click();
     } else {
-        fraBitmap->NoteTakenOff(m_likeness.Image());
+        fraBitmap->NoteShown(m_likeness.Image());
         SetImagePath(QString());
     }
     Redraw();
@@ -182,8 +183,10 @@ void EditWindow::TakeDropped(const QStringList& files) try {
     m_bChangedOthers = m_bChangedOthers || others;
     if (file.isEmpty()) return;
     const PictureRef part = PartAtFirst(m_likeness.Image().Ref(), file);
+    fraBitmap->NoteShown(m_likeness.Image());
     SetImagePath(file);
     ShowPart(m_likeness.Image(), part);
+    fraBitmap->RestorePart(m_likeness.Image());
     chkIncludeImage->setChecked(true);
     cmdBitmap->setEnabled(true);
     cmdCropImage->setEnabled(true);

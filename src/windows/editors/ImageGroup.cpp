@@ -65,17 +65,6 @@ void ImageGroup::AskForPosition(C_Image& image, double dblHeightToWidth) {
     position.ShowForm(image, dblHeightToWidth, false);
 }
 
-void ImageGroup::NoteTakenOff(const C_Image& image) {
-    if (!image.Ref().IsEmpty()) m_takenOff.insert(image.Index(), image.Ref());
-}
-
-void ImageGroup::RestorePart(C_Image& image, const PictureRef& takenOff) {
-    if (takenOff.IsEmpty() || image.FullPath() != takenOff.sPath) return;
-    image.Let_Zoom(takenOff.iZoom);
-    image.Let_XCenter(takenOff.iXCenter);
-    image.Let_YCenter(takenOff.iYCenter);
-}
-
 void ImageGroup::TellHowToChangePath() {
     MsgBox(QStringLiteral("To change the Bitmap, please click the 'Find Image' button."));
 }

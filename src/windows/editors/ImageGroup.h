@@ -2,7 +2,7 @@
 #pragma once
 
 #include "pictures/C_Image.h"
-#include "pictures/PictureRef.h"
+#include "windows/pictures/ShownParts.h"
 
 #include <QGroupBox>
 #include <QHash>
@@ -34,15 +34,15 @@ public:
     /// Lets the user move and zoom the picture behind a box of the given shape; of a metafile only tells that
     /// this can't be.
     void AskForPosition(C_Image& image, double dblHeightToWidth);
-    /// A picture about to be taken off its piece comes back when the piece gets one again, its part too.
-    void NoteTakenOff(const C_Image& image);
+    /// A picture about to be taken off its piece comes back when the piece gets one again, its part too, also where
+    /// another one took its place.
+    void NoteShown(const C_Image& image) { m_shown[image.Index()].Note(image.Ref()); }
     /// The path of what was taken off the image's piece; empty for nothing.
-    QString TakenOff(const C_Image& image) const { return m_takenOff.value(image.Index()).sPath; }
-    /// Gives the image the part that was chosen of it before it was taken off, if it is the same picture.
-    void RestorePart(C_Image& image) const { RestorePart(image, m_takenOff.value(image.Index())); }
-    static void RestorePart(C_Image& image, const PictureRef& takenOff);
+    QString TakenOff(const C_Image& image) const { return m_shown.value(image.Index()).Last().sPath; }
+    /// Gives the image the part that was chosen of its picture before.
+    void RestorePart(C_Image& image) const { m_shown.value(image.Index()).Restore(image); }
     /// Another piece is shown, or the window anew.
-    void ForgetTakenOff() { m_takenOff.clear(); }
+    void ForgetShown() { m_shown.clear(); }
     /// The answer to a click on the path, which is there to be read.
     static void TellHowToChangePath();
 
@@ -57,5 +57,5 @@ private:
     QString m_sLastFolder;
     QString m_sBadPath;
     /// By the number of the piece.
-    QHash<int, PictureRef> m_takenOff;
+    QHash<int, ShownParts> m_shown;
 };

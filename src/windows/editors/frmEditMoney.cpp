@@ -42,7 +42,7 @@ bool frmEditMoney::ShowForm() try {
 
 std::optional<Edit> frmEditMoney::Ask() {
     LoadFromGame();
-    fraBitmap->ForgetTakenOff();
+    fraBitmap->ForgetShown();
     ChooseNote(0);
     optMoney[0]->setFocus();
     exec();
@@ -150,7 +150,7 @@ void frmEditMoney::chkIncludeImage_Click() try {
         txtBitmapPath->SetWholeText(FaceImage().FullPath());
         if (!m_bFillingIn) cmdBitmap_Click();
     } else {
-        fraBitmap->NoteTakenOff(FaceImage());
+        fraBitmap->NoteShown(FaceImage());
         txtBitmapPath->SetWholeText(QString());
         FaceImage().Let_FullPath(QString());
     }
@@ -160,8 +160,10 @@ void frmEditMoney::chkIncludeImage_Click() try {
 }
 
 void frmEditMoney::ShowPicture(const PictureRef& shown) {
+    fraBitmap->NoteShown(FaceImage());
     FaceImage().Let_FullPath(shown.sPath);
     ShowPart(FaceImage(), shown);
+    fraBitmap->RestorePart(FaceImage());
     ShowImagePath();
 }
 
@@ -185,6 +187,7 @@ void frmEditMoney::cmdBitmap_Click() try {
     const QString& before = shown.sPath;
     const QString path = fraBitmap->AskForPicture(FaceImage());
     if (path != before) {
+        fraBitmap->NoteShown(FaceImage());
         FaceImage().Let_FullPath(path);
         fraBitmap->RestorePart(FaceImage());
         if (IsSameElsewhere(before, path)) ShowPart(FaceImage(), shown);

@@ -14,7 +14,6 @@
 #include "windowing/PictureBox.h"
 #include "windowing/WidgetLook.h"
 #include "windows/editors/HoldFocusBox.h"
-#include "windows/editors/ImageGroup.h"
 #include "windows/editors/PaperLine.h"
 #include "windows/editors/Redrawing.h"
 #include "windows/pictures/DroppedFiles.h"
@@ -61,7 +60,7 @@ std::optional<Edit> frmEditToken::Ask(int iToken) {
     LoadFromGame();
     lblPlace->setText(QStringLiteral("Token %1 of %2").arg(iToken + 1).arg(basTAVL::kTokens));
     txtHoldFocus->SetWhat(lblPlace->text());
-    m_takenOff = PictureRef();
+    m_shown = ShownParts();
     m_bLoading = false;
     // On a picture the first letter would ask whether it is to go.
     if (!HasImage()) PlaceCaretBehind();
@@ -131,9 +130,9 @@ void frmEditToken::SetText(const QString& sText) {
 
 void frmEditToken::SetImagePath(const QString& sFullPath) {
     UsePicDest();
-    if (HasImage() && sFullPath.isEmpty()) m_takenOff = m_oToken.Image.Ref();
+    m_shown.Note(m_oToken.Image.Ref());
     m_oToken.SetImagePath(sFullPath);
-    ImageGroup::RestorePart(m_oToken.Image, m_takenOff);
+    m_shown.Restore(m_oToken.Image);
 }
 
 void frmEditToken::optInclude_Click(int Index) try {
@@ -145,7 +144,7 @@ void frmEditToken::optInclude_Click(int Index) try {
         const QString sText = m_oToken.TextAll();
         SetText(QString());
         // A text has a say in what stays when nothing is chosen.
-        if (sText.isEmpty()) SetImagePath(m_takenOff.sPath);
+        if (sText.isEmpty()) SetImagePath(m_shown.Last().sPath);
         cmdBitmap_Click();
         // Nothing was chosen, so nothing has taken the text's place.
         if (!HasImage()) SetText(sText);
@@ -180,6 +179,7 @@ void frmEditToken::ShowImage(const PictureRef& shown) {
     m_selection.Clear();
     SetImagePath(shown.sPath);
     ShowPart(m_oToken.Image, shown);
+    m_shown.Restore(m_oToken.Image);
 }
 
 void frmEditToken::TakeDropped(const QStringList& files) try {

@@ -5,6 +5,7 @@
 #include "platform/pictures/PictureHolder.h"
 #include "services/Desktop.h"
 #include "windows/editors/TypingWindow.h"
+#include "windows/pictures/ShownParts.h"
 
 #include <array>
 #include <optional>
@@ -101,8 +102,8 @@ private:
     bool m_bSetAllFonts = false;
     /// The folder last browsed; empty at first.
     QString m_sLastFolder;
-    /// The picture that gave way to a text last; it comes back when the token gets one again.
-    PictureRef m_takenOff;
+    /// The last picture comes back when the token gets one again after a text.
+    ShownParts m_shown;
 
     CommonDialog cdlgFont;
     PictureHolder picScratch;

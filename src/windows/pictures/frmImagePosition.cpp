@@ -3,6 +3,7 @@
 
 #include "pictures/AwaitedPictures.h"
 #include "pictures/PaintPicture.h"
+#include "pictures/PicturePart.h"
 #include "platform/paint/Units.h"
 #include "platform/pictures/LoadPicture.h"
 #include "platform/text/NewLine.h"
@@ -60,6 +61,7 @@ void frmImagePosition::ShowForm(C_Image& objImage, double dblHeightToWidth, bool
     m_bRound = bRound;
     m_bLoaded = false;
     m_sBadPath.clear();
+    m_shown = ShownParts();
     m_oImage = C_Image();
     m_oMaster = &objImage;
     m_oImage.LoadFromObject(objImage, false);
@@ -301,18 +303,27 @@ void frmImagePosition::cmdSelectImage_Click() try {
     StartFolder() = frmBrowse::LastFolder();
     const bool hadPicture = m_bLoaded;
     if (LoadMyPicture(path)) {
-        m_oImage.Let_FullPath(path);
-        m_oImage.Let_XCenter(0);
-        m_oImage.Let_YCenter(0);
-        m_oImage.Let_Zoom(0);
-        SetSlider(ImagePlacing::SliderOfZoom(0));
-        Zoom();
+        ShowAnother(path);
     } else if (hadPicture && !m_bLoaded && LoadMyPicture(m_oImage.FullPath())) {
         // Nothing better was found, so the picture that there was is shown again.
         Zoom();
     }
 } catch (...) {
     ErrTop("frmImagePosition!", "cmdSelectImage_Click");
+}
+
+// Of one that was shown before, or found where it lies now, the same part shows.
+void frmImagePosition::ShowAnother(const QString& sPath) {
+    const PictureRef before = m_oImage.Ref();
+    m_shown.Note(before);
+    m_oImage.Let_FullPath(sPath);
+    m_oImage.Let_XCenter(0);
+    m_oImage.Let_YCenter(0);
+    m_oImage.Let_Zoom(0);
+    if (IsSameElsewhere(before.sPath, sPath)) ShowPart(m_oImage, before);
+    m_shown.Restore(m_oImage);
+    SetSlider(ImagePlacing::SliderOfZoom(m_oImage.Zoom()));
+    Zoom();
 }
 
 void frmImagePosition::cmdOK_Click() { hide(); }

@@ -5,6 +5,7 @@
 #include "platform/pictures/PictureHolder.h"
 #include "platform/pictures/PicturePyramid.h"
 #include "windows/pictures/ImagePlacing.h"
+#include "windows/pictures/ShownParts.h"
 
 #include <QDialog>
 #include <QTimer>
@@ -71,6 +72,7 @@ private:
     void timSharpen_Timer();
     void timSelectAnImage_Timer();
     void cmdSelectImage_Click();
+    void ShowAnother(const QString& sPath);
     void cmdOK_Click();
     void cmdCancel_Click();
 
@@ -88,6 +90,7 @@ private:
     PicturePyramid m_inMotion;
     C_Image m_oImage;
     C_Image* m_oMaster = nullptr;
+    ShownParts m_shown;
     /// The picture last told to be unreadable.
     QString m_sBadPath;
     bool m_bRound = false;
