@@ -4,6 +4,7 @@
 #include "app/BoardView.h"
 #include "app/PictureDrop.h"
 #include "check/GamePiece.h"
+#include "game/DroppedPictures.h"
 #include "game/MissingPictures.h"
 #include "game/Session.h"
 #include "services/basErrLog.h"
@@ -61,6 +62,10 @@ void PictureCommands::Paste(const BoardPlace& place) {
     if (!piece.IsPiece()) {
         MsgBox(QStringLiteral("No picture can stand there. Spaces, corners, notes and tokens take one."),
                vbInformation);
+        return;
+    }
+    if (piece.iNumber == DroppedPictures::kNoneFree) {
+        MsgBox(QStringLiteral("One picture found no free place."), vbInformation);
         return;
     }
     const QStringList files = DroppedFiles::FilesOf(*data, m_session.GameName());

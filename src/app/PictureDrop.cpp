@@ -21,7 +21,7 @@ template <typename Records, typename Image>
 PictureOwner FirstFree(Kind kind, const Records& records, Image image) {
     const auto free = std::find_if(records.begin(), records.end(),
                                    [&](const auto& record) { return image(record).FullPath().isEmpty(); });
-    return {kind, free == records.end() ? qint16(0) : qint16(free - records.begin())};
+    return {kind, free == records.end() ? DroppedPictures::kNoneFree : qint16(free - records.begin())};
 }
 
 basPosit::BoardRect Around(int iCorner) {
@@ -50,7 +50,7 @@ PictureOwner PieceForPicture(const BoardPlace& place, const Game& game) {
             FirstFree(Kind::Money, game.money, [](const C_Money& note) -> const C_Image& { return note.FaceImage; });
     if (place.m_bOverTokens)
         piece = FirstFree(Kind::Token, game.tokens, [](const C_Token& token) -> const C_Image& { return token.Image; });
-    return DroppedPictures::Takes(piece) ? piece : PictureOwner();
+    return piece.iNumber == DroppedPictures::kNoneFree || DroppedPictures::Takes(piece) ? piece : PictureOwner();
 }
 
 PictureDrop::PictureDrop(BoardView& view, Session& session)

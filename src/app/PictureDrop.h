@@ -13,7 +13,7 @@ struct BoardPlace;
 struct Game;
 
 /// The piece that a picture laid onto a place goes to: the place of all notes or tokens stands for the first of them
-/// that is free. Of no kind where nothing takes one.
+/// that is free, with the number kNoneFree where none is. Of no kind where nothing takes one.
 PictureOwner PieceForPicture(const BoardPlace& place, const Game& game);
 
 /// Pictures that are dragged over the board: the place under them lights up, and takes them when they are dropped.

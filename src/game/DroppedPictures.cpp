@@ -95,6 +95,7 @@ std::vector<PictureOwner> FreeBehind(const Game& game, const PictureOwner& piece
 }
 
 Outcome Onto(const Game& game, const QStringList& files, const PictureOwner& piece, const Refusal& whyNot) {
+    if (piece.IsPiece() && piece.iNumber == kNoneFree) return OntoPlaces(game, files, {}, whyNot);
     if (!Takes(piece)) return {std::nullopt, QStringLiteral("This place shows a picture of its own.")};
     std::vector<PictureOwner> places = FreeBehind(game, piece);
     places.insert(places.begin(), piece);

@@ -23,6 +23,9 @@ struct Outcome {
 /// Why a file can't be taken; empty where it can.
 using Refusal = std::function<QString(const QString& sFile)>;
 
+/// Number of a piece in the place of all of its kind where none is without a picture.
+constexpr qint16 kNoneFree = -1;
+
 /// True for a piece that takes a picture: not for those whose faces belong to the kit.
 bool Takes(const PictureOwner& piece);
 

@@ -159,4 +159,21 @@ TEST_F(PictureDropTest, TokensAndNotesFillFromTheFirstFreeOne) {
     EXPECT_TRUE(TheGame().money[0].FaceImage.FullPath().endsWith(QStringLiteral("cow.png")));
 }
 
+TEST_F(PictureDropTest, WhereEveryTokenOrNoteHasAPictureNoneGives) {
+    QDir(folder.path()).mkdir(QStringLiteral("gone tomorrow"));
+    for (C_Token& token : TheGame().tokens)
+        token.SetImagePath(Photo(QStringLiteral("dog.png")));
+    for (C_Money& note : TheGame().money)
+        note.FaceImage.Let_FullPath(Photo(QStringLiteral("cow.png")));
+    const Game before = TheGame();
+    const QStringList cats{Photo(QStringLiteral("gone tomorrow/cat.png")), Photo(QStringLiteral("cat2.png"))};
+    Drop(*Dragged(cats.mid(0, 1)), MiddleOfBox(basPosit::kTokensBox));
+    Drop(*Dragged(cats), MiddleOfBox(basPosit::kMoneyBox));
+    EXPECT_EQ(desktop.Texts(), (QStringList{QStringLiteral("One picture found no free place."),
+                                            QStringLiteral("2 pictures found no free place.")}));
+    EXPECT_EQ(TheGame(), before);
+    EXPECT_FALSE(window->Commands().InHand().IsUnsaved());
+    EXPECT_FALSE(QFile::exists(InGames(QStringLiteral("cat.png")))) << "nothing is kept that isn't used";
+}
+
 } // namespace

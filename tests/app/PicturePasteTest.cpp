@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Pictures pasted onto the place that has the keyboard's frame.
+#include "app/BoardWalk.h"
 #include "MainWindowFixture.h"
 #include "support/PictureFiles.h"
 
@@ -95,6 +96,22 @@ TEST_F(PicturePasteTest, WhatCannotBePastedIsSaidAndNothingChanges) {
               QStringLiteral("'letter' holds no picture that Tavlora can show. Photos as .jpg or .png are fine."));
     EXPECT_EQ(TheGame(), before);
     EXPECT_FALSE(window->Commands().InHand().IsUnsaved());
+}
+
+TEST_F(PicturePasteTest, WhereEveryNoteHasAPictureNoneGivesAndNoFileIsKept) {
+    for (C_Money& note : TheGame().money)
+        note.FaceImage.Let_FullPath(Photo(QStringLiteral("dog.png")));
+    const Game before = TheGame();
+    QImage image(30, 20, QImage::Format_RGB32);
+    image.fill(Qt::blue);
+    QGuiApplication::clipboard()->setImage(image);
+    ASSERT_TRUE(BoardWays::Places().back().m_bOverMoney);
+    for (size_t i = 0; i < BoardWays::Places().size(); ++i)
+        Press(Qt::Key_Tab);
+    Press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(desktop.Texts(), Strings{QStringLiteral("One picture found no free place.")});
+    EXPECT_EQ(TheGame(), before);
+    EXPECT_TRUE(QDir(InGames(QString())).entryList({QStringLiteral("Pictures of *")}).isEmpty());
 }
 
 TEST_F(PicturePasteTest, PlacesWithFacesOfTheirOwnTakeNone) {

@@ -88,6 +88,12 @@ TEST_F(DroppedPicturesTest, MoreThanThereAreFreePlacesAreCounted) {
         EXPECT_FALSE(token.Image.FullPath().isEmpty());
 }
 
+TEST_F(DroppedPicturesTest, WhereNoneIsFreeAllAreCountedAndWhatIsNoPictureIsToldAsSuch) {
+    const auto outcome = DroppedPictures::Onto(game, Files(3), {Kind::Token, DroppedPictures::kNoneFree}, Refuse);
+    EXPECT_FALSE(outcome.edit);
+    EXPECT_EQ(outcome.sTold, QStringLiteral("'p1' is no picture.\r\n2 pictures found no free place."));
+}
+
 TEST_F(DroppedPicturesTest, PiecesOfTheKitTakeNone) {
     for (const PictureOwner& piece : {PictureOwner{Kind::Corner, 3}, PictureOwner{Kind::Space, 3},
                                       PictureOwner{Kind::Space, 28}, PictureOwner{Kind::Token, -1}, PictureOwner{}}) {

@@ -74,7 +74,9 @@ QStringList Kept(const QStringList& files) {
 bool LayOnto(Session& session, const QStringList& files, const PictureOwner& piece) {
     if (files.isEmpty()) return false;
     basPosit::PosSethDC(&session.MeasuringDevice());
-    return Take(session, DroppedPictures::Onto(session.InHand(), Kept(files), piece, WhyNotShown));
+    // What no piece will show isn't copied.
+    const QStringList kept = DroppedPictures::Takes(piece) ? Kept(files) : files;
+    return Take(session, DroppedPictures::Onto(session.InHand(), kept, piece, WhyNotShown));
 }
 
 QString TakeFirst(Session& session, QStringList files, const PictureOwner& piece, bool& bOthers) {
