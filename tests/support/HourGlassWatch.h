@@ -26,7 +26,9 @@ public:
     HourGlassWatch& operator=(const HourGlassWatch&) = delete;
 
     /// How often a widget was drawn with the hourglass standing.
-    int TimesWorking(const char* sWidget) const { return int(m_working.value(QString::fromLatin1(sWidget))); }
+    int TimesWorking(const char* sWidget) const { return m_working.value(QString::fromLatin1(sWidget)); }
+    /// How often it was drawn at all.
+    int Times(const char* sWidget) const { return m_all.value(QString::fromLatin1(sWidget)); }
 
 private:
     static HourGlassWatch*& Watching() {
@@ -41,6 +43,7 @@ private:
                 watch.m_before(type, context, sMessage);
             return;
         }
+        ++watch.m_all[NameIn(sMessage)];
         const QCursor* const pointer = QGuiApplication::overrideCursor();
         if (pointer && pointer->shape() == Qt::WaitCursor) ++watch.m_working[NameIn(sMessage)];
     }
@@ -52,4 +55,5 @@ private:
 
     QtMessageHandler m_before = nullptr;
     QHash<QString, int> m_working;
+    QHash<QString, int> m_all;
 };

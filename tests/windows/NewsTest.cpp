@@ -428,4 +428,23 @@ TEST_F(NewsTest, ACardThatDoesNotExistIsRefused) {
     EXPECT_EQ(ErrorOf([&] { editor.ShowForm(kGood, 12, changed); }), quint32(ErrNumber::kSubscript));
 }
 
+TEST_F(NewsTest, WhatIsTooLongForACardOrItsTitleGoesWithAWord) {
+    EXPECT_FALSE(Edit(kGood, 2, [this](QDialog& form) {
+        auto& text = Find<QPlainTextEdit>(form, "txtSpace");
+        const QString before = text.toPlainText();
+        text.insertPlainText(QString(5001, u'x'));
+        EXPECT_EQ(text.toPlainText(), before);
+        EXPECT_EQ(desktop.Texts(), QStringList{QStringLiteral("A text holds 5,000 letters at most.")});
+        Click(form, "cmdOK");
+    }));
+    EXPECT_TRUE(Edit(kGood, 2, [this](QDialog& form) {
+        auto& title = Find<QLineEdit>(form, "txtTitle");
+        title.insert(QString(5001, u'x'));
+        EXPECT_EQ(title.text().size(), 5000);
+        EXPECT_EQ(desktop.boxes.size(), 2) << "told as well";
+        Click(form, "cmdOK");
+    }));
+    EXPECT_EQ(DeckTitle(kGood).size(), 5000);
+}
+
 } // namespace

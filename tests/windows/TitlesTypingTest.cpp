@@ -5,6 +5,7 @@
 #include "windows/editors/frmEditCenter.h"
 
 #include "support/EditorFixture.h"
+#include "support/HourGlassWatch.h"
 
 #include <QLabel>
 
@@ -116,6 +117,36 @@ TEST_F(TitlesTypingTest, LinesThatAKeyJoinsBeyondTheLimitAreTold) {
             EXPECT_EQ(Told(), kOnly40) << key;
         });
     }
+}
+
+TEST_F(TitlesTypingTest, BackspaceTakesTheLastLetterAfterTypingBeyondTheLine) {
+    for (const int title : {kName, kSubtitle}) {
+        Edit(title, QStringLiteral("a"), [&] {
+            Type(QString(49, u'a'));
+            EXPECT_EQ(LinesOf(title).first().size(), 40);
+            Press(Qt::Key_Backspace);
+            EXPECT_EQ(LinesOf(title).first().size(), 39);
+        });
+    }
+}
+
+// Five thousand fits of a title, and as many pictures of it, take seconds.
+TEST_F(TitlesTypingTest, APasteIsStoredAndDrawnOnceHoweverLongItIs) {
+    const auto drawnBy = [&](const QString& text) {
+        int times = 0;
+        Edit(kSubtitle, QStringLiteral("a"), [&] {
+            Clipboard::SetText(text);
+            const HourGlassWatch watch;
+            Press(Qt::Key_V, Qt::ControlModifier);
+            times = watch.Times("picForm");
+            Press(Qt::Key_Z, Qt::ControlModifier);
+            EXPECT_EQ(LinesOf(kSubtitle), QStringList{QStringLiteral("a")}) << "in one step";
+        });
+        return times;
+    };
+    const int letter = drawnBy(QStringLiteral("b"));
+    EXPECT_GT(letter, 0);
+    EXPECT_EQ(drawnBy(QString(5000, u'b')), letter);
 }
 
 TEST_F(TitlesTypingTest, EnterInTheGamesNameIsNoLoss) {

@@ -41,6 +41,20 @@ TEST_F(TypingKeysTest, TheCaretStandsBehindTheNameAtOnce) {
     EXPECT_EQ(Space().TextAll(), QStringLiteral("Elm\r\nStreet 7"));
 }
 
+// The focus goes to one of them; Space and Enter are its own then.
+TEST_F(TypingKeysTest, ALetterThatTwoButtonsShareTakesTheCaretOutOfTheText) {
+    Edit([&] {
+        auto* const font = Find<QPushButton>("cmdChangeFont");
+        auto* const ok = Find<QPushButton>("cmdOK");
+        font->setText(QStringLiteral("Change &Q"));
+        ok->setText(QStringLiteral("&Q"));
+        Press(Qt::Key_Q, Qt::AltModifier);
+        ASSERT_TRUE(font->hasFocus() || ok->hasFocus());
+        Type(QStringLiteral("x\u00E9"));
+        EXPECT_EQ(Text(), QStringLiteral("Elm|Street"));
+    });
+}
+
 TEST_F(TypingKeysTest, AllIsMarkedAndTypedOver) {
     Edit([&] {
         Press(Qt::Key_A, Qt::ControlModifier);
