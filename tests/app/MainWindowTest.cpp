@@ -15,6 +15,18 @@ TEST_F(MainWindowTest, Edge_VerySmallWindowKeepsTheBoardAt1800Twips) {
     EXPECT_EQ(ComputeMainLayout({QSize(150, 150), QSize(150, 150), 390, 375}, 1.0F).picBoard.size(), QSize(1800, 1800));
 }
 
+TEST_F(MainWindowTest, AWindowAsSmallAsItGoesShowsItsButtonsWhole) {
+    window->resize(10, 10);
+    QApplication::processEvents();
+    for (int i = 0; i < MainLayout::kButtons; ++i) {
+        const auto& button = Find<QPushButton>(QStringLiteral("cmd_%1").arg(i).toLatin1().constData());
+        const QString caption = button.text().remove(u'&');
+        EXPECT_GE(button.width(), QFontMetrics(QApplication::font(&button)).horizontalAdvance(caption)) << i;
+        EXPECT_TRUE(window->centralWidget()->rect().contains(button.geometry())) << i;
+    }
+    EXPECT_GT(window->View().Board().width(), 120) << "more than the board may be left";
+}
+
 TEST_F(MainWindowTest, Edge_ClickOnAZoomedBoardFindsWhatIsReallyThere) {
     ChooseMenu("mnuZoom_1");
     Find<QScrollBar>("hscrl").setValue(32767);
