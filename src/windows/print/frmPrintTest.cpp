@@ -29,6 +29,8 @@ frmPrintTest::frmPrintTest(QWidget* parent)
     m_frmTavlPrint->bPrintOnScreen = kPrintOnScreen;
 }
 
+frmPrintTest::~frmPrintTest() { delete m_frmTavlPrint; }
+
 bool frmPrintTest::ShowForm(bool bPrintStarted) try { return m_frmTavlPrint->ShowForm(bPrintStarted); } catch (...) {
     ErrTail("frmPrintTest!", "ShowForm", bPrintStarted);
 }

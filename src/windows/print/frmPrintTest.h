@@ -2,10 +2,11 @@
 #pragma once
 
 #include <QDialog>
+#include <QPointer>
 
-class frmTavlPrint;
 class Picture;
 class PictureBox;
+class frmTavlPrint;
 
 /// The door to the print console, and a window that shows a sheet as it would be on paper, for looking at a
 /// job without spending any.
@@ -14,6 +15,7 @@ class frmPrintTest : public QDialog {
 
 public:
     explicit frmPrintTest(QWidget* parent = nullptr);
+    ~frmPrintTest() override;
 
     /// Opens the console, see frmTavlPrint::ShowForm.
     bool ShowForm(bool bPrintStarted);
@@ -22,6 +24,7 @@ public:
     void ShowPage(const Picture& page);
 
 private:
-    frmTavlPrint* m_frmTavlPrint;
+    // The main window's child as this is, and ended with whichever of the two ends first.
+    QPointer<frmTavlPrint> m_frmTavlPrint;
     PictureBox* picPage;
 };
