@@ -8,6 +8,7 @@
 #include "pack/Packing.h"
 #include "services/Guide.h"
 #include "support/AllWindows.h"
+#include "support/WindowList.h"
 #include "windows/check/frmCheck.h"
 #include "windows/check/GameChecker.h"
 #include "windows/editors/frmEditNews.h"
@@ -95,6 +96,13 @@ protected:
 };
 
 } // namespace
+
+TEST_F(HelpTest, NothingThatTheMainWindowSaysChangesUnseen) {
+    const Windows all = AllWindows();
+    for (const char* name : {"frmAbout", "frmPrintManual", "frmCheck"})
+        WindowList::ExpectListed(*all.at(QString::fromLatin1(name)));
+    WindowList::ExpectListed(*window);
+}
 
 TEST_F(HelpTest, EveryWindowOfTheSourcesHasAPage) {
     const QStringList windows = WindowsOfTheSources();

@@ -3,6 +3,7 @@
 #include "support/AllWindows.h"
 #include "services/basCommon.h"
 #include "support/EditorFixture.h"
+#include "support/WindowList.h"
 
 #include <QGridLayout>
 #include <QPlainTextEdit>
@@ -96,6 +97,11 @@ TEST_F(AllWindowsTest, PicturesAreDroppedOnTheLikenessOfAPiece) {
     const auto all = AllWindows(session);
     for (const char* name : {"frmEditSpace", "frmEditCorner", "frmEditToken"})
         EXPECT_TRUE(Find<QWidget>(*all.at(QLatin1String(name)), "picDest").acceptDrops()) << name;
+}
+
+TEST_F(AllWindowsTest, NothingThatAWindowSaysChangesUnseen) {
+    for (const auto& [name, window] : AllWindows(session))
+        WindowList::ExpectListed(*window);
 }
 
 } // namespace
