@@ -43,7 +43,10 @@ TEST_F(SidePanelTest, StandsBesideTheBoardWhereThereIsRoom) {
 }
 
 TEST_F(SidePanelTest, HandleAndMenuHideItAndTheBoardMovesToTheMiddle) {
+    EXPECT_EQ(Handle().toolTip(), QStringLiteral("Hide the side panel"));
     Click(Handle());
+    EXPECT_EQ(Handle().toolTip(), QStringLiteral("Show the side panel"));
+    EXPECT_EQ(Handle().accessibleName(), QStringLiteral("Show the side panel"));
     EXPECT_FALSE(Panel().isVisible());
     EXPECT_FALSE(IsMarked());
     const int left = BoardAt().left();

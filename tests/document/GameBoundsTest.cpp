@@ -46,6 +46,12 @@ TEST(GameBounds, ABareFieldAndBlanksAreCutToo) {
     EXPECT_TRUE(blanks.bytes.endsWith("\"a\", 2\n"));
 }
 
+TEST(GameBounds, AnEmptyFieldAtTheStartOfALineIsAField) {
+    const Bounded bounded("," + kLongEnough + "more,2\n");
+    EXPECT_TRUE(bounded.cut);
+    EXPECT_EQ(bounded.bytes, "," + kLongEnough + ",2\n");
+}
+
 TEST(GameBounds, AFieldWithoutAClosingQuoteEndsWithItsLine) {
     const Bounded bounded("\"" + kLongEnough + kLongEnough + "\r\n7\r\n");
     EXPECT_TRUE(bounded.cut);
