@@ -246,6 +246,7 @@ TEST_F(StartUpTest, SplashShowsThatItIsLoadingWithoutAButton) {
 
 TEST_F(StartUpTest, WelcomeWindowOffersTwoAnswersAndRemembersThatItWasPrinted) {
     WithModal("frmPrintManual", [](QWidget& modal) {
+        EXPECT_EQ(modal.windowTitle(), QStringLiteral("Tavlora"));
         EXPECT_EQ(TextOf(modal, "Label1"), QStringLiteral("Welcome to Tavlora"));
         EXPECT_EQ(TextOf(modal, "Label2"),
                   QStringLiteral("If you have not already done so, please print the assembly instructions that are "

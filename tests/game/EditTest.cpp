@@ -107,6 +107,12 @@ TEST_F(EditTest, OneNoteIsNamedAndManyAreMoney) {
     EXPECT_EQ(Edits::OfMoney(before, money).after.money, money);
     money[3] = before.money[3];
     EXPECT_EQ(NameOf(Edits::OfMoney(before, money)), QStringLiteral("Picture of Note 100"));
+    const char* const names[] = {"Text of Note 100", "Text of Note 500", "Text of Note 1000", "Text of Note 5000"};
+    for (size_t note = 0; note < 4; ++note) {
+        Game after = before;
+        after.money[note].Let_Text(1, QStringLiteral("Bank of Ada"));
+        EXPECT_EQ(NameOf(Edits::OfMoney(before, after.money)), QLatin1String(names[note]));
+    }
 }
 
 TEST_F(EditTest, ATokenHasEitherATextOrAPicture) {

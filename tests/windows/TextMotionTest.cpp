@@ -78,6 +78,18 @@ TEST_F(TextMotionTest, LeftGoesToTheLineBeforeOnlyFromTheStartOfALine) {
     EXPECT_EQ(Caret(), QStringLiteral("0:0"));
 }
 
+TEST_F(TextMotionTest, RightGoesToTheStartOfTheLineBehindOnlyFromTheEndOfALine) {
+    selection.SetCaret(7, 0);
+    const char* const places[] = {"0:8", "1:0", "1:1"};
+    for (const char* place : places) {
+        Press(Qt::Key_Right);
+        EXPECT_EQ(Caret(), QLatin1String(place));
+    }
+    selection.SetCaret(13, 1);
+    Press(Qt::Key_Right);
+    EXPECT_EQ(Caret(), QStringLiteral("1:13"));
+}
+
 TEST_F(TextMotionTest, AllIsMarkedAndReplaced) {
     EXPECT_EQ(Press(Qt::Key_A, Qt::ControlModifier, QStringLiteral("\x01")), QStringLiteral("Elm Tree\nOld Mill Road"));
     Press(Qt::Key_Delete);
