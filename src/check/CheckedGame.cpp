@@ -34,7 +34,7 @@ bool CheckedGame::Gather() {
 bool CheckedGame::GatherPicture() {
     const std::span<const GamePiece> pieces = PiecesWithPictures();
     if (m_picture == pieces.size()) return false;
-    if (std::optional<PaperPicture> picture = PaperPictureOf(game, pieces[m_picture++], m_facts))
+    if (std::optional<PaperPicture> picture = PaperPictureOf(game, pieces[m_picture++], m_facts, options.decoding))
         m_pictures.push_back(*std::move(picture));
     return true;
 }

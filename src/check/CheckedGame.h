@@ -8,10 +8,11 @@
 #include <optional>
 #include <vector>
 
-/// What is known of the printer that a game will go to.
+/// What is known of the printer that a game will go to, and how its pictures are looked at.
 struct CheckOptions {
     /// What of an upright page can be printed on, in inches; nothing where that isn't known.
-    std::optional<QSizeF> printableInches;
+    std::optional<QSizeF> printableInches = {};
+    PictureFacts::Decoding decoding = PictureFacts::Decoding::Awaited;
 };
 
 /// A game that is being checked: the game, and what the checks want to know of it, worked out once for all of them.

@@ -113,6 +113,10 @@ bool CheckRun::Step() try {
     ErrTail("basCheck!", "Step");
 }
 
+bool CheckRun::HasDecodedAll() const {
+    return std::ranges::all_of(m_checked.Pictures(), [](const PaperPicture& picture) { return picture.fact.bDecoded; });
+}
+
 std::vector<Finding> CheckRun::Take() {
     std::ranges::stable_sort(m_all, std::less(), &Finding::piece);
     return std::move(m_all);

@@ -86,6 +86,8 @@ public:
 
     /// Goes on for the shortest while. False when nothing is left to do.
     bool Step();
+    /// False where pictures are still being decoded, and there may be more to find.
+    bool HasDecodedAll() const;
     /// What was found, once nothing is left to do.
     std::vector<Finding> Take();
 

@@ -48,10 +48,11 @@ std::span<const GamePiece> PiecesWithPictures() {
     return pieces;
 }
 
-std::optional<PaperPicture> PaperPictureOf(const Game& game, const GamePiece& piece, PictureFacts& facts) {
+std::optional<PaperPicture> PaperPictureOf(const Game& game, const GamePiece& piece, PictureFacts& facts,
+                                           PictureFacts::Decoding decoding) {
     const PictureRef ref = PieceParts::PictureOf(game, piece);
     if (ref.IsEmpty()) return std::nullopt;
     const bool sticker = piece.kind == GamePiece::Kind::Space;
-    return PaperPicture{piece, ref, InchesOf(piece), facts.Of(ref.sPath),
+    return PaperPicture{piece, ref, InchesOf(piece), facts.Of(ref.sPath, decoding),
                         sticker ? PieceSheets::OfSticker(piece) : PieceSheets::Of(piece)};
 }

@@ -26,4 +26,5 @@ struct PaperPicture {
 /// The pieces that may show a picture, in the order in which they are told of.
 std::span<const GamePiece> PiecesWithPictures();
 /// Nothing for a piece that shows none.
-std::optional<PaperPicture> PaperPictureOf(const Game& game, const GamePiece& piece, PictureFacts& facts);
+std::optional<PaperPicture> PaperPictureOf(const Game& game, const GamePiece& piece, PictureFacts& facts,
+                                           PictureFacts::Decoding decoding);

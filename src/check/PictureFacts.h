@@ -8,8 +8,8 @@
 
 #include <optional>
 
-/// What is known of the files of pictures, so that a game that is checked at each edit reads each file once. A file
-/// that was changed is read again.
+/// What is known of the files of pictures, so that a game that is checked at each edit reads each file once, and
+/// decodes it once: it may be damaged behind its head. A file that was changed is read again.
 class PictureFacts {
 public:
     struct Fact {
@@ -18,9 +18,15 @@ public:
         std::optional<PictureHead> head;
         /// Why it can't be read.
         QString sError;
+        /// False while its head is all that is known of it.
+        bool bDecoded = false;
+    };
+    enum class Decoding {
+        Awaited, ///< Of the whole picture, here and now if need be.
+        Aside    ///< On another processor: what isn't decoded yet counts as good until it is asked for again.
     };
 
-    const Fact& Of(const QString& sPath);
+    const Fact& Of(const QString& sPath, Decoding decoding = Decoding::Awaited);
     /// Files read so far.
     int Readings() const { return m_readings; }
 
@@ -29,6 +35,8 @@ private:
         Files::Stamp stamp;
         Fact fact;
     };
+
+    Known& HeadOf(const QString& sPath);
 
     QHash<QString, Known> m_known;
     int m_readings = 0;

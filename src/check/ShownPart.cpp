@@ -53,7 +53,7 @@ bool LeavesBars(const PaperPicture& picture, const ZoomedSource& part) {
 
 std::optional<Edit> WithOtherPart(const Game& game, const GamePiece& piece, int iStep) {
     PictureFacts facts;
-    std::optional<PaperPicture> picture = PaperPictureOf(game, piece, facts);
+    std::optional<PaperPicture> picture = PaperPictureOf(game, piece, facts, PictureFacts::Decoding::Aside);
     if (!picture || !ShownPartOf(*picture)) return std::nullopt;
     const QSize size = picture->fact.head->size;
     const PictureRef centered = PictureMiddle::CenteredIn(picture->ref, size.width(), size.height());

@@ -2,6 +2,7 @@
 // Check My Game from the main window: what it lists, and where it leads.
 #include "AppFixture.h"
 #include "support/ModalSteps.h"
+#include "support/PictureFiles.h"
 
 #include "windowing/CountLight.h"
 #include "windows/check/frmCheck.h"
@@ -148,6 +149,17 @@ TEST_F(CheckWindowTest, TheLightTellsHowMuchThereIsToMendAndOpensTheList) {
     QTest::mouseClick(&light, Qt::LeftButton);
     EXPECT_TRUE(Find<frmCheck>("frmCheck").isVisible());
     EXPECT_EQ(Rows().size(), 2);
+}
+
+TEST_F(CheckWindowTest, TheLightTellsOfAPictureThatBreaksOffOnceItIsDecodedAside) {
+    auto& light = Find<CountLight>("CountLight");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return light.Count() == 0; }, 2000));
+    const QByteArray whole = PictureFiles::Encoded(PictureFiles::Quarters(400, 400), "jpg");
+    Game after = InHand().InHand();
+    after.tokens[2].SetImagePath(WriteFile(QStringLiteral("half.jpg"), whole.left(whole.size() / 2)));
+    InHand().Do({QStringLiteral("A Picture"), after});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return light.Count() == 1; }, 4000));
+    EXPECT_TRUE(desktop.boxes.isEmpty());
 }
 
 TEST_F(CheckWindowTest, TheLightLeavesTheMenuBarAsHighAsItIs) {

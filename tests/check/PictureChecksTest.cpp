@@ -58,6 +58,20 @@ TEST_F(CheckTest, APictureThatCannotBeReadIsTold) {
     ExpectNone("picture-missing");
 }
 
+// As where a copy from a camera broke off: its head is whole.
+TEST_F(CheckTest, APictureThatBreaksOffBehindItsHeadIsTold) {
+    const QByteArray whole = PictureFiles::Encoded(PictureFiles::Quarters(400, 400), "jpg");
+    const QString path = WriteFile(QStringLiteral("photo.jpg"), whole.left(whole.size() / 2));
+    ShowOnSpace(kSpace, path);
+    ExpectOnly("picture-unreadable", kPiece);
+    EXPECT_TRUE(Of("picture-unreadable")[0].sText.contains(QStringLiteral("\"photo.jpg\"")));
+    ExpectNone("picture-coarse");
+    WriteFile(QStringLiteral("photo.jpg"), whole.left(whole.size() - 2));
+    ExpectNone("picture-unreadable");
+    WriteFile(QStringLiteral("photo.jpg"), whole);
+    ExpectNone("picture-unreadable");
+}
+
 // A space's picture is half as high as its sticker of 2.125 inches.
 TEST_F(CheckTest, APictureNeeds150DotsAnInch) {
     ShowOnSpace(kSpace, Photo({160, 160}));

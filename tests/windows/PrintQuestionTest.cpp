@@ -3,6 +3,7 @@
 #include "ConsoleFixture.h"
 
 #include "pictures/TellOnce.h"
+#include "support/PictureFiles.h"
 #include "windows/check/FindingTree.h"
 #include "windows/check/GameChecker.h"
 #include "windows/check/PrintQuestion.h"
@@ -124,6 +125,16 @@ TEST_F(PrintQuestionTest, PicturesThatAreAwayRaiseNoBoxAmidThePage) {
     desktop.boxes.clear();
     PrintAnswering(kWest, "cmdPrintAnyway", true);
     EXPECT_EQ(asked.size(), 4);
+    EXPECT_EQ(printer.ended.size(), 1);
+    EXPECT_TRUE(desktop.boxes.isEmpty()) << desktop.Texts().join(u'\n').toStdString();
+}
+
+TEST_F(PrintQuestionTest, APictureThatBreaksOffIsAskedAboutThoughItsHeadIsWhole) {
+    const QByteArray whole = PictureFiles::Encoded(PictureFiles::Quarters(400, 400), "jpg");
+    TheGame().spaces[4].Image.Init(WriteFile(QStringLiteral("half.jpg"), whole.left(whole.size() / 2)),
+                                   QStringLiteral("Space"), 4);
+    PrintAnswering(kWest, "cmdPrintAnyway", true);
+    EXPECT_EQ(asked, QStringList{QStringLiteral("space-4")});
     EXPECT_EQ(printer.ended.size(), 1);
     EXPECT_TRUE(desktop.boxes.isEmpty()) << desktop.Texts().join(u'\n').toStdString();
 }

@@ -5,6 +5,7 @@
 #include "drawing/DrawingAside.h"
 #include "game/Session.h"
 #include "services/basErrLog.h"
+#include "windowing/HourGlass.h"
 #include "windows/check/NoProblems.h"
 
 #include <QElapsedTimer>
@@ -13,6 +14,8 @@ namespace {
 
 // After the first edit, so that those which come with it are looked at together.
 constexpr int kPauseMs = 100;
+// Until what is being decoded is looked for again.
+constexpr int kDecodingMs = 400;
 // Less than a picture of the screen stands.
 constexpr int kSliceMs = 4;
 
@@ -24,14 +27,16 @@ GameChecker::GameChecker(Session& session, QObject* parent) : QObject(parent), m
     connect(&TimerLook, &QTimer::timeout, this, &GameChecker::TimerLook_Timer);
     connect(&TimerSlice, &QTimer::timeout, this, &GameChecker::TimerSlice_Timer);
     // Not put off by the next edit: whoever never pauses is told all the same.
-    const auto start = [this] {
-        if (!TimerLook.isActive()) TimerLook.start();
-    };
-    connect(&session, &Session::Edited, this, start);
-    connect(&session, &Session::Changed, this, start);
+    connect(&session, &Session::Edited, this, &GameChecker::LookSoon);
+    connect(&session, &Session::Changed, this, &GameChecker::LookSoon);
+}
+
+void GameChecker::LookSoon() {
+    if (!TimerLook.isActive()) TimerLook.start();
 }
 
 const std::vector<Finding>& GameChecker::Look() {
+    const HourGlass working;
     Stop();
     Tell(CheckGame(m_session.InHand(), m_facts));
     return m_found;
@@ -108,7 +113,8 @@ void GameChecker::NotePicturesAway() {
 void GameChecker::TimerLook_Timer() try {
     // A look under way is ended first: where it takes longer than the pause, edits that go on coming would put it off.
     if (m_isBusy() || m_run) return TimerLook.start();
-    m_run = std::make_unique<CheckRun>(m_session.InHand(), m_facts);
+    m_run = std::make_unique<CheckRun>(m_session.InHand(), m_facts,
+                                       CheckOptions{.decoding = PictureFacts::Decoding::Aside});
     TimerSlice.start(0);
 } catch (...) {
     Stop();
@@ -125,6 +131,7 @@ void GameChecker::TimerSlice_Timer() try {
     while (m_run->Step()) {
         if (since.elapsed() >= kSliceMs) return;
     }
+    if (!m_run->HasDecodedAll()) QTimer::singleShot(kDecodingMs, this, &GameChecker::LookSoon);
     const std::vector<Finding> all = m_run->Take();
     TimerSlice.stop();
     m_run.reset();

@@ -47,6 +47,7 @@ Q_SIGNALS:
 private:
     void TimerLook_Timer();
     void TimerSlice_Timer();
+    void LookSoon();
     void Stop();
     std::optional<Edit> MendOf(const Finding& finding, const QString& sPicture);
     void Tell(const std::vector<Finding>& all);
