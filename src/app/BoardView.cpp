@@ -267,8 +267,9 @@ void BoardView::AwaitPictures(bool bAwaited) {
 }
 
 void BoardView::TimerPictures_Timer() try {
-    // The window on top may be in the middle of its own drawing, and there is one drawing layer.
-    if (QApplication::activeModalWidget()) return;
+    // The window on top may be in the middle of its own drawing, or a page is being painted: there is one drawing
+    // layer.
+    if (m_bNoRedraw || QApplication::activeModalWidget()) return;
     basMsgQueue::MsgQueue_Init();
     DeviceContext& hDC = picBoard->hDC();
     const int depth = hDC.SaveDC();

@@ -6,7 +6,9 @@
 #include "kit/Sheets.h"
 #include "pieces/frmBMP.h"
 #include "platform/files/Folders.h"
+#include "platform/pictures/LoadPicture.h"
 #include "support/ModalSteps.h"
+#include "support/PictureFiles.h"
 #include "support/TestPrinter.h"
 
 #include <QCheckBox>
@@ -138,6 +140,31 @@ TEST_F(PrintDoorTest, TheBoardIsNotPaintedWhileAPageIs) {
     PrintNews();
     desktop.onPump = nullptr;
     EXPECT_FALSE(painted);
+}
+
+// "Done" hides the console amid the page, and nothing modal stands on top of the board any more.
+TEST_F(PrintDoorTest, APhotoThatTheBoardWaitsForComesBehindThePage) {
+    PrintNews();
+    const QImage good = printer.Page().Image().copy();
+    QImage photo(2400, 2400, QImage::Format_RGB32);
+    photo.fill(QColor(200, 0, 200));
+    ForgetPictures();
+    basTAVL::g_oSpaces(4).SetImagePath(WriteFile(QStringLiteral("photo.bmp"), PictureFiles::Encoded(photo, "BMP")));
+    window->View().Redraw();
+    const auto seen = [this] { return window->View().Board().Image().copy(); };
+    const QImage before = seen();
+    bool acted = false;
+    desktop.onPump = [&] {
+        if (std::exchange(acted, true)) return;
+        ClickIn(*QApplication::activeModalWidget(), "cmdCancel");
+        QTest::qWait(500);
+        EXPECT_EQ(seen(), before);
+    };
+    PrintNews();
+    desktop.onPump = nullptr;
+    EXPECT_TRUE(acted);
+    EXPECT_EQ(printer.Page().Image(), good);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return seen() != before; }, 20000)) << "it does come";
 }
 
 TEST_F(PrintDoorTest, TheConsoleStaysAliveWhileAPageIsPrinted) {
