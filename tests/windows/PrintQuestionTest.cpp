@@ -139,6 +139,30 @@ TEST_F(PrintQuestionTest, APictureThatBreaksOffIsAskedAboutThoughItsHeadIsWhole)
     EXPECT_TRUE(desktop.boxes.isEmpty()) << desktop.Texts().join(u'\n').toStdString();
 }
 
+TEST_F(PrintQuestionTest, WithoutAKitItIsAskedAsWell) {
+    TheGame().spaces[20].Image.Init(PathOf(QStringLiteral("away.png")), QStringLiteral("Space"), 20);
+    desktop.boxes.clear();
+    ModalSteps person;
+    person.In("PrintWithoutKit", [this](QWidget& window) {
+        Click(window, "cmdMake");
+        EXPECT_TRUE(Find<QLabel>(window, "lblPage").text().isEmpty()) << "nothing is made";
+        EXPECT_TRUE(Find<QWidget>(window, "cmdMake").isEnabled());
+        Click(window, "cmdClose");
+    });
+    person.In("frmBeforePrint", [this](QWidget& window) {
+        for (const Finding& finding : Find<FindingTree>(window, "tvwFindings").Shown())
+            asked.append(finding.piece.Word() + u' ' + finding.sCheck);
+        words = Find<QLabel>(window, "lblQuestion").text();
+        Click(window, "cmdCancel");
+    });
+    Click(*console, "cmdNoKit");
+    EXPECT_TRUE(asked.contains(QStringLiteral("space-20 picture-missing"))) << asked.join(u'\n').toStdString();
+    EXPECT_TRUE(words.endsWith(QStringLiteral("before these sheets are printed:"))) << words.toStdString();
+    EXPECT_EQ(last, PrintQuestion::Answer::Cancel);
+    EXPECT_TRUE(pages.isEmpty()) << "no page was begun";
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+}
+
 TEST_F(PrintQuestionTest, WhatSomebodyHasCalledNoProblemIsntAsked) {
     EmptySpace(4);
     for (const Finding& finding : std::vector<Finding>(checker.Look())) {

@@ -3,6 +3,7 @@
 
 #include "document/GameHost.h"
 #include "kit/ConsoleSheets.h"
+#include "kit/Sheets.h"
 #include "nokit/NoKitPrint.h"
 #include "platform/files/Files.h"
 #include "platform/printing/Printer.h"
@@ -34,6 +35,13 @@ constexpr std::array<double, 3> kSizes = {16, 20, NoKitChoices::kAsTheKit};
 
 QString NameOfPdf() {
     return ConsoleSheets::DocumentName(GameHost::Current().GameName(), QStringLiteral("Without a Kit"));
+}
+
+QStringList WordsOfTheKit() {
+    QStringList words;
+    for (const Sheet& sheet : Sheets())
+        words.append(QString::fromLatin1(sheet.sName));
+    return words;
 }
 
 QString PdfPath() { return basCommon::JoinPath(ConsoleSheets::PrintedFolder(), NameOfPdf() + QStringLiteral(".pdf")); }
@@ -73,6 +81,7 @@ void PrintWithoutKit::cmdMake_Click() try {
         MsgBox(ConsoleSheets::LittleDiskMessage(dblFree, ConsoleSheets::kMegabytesToldForMoney));
         return;
     }
+    if (!MayPrint(*this, WordsOfTheKit())) return;
     m_bStop = false;
     SetBusy(true);
     Make();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "nokit/NoKitChoices.h"
+#include "windows/print/MayPrintQuestion.h"
 
 #include <QDialog>
 #include <QString>
@@ -32,6 +33,8 @@ public:
 
     /// Told when pages are begun and when they are finished, so that the program isn't closed in between.
     std::function<void(bool bInPrint)> TellInPrint = [](bool) {};
+    /// Asked ahead of the file, with the words of the kit's sheets: the same pieces stand on them.
+    MayPrintQuestion MayPrint = [](QDialog&, const QStringList&) { return true; };
 
 public Q_SLOTS:
     void cmdMake_Click();

@@ -136,6 +136,7 @@ void frmTavlPrint::cmdNoKit_Click() try {
     if (bInPrint) return;
     PrintWithoutKit form(this);
     form.TellInPrint = [this](bool bNow) { TellInPrint(bNow); };
+    form.MayPrint = [this](QDialog& window, const QStringList& sheets) { return MayPrint(window, sheets); };
     form.ShowForm();
 } catch (...) {
     ErrTop("frmTavlPrint!", "cmdNoKit_Click");
