@@ -4,6 +4,7 @@
 
 #include "document/basTAVL.h"
 #include "drawing/basDraw.h"
+#include "kit/PieceNames.h"
 #include "kit/SheetJob.h"
 #include "pieces/frmBMP.h"
 #include "pieces/MadePicture.h"
@@ -46,7 +47,7 @@ bool PrepareSheet<class MoneySheet>(SheetJob& job, int iWhich) {
     const QString path = MadePicture::PathOf(QStringLiteral("MoneyImage.bmp"));
     if (!frmBMP::Instance().GenerateMoneyImage(path, iWhich)) {
         MsgBox(QStringLiteral("Unable to create Money Image. Money will not be printed."));
-        return false;
+        return job.LacksPicture(PieceNames::Note(iWhich));
     }
     QString error;
     job.prepared = LoadForPaper(path, error);

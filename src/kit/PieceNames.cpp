@@ -28,6 +28,12 @@ QString Token(int iToken) {
                  iToken);
 }
 
+QString Note(int iMoney) {
+    constexpr const char* kNotes[basTAVL::kMoney] = {"The $100 note", "The $500 note", "The $1,000 note",
+                                                     "The $5,000 note"};
+    return QString::fromLatin1(kNotes[iMoney]);
+}
+
 QString Deed(int iSpace) {
     return Named(basTAVL::g_oSpaces(iSpace).TextAll(), QStringLiteral("The deed of '%1'"),
                  QStringLiteral("The deed of space %1"), iSpace);

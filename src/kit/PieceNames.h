@@ -10,6 +10,8 @@ namespace PieceNames {
 QString Space(int iSpace);
 QString Corner(int iCorner);
 QString Token(int iToken);
+/// "The $100 note", the lowest of them from 0.
+QString Note(int iMoney);
 /// "The deed of 'Elm Street'".
 QString Deed(int iSpace);
 

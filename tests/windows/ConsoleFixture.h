@@ -8,6 +8,7 @@
 #include "kit/ConsoleSheets.h"
 #include "kit/GameKit.h"
 #include "pieces/frmBMP.h"
+#include "pieces/MadePicture.h"
 #include "platform/files/Files.h"
 #include "platform/files/Folders.h"
 #include "services/basCommon.h"
@@ -21,6 +22,21 @@
 #include <QLabel>
 
 #include <memory>
+
+/// As long as it lives nothing can be written under the name of a made picture, as a folder bears it.
+class Blocked {
+public:
+    explicit Blocked(const char* sName) : m_path(MadePicture::PathOf(QString::fromLatin1(sName))) {
+        QFile::remove(m_path);
+        QDir().mkpath(m_path);
+    }
+    ~Blocked() { QDir().rmdir(m_path); }
+    Blocked(const Blocked&) = delete;
+    Blocked& operator=(const Blocked&) = delete;
+
+private:
+    QString m_path;
+};
 
 /// The console with a printer that remembers, a game called "Ours" and plenty of room on the disk.
 class ConsoleTest : public BoardTest {

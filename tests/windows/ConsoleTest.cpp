@@ -325,6 +325,9 @@ TEST_F(ConsoleTest, WithoutItsPictureMoneyIsNotPrintedAndTheConsoleStaysShut) {
     EXPECT_TRUE(printer.ended.isEmpty());
     EXPECT_TRUE(Hourglass());
     EXPECT_EQ(pages, (QList<bool>{true, false})) << "the program can be closed";
+    EXPECT_TRUE(Text("lblPiece").startsWith(QStringLiteral("The $100 note could not be made: ")))
+        << qPrintable(Text("lblPiece"));
+    EXPECT_TRUE(Text("lblPiece").contains(QStringLiteral("MoneyImage.bmp")));
     QDir().rmdir(picture);
     ClickSheet(kRules);
     EXPECT_TRUE(printer.ended.isEmpty()) << "no paper is asked for, nothing is printed";

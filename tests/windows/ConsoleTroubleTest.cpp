@@ -4,7 +4,6 @@
 
 #include "drawing/basDraw.h"
 #include "drawing/basDraw_state.h"
-#include "pieces/MadePicture.h"
 #include "windowing/SystemPrinter.h"
 
 namespace {
@@ -18,21 +17,6 @@ constexpr int kRules = 11;
 constexpr int kDeeds1 = 12;
 
 const QString kNotPrinted = QStringLiteral("This sheet could not be printed.\r\n\r\n");
-
-/// As long as it lives nothing can be written under the name of a made picture, as a folder bears it.
-class Blocked {
-public:
-    explicit Blocked(const char* sName) : m_path(MadePicture::PathOf(QString::fromLatin1(sName))) {
-        QFile::remove(m_path);
-        QDir().mkpath(m_path);
-    }
-    ~Blocked() { QDir().rmdir(m_path); }
-    Blocked(const Blocked&) = delete;
-    Blocked& operator=(const Blocked&) = delete;
-
-private:
-    QString m_path;
-};
 
 const QString kGone = QStringLiteral("The printer 'Laser' doesn't answer. Please see that it is switched on and "
                                      "connected, then print again.\r\n\r\nClick 'OK' to print nevertheless.");

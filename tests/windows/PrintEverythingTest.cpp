@@ -3,7 +3,6 @@
 
 #include "ConsoleFixture.h"
 
-#include "pieces/MadePicture.h"
 #include "support/PdfReader.h"
 
 #include <QListWidget>
@@ -136,14 +135,19 @@ TEST_F(PrintEverythingTest, AFileOfBeforeStaysWhenItIsStoppedOrNotWhole) {
     Show([this] { Print(); });
     desktop.onPump = nullptr;
     EXPECT_EQ(Label("lblPage"), QStringLiteral("Stopped. No file was written."));
-    const QString blocked = MadePicture::PathOf(QStringLiteral("TempNewsBMP1.temp"));
-    QFile::remove(blocked);
-    QDir().mkpath(blocked);
-    Show([this] { Print(); });
-    QDir().rmdir(blocked);
-    EXPECT_TRUE(desktop.boxes.constLast().sText.startsWith(
+    const auto printWithout = [this](const char* made) {
+        const Blocked blocked(made);
+        Show([this] { Print(); });
+        return desktop.boxes.constLast().sText;
+    };
+    QString told = printWithout("TempNewsBMP1.temp");
+    EXPECT_TRUE(told.startsWith(
         QStringLiteral("The sheet 'Bad News Cards' could not be printed.\r\n\r\nBad News card 1 could not be made: ")))
-        << qPrintable(desktop.boxes.constLast().sText);
+        << qPrintable(told);
+    told = printWithout("MoneyImage.bmp");
+    EXPECT_TRUE(told.startsWith(
+        QStringLiteral("The sheet '$ 100' could not be printed.\r\n\r\nThe $100 note could not be made: ")))
+        << qPrintable(told);
     EXPECT_EQ(ReadFile(Pdf()), QByteArray("of before"));
     EXPECT_EQ(QDir(PathOf(QStringLiteral("games/Printed"))).entryList(QDir::Files | QDir::Hidden).size(), 1);
     EXPECT_FALSE(IsShown("cmdOpen"));

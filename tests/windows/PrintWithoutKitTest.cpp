@@ -101,6 +101,31 @@ TEST_F(PrintWithoutKitTest, AFileThatCannotBeWrittenIsTold) {
     EXPECT_FALSE(IsShown("cmdOpen"));
 }
 
+TEST_F(PrintWithoutKitTest, APieceThatCannotBeMadeIsNamedAndTheFileOfBeforeStays) {
+    const struct {
+        const char* file;
+        const char* told;
+    } rows[] = {
+        {"TempDeedBMP1.temp", "The deed of space 2 could not be made: "},
+        {"TempNewsBMP0.temp", "Good News card 1 could not be made: "},
+        {"MoneyImage.bmp", "The $100 note could not be made: "},
+    };
+    QDir().mkpath(PathOf(QStringLiteral("games/Printed")));
+    WriteFile(QStringLiteral("games/Printed/Ours - Without a Kit.pdf"), "of before");
+    for (const auto& row : rows) {
+        desktop.boxes.clear();
+        const Blocked blocked(row.file);
+        Show([this] { Make(); });
+        ASSERT_FALSE(desktop.boxes.isEmpty()) << row.file;
+        const QString told = desktop.boxes.constLast().sText;
+        EXPECT_TRUE(told.startsWith(QStringLiteral("The game could not be printed.\r\n\r\n"))) << qPrintable(told);
+        EXPECT_TRUE(told.contains(QString::fromLatin1(row.told))) << qPrintable(told);
+        EXPECT_TRUE(told.contains(QString::fromLatin1(row.file))) << qPrintable(told);
+        EXPECT_EQ(ReadFile(Pdf()), QByteArray("of before"));
+        EXPECT_FALSE(IsShown("cmdOpen"));
+    }
+}
+
 TEST_F(PrintWithoutKitTest, TheConsoleOpensItFromItsFirstPage) {
     Open();
     ModalSteps person;

@@ -227,8 +227,10 @@ void frmTavlPrint::Stop(int iButton) {
     for (QAbstractButton* button : cmdPrint->buttons())
         button->setEnabled(false);
     lblSheet->SetWholeText(QStringLiteral("Printing has stopped."));
-    const QString piece = lblPiece->text();
-    lblPiece->SetWholeText(piece.isEmpty() ? QString() : QStringLiteral("It got as far as: ") + piece);
+    if (const QString piece = lblPiece->text(); !piece.isEmpty())
+        lblPiece->SetWholeText(QStringLiteral("It got as far as: ") + piece);
+    // What was told already didn't say why.
+    if (!m_sFailure.isEmpty()) lblPiece->SetWholeText(std::exchange(m_sFailure, QString()));
     shpProgressBack->hide();
     cmdTryAgain->show();
     fraProgress->show();
@@ -273,7 +275,10 @@ bool frmTavlPrint::RunJob(const Sheet& sheet, const QString& sDone) {
     const PageUnderWay page(*this, printer, TellInPrint);
     SheetJob job{printer, std::bind_front(&frmTavlPrint::Let_Progress, this),
                  std::bind_front(&frmTavlPrint::ShowPiece, this)};
-    if (!sheet.Prepare(job)) return false;
+    if (!sheet.Prepare(job)) {
+        m_sFailure = ConsoleSheets::LackingMessage(job.lacking);
+        return false;
+    }
     if (PrintCopies(job, sheet, dblFree, sDone)) Let_Progress(kHidden);
     return true;
 }
