@@ -89,10 +89,11 @@ Replaced::Replaced(const QString& sGame) : m_sGame(sGame) {
     QString error;
     if (!Files::Exists(sGame) || Files::Size(sGame) > kMostBytes) return;
     m_when = QDateTime::fromMSecsSinceEpoch(Files::StampOf(sGame).modifiedMs);
-    m_bytes = Files::ReadAll(sGame, error).value_or(QByteArray());
-    const bool game = ReadGameHeader(m_bytes).bIsGame;
+    const QByteArray stood = Files::ReadAll(sGame, error).value_or(QByteArray());
+    if (!ReadGameHeader(stood).bIsGame) return;
+    m_stood = stood;
     // From its header an earlier version knows where its pictures lie, wherever the file came from.
-    m_bytes = game ? UnderName(m_bytes, sGame) : QByteArray();
+    m_bytes = UnderName(stood, sGame);
 }
 
 void Replaced::Keep(const QByteArray& content) const try {
@@ -109,6 +110,11 @@ void Replaced::Keep(const QByteArray& content) const try {
     }
 } catch (const TavloraError& error) {
     Log(m_sGame, basErrLog::ErrDismiss(error.Description()));
+}
+
+void Replaced::KeepIfGone() const {
+    QString error;
+    if (!m_stood.isEmpty() && Files::ReadAll(m_sGame, error) != m_stood) Keep({});
 }
 
 void KeepBoard(const QString& sGame, const QByteArray& png) try {

@@ -19,9 +19,13 @@ public:
     explicit Replaced(const QString& sGame);
     /// When the save has put this content in its place: keeps what stood there, unless it was the same.
     void Keep(const QByteArray& content) const;
+    /// When the save has failed: keeps what stood there if that is gone, as where a file is written in place.
+    void KeepIfGone() const;
 
 private:
     QString m_sGame;
+    /// The file as it stood, and as it is kept; both are empty where there was none of ours.
+    QByteArray m_stood;
     QByteArray m_bytes;
     QDateTime m_when;
 };

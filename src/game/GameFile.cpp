@@ -57,6 +57,7 @@ void GameSave(const QString& sFileName, bool& bResult) try {
     const std::optional<Refusal> refusal = Write(sFileName, content);
     if (underItsName) Autosave::NoteSave(sFileName, content, refusal);
     if (refusal && !refusal->sDuring.isEmpty()) {
+        replaced.KeepIfGone();
         int result = 0;
         ReportIOError(refusal->sError, QStringLiteral("save"), sFileName, refusal->sDuring, result,
                       underItsName ? Autosave::WhereItLies(content) : QString());
@@ -64,10 +65,17 @@ void GameSave(const QString& sFileName, bool& bResult) try {
     }
     bResult = true;
     if (!underItsName) return;
-    basCommon::WriteIniString(QStringLiteral("GameName"), sFileName);
-    host.SetSomethingChanged(false);
+    const auto keepReplaced = [&] { refusal ? replaced.KeepIfGone() : replaced.Keep(content); };
+    try {
+        basCommon::WriteIniString(QStringLiteral("GameName"), sFileName);
+        host.SetSomethingChanged(false);
+    } catch (...) {
+        // An autosave that can't be removed changes nothing of what was saved.
+        keepReplaced();
+        throw;
+    }
     // Last, so that nothing of it stands in the way of the save.
-    if (!refusal) replaced.Keep(content);
+    keepReplaced();
 } catch (...) {
     ErrTail("frmTAVL!", "GameSave", sFileName);
 }

@@ -141,6 +141,58 @@ TEST_F(EarlierVersionsTest, ASaveThatFailsKeepsNothing) {
     EXPECT_TRUE(Of(game).isEmpty());
 }
 
+TEST_F(EarlierVersionsTest, AStateIsKeptThoughTheAutosaveOfTheNextCanNotBeRemoved) {
+    QByteArray before = ReadFile(game);
+    before.replace("Plain.gam", game.toUtf8());
+    Rename(QStringLiteral("Oak"));
+    Files::SetFaultHook([](Files::Operation operation, const QString& path) {
+        const bool hit = operation == Files::Operation::Remove && path.contains(QStringLiteral("AutoSave"));
+        return hit ? std::optional(QStringLiteral("disk says no")) : std::nullopt;
+    });
+    EXPECT_THROW(session.Save(), TavloraError);
+    Files::SetFaultHook({});
+    EXPECT_TRUE(ReadFile(game).contains("Oak"));
+    ASSERT_EQ(Of(game).size(), 1);
+    EXPECT_EQ(ReadFile(Of(game).first().sPath), before);
+}
+
+// As in a folder that takes no new file: nothing but what is in hand is left of the state of before.
+TEST_F(EarlierVersionsTest, AStateThatASaveInPlaceDestroysIsKeptThoughTheSaveFails) {
+    using Operation = Files::Operation;
+    QByteArray before = ReadFile(game);
+    before.replace("Plain.gam", game.toUtf8());
+    for (const Operation refused : {Operation::Write, Operation::Commit}) {
+        Date(int(refused));
+        const qsizetype kept = Of(game).size();
+        Rename(QStringLiteral("Oak %1").arg(int(refused)));
+        Files::SetFaultHook([&](Operation operation, const QString& path) -> std::optional<QString> {
+            if (operation != refused || path != game) return std::nullopt;
+            QFile file(game);
+            EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+            file.write("\"Tavl");
+            return QStringLiteral("disk says no");
+        });
+        session.Save();
+        Files::SetFaultHook({});
+        ASSERT_EQ(Of(game).size(), kept + 1) << int(refused);
+        EXPECT_EQ(ReadFile(Of(game).first().sPath), before);
+        WriteGame(PlainLines(), QStringLiteral("Trip.gam"));
+    }
+}
+
+TEST_F(EarlierVersionsTest, AGameThatIsSavedOverAnotherKeepsTheStateOfThatOne) {
+    QStringList lines = PlainLines();
+    lines[3] = QStringLiteral("0, \"Mill\", \"\",0,0,0, \"Arial\",R,12");
+    const QString other = WriteGame(lines, QStringLiteral("Other.gam"));
+    Rename(QStringLiteral("Oak"));
+    session.SetGameName(other);
+    ASSERT_TRUE(session.Save());
+    EXPECT_TRUE(Of(game).isEmpty());
+    ASSERT_EQ(Of(other).size(), 1);
+    EXPECT_TRUE(ReadFile(Of(other).first().sPath).contains("Mill"));
+    EXPECT_FALSE(ReadFile(other).contains("Mill"));
+}
+
 TEST_F(EarlierVersionsTest, TheBoardAsItWasSavedGoesWithItsState) {
     Date(0);
     EarlierVersions::KeepBoard(game, "first");
