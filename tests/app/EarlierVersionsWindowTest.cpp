@@ -42,7 +42,9 @@ protected:
 };
 
 TEST_F(EarlierVersionsWindowTest, ListsTheStatesByDateTheLatestFirstWithTheirBoards) {
-    Show([](QDialog&, QListWidget& list) {
+    Show([](QDialog& dialog, QListWidget& list) {
+        EXPECT_EQ(dialog.findChild<QLabel*>(QStringLiteral("lblMain"))->text(),
+                  QStringLiteral("Click a version to open it as a new game. 'Mine.gam' stays as it is."));
         ASSERT_EQ(list.count(), 2);
         EXPECT_EQ(list.item(0)->text(), QLocale::system().toString(QDate(2026, 3, 9), QLocale::LongFormat) +
                                             QStringLiteral(", ") +
@@ -136,9 +138,9 @@ TEST_F(EarlierVersionsWindowTest, AGameWithoutAnySaysSo) {
     ChooseMenu("mnuFile_0");
     Show([](QDialog& dialog, QListWidget& list) {
         EXPECT_EQ(list.count(), 0);
-        EXPECT_TRUE(dialog.findChild<QLabel*>(QStringLiteral("lblMain"))
-                        ->text()
-                        .startsWith(QStringLiteral("There is no earlier version of this game yet.")));
+        EXPECT_EQ(dialog.findChild<QLabel*>(QStringLiteral("lblMain"))->text(),
+                  QStringLiteral("There is no earlier version of this game yet. Each save keeps the one that it "
+                                 "replaces."));
     });
 }
 

@@ -70,6 +70,18 @@ TEST_F(GameSharingTest, TheBoardIsSavedAsThePictureThatItsNameSays) {
     EXPECT_TRUE(desktop.Texts()[0].startsWith(QStringLiteral("'b.pdf' could not be written: ")));
 }
 
+TEST_F(GameSharingTest, ADialogThatCantBeShownIsToldAndOneThatIsClosedIsNot) {
+    StartWithGame();
+    for (const char* trouble : {"There is no such folder.", ""}) {
+        desktop.onDialog = [trouble](CommonDialog& dialog) {
+            dialog.sError = QString::fromLatin1(trouble);
+            return false;
+        };
+        ChooseMenu("mnuFile_31");
+        EXPECT_EQ(desktop.Texts(), QStringList{QStringLiteral("There is no such folder.")});
+    }
+}
+
 TEST_F(GameSharingTest, APictureOfAPieceIsSavedFromItsWindow) {
     StartWithGame();
     const QImage before = window->View().Board().Image();

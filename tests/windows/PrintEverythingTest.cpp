@@ -53,6 +53,7 @@ TEST_F(PrintEverythingTest, TellsWhatPaperItTakes) {
             QStringLiteral("This takes:\n3 sheets of white label paper\n2 sheets of white card stock\n2 sheets of "
                            "colored card stock\n14 sheets of white paper"));
         EXPECT_EQ(Label("lblDestination"), QStringLiteral("Printer: Laser"));
+        EXPECT_EQ(Find<QPushButton>(window, "cmdPrint").text(), QStringLiteral("&Print"));
         Find<QComboBox>(window, "cboPlayers").setCurrentText(QStringLiteral("2"));
         EXPECT_TRUE(Label("lblNeeded").endsWith(QStringLiteral("\n9 sheets of white paper")));
         for (int row = 1; row < int(Sheets().size()); ++row)
@@ -113,8 +114,14 @@ TEST_F(PrintEverythingTest, StopEndsItAheadOfTheNextPage) {
 TEST_F(PrintEverythingTest, WithoutAPrinterAllPagesBecomeOneFile) {
     printer.device.clear();
     EXPECT_FALSE(Show([this] {
+        EXPECT_EQ(Label("lblDestination"), QStringLiteral("No printer is set up: all pages go into one PDF file."));
+        EXPECT_EQ(Find<QPushButton>(window, "cmdPrint").text(), QStringLiteral("&Make PDF"));
         EXPECT_FALSE(IsShown("cmdOpen"));
         Print();
+        EXPECT_EQ(
+            Label("lblDestination"),
+            QStringLiteral("All 21 pages are now in one PDF file. Print it at actual size (100 %), never \"fit to "
+                           "page\": only then the pieces have their right size."));
         EXPECT_TRUE(IsShown("cmdOpen"));
         EXPECT_TRUE(IsShown("cmdShowFolder"));
     })) << "a file has gone to no printer";
