@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "platform/files/Files.h"
 #include "support/TileReader.h"
 #include "tools/NoKitFixture.h"
 
@@ -166,6 +167,31 @@ TEST_F(NoKitCommandTest, TheListNamesTheSheetsThatNeedNoKit) {
     for (const char* name :
          {"guide", "board", "standees", "dice", "stories", "box-wrap", "deeds", "news", "money", "rules", "bank"})
         EXPECT_TRUE((u'\n' + out).contains(u'\n' + QString::fromLatin1(name) + u' ')) << name;
+}
+
+TEST_F(NoKitCommandTest, APieceThatCannotBeMadeIsNamedAndTheFileOfBeforeStays) {
+    const struct {
+        const char* sheet;
+        const char* file;
+        const char* told;
+    } rows[] = {{"deeds", "/TempDeedBMP1.temp", "The deed of "}, {"money", "/MoneyImage.bmp", "The $100 note "}};
+    const QString pdf = WriteFile(QStringLiteral("out/all.pdf"), "of before");
+    for (const auto& row : rows) {
+        Files::SetFaultHook([&row](Files::Operation operation, const QString& path) {
+            const bool hit = operation == Files::Operation::Remove && path.endsWith(QLatin1String(row.file));
+            return hit ? std::optional(QStringLiteral("disk says no")) : std::nullopt;
+        });
+        EXPECT_NE(RunWithFamily({QStringLiteral("--no-kit"), QStringLiteral("-o"), pdf, QStringLiteral("--sheet"),
+                                 QString::fromLatin1(row.sheet)}),
+                  0);
+        Files::SetFaultHook({});
+        const QStringList lines = errors.split(u'\n').filter(QStringLiteral(" could not be made: "));
+        ASSERT_EQ(lines.size(), 1) << errors.toStdString();
+        EXPECT_TRUE(lines[0].contains(QLatin1String(row.told))) << lines[0].toStdString();
+        EXPECT_TRUE(lines[0].contains(QStringLiteral("disk says no"))) << lines[0].toStdString();
+        EXPECT_FALSE(errors.contains(pdf)) << "it isn't the file's fault: " << errors.toStdString();
+        EXPECT_EQ(ReadFile(pdf), "of before");
+    }
 }
 
 } // namespace
