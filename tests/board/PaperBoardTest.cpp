@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 // The board as paper has it: without the doors of a screen, with places for the decks.
 #include "board/basPositPaint.h"
+#include "board/basTAVL_news.h"
 #include "board/BoardPicture.h"
 #include "platform/paint/PictureForm.h"
 #include "platform/paint/Recording.h"
 #include "support/BoardFixture.h"
+#include "support/Ink.h"
 
 #include <set>
 
@@ -61,6 +63,19 @@ TEST_F(PaperBoardTest, TheScreensBoxesForMoneyAndTokensAreGone) {
     EXPECT_TRUE(colors.contains(qRgb(128, 128, 192))) << "a deck's place";
     EXPECT_FALSE(colors.contains(qRgb(128, 224, 128))) << "Money";
     EXPECT_FALSE(colors.contains(qRgb(219, 112, 147))) << "Tokens";
+}
+
+TEST_F(PaperBoardTest, TheTitleOfADeckStandsInTheMiddleOfItsPlace) {
+    for (const int deck : {0, 1})
+        basPosit::SetSpecialText(basTAVL::NewsTitleRecord(deck), QStringLiteral("HH HHHH"));
+    const QImage paper = Painted(false);
+    for (const basPosit::BoardRect& box : PlacesOf(16).box) {
+        const QRectF place = QRectF(QPointF(box.x1, box.y1) * 800, QPointF(box.x2, box.y2) * 800);
+        const QRect words = DarkBox(paper, place.adjusted(4, 4, -4, -4).toRect(), 60);
+        EXPECT_GT(words.height(), place.height() / 4);
+        EXPECT_NEAR(QRectF(words).center().x(), place.center().x(), 4);
+        EXPECT_NEAR(QRectF(words).center().y(), place.center().y(), 4);
+    }
 }
 
 TEST_F(PaperBoardTest, TheNextScreenHasThemAgain) {

@@ -64,6 +64,22 @@ protected:
     QString dialogTitle;
 };
 
+TEST_F(NewsTest, BarsBringTheCardsThatLieOutOfSight) {
+    Show(kGood, [](QDialog& form) {
+        form.resize(300, 260);
+        const QImage before = Shown(form, "picCards");
+        auto& across = Find<QScrollBar>(form, "hscrl");
+        auto& down = Find<QScrollBar>(form, "vscrl");
+        ASSERT_TRUE(across.isVisible());
+        ASSERT_TRUE(down.isVisible());
+        // Bars count in twips, fifteen a pixel.
+        across.setValue(40 * 15);
+        down.setValue(30 * 15);
+        const QSize left = before.size() - QSize(40, 30);
+        EXPECT_EQ(Shown(form, "picCards").copy(QRect(QPoint(0, 0), left)), before.copy(QRect(QPoint(40, 30), left)));
+    });
+}
+
 TEST_F(NewsTest, ButtonsBearTheirCaptions) {
     Edit(kGood, 0, [](QDialog& form) {
         EXPECT_EQ(form.windowTitle(), QStringLiteral("Edit News"));
