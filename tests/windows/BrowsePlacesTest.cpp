@@ -79,6 +79,14 @@ TEST_F(BrowsePlacesTest, DriveLettersAreComparedWithoutCase) {
     EXPECT_FALSE(IsOnGamesDrive(QStringLiteral("D:\\a.bmp"), QStringLiteral("C:\\Users\\kid\\My Games")));
 }
 
+TEST_F(BrowsePlacesTest, TheWayToANetworkFolderBeginsAtItsServer) {
+    EXPECT_EQ(ChainTo(QString(), QStringLiteral("\\\\castle\\pics\\2026")),
+              (QStringList{QStringLiteral("\\\\castle"), QStringLiteral("\\\\castle\\pics"),
+                           QStringLiteral("\\\\castle\\pics\\2026")}));
+    EXPECT_EQ(FolderAbove(QStringLiteral("\\\\castle\\pics")), QStringLiteral("\\\\castle"));
+    EXPECT_EQ(FolderAbove(QStringLiteral("\\\\castle")), QString());
+}
+
 TEST_F(BrowsePlacesTest, Edge_ANetworkPathCountsAsAnotherDriveWhateverItsFirstLetter) {
     EXPECT_FALSE(IsOnGamesDrive(QStringLiteral("\\\\castle\\pics\\a.bmp"), QStringLiteral("C:\\Users\\kid\\My Games")));
     EXPECT_FALSE(IsOnGamesDrive(QStringLiteral("\\\\castle\\pics\\a.bmp"), folder.path()));

@@ -14,9 +14,15 @@ constexpr int kFewColorsBits = 8;
 
 bool IsSeparator(QChar c) { return c == u'/' || c == u'\\'; }
 
+// "\\server", above which there is nothing.
+bool IsServer(const QString& sFolder) {
+    return sFolder.startsWith(QStringLiteral("\\\\")) && sFolder.indexOf(u'\\', 2) < 0;
+}
+
 // "/" and "C:\" end in a separator that belongs to them.
 bool IsRoot(const QString& sFolder) {
-    return sFolder == QStringLiteral("/") || (sFolder.size() <= 3 && sFolder.mid(1, 1) == QStringLiteral(":"));
+    return sFolder == QStringLiteral("/") || (sFolder.size() <= 3 && sFolder.mid(1, 1) == QStringLiteral(":")) ||
+           IsServer(sFolder);
 }
 
 QString WithoutLastSeparator(QString sFolder) {
