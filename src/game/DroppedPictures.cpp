@@ -35,7 +35,8 @@ Outcome OntoPlaces(const Game& game, const QStringList& files, const std::vector
     int tooMany = 0;
     for (const QString& file : files) {
         if (const QString why = whyNot(file); !why.isEmpty()) {
-            told.append(why);
+            // That the disk is full is said once.
+            if (!told.contains(why)) told.append(why);
         } else if (taken == places.size()) {
             ++tooMany;
         } else {

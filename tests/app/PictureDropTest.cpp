@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Pictures dragged from elsewhere onto the board, by the events that a desktop sends.
 #include "MainWindowFixture.h"
+#include "platform/files/Files.h"
 #include "platform/files/Folders.h"
 #include "support/PictureFiles.h"
 
@@ -135,6 +136,33 @@ TEST_F(PictureDropTest, WhatAMailProgramLaysAmongTemporaryFilesIsCopied) {
     Drop(*Dragged({photo}), MiddleOf(5));
     EXPECT_EQ(Space(5).Image.FullPath(), InGames(QStringLiteral("dog.png")));
     EXPECT_EQ(ReadFile(Space(5).Image.FullPath()), ReadFile(photo));
+}
+
+TEST_F(PictureDropTest, WhatIsGoneTomorrowAndCantBeCopiedIsToldAndNotTaken) {
+    QDir(folder.path()).mkdir(QStringLiteral("gone tomorrow"));
+    const QStringList photos{Photo(QStringLiteral("gone tomorrow/dog.png")),
+                             Photo(QStringLiteral("gone tomorrow/cat.png"))};
+    const Game before = TheGame();
+    Files::SetFaultHook([](Files::Operation operation, const QString&) {
+        return operation == Files::Operation::Copy ? std::optional(QStringLiteral("The cable was pulled"))
+                                                   : std::nullopt;
+    });
+    Drop(*Dragged({photos[0]}), MiddleOf(5));
+    ASSERT_EQ(desktop.boxes.size(), 1);
+    EXPECT_EQ(desktop.boxes[0].sText,
+              QStringLiteral("The following error occurred while \r\nattempting to copy the file \r\nnamed '") +
+                  photos[0] + QStringLiteral("' to '") + InGames(QStringLiteral("dog.png")) +
+                  QStringLiteral("'.\r\n\r\nThe cable was pulled\r\n\r\nPlease correct this problem and try again."));
+    EXPECT_EQ(TheGame(), before);
+    Folders::PretendFreeBytes(10);
+    Drop(*Dragged(photos), MiddleOf(5));
+    Folders::PretendFreeBytes(-1);
+    Files::SetFaultHook({});
+    ASSERT_EQ(desktop.boxes.size(), 2);
+    EXPECT_EQ(desktop.boxes[1].sText, QStringLiteral("We are unable to process files because your disk is full.\r\n"
+                                                     "Please make some space on your disk and try again."));
+    EXPECT_EQ(TheGame(), before);
+    EXPECT_FALSE(window->Commands().InHand().IsUnsaved());
 }
 
 TEST_F(PictureDropTest, TheAddressOfAPageIsToldAndNothingChanges) {

@@ -8,11 +8,13 @@
 #include "game/PieceImages.h"
 #include "pictures/PicturePart.h"
 #include "pieces/frmBMP.h"
+#include "platform/files/Files.h"
 #include "platform/pictures/LoadPicture.h"
 #include "support/PictureFiles.h"
 #include "windowing/PictureBox.h"
 #include "windows/EditWindowFixture.h"
 
+#include <QDir>
 #include <QDropEvent>
 #include <QMimeData>
 #include <QRubberBand>
@@ -130,6 +132,28 @@ TEST_F(LikenessDropTest, OnAToken) {
     form.ShowForm(kToken.iNumber);
     EXPECT_EQ(token.TextAll(), QStringLiteral("Dad"));
     EXPECT_TRUE(token.Image.FullPath().isEmpty());
+}
+
+TEST_F(LikenessDropTest, OneThatIsGoneTomorrowAndCantBeCopiedIsNotTaken) {
+    PieceImages::Of(TheGame(), kOnCorner).Let_FullPath(QString());
+    QDir(folder.path()).mkdir(QStringLiteral("gone tomorrow"));
+    const QString photo = WriteFile(QStringLiteral("gone tomorrow/cat.png"),
+                                    PictureFiles::Encoded(QImage(60, 40, QImage::Format_RGB32), "png"));
+    Files::SetFaultHook([](Files::Operation operation, const QString&) {
+        return operation == Files::Operation::Copy ? std::optional(QStringLiteral("The cable was pulled"))
+                                                   : std::nullopt;
+    });
+    frmEditCorner form(session);
+    window = &form;
+    InWindow([&] {
+        Drop(*Find<PictureBox>("picDest"), photo);
+        EXPECT_EQ(desktop.boxes.size(), 1);
+        Click("cmdOK");
+    });
+    form.ShowForm(kCorner, changed);
+    Files::SetFaultHook({});
+    EXPECT_TRUE(desktop.Texts().join(u'|').contains(QStringLiteral("The cable was pulled")));
+    EXPECT_EQ(PieceImages::Of(TheGame(), kOnCorner).FullPath(), QString());
 }
 
 TEST_F(LikenessDropTest, OnANote) {

@@ -5,6 +5,8 @@
 #include "document/basTAVL.h"
 #include "game/DealtPhotos.h"
 #include "game/PieceImages.h"
+#include "platform/files/Files.h"
+#include "platform/files/TemporaryPlaces.h"
 #include "services/basCommon.h"
 #include "support/EditorFixture.h"
 #include "support/PictureFiles.h"
@@ -164,6 +166,27 @@ TEST_F(PhotosTest, OneThatBreaksOffOutOfSightIsFoundOutBeforeItIsDealt) {
         Click(window, "cmdOK");
     }));
     EXPECT_EQ(PieceImages::Files(TheGame()).filter(QStringLiteral("broken")), QStringList());
+}
+
+TEST_F(PhotosTest, OneThatIsGoneTomorrowAndCantBeCopiedIsToldAndTheWindowStays) {
+    MakePhotos(2);
+    TemporaryPlaces::Pretend(Photos());
+    EXPECT_FALSE(InWindow([&](frmDealPhotos& window) {
+        Files::SetFaultHook([](Files::Operation operation, const QString& path) {
+            const bool hit = operation == Files::Operation::Copy && path.contains(QStringLiteral("place 1"));
+            return hit ? std::optional(QStringLiteral("The cable was pulled")) : std::nullopt;
+        });
+        Click(window, "cmdOK");
+        EXPECT_TRUE(window.isVisible());
+    }));
+    EXPECT_EQ(desktop.boxes.size(), 1);
+    EXPECT_TRUE(desktop.Texts().join(u'|').contains(QStringLiteral("place 1.png' to ")));
+    EXPECT_TRUE(desktop.Texts().join(u'|').contains(QStringLiteral("The cable was pulled")));
+    EXPECT_FALSE(session.CanUndo()) << "all or none of them";
+    Files::SetFaultHook({});
+    EXPECT_TRUE(InWindow([&](frmDealPhotos& window) { Click(window, "cmdOK"); }));
+    EXPECT_EQ(PieceImages::Files(TheGame()).filter(QStringLiteral("photos/")), QStringList());
+    EXPECT_EQ(PieceImages::Files(TheGame()).filter(QStringLiteral("place")).size(), 2);
 }
 
 TEST_F(PhotosTest, CancelAndAnEmptyFolderChangeNothing) {

@@ -294,12 +294,25 @@ bool frmDealPhotos::eventFilter(QObject* watched, QEvent* event) {
     return QDialog::eventFilter(watched, event);
 }
 
+bool frmDealPhotos::KeepDealt() {
+    const HourGlass working;
+    for (size_t i = 0; i < m_photos.size(); ++i) {
+        if (m_dealt[i] < 0) continue;
+        QString why;
+        const QString kept = KeepPicture(m_photos[i].sFile, why);
+        if (kept.isEmpty()) {
+            MsgBox(why, vbInformation);
+            return false;
+        }
+        m_photos[i].sFile = kept;
+    }
+    return true;
+}
+
 void frmDealPhotos::cmdOK_Click() try {
     // The others move up, which whoever deals wants to see first.
     if (TakeOutBroken()) return ChangeWhatIsDealt();
-    for (size_t i = 0; i < m_photos.size(); ++i) {
-        if (m_dealt[i] >= 0) m_photos[i].sFile = KeepPicture(m_photos[i].sFile);
-    }
+    if (!KeepDealt()) return;
     basPosit::PosSethDC(&m_session.MeasuringDevice());
     m_session.Do(DealtPhotos::Deal(m_session.InHand(), m_photos, m_places, chkNames->isChecked()));
     m_bChanged = true;

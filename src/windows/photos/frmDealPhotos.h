@@ -51,6 +51,8 @@ private:
     void ChangeWhatIsDealt();
     /// Looks at each photo that is dealt, also at those that never came into sight. True where one can't be shown.
     bool TakeOutBroken();
+    /// Those that are dealt and lie on disks that may go away are kept among the games. False after a message.
+    bool KeepDealt();
 
     Session& m_session;
     QString m_sFolder;

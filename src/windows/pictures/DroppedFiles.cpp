@@ -14,6 +14,7 @@
 #include "windows/pictures/KeptPicture.h"
 
 #include <QCoreApplication>
+#include <QHash>
 #include <QMimeData>
 #include <QUrl>
 
@@ -27,6 +28,32 @@ bool Take(Session& session, const DroppedPictures::Outcome& outcome) {
     if (!outcome.sTold.isEmpty()) MsgBox(outcome.sTold, vbInformation);
     return outcome.edit.has_value();
 }
+
+/// The files of a drop onto a piece, those on disks that may go away kept among the games.
+class KeptFiles {
+public:
+    KeptFiles(const QStringList& files, const PictureOwner& piece) {
+        const HourGlass working;
+        // What no piece will show isn't copied.
+        const bool shown = DroppedPictures::Takes(piece);
+        for (const QString& file : files) {
+            QString why = WhyNotShown(file);
+            const QString kept = shown && why.isEmpty() ? KeepPicture(file, why) : file;
+            m_files.append(kept.isEmpty() ? file : kept);
+            m_why.insert(m_files.last(), why);
+        }
+    }
+    const QStringList& Files() const { return m_files; }
+    /// Why one of them can't be taken; empty where it can.
+    QString WhyNot(const QString& sFile) const { return m_why.value(sFile); }
+    DroppedPictures::Refusal Refusal() const {
+        return [this](const QString& file) { return WhyNot(file); };
+    }
+
+private:
+    QStringList m_files;
+    QHash<QString, QString> m_why;
+};
 
 // Amid a drop, the program that it comes from waits for its end.
 void TellLater(const QString& sText, int iStyle) {
@@ -63,31 +90,24 @@ QStringList FilesOf(const QMimeData& data, const QString& sGameName) {
     return {};
 }
 
-QStringList Kept(const QStringList& files) {
-    const HourGlass working;
-    QStringList kept;
-    for (const QString& file : files)
-        kept.append(WhyNotShown(file).isEmpty() ? KeepPicture(file) : file);
-    return kept;
-}
-
 bool LayOnto(Session& session, const QStringList& files, const PictureOwner& piece) {
     if (files.isEmpty()) return false;
+    const KeptFiles kept(files, piece);
     basPosit::PosSethDC(&session.MeasuringDevice());
-    // What no piece will show isn't copied.
-    const QStringList kept = DroppedPictures::Takes(piece) ? Kept(files) : files;
-    return Take(session, DroppedPictures::Onto(session.InHand(), kept, piece, WhyNotShown));
+    return Take(session, DroppedPictures::Onto(session.InHand(), kept.Files(), piece, kept.Refusal()));
 }
 
-QString TakeFirst(Session& session, QStringList files, const PictureOwner& piece, bool& bOthers) {
+QString TakeFirst(Session& session, const QStringList& files, const PictureOwner& piece, bool& bOthers) {
     bOthers = false;
-    const auto first =
-        std::find_if(files.begin(), files.end(), [](const QString& file) { return WhyNotShown(file).isEmpty(); });
-    const QString taken = first == files.end() ? QString() : KeepPicture(*first);
-    if (first != files.end()) files.erase(first);
-    if (files.isEmpty()) return taken;
+    const KeptFiles kept(files, piece);
+    QStringList others = kept.Files();
+    const auto first = std::find_if(others.begin(), others.end(),
+                                    [&kept](const QString& file) { return kept.WhyNot(file).isEmpty(); });
+    const QString taken = first == others.end() ? QString() : *first;
+    if (first != others.end()) others.erase(first);
+    if (others.isEmpty()) return taken;
     basPosit::PosSethDC(&session.MeasuringDevice());
-    bOthers = Take(session, DroppedPictures::Behind(session.InHand(), Kept(files), piece, WhyNotShown));
+    bOthers = Take(session, DroppedPictures::Behind(session.InHand(), others, piece, kept.Refusal()));
     return taken;
 }
 

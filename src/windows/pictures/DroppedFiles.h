@@ -18,15 +18,12 @@ bool Holds(const QMimeData& data);
 /// a message where that fails, or where there is only the address of a page.
 QStringList FilesOf(const QMimeData& data, const QString& sGameName);
 
-/// Those on disks that may go away are kept among the games.
-QStringList Kept(const QStringList& files);
-
 /// Lays them onto a piece, and what is left over onto the free ones behind it, as one edit; what can't be taken is
-/// told. True when the game has changed.
+/// told. Those on disks that may go away are kept among the games. True when the game has changed.
 bool LayOnto(Session& session, const QStringList& files, const PictureOwner& piece);
 
 /// For an editor that has the piece in hand: takes the first picture among them for it, and lays the others onto the
 /// free pieces behind. Its path; empty, after it was told, where there is none. bOthers tells of the others.
-QString TakeFirst(Session& session, QStringList files, const PictureOwner& piece, bool& bOthers);
+QString TakeFirst(Session& session, const QStringList& files, const PictureOwner& piece, bool& bOthers);
 
 } // namespace DroppedFiles

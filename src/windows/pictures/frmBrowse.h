@@ -86,7 +86,6 @@ private:
     /// False, after telling why, when the picture ought to be in the My Games directory and can't be.
     bool CopyFileToRoot();
     void TellCopy(const QString& sCopyName, bool bRenamed);
-    void TellCopyFailure(const QString& sTarget, const QString& sError);
 
     void drvList_Change();
     void dirList_Change();

@@ -1,21 +1,12 @@
 // SPDX-License-Identifier: MIT
 // Pictures from disks that may go away are kept in the My Games directory.
 #include "platform/files/Files.h"
-#include "platform/files/Folders.h"
 #include "platform/text/NewLine.h"
 #include "services/basCommon.h"
 #include "services/basErrLog.h"
 #include "services/Desktop.h"
 #include "windows/pictures/frmBrowse.h"
-
-namespace {
-
-// What is left free once the half-made copy is gone again tells why there was no room for it.
-bool IsDiskFull(const QString& sSource, const QString& sFolder) {
-    return Folders::FreeBytes(sFolder) < double(Files::Size(sSource));
-}
-
-} // namespace
+#include "windows/pictures/KeptPicture.h"
 
 bool frmBrowse::CopyFileToRoot() try {
     if (m_sOriginalPath == m_sFilePath) return true;
@@ -29,7 +20,7 @@ bool frmBrowse::CopyFileToRoot() try {
     const QString target = basCommon::JoinPath(games, name);
     QString error;
     if (!Files::Copy(m_sFilePath, target, error)) {
-        TellCopyFailure(target, error);
+        MsgBox(WhyNotCopied(m_sFilePath, target, error), vbInformation);
         return false;
     }
     // The copy of a picture told to be bad is as bad.
@@ -51,18 +42,4 @@ void frmBrowse::TellCopy(const QString& sCopyName, bool bRenamed) {
                 QStringLiteral("Because the file name was already in use, it has been renamed to '") + sCopyName;
     }
     MsgBox(text);
-}
-
-void frmBrowse::TellCopyFailure(const QString& sTarget, const QString& sError) {
-    if (IsDiskFull(m_sFilePath, basCommon::GetMyGamesDirectory())) {
-        MsgBox(QStringLiteral("We are unable to process files because your disk is full.") + kNewLine +
-                   QStringLiteral("Please make some space on your disk and try again."),
-               vbInformation);
-        return;
-    }
-    MsgBox(QStringLiteral("The following error occurred while ") + kNewLine +
-               QStringLiteral("attempting to copy the file ") + kNewLine + QStringLiteral("named '") + m_sFilePath +
-               QStringLiteral("' to '") + sTarget + QStringLiteral("'.") + kNewLine + kNewLine + sError + kNewLine +
-               kNewLine + QStringLiteral("Please correct this problem and try again."),
-           vbInformation);
 }
