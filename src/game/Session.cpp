@@ -86,14 +86,27 @@ void Session::SetAutosaveDue(bool bDue) {
     }
 }
 
+// Where the disk won't let the earlier state be moved or deleted, the newest is written all the same: it is what would
+// be missed. The failure goes on, and says where the work lies.
 std::optional<GameFile::Refusal> Session::WriteAutosave() {
     SetAutosaveDue(true);
-    const Autosave::Rotated rotated = Autosave::Rotate();
     const QByteArray content = GameFile::Content();
-    if (auto refusal = GameFile::Write(Autosave::DataPath(), content)) return refusal;
-    Autosave::EndRotation(rotated, content);
-    SetAutosaveDue(false);
-    return std::nullopt;
+    auto rotated = Autosave::Rotated::DataBecameBackup;
+    std::optional<TavloraError> unmoved;
+    try {
+        rotated = Autosave::Rotate();
+    } catch (const TavloraError& error) {
+        unmoved = error;
+    }
+    const auto refusal = GameFile::Write(Autosave::DataPath(), content);
+    if (!refusal) {
+        Autosave::EndRotation(rotated, content);
+        SetAutosaveDue(false);
+    }
+    if (!unmoved) return refusal;
+    const QString where = Autosave::WhereItLies(content);
+    ErrRaise(unmoved->Number(),
+             unmoved->Description() + (where.isEmpty() ? where : QStringLiteral("\r\n\r\n") + where));
 }
 
 void Session::KeepOnDisk() {

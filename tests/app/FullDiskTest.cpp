@@ -104,6 +104,29 @@ TEST_F(FullDiskTest, DiskThatRefusesBetweenTwoEditsLosesNoWork) {
     }
 }
 
+// As on a disk that has become read-only for what is there, or where another program holds the files.
+TEST_F(FullDiskTest, DiskThatLetsNothingBeMovedOrDeletedKeepsTheNewestEditAndSaysSo) {
+    WriteGame(QStringLiteral("Mine.gam"), kSaved);
+    StartWithOneEdit();
+    Files::SetFaultHook([](Files::Operation operation, const QString&) -> std::optional<QString> {
+        if (operation == Files::Operation::Remove || operation == Files::Operation::Rename)
+            return QStringLiteral("Permission denied");
+        return std::nullopt;
+    });
+    try {
+        Edit(kUnsaved);
+    } catch (const TavloraError&) {
+        ErrTop("FullDiskTest!", "Edit");
+    }
+    Files::SetFaultHook({});
+    ASSERT_EQ(desktop.boxes.size(), 1);
+    EXPECT_TRUE(desktop.boxes[0].sText.contains(QStringLiteral("Permission denied")));
+    EXPECT_TRUE(desktop.boxes[0].sText.contains(QStringLiteral("Your changes are kept in My Games")));
+    EXPECT_TRUE(window->Commands().InHand().IsUnsaved());
+    Start();
+    EXPECT_EQ(TextOfSpace4(), kUnsaved);
+}
+
 #ifdef Q_OS_LINUX
 TEST_F(FullDiskTest, DiskThatIsFilledBetweenTwoEditsLosesNoWorkNeedsRoot) {
     const MountedDisk disk(PathOf(QStringLiteral("small")), 200 * 1024);

@@ -37,6 +37,15 @@ protected:
         desktop.boxes.clear();
         return text;
     }
+    /// What a failure that is raised would have a window say.
+    static QString Told(const std::function<void()>& action) {
+        try {
+            action();
+        } catch (const TavloraError& error) {
+            return basErrLog::ErrDismiss(error.Description());
+        }
+        return {};
+    }
     bool Mentions(const char* words) { return TextOfOnlyBox().contains(QString::fromLatin1(words)); }
     /// A minute goes by.
     void LetTheTimerRun() {
@@ -84,7 +93,7 @@ TEST_F(KeptWorkTest, AChangeThatWasRefusedIsWrittenAsSoonAsThereIsRoom) {
 
 TEST_F(KeptWorkTest, AChangeThatRaisedIsTriedAgainToo) {
     Rename(QStringLiteral("Oak"));
-    Refuse({Operation::Rename});
+    Refuse({Operation::Rename, Operation::Commit});
     EXPECT_EQ(ErrorOf([this] { Rename(QStringLiteral("Elm")); }), ErrNumber::kFileAccess);
     LetTheTimerRun();
     EXPECT_TRUE(IsWaiting());
@@ -92,6 +101,38 @@ TEST_F(KeptWorkTest, AChangeThatRaisedIsTriedAgainToo) {
     LetTheTimerRun();
     EXPECT_TRUE(Holds(autosave, "\"Elm\""));
     EXPECT_TRUE(Holds(backup, "\"Oak\""));
+}
+
+// As where another program holds one of the two files.
+TEST_F(KeptWorkTest, WhereTheEarlierStateCantBeMovedOrDeletedTheNewestIsKeptAllTheSame) {
+    Rename(QStringLiteral("Oak"));
+    Rename(QStringLiteral("Ash"));
+    for (const auto& [refused, ending, name] : {std::tuple(Operation::Remove, "~AutoSave.bak", "Elm"),
+                                                std::tuple(Operation::Rename, "~AutoSave.dat", "Fir")}) {
+        Refuse({refused}, QString::fromLatin1(ending));
+        const QString told = Told([&, text = name] { Rename(QString::fromLatin1(text)); });
+        EXPECT_TRUE(told.contains(QString::fromLatin1(ending))) << told.toStdString();
+        EXPECT_TRUE(told.contains(kReason)) << told.toStdString();
+        EXPECT_TRUE(told.endsWith(
+            QStringLiteral("Your changes are kept in My Games: the next start of Tavlora brings them back.")))
+            << told.toStdString();
+        EXPECT_TRUE(Holds(autosave, name)) << name;
+        EXPECT_TRUE(session.IsUnsaved());
+        EXPECT_FALSE(IsWaiting()) << "the disk holds the game as it stands";
+    }
+    EXPECT_TRUE(desktop.boxes.isEmpty()) << "the failure is told by whoever asked for the edit";
+}
+
+TEST_F(KeptWorkTest, WhereNothingCanBeMovedDeletedOrWrittenTheFailureSaysWhereTheWorkLies) {
+    Rename(QStringLiteral("Oak"));
+    Refuse({Operation::Remove, Operation::Rename, Operation::Commit});
+    const QString told = Told([this] { Rename(QStringLiteral("Elm")); });
+    EXPECT_TRUE(told.contains(kReason)) << told.toStdString();
+    EXPECT_TRUE(told.contains(QStringLiteral("Your latest changes are in this window only. What you had before them is "
+                                             "kept in My Games.")))
+        << told.toStdString();
+    EXPECT_TRUE(Holds(autosave, "\"Oak\""));
+    EXPECT_TRUE(IsWaiting());
 }
 
 TEST_F(KeptWorkTest, NothingWaitsWhenAllIsKeptOrGivenUp) {

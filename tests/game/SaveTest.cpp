@@ -313,13 +313,15 @@ TEST_F(SaveTest, FailureOfTheDiskNamesTheFile) {
     Edit(QStringLiteral("one"));
     Edit(QStringLiteral("two"));
     FailAt(Files::Operation::Remove);
-    EXPECT_EQ(told([this] { session.SetSomethingChanged(true); }), sentence(backup));
+    const QString kept =
+        QStringLiteral("\r\n\r\nYour changes are kept in My Games: the next start of Tavlora brings them back.");
+    EXPECT_EQ(told([this] { session.SetSomethingChanged(true); }), sentence(backup) + kept);
     EXPECT_EQ(told([this] { session.SetSomethingChanged(false); }), sentence(backup));
     FailAt(Files::Operation::Remove, 0, QStringLiteral("~AutoSave.dat"));
     EXPECT_EQ(told([this] { session.SetSomethingChanged(false); }), sentence(autosave));
     session.SetSomethingChanged(true);
     FailAt(Files::Operation::Rename);
-    EXPECT_EQ(told([this] { session.SetSomethingChanged(true); }), sentence(autosave));
+    EXPECT_EQ(told([this] { session.SetSomethingChanged(true); }), sentence(autosave) + kept);
 }
 
 TEST_F(SaveTest, CrashAtAnyMomentOfAnAutosaveLeavesTheLastStateOnDisk) {
