@@ -4,6 +4,7 @@
 #include "document/GameHost.h"
 #include "document/GameText.h"
 #include "document/Locale.h"
+#include "game/Autosave.h"
 #include "game/EarlierVersions.h"
 #include "game/GameFile.h"
 #include "game/PrintCaptions.h"
@@ -173,6 +174,20 @@ std::optional<Fault> Load(const QString& sFileName, Told& told) {
     return reading.fault;
 }
 
+// A game that goes on from the autosave was read by another run of the program. What that couldn't read of its file
+// must be kept as well when the game is saved.
+void NoteIfUnread(const QString& sGame) {
+    if (!Files::Exists(sGame)) return;
+    QString error;
+    const bool fits = Files::Size(sGame) <= GameBounds::kMaxGameSize;
+    const std::optional<QByteArray> bytes = fits ? Files::ReadAll(sGame, error) : std::nullopt;
+    if (bytes) {
+        const GameReading reading = ReadGame(*bytes, Game(), ToolsOfProgram());
+        if (!reading.fault && !reading.bCut) return;
+    }
+    Rescue::NoteUnread(sGame);
+}
+
 // Messages about pictures wait until the game is read, so that a game full of missing pictures brings one
 // box.
 std::optional<Fault> LoadWithQueuedMessages(const QString& sFileName, Told& told) {
@@ -211,6 +226,7 @@ void GameLoad(QString& sFileName, int& iResult) try {
         Rescue::NoteRead(sFileName);
     SetSpecialTextStringsForPrinting();
     if (IsAutosave(sFileName)) {
+        if (Autosave::IsOneOf(sFileName)) NoteIfUnread(told.header.sGameName);
         sFileName = told.header.sGameName;
     } else {
         host.SetSomethingChanged(false);

@@ -44,6 +44,15 @@ protected:
         EXPECT_EQ(Load(QString(path)), expected);
         return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
     }
+    /// The next start knows nothing of what this one has read.
+    void EditAndCrash() {
+        C_Space space = session.InHand().spaces[0];
+        space.SetText(QStringLiteral("Oak"));
+        session.Do(Edits::OfSpace(session.InHand(), 0, space));
+        Autosave::ResetForTest();
+        desktop.boxes.clear();
+    }
+    const QString rescued = InGames(QStringLiteral("Rescued Plain.gam"));
 };
 
 TEST_F(LargeGameTest, ATitleOfTenMillionLettersIsCutAndTold) {
@@ -69,6 +78,38 @@ TEST_F(LargeGameTest, TheWholeFileIsKeptByTheFirstSave) {
     ASSERT_TRUE(session.Save());
     EXPECT_NE(ReadFile(game), before);
     EXPECT_EQ(ReadFile(InGames(QStringLiteral("Rescued Plain.gam"))), before);
+}
+
+TEST_F(LargeGameTest, AFileThatCouldNotBeReadWholeIsKeptByTheFirstSaveAfterACrash) {
+    QStringList cut = PlainLines();
+    cut[1] = u'"' + QString(20'000, u'x') + QStringLiteral("\", \"Sub\", \"Day\"");
+    QStringList damaged = PlainLines();
+    damaged[9] = QStringLiteral("torn");
+    for (const QStringList& lines : {cut, damaged}) {
+        QString game = WriteGame(lines);
+        const QByteArray before = ReadFile(game);
+        session.SetGameName(game);
+        session.Load(game);
+        EditAndCrash();
+        Session next;
+        ASSERT_EQ(next.Recover(autosave), 0);
+        ASSERT_EQ(next.GameName(), game);
+        ASSERT_TRUE(next.Save());
+        EXPECT_NE(ReadFile(game), before);
+        EXPECT_EQ(ReadFile(rescued), before);
+        QFile::remove(rescued);
+    }
+}
+
+TEST_F(LargeGameTest, AWholeFileIsNotKeptAgainAfterACrash) {
+    QString game = WriteGame(PlainLines());
+    session.SetGameName(game);
+    ASSERT_EQ(session.Load(game), 0);
+    EditAndCrash();
+    Session next;
+    ASSERT_EQ(next.Recover(autosave), 0);
+    ASSERT_TRUE(next.Save());
+    EXPECT_FALSE(QFile::exists(rescued));
 }
 
 TEST_F(LargeGameTest, AGameFullOfLongTextsLoadsInTime) {
