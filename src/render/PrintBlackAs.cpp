@@ -22,10 +22,12 @@ Color Read() {
     return Color::Rgb(number >> 16 & kByte, number >> 8 & kByte, number & kByte);
 }
 
-void Write(Color color) {
+bool Write(Color color) {
     const int number = color.Red() << 16 | color.Green() << 8 | color.Blue();
     const QString digits = QStringLiteral("%1").arg(number, kDigits, kHexadecimal, QChar(u'0')).toUpper();
-    basCommon::WriteIniString(kKey, QStringLiteral("&H") + digits);
+    const QString value = QStringLiteral("&H") + digits;
+    basCommon::WriteIniString(kKey, value);
+    return basCommon::GetIniString(kKey) == value;
 }
 
 std::optional<Color> Chosen() {

@@ -14,7 +14,8 @@ constexpr qint32 kDefault = 0x0A0A0A;
 
 /// The colour kept; the default when there is none or it isn't a number, which is told.
 Color Read();
-void Write(Color color);
+/// False when the settings can't be written.
+bool Write(Color color);
 /// The user's own colour; nothing while the default holds.
 std::optional<Color> Chosen();
 

@@ -70,12 +70,16 @@ CorrectionOfPaper OfPrinter(const QString& sPrinter) {
     return [sPrinter](const PaperOfPage& paper) { return Of(sPrinter, paper); };
 }
 
-void Keep(const QString& sPrinter, const PaperOfPage& paper, const PageCorrection& correction) {
+bool Keep(const QString& sPrinter, const PaperOfPage& paper, const PageCorrection& correction) {
     constexpr int kDigits = 6;
     QStringList numbers;
     for (const double number : {correction.dblRightMm, correction.dblDownMm, correction.dblAcross, correction.dblDown})
         numbers.append(QString::number(number, 'g', kDigits));
-    basCommon::WriteIniString(KeyOf(sPrinter, paper), correction.IsNothing() ? QString() : numbers.join(u','));
+    const QString key = KeyOf(sPrinter, paper);
+    const QString value = correction.IsNothing() ? QString() : numbers.join(u',');
+    basCommon::WriteIniString(key, value);
+    // A disk that refuses it says nothing.
+    return basCommon::GetIniString(key) == value;
 }
 
 QString Words(const PageCorrection& correction) {

@@ -13,8 +13,8 @@ namespace PrinterCorrections {
 PageCorrection Of(const QString& sPrinter, const PaperOfPage& paper);
 CorrectionOfPaper OfPrinter(const QString& sPrinter);
 
-/// Forgets it where there is nothing to undo.
-void Keep(const QString& sPrinter, const PaperOfPage& paper, const PageCorrection& correction);
+/// Forgets it where there is nothing to undo. False when the settings can't be written: what held before holds on.
+bool Keep(const QString& sPrinter, const PaperOfPage& paper, const PageCorrection& correction);
 
 /// "0.4 mm right, 1.2 mm up, 0.2 % narrower": what is done to each sheet; empty for nothing.
 QString Words(const PageCorrection& correction);

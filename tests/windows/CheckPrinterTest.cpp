@@ -3,6 +3,7 @@
 
 #include "ConsoleFixture.h"
 
+#include "platform/files/Files.h"
 #include "services/PrinterCorrections.h"
 
 #include <QLineEdit>
@@ -36,6 +37,13 @@ protected:
     void TypeShift(const char* sideways, const char* upAndDown) {
         Type("txtSideways", sideways);
         Type("txtUpAndDown", upAndDown);
+    }
+
+    static void RefuseSettings() {
+        Files::SetFaultHook([](Files::Operation operation, const QString& path) {
+            const bool hit = operation == Files::Operation::OpenWrite && path.endsWith(QStringLiteral(".ini"));
+            return hit ? std::optional(QStringLiteral("No space left on device")) : std::nullopt;
+        });
     }
 
     CheckPrinter window;
@@ -120,6 +128,28 @@ TEST_F(CheckPrinterTest, ACorrectionIsClearedByAClick) {
     Show([this] { Press("cmdClear"); });
     EXPECT_TRUE(InForce().IsNothing());
     EXPECT_FALSE(Find<QWidget>(window, "cmdClear").isEnabled());
+}
+
+TEST_F(CheckPrinterTest, ACorrectionThatCannotBeKeptIsToldAndWhatWasTypedStays) {
+    Show([this] {
+        TypeShift("1 N", "0 N");
+        RefuseSettings();
+        Press("cmdCorrect");
+        EXPECT_EQ(Field("txtSideways"), QStringLiteral("1 N"));
+        EXPECT_FALSE(Label("lblTold").startsWith(QStringLiteral("Done"))) << qPrintable(Label("lblTold"));
+        EXPECT_TRUE(InForce().IsNothing());
+        Files::SetFaultHook({});
+        Press("cmdCorrect");
+        EXPECT_TRUE(Label("lblTold").startsWith(QStringLiteral("Done")));
+        RefuseSettings();
+        Press("cmdClear");
+        EXPECT_FALSE(Label("lblTold").contains(QStringLiteral("cleared"))) << qPrintable(Label("lblTold"));
+        EXPECT_FALSE(InForce().IsNothing());
+    });
+    Files::SetFaultHook({});
+    ASSERT_EQ(desktop.boxes.size(), 2);
+    EXPECT_TRUE(desktop.boxes[0].sText.startsWith(QStringLiteral("The correction could not be kept: ")));
+    EXPECT_TRUE(desktop.boxes[1].sText.startsWith(QStringLiteral("The correction could not be cleared: ")));
 }
 
 TEST_F(CheckPrinterTest, WithoutAPrinterThePageIsAFileThatCanBeOpened) {

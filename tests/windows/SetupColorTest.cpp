@@ -3,6 +3,7 @@
 #include "windows/print/frmColor.h"
 
 #include "kit/GameKit.h"
+#include "platform/files/Files.h"
 #include "render/PrintBlackAs.h"
 #include "services/basCommon.h"
 #include "support/GameFixture.h"
@@ -143,6 +144,23 @@ TEST_F(SetupColorTest, KeysGoToTheMarkOrToRedAtFirst) {
     EXPECT_EQ(focused(), QStringLiteral("chkUseDefaults"));
     basCommon::WriteIniString(kKey, QStringLiteral("&H01021E"));
     EXPECT_EQ(focused(), QStringLiteral("txtColor_0"));
+}
+
+TEST_F(SetupColorTest, AColorThatCannotBeKeptIsToldAndUsedAllTheSame) {
+    Open();
+    Default().click();
+    Enter(0, "200");
+    Files::SetFaultHook([](Files::Operation operation, const QString& path) {
+        const bool hit = operation == Files::Operation::OpenWrite && path.endsWith(QStringLiteral(".ini"));
+        return hit ? std::optional(QStringLiteral("No space left on device")) : std::nullopt;
+    });
+    Click(*form, "cmdOK");
+    Files::SetFaultHook({});
+    EXPECT_FALSE(form->isVisible());
+    EXPECT_EQ(form->ChosenColor(), Color::Rgb(200, 10, 10));
+    EXPECT_EQ(desktop.Texts(),
+              QStringList{QStringLiteral("The color is used from now on, but could not be kept for the next start: the "
+                                         "disk is full, or My Games can't be written to.")});
 }
 
 TEST_F(SetupColorTest, NoBoxThatHoldsNoColourIsDroppedByOk) {

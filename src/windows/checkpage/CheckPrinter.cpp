@@ -141,7 +141,13 @@ void CheckPrinter::cmdCorrect_Click() try {
             vbExclamation);
         return;
     }
-    PrinterCorrections::Keep(ThePrinter().DeviceName(), Paper(), undone);
+    if (!PrinterCorrections::Keep(ThePrinter().DeviceName(), Paper(), undone)) {
+        MsgBox(QStringLiteral("The correction could not be kept: the disk is full, or My Games can't be written to. "
+                              "Sheets come out as before. What you typed stays here, so that you can click "
+                              "\"Correct\" again."),
+               vbExclamation);
+        return;
+    }
     ForgetReading();
     ShowPrinter();
     m_told->setText(QStringLiteral("Done. To be sure, print the page twice on a new sheet: both scales now read 0 N."));
@@ -150,7 +156,12 @@ void CheckPrinter::cmdCorrect_Click() try {
 }
 
 void CheckPrinter::cmdClear_Click() try {
-    PrinterCorrections::Keep(ThePrinter().DeviceName(), Paper(), {});
+    if (!PrinterCorrections::Keep(ThePrinter().DeviceName(), Paper(), {})) {
+        MsgBox(QStringLiteral("The correction could not be cleared: the disk is full, or My Games can't be written to. "
+                              "Sheets are corrected as before."),
+               vbExclamation);
+        return;
+    }
     ForgetReading();
     ShowPrinter();
     m_told->setText(QStringLiteral("The correction is cleared. What was read on an earlier page no longer holds."));

@@ -192,9 +192,13 @@ void frmColor::cmdOK_Click() try {
         return;
     }
     m_lColor = picColorSample->BackColor();
-    PrintBlackAs::Write(m_lColor);
+    const bool kept = PrintBlackAs::Write(m_lColor);
     m_bOK = true;
     hide();
+    if (!kept)
+        MsgBox(QStringLiteral("The color is used from now on, but could not be kept for the next start: the disk is "
+                              "full, or My Games can't be written to."),
+               vbExclamation);
 } catch (...) {
     ErrTop("frmColor!", "cmdOK_Click");
 }
