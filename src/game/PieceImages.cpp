@@ -2,6 +2,9 @@
 #include "game/PieceImages.h"
 
 #include "document/basTAVL.h"
+#include "platform/files/Files.h"
+
+#include <algorithm>
 
 namespace PieceImages {
 
@@ -58,6 +61,12 @@ QStringList Files(const Game& game) {
         if (!file.isEmpty() && !files.contains(file)) files.append(file);
     }
     return files;
+}
+
+bool Shows(const Game& game, const QString& sFile) {
+    const QStringList files = Files(game);
+    return std::any_of(files.begin(), files.end(),
+                       [&sFile](const QString& file) { return ::Files::IsSameFile(file, sFile); });
 }
 
 void MoveTo(C_Image& image, const QString& sPath) {

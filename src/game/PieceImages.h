@@ -24,6 +24,8 @@ C_Image& Of(Game& game, const PictureOwner& piece);
 
 /// Complete paths of all pictures that pieces show, each once.
 QStringList Files(const Game& game);
+/// Whether a file, by whichever name, is one of these: nothing that is made may take its place.
+bool Shows(const Game& game, const QString& sFile);
 
 /// The same part of a picture that lies elsewhere by now.
 void MoveTo(C_Image& image, const QString& sPath);

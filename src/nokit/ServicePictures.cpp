@@ -4,6 +4,7 @@
 #include "board/basPositTables.h"
 #include "board/basTAVL_news.h"
 #include "document/basTAVL.h"
+#include "game/PieceImages.h"
 #include "kit/DeedCards.h"
 #include "kit/MoneySheet.h"
 #include "kit/NewsSheet.h"
@@ -65,6 +66,10 @@ private:
         Marks(canvas, piece.inches);
         m_pieces.push_back(piece);
         const QString path = basCommon::JoinPath(m_folder, piece.sFile + QStringLiteral(".png"));
+        if (PieceImages::Shows(TheGame(), path)) {
+            m_error = QStringLiteral("'%1.png' is a picture of the game and would be overwritten").arg(piece.sFile);
+            return false;
+        }
         return SavePicture(form.Take(), path, m_error);
     }
 

@@ -6,6 +6,7 @@
 #include "check/Checks.h"
 #include "check/FindingWords.h"
 #include "game/GameFile.h"
+#include "game/PieceImages.h"
 #include "game/Session.h"
 #include "kit/GameKit.h"
 #include "kit/PieceDrawing.h"
@@ -57,6 +58,21 @@ std::vector<Finding> FindingsInHand(const PrintArguments& arguments) {
 
 QString FindPicture(const QString& sName, const PictureOwner& owner) {
     return PicturePlaces::FullFor(sName, owner, KitInUse());
+}
+
+// All files that are to be made, but for those of a printing service, which looks itself.
+QStringList OutputsOf(const PrintArguments& arguments, const QStringList& sheets) {
+    QStringList outputs{arguments.sOutput, arguments.sBoard, arguments.sPieceFile, arguments.sPack};
+    const auto add = [&outputs](const QString& sFolder, const QString& sName) {
+        if (!sFolder.isEmpty())
+            outputs.append(basCommon::JoinPath(Console::CompletePath(sFolder), sName + QStringLiteral(".png")));
+    };
+    for (const QString& sheet : sheets)
+        add(arguments.sPages, sheet);
+    for (const PrintPiece& piece : PrintPieces())
+        add(arguments.sPieces, piece.sName);
+    outputs.removeAll(QString());
+    return outputs;
 }
 
 // Reads the user's settings and pictures where the window program has them, and keeps everything that is
@@ -181,6 +197,15 @@ QString PrintCommand::GameOf(const QString& sGame, const QString& sUnpackedFolde
     return game.value_or(QString());
 }
 
+bool PrintCommand::WouldReplaceAPicture(const PrintArguments& arguments, const QStringList& sheets) {
+    for (const QString& output : OutputsOf(arguments, sheets)) {
+        if (!PieceImages::Shows(TheGame(), Console::CompletePath(output))) continue;
+        Complain(QStringLiteral("'%1' is a picture of the game and would be overwritten").arg(output));
+        return true;
+    }
+    return false;
+}
+
 bool PrintCommand::LoadGame(const QString& sGame) {
     QString name = Console::CompletePath(sGame);
     int result = 0;
@@ -197,6 +222,7 @@ int PrintCommand::PrintGame(const PrintArguments& arguments) {
     basPosit::PosInit();
     if (!LoadGame(arguments.sGame)) return kFailed;
     if (arguments.bCheck && !arguments.Makes()) return CheckInHand(arguments);
+    if (WouldReplaceAPicture(arguments, sheets)) return kWrongUsage;
     WarnOfInHand(arguments, arguments.PrintsKit() ? sheets : QStringList());
     if (!arguments.sBoard.isEmpty() && !PaintBoard(arguments.sBoard, arguments.iBoardSize)) return kFailed;
     basPosit::PosSethDC(&session.MeasuringDevice());

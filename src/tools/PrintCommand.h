@@ -32,6 +32,8 @@ private:
     /// The game's path, which for a packed game is what was unpacked into that folder; empty when it can't be unpacked.
     QString GameOf(const QString& sGame, const QString& sUnpackedFolder);
     int PrintGame(const PrintArguments& arguments);
+    /// Tells of a file that is to be made and that the game shows: the family may have no other of it.
+    bool WouldReplaceAPicture(const PrintArguments& arguments, const QStringList& sheets);
     /// Tells what there is to mend. kFailed when there is something.
     int CheckInHand(const PrintArguments& arguments);
     /// Warns of what would come out badly on these sheets, or was to be checked, and isn't told in another way.
