@@ -150,3 +150,7 @@ QStringList PackReader::Lines(const std::function<QString(const QString& sEntry)
 std::optional<QByteArray> PackReader::Read(const QString& sEntry) const {
     return m_zip.Read(m_places.value(PackNames::Key(sEntry)));
 }
+
+bool PackReader::Read(const QString& sEntry, const ZipReader::Taker& take) const {
+    return m_zip.Read(m_places.value(PackNames::Key(sEntry)), take);
+}

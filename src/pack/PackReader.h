@@ -24,6 +24,8 @@ public:
     const QStringList& Files() const { return m_files; }
     /// Nothing when its bytes don't agree with what the archive says.
     std::optional<QByteArray> Read(const QString& sEntry) const;
+    /// The same in pieces; false when the bytes don't agree, which is known only at their end, or it was stopped.
+    bool Read(const QString& sEntry, const ZipReader::Taker& take) const;
 
 private:
     explicit PackReader(ZipReader zip) : m_zip(std::move(zip)) {}

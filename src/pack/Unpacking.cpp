@@ -40,15 +40,24 @@ bool MakeFolders(const PackReader& reader, const QString& sFolder, QString& sErr
     return true;
 }
 
+// In pieces, as a picture may be larger than there is memory for. It can be had again from the packed game at any time,
+// so the disk isn't waited for.
+bool WriteFile(const PackReader& reader, const QString& sEntry, const QString& sPath, QString& sError) {
+    BinaryFile file;
+    if (!file.OpenNew(sPath, sError)) return false;
+    bool written = true;
+    const bool whole = reader.Read(sEntry, [&](const QByteArray& piece) {
+        file.PutBytes(piece);
+        written = file.WasWritten(sError);
+        return written;
+    });
+    if (written && !whole) sError = QStringLiteral("a part of it is missing or was changed on its way");
+    return written && whole;
+}
+
 bool WriteFiles(const PackReader& reader, const QString& sFolder, QString& sError) {
     for (const QString& entry : reader.Files()) {
-        const std::optional<QByteArray> bytes = reader.Read(entry);
-        if (!bytes) {
-            sError = QStringLiteral("a part of it is missing or was changed on its way");
-            return false;
-        }
-        // It can be had again from the packed game at any time, so the disk isn't waited for.
-        if (!Files::WriteNew(basCommon::JoinPath(sFolder, entry), *bytes, sError)) return false;
+        if (!WriteFile(reader, entry, basCommon::JoinPath(sFolder, entry), sError)) return false;
     }
     return true;
 }

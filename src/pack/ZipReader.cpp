@@ -3,6 +3,8 @@
 
 #include <zip.h>
 
+#include <algorithm>
+
 /// The library's archive and the bytes it reads.
 struct ZipReader::Archive {
     QByteArray bytes;
@@ -80,15 +82,29 @@ ZipReader::Entry ZipReader::EntryAt(qsizetype iEntry) const {
 }
 
 std::optional<QByteArray> ZipReader::Read(qsizetype iEntry) const {
-    const Entry& entry = m_entries.at(iEntry);
-    zip_file_t* const file = zip_fopen_index(m_archive->zip, zip_uint64_t(iEntry), 0);
-    if (!file) return std::nullopt;
-    QByteArray bytes(entry.size, Qt::Uninitialized);
-    const zip_int64_t read = zip_fread(file, bytes.data(), zip_uint64_t(bytes.size()));
-    // Only behind the last byte is the checksum looked at; and more than what was said is as wrong as less.
-    char more = 0;
-    const zip_int64_t behind = zip_fread(file, &more, 1);
-    const bool well = zip_fclose(file) == 0 && read == entry.size && behind == 0;
+    QByteArray bytes;
+    bytes.reserve(m_entries.at(iEntry).size);
+    const bool well = Read(iEntry, [&bytes](const QByteArray& piece) {
+        bytes += piece;
+        return true;
+    });
     if (!well) return std::nullopt;
     return bytes;
+}
+
+bool ZipReader::Read(qsizetype iEntry, const Taker& take) const {
+    constexpr qint64 kPiece = qint64(1) << 20;
+    zip_file_t* const file = zip_fopen_index(m_archive->zip, zip_uint64_t(iEntry), 0);
+    if (!file) return false;
+    qint64 left = m_entries.at(iEntry).size;
+    bool well = true;
+    while (well && left > 0) {
+        QByteArray piece(std::min(left, kPiece), Qt::Uninitialized);
+        well = zip_fread(file, piece.data(), zip_uint64_t(piece.size())) == piece.size() && take(piece);
+        left -= piece.size();
+    }
+    // Only behind the last byte is the checksum looked at; and more than what was said is as wrong as less.
+    char more = 0;
+    const bool ends = well && zip_fread(file, &more, 1) == 0;
+    return zip_fclose(file) == 0 && ends;
 }

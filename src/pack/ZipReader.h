@@ -5,6 +5,7 @@
 #include <QList>
 #include <QString>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -30,6 +31,11 @@ public:
     const QList<Entry>& Entries() const { return m_entries; }
     /// The entry's bytes, whose number and checksum agree with what the archive says; nothing when they don't.
     std::optional<QByteArray> Read(qsizetype iEntry) const;
+    /// Takes a piece of an entry's bytes; false stops it.
+    using Taker = std::function<bool(const QByteArray& piece)>;
+    /// The same in pieces of a megabyte, so that no entry is in memory as a whole. False when the bytes don't agree,
+    /// which is known only at their end, or it was stopped.
+    bool Read(qsizetype iEntry, const Taker& take) const;
 
 private:
     struct Archive;

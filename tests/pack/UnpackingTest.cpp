@@ -102,6 +102,15 @@ TEST_F(UnpackingTest, AGameThatIsCalledAsTheAutosaveIsDoesNotTakeItsPlace) {
     EXPECT_EQ(TheGame().spaces[0].Image.FullPath(), out + QStringLiteral("/_~AutoSave.dat/Pictures/a.png"));
 }
 
+TEST_F(UnpackingTest, APictureOfManyPiecesComesOutWhole) {
+    ZipBuilder zip = Plain();
+    QByteArray& picture = zip.entries[2].bytes;
+    picture += QByteArray(5 << 20, 'p') + QByteArray(1234, 'q');
+    const QByteArray expected = picture;
+    ASSERT_FALSE(Unpacked(zip.Bytes()).isEmpty()) << error.toStdString();
+    EXPECT_TRUE(ReadFile(out + QStringLiteral("/Plain/Pictures/a.png")) == expected);
+}
+
 TEST_F(UnpackingTest, WhatTheGameDoesNotNameStaysInside) {
     ZipBuilder zip = Plain();
     zip.Add("Pictures/run.desktop", "[Desktop Entry]");

@@ -43,6 +43,27 @@ TEST(ZipTest, WhatWasPutInComesOut) {
     EXPECT_EQ(zip->Read(2), QByteArray());
 }
 
+TEST(ZipTest, AnEntryCanBeHadInPiecesSoThatItIsNeverInMemoryAsAWhole) {
+    constexpr qsizetype kMegabyte = 1 << 20;
+    QByteArray content(7 * kMegabyte + 5, 'a');
+    content[3 * kMegabyte] = 'b';
+    ZipWriter writer;
+    writer.Add(QStringLiteral("large"), Method::Deflated, content);
+    QString error;
+    const std::optional<ZipReader> zip = ZipReader::Open(writer.Finish(error).value_or(QByteArray()));
+    ASSERT_TRUE(zip) << error.toStdString();
+    QByteArray together;
+    EXPECT_TRUE(zip->Read(0, [&](const QByteArray& piece) {
+        EXPECT_LE(piece.size(), kMegabyte);
+        together += piece;
+        return true;
+    }));
+    EXPECT_TRUE(together == content);
+    int pieces = 0;
+    EXPECT_FALSE(zip->Read(0, [&](const QByteArray&) { return ++pieces < 3; })) << "it was stopped";
+    EXPECT_EQ(pieces, 3);
+}
+
 TEST(ZipTest, TheSameEntriesAlwaysGiveTheSameBytes) {
     QString error;
     const std::optional<QByteArray> first = Archive(error);
