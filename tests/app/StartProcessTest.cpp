@@ -3,9 +3,11 @@
 #include "platform/files/Folders.h"
 #include "support/TestFixture.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QLockFile>
 #include <QProcess>
 
 namespace {
@@ -110,6 +112,26 @@ TEST_F(StartProcessTest, LockOfAnotherComputerIsAskedAbout) {
     EXPECT_EQ(started.lines.filter(QStringLiteral("title: ")).size(), 1);
     EXPECT_FALSE(lock.exists()) << "from then on it was ours";
     EXPECT_TRUE(Run(kPlainStart).Boxes().isEmpty());
+}
+
+TEST_F(StartProcessTest, HolderOfThisComputerThatDoesNotAnswerIsAskedAbout) {
+    MakeGames();
+    // A program that hangs: it holds the file and hears nobody.
+    QLockFile held(InGames(QStringLiteral(".tavlora.lock")));
+    held.setStaleLockTime(0);
+    ASSERT_TRUE(held.tryLock());
+    const Seen refused = Run(kPlainStart);
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_EQ(refused.lines,
+              QStringList{QStringLiteral("box: Tavlora is already running, but it does not answer. Please close it "
+                                         "first. The file '%1' says that it runs here as process %2. Two that work in "
+                                         "one folder write over each other's changes. Start anyway?")
+                              .arg(held.fileName())
+                              .arg(QCoreApplication::applicationPid())});
+    const Seen started = Run({QStringLiteral("yes"), QStringLiteral("0")});
+    EXPECT_EQ(started.status, 0);
+    EXPECT_EQ(started.lines.filter(QStringLiteral("title: ")).size(), 1);
+    EXPECT_TRUE(QFile::exists(held.fileName())) << "it is still the other's";
 }
 
 TEST_F(StartProcessTest, LockThatNamesNobodyIsPassedOver) {

@@ -9,9 +9,11 @@
 #include "platform/files/Folders.h"
 #include "support/PictureFiles.h"
 #include "support/TestPrinter.h"
+#include "windows/pictures/DroppedFiles.h"
 
 #include <QListWidget>
 #include <QMap>
+#include <QMimeData>
 #include <QSlider>
 #include <QTimer>
 
@@ -163,9 +165,12 @@ protected:
             EXPECT_EQ(printer.ended.size(), ++sheets) << sheet.sName << desktop.Texts().join(u'\n').toStdString();
         }
     }
-    void ExpectTheirsUntouched(const char* when) {
+    void ExpectTheirs(const char* when) {
         for (auto file = m_theirs.cbegin(); file != m_theirs.cend(); ++file)
             EXPECT_EQ(ReadFile(InGames(file.key())), file.value()) << file.key().toStdString() << ' ' << when;
+    }
+    void ExpectTheirsUntouched(const char* when) {
+        ExpectTheirs(when);
         std::cout << "[ COMPARED ] " << m_theirs.size() << " files " << when << '\n';
         EXPECT_FALSE(QFileInfo::exists(PathOf(QStringLiteral("data/Trash")))) << when;
         EXPECT_FALSE(HasFile(QStringLiteral("Removed"))) << when;
@@ -208,35 +213,90 @@ TEST_F(UserFilesTest, NothingOfTheUsersIsEverOverwrittenDeletedOrMoved) {
     EXPECT_EQ(desktop.Texts(), QStringList());
 }
 
+TEST_F(UserFilesTest, WhatIsDroppedPastedRescuedOrSavedAsAnotherTakesNobodysPlace) {
+    WriteGame(QStringLiteral("Mine.gam"), QStringLiteral("Desk"));
+    SetIni(QStringLiteral("GameName"), InGames(QStringLiteral("Mine.gam")));
+    for (const char* folderName : {"Pictures of Mine", "Removed", "Printed"})
+        QDir(InGames(QString())).mkdir(QString::fromLatin1(folderName));
+    for (const char* name : {"dog.png", "Rescued Mine.gam", "Rescued Mine 2.gam", "Pictures of Mine/Picture.png",
+                             "Removed/dog.png", "Printed/dog.png", "Other.gam.bak", "Other.png"})
+        Put(QString::fromLatin1(name));
+    Start();
+    Session& session = window->Commands().InHand();
+
+    QDir(folder.path()).mkdir(QStringLiteral("gone tomorrow"));
+    const QString mailed = WriteFile(QStringLiteral("gone tomorrow/dog.png"), OwnPicture());
+    EXPECT_TRUE(DroppedFiles::LayOnto(session, {mailed}, {PictureOwner::Kind::Space, 5}));
+    EXPECT_EQ(basTAVL::g_oSpaces(5).Image.FullPath(), InGames(QStringLiteral("dog(1).png")));
+    QMimeData copied;
+    copied.setImageData(PictureFiles::Quarters(30, 30));
+    const QStringList pasted = DroppedFiles::FilesOf(copied, session.GameName());
+    EXPECT_EQ(pasted, QStringList{InGames(QStringLiteral("Pictures of Mine/Picture(1).png"))});
+    EXPECT_TRUE(DroppedFiles::LayOnto(session, pasted, {PictureOwner::Kind::Space, 6}));
+    ExpectTheirs("after a drop and a paste");
+
+    Files::SetFaultHook([](Files::Operation operation, const QString& path) {
+        const bool hit = operation == Files::Operation::OpenWrite && path.endsWith(QStringLiteral("/Mine.gam"));
+        return hit ? std::optional(QStringLiteral("Permission denied")) : std::nullopt;
+    });
+    EXPECT_FALSE(session.Save());
+    session.SetSomethingChanged(false);
+    Files::SetFaultHook({});
+    EXPECT_TRUE(HasFile(QStringLiteral("Rescued Mine 3.gam")));
+    ExpectTheirs("after a rescue");
+
+    session.SetGameName(InGames(QStringLiteral("Other.gam")));
+    EXPECT_TRUE(session.Save());
+    ExpectTheirs("after a save under another name");
+}
+
 class AwayTest : public AppTest {
 protected:
+    /// A game with a picture in a folder that isn't there.
+    void StartWithoutTheDog() {
+        WriteGame(QStringLiteral("Ours.gam"), QStringLiteral("Desk"));
+        QByteArray game = ReadFile(InGames(QStringLiteral("Ours.gam")));
+        const QByteArray without = "4, \"Desk\", \"\", 0, 0, 0";
+        ASSERT_TRUE(game.contains(without));
+        game.replace(without, "4, \"Desk\", \"holiday/dog.png\", 50, 50, 1");
+        WriteFile(QStringLiteral("games/Ours.gam"), game);
+        Start(QStringLiteral("tavlora"), QStringLiteral("false"), InGames(QStringLiteral("Ours.gam")));
+    }
     void ComeBackToTheWindow() {
         QEvent event(QEvent::ActivationChange);
         QApplication::sendEvent(window.get(), &event);
     }
+    QImage Board() const { return window->View().Board().Image().copy(); }
+    void BringTheDog() const {
+        QDir(InGames(QString())).mkdir(QStringLiteral("holiday"));
+        QImage dog(100, 100, QImage::Format_RGB32);
+        dog.fill(Qt::red);
+        WriteFile(QStringLiteral("games/holiday/dog.png"), PictureFiles::Encoded(dog, "png"));
+    }
 };
 
 TEST_F(AwayTest, APictureShowsAgainWhenItsFolderIsBack) {
-    WriteGame(QStringLiteral("Ours.gam"), QStringLiteral("Desk"));
-    QByteArray game = ReadFile(InGames(QStringLiteral("Ours.gam")));
-    const QByteArray without = "4, \"Desk\", \"\", 0, 0, 0";
-    ASSERT_TRUE(game.contains(without));
-    game.replace(without, "4, \"Desk\", \"holiday/dog.png\", 50, 50, 1");
-    WriteFile(QStringLiteral("games/Ours.gam"), game);
-    Start(QStringLiteral("tavlora"), QStringLiteral("false"), InGames(QStringLiteral("Ours.gam")));
+    StartWithoutTheDog();
     ComeBackToTheWindow();
-    const QImage board = window->View().Board().Image().copy();
+    const QImage board = Board();
     const qsizetype told = desktop.boxes.size();
-
-    QDir(InGames(QString())).mkdir(QStringLiteral("holiday"));
-    QImage dog(100, 100, QImage::Format_RGB32);
-    dog.fill(Qt::red);
-    WriteFile(QStringLiteral("games/holiday/dog.png"), PictureFiles::Encoded(dog, "png"));
+    BringTheDog();
     ComeBackToTheWindow();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return window->View().Board().Image() != board; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Board() != board; }));
     EXPECT_EQ(basTAVL::g_oSpaces(4).Image.Zoom(), 1);
     EXPECT_FALSE(window->Commands().InHand().IsUnsaved());
     EXPECT_EQ(desktop.boxes.size(), told);
+}
+
+// A stick is brought while the window stays in front: nothing tells it but its own looking.
+TEST_F(AwayTest, APictureShowsAgainByItselfWhileTheWindowStaysInFront) {
+    StartWithoutTheDog();
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    const QImage board = Board();
+    BringTheDog();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Board() != board; }, 15'000));
+    EXPECT_FALSE(window->Commands().InHand().IsUnsaved());
 }
 
 } // namespace

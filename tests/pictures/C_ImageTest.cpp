@@ -26,6 +26,17 @@ TEST_F(C_ImageTest, Edge_ImageWithoutPathWritesTwoQuotesAndThreeZeros) {
     EXPECT_TRUE(desktop.boxes.isEmpty());
 }
 
+TEST_F(C_ImageTest, InitWithAGoodPictureTellsNothingOfTheBadOneBefore) {
+    image.Init(PathOf(QStringLiteral("gone.bmp")), QStringLiteral("Space"), 7);
+    EXPECT_EQ(desktop.Texts(), QStringList{Missing(PathOf(QStringLiteral("gone.bmp")))});
+    desktop.boxes.clear();
+    const QString good = Make(QStringLiteral("good.bmp"));
+    image.Init(good, QStringLiteral("Space"), 7);
+    EXPECT_EQ(desktop.Texts(), QStringList());
+    EXPECT_EQ(image.FullPath(), good);
+    EXPECT_EQ(image.BadPath(), QString());
+}
+
 TEST_F(C_ImageTest, Edge_ChangedPathClearsZoomAndCentresEvenWhenFileIsMissing) {
     image.Let_FullPath(Make(QStringLiteral("a.bmp")));
     image.Let_Zoom(7);
