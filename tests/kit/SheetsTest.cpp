@@ -43,8 +43,9 @@ bool HasKey(const Sheet& sheet, Kit kit) {
 
 // The list and the question speak of the same stock; a paper that isn't used has neither.
 bool IsAskedFor(const Paper& paper) {
-    if (!*paper.sStock) return true;
-    return QString::fromLatin1(paper.sPrompt).simplified().contains(QString::fromLatin1(paper.sStock));
+    const QStringList asked = QString::fromLatin1(paper.sPrompt).split(u' ');
+    return std::ranges::all_of(QString::fromLatin1(paper.sStock).split(u' ', Qt::SkipEmptyParts),
+                               [&](const QString& word) { return asked.contains(word); });
 }
 
 // What a row lacks, in words.
@@ -65,7 +66,7 @@ QStringList LackingIn(const Sheet& sheet) {
         want(!needed.isEmpty() && needed.boundedTo(most) == needed, "inches that a page has");
     }
     want(sheet.paper && *sheet.paper->white.sStock, "a stock for the list");
-    want(sheet.paper && IsAskedFor(sheet.paper->white) && IsAskedFor(sheet.paper->coloured),
+    want(!sheet.paper || (IsAskedFor(sheet.paper->white) && IsAskedFor(sheet.paper->coloured)),
          "a question for its stock");
     want(sheet.paint, "a routine that paints it");
     lacking.removeDuplicates();
