@@ -6,6 +6,7 @@
 #include "support/PdfReader.h"
 
 #include <QListWidget>
+#include <QPushButton>
 
 namespace {
 

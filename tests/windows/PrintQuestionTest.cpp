@@ -143,7 +143,7 @@ TEST_F(PrintQuestionTest, WithoutAKitItIsAskedAsWell) {
     TheGame().spaces[20].Image.Init(PathOf(QStringLiteral("away.png")), QStringLiteral("Space"), 20);
     desktop.boxes.clear();
     ModalSteps person;
-    person.In("PrintWithoutKit", [this](QWidget& window) {
+    person.In("PrintWithoutKit", [](QWidget& window) {
         Click(window, "cmdMake");
         EXPECT_TRUE(Find<QLabel>(window, "lblPage").text().isEmpty()) << "nothing is made";
         EXPECT_TRUE(Find<QWidget>(window, "cmdMake").isEnabled());
