@@ -253,6 +253,13 @@ std::span<const Sheet> Sheets() { return kSheets; }
 
 std::span<const Sheet> ButtonsWithoutSheet() { return kButtonsWithoutSheet; }
 
+QStringList SheetNames() {
+    QStringList names;
+    for (const Sheet& sheet : Sheets())
+        names.append(QString::fromLatin1(sheet.sName));
+    return names;
+}
+
 const Sheet* FindSheet(const QString& sName) {
     const auto named = [&](const Sheet& sheet) { return sName == QString::fromLatin1(sheet.sName); };
     const auto found = std::ranges::find_if(kSheets, named);

@@ -115,6 +115,9 @@ std::span<const Sheet> Sheets();
 /// Buttons of the print window that no sheet of this build stands behind.
 std::span<const Sheet> ButtonsWithoutSheet();
 
+/// Their names, as the command line knows them.
+QStringList SheetNames();
+
 /// Nothing for a name that no sheet has.
 const Sheet* FindSheet(const QString& sName);
 

@@ -25,9 +25,7 @@ Color Read() {
 bool Write(Color color) {
     const int number = color.Red() << 16 | color.Green() << 8 | color.Blue();
     const QString digits = QStringLiteral("%1").arg(number, kDigits, kHexadecimal, QChar(u'0')).toUpper();
-    const QString value = QStringLiteral("&H") + digits;
-    basCommon::WriteIniString(kKey, value);
-    return basCommon::GetIniString(kKey) == value;
+    return basCommon::WriteIniString(kKey, QStringLiteral("&H") + digits);
 }
 
 std::optional<Color> Chosen() {

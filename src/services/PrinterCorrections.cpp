@@ -75,11 +75,7 @@ bool Keep(const QString& sPrinter, const PaperOfPage& paper, const PageCorrectio
     QStringList numbers;
     for (const double number : {correction.dblRightMm, correction.dblDownMm, correction.dblAcross, correction.dblDown})
         numbers.append(QString::number(number, 'g', kDigits));
-    const QString key = KeyOf(sPrinter, paper);
-    const QString value = correction.IsNothing() ? QString() : numbers.join(u',');
-    basCommon::WriteIniString(key, value);
-    // A disk that refuses it says nothing.
-    return basCommon::GetIniString(key) == value;
+    return basCommon::WriteIniString(KeyOf(sPrinter, paper), correction.IsNothing() ? QString() : numbers.join(u','));
 }
 
 QString Words(const PageCorrection& correction) {

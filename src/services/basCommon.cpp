@@ -90,9 +90,9 @@ void TellUnreadableSetting(const QString& sKey, const QString& sValue) {
     basMsgQueue::MsgQueue_Post(text, vbExclamation);
 }
 
-void WriteIniString(const QString& sKey, const QString& sValue) try {
+bool WriteIniString(const QString& sKey, const QString& sValue) try {
     const QString path = GetIniPath();
-    if (!Settings().bIniReadOnly) ProfileFile::Write(path, Settings().sProgramName, sKey, sValue);
+    return !Settings().bIniReadOnly && ProfileFile::Write(path, Settings().sProgramName, sKey, sValue);
 } catch (...) {
     ErrTail("basCommon!", "WriteIniString", sKey, sValue);
 }

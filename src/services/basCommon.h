@@ -30,8 +30,8 @@ Color GetIniColor(const QString& sKey, const QString& sDefault);
 /// usual value is used instead. For values that somebody has put there by hand.
 void TellUnreadableSetting(const QString& sKey, const QString& sValue);
 
-/// A file that can't be written is passed over: settings are never worth a message.
-void WriteIniString(const QString& sKey, const QString& sValue);
+/// False for a file that can't be written, which most pass over: few settings are worth a message.
+bool WriteIniString(const QString& sKey, const QString& sValue);
 
 /// Hexadecimal digits, eight of them as a rule: 00RRGGBB. Raises 0x80040002 at any other character; an empty
 /// text gives 0. The argument is consumed.

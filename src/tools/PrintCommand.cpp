@@ -40,13 +40,6 @@ constexpr Kit kKitOfList = Kit::Eight;
 constexpr int kNameWidth = 11;
 constexpr int kTitleWidth = 38;
 
-QStringList AllSheets() {
-    QStringList names;
-    for (const Sheet& sheet : Sheets())
-        names.append(QString::fromLatin1(sheet.sName));
-    return names;
-}
-
 std::vector<Finding> FindingsInHand(const PrintArguments& arguments) {
     PictureFacts facts;
     PdfPrinter page({}, {}, arguments.Paper());
@@ -214,7 +207,7 @@ bool PrintCommand::LoadGame(const QString& sGame) {
 }
 
 int PrintCommand::PrintGame(const PrintArguments& arguments) {
-    const QStringList sheets = arguments.sheets.isEmpty() ? AllSheets() : arguments.sheets;
+    const QStringList sheets = arguments.sheets.isEmpty() ? SheetNames() : arguments.sheets;
     Session session;
     frmBMP::InstallAsThumbnailMaker();
     session.SetGameName(Console::CompletePath(arguments.sGame));

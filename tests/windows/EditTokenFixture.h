@@ -35,6 +35,13 @@ protected:
         Token().SetImagePath(path);
     }
     void GivePicture() { GivePicture(MakePicture(QStringLiteral("quarters.bmp"))); }
+    PictureRef GiveCroppedPicture() {
+        GivePicture();
+        Token().Image.Let_Zoom(7);
+        Token().Image.Let_XCenter(11);
+        Token().Image.Let_YCenter(12);
+        return Token().Image.Ref();
+    }
     void ClickBehindText() { ClickPicture(kBehindText.x(), kBehindText.y()); }
     void ClickMiddle() { ClickPicture(kMiddle.x(), kMiddle.y()); }
     bool ShowsImage() {

@@ -41,6 +41,17 @@ protected:
         EXPECT_FALSE(light->isVisible());
         QCoreApplication::processEvents();
     }
+    /// Five notches of the wheel, then 21 pixels to the right with the right button.
+    void TurnAndMove() {
+        QWheelEvent turn(QPointF{kMiddle}, QPointF{kMiddle}, QPoint(), QPoint(0, 5 * 120), Qt::NoButton, {},
+                         Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&Likeness(), &turn);
+        QTest::mousePress(&Likeness(), Qt::RightButton, {}, kMiddle);
+        QMouseEvent move(QEvent::MouseMove, QPointF(kMiddle + QPoint(21, 0)), QPointF(kMiddle), Qt::NoButton,
+                         Qt::RightButton, {});
+        QApplication::sendEvent(&Likeness(), &move);
+        QTest::mouseRelease(&Likeness(), Qt::RightButton, {}, kMiddle + QPoint(21, 0));
+    }
     /// In the middle of where the picture stands.
     static constexpr QPoint kMiddle{104, 126};
 };
@@ -87,14 +98,7 @@ TEST_F(LikenessPictureTest, WhatIsNoPictureIsRefusedAndNothingChanges) {
 TEST_F(LikenessPictureTest, TheWheelZoomsAndTheRightButtonMoves) {
     GivePicture(Photo(QStringLiteral("cat.png")));
     EXPECT_TRUE(Edit([&] {
-        QWheelEvent turn(QPointF{kMiddle}, QPointF{kMiddle}, QPoint(), QPoint(0, 5 * 120), Qt::NoButton, {},
-                         Qt::NoScrollPhase, false);
-        QApplication::sendEvent(&Likeness(), &turn);
-        QTest::mousePress(&Likeness(), Qt::RightButton, {}, kMiddle);
-        QMouseEvent move(QEvent::MouseMove, QPointF(kMiddle + QPoint(21, 0)), QPointF(kMiddle), Qt::NoButton,
-                         Qt::RightButton, {});
-        QApplication::sendEvent(&Likeness(), &move);
-        QTest::mouseRelease(&Likeness(), Qt::RightButton, {}, kMiddle + QPoint(21, 0));
+        TurnAndMove();
         Click("cmdOK");
     }));
     EXPECT_EQ(Space().Image.Zoom(), 10);
@@ -111,14 +115,7 @@ TEST_F(LikenessPictureTest, APictureThatIsAwayOrUnreadableIsNeitherZoomedNorMove
         Space().Image.Let_YCenter(99);
         const PictureRef before = Space().Image.Ref();
         EXPECT_FALSE(Edit([&] {
-            QWheelEvent turn(QPointF{kMiddle}, QPointF{kMiddle}, QPoint(), QPoint(0, 5 * 120), Qt::NoButton, {},
-                             Qt::NoScrollPhase, false);
-            QApplication::sendEvent(&Likeness(), &turn);
-            QTest::mousePress(&Likeness(), Qt::RightButton, {}, kMiddle);
-            QMouseEvent move(QEvent::MouseMove, QPointF(kMiddle + QPoint(21, 0)), QPointF(kMiddle), Qt::NoButton,
-                             Qt::RightButton, {});
-            QApplication::sendEvent(&Likeness(), &move);
-            QTest::mouseRelease(&Likeness(), Qt::RightButton, {}, kMiddle + QPoint(21, 0));
+            TurnAndMove();
             Click("cmdOK");
         })) << away;
         EXPECT_EQ(Space().Image.Ref(), before);

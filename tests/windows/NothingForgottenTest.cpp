@@ -141,11 +141,7 @@ TEST_F(NothingForgottenTest, APictureChosenAgainShowsItsPartAgain) {
 }
 
 TEST_F(EditTokenForgottenTest, APictureChosenAgainShowsItsPartAgain) {
-    GivePicture();
-    Token().Image.Let_Zoom(7);
-    Token().Image.Let_XCenter(11);
-    Token().Image.Let_YCenter(12);
-    const PictureRef picture = Token().Image.Ref();
+    const PictureRef picture = GiveCroppedPicture();
     MakePicture(QStringLiteral("other.bmp"), 40, 60);
     Edit([&] {
         for (const char* name : {"other.bmp", "quarters.bmp"}) {
@@ -159,11 +155,7 @@ TEST_F(EditTokenForgottenTest, APictureChosenAgainShowsItsPartAgain) {
 }
 
 TEST_F(EditTokenForgottenTest, ThePictureThatGaveWayToTheTextComesBackWithItsPart) {
-    GivePicture();
-    Token().Image.Let_Zoom(7);
-    Token().Image.Let_XCenter(11);
-    Token().Image.Let_YCenter(12);
-    const PictureRef picture = Token().Image.Ref();
+    const PictureRef picture = GiveCroppedPicture();
     Edit([&] {
         Click("optInclude_1");
         EXPECT_TRUE(form.Token().Image.FullPath().isEmpty());

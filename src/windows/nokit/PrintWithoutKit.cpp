@@ -37,13 +37,6 @@ QString NameOfPdf() {
     return ConsoleSheets::DocumentName(GameHost::Current().GameName(), QStringLiteral("Without a Kit"));
 }
 
-QStringList WordsOfTheKit() {
-    QStringList words;
-    for (const Sheet& sheet : Sheets())
-        words.append(QString::fromLatin1(sheet.sName));
-    return words;
-}
-
 QString PdfPath() { return basCommon::JoinPath(ConsoleSheets::PrintedFolder(), NameOfPdf() + QStringLiteral(".pdf")); }
 
 } // namespace
@@ -81,7 +74,7 @@ void PrintWithoutKit::cmdMake_Click() try {
         MsgBox(ConsoleSheets::LittleDiskMessage(dblFree, ConsoleSheets::kMegabytesToldForMoney));
         return;
     }
-    if (!MayPrint(*this, WordsOfTheKit())) return;
+    if (!MayPrint(*this, SheetNames())) return;
     m_bStop = false;
     SetBusy(true);
     Make();
