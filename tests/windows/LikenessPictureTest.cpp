@@ -4,6 +4,7 @@
 #include "pictures/PicturePart.h"
 #include "support/PictureFiles.h"
 #include "windowing/PictureBox.h"
+#include "windows/editors/LikenessPicture.h"
 
 #include <QCheckBox>
 #include <QDropEvent>
@@ -41,16 +42,22 @@ protected:
         EXPECT_FALSE(light->isVisible());
         QCoreApplication::processEvents();
     }
+    /// In parts of a notch, of which a whole one has 120.
+    static void Turn(QWidget& likeness, int parts) {
+        QWheelEvent turn(QPointF{kMiddle}, QPointF{kMiddle}, QPoint(), QPoint(0, parts), Qt::NoButton, {},
+                         Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&likeness, &turn);
+    }
+    static void Move(QWidget& likeness, QPoint by) {
+        QTest::mousePress(&likeness, Qt::RightButton, {}, kMiddle);
+        QMouseEvent move(QEvent::MouseMove, QPointF(kMiddle + by), QPointF(kMiddle), Qt::NoButton, Qt::RightButton, {});
+        QApplication::sendEvent(&likeness, &move);
+        QTest::mouseRelease(&likeness, Qt::RightButton, {}, kMiddle + by);
+    }
     /// Five notches of the wheel, then 21 pixels to the right with the right button.
     void TurnAndMove() {
-        QWheelEvent turn(QPointF{kMiddle}, QPointF{kMiddle}, QPoint(), QPoint(0, 5 * 120), Qt::NoButton, {},
-                         Qt::NoScrollPhase, false);
-        QApplication::sendEvent(&Likeness(), &turn);
-        QTest::mousePress(&Likeness(), Qt::RightButton, {}, kMiddle);
-        QMouseEvent move(QEvent::MouseMove, QPointF(kMiddle + QPoint(21, 0)), QPointF(kMiddle), Qt::NoButton,
-                         Qt::RightButton, {});
-        QApplication::sendEvent(&Likeness(), &move);
-        QTest::mouseRelease(&Likeness(), Qt::RightButton, {}, kMiddle + QPoint(21, 0));
+        Turn(Likeness(), 5 * 120);
+        Move(Likeness(), QPoint(21, 0));
     }
     /// In the middle of where the picture stands.
     static constexpr QPoint kMiddle{104, 126};
@@ -105,6 +112,36 @@ TEST_F(LikenessPictureTest, TheWheelZoomsAndTheRightButtonMoves) {
     // 300 pixels of the picture stand in 126: it followed the mouse by 50 of them.
     EXPECT_EQ(Space().Image.XCenter(), 250);
     EXPECT_EQ(Space().Image.YCenter(), 200);
+}
+
+TEST_F(LikenessPictureTest, AWheelThatTurnsFinelyZoomsTwoStepsEachWholeNotch) {
+    GivePicture(Photo(QStringLiteral("cat.png")));
+    EXPECT_TRUE(Edit([&] {
+        for (const int parts : {40, 40, 39, 1, 30, 29})
+            Turn(Likeness(), parts);
+        Click("cmdOK");
+    }));
+    EXPECT_EQ(Space().Image.Zoom(), 2) << "the third step is a part of a notch away";
+    EXPECT_FALSE(Edit([&] {
+        for (const int parts : {59, -59, -59, 59})
+            Turn(Likeness(), parts);
+        Click("cmdOK");
+    })) << "what is turned back doesn't count";
+}
+
+// As long as nobody has painted it, which centres it.
+TEST_F(LikenessPictureTest, APictureThatWasNeverCenteredMovesFromItsMiddle) {
+    C_Image image;
+    image.Init(Photo(QStringLiteral("cat.png")), QString(), 0);
+    PictureBox box;
+    box.resize(300, 300);
+    const QRect place(40, 60, 126, 126);
+    const LikenessPicture likeness(box, session,
+                                   {[&]() -> C_Image& { return image; }, [=] { return place; }, [] {}, {}});
+    Move(box, QPoint(21, -42));
+    // All 600 pixels of its width stand in 126: it followed by 100 to the right and by 200 upwards.
+    EXPECT_EQ(image.XCenter(), 300 - 100);
+    EXPECT_EQ(image.YCenter(), 200 + 200);
 }
 
 TEST_F(LikenessPictureTest, APictureThatIsAwayOrUnreadableIsNeitherZoomedNorMovedUnseen) {

@@ -73,9 +73,13 @@ bool LikenessPicture::Move(const QMouseEvent& event) {
 
 bool LikenessPicture::Turn(const QWheelEvent& event) {
     if (!PictureAt(event.position())) return false;
+    // Fine wheels turn by parts of a notch.
+    m_turn += event.angleDelta().y() * kStepsOfNotch;
+    const int steps = m_turn / kNotch;
+    m_turn -= steps * kNotch;
+    if (steps == 0) return true;
     C_Image& image = m_doors.image();
-    const int zoom = image.Zoom() + event.angleDelta().y() * kStepsOfNotch / kNotch;
-    image.Let_Zoom(qint16(std::clamp(zoom, kLeastZoom, kMostZoom)));
+    image.Let_Zoom(qint16(std::clamp(image.Zoom() + steps, kLeastZoom, kMostZoom)));
     m_doors.changed();
     return true;
 }

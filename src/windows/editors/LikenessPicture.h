@@ -59,4 +59,6 @@ private:
     QPointF m_start;
     /// Pixels of the picture that is being moved.
     QSize m_picture;
+    /// What the wheel has been turned beyond the last step, in parts of a notch times its steps.
+    int m_turn = 0;
 };
