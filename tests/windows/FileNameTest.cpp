@@ -4,6 +4,7 @@
 #include "windows/pictures/frmFileName.h"
 
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QPushButton>
 
@@ -45,6 +46,21 @@ TEST_F(FileNameTest, ItExplainsTheClashAndTheThreeWaysOut) {
         EXPECT_EQ(Find<QPushButton>(window, "cmdGo_0").text(), QStringLiteral("&Cancel - leave the original image"));
         EXPECT_EQ(Find<QPushButton>(window, "cmdGo_1").text(), QStringLiteral("&Overwrite current file"));
         EXPECT_EQ(Find<QPushButton>(window, "cmdGo_2").text(), QStringLiteral("&Use the new name entered above"));
+        Click(window, "cmdGo_0");
+    });
+}
+
+// As wide as the explanation above them, so that none ends beside the box with the new name.
+TEST_F(FileNameTest, TheThreeAnswersReachFromTheLabelsToTheEndOfTheNewName) {
+    Answer([](QWidget& window) {
+        const QRect name = Find<QLineEdit>(window, "txtNewName").geometry();
+        const int left = Find<QLabel>(window, "lblCurrentName").parentWidget()->layout()->contentsRect().left();
+        for (const char* const answer : {"cmdGo_0", "cmdGo_1", "cmdGo_2"}) {
+            const QRect button = Find<QPushButton>(window, answer).geometry();
+            EXPECT_EQ(button.left(), left) << answer;
+            EXPECT_EQ(button.right(), name.right()) << answer;
+        }
+        EXPECT_EQ(window.width() - 1 - name.right(), left) << "as much is free on the right as on the left";
         Click(window, "cmdGo_0");
     });
 }

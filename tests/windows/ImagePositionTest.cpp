@@ -6,6 +6,7 @@
 #include "support/PictureFiles.h"
 #include "support/TestFixture.h"
 #include "windowing/PictureBox.h"
+#include "windowing/Screen.h"
 #include "windows/pictures/frmBrowse.h"
 #include "windows/pictures/frmImagePosition.h"
 
@@ -102,6 +103,28 @@ TEST_F(ImagePositionTest, TheBoxHasTheShapeOfWhatIsFilled) {
             Click(window, "cmdOK");
         },
         190.0 / 164.0);
+}
+
+TEST_F(ImagePositionTest, TheBoxIs600PixelsWideButNoLargerThanTheScreenLeavesIt) {
+    const QSize screen = Screen::FreeArea().size();
+    // The sliders and texts take 280 pixels beside it, margins and a title bar 47 above and below.
+    const int beside = screen.width() - 280;
+    for (const double heightToWidth : {1.0, 190.0 / 164.0, 2.0, 10.0}) {
+        SCOPED_TRACE(heightToWidth);
+        const int byHeight = int((screen.height() - 47) / heightToWidth);
+        C_Image image = CenteredImage();
+        ModalSteps steps;
+        steps.In("frmImagePosition", [&](QWidget& window) {
+            const int width = Preview(window).width();
+            EXPECT_LE(width, 600);
+            EXPECT_LE(width, std::max(beside, 200));
+            EXPECT_LE(width, std::max(byHeight, 200));
+            EXPECT_TRUE(width == 600 || width == beside || width == byHeight || width == 200) << "and no smaller";
+            Click(window, "cmdOK");
+        });
+        frmImagePosition form;
+        form.ShowForm(image, heightToWidth, false);
+    }
 }
 
 TEST_F(ImagePositionTest, ThePreviewShowsWhatTheZoomAndCenterShow) {
