@@ -126,6 +126,28 @@ TEST_F(ConsoleTest, EveryFrameHasItsCaptionAndItsLabel) {
     EXPECT_EQ(Text("lblNumberOfSheets"), QStringLiteral("Number of Sheets (1 - 5) to Print:"));
 }
 
+TEST_F(ConsoleTest, AWhiteBarThatFillsInNavyStandsOnLightGrey) {
+    const auto fill = [this](const char* name) { return Control(name).palette().color(QPalette::Window); };
+    EXPECT_EQ(fill("fraProgress"), QColor(Qt::lightGray)); // 192 of each
+    EXPECT_EQ(fill("shpProgressBack"), QColor(Qt::white));
+    EXPECT_EQ(fill("shpProgressFore"), QColor(Qt::darkBlue)); // 128 of blue alone
+}
+
+TEST_F(ConsoleTest, TheQuestionAboutThePaperStandsBetweenEqualMargins380PixelsWide) {
+    frmPrntPrep question;
+    ModalSteps person;
+    person.In("frmPrntPrep", [](QWidget& window) {
+        const QRect prompt = Find<QLabel>(window, "lblMain").geometry();
+        const QRect other = Find<QLabel>(window, "lblAlternative").geometry();
+        EXPECT_EQ(prompt.width(), 380);
+        EXPECT_EQ(other.left(), prompt.left());
+        EXPECT_EQ(other.right(), prompt.right());
+        EXPECT_EQ(window.width() - 1 - prompt.right(), prompt.left());
+        Click(window, "cmd_0");
+    });
+    question.ShowForm(QStringLiteral("Please load paper"));
+}
+
 TEST_F(ConsoleTest, TheQuestionAboutThePaperAnswersWithTheCaptionPressed) {
     const Row buttons[] = {
         {"cmd_2", -1, "Print", ""}, {"cmd_1", -1, "Print Test Sheet", ""}, {"cmd_0", -1, "Cancel", ""}};

@@ -254,3 +254,21 @@ TEST_F(ConsoleTest, TryAgainIsNoneOfTheButtonsUntilSomethingFails) {
     EXPECT_FALSE(Shows("cmdTryAgain"));
     EXPECT_GE(Control("fraProgress").height(), Control("cmdTryAgain").sizeHint().height()) << "it has its room";
 }
+
+// The bar goes while the page is still under way: the events that run then start nothing either.
+TEST_F(ConsoleTest, AClickThatComesAsTheBarGoesIsIgnoredAsAnyOtherDuringAJob) {
+    for (const char* const lacking : {"", "TempNewsBMP0.temp"}) {
+        std::optional<Blocked> blocked;
+        if (*lacking) blocked.emplace(lacking);
+        printer.ended.clear();
+        int goings = 0;
+        desktop.onPump = [&] {
+            goings += Shows("fraProgress") ? 0 : 1;
+            Press(kGoodNews);
+        };
+        Print(kGoodNews);
+        desktop.onPump = nullptr;
+        EXPECT_EQ(goings, 1) << lacking;
+        EXPECT_EQ(printer.ended.size(), *lacking ? 0 : 1);
+    }
+}

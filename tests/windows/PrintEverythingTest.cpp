@@ -7,6 +7,7 @@
 
 #include <QListWidget>
 #include <QPushButton>
+#include <QScrollBar>
 
 namespace {
 
@@ -63,6 +64,19 @@ TEST_F(PrintEverythingTest, TellsWhatPaperItTakes) {
         Tick(0, false);
         EXPECT_EQ(Label("lblNeeded"), QStringLiteral("Tick the sheets that you would like to print."));
         EXPECT_FALSE(Find<QWidget>(window, "cmdPrint").isEnabled());
+    });
+}
+
+TEST_F(PrintEverythingTest, AllSheetsAreSeenWithoutScrollingAndTwiceTheRoomBelowThemIsBesideThem) {
+    Show([this] {
+        auto& sheets = Find<QListWidget>(window, "lstSheets");
+        EXPECT_FALSE(sheets.verticalScrollBar()->isVisible());
+        EXPECT_FALSE(sheets.horizontalScrollBar()->isVisible());
+        const QRect last = sheets.visualItemRect(sheets.item(sheets.count() - 1));
+        const QSize least = sheets.minimumSize() - 2 * QSize(sheets.frameWidth(), sheets.frameWidth());
+        const int below = least.height() - (last.bottom() + 1);
+        EXPECT_GT(below, 0);
+        EXPECT_EQ(least.width() - sheets.sizeHintForColumn(0), 2 * below);
     });
 }
 
