@@ -24,6 +24,10 @@ const QPoint kBehindSubtitle(kSubtitle.right() - 1, kSubtitle.center().y());
 // The place of the game's name within its area.
 constexpr QPoint kInName(150, 75);
 
+// In letters as wide as the typeface's own it would be narrower.
+constexpr const char* kLong = "HHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHH"
+                              "HHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHH";
+
 constexpr int kNameRecord = 1;
 constexpr int kSubtitleRecord = 2;
 constexpr int kOccasionRecord = 3;
@@ -168,6 +172,21 @@ TEST_F(EditCenterTest, Edge_TheFixedWordShowsInItsPartAndCannotBeEdited) {
     });
 }
 
+TEST_F(EditCenterTest, TheFixedWordShowsInUprightThinLettersAndNoLineUnderIt) {
+    // Half as high as the box of 96, from a quarter of it. The five letters are 1251, 1366, 1366, 1139 and 1593 units
+    // wide where the typeface's own width is 904: at 20 they fill 0.35 of 429 pixels.
+    ScratchForm told(QSize(700, 260));
+    basDraw::Draw_SetHdc(&told.hDC());
+    basDraw::Draw_SetBrush(Color::Rgb(224, 255, 224));
+    basDraw::Draw_Rect(kName.x(), kName.y(), kName.x() + kName.width(), kName.y() + kName.height());
+    basDraw::Draw_SetFont(QStringLiteral("Arial"), 48, 20, 0, 0, false, false, false);
+    basDraw::Draw_Text(QStringLiteral("TAVLO"), QStringLiteral("C"), 343, 56, Color::Black());
+    basDraw::Draw_ReleaseObjects();
+    // Between the strips above and below.
+    const QRect part(kName.left() + 245, kName.top() + 22, 160, 52);
+    Edit([&](QDialog& form) { EXPECT_EQ(Shown(form, part), told.Image().copy(part)); });
+}
+
 TEST_F(EditCenterTest, TheGamesNameIs212PixelsWideInItsPart) {
     // Two of its letters reach their edges, so that the ink is as wide as the letters but for a pixel or two.
     basPosit::SetSpecialText(kNameRecord, QStringLiteral("VIV"));
@@ -192,7 +211,9 @@ TEST_F(EditCenterTest, BothSubtitlesShowInItalicLettersOfTheirOwnWidth) {
     } rows[] = {{"Hg", kSubtitleRecord, Color::Rgb(255, 0, 0), 78, 38, 230, 144},
                 {"Hg\r\nTo", kSubtitleRecord, Color::Rgb(255, 0, 0), 39, 18, 230, 144},
                 {"Hg", kOccasionRecord, Color::Rgb(224, 255, 224), 94, 46, 570, 144},
-                {"Hg\r\nTo\r\nUs", kOccasionRecord, Color::Rgb(224, 255, 224), 31, 14, 570, 144}};
+                {"Hg\r\nTo\r\nUs", kOccasionRecord, Color::Rgb(224, 255, 224), 31, 14, 570, 144},
+                // Of a file: at the least height half of it less 1 is nothing, which would mean the font's own width.
+                {kLong, kSubtitleRecord, Color::Rgb(255, 0, 0), 2, 1, 230, 182}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.text);
         const QString text = QString::fromLatin1(row.text);

@@ -357,6 +357,24 @@ TEST_F(EditMoneyTest, LookingAtAPictureIsNoChange) {
     EXPECT_EQ(Note(0).FaceImage.XCenter(), 30) << "the game's note is centred like the one shown";
 }
 
+TEST_F(EditMoneyTest, AfterAFailureNotesAreStillChosenAndTypedOn) {
+    Note(1).BackImage.Init(WriteFile(QStringLiteral("blank.dat"), "no picture"), QString(), 0);
+    EXPECT_TRUE(Edit([&] {
+        desktop.onBox = [this] {
+            desktop.onBox = nullptr;
+            ErrRaise(ErrNumber::kOutOfMemory, QStringLiteral("Out of memory"));
+        };
+        Choose(1); // its blank is told in a box, which fails
+        EXPECT_FALSE(desktop.onBox);
+        Choose(2);
+        EXPECT_EQ(Box(0).toPlainText(), QStringLiteral("left 2"));
+        TypeInto(0, QStringLiteral("!"));
+        Click("cmdOK");
+    }));
+    EXPECT_EQ(Note(2).Text(0), QStringLiteral("left 2!"));
+    EXPECT_EQ(Note(1).Text(0), QStringLiteral("left 1"));
+}
+
 TEST_F(EditMoneyTest, ABlankThatCannotBeReadIsToldOnceAndTheNoteIsShownWithoutIt) {
     const QString blank = WriteFile(QStringLiteral("blank.dat"), "no picture");
     Note(0).BackImage.Init(blank, QString(), 0);

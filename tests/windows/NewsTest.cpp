@@ -120,6 +120,8 @@ TEST_F(NewsTest, Edge_AClickBesideTheThirdColumnOrBelowTheFourthRowOpensNothing)
     EXPECT_EQ(opened, 2);
 }
 
+TEST_F(NewsTest, BeforeItIsShownNoCardWasHit) { EXPECT_EQ(frmShowNews(session).Card(), -1); }
+
 TEST_F(NewsTest, ADoubleClickBesideTheCardsOpensNothing) {
     Show(kGood, [&](QDialog& form) {
         Enlarge(form);

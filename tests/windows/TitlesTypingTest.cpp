@@ -25,6 +25,9 @@ protected:
     /// Does something with the caret behind the text of a title.
     void Edit(int iTitle, const QString& sText, const std::function<void()>& doIt) {
         basPosit::SetSpecialText(iTitle, sText);
+        Open(iTitle, doIt);
+    }
+    void Open(int iTitle, const std::function<void()>& doIt) {
         WhenModal([&](QDialog& form) {
             EXPECT_EQ(Told(), QString()) << "nothing of the title before";
             if (iTitle == kSubtitle) Press(Qt::Key_Tab);
@@ -87,6 +90,33 @@ TEST_F(TitlesTypingTest, LinesBeyondTheTenthAreTold) {
         Paste(QStringList(9, QStringLiteral("ab")).join(u'\n'));
         EXPECT_EQ(LinesOf(kSubtitle), QStringList(9, QStringLiteral("ab")));
         EXPECT_EQ(Told(), QString());
+    });
+}
+
+TEST_F(TitlesTypingTest, ATitleThatNoGameHasSetYetTakesAsManyLinesAsAnEmptyOne) {
+    basPosit::m_CenterText(kSubtitle) = SpecialText{};
+    Open(kSubtitle, [&] {
+        Paste(QStringList(10, QStringLiteral("ab")).join(u'\n'));
+        EXPECT_EQ(LinesOf(kSubtitle), QStringList(9, QStringLiteral("ab")) + QStringList{QString()});
+        EXPECT_EQ(Told(), kNoMore);
+    });
+}
+
+TEST_F(TitlesTypingTest, ShiftAndTabGoBackThroughTheThreeTitlesAndThenToTheButtons) {
+    Open(kName, [&] {
+        QWidget* const text = editor.focusWidget();
+        Press(Qt::Key_Tab);
+        Press(Qt::Key_Tab);
+        Type(QStringLiteral("3"));
+        for (const char* const typed : {"2", "1"}) {
+            Press(Qt::Key_Backtab, Qt::ShiftModifier);
+            EXPECT_EQ(editor.focusWidget(), text);
+            Type(QString::fromLatin1(typed));
+        }
+        for (int i = 1; i <= 3; ++i)
+            EXPECT_EQ(LinesOf(i), QStringList{QStringLiteral("Title%1").arg(i)});
+        Press(Qt::Key_Backtab, Qt::ShiftModifier);
+        EXPECT_EQ(editor.focusWidget(), &Find<QWidget>(editor, "cmdCancel"));
     });
 }
 
