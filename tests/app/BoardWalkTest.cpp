@@ -94,6 +94,12 @@ TEST_F(BoardWalkTest, AFrameWalksAndSaysWhereItStands) {
     EXPECT_EQ(Says(), QString());
 }
 
+TEST_F(BoardWalkTest, TheDarkFrameFillsTheLightOneButForTwoPixelsOnEachSide) {
+    Press(Qt::Key_Tab);
+    QApplication::processEvents();
+    EXPECT_EQ(Find<QFrame>("frmWalkInner").geometry(), Frame().rect().adjusted(2, 2, -2, -2));
+}
+
 TEST_F(BoardWalkTest, EnterOpensWhatTheFrameStandsOn) {
     const QStringList places = {QStringLiteral("corner 0"), QStringLiteral("space 0"), QStringLiteral("space 1")};
     for (const QString& place : places) {

@@ -37,6 +37,14 @@ protected:
     static void Click(const QListWidget& list, int row) {
         QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(list.item(row)).center());
     }
+    // The sentence stands whole above the list, in as many lines as it takes.
+    static void ExpectFolded(QDialog& dialog, QListWidget& list) {
+        const auto& sentence = *dialog.findChild<QLabel*>(QStringLiteral("lblMain"));
+        EXPECT_EQ(dialog.width(), 480);
+        EXPECT_EQ(sentence.width(), list.width());
+        EXPECT_GE(sentence.height(), sentence.heightForWidth(sentence.width()));
+        EXPECT_GE(sentence.height(), 2 * sentence.fontMetrics().height());
+    }
     QString Name() const { return window->Commands().InHand().GameName(); }
     const QString game = InGames(QStringLiteral("Mine.gam"));
 };
@@ -141,6 +149,22 @@ TEST_F(EarlierVersionsWindowTest, AGameWithoutAnySaysSo) {
         EXPECT_EQ(dialog.findChild<QLabel*>(QStringLiteral("lblMain"))->text(),
                   QStringLiteral("There is no earlier version of this game yet. Each save keeps the one that it "
                                  "replaces."));
+        ExpectFolded(dialog, list);
+    });
+}
+
+TEST_F(EarlierVersionsWindowTest, ALongNameMakesTheWindowNoWider) {
+    const QString name = QStringLiteral("The long story of our town, its streets and all of us.gam");
+    desktop.onDialog = [&](CommonDialog& dialog) {
+        dialog.sFileName = InGames(name);
+        return true;
+    };
+    ChooseMenu("mnuFile_4");
+    Edit(QStringLiteral("Thrice"));
+    ChooseMenu("mnuFile_3");
+    Show([](QDialog& dialog, QListWidget& list) {
+        EXPECT_EQ(list.count(), 1);
+        ExpectFolded(dialog, list);
     });
 }
 

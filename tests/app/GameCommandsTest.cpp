@@ -130,6 +130,30 @@ TEST_F(GameCommandsTest, Edge_CancelledSaveAsTouchesNeitherNameNorState) {
     EXPECT_TRUE(desktop.boxes.isEmpty());
 }
 
+// The small board that is kept with a save is drawn elsewhere where the window shows a part of it only.
+TEST_F(GameCommandsTest, ASaveLeavesTheDrawingLayerWithTheBoardThatIsSeen) {
+    StartWith(QStringLiteral("Mine.gam"));
+    const BoardView& view = window->View();
+    int painted = 0;
+    QObject::connect(&view, &BoardView::Painted, [&] { ++painted; });
+    const struct {
+        const char* menu;
+        int zoom;
+        int paintedAnew;
+    } rows[] = {{"mnuZoom_0", 1, 0}, {"mnuZoom_2", 3, 1}};
+    for (const auto& row : rows) {
+        ChooseMenu(row.menu);
+        Edit(QString::fromLatin1(row.menu));
+        const int side = window->View().Board().width();
+        EXPECT_EQ(basPosit::GetScale(), float(side * row.zoom));
+        painted = 0;
+        ChooseMenu("mnuFile_3");
+        QCoreApplication::processEvents();
+        EXPECT_EQ(painted, row.paintedAnew) << row.menu;
+        EXPECT_EQ(basPosit::GetScale(), float(side * row.zoom)) << row.menu;
+    }
+}
+
 TEST_F(GameCommandsTest, SaveAsWritesUnderTheNewNameAndTitle) {
     StartWith(QStringLiteral("Mine.gam"));
     Edit(QStringLiteral("One"));

@@ -3,6 +3,7 @@
 #include "AppFixture.h"
 
 #include "pack/PackReader.h"
+#include "windowing/PageView.h"
 
 #include <QClipboard>
 #include <QListWidget>
@@ -25,6 +26,29 @@ protected:
         Start();
     }
     CommonDialog asked;
+};
+
+/// Remembers the timer whose turn puts something into a view that was blank.
+class WhatShows : public QObject {
+public:
+    explicit WhatShows(PageView& view) : m_view(view) { qApp->installEventFilter(this); }
+    bool IsBlank() {
+        const QImage& shown = m_view.Image();
+        QImage blank(shown.size(), shown.format());
+        blank.fill(shown.pixelColor(0, 0));
+        return shown == blank;
+    }
+    const QTimer* timer = nullptr;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        auto* const its = qobject_cast<QTimer*>(watched);
+        if (its && event->type() == QEvent::Timer && IsBlank()) timer = its;
+        return false;
+    }
+
+private:
+    PageView& m_view;
 };
 
 TEST_F(GameSharingTest, WhatIsSentIsTheGameAsItStandsAndTheViewStaysAsItWas) {
@@ -99,6 +123,20 @@ TEST_F(GameSharingTest, APictureOfAPieceIsSavedFromItsWindow) {
     EXPECT_EQ(asked.sFileName, QStringLiteral("Mine space-4.png"));
     EXPECT_EQ(window->View().Board().Image(), before);
     EXPECT_TRUE(desktop.boxes.isEmpty());
+}
+
+TEST_F(GameSharingTest, APieceIsDrawnOnceWhereTheListStopsAndNotAgainAndAgain) {
+    StartWithGame();
+    ModalSteps person;
+    person.In("frmPieces", [](QWidget& shown) {
+        WhatShows shows(::Find<PageView>(shown, "view"));
+        EXPECT_TRUE(shows.IsBlank());
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !shows.IsBlank(); }));
+        ASSERT_TRUE(shows.timer);
+        EXPECT_FALSE(shows.timer->isActive());
+        Click(shown, "cmdClose");
+    });
+    ChooseMenu("mnuFile_32");
 }
 
 TEST_F(GameSharingTest, TheBoardIsCopiedAsAPicture) {

@@ -115,6 +115,24 @@ TEST_F(SidePanelTest, AStepIsTickedWhileItIsDone) {
     EXPECT_EQ(StepButton(2).description(), QStringLiteral("1 of 24 names are yours."));
 }
 
+TEST_F(SidePanelTest, AStepTellsHowManyPiecesAreTheFamilysOwn) {
+    Session& session = window->Commands().InHand();
+    EXPECT_EQ(StepButton(1).description(), QStringLiteral("Give the spaces pictures of your own."));
+    EXPECT_EQ(StepButton(3).description(), QStringLiteral("What happened to your family?"));
+    Game game = session.InHand();
+    for (C_Space& space : game.spaces)
+        space.Image.Let_FullPath(PathOf(QStringLiteral("us.jpg")));
+    for (int i = 0; i < 12; ++i) {
+        game.news[0][size_t(i)].Let_Text(QStringLiteral("Ours"));
+        game.news[1][size_t(i)].Let_Text(i == 0 ? QStringLiteral("Ours") : game.news[1][size_t(i)].Text());
+        // One after the other: an edit is told by what it changes.
+    }
+    session.Do({QStringLiteral("All of it"), game});
+    // Four of the 28 spaces belong to the kit.
+    EXPECT_EQ(StepButton(1).description(), QStringLiteral("Done: 24 of 24 spaces show yours."));
+    EXPECT_EQ(StepButton(3).description(), QStringLiteral("Done: 13 of 24 cards are yours."));
+}
+
 TEST_F(SidePanelTest, GuideGoesForEverAndTheMenuBringsItBack) {
     Panel().SetTabShown(CheckList::kName, false);
     Panel().SetTabShown(PhotoTab::kName, false);

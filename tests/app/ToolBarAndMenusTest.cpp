@@ -109,6 +109,12 @@ TEST_F(ToolBarAndMenusTest, ToolbarButtonsRunTheirCommands) {
     EXPECT_TRUE(window->Commands().InHand().GameName().endsWith(QStringLiteral("Game1.gam")));
 }
 
+TEST_F(ToolBarAndMenusTest, TheMouseThatComesToTheFirstButtonFirstFramesIt) {
+    QTest::mouseMove(&ToolBar(), OnToolBar(0));
+    EXPECT_TRUE(Find<QWidget>("linButTop").isVisible());
+    EXPECT_EQ(Find<QWidget>("linButTop").geometry().topLeft(), QPoint(2, 2));
+}
+
 TEST_F(ToolBarAndMenusTest, ToolbarFramesTheButtonUnderTheMouse) {
     auto& top = Find<QWidget>("linButTop");
     auto& right = Find<QWidget>("linButRight");
