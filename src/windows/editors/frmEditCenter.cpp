@@ -197,16 +197,13 @@ void frmEditCenter::EditArea(int iArea, int iCol, int iRow) {
 
 void frmEditCenter::Form_MouseDown(int Button, int Shift, float X, float Y) try {
     if (Button != PictureBox::kLeftButton) return;
-    PerArea<bool> inArea{};
-    int row = -1;
-    int column = -1;
-    WhereIsMouse(X, Y, inArea, row, column);
+    const Spot spot = WhereIsMouse(X, Y);
     int area = kNoArea;
     for (int i = 1; i <= kAreas; ++i) {
-        if (inArea[size_t(i)]) area = i;
+        if (spot.bInArea[size_t(i)]) area = i;
     }
-    m_bInArea = inArea;
-    if (MarkByClick(Shift, area, column, row)) m_bInArea.fill(false);
+    m_bInArea = spot.bInArea;
+    if (MarkByClick(Shift, area, spot.iCol, spot.iRow)) m_bInArea.fill(false);
     txtHoldFocus->setFocus();
     Redraw(0);
 } catch (...) {
@@ -214,18 +211,15 @@ void frmEditCenter::Form_MouseDown(int Button, int Shift, float X, float Y) try 
 }
 
 void frmEditCenter::Form_MouseMove(int Button, int Shift, float X, float Y) try {
-    PerArea<bool> over{};
-    int row = -1;
-    int column = -1;
-    WhereIsMouse(X, Y, over, row, column);
+    const Spot spot = WhereIsMouse(X, Y);
     if (Button != 0) {
-        const bool drags = m_bInArea[size_t(m_iTextArea)] && over[size_t(m_iTextArea)];
-        if (drags && m_selection.SetEnd(column, row)) Redraw(m_iTextArea);
+        const bool drags = m_bInArea[size_t(m_iTextArea)] && spot.bInArea[size_t(m_iTextArea)];
+        if (drags && m_selection.SetEnd(spot.iCol, spot.iRow)) Redraw(m_iTextArea);
         return;
     }
     QString tip;
     for (int i = 1; i <= kAreas; ++i) {
-        if (over[size_t(i)]) tip = QString::fromLatin1(RowOf(i).sToolTip);
+        if (spot.bInArea[size_t(i)]) tip = QString::fromLatin1(RowOf(i).sToolTip);
     }
     picForm->setCursor(tip.isEmpty() ? Qt::ArrowCursor : Qt::IBeamCursor);
     WidgetLook::SetToolTip(*picForm, tip);

@@ -82,6 +82,13 @@ private:
         void SelectFont() const;
     };
 
+    /// What lies at a point; the place in the text is told only within an area.
+    struct Spot {
+        PerArea<bool> bInArea;
+        int iRow;
+        int iCol;
+    };
+
     double ScaleForLetters() const;
     void Form_Load();
     QLabel* MakeLabel(const QString& sText, const QRect& place);
@@ -97,8 +104,8 @@ private:
     TextPlace PlaceOfName() const;
     TextPlace PlaceOfLines(int iArea) const;
 
-    void WhereIsMouse(float X, float Y, PerArea<bool>& bInArea, int& iRow, int& iCol);
-    void CheckMouseInArea(int iArea, float X, float Y, PerArea<bool>& bInArea, int& iRow, int& iCol);
+    Spot WhereIsMouse(float X, float Y);
+    void CheckMouseInArea(int iArea, float X, float Y, Spot& spot);
     void EditArea(int iArea, int iCol, int iRow);
 
     bool HandleKey(const QKeyEvent& event);

@@ -166,24 +166,26 @@ void frmEditCenter::DrawTextOf(int iArea) {
                                    Color::Black());
 }
 
-void frmEditCenter::WhereIsMouse(float X, float Y, PerArea<bool>& bInArea, int& iRow, int& iCol) try {
+frmEditCenter::Spot frmEditCenter::WhereIsMouse(float X, float Y) try {
+    Spot spot{};
     for (int i = 1; i <= kAreas; ++i)
-        CheckMouseInArea(i, X, Y, bInArea, iRow, iCol);
+        CheckMouseInArea(i, X, Y, spot);
+    return spot;
 } catch (...) {
     ErrTail("frmEditCenter!", "WhereIsMouse", X, Y);
 }
 
-void frmEditCenter::CheckMouseInArea(int iArea, float X, float Y, PerArea<bool>& bInArea, int& iRow, int& iCol) try {
+void frmEditCenter::CheckMouseInArea(int iArea, float X, float Y, Spot& spot) try {
     const QPoint point(CLng(double(X) / kTwipsPerPixel), CLng(double(Y) / kTwipsPerPixel));
-    bInArea[size_t(iArea)] = m_area[size_t(iArea)].contains(point);
-    if (!bInArea[size_t(iArea)]) return;
+    spot.bInArea[size_t(iArea)] = m_area[size_t(iArea)].contains(point);
+    if (!spot.bInArea[size_t(iArea)]) return;
     DeviceContext& hDC = picForm->hDC();
     const int depth = hDC.SaveDC();
     Draw_SetHdc(&hDC);
     const TextPlace place = PlaceOf(iArea);
     place.SelectFont();
     Draw_FindInsertPoint(place.sTextLines, QStringLiteral("C"), place.anchor.x(), place.anchor.y(), point.x(),
-                         point.y(), iCol, iRow);
+                         point.y(), spot.iCol, spot.iRow);
     Draw_ReleaseObjects();
     hDC.RestoreDC(depth);
 } catch (...) {

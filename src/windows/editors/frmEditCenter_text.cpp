@@ -205,13 +205,10 @@ void frmEditCenter::contextMenuEvent(QContextMenuEvent* event) try {
 
 // What is marked stays marked, so that it can be copied.
 void frmEditCenter::EditAt(QPoint at) {
-    PerArea<bool> inArea{};
-    int row = -1;
-    int column = -1;
-    WhereIsMouse(float(at.x() * kTwipsPerPixel), float(at.y() * kTwipsPerPixel), inArea, row, column);
-    const auto found = std::find(inArea.begin(), inArea.end(), true);
-    const int area = found == inArea.end() ? kNoArea : int(found - inArea.begin());
-    if (area != m_iTextArea || !m_selection.HasText()) EditArea(area, column, row);
+    const Spot spot = WhereIsMouse(float(at.x() * kTwipsPerPixel), float(at.y() * kTwipsPerPixel));
+    const auto found = std::find(spot.bInArea.begin(), spot.bInArea.end(), true);
+    const int area = found == spot.bInArea.end() ? kNoArea : int(found - spot.bInArea.begin());
+    if (area != m_iTextArea || !m_selection.HasText()) EditArea(area, spot.iCol, spot.iRow);
     txtHoldFocus->setFocus();
     Redraw(0);
 }
