@@ -50,4 +50,10 @@ TEST_F(BrowseLayoutTest, ThePictureKeepsItsSizeAndTheSmallOnesTakeHalfOfWhatIsGa
     EXPECT_EQ(wide.picture.size(), At(QSize()).picture.size());
 }
 
+// The kinds that few colors leave are short; otherwise they are what makes the column wider.
+TEST_F(BrowseLayoutTest, NamesOfFilesHave210PixelsEvenInTheNarrowestWindow) {
+    Screen::PretendBitsPerPixel(8);
+    EXPECT_EQ(At(QSize(100, 600)).files.width(), 210);
+}
+
 } // namespace
