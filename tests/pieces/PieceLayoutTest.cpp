@@ -2,6 +2,7 @@
 // Where everything stands on a sticker, a banknote and a token, to the dot.
 #include "pieces/frmBMP.h"
 #include "platform/paint/Surface.h"
+#include "platform/paint/WrittenTexts.h"
 #include "platform/pictures/LoadPicture.h"
 #include "platform/pictures/PictureHolder.h"
 #include "render/clsRenderDestination.h"
@@ -179,14 +180,26 @@ TEST_F(PieceLayoutTest, ATokensRingLiesOutsideItsCircleAndIsWiderFarFromTheEdge)
         token.Redraw(start, start, start + 200, start + 200, false, form, scratch, {}, Color::Rgb(255, 0, 0));
         const QImage image = form.Image();
         const QRect circle = BoxOf(image, Qt::blue).translated(-start, -start);
-        EXPECT_TRUE(QRect(0, 0, 200, 200).contains(circle)) << start;
-        EXPECT_TRUE(circle.contains(QRect(3, 3, 194, 194))) << start;
+        // The ring ends 1.5 dots inside the box; its right and lower edge are left out, as of all that is drawn.
+        EXPECT_EQ(circle, QRect(2, 2, 195, 195)) << start;
         EXPECT_EQ(image.pixelColor(start + 3, start + 3), QColor(Qt::red)) << "the corner of the box";
         // Half of the centre: 50 and 200.
         const int outside = start + 200 + (start + 100) / 2;
         EXPECT_EQ(image.pixelColor(outside - 5, start + 100), QColor(Qt::red)) << start;
         EXPECT_EQ(image.pixelColor(outside + 5, start + 100), QColor(Qt::white)) << start;
     }
+}
+
+TEST_F(PieceLayoutTest, ATokensPictureIsCutToTheWholeCircleInItsBox) {
+    C_Token token;
+    token.Image.Init(Photo(), QStringLiteral("Token"), 1);
+    ScratchForm form(QSize(300, 300));
+    PictureHolder scratch;
+    ASSERT_TRUE(token.PaintImage(form, scratch, 40, 30, 240, 230));
+    // Its outermost dots are smooth, and so no more red.
+    EXPECT_EQ(BoxOf(form.Image(), Qt::red), QRect(40, 30, 200, 200).adjusted(1, 1, -1, -1));
+    for (const QPoint corner : {QPoint(65, 55), QPoint(214, 55), QPoint(65, 204), QPoint(214, 204)})
+        EXPECT_EQ(form.Image().pixelColor(corner), QColor(Qt::white)) << corner.x() << ' ' << corner.y();
 }
 
 TEST_F(PieceLayoutTest, ATokensTextIsAsHighAsItsSizeAsks) {
@@ -201,4 +214,51 @@ TEST_F(PieceLayoutTest, ATokensTextIsAsHighAsItsSizeAsks) {
     const QRect ink = DarkBox(Made(), Made().rect());
     EXPECT_NEAR(ink.height(), 67 * kCapitals / 1.117, 2);
     EXPECT_NEAR(ink.center().x(), 133, 1);
+    // In the middle of the square inside the circle, 39 dots down and 188 high: its top at 100.
+    EXPECT_NEAR(ink.bottom() + 1, 100 + 67 * 0.905 / 1.117, 2);
+}
+
+TEST_F(PieceLayoutTest, AClickOnATokenMeetsItsTextInsideTheSquareOnly) {
+    C_Token& token = basTAVL::g_oTokens(4);
+    token.Init(4);
+    ScratchForm form(QSize(400, 400));
+    const auto meets = [&](int x, int y) {
+        int column = -1;
+        int row = -1;
+        return token.FindInsertPoint(100, 50, 366, 316, form, x, y, column, row);
+    };
+    // Of a box of 266 dots the square is 188 wide, and leaves 39 on each side.
+    EXPECT_TRUE(meets(139, 89));
+    EXPECT_FALSE(meets(138, 89));
+    EXPECT_FALSE(meets(139, 88));
+    EXPECT_TRUE(meets(326, 276));
+    EXPECT_FALSE(meets(327, 276));
+    EXPECT_FALSE(meets(326, 277));
+}
+
+TEST_F(PieceLayoutTest, TheCaretInATokenIsThreeDotsWide) {
+    C_Token& token = basTAVL::g_oTokens(4);
+    token.Init(4);
+    token.BackColor = Color::White();
+    token.SetText(QString());
+    ScratchForm form(QSize(266, 266));
+    PictureHolder scratch;
+    token.Redraw(0, 0, 266, 266, true, form, scratch, {0, 0, 0, 0}, Color::White());
+    const QRect caret = DarkBox(form.Image(), form.Image().rect());
+    EXPECT_EQ(caret.width(), 3);
+    EXPECT_NEAR(caret.center().x(), 133, 1);
+    EXPECT_GT(caret.height(), 3 * caret.width());
+}
+
+TEST_F(PieceLayoutTest, TheWordsOfATokenAreRecordedInTheSizeOfItsSticker) {
+    C_Token token;
+    token.Font.Size = 48;
+    token.SetText(QStringLiteral("H"));
+    token.Let_TextSize(0.0402F);
+    const PrintedText printed = frmBMP::RecordTokenText(token);
+    const QList<WrittenText> texts = WrittenTextsOf(*printed.recording, printed.inches);
+    ASSERT_EQ(texts.size(), 1);
+    // 0.0402 of 266 dots times 6.329 are 67.68: a line of 68 dots, of which 304 are an inch.
+    EXPECT_NEAR(texts[0].dblPoints, 68 / 1.117 / 304 * 72, 0.05);
+    EXPECT_NEAR(texts[0].box.center().x(), 0.875 / 2, 0.01);
 }

@@ -1,14 +1,17 @@
 // SPDX-License-Identifier: MIT
 // Pictures of the pieces: what is in the files, and what a printer makes of them.
 #include "pieces/frmBMP.h"
+#include "pieces/MadePicture.h"
 #include "pieces/StickersUsingBMP.h"
 #include "platform/files/Files.h"
 #include "platform/files/Folders.h"
 #include "platform/paint/Surface.h"
+#include "platform/paint/WrittenTexts.h"
 #include "platform/pictures/LoadPicture.h"
 #include "platform/printing/Printer.h"
 #include "render/clsRenderDestination.h"
 #include "services/basCommon.h"
+#include "services/basErrLog.h"
 #include "services/WorkFiles.h"
 #include "support/GameFixture.h"
 #include "support/MetafileBuilder.h"
@@ -120,6 +123,44 @@ TEST_F(PiecesTest, ALineTooLongForItsSurfaceBecomesLowerAndStaysWhole) {
         if (qGreen(line.pixel(x, line.height() / 2)) < 128) lastInk = x;
     }
     EXPECT_GT(lastInk, line.width() - line.height()) << "the last letter is there";
+}
+
+TEST_F(PiecesTest, ALineAHairHighIsAPixelHigh) {
+    // 0.9 and 0.3 of a pixel at 300 dots an inch.
+    for (const double inches : {0.003, 0.001}) {
+        ASSERT_TRUE(frmBMP::Instance().GenerateSingleLineImage(file, 1, inches, QStringLiteral("H"),
+                                                               QStringLiteral("Arial"), false, false, Color::Black(),
+                                                               Color::White()));
+        EXPECT_EQ(Load(file).height(), 1) << inches;
+    }
+}
+
+TEST_F(PiecesTest, ATextTooLongForAnyLettersHasThemOfOnePoint) {
+    // 3,000 letters in 504 pixels: there is no size at which they would fit.
+    const PrintedText printed =
+        frmBMP::RecordTextImage(1.75, 0.571, QString(3000, u'H'), QStringLiteral("Arial"), false, false, 0.2);
+    const QList<WrittenText> texts = WrittenTextsOf(*printed.recording, printed.inches);
+    ASSERT_EQ(texts.size(), 1);
+    EXPECT_NEAR(texts[0].dblPoints, 1.0 / 3, 0.01) << "drawn at three times 96 dots an inch";
+}
+
+TEST_F(PiecesTest, AWorkingFileThatStaysIsLoggedAndOneThatGoesIsNot) {
+    basErrLog::ErrInit(60000);
+    const auto logged = [] { return ReadFile(basErrLog::ErrLogPath()).size(); };
+    const QString made = WriteFile(QStringLiteral("CornerImage1.bmp"), "picture");
+    const qsizetype before = logged();
+    Files::SetFaultHook([](Files::Operation operation, const QString&) -> std::optional<QString> {
+        return operation == Files::Operation::Remove ? std::optional(QStringLiteral("It is in use")) : std::nullopt;
+    });
+    MadePicture::Delete(made);
+    Files::SetFaultHook({});
+    EXPECT_TRUE(ReadFile(basErrLog::ErrLogPath()).contains("It is in use"));
+    const qsizetype after = logged();
+    EXPECT_GT(after, before);
+    MadePicture::Delete(made);
+    EXPECT_FALSE(Files::Exists(made));
+    EXPECT_EQ(logged(), after);
+    EXPECT_TRUE(desktop.boxes.isEmpty());
 }
 
 TEST_F(PiecesTest, ALineBreakBecomesABlank) {
