@@ -44,6 +44,17 @@ TEST(Checks, EveryRowHasAWordOfItsOwn) {
     EXPECT_EQ(size_t(names.size()), Checks().size());
 }
 
+TEST_F(CheckTest, AFindingOfAKindThatThereIsNotIsRefused) {
+    Finding finding;
+    finding.sCheck = QStringLiteral("board-too-good");
+    try {
+        MendingOf(finding);
+        ADD_FAILURE() << "taken for one of a kind";
+    } catch (const TavloraError& error) {
+        EXPECT_EQ(error.Description(), QStringLiteral("Assertion Failure: Every finding is of a kind"));
+    }
+}
+
 TEST_F(CheckTest, FindingsComeByPieceAndTheSameTwice) {
     Spoil(game);
     const std::vector<Finding> once = Findings();
@@ -108,6 +119,45 @@ TEST_F(CheckTest, OtherKitsAreCheckedByWhatTheyPrint) {
     EXPECT_EQ(Of("text-small").size(), 1);
     game.kit = Kit::Two;
     ExpectNone("text-small");
+}
+
+TEST_F(CheckTest, TheSummaryCountsWhatIsSeriousInPlainWords) {
+    std::vector<Finding> findings(3);
+    EXPECT_EQ(FindingWords::Summary({}), QStringLiteral("Nothing to look at"));
+    EXPECT_EQ(FindingWords::Summary(findings), QStringLiteral("Nothing to look at")) << "hints only";
+    findings[1].severity = Severity::Should;
+    EXPECT_EQ(FindingWords::Summary(findings), QStringLiteral("1 thing to look at"));
+    findings[2].severity = Severity::Must;
+    EXPECT_EQ(FindingWords::Summary(findings), QStringLiteral("2 things to look at"));
+}
+
+TEST_F(CheckTest, APieceIsCalledByTheFamilysNameOrByItsPlace) {
+    game.spaces[4].SetText(QStringLiteral("Oak\r\nStreet"));
+    game.spaces[5].SetText(QString());
+    game.corners[1].SetText(0, QStringLiteral("Rest"));
+    game.corners[2].SetText(0, QString());
+    game.corners[2].SetText(1, QString());
+    game.tokens[0].SetText(QStringLiteral("Mum"));
+    game.tokens[5].SetText(QString());
+    const struct {
+        GamePiece piece;
+        const char* name;
+    } rows[] = {{GamePiece::Whole(), "The whole game"},
+                {GamePiece::Titles(), "Title and subtitles"},
+                {GamePiece::Space(4), "Space \"Oak Street\""},
+                {GamePiece::Space(5), "Space 6"},
+                {GamePiece::Corner(1), "Corner \"Rest\""},
+                {GamePiece::Corner(2), "Corner 3"},
+                {GamePiece::Deck(0), "Title of the Good News cards"},
+                {GamePiece::Deck(1), "Title of the Bad News cards"},
+                {GamePiece::Card(0, 0), "Good News card 1"},
+                {GamePiece::Card(1, 11), "Bad News card 12"},
+                {GamePiece::Money(0), "$100 note"},
+                {GamePiece::Money(3), "$5,000 note"},
+                {GamePiece::Token(0), "Token \"Mum\""},
+                {GamePiece::Token(5), "Token 6"}};
+    for (const auto& row : rows)
+        EXPECT_EQ(row.piece.NameIn(game), QString::fromLatin1(row.name));
 }
 
 TEST_F(CheckTest, FindingsForScriptsAreJson) {

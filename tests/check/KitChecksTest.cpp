@@ -80,6 +80,9 @@ TEST_F(CheckTest, BlackOnADarkNoteOrTokenIsTold) {
     ExpectNone("colours-near");
     game.money[2].BackColor = Color::Rgb(88, 88, 88);
     ExpectOnly("colours-near", GamePiece::Money(2));
+    // So near to black that the brightness grows evenly, by a thirteenth of the share: a contrast of 1.06.
+    game.money[2].BackColor = Color::Rgb(10, 10, 10);
+    ExpectOnly("colours-near", GamePiece::Money(2));
     game.money[2].BackColor = Color::White();
     game.tokens[1].BackColor = Color::Rgb(88, 88, 88);
     ExpectOnly("colours-near", GamePiece::Token(1));
@@ -119,4 +122,22 @@ TEST_F(CheckTest, DarkLabelsAndNotesTakeMuchInk) {
     game.money[0].BackColor = Color::White();
     basTAVL::g_lPrintBack() = Color::Rgb(100, 100, 100);
     EXPECT_EQ(Of("much-ink").size(), 2) << "west and east";
+}
+
+TEST_F(CheckTest, TheBandsOfBothRowsOfASheetTakeInk) {
+    for (C_Space& space : game.spaces)
+        space.SpaceColor = Color::None();
+    const auto sheets = [this] {
+        QStringList told;
+        for (const Finding& finding : Of("much-ink"))
+            told += finding.sheets;
+        return told;
+    };
+    // Twelve spaces of 1.65 by 2.8125 inches on 8 by 10.5, of a grey of 0.592: 39 %. There are titles in the east, too.
+    basTAVL::g_lPrintBack() = Color::Rgb(104, 104, 104);
+    EXPECT_EQ(sheets(), QStringList{QStringLiteral("east")});
+    // Five bands of the lower row, of 1.65 by 0.4375 inches: in black they take 2 % more.
+    for (const size_t space : {6U, 5U, 4U, 2U, 1U})
+        game.spaces[space].SpaceColor = Color::Black();
+    EXPECT_EQ(sheets(), (QStringList{QStringLiteral("west"), QStringLiteral("east")}));
 }
