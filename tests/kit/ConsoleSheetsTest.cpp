@@ -33,3 +33,14 @@ TEST_F(ConsoleSheetsTest, DocumentsAreNamedAfterGameAndSheet) {
     EXPECT_EQ(DocumentName(QStringLiteral("C:\\Games\\Elm.gam"), QStringLiteral("Rules")),
               QStringLiteral("Elm - Rules"));
 }
+
+TEST_F(ConsoleSheetsTest, OfManyMissingPiecesThreeAreToldAndTheOthersCounted) {
+    QStringList lacking;
+    for (int i = 1; i <= 3; ++i)
+        lacking.append(QStringLiteral("Space %1 is missing.").arg(i));
+    EXPECT_EQ(LackingMessage(lacking),
+              QStringLiteral("Space 1 is missing.\r\nSpace 2 is missing.\r\nSpace 3 is missing."));
+    lacking += {QStringLiteral("Space 4 is missing."), QStringLiteral("Space 5 is missing.")};
+    EXPECT_EQ(LackingMessage(lacking),
+              QStringLiteral("Space 1 is missing.\r\nSpace 2 is missing.\r\nSpace 3 is missing.\r\nand 2 more."));
+}

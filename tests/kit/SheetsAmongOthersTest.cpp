@@ -106,6 +106,34 @@ TEST_F(SheetsAmongOthersTest, TheDisorderlySheetIsSeenWhereNothingIsSetAfresh) {
     EXPECT_EQ(page.FontSize(), PicturePrinter(kDotsPerInch).FontSize());
 }
 
+// "12 Space" where it tells of the first of twelve spaces up to the last, one by one.
+TEST_F(SheetsAmongOthersTest, ASheetTellsWhichPieceComesNextAndOfHowMany) {
+    const struct {
+        const char* sheet;
+        QStringList told;
+    } rows[] = {{"box", {QStringLiteral("4 Title"), QStringLiteral("6 Token")}},
+                {"west", {QStringLiteral("12 Space"), QStringLiteral("3 Corner")}},
+                {"east", {QStringLiteral("12 Space"), QStringLiteral("2 Title")}},
+                {"deeds1", {QStringLiteral("12 Deed")}},
+                {"good", {QStringLiteral("12 Card")}},
+                {"money500", {QStringLiteral("10 Note")}}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.sheet);
+        const Sheet& sheet = *FindSheet(QString::fromLatin1(row.sheet));
+        PicturePrinter page(60);
+        QStringList told;
+        int last = 0;
+        SheetJob job{.printer = page, .Piece = [&](const char* sPiece, int iPiece, int nPieces) {
+                         EXPECT_EQ(iPiece, last + 1) << sPiece;
+                         last = iPiece % nPieces;
+                         if (iPiece == nPieces)
+                             told.append(QStringLiteral("%1 %2").arg(nPieces).arg(QLatin1String(sPiece)));
+                     }};
+        EXPECT_TRUE(sheet.Prepare(job) && sheet.Print(job));
+        EXPECT_EQ(told, row.told);
+    }
+}
+
 // A warning of a page that is too small is true only as long as the rows say where the ink ends.
 TEST_F(SheetsAmongOthersTest, TheInkOfASheetEndsWhereItsRowSays) {
     if (!PdfReader::IsInstalled()) GTEST_SKIP() << "poppler's tools are not installed";

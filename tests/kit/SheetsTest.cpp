@@ -3,6 +3,7 @@
 #include "kit/Sheets.h"
 
 #include "kit/ConsoleSheets.h"
+#include "kit/LabelSheet.h"
 #include "platform/printing/PicturePrinter.h"
 #include "support/TestFixture.h"
 #include "support/ToldSheets.h"
@@ -184,6 +185,37 @@ TEST_F(SheetsTest, ButtonsWithoutASheetPaintNothing) {
         SheetJob job{page};
         EXPECT_TRUE(sheet.Print(job)) << sheet.iButton;
         EXPECT_EQ(page.Page().Image(), PicturePrinter(60).Page().Image()) << sheet.iButton;
+    }
+}
+
+TEST_F(SheetsTest, ButtonsWithoutASheetNeedNoRoomOnAnyPaper) {
+    ASSERT_EQ(ButtonsWithoutSheet().size(), 3U);
+    for (const Sheet& sheet : ButtonsWithoutSheet()) {
+        for (const Kit kit : kKits) {
+            EXPECT_EQ(sheet.NeededInches(kit), QSizeF(0, 0)) << sheet.iButton;
+            EXPECT_EQ(sheet.WhatIsLostOn({0.5, 0.5}, kit), QString()) << sheet.iButton;
+        }
+    }
+}
+
+TEST_F(SheetsTest, ATitleThatCouldNotBeMadeIsToldInABoxAndKept) {
+    using TitlePictures::Title;
+    const struct {
+        Title title;
+        const char* name;
+    } rows[] = {{Title::kTitle, "The title"},
+                {Title::kSubtitle, "The subtitle"},
+                {Title::kSubtitleRed, "The subtitle"},
+                {Title::kSubtitleLines, "The subtitle"}};
+    for (const auto& row : rows) {
+        PicturePrinter page(60);
+        SheetJob job{page};
+        desktop.boxes.clear();
+        EXPECT_FALSE(LabelSheet::TellTitle(job, row.title, "Cannot create it"));
+        EXPECT_EQ(desktop.Texts(), QStringList{QStringLiteral("Cannot create it")});
+        ASSERT_EQ(job.lacking.size(), 1);
+        const QString lacking = QLatin1String(row.name) + QStringLiteral(" could not be made: ");
+        EXPECT_TRUE(job.lacking[0].startsWith(lacking)) << job.lacking[0].toStdString();
     }
 }
 
