@@ -368,6 +368,27 @@ TEST_F(BoardSpacesTest, Edge_SpaceScrolledOutOfViewIsNotFilledAndNotShowing) {
         EXPECT_TRUE(g_oSpaces(i).IsShowing) << i;
 }
 
+TEST_F(BoardSpacesTest, ASpaceThatOnlyTouchesAnEdgeOfTheViewIsInIt) {
+    constexpr int kSpace = 5;
+    const Box whole = Whole(kSpace);
+    const auto isInView = [this](int offsetX, int offsetY) {
+        Paint({.offsetX = offsetX, .offsetY = offsetY});
+        return g_oSpaces(kSpace).IsShowing;
+    };
+    const int left = -Nearest(whole.x2 * kScale);
+    EXPECT_TRUE(isInView(left, 0));
+    EXPECT_FALSE(isInView(left - 1, 0));
+    const int top = -Nearest(whole.y2 * kScale);
+    EXPECT_TRUE(isInView(0, top));
+    EXPECT_FALSE(isInView(0, top - 1));
+    const int right = kScale - Nearest(whole.x1 * kScale);
+    EXPECT_TRUE(isInView(right, 0));
+    EXPECT_FALSE(isInView(right + 1, 0));
+    const int bottom = kScale - Nearest(whole.y1 * kScale);
+    EXPECT_TRUE(isInView(0, bottom));
+    EXPECT_FALSE(isInView(0, bottom + 1));
+}
+
 // Whatever is painted later may hide what is painted before.
 TEST_F(BoardSpacesTest, LayersArePaintedInTheirOrder) {
     MakeGame();

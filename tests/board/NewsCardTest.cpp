@@ -143,6 +143,16 @@ TEST_F(NewsCardTest, TheBlockOfLinesStandsInTheMiddleOfItsBox) {
     }
 }
 
+TEST_F(NewsCardTest, ATextIsWrittenInItsFontAloneHalfAsWideAsHigh) {
+    // 12 points are 16 pixels, in the middle of 80 that begin 48 down.
+    ScratchForm told(kCard * 3);
+    basDraw::Draw_SetHdc(&told.hDC());
+    basDraw::Draw_SetFont(QStringLiteral("Arial"), 16, 8, 0, 0, false, false, false);
+    basDraw::Draw_Text(QStringLiteral("Pay 500"), QStringLiteral("C"), 240 + 120, 140 + 80, Color::Black());
+    basDraw::Draw_ReleaseObjects();
+    EXPECT_EQ(Text(QStringLiteral("Pay 500"), 12), told.Image());
+}
+
 // Letters are as wide as the box allows, at most half as wide as high; 224 pixels are the box's width.
 TEST_F(NewsCardTest, ALongLineGetsLettersThatFitTheBoxByWidth) {
     for (const int letters : {20, 30, 60}) {

@@ -139,6 +139,31 @@ TEST_F(clsBMPTest, TextIsInkOnPaperAtBothDepths) {
     }
 }
 
+TEST_F(clsBMPTest, SmoothEdgesAreMixedToTheNearestShade) {
+    const auto text = [this](Color ink, Color paper) {
+        bmp.SetFontInfo(QStringLiteral("Arial"), 60, false, false);
+        bmp.Let_BitsPerPixel(24);
+        bmp.Let_FullPathToBmpFile(PathOf(QStringLiteral("text.temp")));
+        EXPECT_TRUE(bmp.CreateFileHoldingText(QStringLiteral("SOCQ8369&%@sxwvz"), ink, paper));
+        return Loaded(bmp.FullPathToBmpFile());
+    };
+    // In black on white a value is the share of the paper, in parts of 255. Of paper of 1, 2 and 4 it is 0.502 of a
+    // shade at a share of 128, 64 and 32, which is nearer to the next.
+    const QImage shares = text(Color::Black(), Color::White());
+    const QImage mixed = text(Color::Black(), Color::Rgb(1, 2, 4));
+    ASSERT_EQ(mixed.size(), shares.size());
+    int barely = 0;
+    for (int y = 0; y < shares.height(); ++y) {
+        for (int x = 0; x < shares.width(); ++x) {
+            const int share = qRed(shares.pixel(x, y));
+            const auto nearest = [share](int paper) { return qRound(share * paper / 255.0); };
+            ASSERT_EQ(mixed.pixel(x, y), qRgb(nearest(1), nearest(2), nearest(4))) << share;
+            if (share == 128 || share == 64 || share == 32) ++barely;
+        }
+    }
+    EXPECT_GT(barely, 0);
+}
+
 TEST_F(clsBMPTest, TextWiderThanASurfaceMayBeComesSmaller) {
     const int wide = TextFile(QStringLiteral("A rather long line"), 24).width();
     ScratchForm::SetLargestSize(QSize(160, 100));
