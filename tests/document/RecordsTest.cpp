@@ -292,6 +292,19 @@ TEST_F(RecordsTest, EveryMemberOfANoteIsComparedAndCopied) {
         [](C_Money& m) { m.BackImage.Let_Zoom(3); });
 }
 
+TEST_F(RecordsTest, ANoteThatTakesAnothersContentTellsNothingOfThePicturesOfEither) {
+    C_Money there;
+    there.FaceImage.Init(WriteFile(QStringLiteral("cat.png"), "picture"), QStringLiteral("Money"), 1);
+    C_Money away;
+    away.FaceImage.Let_SpaceOrCorner(QStringLiteral("Money"));
+    away.FaceImage.Let_Index(2);
+    away.FaceImage.Let_FullPath(PathOf(QStringLiteral("gone.png")));
+    ASSERT_EQ(desktop.boxes.size(), 1) << "the one that is away";
+    there.LoadFromObject(away);
+    EXPECT_EQ(desktop.boxes.size(), 1);
+    EXPECT_EQ(there.FaceImage.FullPath(), PathOf(QStringLiteral("gone.png")));
+}
+
 TEST_F(RecordsTest, EveryMemberOfATokenIsComparedAndCopied) {
     C_Token token;
     token.SetQuotedString(QStringLiteral("2, \"a\""));

@@ -107,12 +107,14 @@ TEST_F(EarlierVersionsTest, WhatTheDiskRefusesIsNoHindranceToTheSave) {
 }
 
 TEST_F(EarlierVersionsTest, OnADiskThatIsNearlyFullTheRoomBelongsToTheGame) {
-    Folders::PretendFreeBytes(1e6);
+    // Of 32 MiB not a byte may lack.
+    Folders::PretendFreeBytes(33'554'431);
     SaveAt(0, QStringLiteral("Oak"));
-    Folders::PretendFreeBytes(-1);
     EXPECT_TRUE(Of(game).isEmpty());
     EXPECT_TRUE(desktop.boxes.isEmpty());
+    Folders::PretendFreeBytes(33'554'432);
     SaveAt(1, QStringLiteral("Elm"));
+    Folders::PretendFreeBytes(-1);
     EXPECT_EQ(Of(game).size(), 1);
 }
 

@@ -217,6 +217,20 @@ TEST_F(LoadTest, EveryRecordIsRead) {
     EXPECT_TRUE(desktop.boxes.isEmpty());
 }
 
+// What goes with the spaces and corners waits for the last corner, and what goes with the cards for the last card.
+TEST_F(LoadTest, AGameThatEndsAmidAPartGetsWhatGoesWithThePartsAheadOfIt) {
+    const auto side = [] { return basPosit::m_SideRec(1).sText; };
+    const auto blank = [] { return basTAVL::g_oMoney(1).BackImage.FullPath(); };
+    MessageForLines(PlainLines().mid(0, 34));
+    EXPECT_EQ(side(), QString());
+    MessageForLines(PlainLines().mid(0, 35));
+    EXPECT_EQ(side(), QStringLiteral("The West Side"));
+    MessageForLines(PlainLines().mid(0, 58));
+    EXPECT_EQ(blank(), QString());
+    MessageForLines(PlainLines().mid(0, 59));
+    EXPECT_EQ(blank(), PathOf(QStringLiteral("program/BLNK500.dat")));
+}
+
 TEST_F(LoadTest, BlankNotesAreTakenAsBitmapsWhereThereAreSuch) {
     const QString bitmap = WriteFile(QStringLiteral("program/BLNK500.bmp"), "picture");
     EXPECT_EQ(Load(WriteGame(PlainLines())), 0);

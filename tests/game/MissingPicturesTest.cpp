@@ -139,6 +139,21 @@ TEST_F(MissingPicturesTest, OfTwoOfANameItIsTheOneOnWhoseMiddleThePieceIsCentere
               PathOf(QStringLiteral("new/b/cat.png")));
 }
 
+TEST_F(MissingPicturesTest, TheMiddleOfAnOddSideIsHalfAPixelBesideIt) {
+    Show(1, PathOf(QStringLiteral("old/first.png")));
+    Show(2, PathOf(QStringLiteral("old/cat.png")));
+    // Of 91 x 69: 45.5 and 34.5, halves to even.
+    game.spaces[2].Image.Let_XCenter(46);
+    game.spaces[2].Image.Let_YCenter(34);
+    game.spaces[2].Image.Let_Zoom(0);
+    Photo(QStringLiteral("new/a/cat.png"), Qt::red, QSize(91, 65));
+    Photo(QStringLiteral("new/b/cat.png"), Qt::red, QSize(91, 69));
+    Photo(QStringLiteral("new/c/cat.png"), Qt::red, QSize(94, 69));
+    EXPECT_EQ(LookAround(PathOf(QStringLiteral("old/first.png")), Photo(QStringLiteral("new/first.png")))
+                  .value(PathOf(QStringLiteral("old/cat.png"))),
+              PathOf(QStringLiteral("new/b/cat.png")));
+}
+
 TEST_F(MissingPicturesTest, OfTwoOfANameItIsTheOneThatThePieceHasShown) {
     const QString old = Photo(QStringLiteral("old/cat.png"), Qt::blue);
     Show(1, PathOf(QStringLiteral("old/first.png")));
