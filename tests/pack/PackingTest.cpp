@@ -3,6 +3,7 @@
 
 #include "pack/PackFixture.h"
 #include "pack/PackReader.h"
+#include "pack/ZipReader.h"
 
 namespace {
 
@@ -134,6 +135,20 @@ TEST_F(PackingTest, AFullDiskLeavesTheOldFile) {
     EXPECT_FALSE(Packing::Write(Gathered(PlainLines(), QStringLiteral("x.gam")), packed, {}, error));
     EXPECT_EQ(error, QStringLiteral("No space left"));
     EXPECT_EQ(ReadFile(packed), QByteArray("old"));
+}
+
+TEST_F(PackingTest, ABitmapIsShrunkAndWhatIsShrunkAlreadyGoesInAsItIs) {
+    const QImage image = PictureFiles::Quarters(20, 20);
+    const QMap<int, QString> pictures{{3, WriteFile(QStringLiteral("a.bmp"), PictureFiles::Bmp(image))},
+                                      {4, WriteFile(QStringLiteral("b.png"), PictureFiles::Encoded(image, "PNG"))},
+                                      {5, WriteFile(QStringLiteral("c.jpg"), PictureFiles::Encoded(image, "JPEG"))}};
+    const std::optional<ZipReader> zip =
+        ZipReader::Open(Packed(Gathered(LinesWith(pictures), QStringLiteral("x.gam"))));
+    ASSERT_TRUE(zip);
+    ASSERT_EQ(zip->Entries().size(), 5) << "the kind of file, the game and its pictures";
+    EXPECT_LT(zip->Entries()[2].packedSize, zip->Entries()[2].size / 2);
+    EXPECT_EQ(zip->Entries()[3].packedSize, zip->Entries()[3].size);
+    EXPECT_EQ(zip->Entries()[4].packedSize, zip->Entries()[4].size);
 }
 
 TEST_F(PackingTest, NearlyEmptyBitmapsAreNoTrapToWhoeverOpensThem) {

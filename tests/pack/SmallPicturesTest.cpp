@@ -76,6 +76,16 @@ TEST_F(SmallPicturesTest, TwoNamesThatBecomeOneStayApart) {
     EXPECT_TRUE(contents.pictures[0].smaller && contents.pictures[1].smaller);
 }
 
+TEST_F(SmallPicturesTest, ItTellsHowFarItIsInThousandths) {
+    QMap<int, QString> pictures;
+    for (int i = 0; i < 4; ++i)
+        pictures[3 + i] = WritePicture(QStringLiteral("%1.png").arg(i), i);
+    Packing::Contents contents = Gathered(LinesWith(pictures), QStringLiteral("x.gam"));
+    QList<int> told;
+    EXPECT_TRUE(SmallPictures::Make(contents, [&told](int iThousandths) { return told.append(iThousandths), true; }));
+    EXPECT_EQ(told, (QList<int>{0, 250, 500, 750}));
+}
+
 TEST_F(SmallPicturesTest, ItCanBeStopped) {
     Packing::Contents contents =
         Gathered(LinesWith({{3, WritePhoto(QStringLiteral("a.jpg"), 1800, 1200)}}), QStringLiteral("x.gam"));

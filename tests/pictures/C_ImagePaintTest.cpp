@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "pictures/BoardThumbnail.h"
 #include "pictures/C_Image.h"
 #include "pictures/PaintPicture.h"
+#include "pictures/ThumbnailStore.h"
 #include "platform/files/Files.h"
 #include "platform/files/Folders.h"
 #include "platform/pictures/LoadPicture.h"
@@ -16,6 +18,7 @@
 #include <QDateTime>
 #include <QFile>
 #include <QPainter>
+#include <QRectF>
 
 namespace {
 
@@ -173,6 +176,22 @@ TEST_F(C_ImagePaintTest, LineDrawingTakesAPaperColourWithRedAndBlueExchanged) {
     EXPECT_FALSE(Files::Exists(PathOf(QStringLiteral("TempImage.bmp"))));
 }
 
+TEST_F(C_ImagePaintTest, ALineDrawingThatCannotBeRecoloredIsLoggedAndNotTakenAsPainted) {
+    basErrLog::ErrInit(60000);
+    C_Image image;
+    image.Let_FullPath(LineDrawing(QStringLiteral("art.bmp")));
+    Files::SetFaultHook([](Files::Operation operation, const QString& at) -> std::optional<QString> {
+        const bool hit = operation == Files::Operation::OpenWrite && at.endsWith(QStringLiteral("TempImage.bmp"));
+        return hit ? std::optional(QStringLiteral("The disk is full")) : std::nullopt;
+    });
+    EXPECT_FALSE(Zoomed(image, 100, Color::Rgb(10, 20, 30)));
+    Files::SetFaultHook({});
+    EXPECT_TRUE(QString::fromUtf8(ReadFile(PathOf(QStringLiteral("tavlora.log"))))
+                    .contains(QStringLiteral("The disk is full")));
+    EXPECT_TRUE(desktop.boxes.isEmpty());
+    EXPECT_TRUE(Zoomed(image, 100, Color::Rgb(10, 20, 30)));
+}
+
 TEST_F(C_ImagePaintTest, APictureWiderThanACentreReachesIsPaintedAllTheSame) {
     C_Image image;
     image.Let_FullPath(Photo(QStringLiteral("wide.png"), 70000, 4));
@@ -266,6 +285,35 @@ TEST_F(C_ImagePaintTest, BoardShowsTheThumbnailAndAFinerRenderingWhereItIsLarge)
     image.DrawBitmapToScreen(large, 0, 0, 400, 400);
     EXPECT_EQ(large.Image().pixel(198, 10), qRgb(0, 0, 255));
     EXPECT_EQ(large.Image().pixel(201, 10), qRgb(255, 0, 0)) << "the edge of an enlarged thumbnail would be blurred";
+}
+
+// Renders nothing but keeps how large it was wanted.
+class SideNoting : public ThumbnailMaker {
+public:
+    void CreateThumbRotatedTo90(const OwnedPicture&) override {}
+    void CreateThumbRotatedTo45(const OwnedPicture&) override {}
+    void CreateThumbElliptical(const OwnedPicture&, bool) override {}
+    Picture RenderRotated(const OwnedPicture&, int lSide) override {
+        sides.append(lSide);
+        return Picture(QImage(1, 1, QImage::Format_RGB32));
+    }
+    static SideNoting& Instance() {
+        static SideNoting maker;
+        return maker;
+    }
+    QList<int> sides;
+};
+
+TEST_F(C_ImagePaintTest, AFinerRenderingIsEvenAndNoLargerThanAnyScreenNeeds) {
+    C_Image image;
+    image.Init(Photo(QStringLiteral("p.png"), 30, 20), QStringLiteral("Space"), 7);
+    const ThumbnailMaker::Creator before =
+        ThumbnailMaker::Install([]() -> ThumbnailMaker& { return SideNoting::Instance(); });
+    SideNoting::Instance().sides.clear();
+    for (const int side : {101, 102, 2047, 2048, 2049, 5000})
+        PaintThumbnailOf(image.Owned(), form, QRectF(0, 0, side, side));
+    ThumbnailMaker::Install(before);
+    EXPECT_EQ(SideNoting::Instance().sides, (QList<int>{102, 102, 2048, 2048, 2048, 2048}));
 }
 
 TEST_F(C_ImagePaintTest, FateIsPaintedFromTheKit) {

@@ -10,6 +10,7 @@
 
 #include <QDateTime>
 #include <QFile>
+#include <QtEndian>
 
 namespace {
 
@@ -94,6 +95,20 @@ TEST_F(ThumbnailFileTest, NamesOfThumbnailsAreKnownInAnyCase) {
     for (const char* name : {"Space.bmp", "Space1.png", "Spaces1.bmp", "MySpace1.bmp", "Space1a.bmp", "Space 1.bmp",
                              "Space-1.bmp", "Space1.bmp.jpg", "1.bmp", ""})
         EXPECT_FALSE(ThumbnailFile::HasNameOfOne(PathOf(QString::fromLatin1(name)))) << name;
+}
+
+TEST_F(ThumbnailFileTest, EveryKindOfPieceHasItsSize) {
+    const struct {
+        const char* kind;
+        quint32 width;
+        quint32 height;
+    } rows[] = {{"Space", 100, 100}, {"Corner", 100, 100}, {"Money", 164, 190}, {"Token", 200, 200}};
+    for (const auto& row : rows) {
+        const QByteArray thumb = Thumbnail(QString::fromLatin1(row.kind));
+        ASSERT_GT(thumb.size(), 54) << row.kind;
+        EXPECT_EQ(qFromLittleEndian<quint32>(thumb.constData() + 18), row.width) << row.kind;
+        EXPECT_EQ(qFromLittleEndian<quint32>(thumb.constData() + 22), row.height) << row.kind;
+    }
 }
 
 TEST_F(ThumbnailFileTest, AThumbnailHasItsNameAndItsHeads) {
