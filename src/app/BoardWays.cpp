@@ -45,7 +45,7 @@ QString SpokenPrice(const QString& sCost) {
 
 QString SpokenSpace(int iSpace, const Game& game) {
     const C_Space& space = game.spaces.at(size_t(iSpace));
-    const QString name = GameWords::OfSpace(game, iSpace);
+    const QString name = GameWords::Shortened(GameWords::OfSpace(game, iSpace));
     return QStringLiteral("%1, space %2 of %3%4")
         .arg(GameWords::IsBlank(name) ? QStringLiteral("No name yet") : name)
         .arg(iSpace + 1)
@@ -85,10 +85,11 @@ QString Spoken(const BoardPlace& place, const Game& game) {
     if (place.m_iOverSpace >= 0) return SpokenSpace(place.m_iOverSpace, game);
     if (place.m_iOverCorner >= 0)
         return QStringLiteral("%1, corner %2 of %3")
-            .arg(GameWords::OfCorner(game, place.m_iOverCorner))
+            .arg(GameWords::Shortened(GameWords::OfCorner(game, place.m_iOverCorner)))
             .arg(place.m_iOverCorner + 1)
             .arg(basTAVL::kCorners);
-    if (place.m_bOverTitles) return QStringLiteral("%1, the game's titles").arg(GameWords::OfTitle(game, 1));
+    if (place.m_bOverTitles)
+        return QStringLiteral("%1, the game's titles").arg(GameWords::Shortened(GameWords::OfTitle(game, 1)));
     if (place.m_bOverGoodNews) return QStringLiteral("Good News, %1 cards").arg(basTAVL::kCards);
     if (place.m_bOverBadNews) return QStringLiteral("Bad News, %1 cards").arg(basTAVL::kCards);
     if (place.m_bOverMoney) return QStringLiteral("Money, %1 notes").arg(basTAVL::kMoney);

@@ -3,6 +3,7 @@
 
 #include "check/GameWords.h"
 #include "check/OwnPieces.h"
+#include "platform/paint/FontFace.h"
 
 namespace {
 
@@ -18,6 +19,11 @@ bool IsBegunIn(const Game& game) {
     return 2 * filled > own;
 }
 
+void LookAtLetters(PaperText& text) {
+    for (const WrittenText& line : text.written)
+        text.lacking.append(FontFace::Get(line.sFamily, line.bBold, line.bItalic).Unprintable(line.sText));
+}
+
 } // namespace
 
 CheckedGame::CheckedGame(const Game& checked, PictureFacts& facts, CheckOptions known)
@@ -26,6 +32,10 @@ CheckedGame::CheckedGame(const Game& checked, PictureFacts& facts, CheckOptions 
 bool CheckedGame::Gather() {
     if (AddPaperTexts(game, m_part, m_texts)) {
         ++m_part;
+        return true;
+    }
+    if (m_lookedAt < m_texts.size()) {
+        LookAtLetters(m_texts[m_lookedAt++]);
         return true;
     }
     return GatherPicture();

@@ -30,7 +30,8 @@ public:
     const std::vector<PaperText>& Texts() const { return m_texts; }
     const std::vector<PaperPicture>& Pictures() const { return m_pictures; }
 
-    /// Works out a little more of what the checks want to know: the words of a piece, or one picture. False when
+    /// Works out a little more of what the checks want to know: the words of a piece, the
+    /// letters of one text, or one picture. False when
     /// nothing is left; the checks may be run only then.
     bool Gather();
 
@@ -40,6 +41,7 @@ private:
     PictureFacts& m_facts;
     bool m_begun;
     int m_part = 0;
+    size_t m_lookedAt = 0;
     size_t m_picture = 0;
     std::vector<PaperText> m_texts;
     std::vector<PaperPicture> m_pictures;

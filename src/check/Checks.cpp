@@ -98,7 +98,7 @@ std::optional<Edit> Mend(const Game& game, const Finding& finding, const QString
 bool IsToldElsewhere(const Finding& finding) { return CheckOf(finding).bToldElsewhere; }
 
 CheckRun::CheckRun(const Game& game, PictureFacts& facts, const CheckOptions& options)
-    : m_game(game), m_checked(m_game, facts, options) {}
+    : m_game(GameWords::OfReadableLength(game)), m_checked(m_game, facts, options) {}
 
 bool CheckRun::Step() try {
     const DrawingAside aside;

@@ -3,6 +3,7 @@
 
 #include "check/CheckedGame.h"
 #include "check/Finding.h"
+#include "check/GameWords.h"
 #include "check/PieceSheets.h"
 #include "game/Edit.h"
 
@@ -22,12 +23,15 @@ public:
     }
     /// Less bad than such things usually are.
     Finding& Add(GamePiece piece, Severity severity, const QString& sText, const QString& sAdvice) {
-        return m_list.emplace_back(
-            Finding{QString::fromLatin1(m_check), severity, piece, sText, sAdvice, PieceSheets::Of(piece)});
+        return m_list.emplace_back(Finding{QString::fromLatin1(m_check), severity, piece,
+                                           GameWords::Shortened(sText, kMostLetters), sAdvice, PieceSheets::Of(piece)});
     }
     const std::vector<Finding>& List() const { return m_list; }
 
 private:
+    // Names of files and typefaces in it may be of any length.
+    static constexpr qsizetype kMostLetters = 400;
+
     const char* m_check;
     Severity m_severity;
     std::vector<Finding> m_list;

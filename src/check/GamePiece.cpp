@@ -12,7 +12,8 @@ QString Numbered(const char* sWhat, int iFromNought) {
 }
 
 QString NameOrNumber(const QString& sName, const char* sWhat, int iFromNought) {
-    return GameWords::IsBlank(sName) ? Numbered(sWhat, iFromNought) : QLatin1String(sWhat) + u' ' + Quoted(sName);
+    return GameWords::IsBlank(sName) ? Numbered(sWhat, iFromNought)
+                                     : QLatin1String(sWhat) + u' ' + Quoted(GameWords::Shortened(sName));
 }
 
 constexpr const char* kDecks[] = {"Good News", "Bad News"};

@@ -16,6 +16,13 @@ QString OfToken(const Game& game, int iToken);
 /// Of a title by its number, 1 to 5.
 QString OfTitle(const Game& game, int iTitle);
 
+/// The game with no more of each text than anybody could read on paper, a thousand letters: what is longer is found to
+/// be too long by that much, and takes no time to be measured.
+Game OfReadableLength(const Game& game);
+
+/// No more of a text than a sentence has room for, and three dots for the rest.
+QString Shortened(const QString& sText, qsizetype most = 80);
+
 /// Nothing but blanks, or what stands for a text that nobody has written yet.
 bool IsBlank(const QString& sText);
 

@@ -1,10 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "check/Checks.h"
-#include "platform/paint/FontFace.h"
 
+#include <algorithm>
 #include <map>
 
 namespace {
+
+// By then a person knows what is the matter.
+constexpr qsizetype kMostNamed = 12;
+
+QString Named(const QStringList& letters) {
+    const QString named = letters.first(std::min(letters.size(), kMostNamed)).join(u' ');
+    const qsizetype others = letters.size() - kMostNamed;
+    return others > 0 ? QStringLiteral("%1 and %2 more").arg(named).arg(others) : named;
+}
 
 struct Lacking {
     QStringList letters;
@@ -17,13 +26,9 @@ template <>
 void RunCheck<class LettersMissing>(const CheckedGame& game, Findings& findings) {
     std::map<GamePiece, Lacking> missing;
     for (const PaperText& text : game.Texts()) {
-        for (const WrittenText& line : text.written) {
-            const FontFace& face = FontFace::Get(line.sFamily, line.bBold, line.bItalic);
-            const QStringList letters = face.Unprintable(line.sText);
-            if (letters.isEmpty()) continue;
-            missing[text.piece].letters.append(letters);
-            missing[text.piece].sheets.append(text.sheets);
-        }
+        if (text.lacking.isEmpty()) continue;
+        missing[text.piece].letters.append(text.lacking);
+        missing[text.piece].sheets.append(text.sheets);
     }
     for (auto& [piece, lacking] : missing) {
         QStringList& letters = lacking.letters;
@@ -33,7 +38,7 @@ void RunCheck<class LettersMissing>(const CheckedGame& game, Findings& findings)
         findings
             .Add(piece,
                  QStringLiteral("Paper won't show %1: no font of this computer can print %2.")
-                     .arg(letters.join(u' '), one ? QStringLiteral("it") : QStringLiteral("them")),
+                     .arg(Named(letters), one ? QStringLiteral("it") : QStringLiteral("them")),
                  QStringLiteral("Write it with other letters."))
             .sheets = lacking.sheets;
     }

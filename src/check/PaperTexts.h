@@ -21,6 +21,8 @@ struct PaperText {
     QStringList sheets;
     /// Only what lies in the circle is cut out.
     bool bRound = false;
+    /// Letters of it that paper won't show, once a check has asked for them.
+    QStringList lacking = {};
 };
 
 /// Adds a part, of a piece or two, of all words of a game that a family has chosen, as its kit's sheets will show them:

@@ -111,7 +111,7 @@ TEST_F(CheckTest, AGameWithoutPicturesReadsNoFile) {
     while (run.Step())
         ++looks;
     EXPECT_EQ(reads.Count(), 0);
-    EXPECT_LT(looks, 200) << "and each of them is looked at once";
+    EXPECT_LT(looks, 300) << "and each piece, text and check has its turn once";
 }
 
 TEST_F(CheckTest, OtherKitsAreCheckedByWhatTheyPrint) {

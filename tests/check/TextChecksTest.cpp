@@ -106,6 +106,34 @@ TEST_F(CheckTest, LettersThatNoFontHasAreMissing) {
     EXPECT_EQ(Of("letters-missing")[0].severity, Severity::Must);
 }
 
+TEST_F(CheckTest, OfManyLettersThatPaperWillNotShowADozenAreNamed) {
+    QString nobodyHas;
+    for (char16_t letter = 0xE001; nobodyHas.size() < 15; ++letter)
+        nobodyHas.append(QChar(letter));
+    game.spaces[kSpace].SetText(nobodyHas);
+    EXPECT_EQ(Of("letters-missing")[0].sText,
+              QStringLiteral("Paper won't show \uE001 \uE002 \uE003 \uE004 \uE005 \uE006 \uE007 \uE008 \uE009 \uE00A "
+                             "\uE00B \uE00C and 3 more: no font of this computer can print them."));
+}
+
+TEST_F(CheckTest, OfATextThatNobodyCanReadTheFirstThousandLettersAreLookedAt) {
+    const QString nobodyHas(QChar(0xE001));
+    game.spaces[kSpace].Let_TextAll(QString(999, u'i') + nobodyHas);
+    EXPECT_EQ(Of("letters-missing").size(), 1U);
+    game.spaces[kSpace].Let_TextAll(QString(1000, u'i') + nobodyHas);
+    EXPECT_EQ(Of("letters-missing").size(), 0U);
+    EXPECT_EQ(game.spaces[kSpace].TextAll().size(), 1001) << "the game itself keeps all of it";
+}
+
+TEST_F(CheckTest, WhatIsToldIsNoLongerThanASentence) {
+    game.spaces[kSpace].Let_TextAll(QString(500, u'm'));
+    game.spaces[kSpace].Font.Family = QString(5000, u'F');
+    EXPECT_EQ(kPiece.NameIn(game), QStringLiteral("Space \"%1...\"").arg(QString(80, u'm')));
+    ASSERT_EQ(Of("font-away").size(), 1U);
+    EXPECT_EQ(Of("font-away")[0].sText.size(), 403);
+    EXPECT_TRUE(Of("font-away")[0].sText.endsWith(QStringLiteral("FFF...")));
+}
+
 TEST_F(CheckTest, AFontThatIsAwayIsToldOnce) {
     game.spaces[kSpace].Font.Family = QStringLiteral("No Such Font");
     game.spaces[20].Font.Family = QStringLiteral("No Such Font");

@@ -36,14 +36,18 @@ double Milliseconds(const Called& called) {
     return ThreadMilliseconds() - before;
 }
 
-/// In pieces of the fixed work.
-template <typename Called>
-double Of(const Called& called) {
-    const double took = Milliseconds(called);
+/// Milliseconds of this thread for a piece of the fixed work, as it goes now.
+inline double Piece() {
     double piece = std::numeric_limits<double>::max();
     for (int i = 0; i < 3; ++i)
         piece = std::min(piece, Milliseconds(OnePiece));
-    return took / piece;
+    return piece;
+}
+
+/// In pieces of the fixed work.
+template <typename Called> double Of(const Called& called) {
+    const double took = Milliseconds(called);
+    return took / Piece();
 }
 
 } // namespace Work

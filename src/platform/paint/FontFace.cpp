@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QRawFont>
+#include <QSet>
 #include <QTextBoundaryFinder>
 #include <QTextLayout>
 
@@ -178,7 +179,11 @@ QString FontFace::FamilyInUse() const {
 bool FontFace::Prints(const QString& sCharacter) const {
     const auto known = m_prints.constFind(sCharacter);
     if (known != m_prints.constEnd()) return *known;
-    QTextLayout layout(sCharacter, m_font);
+    // Whether there is an outline doesn't hang on its size, and of a font of dots a large one takes long to trace.
+    constexpr int kSmall = 16;
+    QFont small = m_font;
+    small.setPixelSize(kSmall);
+    QTextLayout layout(sCharacter, small);
     layout.beginLayout();
     layout.createLine();
     layout.endLayout();
@@ -195,11 +200,13 @@ QStringList FontFace::Unprintable(const QString& sText) const {
     constexpr ushort kLastPlain = 0x7E;
     const std::lock_guard lock(Guard());
     QStringList missing;
+    QSet<QString> asked;
     QTextBoundaryFinder characters(QTextBoundaryFinder::Grapheme, sText);
     for (qsizetype from = 0, to = 0; (to = characters.toNextBoundary()) >= 0; from = to) {
         const QString character = sText.mid(from, to - from);
         const QChar first = character.front();
-        if (first.unicode() <= kLastPlain || first.isSpace() || missing.contains(character)) continue;
+        if (first.unicode() <= kLastPlain || first.isSpace() || asked.contains(character)) continue;
+        asked.insert(character);
         if (!Prints(character)) missing.append(character);
     }
     return missing;

@@ -43,7 +43,7 @@ QString Count(qsizetype n, const char* sOne, const char* sMany) {
 QString NameOf(const Game& game, const PictureOwner& place) {
     const bool corner = place.kind == PictureOwner::Kind::Corner;
     const QString name = corner ? GameWords::OfCorner(game, place.iNumber) : GameWords::OfSpace(game, place.iNumber);
-    return GameWords::IsBlank(name) ? QString() : name;
+    return GameWords::IsBlank(name) ? QString() : GameWords::Shortened(name);
 }
 
 QString NumberOf(const PictureOwner& place) {
