@@ -75,10 +75,12 @@ private:
         QString size;
         if (!Text(size)) return false;
         const std::optional<double> inches = NoKitChoices::WantedInchesOf(size);
-        m_arguments.noKit.dblWantedInches = inches.value_or(0);
-        return inches || Fail(QStringLiteral("option '--board-size' takes kit, or a length from 8in to 40in such as "
-                                             "16in or 40cm, not '%1'")
-                                  .arg(size));
+        if (!inches)
+            return Fail(QStringLiteral("option '--board-size' takes kit, or a length from 8in to 40in such as "
+                                       "16in or 40cm, not '%1'")
+                            .arg(size));
+        m_arguments.noKit.dblWantedInches = *inches;
+        return true;
     }
 
     bool BoardWays() {

@@ -259,8 +259,15 @@ TEST_F(PrintCommandTest, DeviceIsNeitherReadNorReplaced) {
 
 TEST_F(PrintCommandTest, GameIsNeverOverwrittenByItsOwnPrint) {
     const QByteArray before = ReadFile(game);
-    EXPECT_EQ(Run({game, QStringLiteral("--sheet"), QStringLiteral("rules"), QStringLiteral("-o"), game}), 2);
-    EXPECT_EQ(ReadFile(game), before);
+    for (const QStringList& output :
+         {QStringList{QStringLiteral("-o"), game}, QStringList{QStringLiteral("--board"), game},
+          QStringList{QStringLiteral("--pack"), game},
+          QStringList{QStringLiteral("--piece"), QStringLiteral("space-1"), game}}) {
+        EXPECT_EQ(Run(QStringList{game} + output), 2) << output[0].toStdString();
+        EXPECT_EQ(errors, QStringList{QStringLiteral("tavlora-print: '") + game +
+                                      QStringLiteral("' is the game itself and would be overwritten")});
+        EXPECT_EQ(ReadFile(game), before);
+    }
 }
 
 TEST_F(PrintCommandTest, UsersFolderIsLeftAsItWas) {
