@@ -113,7 +113,7 @@ using ArchiveHolder = std::unique_ptr<zip_t, ArchiveDiscarded>;
 QString Sentence(const zip_t* archive) { return QString::fromUtf8(zip_strerror(const_cast<zip_t*>(archive))); }
 
 bool Put(zip_t* archive, const QByteArray& name, ZipWriter::Method method, zip_source_t* source) {
-    if (!source) return false;
+    // No source, where there is too little memory for one, is refused like any other.
     const zip_int64_t index = zip_file_add(archive, name.constData(), source, ZIP_FL_ENC_UTF_8);
     if (index < 0) {
         zip_source_free(source);
