@@ -27,7 +27,7 @@ qint16 Inside(int iCenter, int iSide, int iLength) {
 PictureRef Zoomed(const PictureRef& centered, QSize picture, int iZoom) {
     PictureRef ref = centered;
     ref.iZoom = qint16(iZoom);
-    const int side = ZoomedSource::Of(picture.width(), picture.height(), iZoom, 0, 0).iSide;
+    const int side = ZoomedSource::SideOf(picture.width(), picture.height(), iZoom);
     ref.iXCenter = Inside(centered.iXCenter, side, picture.width());
     ref.iYCenter = Inside(centered.iYCenter, side, picture.height());
     return ref;

@@ -104,10 +104,13 @@ int LongerSideWanted(const PictureRef& ref, double boxPixels) {
     return CLng(std::min(Magnification(ref.iZoom) * boxPixels, kAnyMore));
 }
 
-ZoomedSource ZoomedSource::Of(int lW, int lH, int iZoom, double fXCenter, double fYCenter) {
-    const double dblZoom = Magnification(iZoom);
+int ZoomedSource::SideOf(int lW, int lH, int iZoom) {
     // A picture zoomed in without end still shows a pixel.
-    const int iSide = std::max(CLng(std::max(lW, lH) / dblZoom), 1);
+    return std::max(CLng(std::max(lW, lH) / Magnification(iZoom)), 1);
+}
+
+ZoomedSource ZoomedSource::Of(int lW, int lH, int iZoom, double fXCenter, double fYCenter) {
+    const int iSide = SideOf(lW, lH, iZoom);
     return {CLng(fXCenter - iSide / 2.0), CLng(fYCenter - iSide / 2.0), iSide};
 }
 

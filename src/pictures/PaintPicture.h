@@ -25,6 +25,8 @@ struct ZoomedSource {
     /// lW and lH are the picture's size in pixels; zoom step z shows a square of the longer side / 2^(z/10)
     /// around the centre.
     static ZoomedSource Of(int lW, int lH, int iZoom, double fXCenter, double fYCenter);
+    /// The square's side, wherever its centre is.
+    static int SideOf(int lW, int lH, int iZoom);
 };
 
 /// A picture's place in a box: as large as it fits, centred, uncropped.
