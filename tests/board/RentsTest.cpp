@@ -226,13 +226,15 @@ TEST_F(RentsTest, OrdinarySideNameKeepsEightUnits) {
     EXPECT_EQ(ErrorOf([] { SetSideText(4, QString()); }), ErrNumber::kSubscript);
 }
 
-// Letters 8 wide on average: an n is 10.21 and an i 4.65 in bold, plain an i would be 4.03. The limit is 268.
+// Letters 8 wide on average: an n is 10.21 and an i 4.65 in bold, plain an i would be 4.03. The limit is 268. A small
+// Cyrillic t is 8.19; in italics it looks like an m and is 14.86.
 TEST_F(RentsTest, SideNameIsMeasuredInBoldAgainstItsLimit) {
     const struct {
         QChar letter;
         int count;
         int width;
-    } rows[] = {{u'n', 26, 8}, {u'n', 27, 4}, {u'i', 57, 8}, {u'i', 60, 4}, {u'n', 52, 2}};
+    } rows[] = {{u'n', 26, 8}, {u'n', 27, 4},      {u'i', 57, 8},     {u'i', 60, 4},
+                {u'n', 52, 2}, {u'\u0442', 32, 8}, {u'\u0442', 33, 4}};
     for (const auto& row : rows) {
         SetSideText(0, QString(row.count, row.letter));
         EXPECT_FLOAT_EQ(m_SideRec(0).fFontWidth, float(row.width) / 500) << row.count;
