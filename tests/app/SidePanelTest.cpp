@@ -125,7 +125,6 @@ TEST_F(SidePanelTest, AStepTellsHowManyPiecesAreTheFamilysOwn) {
     for (int i = 0; i < 12; ++i) {
         game.news[0][size_t(i)].Let_Text(QStringLiteral("Ours"));
         game.news[1][size_t(i)].Let_Text(i == 0 ? QStringLiteral("Ours") : game.news[1][size_t(i)].Text());
-        // One after the other: an edit is told by what it changes.
     }
     session.Do({QStringLiteral("All of it"), game});
     // Four of the 28 spaces belong to the kit.
