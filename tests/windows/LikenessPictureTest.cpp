@@ -43,10 +43,11 @@ protected:
         QCoreApplication::processEvents();
     }
     /// In parts of a notch, of which a whole one has 120.
-    static void Turn(QWidget& likeness, int parts) {
+    static void Turn(QWidget& likeness, int parts, bool bTaken = true) {
         QWheelEvent turn(QPointF{kMiddle}, QPointF{kMiddle}, QPoint(), QPoint(0, parts), Qt::NoButton, {},
                          Qt::NoScrollPhase, false);
         QApplication::sendEvent(&likeness, &turn);
+        EXPECT_EQ(turn.isAccepted(), bTaken);
     }
     static void Move(QWidget& likeness, QPoint by) {
         QTest::mousePress(&likeness, Qt::RightButton, {}, kMiddle);
@@ -55,8 +56,8 @@ protected:
         QTest::mouseRelease(&likeness, Qt::RightButton, {}, kMiddle + by);
     }
     /// Five notches of the wheel, then 21 pixels to the right with the right button.
-    void TurnAndMove() {
-        Turn(Likeness(), 5 * 120);
+    void TurnAndMove(bool bThere = true) {
+        Turn(Likeness(), 5 * 120, bThere);
         Move(Likeness(), QPoint(21, 0));
     }
     /// In the middle of where the picture stands.
@@ -152,7 +153,7 @@ TEST_F(LikenessPictureTest, APictureThatIsAwayOrUnreadableIsNeitherZoomedNorMove
         Space().Image.Let_YCenter(99);
         const PictureRef before = Space().Image.Ref();
         EXPECT_FALSE(Edit([&] {
-            TurnAndMove();
+            TurnAndMove(false);
             Click("cmdOK");
         })) << away;
         EXPECT_EQ(Space().Image.Ref(), before);
