@@ -32,6 +32,19 @@ void DrawBox(const QRect& box, int penWidth) {
     basDraw::Draw_Rect(box.x(), box.y(), box.x() + box.width(), box.y() + box.height());
 }
 
+// Those that a box shows any of, with the top of the first: thousands may stand above and below it.
+struct SeenLines {
+    QStringList lines;
+    int top;
+};
+
+SeenLines SeenIn(const QRect& box, const QStringList& lines, int height) {
+    const int top = CLng((box.height() - double(lines.size()) * height) / 2 + box.y());
+    const int above = std::max((box.top() - top) / height, 0);
+    const int most = box.height() / height + 2;
+    return {lines.mid(above, most), top + above * height};
+}
+
 int LargestHeight(const C_FontInfo& font) { return CLng(font.Size * kScreenDotsPerInch / kPointsPerInch); }
 
 int FittedHeight(const C_FontInfo& font, const QStringList& lines) {
@@ -83,11 +96,11 @@ void NewsDrawTextToScreen(DeviceContext* hDC, int x, int y, int iGoodOrBad, cons
     const int height = FittedHeight(font, lines);
     basDraw::Draw_SetFont(font.Family, height, CLng(height / 2.0), 0, 0, font.Bold, font.Italic, false);
     const QRect box = kNewsTextBox.translated(x, y);
-    const int top = CLng((box.height() - double(lines.size()) * height) / 2 + box.y());
+    const SeenLines seen = SeenIn(box, lines, height);
     {
         // A text that even the smallest letters can't hold would run over the neighbouring cards.
         const ClipScope inside(*hDC, box);
-        basDraw::Draw_TextArrayShowingSelection(lines, QStringLiteral("C"), x + kMiddle, top, Color::Black());
+        basDraw::Draw_TextArrayShowingSelection(seen.lines, QStringLiteral("C"), x + kMiddle, seen.top, Color::Black());
     }
     basDraw::Draw_ReleaseObjects();
 } catch (...) {

@@ -143,6 +143,17 @@ TEST_F(NewsCardTest, TheBlockOfLinesStandsInTheMiddleOfItsBox) {
     }
 }
 
+TEST_F(NewsCardTest, OfThousandsOfLinesThoseInTheMiddleAreSeen) {
+    QStringList lines(2001);
+    lines.first() = lines.last() = QStringLiteral("HHHH");
+    EXPECT_EQ(TopsOfText(lines.join(QStringLiteral("\r\n"))), QList<int>());
+    // Two pixels a line: line 1000 begins one pixel above the middle of a box from 48 to 128.
+    lines[1000] = QStringLiteral("HHHH");
+    EXPECT_EQ(TopsOfText(lines.join(QStringLiteral("\r\n"))), QList<int>{87});
+    lines[1000 - 19] = lines[1000 + 20] = QStringLiteral("HHHH");
+    EXPECT_EQ(TopsOfText(lines.join(QStringLiteral("\r\n"))), (QList<int>{49, 87, 127}));
+}
+
 TEST_F(NewsCardTest, ATextIsWrittenInItsFontAloneHalfAsWideAsHigh) {
     // 12 points are 16 pixels, in the middle of 80 that begin 48 down.
     ScratchForm told(kCard * 3);

@@ -212,7 +212,16 @@ QStringList FontFace::Unprintable(const QString& sText) const {
     return missing;
 }
 
+void FontFace::DrawLong(QPainter& painter, const QString& sText, bool bUnderline) const {
+    const QString first = sText.left(kMostReadable);
+    painter.save();
+    painter.scale(Advance(sText) / std::max(Advance(first), 1.0), 1);
+    Draw(painter, first, bUnderline);
+    painter.restore();
+}
+
 void FontFace::Draw(QPainter& painter, const QString& sText, bool bUnderline) const {
+    if (sText.size() > kMostReadable) return DrawLong(painter, sText, bUnderline);
     // Changed, it no longer shares what the toolkit fills in as it measures, so any thread may draw with it.
     QFont font = m_font;
     font.setUnderline(bUnderline);

@@ -48,11 +48,16 @@ public:
     /// machine has, and those whose letters have no outline, such as coloured pictures.
     QStringList Unprintable(const QString& sText) const;
 
-    /// Draws with the left end of the baseline in the origin, in these units: 2048 to the em.
+    /// In a line; no paper has room for more that anybody could read.
+    static constexpr qsizetype kMostReadable = 1000;
+
+    /// Draws with the left end of the baseline in the origin, in these units: 2048 to the em. Where there are more
+    /// letters than can be read, the first of them fill the width of all, which looks the same and takes no time.
     void Draw(QPainter& painter, const QString& sText, bool bUnderline) const;
 
 private:
     bool Prints(const QString& sCharacter) const;
+    void DrawLong(QPainter& painter, const QString& sText, bool bUnderline) const;
     FontFace(const QString& sFamily, bool bBold, bool bItalic);
 
     QFont m_font;

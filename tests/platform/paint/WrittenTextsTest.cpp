@@ -3,6 +3,9 @@
 
 #include "platform/paint/FontFace.h"
 #include "platform/paint/RecordingForm.h"
+#include "support/Ink.h"
+
+#include <QPainter>
 
 #include <gtest/gtest.h>
 
@@ -59,6 +62,29 @@ TEST(FontFaceLetters, ThatNoFontHasCantBePrinted) {
     const QString unknown(QChar(0xF8F0));
     EXPECT_EQ(face.Unprintable(u'a' + unknown + u'b' + unknown), QStringList{unknown});
     EXPECT_EQ(face.Unprintable(QString()), QStringList());
+}
+
+TEST(FontFaceLetters, OfALineThatNobodyCouldReadTheFirstFillTheWidthOfAll) {
+    constexpr QSize kSize(800, 40);
+    const FontFace& face = FontFace::Get(QStringLiteral("Arial"), false, false);
+    const auto inkOf = [&](const QString& sText) {
+        QImage image(kSize, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.translate(20, 30);
+        painter.scale(700 / face.Advance(sText), 20 / FontFace::kUnitsPerEm);
+        face.Draw(painter, sText, false);
+        return DarkBox(image, image.rect(), 250);
+    };
+    const QString readable(1000, u'i');
+    const QRect ink = inkOf(readable);
+    EXPECT_NEAR(ink.left(), 20, 1);
+    EXPECT_NEAR(ink.right(), 719, 1);
+    EXPECT_EQ(inkOf(readable + QString(9000, u'i')), ink);
+    // What isn't among the first can't be seen: nothing of the high letter, and none of its work.
+    EXPECT_EQ(inkOf(QString(1000, u'x') + u'H').height(), inkOf(QString(1000, u'x')).height());
+    EXPECT_GT(inkOf(QString(999, u'x') + u'H').height(), inkOf(QString(1000, u'x')).height());
 }
 
 TEST(FontFaceLetters, StandInsAreNamed) {
