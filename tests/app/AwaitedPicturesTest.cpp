@@ -2,6 +2,7 @@
 // Photographs that the board has to wait for: it stands at once, and they come as they are decoded.
 #include "MainWindowFixture.h"
 #include "support/PictureFiles.h"
+#include "support/Waiting.h"
 
 #include "platform/files/Files.h"
 #include "platform/pictures/LoadPicture.h"
@@ -14,7 +15,6 @@ namespace {
 constexpr int kSpace = 4;
 const QColor kPurple(200, 0, 200);
 constexpr int kEnough = 100;
-constexpr int kMilliseconds = 20000;
 constexpr int kLongerThanDecoding = 400;
 const QString kCause = QStringLiteral("The photo is upside down");
 
@@ -62,12 +62,12 @@ private:
 TEST_F(AwaitedPicturesTest, PictureComesByItselfBehindTheBoard) {
     ChoosePhoto();
     EXPECT_EQ(PurplePixels(), 0) << "the board doesn't wait for it";
-    EXPECT_TRUE(QTest::qWaitFor([this] { return PurplePixels() > kEnough; }, kMilliseconds));
+    EXPECT_TRUE(Comes([this] { return PurplePixels() > kEnough; }));
     // What came later is part of the board as if it had been there at once.
     const QImage filledIn = window->View().Board().Image();
     window->View().Redraw();
     // On a busy machine even what is ready may come after the board.
-    EXPECT_TRUE(QTest::qWaitFor([&] { return window->View().Board().Image() == filledIn; }, kMilliseconds));
+    EXPECT_TRUE(Comes([&] { return window->View().Board().Image() == filledIn; }));
 }
 
 TEST_F(AwaitedPicturesTest, PictureWaitsWhileAnotherWindowStandsOnTop) {
@@ -77,13 +77,13 @@ TEST_F(AwaitedPicturesTest, PictureWaitsWhileAnotherWindowStandsOnTop) {
         EXPECT_EQ(PurplePixels(), 0) << "the window on top may be drawing";
     });
     ChooseMenu("mnuView_9");
-    EXPECT_TRUE(QTest::qWaitFor([this] { return PurplePixels() > kEnough; }, kMilliseconds));
+    EXPECT_TRUE(Comes([this] { return PurplePixels() > kEnough; }));
 }
 
 TEST_F(AwaitedPicturesTest, PictureThatCannotBeReadIsToldOnceAndTheRestOfTheBoardStays) {
     WriteFile(QStringLiteral("games/photo.bmp"), QByteArray("BM no picture"));
     ChoosePhoto();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !desktop.boxes.isEmpty(); }, kMilliseconds));
+    EXPECT_TRUE(Comes([this] { return !desktop.boxes.isEmpty(); }));
     QTest::qWait(kLongerThanDecoding);
     Strings told = desktop.Texts();
     window->View().Redraw();
@@ -103,11 +103,11 @@ TEST_F(AwaitedPicturesTest, FailureWhileOneIsPastedLeavesNoQueueOpen) {
             ErrRaise(1234, kCause);
         return std::nullopt;
     });
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !desktop.boxes.isEmpty(); }, kMilliseconds));
+    EXPECT_TRUE(Comes([this] { return !desktop.boxes.isEmpty(); }));
     Files::SetFaultHook({});
     EXPECT_TRUE(desktop.boxes.first().sText.contains(kCause));
     EXPECT_FALSE(basMsgQueue::MsgQueue_IsOpen());
     window->View().Redraw();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return PurplePixels() > kEnough; }, kMilliseconds));
+    EXPECT_TRUE(Comes([this] { return PurplePixels() > kEnough; }));
     EXPECT_EQ(SeenAt(0.5, 0.45), Color::FromValue(0xFFB000));
 }

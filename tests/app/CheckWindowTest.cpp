@@ -3,6 +3,7 @@
 #include "AppFixture.h"
 #include "support/ModalSteps.h"
 #include "support/PictureFiles.h"
+#include "support/Waiting.h"
 
 #include "windowing/CountLight.h"
 #include "windows/check/frmCheck.h"
@@ -73,9 +74,9 @@ TEST_F(CheckWindowTest, AGoodGameHasAnEmptyList) {
 TEST_F(CheckWindowTest, FollowsEachEdit) {
     OpenList();
     EditSpace(5, QString());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return Rows() == QStringList{kEmptySpace}; }, 2000));
+    EXPECT_TRUE(Comes([&] { return Rows() == QStringList{kEmptySpace}; }));
     InHand().Undo();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return Rows().isEmpty(); }, 2000));
+    EXPECT_TRUE(Comes([&] { return Rows().isEmpty(); }));
 }
 
 TEST_F(CheckWindowTest, AClickShowsThePieceAndADoubleClickOpensIt) {
@@ -140,11 +141,11 @@ TEST_F(CheckWindowTest, ShowMeOpensTheListAtWhatIsMeant) {
 TEST_F(CheckWindowTest, TheLightTellsHowMuchThereIsToMendAndOpensTheList) {
     auto& light = Find<CountLight>("CountLight");
     EXPECT_TRUE(light.isVisible());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return light.Count() == 0; }, 2000));
+    EXPECT_TRUE(Comes([&] { return light.Count() == 0; }));
     EXPECT_EQ(light.accessibleName(), QStringLiteral("Nothing to look at. Click for the list."));
     EditSpace(5, QString());
     EditSpace(6, QString());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return light.Count() == 2; }, 2000));
+    EXPECT_TRUE(Comes([&] { return light.Count() == 2; }));
     EXPECT_EQ(light.toolTip(), QStringLiteral("2 things to look at. Click for the list."));
     QTest::mouseClick(&light, Qt::LeftButton);
     EXPECT_TRUE(Find<frmCheck>("frmCheck").isVisible());
@@ -153,12 +154,12 @@ TEST_F(CheckWindowTest, TheLightTellsHowMuchThereIsToMendAndOpensTheList) {
 
 TEST_F(CheckWindowTest, TheLightTellsOfAPictureThatBreaksOffOnceItIsDecodedAside) {
     auto& light = Find<CountLight>("CountLight");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return light.Count() == 0; }, 2000));
+    EXPECT_TRUE(Comes([&] { return light.Count() == 0; }));
     const QByteArray whole = PictureFiles::Encoded(PictureFiles::Quarters(400, 400), "jpg");
     Game after = InHand().InHand();
     after.tokens[2].SetImagePath(WriteFile(QStringLiteral("half.jpg"), whole.left(whole.size() / 2)));
     InHand().Do({QStringLiteral("A Picture"), after});
-    EXPECT_TRUE(QTest::qWaitFor([&] { return light.Count() == 1; }, 4000));
+    EXPECT_TRUE(Comes([&] { return light.Count() == 1; }));
     EXPECT_TRUE(desktop.boxes.isEmpty());
 }
 
@@ -171,7 +172,7 @@ TEST_F(CheckWindowTest, TheLightLeavesTheMenuBarAsHighAsItIs) {
 // Edits that come faster than anybody pauses must not put the check off, and each slice of it has to be short.
 TEST_F(CheckWindowTest, TheLightFollowsWhileEditsGoOnComing) {
     auto& light = Find<CountLight>("CountLight");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return light.Count() == 0; }, 2000));
+    EXPECT_TRUE(Comes([&] { return light.Count() == 0; }));
     QElapsedTimer since;
     since.start();
     EditSpace(5, QString());

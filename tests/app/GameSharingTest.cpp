@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What goes out of the game in hand to others.
 #include "AppFixture.h"
+#include "support/Waiting.h"
 
 #include "pack/PackReader.h"
 #include "windowing/PageView.h"
@@ -131,7 +132,7 @@ TEST_F(GameSharingTest, APieceIsDrawnOnceWhereTheListStopsAndNotAgainAndAgain) {
     person.In("frmPieces", [](QWidget& shown) {
         WhatShows shows(::Find<PageView>(shown, "view"));
         EXPECT_TRUE(shows.IsBlank());
-        EXPECT_TRUE(QTest::qWaitFor([&] { return !shows.IsBlank(); }));
+        EXPECT_TRUE(Comes([&] { return !shows.IsBlank(); }));
         ASSERT_TRUE(shows.timer);
         EXPECT_FALSE(shows.timer->isActive());
         Click(shown, "cmdClose");

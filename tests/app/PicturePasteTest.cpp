@@ -3,6 +3,7 @@
 #include "app/BoardWalk.h"
 #include "MainWindowFixture.h"
 #include "support/PictureFiles.h"
+#include "support/Waiting.h"
 
 #include <QClipboard>
 #include <QFrame>
@@ -72,7 +73,7 @@ TEST_F(PicturePasteTest, ACopiedPictureIsKeptAsAFileAndStandsOnACorner) {
 TEST_F(PicturePasteTest, TheFrameOutlivesTheMenuOpenedByItsKey) {
     WalkToSpace(4);
     Press(Qt::Key_E, Qt::AltModifier);
-    ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
+    ASSERT_TRUE(Comes([] { return QApplication::activePopupWidget() != nullptr; }));
     CopyFiles({Photo(QStringLiteral("dog.png"))});
     QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_P);
     EXPECT_TRUE(Space(4).Image.FullPath().endsWith(QStringLiteral("dog.png")));

@@ -10,6 +10,7 @@
 #include "support/ModalSteps.h"
 #include "support/PictureFiles.h"
 #include "support/TestPrinter.h"
+#include "support/Waiting.h"
 
 #include <QCheckBox>
 #include <QLineEdit>
@@ -164,7 +165,7 @@ TEST_F(PrintDoorTest, APhotoThatTheBoardWaitsForComesBehindThePage) {
     desktop.onPump = nullptr;
     EXPECT_TRUE(acted);
     EXPECT_EQ(printer.Page().Image(), good);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return seen() != before; }, 20000)) << "it does come";
+    EXPECT_TRUE(Comes([&] { return seen() != before; })) << "it does come";
 }
 
 TEST_F(PrintDoorTest, TheConsoleStaysAliveWhileAPageIsPrinted) {

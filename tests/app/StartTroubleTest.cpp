@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Starts that something is in the way of, and starts that are asked to open a game.
 #include "AppFixture.h"
+#include "support/Waiting.h"
 
 #include "app/frmAbout.h"
 #include "platform/files/Files.h"
@@ -294,7 +295,7 @@ protected:
     void Ask(const char* name) const { window->CalledByAnotherStart(InGames(QString::fromLatin1(name))); }
     /// Lets events run until the game is there.
     static bool Comes(const char* name) {
-        return QTest::qWaitFor([name] { return TextOfSpace4() == QString::fromLatin1(name); });
+        return ::Comes([name] { return TextOfSpace4() == QString::fromLatin1(name); });
     }
 };
 

@@ -9,6 +9,7 @@
 #include "platform/files/Folders.h"
 #include "support/PictureFiles.h"
 #include "support/TestPrinter.h"
+#include "support/Waiting.h"
 #include "windows/pictures/DroppedFiles.h"
 
 #include <QListWidget>
@@ -282,7 +283,7 @@ TEST_F(AwayTest, APictureShowsAgainWhenItsFolderIsBack) {
     const qsizetype told = desktop.boxes.size();
     BringTheDog();
     ComeBackToTheWindow();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return Board() != board; }));
+    EXPECT_TRUE(Comes([&] { return Board() != board; }));
     EXPECT_EQ(basTAVL::g_oSpaces(4).Image.Zoom(), 1);
     EXPECT_FALSE(window->Commands().InHand().IsUnsaved());
     EXPECT_EQ(desktop.boxes.size(), told);
@@ -295,7 +296,7 @@ TEST_F(AwayTest, APictureShowsAgainByItselfWhileTheWindowStaysInFront) {
     ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
     const QImage board = Board();
     BringTheDog();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return Board() != board; }, 15'000));
+    EXPECT_TRUE(Comes([&] { return Board() != board; }));
     EXPECT_FALSE(window->Commands().InHand().IsUnsaved());
 }
 

@@ -4,13 +4,12 @@
 #include "services/basCommon.h"
 #include "support/ReadsOfThisThread.h"
 #include "support/ThreadTime.h"
+#include "support/Waiting.h"
 #include "windowing/PhotoGrid.h"
 
 #include <QPushButton>
 
 namespace {
-
-constexpr int kArrivalMs = 5000;
 
 class BrowseGridTest : public BrowseTest {
 protected:
@@ -24,7 +23,7 @@ TEST_F(BrowseGridTest, SmallPicturesStandBesideTheListAndChooseInIt) {
     const QString chosen = Browse(QString(), [&](QWidget& window) {
         auto& grid = Find<PhotoGrid>(window, "lstGrid");
         EXPECT_EQ(grid.model()->rowCount(), 2);
-        EXPECT_TRUE(QTest::qWaitFor([&grid] { return grid.Made() == 2; }, kArrivalMs));
+        EXPECT_TRUE(Comes([&grid] { return grid.Made() == 2; }));
         Q_EMIT grid.clicked(grid.model()->index(1, 0));
         EXPECT_EQ(Text(window, "lblFullFilePath"), dog);
         EXPECT_EQ(Find<QListWidget>(window, "filList").currentRow(), 1);
@@ -42,8 +41,7 @@ TEST_F(BrowseGridTest, ARefusedFileCantBeTakenAndAGoodOneCan) {
     EXPECT_EQ(Browse(QString(),
                      [](QWidget& window) {
                          ClickFile(window, QStringLiteral("bad.jpg"));
-                         EXPECT_TRUE(QTest::qWaitFor(
-                             [&window] { return !Find<QPushButton>(window, "cmdOK").isEnabled(); }, kArrivalMs));
+                         EXPECT_TRUE(Comes([&window] { return !Find<QPushButton>(window, "cmdOK").isEnabled(); }));
                          ClickFile(window, QStringLiteral("bad.jpg"), true);
                          EXPECT_TRUE(window.isVisible()) << "nor by a double click";
                          ClickFile(window, QStringLiteral("good.bmp"));
@@ -124,7 +122,7 @@ TEST_F(BrowseGridTest, ASlowPreviewSaysThatItIsLoading) {
         EXPECT_GT(grey, 20) << "words in the middle";
         const int side = shown.width();
         EXPECT_LT(grey, side * side / 20) << "and no picture yet";
-        EXPECT_TRUE(QTest::qWaitFor([&] { return ColorAt(window, 20, 20) == Color::Rgb(255, 0, 0); }, kArrivalMs));
+        EXPECT_TRUE(Comes([&] { return ColorAt(window, 20, 20) == Color::Rgb(255, 0, 0); }));
         Click(window, "cmdCancel");
     });
 }

@@ -1,15 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "BrowseFixture.h"
+#include "support/Waiting.h"
 
 #include "services/ProgramSettings.h"
 
 #include <QPushButton>
-
-namespace {
-
-constexpr int kArrivalMs = 5000;
-
-} // namespace
 
 TEST_F(BrowseTest, EveryControlHasItsNameAndCaption) {
     Browse(QString(), [](QWidget& window) {
@@ -107,7 +102,7 @@ TEST_F(BrowseTest, ClickingAFileShowsItsPathAndAPreviewInProportion) {
         EXPECT_EQ(Text(window, "lblFullFilePath"), PathOf(QStringLiteral("wide.bmp")));
         const int side = Find<PictureBox>(window, "picBitMapArea").width();
         const auto arrived = [&] { return ColorAt(window, side / 4, side * 3 / 8) == Color::Rgb(255, 0, 0); };
-        EXPECT_TRUE(QTest::qWaitFor(arrived, kArrivalMs));
+        EXPECT_TRUE(Comes(arrived));
         EXPECT_EQ(ColorAt(window, side * 3 / 4, side * 3 / 8), Color::Rgb(0, 255, 0));
         EXPECT_EQ(ColorAt(window, side / 2, side / 8), Color::White()) << "bars above and below";
         Click(window, "cmdCancel");
@@ -118,7 +113,7 @@ TEST_F(BrowseTest, ADamagedPictureIsToldOnceAndTheDialogStays) {
     WriteFile(QStringLiteral("bad.jpg"), QByteArray("no picture at all"));
     Browse(QString(), [this](QWidget& window) {
         ClickFile(window, QStringLiteral("bad.jpg"));
-        EXPECT_TRUE(QTest::qWaitFor([this] { return !desktop.boxes.isEmpty(); }, kArrivalMs));
+        EXPECT_TRUE(Comes([this] { return !desktop.boxes.isEmpty(); }));
         EXPECT_TRUE(window.isVisible());
         Click(window, "cmdCancel");
     });
@@ -129,7 +124,7 @@ TEST_F(BrowseTest, WhatIsAnotherKindOfFileIsToldWithWhatToDo) {
     WriteFile(QStringLiteral("page.jpg"), QByteArray("%PDF-1.4 and so on"));
     Browse(QString(), [this](QWidget& window) {
         ClickFile(window, QStringLiteral("page.jpg"));
-        EXPECT_TRUE(QTest::qWaitFor([this] { return !desktop.boxes.isEmpty(); }, kArrivalMs));
+        EXPECT_TRUE(Comes([this] { return !desktop.boxes.isEmpty(); }));
         EXPECT_FALSE(Find<QPushButton>(window, "cmdOK").isEnabled());
         Click(window, "cmdCancel");
     });
@@ -145,11 +140,11 @@ TEST_F(BrowseTest, AGoodPictureBehindADamagedOneIsShownWithoutABox) {
     Picture(QStringLiteral("other.bmp"));
     Browse(QString(), [this](QWidget& window) {
         ClickFile(window, QStringLiteral("bad.jpg"));
-        EXPECT_TRUE(QTest::qWaitFor([this] { return !desktop.boxes.isEmpty(); }, kArrivalMs));
+        EXPECT_TRUE(Comes([this] { return !desktop.boxes.isEmpty(); }));
         for (const char* const name : {"good.bmp", "other.bmp"}) {
             Find<PictureBox>(window, "picBitMapArea").Cls();
             ClickFile(window, QString::fromLatin1(name));
-            EXPECT_TRUE(QTest::qWaitFor([&] { return ColorAt(window, 20, 20) == Color::Rgb(255, 0, 0); }, kArrivalMs));
+            EXPECT_TRUE(Comes([&] { return ColorAt(window, 20, 20) == Color::Rgb(255, 0, 0); }));
         }
         Click(window, "cmdCancel");
     });
@@ -174,7 +169,7 @@ TEST_F(BrowseTest, APhotographThatWasRenamedToBeABitmapIsShownAndStays) {
     const QString path = WriteFile(QStringLiteral("photo.bmp"), bytes);
     Browse(QString(), [](QWidget& window) {
         ClickFile(window, QStringLiteral("photo.bmp"));
-        EXPECT_TRUE(QTest::qWaitFor([&] { return ColorAt(window, 20, 20) == Color::Rgb(255, 0, 0); }, kArrivalMs));
+        EXPECT_TRUE(Comes([&] { return ColorAt(window, 20, 20) == Color::Rgb(255, 0, 0); }));
         EXPECT_TRUE(FilesIn(window).contains(QStringLiteral("photo.bmp")));
         Click(window, "cmdCancel");
     });
@@ -186,7 +181,7 @@ TEST_F(BrowseTest, WhatOnlyClaimsToBeABitmapIsToldAndStays) {
     const QString path = WriteFile(QStringLiteral("false.bmp"), "Dear Anna,");
     Browse(QString(), [this](QWidget& window) {
         ClickFile(window, QStringLiteral("false.bmp"));
-        EXPECT_TRUE(QTest::qWaitFor([this] { return !desktop.boxes.isEmpty(); }, kArrivalMs));
+        EXPECT_TRUE(Comes([this] { return !desktop.boxes.isEmpty(); }));
         EXPECT_TRUE(FilesIn(window).contains(QStringLiteral("false.bmp")));
         Click(window, "cmdCancel");
     });
@@ -201,8 +196,7 @@ TEST_F(BrowseTest, APictureThatIsGoneWhenItIsLookedAtLeavesTheList) {
         desktop.onBox = [path] { QFile::remove(path); };
         WriteFile(QStringLiteral("brief.bmp"), "no picture any more");
         ClickFile(window, QStringLiteral("brief.bmp"));
-        EXPECT_TRUE(
-            QTest::qWaitFor([&] { return !FilesIn(window).contains(QStringLiteral("brief.bmp")); }, kArrivalMs));
+        EXPECT_TRUE(Comes([&] { return !FilesIn(window).contains(QStringLiteral("brief.bmp")); }));
         Click(window, "cmdOK");
         EXPECT_TRUE(window.isVisible());
         EXPECT_EQ(desktop.Texts().last(), QStringLiteral("Please select a file before clicking OK"));

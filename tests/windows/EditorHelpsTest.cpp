@@ -2,6 +2,7 @@
 // What an editor says of itself: which piece it edits, what a button is for, and where long findings go on.
 #include "check/Finding.h"
 #include "support/EditorFixture.h"
+#include "support/Waiting.h"
 #include "windowing/WidgetLook.h"
 #include "windows/check/FindingTree.h"
 #include "windows/editors/frmEditCorner.h"
@@ -54,7 +55,7 @@ TEST_F(EditorHelpsTest, WhichPieceIsEditedStandsInTheWindow) {
 TEST_F(TipLabelTest, OfAButtonComesAfterAWhileAndBesideItsNeighbours) {
     tip.ShowBeside(QStringLiteral("Change font and max size"), first);
     EXPECT_FALSE(tip.isVisible()) << "the mouse may only pass";
-    EXPECT_TRUE(QTest::qWaitFor([this] { return tip.isVisible(); }, 5000));
+    EXPECT_TRUE(Comes([this] { return tip.isVisible(); }));
     EXPECT_FALSE(tip.geometry().intersects(first.geometry()));
     EXPECT_FALSE(tip.geometry().intersects(second.geometry()));
 }

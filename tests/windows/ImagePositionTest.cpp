@@ -5,6 +5,7 @@
 #include "support/ModalSteps.h"
 #include "support/PictureFiles.h"
 #include "support/TestFixture.h"
+#include "support/Waiting.h"
 #include "windowing/PictureBox.h"
 #include "windowing/Screen.h"
 #include "windows/pictures/frmBrowse.h"
@@ -20,8 +21,6 @@
 #include <QWheelEvent>
 
 namespace {
-
-constexpr int kRestMs = 5000;
 
 /// A preview 400 pixels wide, and pictures whose four quarters are red, green, blue and white.
 class ImagePositionTest : public TavloraTest {
@@ -219,7 +218,7 @@ TEST_F(ImagePositionTest, InMotionAndAtRestTheSamePlaceIsShown) {
         EXPECT_TRUE(shown()) << "in motion";
         auto& timer = Find<QTimer>(window, "timSharpen");
         EXPECT_TRUE(timer.isActive());
-        EXPECT_TRUE(QTest::qWaitFor([&timer] { return !timer.isActive(); }, kRestMs));
+        EXPECT_TRUE(Comes([&timer] { return !timer.isActive(); }));
         EXPECT_TRUE(shown()) << "at rest";
         Click(window, "cmdOK");
     });

@@ -4,6 +4,7 @@
 #include "platform/files/Files.h"
 #include "platform/pictures/LoadPicture.h"
 #include "support/ModalSteps.h"
+#include "support/Waiting.h"
 #include "windowing/PictureBox.h"
 #include "windows/editors/frmEditMoney.h"
 #include "windows/editors/frmEditSpace.h"
@@ -46,7 +47,7 @@ protected:
         const auto isRed = [&] { return box.Image().pixelColor(at) == QColor(Qt::red); };
         EXPECT_FALSE(isRed());
         released = true;
-        EXPECT_TRUE(QTest::qWaitFor(isRed, 20000));
+        EXPECT_TRUE(Comes(isRed));
     }
 
     QString photo;
@@ -106,8 +107,7 @@ TEST_F(LargePhotosTest, TheCroppingWindowOpensWhenThePictureIsThereAndTheProgram
     ModalSteps steps;
     steps.OnceIn("frmImagePosition", [&](QWidget& cropping) {
         auto& preview = ::Find<PictureBox>(cropping, "picZoomed");
-        EXPECT_TRUE(QTest::qWaitFor(
-            [&] { return preview.Image().pixelColor(preview.rect().center()) == QColor(Qt::red); }, 20000));
+        EXPECT_TRUE(Comes([&] { return preview.Image().pixelColor(preview.rect().center()) == QColor(Qt::red); }));
     });
     frmImagePosition crop;
     crop.ShowForm(image, 1.0, false);

@@ -6,6 +6,7 @@
 #include "support/EditorFixture.h"
 #include "support/ModalSteps.h"
 #include "support/PictureFiles.h"
+#include "support/Waiting.h"
 
 #include <QDir>
 #include <QLabel>
@@ -29,7 +30,7 @@ protected:
     }
     /// What is told, once there is nothing to wait for.
     QString Outcome() const {
-        EXPECT_TRUE(QTest::qWaitFor([this] { return !In<QPushButton>("cmdStop").isEnabled(); }));
+        EXPECT_TRUE(Comes([this] { return !In<QPushButton>("cmdStop").isEnabled(); }));
         return In<QLabel>("lblState").text();
     }
     frmMissingPictures window{session};

@@ -12,6 +12,7 @@
 #include "support/PictureFiles.h"
 #include "support/ReadsOfThisThread.h"
 #include "support/ThreadTime.h"
+#include "support/Waiting.h"
 #include "windowing/PhotoGrid.h"
 
 #include <QComboBox>
@@ -47,8 +48,8 @@ protected:
         return *window.findChild<Control*>(QString::fromLatin1(name));
     }
     static void WaitFor(QWidget& window) {
-        EXPECT_TRUE(QTest::qWaitFor(
-            [&window] { return !In<QLabel>(window, "lblState").text().startsWith(QStringLiteral("Looking")); }));
+        EXPECT_TRUE(
+            Comes([&window] { return !In<QLabel>(window, "lblState").text().startsWith(QStringLiteral("Looking")); }));
     }
     static QString Caption(PhotoGrid& grid, int row) {
         return grid.model()->index(row, 0).data(Qt::DisplayRole).toString();
@@ -132,7 +133,7 @@ TEST_F(PhotosTest, OneThatBreaksOffIsLeftOutAndTheOthersMoveUp) {
     EXPECT_TRUE(InWindow([&](frmDealPhotos& window) {
         auto& grid = In<PhotoGrid>(window, "lstPhotos");
         EXPECT_EQ(grid.model()->rowCount(), 3);
-        EXPECT_TRUE(QTest::qWaitFor([&] {
+        EXPECT_TRUE(Comes([&] {
             return In<QLabel>(window, "lblState")
                 .text()
                 .endsWith(QStringLiteral("One can't be shown, and is left out."));
@@ -223,7 +224,7 @@ TEST_F(PhotosTest, AFolderOfThousandsIsBrowsedWithoutAGap) {
     }
     RecordProperty("longest_gap_ms", int(longest));
     EXPECT_EQ(reads.Count(), 0) << "the window reads no picture itself";
-    EXPECT_TRUE(QTest::qWaitFor([&grid] { return grid.Made() > 10; }));
+    EXPECT_TRUE(Comes([&grid] { return grid.Made() > 10; }));
 }
 
 TEST_F(PhotosTest, TheTrayOpensAFolderOfThousandsWithoutAGapInTheOrderAPersonCounts) {
@@ -257,7 +258,7 @@ TEST_F(PhotosTest, TheTrayTicksWhatTheGameShowsAndHandsFilesOver) {
     };
     EXPECT_EQ(Caption(grid, 1), QStringLiteral("place 1.png"));
     const auto isThere = [&image](int row) { return image(row).pixelColor(image(row).rect().center()).alpha() == 255; };
-    EXPECT_TRUE(QTest::qWaitFor([&] { return isThere(0) && isThere(1) && isThere(2); })) << "and none is pale";
+    EXPECT_TRUE(Comes([&] { return isThere(0) && isThere(1) && isThere(2); })) << "and none is pale";
     const QImage before = image(1);
     C_Space space = TheGame().spaces[4];
     space.SetImagePath(Photos() + QStringLiteral("/place 1.png"));

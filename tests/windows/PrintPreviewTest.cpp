@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "windows/print/PrintPreview.h"
+#include "support/Waiting.h"
 
 #include "ConsoleFixture.h"
 
@@ -21,7 +22,7 @@ protected:
         PrintPreview::From from = PrintPreview::From::Console) {
         ModalSteps person;
         person.In("PrintPreview", [&](QWidget& shown) {
-            EXPECT_TRUE(QTest::qWaitFor([&] { return Drawn() == int(runs.size()); }, 20000));
+            EXPECT_TRUE(Comes([&] { return Drawn() == int(runs.size()); }));
             act();
             if (shown.isVisible()) Click(shown, "cmdClose");
         });
@@ -147,7 +148,7 @@ TEST_F(PrintPreviewTest, TheConsoleShowsTheSheetsOfItsFrameAndPrintsTheOneThatIs
     person.In("PrintPreview", [&](QWidget& shown) {
         auto& list = Find<QListWidget>(shown, "lstPages");
         EXPECT_EQ(list.count(), 2);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return !list.item(1)->icon().isNull(); }, 20000));
+        EXPECT_TRUE(Comes([&] { return !list.item(1)->icon().isNull(); }));
         list.setCurrentRow(1);
         Click(shown, "cmdPrintSheet");
     });

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "windows/print/PrinterWatch.h"
+#include "support/Waiting.h"
 
 #include "ConsoleFixture.h"
 
@@ -73,7 +74,7 @@ TEST_F(PrinterWatchTest, TheConsoleSendsTheSheetOnceMoreWhenAskedTo) {
     desktop.onBox = [this] { printer.trouble.clear(); };
     ModalSteps person;
     person.In("frmPrntPrep", [](QWidget& window) { Click(window, "cmd_2"); });
-    EXPECT_TRUE(QTest::qWaitFor([this] { return printer.ended.size() == 2; }, 10000)) << "within ten seconds";
+    EXPECT_TRUE(Comes([this] { return printer.ended.size() == 2; }));
     ASSERT_EQ(desktop.boxes.size(), 1);
     EXPECT_EQ(
         desktop.boxes[0].sText,

@@ -6,6 +6,7 @@
 #include "support/ModalSteps.h"
 #include "support/PictureFiles.h"
 #include "support/TestFixture.h"
+#include "support/Waiting.h"
 #include "windows/sending/SendTexts.h"
 
 #include <QLabel>
@@ -119,7 +120,7 @@ TEST_F(SendGameTest, SmallerPicturesAreMadeWhileTheWindowStandsAndTheirSizeIsTol
     AnswerDialog(packed);
     steps.OnceIn("frmSendGame", [](QWidget& window) {
         auto* const smaller = window.findChild<QRadioButton*>(QStringLiteral("optSmaller"));
-        EXPECT_TRUE(QTest::qWaitFor([&] { return !smaller->text().contains(QStringLiteral("working")); }, 20'000));
+        EXPECT_TRUE(Comes([&] { return !smaller->text().contains(QStringLiteral("working")); }));
         EXPECT_TRUE(smaller->text().contains(QStringLiteral(" KB)"))) << smaller->text().toStdString();
         smaller->setChecked(true);
         Click(window, "cmdSaveAs");
