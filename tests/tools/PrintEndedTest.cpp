@@ -39,6 +39,11 @@ protected:
         environment.insert(QStringLiteral("HOME"), PathOf(QStringLiteral("home")));
         environment.insert(QStringLiteral("TMPDIR"), PathOf(QStringLiteral("tmp")));
         process.setProcessEnvironment(environment);
+        // Whoever runs the tests in the background has a shell that lets them ignore what Ctrl+C sends.
+        process.setChildProcessModifier([] {
+            for (const int signal : {SIGINT, SIGTERM, SIGHUP})
+                ::signal(signal, SIG_DFL);
+        });
         process.start(QStringLiteral(TAVLORA_BIN_DIR "/tavlora-print"),
                       {QStringLiteral(TAVLORA_DATA_DIR "/Family_US.gam"), QStringLiteral("-o"),
                        PathOf(QStringLiteral("out/kit.pdf")), QStringLiteral("--data"),
