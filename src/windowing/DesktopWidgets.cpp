@@ -91,6 +91,14 @@ qsizetype RowsOf(const QStringList& lines) {
     return rows;
 }
 
+// Of a line that fills a screen by itself, as with a name of thousands of letters, its beginning and its end.
+QString Shortened(const QString& sLine) {
+    constexpr qsizetype kBeginning = 600;
+    constexpr qsizetype kEnd = 300;
+    if (sLine.size() <= kBeginning + kEnd) return sLine;
+    return sLine.left(kBeginning) + QStringLiteral(" ... ") + sLine.right(kEnd);
+}
+
 // A box never scrolls: one with a line for each of forty missing pictures would stand with its buttons below
 // the screen. What is too much for it goes behind the button for details.
 void SetText(QMessageBox& box, const QString& sText) {
@@ -101,11 +109,15 @@ void SetText(QMessageBox& box, const QString& sText) {
         box.setText(sText);
         return;
     }
-    QStringList shown = lines;
+    QStringList shown;
+    for (const QString& line : lines)
+        shown.append(Shortened(line));
     while (shown.size() > 1 && RowsOf(shown) > kRowsShown)
         shown.removeLast();
-    const QString more = QStringLiteral("\n\nThere are %1 more; the details hold them all.");
-    box.setText(shown.join(u'\n') + more.arg(lines.size() - shown.size()));
+    const qsizetype left = lines.size() - shown.size();
+    box.setText(shown.join(u'\n') + (left > 0
+                                         ? QStringLiteral("\n\nThere are %1 more; the details hold them all.").arg(left)
+                                         : QStringLiteral("\n\nThe details hold all of it.")));
     box.setDetailedText(sText);
 }
 

@@ -45,7 +45,8 @@ inline double Piece() {
 }
 
 /// In pieces of the fixed work.
-template <typename Called> double Of(const Called& called) {
+template <typename Called>
+double Of(const Called& called) {
     const double took = Milliseconds(called);
     return took / Piece();
 }

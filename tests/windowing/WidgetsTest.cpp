@@ -190,6 +190,30 @@ TEST(DesktopWidgetsTest, BoxOfManyMessagesShowsTheFirstAndHasTheRestBehindAButto
     EXPECT_EQ(shown, messages.mid(0, 12).join(u'\n'));
 }
 
+TEST(DesktopWidgetsTest, BoxWithANameWithoutEndShowsItsBeginningAndWhatIsWrong) {
+    QString shown, details;
+    int height = 0;
+    QTimer::singleShot(0, [&] {
+        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(box);
+        shown = box->text();
+        details = box->detailedText();
+        height = box->height();
+        box->close();
+    });
+    QString name;
+    while (name.size() < 10'000)
+        name += QStringLiteral("holiday ");
+    const QString message = QStringLiteral("The file named '%1' is invalid.").arg(name);
+    DesktopWidgets().MsgBox(message, vbExclamation, QStringLiteral("Title"));
+    EXPECT_TRUE(shown.startsWith(QStringLiteral("The file named 'holiday "))) << shown.toStdString();
+    EXPECT_TRUE(shown.endsWith(QStringLiteral("holiday ' is invalid.\n\nThe details hold all of it.")))
+        << shown.toStdString();
+    EXPECT_EQ(details, message);
+    EXPECT_GT(height, 100);
+    EXPECT_LT(height, 600) << "it fits the smallest screens";
+}
+
 TEST(DesktopWidgetsTest, BelowSeveralMessagesStandsAWayOutWhereItHelps) {
     bool helps = false;
     int taken = 0;
