@@ -78,7 +78,9 @@ TEST(MainLayoutTest, EveryRealScreenAsksForTheLargeWindow) {
 }
 
 TEST(MainLayoutTest, NoWindowIsSmallerThanIsOfUseUnlessTheScreenIs) {
+    // A board of 1800 twips, a gap of 120 on each of its sides, the toolbar and the buttons.
     const QSize smallest(2040, 2805);
+    EXPECT_EQ(SmallestClient(390, 375), smallest);
     const QSize useful = UsefulClient(smallest, 1200, QSize(20000, 20000));
     EXPECT_EQ(useful, QSize(2040 + 4680, 2805 + 4680));
     const MainLayout layout = ComputeMainLayout({useful + QSize(0, 600), useful, 390, 375}, 1.0F);
