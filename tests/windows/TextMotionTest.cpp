@@ -63,6 +63,9 @@ TEST_F(TextMotionTest, CtrlGoesByWords) {
     Press(Qt::Key_Left, Qt::ControlModifier);
     EXPECT_EQ(Caret(), QStringLiteral("0:8")) << "and over the line's start";
     EXPECT_EQ(Press(Qt::Key_Left, Qt::ControlModifier | Qt::ShiftModifier), QStringLiteral("Tree"));
+    selection.SetCaret(8, 0);
+    Press(Qt::Key_Right, Qt::ControlModifier);
+    EXPECT_EQ(Caret(), QStringLiteral("1:0")) << "and over its end";
 }
 
 TEST_F(TextMotionTest, LeftGoesToTheLineBeforeOnlyFromTheStartOfALine) {
