@@ -6,7 +6,15 @@ namespace {
 
 const QString kSaveFirst = QStringLiteral("Please save your changes before printing.\r\n\r\nSave them now?");
 
-class ToolBarAndMenusTest : public MainWindowTest {};
+class ToolBarAndMenusTest : public MainWindowTest {
+protected:
+    /// Sent by hand: wherever the tests before have left the mouse, it comes from outside.
+    void ComeTo(int iButton) const {
+        const QPointF at(OnToolBar(iButton));
+        QMouseEvent move(QEvent::MouseMove, at, ToolBar().mapToGlobal(at), Qt::NoButton, Qt::NoButton, {});
+        QApplication::sendEvent(&ToolBar(), &move);
+    }
+};
 
 TEST_F(ToolBarAndMenusTest, Edge_BadNewsButtonOpensGoodNewsWhileToolbarAndBoardOpenBadNews) {
     ClickButton(2);
@@ -110,10 +118,7 @@ TEST_F(ToolBarAndMenusTest, ToolbarButtonsRunTheirCommands) {
 }
 
 TEST_F(ToolBarAndMenusTest, TheMouseThatComesToTheFirstButtonFirstFramesIt) {
-    // Sent by hand: wherever the tests before have left the mouse, it comes from outside.
-    const QPointF at(OnToolBar(0));
-    QMouseEvent move(QEvent::MouseMove, at, ToolBar().mapToGlobal(at), Qt::NoButton, Qt::NoButton, {});
-    QApplication::sendEvent(&ToolBar(), &move);
+    ComeTo(0);
     EXPECT_TRUE(Find<QWidget>("linButTop").isVisible());
     EXPECT_EQ(Find<QWidget>("linButTop").geometry().topLeft(), QPoint(2, 2));
 }
@@ -122,7 +127,7 @@ TEST_F(ToolBarAndMenusTest, ToolbarFramesTheButtonUnderTheMouse) {
     auto& top = Find<QWidget>("linButTop");
     auto& right = Find<QWidget>("linButRight");
     EXPECT_FALSE(top.isVisible());
-    QTest::mouseMove(&ToolBar(), OnToolBar(1));
+    ComeTo(1);
     EXPECT_TRUE(top.isVisible());
     EXPECT_EQ(top.geometry().topLeft(), QPoint(25, 2));
     EXPECT_EQ(right.x(), 47);
