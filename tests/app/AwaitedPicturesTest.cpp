@@ -43,7 +43,6 @@ protected:
 
     /// The same until the board stands ahead of the photograph: on a busy machine that may be decoded first.
     void ChooseAwaitedPhoto() {
-        constexpr int kTries = 50;
         for (int tries = 0; tries < kTries; ++tries) {
             ForgetPictures();
             ChoosePhoto();
@@ -51,6 +50,8 @@ protected:
         }
         FAIL() << "the board waits for the photograph";
     }
+
+    static constexpr int kTries = 50;
 
     /// Pixels of the photograph's colour on the space, as the window shows it.
     int PurplePixels() const {
@@ -105,16 +106,21 @@ TEST_F(AwaitedPicturesTest, PictureThatCannotBeReadIsToldOnceAndTheRestOfTheBoar
 }
 
 TEST_F(AwaitedPicturesTest, FailureWhileOneIsPastedLeavesNoQueueOpen) {
-    ASSERT_NO_FATAL_FAILURE(ChooseAwaitedPhoto());
-    int failed = 0;
-    Files::SetFaultHook([&failed](Files::Operation, const QString&) -> std::optional<QString> {
-        // What the decoder asks for isn't the window's.
-        if (QThread::currentThread() == qApp->thread() && basMsgQueue::MsgQueue_IsOpen() && ++failed == 1)
-            ErrRaise(1234, kCause);
-        return std::nullopt;
-    });
-    const bool told = Comes([this] { return !desktop.boxes.isEmpty(); });
-    Files::SetFaultHook({});
+    bool told = false;
+    // A photograph that is there at once is pasted without any question to the disk.
+    for (int tries = 0; tries < kTries && !told; ++tries) {
+        ASSERT_NO_FATAL_FAILURE(ChooseAwaitedPhoto());
+        int failed = 0;
+        Files::SetFaultHook([&failed](Files::Operation, const QString&) -> std::optional<QString> {
+            // What the decoder asks for isn't the window's.
+            if (QThread::currentThread() == qApp->thread() && basMsgQueue::MsgQueue_IsOpen() && ++failed == 1)
+                ErrRaise(1234, kCause);
+            return std::nullopt;
+        });
+        EXPECT_TRUE(Comes([this] { return !desktop.boxes.isEmpty() || PurplePixels() > kEnough; }));
+        Files::SetFaultHook({});
+        told = !desktop.boxes.isEmpty();
+    }
     ASSERT_TRUE(told);
     EXPECT_TRUE(desktop.boxes.first().sText.contains(kCause));
     EXPECT_FALSE(basMsgQueue::MsgQueue_IsOpen());
