@@ -156,6 +156,25 @@ TEST(DesktopWidgetsTest, BoxWithALongNameIsNoWiderThanAScreen) {
     EXPECT_LT(width, 700) << "the screen is 800 wide";
 }
 
+struct ShownBox {
+    QString sText;
+    QString sDetails;
+    int iHeight = 0;
+};
+
+// The box that is raised, once it has been closed.
+ShownBox Raised(const std::function<void()>& raise) {
+    ShownBox shown;
+    QTimer::singleShot(0, [&shown] {
+        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(box);
+        shown = {box->text(), box->detailedText(), box->height()};
+        box->close();
+    });
+    raise();
+    return shown;
+}
+
 TEST(DesktopWidgetsTest, BoxOfManyMessagesShowsTheFirstAndHasTheRestBehindAButton) {
     QStringList messages;
     for (int i = 1; i <= 40; ++i)
@@ -163,55 +182,30 @@ TEST(DesktopWidgetsTest, BoxOfManyMessagesShowsTheFirstAndHasTheRestBehindAButto
             QStringLiteral("The file named '/home/somebody/Documents/My Games/picture %1.jpg' is invalid or "
                            "does not exist. Area will be left empty.")
                 .arg(i));
-    QString shown, details;
-    int height = 0;
-    QTimer::singleShot(0, [&] {
-        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        ASSERT_TRUE(box);
-        shown = box->text();
-        details = box->detailedText();
-        height = box->height();
-        box->close();
-    });
-    DesktopWidgets().MsgList(messages, vbExclamation, QStringLiteral("Title"));
-    EXPECT_EQ(shown,
+    const ShownBox box = Raised([&] { DesktopWidgets().MsgList(messages, vbExclamation, QStringLiteral("Title")); });
+    EXPECT_EQ(box.sText,
               messages.mid(0, 8).join(u'\n') + QStringLiteral("\n\nThere are 32 more; the details hold them all."));
-    EXPECT_EQ(details, messages.join(u'\n'));
-    EXPECT_LT(height, 600) << "it fits the smallest screens";
+    EXPECT_EQ(box.sDetails, messages.join(u'\n'));
+    EXPECT_LT(box.iHeight, 600) << "it fits the smallest screens";
 
-    QTimer::singleShot(0, [&] {
-        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        ASSERT_TRUE(box);
-        shown = box->text();
-        EXPECT_EQ(box->detailedText(), QString());
-        box->close();
-    });
-    DesktopWidgets().MsgList(messages.mid(0, 12), vbExclamation, QStringLiteral("Title"));
-    EXPECT_EQ(shown, messages.mid(0, 12).join(u'\n'));
+    const QStringList few = messages.mid(0, 12);
+    const ShownBox whole = Raised([&] { DesktopWidgets().MsgList(few, vbExclamation, QStringLiteral("Title")); });
+    EXPECT_EQ(whole.sText, few.join(u'\n'));
+    EXPECT_EQ(whole.sDetails, QString());
 }
 
 TEST(DesktopWidgetsTest, BoxWithANameWithoutEndShowsItsBeginningAndWhatIsWrong) {
-    QString shown, details;
-    int height = 0;
-    QTimer::singleShot(0, [&] {
-        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        ASSERT_TRUE(box);
-        shown = box->text();
-        details = box->detailedText();
-        height = box->height();
-        box->close();
-    });
     QString name;
     while (name.size() < 10'000)
         name += QStringLiteral("holiday ");
     const QString message = QStringLiteral("The file named '%1' is invalid.").arg(name);
-    DesktopWidgets().MsgBox(message, vbExclamation, QStringLiteral("Title"));
-    EXPECT_TRUE(shown.startsWith(QStringLiteral("The file named 'holiday "))) << shown.toStdString();
-    EXPECT_TRUE(shown.endsWith(QStringLiteral("holiday ' is invalid.\n\nThe details hold all of it.")))
-        << shown.toStdString();
-    EXPECT_EQ(details, message);
-    EXPECT_GT(height, 100);
-    EXPECT_LT(height, 600) << "it fits the smallest screens";
+    const ShownBox box = Raised([&] { DesktopWidgets().MsgBox(message, vbExclamation, QStringLiteral("Title")); });
+    EXPECT_TRUE(box.sText.startsWith(QStringLiteral("The file named 'holiday "))) << box.sText.toStdString();
+    EXPECT_TRUE(box.sText.endsWith(QStringLiteral("holiday ' is invalid.\n\nThe details hold all of it.")))
+        << box.sText.toStdString();
+    EXPECT_EQ(box.sDetails, message);
+    EXPECT_GT(box.iHeight, 100);
+    EXPECT_LT(box.iHeight, 600) << "it fits the smallest screens";
 }
 
 TEST(DesktopWidgetsTest, BelowSeveralMessagesStandsAWayOutWhereItHelps) {
