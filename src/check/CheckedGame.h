@@ -30,9 +30,8 @@ public:
     const std::vector<PaperText>& Texts() const { return m_texts; }
     const std::vector<PaperPicture>& Pictures() const { return m_pictures; }
 
-    /// Works out a little more of what the checks want to know: the words of a piece, the
-    /// letters of one text, or one picture. False when
-    /// nothing is left; the checks may be run only then.
+    /// Works out a little more of what the checks want to know: the words of a piece, the letters of one text, or one
+    /// picture. False when nothing is left; the checks may be run only then.
     bool Gather();
 
 private:

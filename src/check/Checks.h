@@ -16,22 +16,20 @@ class Findings {
 public:
     Findings(const char* sCheck, Severity severity) : m_check(sCheck), m_severity(severity) {}
 
-    /// Whole sentences; the text doesn't name the piece. It counts for all sheets of the piece; where it shows on some
-    /// of them only, or on others, the caller sets them in what is returned, ahead of the next call.
+    /// Whole sentences; the text doesn't name the piece, and is shortened where the name of a file or a typeface in it
+    /// has no end. It counts for all sheets of the piece; where it shows on some of them only, or on others, the caller
+    /// sets them in what is returned, ahead of the next call.
     Finding& Add(GamePiece piece, const QString& sText, const QString& sAdvice) {
         return Add(piece, m_severity, sText, sAdvice);
     }
     /// Less bad than such things usually are.
     Finding& Add(GamePiece piece, Severity severity, const QString& sText, const QString& sAdvice) {
-        return m_list.emplace_back(Finding{QString::fromLatin1(m_check), severity, piece,
-                                           GameWords::Shortened(sText, kMostLetters), sAdvice, PieceSheets::Of(piece)});
+        return m_list.emplace_back(Finding{QString::fromLatin1(m_check), severity, piece, GameWords::Shortened(sText),
+                                           sAdvice, PieceSheets::Of(piece)});
     }
     const std::vector<Finding>& List() const { return m_list; }
 
 private:
-    // Names of files and typefaces in it may be of any length.
-    static constexpr qsizetype kMostLetters = 400;
-
     const char* m_check;
     Severity m_severity;
     std::vector<Finding> m_list;

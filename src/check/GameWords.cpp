@@ -3,16 +3,18 @@
 
 #include "document/basTAVL.h"
 #include "document/RecordFields.h"
+#include "platform/text/TextColumns.h"
 
 namespace GameWords {
 namespace {
 
-constexpr qsizetype kReadable = 1000;
+constexpr int kReadable = 1000;
+constexpr int kMostTyped = TextLines::kMaxLines * TextLines::kMaxLastLine;
 
 // Hands on what is left of a text that is longer; all others stay as they are.
 template <typename Take>
 void Shorten(const QString& sText, const Take& take) {
-    if (sText.size() > kReadable) take(sText.left(kReadable));
+    if (sText.size() > kReadable) take(TextColumns::LeftCharacters(sText, kReadable));
 }
 
 QString OneLine(const QString& sText) { return basTAVL::CRLF2Space(sText).simplified(); }
@@ -52,8 +54,9 @@ Game OfReadableLength(const Game& game) {
     return result;
 }
 
-QString Shortened(const QString& sText, qsizetype most) {
-    return sText.size() > most ? sText.left(most) + QStringLiteral("...") : sText;
+QString Shortened(const QString& sText) {
+    if (sText.size() <= kMostTyped) return sText;
+    return TextColumns::LeftCharacters(sText, kMostTyped) + QStringLiteral("...");
 }
 
 bool IsBlank(const QString& sText) { return sText.trimmed().isEmpty() || sText == kNotFilledIn; }

@@ -20,8 +20,9 @@ QString OfTitle(const Game& game, int iTitle);
 /// be too long by that much, and takes no time to be measured.
 Game OfReadableLength(const Game& game);
 
-/// No more of a text than a sentence has room for, and three dots for the rest.
-QString Shortened(const QString& sText, qsizetype most = 80);
+/// A text as long as it can be typed, which is four hundred letters, and three dots for what is more: for sentences and
+/// lists, where a text without end would take long to lay out.
+QString Shortened(const QString& sText);
 
 /// Nothing but blanks, or what stands for a text that nobody has written yet.
 bool IsBlank(const QString& sText);

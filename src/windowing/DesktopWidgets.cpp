@@ -2,6 +2,7 @@
 #include "windowing/DesktopWidgets.h"
 
 #include "platform/text/LongWords.h"
+#include "platform/text/TextColumns.h"
 #include "windowing/SystemPrinter.h"
 
 #include <QApplication>
@@ -93,10 +94,11 @@ qsizetype RowsOf(const QStringList& lines) {
 
 // Of a line that fills a screen by itself, as with a name of thousands of letters, its beginning and its end.
 QString Shortened(const QString& sLine) {
-    constexpr qsizetype kBeginning = 600;
-    constexpr qsizetype kEnd = 300;
+    constexpr int kBeginning = 600;
+    constexpr int kEnd = 300;
     if (sLine.size() <= kBeginning + kEnd) return sLine;
-    return sLine.left(kBeginning) + QStringLiteral(" ... ") + sLine.right(kEnd);
+    const int end = TextColumns::AtOrBehind(sLine, int(sLine.size()) - kEnd);
+    return TextColumns::LeftCharacters(sLine, kBeginning) + QStringLiteral(" ... ") + sLine.mid(end);
 }
 
 // A box never scrolls: one with a line for each of forty missing pictures would stand with its buttons below

@@ -128,7 +128,13 @@ TEST_F(CheckTest, OfATextThatNobodyCanReadTheFirstThousandLettersAreLookedAt) {
 TEST_F(CheckTest, WhatIsToldIsNoLongerThanASentence) {
     game.spaces[kSpace].Let_TextAll(QString(500, u'm'));
     game.spaces[kSpace].Font.Family = QString(5000, u'F');
-    EXPECT_EQ(kPiece.NameIn(game), QStringLiteral("Space \"%1...\"").arg(QString(80, u'm')));
+    EXPECT_EQ(kPiece.NameIn(game), QStringLiteral("Space \"%1...\"").arg(QString(400, u'm')));
+    // All that can be typed stays whole, and a letter of two units is never halved.
+    const QString typed(400, u'm');
+    game.spaces[kSpace].Let_TextAll(typed);
+    EXPECT_EQ(kPiece.NameIn(game), QStringLiteral("Space \"%1\"").arg(typed));
+    game.spaces[kSpace].Let_TextAll(QString(399, u'm') + QStringLiteral("\U0001F600 and more"));
+    EXPECT_EQ(kPiece.NameIn(game), QStringLiteral("Space \"%1...\"").arg(QString(399, u'm')));
     ASSERT_EQ(Of("font-away").size(), 1U);
     EXPECT_EQ(Of("font-away")[0].sText.size(), 403);
     EXPECT_TRUE(Of("font-away")[0].sText.endsWith(QStringLiteral("FFF...")));

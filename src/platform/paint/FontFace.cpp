@@ -2,6 +2,7 @@
 #include "platform/paint/FontFace.h"
 
 #include "platform/paint/PaintText.h"
+#include "platform/text/TextColumns.h"
 
 #include <QFontInfo>
 #include <QFontMetricsF>
@@ -213,7 +214,7 @@ QStringList FontFace::Unprintable(const QString& sText) const {
 }
 
 void FontFace::DrawLong(QPainter& painter, const QString& sText, bool bUnderline) const {
-    const QString first = sText.left(kMostReadable);
+    const QString first = TextColumns::LeftCharacters(sText, kMostReadable);
     painter.save();
     painter.scale(Advance(sText) / std::max(Advance(first), 1.0), 1);
     Draw(painter, first, bUnderline);

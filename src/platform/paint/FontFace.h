@@ -49,7 +49,7 @@ public:
     QStringList Unprintable(const QString& sText) const;
 
     /// In a line; no paper has room for more that anybody could read.
-    static constexpr qsizetype kMostReadable = 1000;
+    static constexpr int kMostReadable = 1000;
 
     /// Draws with the left end of the baseline in the origin, in these units: 2048 to the em. Where there are more
     /// letters than can be read, the first of them fill the width of all, which looks the same and takes no time.
