@@ -216,6 +216,22 @@ TEST_F(MetafileShapesTest, AFloodStopsAtItsBorderOrColour) {
     EXPECT_EQ(At(around, 10, 10), kRed);
 }
 
+TEST_F(MetafileShapesTest, SeveralFloodsAreDoneAtASizeForPaper) {
+    MetafileBuilder builder(1200, 1200);
+    builder.Pen(0, 1, Red()).HollowBrush();
+    for (int i = 0; i < 3; ++i)
+        builder.Box(MetafileOrder::Rectangle, 100 + i * 300, 100, 300 + i * 300, 1100);
+    builder.Brush(Blue());
+    for (int i = 0; i < 3; ++i) {
+        builder.Add(MetafileOrder::FloodFill,
+                    MetafileBuilder::ColorWords(Red()) + MetafileBuilder::Words{600, 200 + i * 300});
+    }
+    const QImage picture = Played(builder.Plain(), 1200, 1200);
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(At(picture, 200 + i * 300, 600), kBlue) << "flood " << i;
+    EXPECT_EQ(At(picture, 50, 600), kWhite);
+}
+
 TEST_F(MetafileShapesTest, AFloodWithinAShapeOfLessThanTwoPixelsNeverEscapes) {
     // Thirty units are a pixel. The flood begins within the shape, near its right side, and in a pixel of its own
     // that the shape, drawn in pixels, doesn't reach.

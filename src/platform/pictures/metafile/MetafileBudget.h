@@ -9,7 +9,7 @@ class MetafileBudget {
 public:
     static constexpr qint64 kWhole = 150'000'000;
     /// What a flood takes for each pixel of the picture that it runs through.
-    static constexpr qint64 kFloodedPixel = 60;
+    static constexpr qint64 kFloodedPixel = 20;
 
     explicit MetafileBudget(qint64 units = kWhole) : m_left(units) {}
     /// False, and nothing taken, for more than is left.

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/pictures/metafile/MetafileCanvas.h"
 
-#include <QPaintEngine>
+#include "platform/pictures/metafile/MetafileFlood.h"
 
-#include <vector>
+#include <QPaintEngine>
 
 namespace {
 
@@ -120,47 +120,23 @@ void MetafileCanvas::Combine(const QRect& area, quint8 code, const QImage& sourc
     }
 }
 
-QImage MetafileCanvas::FloodMask(QPoint start, QRgb colour, bool onlyOnColour) const {
-    QImage mask(m_bounds.size(), QImage::Format_Grayscale8);
-    mask.fill(0);
-    const auto isOpen = [&](QPoint pixel) {
-        if (!MayPaint(pixel) || mask.constScanLine(pixel.y())[pixel.x()] != 0) return false;
-        const QRgb here = m_picture->pixel(pixel) | 0xFF000000;
-        return (here == (colour | 0xFF000000)) == onlyOnColour;
-    };
-    std::vector<QPoint> seeds{start};
-    while (!seeds.empty()) {
-        const QPoint seed = seeds.back();
-        seeds.pop_back();
-        if (!isOpen(seed)) continue;
-        QPoint pixel = seed;
-        while (isOpen(pixel - QPoint(1, 0)))
-            pixel.rx() -= 1;
-        for (; isOpen(pixel); pixel.rx() += 1) {
-            mask.scanLine(pixel.y())[pixel.x()] = 255;
-            seeds.push_back(pixel - QPoint(0, 1));
-            seeds.push_back(pixel + QPoint(0, 1));
-        }
-    }
-    return mask;
-}
-
 void MetafileCanvas::FloodFill(QPoint start, QRgb colour, bool onlyOnColour, const DrawFunction& draw) {
     if (!m_picture || !MayPaint(start)) return;
     const qint64 pixels = qint64(m_bounds.width()) * m_bounds.height();
     if (!m_budget.Spend(pixels * MetafileBudget::kFloodedPixel)) return;
-    const QImage mask = FloodMask(start, colour, onlyOnColour);
-    QImage layer(m_bounds.size(), QImage::Format_ARGB32_Premultiplied);
+    const QRegion region = m_clip ? *m_clip & m_bounds : QRegion(m_bounds);
+    const MetafileFlood flood = MetafileFlood::From(start, *m_picture, region, colour, onlyOnColour);
+    if (flood.area.isEmpty()) return;
+    QImage layer(flood.area.size(), QImage::Format_ARGB32_Premultiplied);
     layer.fill(Qt::transparent);
     {
         QPainter painter(&layer);
+        painter.translate(-flood.area.topLeft());
         draw(painter);
         painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
-        QImage alpha = mask;
-        alpha.reinterpretAsFormat(QImage::Format_Alpha8);
-        painter.drawImage(0, 0, alpha);
+        painter.drawImage(flood.area.topLeft(), flood.mask);
     }
-    m_painter->drawImage(0, 0, layer);
+    m_painter->drawImage(flood.area.topLeft(), layer);
 }
 
 QImage MetafileCanvas::Snapshot(const QRect& area) const { return m_picture ? m_picture->copy(area) : QImage(); }

@@ -62,7 +62,6 @@ public:
 
 private:
     bool MayPaint(QPoint pixel) const;
-    QImage FloodMask(QPoint start, QRgb colour, bool onlyOnColour) const;
 
     QPainter* m_painter;
     QImage* m_picture = nullptr;
