@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Takes any bytes for a metafile and follows its orders into a small picture with little work to spend, as painting
-// takes what time there is. One length in sixty-four is played as the program does it: straight onto a picture,
-// at the size that its floods ask for, and turned, as onto a destination that can't be read back.
+// takes what time there is. One input in a thousand is played as the program does it: straight onto a picture, at the
+// size that its floods ask for, and turned, as onto a destination that can't be read back.
 #include "platform/pictures/Metafile.h"
 
 #include "platform/pictures/metafile/MetafilePlayer.h"
@@ -10,9 +10,11 @@
 #include <QGuiApplication>
 #include <QPainter>
 
+#include <numeric>
+
 namespace {
 
-constexpr size_t kLengthsToAPlaying = 64;
+constexpr unsigned kInputsToAPlaying = 1024;
 constexpr qsizetype kHead = 18;
 constexpr qsizetype kPlaceableHead = 22;
 constexpr qint64 kWork = 400'000;
@@ -54,7 +56,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const QByteArray bytes(reinterpret_cast<const char*>(data), qsizetype(size));
     const std::optional<Metafile> metafile = Metafile::FromBytes(bytes, error);
     if (!metafile) return 0;
-    if (size % kLengthsToAPlaying == 0) {
+    if (std::accumulate(data, data + size, 0U) % kInputsToAPlaying == 0) {
         PlayAsTheProgramDoes(*metafile);
     } else {
         FollowOrders(QByteArrayView(bytes).sliced(kHead + (metafile->IsPlaceable() ? kPlaceableHead : 0)));
