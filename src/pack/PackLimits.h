@@ -9,7 +9,7 @@ namespace PackLimits {
 /// A game has 42 pictures and at most 70 fonts, each in four styles.
 constexpr qsizetype kMostEntries = 400;
 /// In bytes: of the game's text, and of everything unpacked.
-constexpr qint64 kMostOfGame = qint64(64) << 20;
+constexpr qint64 kMostOfGame = qint64(2) << 20;
 constexpr qint64 kMostUnpacked = qint64(2) << 30;
 
 /// Whether so many bytes, packed as those, are a trap. Empty bitmaps shrink to a thousandth, too: what any disk has

@@ -18,6 +18,11 @@ const QString kGameEnding = QStringLiteral(".gam");
 const QString kDamaged = QStringLiteral("a part of it is missing or was changed on its way");
 const QString kNoGame = QStringLiteral("it holds no game");
 
+QString WhyUnread(const ZipSource& source) {
+    const QString why = source.WhyUnread();
+    return why.isEmpty() ? kDamaged : why;
+}
+
 // What an entry can be unpacked to at the most, so that a few bytes that claim to be a disk full take no memory.
 qint64 LargestOf(const ZipReader::Entry& entry) {
     constexpr qint64 kMostShrunk = 1040;
@@ -50,16 +55,27 @@ bool IsFont(const QString& sEntry) {
 } // namespace
 
 std::optional<PackReader> PackReader::Open(const QByteArray& bytes, QString& sError) {
-    std::optional<ZipReader> zip = ZipReader::Open(bytes);
+    return Open(std::make_shared<ZipBytes>(bytes), sError);
+}
+
+std::optional<PackReader> PackReader::OpenFile(const QString& sPath, QString& sError) {
+    const auto file = std::make_shared<ZipFile>();
+    return file->Open(sPath, sError) ? Open(file, sError) : std::nullopt;
+}
+
+std::optional<PackReader> PackReader::Open(std::shared_ptr<ZipSource> source, QString& sError) {
+    std::optional<ZipReader> zip = ZipReader::Open(source);
     if (!zip) {
-        sError = kDamaged;
+        sError = ::WhyUnread(*source);
         return std::nullopt;
     }
-    PackReader reader(std::move(*zip));
-    sError = reader.WhyRefused(bytes.size());
+    PackReader reader(std::move(*zip), std::move(source));
+    sError = reader.WhyRefused(reader.m_source->Size());
     if (!sError.isEmpty()) return std::nullopt;
     return reader;
 }
+
+QString PackReader::WhyUnread() const { return ::WhyUnread(*m_source); }
 
 QString PackReader::WhyRefused(qint64 packedSize) {
     if (m_zip.Entries().size() > PackLimits::kMostEntries)
@@ -104,7 +120,7 @@ QString PackReader::WhyNoPack() const {
     const bool typed = place != m_places.constEnd() && m_zip.Entries().at(*place).size == PackNames::kType.size();
     if (!typed || m_gameEntry.isEmpty()) return kNoGame;
     const std::optional<QByteArray> type = m_zip.Read(*place);
-    if (!type) return kDamaged;
+    if (!type) return WhyUnread();
     return *type == PackNames::kType ? QString() : kNoGame;
 }
 
@@ -112,7 +128,7 @@ QString PackReader::TakeGame() {
     const ZipReader::Entry& entry = m_zip.Entries().at(m_places.value(PackNames::Key(m_gameEntry)));
     if (entry.size > PackLimits::kMostOfGame) return QStringLiteral("unpacked, it would be far too large");
     const std::optional<QByteArray> bytes = Read(m_gameEntry);
-    if (!bytes) return kDamaged;
+    if (!bytes) return WhyUnread();
     if (!ReadGameHeader(*bytes).bIsGame) return kNoGame;
     m_name = PackNames::FileName(m_gameEntry.chopped(kGameEnding.size()));
     m_lines = TextFile::SplitLines(TextFile::Decode(*bytes));

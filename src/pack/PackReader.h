@@ -2,18 +2,21 @@
 #pragma once
 
 #include "pack/ZipReader.h"
+#include "pack/ZipSource.h"
 
 #include <QHash>
 #include <QStringList>
 
 #include <functional>
 
-/// A packed game in memory, as strict as must be with a stranger's: a name that leads out of its folder, a link, two
-/// equal names, a trap that would fill the disk, a damaged part and the like refuse the whole file. Touches no disk.
+/// A packed game, as strict as must be with a stranger's: a name that leads out of its folder, a link, two
+/// equal names, a trap that would fill the disk, a damaged part and the like refuse the whole file. Writes nothing.
 class PackReader {
 public:
     /// Nothing, and in sError what is wrong with it, to stand behind a colon: lower case, without a point.
     static std::optional<PackReader> Open(const QByteArray& bytes, QString& sError);
+    /// The same of a file, which is read where it is needed and never held as a whole.
+    static std::optional<PackReader> OpenFile(const QString& sPath, QString& sError);
 
     /// The game's name, without an ending.
     const QString& GameName() const { return m_name; }
@@ -26,9 +29,13 @@ public:
     std::optional<QByteArray> Read(const QString& sEntry) const;
     /// The same in pieces; false when the bytes don't agree, which is known only at their end, or it was stopped.
     bool Read(const QString& sEntry, const ZipReader::Taker& take) const;
+    /// Of bytes that couldn't be read: what the disk says, or that they are damaged; as Open says it.
+    QString WhyUnread() const;
 
 private:
-    explicit PackReader(ZipReader zip) : m_zip(std::move(zip)) {}
+    PackReader(ZipReader zip, std::shared_ptr<ZipSource> source)
+        : m_zip(std::move(zip)), m_source(std::move(source)) {}
+    static std::optional<PackReader> Open(std::shared_ptr<ZipSource> source, QString& sError);
     QString WhyRefused(qint64 packedSize);
     QString TakeNames();
     QString WhyNoPack() const;
@@ -36,6 +43,7 @@ private:
     QString TakePictures();
 
     ZipReader m_zip;
+    std::shared_ptr<ZipSource> m_source;
     /// Their places, by the key of their names.
     QHash<QString, qsizetype> m_places;
     QString m_gameEntry;

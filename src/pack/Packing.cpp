@@ -94,6 +94,10 @@ public:
     std::optional<QByteArray> Run(bool bShrink, QString& sError) {
         ZipWriter zip;
         const QByteArray game = TextFile::Encode(TextFile::JoinLines(m_contents.lines));
+        if (game.size() > PackLimits::kMostOfGame) {
+            sError = QStringLiteral("its texts are too long for one file");
+            return std::nullopt;
+        }
         zip.Add(PackNames::kTypeEntry, Method::Stored, PackNames::kType);
         zip.Add(m_contents.sName + kGameEnding, Method::Deflated, game);
         if (!m_contents.board.isEmpty()) zip.Add(PackNames::kBoardEntry, Method::Stored, m_contents.board);

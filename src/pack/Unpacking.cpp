@@ -51,7 +51,7 @@ bool WriteFile(const PackReader& reader, const QString& sEntry, const QString& s
         written = file.WasWritten(sError);
         return written;
     });
-    if (written && !whole) sError = QStringLiteral("a part of it is missing or was changed on its way");
+    if (written && !whole) sError = reader.WhyUnread();
     return written && whole;
 }
 
@@ -96,8 +96,7 @@ bool IsPacked(const QString& sPath) {
 }
 
 std::optional<QString> Unpack(const QString& sPacked, const QString& sInto, QString& sError) {
-    const std::optional<QByteArray> bytes = Files::ReadAll(sPacked, sError);
-    const std::optional<PackReader> reader = bytes ? PackReader::Open(*bytes, sError) : std::nullopt;
+    const std::optional<PackReader> reader = PackReader::OpenFile(sPacked, sError);
     const std::optional<QString> game = reader ? UnpackInto(*reader, sInto, sError) : std::nullopt;
     if (sError.endsWith(u'.')) sError.chop(1);
     if (!game) sError = QStringLiteral("'%1' can't be opened: %2.").arg(FileNameOf(sPacked), sError);

@@ -9,7 +9,10 @@
 #include <memory>
 #include <optional>
 
-/// The entries of a zip archive in memory, as they say they are; what they say is for the caller to doubt.
+class ZipSource;
+
+/// The entries of a zip archive, as they say they are; what they say is for the caller to doubt. Takes a few megabytes
+/// of memory, however large the archive.
 class ZipReader {
 public:
     enum class Kind { File, Folder, Special };
@@ -26,6 +29,7 @@ public:
     };
 
     /// Nothing when it isn't a whole archive that agrees with itself.
+    static std::optional<ZipReader> Open(std::shared_ptr<ZipSource> source);
     static std::optional<ZipReader> Open(const QByteArray& bytes);
 
     const QList<Entry>& Entries() const { return m_entries; }

@@ -137,6 +137,14 @@ TEST_F(PackingTest, AFullDiskLeavesTheOldFile) {
     EXPECT_EQ(ReadFile(packed), QByteArray("old"));
 }
 
+TEST_F(PackingTest, TextsThatNobodyCouldOpenAgainAreRefused) {
+    QStringList lines = PlainLines();
+    lines[1] = u'"' + QString(3 << 20, u'x') + QStringLiteral("\", \"Sub\", \"Day\"");
+    QString error;
+    EXPECT_FALSE(Packing::Pack(Gathered(lines, QStringLiteral("x.gam")), {}, error));
+    EXPECT_EQ(error, QStringLiteral("its texts are too long for one file"));
+}
+
 TEST_F(PackingTest, ABitmapIsShrunkAndWhatIsShrunkAlreadyGoesInAsItIs) {
     const QImage image = PictureFiles::Quarters(20, 20);
     const QMap<int, QString> pictures{{3, WriteFile(QStringLiteral("a.bmp"), PictureFiles::Bmp(image))},

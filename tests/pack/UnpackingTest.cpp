@@ -318,3 +318,25 @@ TEST_F(UnpackingTest, WhatWasPackedComesOutWithoutTheOriginals) {
     for (int i = 0; i < basTAVL::kTokens; ++i)
         EXPECT_EQ(ReadFile(TheGame().tokens[size_t(i)].Image.FullPath()), PictureOf(63 + i)) << i;
 }
+
+TEST_F(UnpackingTest, ADiskThatCannotBeReadIsToldAsSuchWheneverItFails) {
+    const QByteArray bytes = Plain().Bytes();
+    const std::string before = Tree(out);
+    const QString path = WriteFile(QStringLiteral("Family.tavlora"), bytes);
+    int reads = 0;
+    int failing = -1;
+    Files::SetFaultHook([&](Files::Operation operation, const QString& of) -> std::optional<QString> {
+        if (operation != Files::Operation::Read || of != path) return std::nullopt;
+        return reads++ == failing ? std::optional(QStringLiteral("Input/output error")) : std::nullopt;
+    });
+    ASSERT_TRUE(Unpacking::Unpack(path, PathOf(QStringLiteral(".")), error)) << error.toStdString();
+    const int all = reads;
+    ASSERT_GT(all, 5);
+    for (failing = 0; failing < all; ++failing) {
+        reads = 0;
+        EXPECT_FALSE(Unpacking::Unpack(path, out, error)) << failing;
+        EXPECT_EQ(error, QStringLiteral("'Family.tavlora' can't be opened: Input/output error.")) << failing;
+        EXPECT_EQ(Tree(out), before) << failing;
+    }
+    Files::SetFaultHook({});
+}

@@ -45,6 +45,8 @@ void BinaryFile::TellBeforeWriting(BeforeWriting listener) { s_beforeWriting = l
 
 void BinaryFile::Close() { m_file->close(); }
 
+qint64 BinaryFile::Size() const { return m_file->size(); }
+
 void BinaryFile::Seek(qint64 position) { m_file->seek(position); }
 
 bool BinaryFile::AtEnd() const { return m_file->atEnd(); }

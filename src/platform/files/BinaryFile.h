@@ -25,6 +25,8 @@ public:
     bool OpenNew(const QString& sPath, QString& sError);
     void Close();
 
+    /// In bytes, as of this moment.
+    qint64 Size() const;
     void Seek(qint64 position);
     bool AtEnd() const;
 
