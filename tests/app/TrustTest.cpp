@@ -25,7 +25,8 @@ constexpr int kStatusOfTheEnd = 7;
 
 class TrustTest : public AppTest {
 protected:
-    enum class Step { Autosave, AutosaveAfterBackup, Save, SaveOfTwoEdits };
+    /// A rescue is what a save does whose file can't be written.
+    enum class Step { Autosave, AutosaveAfterBackup, Save, SaveOfTwoEdits, RescueOfTwoEdits };
 
     /// As saved and edited once, or in the state that the step needs ahead of it.
     void StartWithSavedGame(Step step = Step::Autosave) {
@@ -36,7 +37,7 @@ protected:
         Start();
         desktop.boxes.clear();
         if (step != Step::AutosaveAfterBackup) Edit(kFirstEdit);
-        if (step == Step::SaveOfTwoEdits) Edit(kLastEdit);
+        if (step == Step::SaveOfTwoEdits || step == Step::RescueOfTwoEdits) Edit(kLastEdit);
     }
     /// The step during which things go wrong. Errors that reach the top are reported there, as in a window.
     void Do(Step step) const {
@@ -50,14 +51,19 @@ protected:
             ErrTop("TrustTest!", "Do");
         }
     }
+    static std::optional<QString> WhyRefused(Step step, Files::Operation operation, const QString& path) {
+        const bool isGame = operation == Files::Operation::Commit && path.endsWith(QStringLiteral("/Mine.gam"));
+        return step == Step::RescueOfTwoEdits && isGame ? std::optional(QStringLiteral("No space left on device"))
+                                                        : std::nullopt;
+    }
     /// How many operations on files a step takes.
     int CountOperations(Step step) {
         CleanUp();
         StartWithSavedGame(step);
         int count = 0;
-        Files::SetFaultHook([&](Files::Operation, const QString&) {
+        Files::SetFaultHook([&](Files::Operation operation, const QString& path) {
             ++count;
-            return std::optional<QString>();
+            return WhyRefused(step, operation, path);
         });
         Do(step);
         Files::SetFaultHook({});
@@ -97,7 +103,7 @@ protected:
         const QString found = TextOfSpace4();
         const bool putAside =
             !QDir(PathOf(QStringLiteral("games"))).entryList({QStringLiteral("Rescued*")}, QDir::Files).isEmpty();
-        const bool hadFirst = step != Step::SaveOfTwoEdits;
+        const bool hadFirst = step != Step::SaveOfTwoEdits && step != Step::RescueOfTwoEdits;
         const bool hasLast = step != Step::Save;
         EXPECT_TRUE((hadFirst && found == kFirstEdit) || (hasLast && found == kLastEdit) || putAside)
             << when << ": " << found.toStdString();
@@ -128,9 +134,9 @@ protected:
         const pid_t child = fork();
         if (child == 0) {
             int at = 0;
-            Files::SetFaultHook([&](Files::Operation, const QString&) {
+            Files::SetFaultHook([&](Files::Operation operation, const QString& path) {
                 if (at++ == end) std::_Exit(kStatusOfTheEnd);
-                return std::optional<QString>();
+                return WhyRefused(step, operation, path);
             });
             Do(step);
             std::_Exit(0);
@@ -165,6 +171,19 @@ TEST_F(TrustTest, EndAtAnyMomentOfAnAutosaveLeavesTheWorkRecoverable) {
 TEST_F(TrustTest, EndAtAnyMomentOfASaveNeverBringsBackTheStateBeforeIt) {
     EndTheProgramAtEachOperationOf(Step::SaveOfTwoEdits);
 }
+TEST_F(TrustTest, EndAtAnyMomentOfARescueLeavesTheNewestWorkRecoverable) {
+    EndTheProgramAtEachOperationOf(Step::RescueOfTwoEdits);
+    CleanUp();
+    StartWithSavedGame(Step::RescueOfTwoEdits);
+    Files::SetFaultHook([](Files::Operation operation, const QString& path) {
+        return WhyRefused(Step::RescueOfTwoEdits, operation, path);
+    });
+    Do(Step::RescueOfTwoEdits);
+    Files::SetFaultHook({});
+    EXPECT_EQ(QDir(PathOf(QStringLiteral("games"))).entryList({QStringLiteral("Rescued*")}, QDir::Files).size(), 1)
+        << "what was ended is a rescue";
+}
+
 // The backup is then the only copy of the work.
 TEST_F(TrustTest, FirstChangeAfterABackupWasLoadedLeavesTheWorkRecoverable) {
     FailEachOperationOf(Step::AutosaveAfterBackup);
