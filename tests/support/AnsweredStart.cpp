@@ -5,6 +5,8 @@
 //   answered_start ANSWER MILLISECONDS [GAME]
 // ANSWER (yes, no) goes to every question; the splash stands for so many milliseconds in place of its own time.
 #include "app/RunProgram.h"
+#include "board/basPositPaint.h"
+#include "support/EndAtOperation.h"
 #include "windowing/DesktopWidgets.h"
 
 #include <QApplication>
@@ -45,8 +47,11 @@ public:
 
 private:
     void EndWhenUp() {
-        for (const QWidget* top : QApplication::topLevelWidgets()) {
+        for (QWidget* top : QApplication::topLevelWidgets()) {
             if (top->objectName() != QStringLiteral("frmTAVL") || !top->isVisible()) continue;
+            // Not before its pictures are painted.
+            top->grab();
+            if (basPosit::PosPicturesAwaited() > 0) break;
             Say("title: ", top->windowTitle());
             EndProgram(0);
         }
@@ -61,6 +66,7 @@ private:
 
 int main(int argc, char** argv) {
     if (argc < 3) return 2;
+    EndAtOperation::AsTold();
     AnsweringDesktop desktop(std::strcmp(argv[1], "yes") == 0, std::atoi(argv[2]));
     std::array<char, 8> name = {"tavlora"};
     std::array<char*, 3> words = {name.data(), argc > 3 ? argv[3] : nullptr, nullptr};
