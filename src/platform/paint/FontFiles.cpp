@@ -17,6 +17,8 @@ namespace {
 
 // Larger ones are whole libraries of styles, or no fonts at all.
 constexpr qint64 kMostBytes = qint64(64) << 20;
+// They stay in memory for the whole run.
+constexpr qint64 kMostOfAFolder = qint64(64) << 20;
 
 std::optional<FontHead> HeadOf(const QString& sPath) {
     QString error;
@@ -66,10 +68,14 @@ bool IsKnown(const QString& sFamily) { return QFontDatabase::hasFamily(sFamily);
 void UseFolder(const QString& sFolder) {
     bool any = false;
     QStringList wanted;
+    qint64 room = kMostOfAFolder;
     for (const QString& path : FontPaths::In(sFolder)) {
         const std::optional<FontHead> head = HeadOf(path);
+        const bool brought = Brought().contains(path);
         // Asked ahead of adding any, as bold and italic of one family come in files of their own.
-        if (head && !Brought().contains(path) && !IsAllKnown(head->families)) wanted.append(path);
+        if (!head || (!brought && IsAllKnown(head->families)) || Files::Size(path) > room) continue;
+        room -= Files::Size(path);
+        if (!brought) wanted.append(path);
     }
     for (const QString& path : wanted) {
         any = QFontDatabase::addApplicationFont(path) >= 0 || any;

@@ -24,7 +24,7 @@ QHash<QString, QList<File>> Of(const QStringList& families);
 bool IsKnown(const QString& sFamily);
 
 /// Fonts in a folder may be used from here on in this run, without being installed; those of families that are there
-/// already are passed over. No such folder is no fault.
+/// already are passed over, and those that would make more than 64 MB of them. No such folder is no fault.
 void UseFolder(const QString& sFolder);
 
 } // namespace FontFiles

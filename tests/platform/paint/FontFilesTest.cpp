@@ -17,6 +17,14 @@ protected:
     static std::optional<FontHead> Head(const QByteArray& font) {
         return FontHead::Read([&font](qint64 place, qint64 count) { return font.mid(place, count); });
     }
+    static QByteArray BigEndian(const QString& text) {
+        QByteArray bytes;
+        for (const QChar letter : text) {
+            bytes.append(char(letter.unicode() >> 8));
+            bytes.append(char(letter.unicode() & 0xFF));
+        }
+        return bytes;
+    }
     const QByteArray font = FontMaker::Font();
 };
 
@@ -124,6 +132,27 @@ TEST_F(FontFilesTest, FontsOfAFolderAreUsedWithoutBeingInstalled) {
     EXPECT_NE(before, after) << "the stand-in is no longer used";
     EXPECT_EQ(after,
               FontFace::Get(QStringLiteral("DejaVu Serif"), false, false).Advance(QStringLiteral("Mississippi")));
+    QFontDatabase::removeAllApplicationFonts();
+    FontFace::ForgetAll();
+}
+
+TEST_F(FontFilesTest, OfAFolderFullOfLargeFontsNoMoreAreUsedThanMemoryCanSpare) {
+    if (font.isEmpty()) GTEST_SKIP() << "DejaVu Serif is not installed";
+    const auto family = [](int number) { return QStringLiteral("Quill Lett %1").arg(number); };
+    const auto named = [&](int number, qint64 size) {
+        QByteArray bytes = font;
+        bytes.replace(FontMaker::kFamily.toLatin1(), family(number).toLatin1());
+        bytes.replace(BigEndian(FontMaker::kFamily), BigEndian(family(number)));
+        return bytes + QByteArray(size - bytes.size(), '\0');
+    };
+    constexpr qint64 kTwentyMegabytes = qint64(20) << 20;
+    for (int i = 0; i < 6; ++i)
+        WriteFile(QStringLiteral("%1.ttf").arg(i), named(i, i < 5 ? kTwentyMegabytes : font.size()));
+    for (int time = 0; time < 2; ++time) {
+        FontFiles::UseFolder(folder.path());
+        for (int i = 0; i < 6; ++i)
+            EXPECT_EQ(FontFiles::IsKnown(family(i)), i < 3 || i == 5) << i << ", time " << time;
+    }
     QFontDatabase::removeAllApplicationFonts();
     FontFace::ForgetAll();
 }
