@@ -42,7 +42,7 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const QByteArray bytes(reinterpret_cast<const char*>(data), qsizetype(size));
-    IsBmpWhole(bytes);
+    IsBmpWhole(bytes, bytes.size());
     static const QString path = FolderForFiles() + QStringLiteral("/in.bmp");
     static const QString copy = FolderForFiles() + QStringLiteral("/out.bmp");
     // What isn't a bitmap would be taken off the disk, which another test shows.

@@ -30,7 +30,7 @@ bool IsSmall(const QByteArray& bytes, PictureFormat format) {
             const qint32 side = qFromLittleEndian<qint32>(bytes.constData() + at);
             return side >= -kMostPixels && side <= kMostPixels;
         };
-        return IsBmpWhole(bytes) && bytes.size() > 26 && isShort(18) && isShort(22);
+        return IsBmpWhole(bytes, bytes.size()) && bytes.size() > 26 && isShort(18) && isShort(22);
     }
     if (format != PictureFormat::Jpeg) return false;
     // Height and width behind the frame marker.
@@ -49,7 +49,7 @@ bool IsSmall(const QByteArray& bytes, PictureFormat format) {
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const QByteArray bytes(reinterpret_cast<const char*>(data), qsizetype(size));
     const PictureFormat format = PictureFormatOf(bytes);
-    IsBmpWhole(bytes);
+    IsBmpWhole(bytes, bytes.size());
     IsGifWhole(bytes);
     const JpegMarkers markers = ReadJpegMarkers(bytes);
     if (markers.orientation < 1 || markers.orientation > 8) std::abort();

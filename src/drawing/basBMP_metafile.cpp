@@ -2,8 +2,8 @@
 #include "drawing/basBMP_metafile.h"
 
 #include "drawing/basBMP.h"
-#include "platform/files/Files.h"
 #include "platform/paint/DeviceContext.h"
+#include "platform/pictures/PictureFile.h"
 #include "services/basErrLog.h"
 #include "services/basMsgQueue.h"
 #include "services/basPath.h"
@@ -28,7 +28,8 @@ bool PlayInto(DeviceContext& hDC, const Metafile& metafile, const QRectF& target
 
 std::optional<Metafile> LoadTheMetafile(const QString& sFile) try {
     QString error;
-    const std::optional<QByteArray> bytes = Files::ReadAll(Files::InDiskSpelling(sFile), error);
+    PictureFile file;
+    const std::optional<QByteArray> bytes = file.Open(sFile, error) ? file.Whole(error) : std::nullopt;
     if (!bytes) return {};
     std::optional<Metafile> metafile = Metafile::FromBytes(*bytes, error);
     if (metafile && metafile->IsPlaceable()) {

@@ -6,8 +6,10 @@
 #include "platform/pictures/ByteReader.h"
 #include "platform/pictures/PictureFormat.h"
 
+#include <QBuffer>
 #include <QDateTime>
 
+#include <algorithm>
 #include <optional>
 
 namespace {
@@ -73,26 +75,41 @@ QByteArrayView WithoutLead(QByteArrayView notes) {
     return notes.startsWith(kLead) ? notes.sliced(kLead.size()) : notes;
 }
 
-// Length, name, content and a check of four bytes; numbers begin with their highest byte.
-QByteArrayView NotesOfPng(QByteArrayView file) {
-    constexpr qint64 kSignature = 8;
-    constexpr qint64 kAroundContent = 12;
-    const ByteReader reader(file);
-    for (qint64 at = kSignature; const std::optional<quint32> length = reader.Number(at, 4);) {
-        if (reader.Bytes(at + 4, 4) == "eXIf") return reader.Bytes(at + 8, *length);
-        at += qint64(*length) + kAroundContent;
-    }
-    return {};
+/// How a kind of file is made of pieces that have a name, a length and a content.
+struct Pieces {
+    qint64 head;
+    const char* sNotes;
+    /// Behind this one there are no more; nullptr where none has to be the last.
+    const char* sLast;
+    bool nameFirst;
+    bool littleEndian;
+    /// Behind the content: a check, or what makes its length even.
+    int check;
+    bool even;
+};
+constexpr Pieces kPng{8, "eXIf", "IEND", false, false, 4, false};
+constexpr Pieces kWebP{12, "EXIF", nullptr, true, true, 0, true};
+
+QByteArray At(QIODevice& file, qint64 place, qint64 count) {
+    return file.seek(place) ? file.read(count) : QByteArray();
 }
 
-// Name, length and content, of an even length.
-QByteArrayView NotesOfWebP(QByteArrayView file) {
-    constexpr qint64 kHead = 12;
-    ByteReader reader(file);
-    reader.SetLittleEndian(true);
-    for (qint64 at = kHead; const std::optional<quint32> length = reader.Number(at + 4, 4);) {
-        if (reader.Bytes(at, 4) == "EXIF") return WithoutLead(reader.Bytes(at + 8, *length));
-        at += 8 + qint64(*length) + *length % 2;
+QByteArray NotesIn(QIODevice& file, const Pieces& pieces) {
+    // Far more than any camera makes, and far larger.
+    constexpr int kMostPieces = 100'000;
+    constexpr qint64 kMostOfNotes = qint64(1) << 20;
+    constexpr int kNameAndLength = 8;
+    qint64 at = pieces.head;
+    for (int i = 0; i < kMostPieces; ++i) {
+        const QByteArray lead = At(file, at, kNameAndLength);
+        if (lead.size() < kNameAndLength) break;
+        ByteReader reader(lead);
+        reader.SetLittleEndian(pieces.littleEndian);
+        const qint64 length = *reader.Number(pieces.nameFirst ? 4 : 0, 4);
+        const QByteArray name = lead.mid(pieces.nameFirst ? 0 : 4, 4);
+        if (name == pieces.sLast) break;
+        if (name == pieces.sNotes) return At(file, at + kNameAndLength, std::min(length, kMostOfNotes));
+        at += kNameAndLength + length + pieces.check + (pieces.even ? length % 2 : 0);
     }
     return {};
 }
@@ -103,16 +120,30 @@ QByteArrayView NotesNear(QByteArrayView start) {
     return lead < 0 ? QByteArrayView() : start.sliced(lead + kLead.size());
 }
 
-QByteArrayView NotesAtStart(QByteArrayView start) {
+// Empty for a file that isn't made of such pieces.
+QByteArray NotesOfChunks(QIODevice& file) {
+    constexpr qint64 kEnoughToTell = 16;
+    switch (PictureFormatOf(At(file, 0, kEnoughToTell))) {
+        case PictureFormat::Png:
+            return NotesIn(file, kPng);
+        case PictureFormat::WebP:
+            return WithoutLead(NotesIn(file, kWebP)).toByteArray();
+        default:
+            return {};
+    }
+}
+
+QByteArray NotesAtStart(QByteArray start) {
+    QBuffer file(&start);
+    file.open(QIODevice::ReadOnly);
     switch (PictureFormatOf(start)) {
         case PictureFormat::Tiff:
             return start;
         case PictureFormat::Png:
-            return NotesOfPng(start);
         case PictureFormat::WebP:
-            return NotesOfWebP(start);
+            return NotesOfChunks(file);
         default:
-            return NotesNear(start);
+            return NotesNear(start).toByteArray();
     }
 }
 
@@ -131,16 +162,7 @@ CameraTags ReadCameraTags(QByteArrayView notes) {
     return tags;
 }
 
-CameraTags ReadCameraTagsOfChunks(QByteArrayView file) {
-    switch (PictureFormatOf(file)) {
-        case PictureFormat::Png:
-            return ReadCameraTags(NotesOfPng(file));
-        case PictureFormat::WebP:
-            return ReadCameraTags(NotesOfWebP(file));
-        default:
-            return {};
-    }
-}
+CameraTags ReadCameraTagsOfChunks(QIODevice& file) { return ReadCameraTags(NotesOfChunks(file)); }
 
 qint64 DateTaken(const QString& sPath) {
     constexpr qint64 kStart = qint64(64) << 10;

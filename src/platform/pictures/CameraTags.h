@@ -4,6 +4,8 @@
 #include <QByteArrayView>
 #include <QString>
 
+class QIODevice;
+
 /// What a camera notes in a picture's file beside the pixels.
 struct CameraTags {
     /// How the picture has to be turned, 1 to 8; 1 where nothing, or nonsense, is said.
@@ -16,7 +18,7 @@ struct CameraTags {
 CameraTags ReadCameraTags(QByteArrayView notes);
 
 /// Of a PNG or WebP file, whose decoders don't look at them. 1, -1 for any other.
-CameraTags ReadCameraTagsOfChunks(QByteArrayView file);
+CameraTags ReadCameraTagsOfChunks(QIODevice& file);
 
 /// When a photo was taken, in milliseconds since 1970: by the camera's notes where its file begins with them, else by
 /// the date of the file.

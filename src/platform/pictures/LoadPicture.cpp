@@ -5,7 +5,7 @@
 #include "platform/paint/Recording.h"
 #include "platform/pictures/PictureCache.h"
 #include "platform/pictures/PictureDecoder.h"
-#include "platform/pictures/PictureFormat.h"
+#include "platform/pictures/PictureFile.h"
 
 #include <QCoreApplication>
 #include <QThreadPool>
@@ -36,9 +36,9 @@ int StepAbove(int longerSideWanted) {
 }
 
 // A JPEG comes reduced at once, and another size that is wanted of it may come out the same.
-PictureCache::Entry DecodeJpeg(const QByteArray& bytes, int longerSideWanted) {
+PictureCache::Entry DecodeJpeg(PictureFile& file, int longerSideWanted) {
     PictureCache::Entry entry;
-    entry.picture = PictureDecoder::Decode(bytes, longerSideWanted, entry.sError);
+    entry.picture = PictureDecoder::Decode(file, longerSideWanted, entry.sError);
     if (entry.picture.IsNull()) return entry;
     const int longer = std::max(entry.picture.Width(), entry.picture.Height());
     const int reduction = PictureDecoder::ReductionFor(longer, longerSideWanted);
@@ -50,20 +50,20 @@ PictureCache::Entry DecodeJpeg(const QByteArray& bytes, int longerSideWanted) {
 
 // Drawings are among the others, whose pixels are averaged here, and once more when they are painted. They keep some
 // more of them, or they would blur.
-PictureCache::Entry DecodeOther(const QByteArray& bytes, int longerSideWanted) {
+PictureCache::Entry DecodeOther(PictureFile& file, int longerSideWanted) {
     const int wanted = longerSideWanted == kAllPixels ? kAllPixels : PowerOfTwoAbove(longerSideWanted);
     PictureCache::Entry entry;
-    entry.picture = PictureDecoder::Decode(bytes, wanted, entry.sError);
+    entry.picture = PictureDecoder::Decode(file, wanted, entry.sError);
     return entry;
 }
 
 PictureCache::Entry Decode(const PictureCache::Key& key) {
     PictureCache::Entry entry;
     try {
-        const std::optional<QByteArray> bytes = Files::ReadAll(key.sPath, entry.sError);
-        if (!bytes) return entry;
-        entry = PictureFormatOf(*bytes) == PictureFormat::Jpeg ? DecodeJpeg(*bytes, key.longerSideWanted)
-                                                               : DecodeOther(*bytes, key.longerSideWanted);
+        PictureFile file;
+        if (!file.Open(key.sPath, entry.sError)) return entry;
+        entry = file.Format() == PictureFormat::Jpeg ? DecodeJpeg(file, key.longerSideWanted)
+                                                     : DecodeOther(file, key.longerSideWanted);
     } catch (const std::bad_alloc&) {
         entry.sError = QStringLiteral("There is not enough memory for the picture");
     }

@@ -7,6 +7,7 @@
 #include "platform/pictures/JpegMarkers.h"
 #include "platform/pictures/Metafile.h"
 #include "platform/pictures/OtherKinds.h"
+#include "platform/pictures/PictureFile.h"
 #include "platform/pictures/PictureFormat.h"
 
 #include <QBuffer>
@@ -23,6 +24,8 @@ namespace PictureDecoder {
 namespace {
 
 constexpr int kMostReduction = 8;
+
+const QString kDamaged = QStringLiteral("The picture file is damaged or cut short");
 
 QString WhyUnknown(const QByteArray& bytes) {
     const QString other = OtherKindOf(bytes, QString());
@@ -59,18 +62,11 @@ QSize SizeOfReader(PictureFormat format, QSize size, int longerSideWanted) {
 }
 
 // One of the toolkit's readers. The room that the picture takes is left to the caller.
-Picture Read(const QByteArray& bytes, PictureFormat format, int longerSideWanted, std::optional<DecodingRoom>& room,
+Picture Read(QIODevice& file, PictureFormat format, int longerSideWanted, std::optional<DecodingRoom>& room,
              QString& sError) {
     static std::once_flag limit;
     std::call_once(limit, [] { QImageReader::setAllocationLimit(int(kMaxPictureBytes >> 20)); });
-    if ((format == PictureFormat::Bmp && !IsBmpWhole(bytes)) || (format == PictureFormat::Gif && !IsGifWhole(bytes))) {
-        sError = QStringLiteral("The picture file is damaged or cut short");
-        return {};
-    }
-    QBuffer buffer;
-    buffer.setData(bytes);
-    buffer.open(QIODevice::ReadOnly);
-    QImageReader reader(&buffer, ReaderName(format));
+    QImageReader reader(&file, ReaderName(format));
     reader.setAutoDetectImageFormat(false);
     reader.setAutoTransform(true);
     const QSize size = reader.size();
@@ -88,7 +84,7 @@ Picture Read(const QByteArray& bytes, PictureFormat format, int longerSideWanted
     }
     // Not all of the toolkit's readers look at what the camera says of this.
     const bool upright = reader.transformation() != QImageIOHandler::TransformationNone;
-    if (!upright) image = Upright(image, ReadCameraTagsOfChunks(bytes).orientation);
+    if (!upright) image = Upright(image, ReadCameraTagsOfChunks(file).orientation);
     if (given == size) return Picture(image);
     return Picture(image, image.size() == given ? size : size.transposed());
 }
@@ -104,6 +100,22 @@ Picture Reduced(const QImage& image, int longerSideWanted) {
     const int reduction = ReductionFor(std::max(image.width(), image.height()), longerSideWanted);
     if (reduction == 1) return Picture(image);
     return Picture(Resample(image, QRectF(image.rect()), ReducedSize(image.size(), reduction)), image.size());
+}
+
+Picture DecodeByReader(QIODevice& file, PictureFormat format, int longerSideWanted, QString& sError) {
+    std::optional<DecodingRoom> room;
+    Picture picture = Read(file, format, longerSideWanted, room, sError);
+    if (picture.IsNull()) return {};
+    const QSize full(picture.Width(), picture.Height());
+    if (!IsSizeAllowed(full)) {
+        sError = TooLargeToOpen(full);
+        return {};
+    }
+    QImage image = picture.Image();
+    // In place, where nobody else has it.
+    picture = Picture();
+    image = InScreenColors(AsPixels(std::move(image)), {});
+    return image.size() == full ? Reduced(image, longerSideWanted) : Picture(image, full);
 }
 
 // A drawing has no pixels of its own: it gets as many as are wanted, on nothing.
@@ -150,6 +162,27 @@ QImage InScreenColors(QImage image, const QByteArray& colorProfile) {
     return image;
 }
 
+Picture Decode(PictureFile& file, int longerSideWanted, QString& sError) {
+    switch (const PictureFormat format = file.Format()) {
+        case PictureFormat::Bmp:
+        case PictureFormat::Png:
+        case PictureFormat::Tiff: {
+            if (format == PictureFormat::Bmp && !IsBmpWhole(file.Start(), file.size())) {
+                sError = kDamaged;
+                return {};
+            }
+            Picture picture = DecodeByReader(file, format, longerSideWanted, sError);
+            // What it didn't get says nothing of the picture.
+            return file.WasRead(sError) ? picture : Picture();
+        }
+        case PictureFormat::Unknown:
+            return Decode(file.Start(), longerSideWanted, sError);
+        default:
+            const std::optional<QByteArray> bytes = file.Whole(sError);
+            return bytes ? Decode(*bytes, longerSideWanted, sError) : Picture();
+    }
+}
+
 Picture Decode(const QByteArray& bytes, int longerSideWanted, QString& sError) {
     const PictureFormat format = PictureFormatOf(bytes);
     switch (format) {
@@ -167,19 +200,15 @@ Picture Decode(const QByteArray& bytes, int longerSideWanted, QString& sError) {
         default:
             break;
     }
-    std::optional<DecodingRoom> room;
-    Picture picture = Read(bytes, format, longerSideWanted, room, sError);
-    if (picture.IsNull()) return {};
-    const QSize full(picture.Width(), picture.Height());
-    if (!IsSizeAllowed(full)) {
-        sError = TooLargeToOpen(full);
+    if ((format == PictureFormat::Bmp && !IsBmpWhole(bytes, bytes.size())) ||
+        (format == PictureFormat::Gif && !IsGifWhole(bytes))) {
+        sError = kDamaged;
         return {};
     }
-    QImage image = picture.Image();
-    // In place, where nobody else has it.
-    picture = Picture();
-    image = InScreenColors(AsPixels(std::move(image)), {});
-    return image.size() == full ? Reduced(image, longerSideWanted) : Picture(image, full);
+    QBuffer buffer;
+    buffer.setData(bytes);
+    buffer.open(QIODevice::ReadOnly);
+    return DecodeByReader(buffer, format, longerSideWanted, sError);
 }
 
 } // namespace PictureDecoder

@@ -6,11 +6,15 @@
 #include <QByteArray>
 #include <QByteArrayView>
 
-/// Decodes picture files from memory. All of it may run on any thread. A null picture comes with a sentence
+class PictureFile;
+
+/// Decodes picture files. All of it may run on any thread. A null picture comes with a sentence
 /// in sError; longerSideWanted as in LoadPicture.
 namespace PictureDecoder {
 
-/// Any known kind. Gives 32-bit pixels, with transparency (premultiplied) or without.
+/// Any known kind. Gives 32-bit pixels, with transparency (premultiplied) or without. Bitmaps, PNG and TIFF are read
+/// where they lie.
+Picture Decode(PictureFile& file, int longerSideWanted, QString& sError);
 Picture Decode(const QByteArray& bytes, int longerSideWanted, QString& sError);
 
 Picture DecodeJpeg(const QByteArray& bytes, int longerSideWanted, QString& sError);

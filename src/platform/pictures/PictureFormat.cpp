@@ -65,24 +65,24 @@ QString TooLargeToOpen(QSize size) {
         .arg(size.height());
 }
 
-bool IsBmpWhole(QByteArrayView bytes) {
-    if (bytes.size() < kFileHeadSize + kCoreHeadSize) return false;
-    const quint32 bits = At<quint32>(bytes, 10);
-    const quint32 headSize = At<quint32>(bytes, 14);
+bool IsBmpWhole(QByteArrayView start, qint64 size) {
+    if (start.size() < kFileHeadSize + kCoreHeadSize) return false;
+    const quint32 bits = At<quint32>(start, 10);
+    const quint32 headSize = At<quint32>(start, 14);
     const bool core = headSize == kCoreHeadSize;
-    if (!core && (headSize < kInfoHeadSize || bytes.size() < kFileHeadSize + kInfoHeadSize)) return false;
-    const qint64 width = core ? At<quint16>(bytes, 18) : At<qint32>(bytes, 18);
-    const qint64 height = core ? At<quint16>(bytes, 20) : std::abs(qint64(At<qint32>(bytes, 22)));
-    const int depth = At<quint16>(bytes, core ? 24 : 28);
+    if (!core && (headSize < kInfoHeadSize || start.size() < kFileHeadSize + kInfoHeadSize)) return false;
+    const qint64 width = core ? At<quint16>(start, 18) : At<qint32>(start, 18);
+    const qint64 height = core ? At<quint16>(start, 20) : std::abs(qint64(At<qint32>(start, 22)));
+    const int depth = At<quint16>(start, core ? 24 : 28);
     if (width > INT_MAX / 64 || height > INT_MAX / 64 || depth > 32) return false;
     if (!IsSizeAllowed(QSize(int(width), int(height)))) return false;
-    const quint32 compression = core ? 0 : At<quint32>(bytes, 30);
+    const quint32 compression = core ? 0 : At<quint32>(start, 30);
     constexpr quint32 kRunLength8 = 1;
     constexpr quint32 kRunLength4 = 2;
     // What run lengths make of it only the decoder knows.
-    if (compression == kRunLength8 || compression == kRunLength4) return bits < bytes.size();
+    if (compression == kRunLength8 || compression == kRunLength4) return bits < size;
     const qint64 rowBytes = (width * depth + 31) / 32 * 4;
-    return qint64(bits) + rowBytes * height <= bytes.size() + kMissingPadding;
+    return qint64(bits) + rowBytes * height <= size + kMissingPadding;
 }
 
 namespace {

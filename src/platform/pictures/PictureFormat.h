@@ -24,8 +24,8 @@ QString TooLargeToOpen(QSize size);
 
 /// False when the file is shorter than its bitmap head says it must be, or when the head's size is not
 /// allowed. The declared size of the file plays no part: it is often wrong, and thumbnails of this program
-/// claim three times their length on purpose.
-bool IsBmpWhole(QByteArrayView bytes);
+/// claim three times their length on purpose. Takes the bytes that the file begins with, and how many it has.
+bool IsBmpWhole(QByteArrayView start, qint64 size);
 
 /// False when the file ends before the data of its first frame do; the decoder would show what there is.
 bool IsGifWhole(QByteArrayView bytes);

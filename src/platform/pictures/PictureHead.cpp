@@ -1,26 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "platform/pictures/PictureHead.h"
 
-#include "platform/files/BinaryFile.h"
-#include "platform/files/Files.h"
 #include "platform/pictures/CameraTags.h"
 #include "platform/pictures/HeifLibrary.h"
 #include "platform/pictures/JpegMarkers.h"
 #include "platform/pictures/Metafile.h"
-#include "platform/pictures/PictureFormat.h"
+#include "platform/pictures/PictureFile.h"
 
 #include <QBuffer>
 #include <QImageReader>
 
 #include <turbojpeg.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <memory>
 
 namespace {
-
-// Room for what cameras put ahead of the pixels: their notes and a thumbnail.
-constexpr qint64 kHeadBytes = qint64(256) << 10;
 
 const QString kDamaged = QStringLiteral("The picture file is damaged or cut short");
 
@@ -58,10 +54,9 @@ std::optional<QSize> SizeOfHeif(const QByteArray& bytes, QString& sError) {
     return QSize(heif->image_handle_get_width(handle), heif->image_handle_get_height(handle));
 }
 
-std::optional<QSize> SizeByReader(QByteArray bytes, const char* sFormat) {
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::ReadOnly);
-    QImageReader reader(&buffer, sFormat);
+std::optional<QSize> SizeByReader(QIODevice& file, const char* sFormat) {
+    file.seek(0);
+    QImageReader reader(&file, sFormat);
     reader.setAutoDetectImageFormat(false);
     // A bitmap that is stored from its top has a height below 0.
     const QSize told = reader.size();
@@ -71,92 +66,89 @@ std::optional<QSize> SizeByReader(QByteArray bytes, const char* sFormat) {
     constexpr int kFirstOnSide = 5;
     const bool onSide = reader.transformation() & QImageIOHandler::TransformationRotate90 ||
                         (reader.transformation() == QImageIOHandler::TransformationNone &&
-                         ReadCameraTagsOfChunks(bytes).orientation >= kFirstOnSide);
+                         ReadCameraTagsOfChunks(file).orientation >= kFirstOnSide);
     return onSide ? size.transposed() : size;
+}
+
+std::optional<QSize> SizeByReader(QByteArray bytes, const char* sFormat) {
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    return SizeByReader(buffer, sFormat);
 }
 
 /// One file, of which no more is read than its kind needs.
 class HeadReader {
 public:
-    HeadReader(const QString& sPath, QString& sError) : m_path(sPath), m_error(sError) {}
+    explicit HeadReader(QString& sError) : m_error(sError) {}
 
-    std::optional<PictureHead> Read() {
-        BinaryFile file;
-        if (!file.OpenForReading(m_path, m_error)) return std::nullopt;
-        m_bytes = file.Bytes(kHeadBytes);
-        m_whole = file.AtEnd();
-        if (!file.WasRead(m_error)) return std::nullopt;
-        const PictureFormat format = PictureFormatOf(m_bytes);
+    std::optional<PictureHead> Read(const QString& sPath) {
+        if (!m_file.Open(sPath, m_error)) return std::nullopt;
+        const PictureFormat format = m_file.Format();
         if (format == PictureFormat::Unknown) {
             m_error = QStringLiteral("The file does not hold a picture of a known kind");
             return std::nullopt;
         }
         if (format == PictureFormat::Metafile) return Drawing();
-        const std::optional<QSize> size = SizeAs(format, file);
+        const std::optional<QSize> size = SizeAs(format);
         const bool jpeg = format == PictureFormat::Jpeg;
+        if (!m_file.WasRead(m_error)) return std::nullopt;
         if (size && (jpeg ? IsJpegSizeAllowed(*size) : IsSizeAllowed(*size))) return PictureHead{*size};
         if (m_error.isEmpty()) m_error = size && !size->isEmpty() ? TooLargeToOpen(*size) : kDamaged;
         return std::nullopt;
     }
 
 private:
-    bool ReadWhole() {
-        if (m_whole) return true;
-        const std::optional<QByteArray> bytes = Files::ReadAll(Files::InDiskSpelling(m_path), m_error);
-        m_bytes = bytes.value_or(QByteArray());
-        m_whole = bytes.has_value();
-        return m_whole;
-    }
-
     std::optional<PictureHead> Drawing() {
-        if (!ReadWhole() || !Metafile::FromBytes(m_bytes, m_error)) return std::nullopt;
+        const std::optional<QByteArray> bytes = m_file.Whole(m_error);
+        if (!bytes || !Metafile::FromBytes(*bytes, m_error)) return std::nullopt;
         return PictureHead{{}, true};
     }
 
     // The decoder shows no picture of this kind that is cut short, which its last bytes tell.
-    bool EndsWell(BinaryFile& file) {
+    bool EndsWell() {
         constexpr int kEndChunk = 12;
-        file.Seek(Files::Size(Files::InDiskSpelling(m_path)) - kEndChunk);
-        return file.Bytes(kEndChunk).contains("IEND");
+        return m_file.seek(std::max<qint64>(m_file.size() - kEndChunk, 0)) && m_file.read(kEndChunk).contains("IEND");
     }
 
-    std::optional<QSize> SizeAs(PictureFormat format, BinaryFile& file) {
+    std::optional<QSize> SizeAs(PictureFormat format) {
         switch (format) {
             case PictureFormat::Png:
-                return EndsWell(file) ? SizeByReader(m_bytes, "png") : std::nullopt;
+                return EndsWell() ? SizeByReader(m_file, "png") : std::nullopt;
+            case PictureFormat::Bmp:
+                return IsBmpWhole(m_file.Start(), m_file.size()) ? SizeByReader(m_file, "bmp") : std::nullopt;
+            case PictureFormat::Tiff:
+                return SizeByReader(m_file, "tiff");
+            case PictureFormat::Jpeg:
+                if (const std::optional<QSize> size = SizeOfJpeg(m_file.Start())) return size;
+                break;
+            default:
+                break;
+        }
+        const std::optional<QByteArray> bytes = m_file.Whole(m_error);
+        return bytes ? SizeOfWhole(format, *bytes) : std::nullopt;
+    }
+
+    std::optional<QSize> SizeOfWhole(PictureFormat format, const QByteArray& bytes) {
+        switch (format) {
+            case PictureFormat::Jpeg:
+                return SizeOfJpeg(bytes);
             case PictureFormat::WebP:
                 // The camera's notes stand behind the pixels.
-                return ReadWhole() ? SizeByReader(m_bytes, "webp") : std::nullopt;
-            case PictureFormat::Jpeg:
-                if (const std::optional<QSize> size = SizeOfJpeg(m_bytes)) return size;
-                return !m_whole && ReadWhole() ? SizeOfJpeg(m_bytes) : std::nullopt;
-            default:
-                return ReadWhole() ? SizeOfWhole(format) : std::nullopt;
-        }
-    }
-
-    std::optional<QSize> SizeOfWhole(PictureFormat format) {
-        switch (format) {
-            case PictureFormat::Bmp:
-                return IsBmpWhole(m_bytes) ? SizeByReader(m_bytes, "bmp") : std::nullopt;
+                return SizeByReader(bytes, "webp");
             case PictureFormat::Gif:
-                return IsGifWhole(m_bytes) ? SizeByReader(m_bytes, "gif") : std::nullopt;
-            case PictureFormat::Tiff:
-                return SizeByReader(m_bytes, "tiff");
+                return IsGifWhole(bytes) ? SizeByReader(bytes, "gif") : std::nullopt;
             default:
-                return SizeOfHeif(m_bytes, m_error);
+                return SizeOfHeif(bytes, m_error);
         }
     }
 
-    QString m_path;
     QString& m_error;
-    QByteArray m_bytes;
-    bool m_whole = false;
+    PictureFile m_file;
 };
 
 } // namespace
 
 std::optional<PictureHead> ReadPictureHead(const QString& sPath, QString& sError) {
     sError.clear();
-    return HeadReader(sPath, sError).Read();
+    return HeadReader(sError).Read(sPath);
 }
