@@ -33,8 +33,7 @@ public:
     QString WhyUnread() const;
 
 private:
-    PackReader(ZipReader zip, std::shared_ptr<ZipSource> source)
-        : m_zip(std::move(zip)), m_source(std::move(source)) {}
+    PackReader(ZipReader zip, std::shared_ptr<ZipSource> source) : m_zip(std::move(zip)), m_source(std::move(source)) {}
     static std::optional<PackReader> Open(std::shared_ptr<ZipSource> source, QString& sError);
     QString WhyRefused(qint64 packedSize);
     QString TakeNames();

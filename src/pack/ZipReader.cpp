@@ -91,8 +91,8 @@ zip_int64_t ZipReader::Archive::Give(char* data, zip_uint64_t length) {
 }
 
 zip_int64_t ZipReader::Archive::GoTo(void* data, zip_uint64_t length) {
-    const zip_int64_t to = zip_source_seek_compute_offset(zip_uint64_t(at), zip_uint64_t(bytes->Size()), data, length,
-                                                          &error);
+    const zip_int64_t to =
+        zip_source_seek_compute_offset(zip_uint64_t(at), zip_uint64_t(bytes->Size()), data, length, &error);
     if (to < 0) return -1;
     at = to;
     return 0;
@@ -131,8 +131,8 @@ QString TextOf(const char* name) {
     return text.toUtf8() == bytes ? text : QString();
 }
 
-// Archives of four gigabytes and more say in a place of their own how many entries they have, which the library believes
-// and makes room for before it has seen one. No game is so large.
+// Archives of four gigabytes and more say in a place of their own how many entries they have, which the library
+// believes and makes room for before it has seen one. No game is so large.
 bool CountsBeyondAFile(ZipSource& source) {
     constexpr qint64 kPlace = 20;
     constexpr qint64 kEnd = 22;

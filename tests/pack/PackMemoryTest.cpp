@@ -34,7 +34,8 @@ protected:
         return 0;
     }
     /// How many megabytes more than before are in use at the worst moment of unpacking, or of a step in its place.
-    template <typename Step> static qint64 Peak(const Step& step) {
+    template <typename Step>
+    static qint64 Peak(const Step& step) {
         WriteProc(QStringLiteral("/proc/self/clear_refs"), "5"); // the peak begins anew
         const qint64 before = Kilobytes("VmRSS:");
         step();
@@ -110,10 +111,9 @@ TEST_F(PackMemoryTest, AnArchiveWithALongListOfEntriesIsNotReadToItsEnd) {
     const qsizetype directory = bytes.indexOf("PK\x01\x02");
     const QByteArray entry = bytes.mid(directory, bytes.indexOf("PK\x05\x06") - directory);
     // The count that has no room in its two bytes begins again, which the library knows.
-    WriteFile(QStringLiteral("Family.tavlora"), bytes.left(directory) + entry.repeated(kCount) + "PK\x05\x06" +
-                                                    Little(0, 4) + Little(0, 4) +
-                                                    Little(quint64(entry.size()) * kCount, 4) +
-                                                    Little(quint64(directory), 4) + Little(0, 2));
+    WriteFile(QStringLiteral("Family.tavlora"),
+              bytes.left(directory) + entry.repeated(kCount) + "PK\x05\x06" + Little(0, 4) + Little(0, 4) +
+                  Little(quint64(entry.size()) * kCount, 4) + Little(quint64(directory), 4) + Little(0, 2));
     EXPECT_LT(PeakOfUnpacking(), 32);
     EXPECT_TRUE(game.isEmpty());
 }

@@ -11,12 +11,8 @@ constexpr qint64 kStartBytes = qint64(256) << 10;
 constexpr struct {
     PictureFormat format;
     int megabytes;
-} kLargest[] = {{PictureFormat::Jpeg, 96},
-                {PictureFormat::WebP, 64},
-                {PictureFormat::Heif, 64},
-                {PictureFormat::Gif, 32},
-                {PictureFormat::Metafile, 16},
-                {PictureFormat::Unknown, 16}};
+} kLargest[] = {{PictureFormat::Jpeg, 96}, {PictureFormat::WebP, 64},     {PictureFormat::Heif, 64},
+                {PictureFormat::Gif, 32},  {PictureFormat::Metafile, 16}, {PictureFormat::Unknown, 16}};
 
 } // namespace
 

@@ -2,9 +2,9 @@
 // What a flood fills, against a walk from pixel to pixel.
 #include "platform/pictures/metafile/MetafileFlood.h"
 
+#include <gtest/gtest.h>
 #include <QPainter>
 #include <QRandomGenerator>
-#include <gtest/gtest.h>
 
 #include <vector>
 
